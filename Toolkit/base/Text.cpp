@@ -1,0 +1,93 @@
+#include "Toolkit/base/Text.h"
+
+#include "Toolkit/base/CaseFolding.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace
+{
+
+constexpr char32_t kInvalid = 0x110000;
+
+bool IsContinuation(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+// How many bytes the lead byte announces; 0 when it can lead nothing.
+int SequenceLength(unsigned char lead)
+{
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return 2;
+    if (lead >= 0xE0 && lead <= 0xEF)
+        return 3;
+    if (lead >= 0xF0 && lead <= 0xF4)
+        return 4;
+    return 0;
+}
+
+bool IsScalar(char32_t c, int bytes)
+{
+    constexpr char32_t kLowest[] = {0, 0, 0x80, 0x800, 0x10000};
+    return c >= kLowest[bytes] && c < kInvalid && (c < 0xD800 || c > 0xDFFF);
+}
+
+} // namespace
+
+toolkit::CodePoint toolkit::DecodeUtf8(std::string_view text)
+{
+    const auto lead = static_cast<unsigned char>(text.front());
+    if (lead < 0x80)
+        return {lead, 1};
+
+    const int bytes = SequenceLength(lead);
+    const CodePoint invalid{kInvalid + lead, 1};
+    if (bytes == 0 || text.size() < static_cast<std::size_t>(bytes))
+        return invalid;
+
+    char32_t c = lead & (0xFFu >> (bytes + 1));
+    for (int i = 1; i < bytes; ++i) {
+        if (!IsContinuation(text[static_cast<std::size_t>(i)]))
+            return invalid;
+        c = c << 6 | (static_cast<unsigned char>(text[static_cast<std::size_t>(i)]) & 0x3F);
+    }
+    return IsScalar(c, bytes) ? CodePoint{c, bytes} : invalid;
+}
+
+char32_t toolkit::FoldCase(char32_t c)
+{
+    if (c < 0x80)
+        return c >= 'A' && c <= 'Z' ? c + 0x20 : c;
+
+    const auto* range = std::upper_bound(std::begin(kCaseFolding), std::end(kCaseFolding), c,
+                                         [](char32_t code, const CaseFoldingRange& r) { return code < r.first; });
+    if (range == std::begin(kCaseFolding))
+        return c;
+    --range;
+    if (c > range->last || (c - range->first) % range->step != 0)
+        return c;
+    return static_cast<char32_t>(static_cast<std::int32_t>(c) + range->delta);
+}
+
+int toolkit::CompareNoCase(std::string_view a, std::string_view b)
+{
+    while (!a.empty() && !b.empty()) {
+        const CodePoint ca = DecodeUtf8(a);
+        const CodePoint cb = DecodeUtf8(b);
+        if (ca.value != cb.value) {
+            const char32_t fa = FoldCase(ca.value);
+            const char32_t fb = FoldCase(cb.value);
+            if (fa != fb)
+                return fa < fb ? -1 : 1;
+        }
+        a.remove_prefix(static_cast<std::size_t>(ca.bytes));
+        b.remove_prefix(static_cast<std::size_t>(cb.bytes));
+    }
+    return static_cast<int>(!a.empty()) - static_cast<int>(!b.empty());
+}
+
+int _mbsicmp(const char* a, const char* b)
+{
+    return toolkit::CompareNoCase(a, b);
+}

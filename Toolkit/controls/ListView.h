@@ -1,0 +1,129 @@
+// The list control's messages, notifications and records, with their standard values.
+//
+// The control is an owner-data one in icon view: it knows how many rows there are and which of them are
+// selected and focused; text and pictures it asks for whenever it draws. Row numbers count from 0.
+#pragma once
+
+#include "Toolkit/window/Messages.h"
+
+inline constexpr LPCSTR WC_LISTVIEW = "SysListView32";
+
+// Styles.
+inline constexpr DWORD LVS_ICON = 0x0000;
+inline constexpr DWORD LVS_SINGLESEL = 0x0004;
+inline constexpr DWORD LVS_SHOWSELALWAYS = 0x0008;
+inline constexpr DWORD LVS_EDITLABELS = 0x0200;
+inline constexpr DWORD LVS_OWNERDATA = 0x1000;
+
+// Messages.
+inline constexpr UINT LVM_FIRST = 0x1000;
+inline constexpr UINT LVM_GETIMAGELIST = LVM_FIRST + 2;
+inline constexpr UINT LVM_SETIMAGELIST = LVM_FIRST + 3; // wParam: which, lParam: HIMAGELIST; the former one
+inline constexpr UINT LVM_GETITEMCOUNT = LVM_FIRST + 4;
+inline constexpr UINT LVM_GETNEXTITEM = LVM_FIRST + 12; // wParam: the row to start after (-1), lParam: LVNI_*; -1: none
+inline constexpr UINT LVM_GETITEMRECT = LVM_FIRST + 14; // lParam: RECT*, whose left holds an LVIR_*; client coordinates
+inline constexpr UINT LVM_HITTEST = LVM_FIRST + 18;     // lParam: LVHITTESTINFO*; the row or -1
+inline constexpr UINT LVM_ENSUREVISIBLE = LVM_FIRST + 19; // wParam: row, lParam: is a part of it enough?
+inline constexpr UINT LVM_SCROLL = LVM_FIRST + 20;        // wParam, lParam: pixels
+inline constexpr UINT LVM_REDRAWITEMS = LVM_FIRST + 21;   // wParam, lParam: first and last row
+inline constexpr UINT LVM_ARRANGE = LVM_FIRST + 22;
+inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23;     // wParam: row; the edit field or NULL
+inline constexpr UINT LVM_GETEDITCONTROL = LVM_FIRST + 24;
+inline constexpr UINT LVM_GETTOPINDEX = LVM_FIRST + 39;
+inline constexpr UINT LVM_GETCOUNTPERPAGE = LVM_FIRST + 40;
+inline constexpr UINT LVM_UPDATE = LVM_FIRST + 42;       // wParam: row to redraw
+inline constexpr UINT LVM_SETITEMSTATE = LVM_FIRST + 43; // wParam: row, -1 all; lParam: LVITEM* (state, stateMask)
+inline constexpr UINT LVM_GETITEMSTATE = LVM_FIRST + 44; // wParam: row, lParam: mask
+inline constexpr UINT LVM_SETITEMCOUNT = LVM_FIRST + 47; // wParam: count, lParam: 0
+inline constexpr UINT LVM_SORTITEMS = LVM_FIRST + 48;    // an owner-data control has nothing to sort: FALSE
+inline constexpr UINT LVM_GETSELECTEDCOUNT = LVM_FIRST + 50;
+inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width and height; the former ones
+
+inline constexpr int LVSIL_NORMAL = 0;
+inline constexpr UINT LVA_DEFAULT = 0;
+inline constexpr int LVIR_BOUNDS = 0;
+inline constexpr int LVIR_ICON = 1;
+inline constexpr int LVIR_LABEL = 2;
+
+// A row's states.
+inline constexpr UINT LVIS_FOCUSED = 0x0001;
+inline constexpr UINT LVIS_SELECTED = 0x0002;
+inline constexpr UINT LVIS_CUT = 0x0004;
+inline constexpr UINT LVIS_DROPHILITED = 0x0008;
+
+inline constexpr UINT LVNI_ALL = 0x0000;
+inline constexpr UINT LVNI_FOCUSED = 0x0001;
+inline constexpr UINT LVNI_SELECTED = 0x0002;
+inline constexpr UINT LVNI_DROPHILITED = 0x0008;
+
+inline constexpr UINT LVIF_TEXT = 0x0001;
+inline constexpr UINT LVIF_IMAGE = 0x0002;
+inline constexpr UINT LVIF_STATE = 0x0008;
+
+inline constexpr UINT LVHT_NOWHERE = 0x0001;
+inline constexpr UINT LVHT_ONITEMICON = 0x0002;
+inline constexpr UINT LVHT_ONITEMLABEL = 0x0004;
+
+struct LVITEM
+{
+    UINT mask;
+    int iItem;
+    int iSubItem;
+    UINT state;
+    UINT stateMask;
+    LPSTR pszText;
+    int cchTextMax;
+    int iImage;
+    LPARAM lParam;
+};
+
+struct LVHITTESTINFO
+{
+    POINT pt; // client
+    UINT flags;
+    int iItem;
+};
+
+// Notifications. An ITEMCHANGING answered with non-zero is refused. Row -1 stands for all rows.
+inline constexpr UINT LVN_FIRST = NotifyCode(-100);
+inline constexpr UINT LVN_ITEMCHANGING = LVN_FIRST - 0; // NMLISTVIEW
+inline constexpr UINT LVN_ITEMCHANGED = LVN_FIRST - 1;  // NMLISTVIEW
+inline constexpr UINT LVN_BEGINLABELEDIT = LVN_FIRST - 5;
+inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;
+inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;   // NMLISTVIEW: the row pressed and where
+inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11; // the same with the right button
+inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13; // NMLVCACHEHINT: rows about to be drawn
+inline constexpr UINT LVN_GETDISPINFO = LVN_FIRST - 50; // NMLVDISPINFO: fill in what item.mask asks for
+
+struct NMLISTVIEW
+{
+    NMHDR hdr;
+    int iItem;
+    int iSubItem;
+    UINT uNewState;
+    UINT uOldState;
+    UINT uChanged; // LVIF_STATE
+    POINT ptAction;
+    LPARAM lParam;
+};
+
+struct NMLVDISPINFO
+{
+    NMHDR hdr;
+    LVITEM item;
+};
+
+struct NMLVCACHEHINT
+{
+    NMHDR hdr;
+    int iFrom, iTo; // both inclusive
+};
+
+// NM_CLICK, NM_DBLCLK, NM_RCLICK.
+struct NMITEMACTIVATE
+{
+    NMHDR hdr;
+    int iItem; // -1: none
+    int iSubItem;
+    POINT ptAction;
+};

@@ -1,0 +1,63 @@
+// Drawing objects by handle, and the functions that draw: the standard names for what the views and their
+// hosts need. Every function refuses a handle that is NULL or stale: FALSE, NULL or -1, and nothing drawn.
+// The caller owns what a Create or Load function gives and gives it back to the matching delete function.
+#pragma once
+
+#include "Toolkit/base/Geometry.h"
+#include "Toolkit/graphics/Region.h"
+#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/TextEngine.h"
+
+// Bitmaps.
+TOOLKIT_API HBITMAP CreateBitmapFromSurface(toolkit::Surface surface);
+TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap); // FALSE, too, while it is selected into a device context
+TOOLKIT_API CSize GetBitmapSize(HBITMAP hBitmap); // 0 by 0 for no bitmap
+
+// Brushes: one colour.
+TOOLKIT_API HBRUSH CreateSolidBrush(COLORREF color);
+TOOLKIT_API BOOL DeleteBrush(HBRUSH hBrush);
+
+// Icons: one picture with transparency.
+TOOLKIT_API HICON CreateIconFromSurface(toolkit::Surface surface);
+TOOLKIT_API BOOL DestroyIcon(HICON hIcon);
+TOOLKIT_API CSize GetIconSize(HICON hIcon);
+
+// Memory device contexts. A new one has a 1 by 1 bitmap of its own until another is selected into it.
+TOOLKIT_API HDC CreateCompatibleDC(HDC hdc); // NULL as argument is right, too
+TOOLKIT_API BOOL DeleteDC(HDC hdc);
+TOOLKIT_API HBITMAP SelectBitmap(HDC hdc, HBITMAP hBitmap); // the former one; NULL when refused
+
+// Drawing state. Coordinates of all drawing are relative to the origin.
+TOOLKIT_API COLORREF SetTextColor(HDC hdc, COLORREF color); // the former one; black at first
+TOOLKIT_API toolkit::FontStyle SetFontStyle(HDC hdc, toolkit::FontStyle style);
+TOOLKIT_API BOOL IntersectClipRect(HDC hdc, const RECT& rect);
+TOOLKIT_API BOOL ExcludeClipRect(HDC hdc, const RECT& rect);
+TOOLKIT_API BOOL RectVisible(HDC hdc, const RECT& rect); // does the clip let any of it through?
+TOOLKIT_API int SaveDC(HDC hdc);                         // clip, colours, font and origin; the depth, from 1
+TOOLKIT_API BOOL RestoreDC(HDC hdc, int nSaved);         // back to that depth; -1: the last one
+
+// Drawing.
+TOOLKIT_API BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color);
+TOOLKIT_API BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush);
+TOOLKIT_API BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha); // 255 covers, 0 leaves
+TOOLKIT_API BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush);              // one pixel wide, inside
+TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverting: drawn twice it is gone
+TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text); // top left of the line; background kept
+TOOLKIT_API CSize GetTextExtent(HDC hdc, std::string_view text);
+TOOLKIT_API BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource); // copies
+TOOLKIT_API BOOL AlphaBlt(HDC hdc, int x, int y, HBITMAP hSource); // the whole bitmap, by its alpha
+TOOLKIT_API BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon);     // at its own size, by its alpha
+
+namespace toolkit
+{
+// A device context that draws into a surface someone else keeps, shifted to `origin` and only inside `clip`
+// (both in the surface's coordinates). The surface must outlive it. DeleteDC ends it.
+TOOLKIT_API HDC CreateSurfaceDC(Surface& target, CPoint origin, Region clip);
+
+// The pixels behind a handle; NULL when refused. Valid until the object is changed or deleted.
+TOOLKIT_API Surface* BitmapSurface(HBITMAP hBitmap);
+TOOLKIT_API const Surface* IconSurface(HICON hIcon);
+
+// How many drawing objects are alive, all kinds together; tests compare it.
+TOOLKIT_API int CountGdiObjects();
+} // namespace toolkit

@@ -1,0 +1,49 @@
+// Image lists: pictures of one size, by index.
+#pragma once
+
+#include "Toolkit/graphics/Gdi.h"
+
+inline constexpr COLORREF CLR_NONE = 0xFFFFFFFF;    // no colour
+inline constexpr COLORREF CLR_DEFAULT = 0xFF000000; // the image list's own choice
+
+inline constexpr UINT ILC_MASK = 0x0001;
+inline constexpr UINT ILC_COLOR32 = 0x0020;
+
+inline constexpr UINT ILD_NORMAL = 0x0000;
+inline constexpr UINT ILD_BLEND50 = 0x0004; // half of the highlight colour over the picture's pixels
+inline constexpr UINT ILD_SELECTED = ILD_BLEND50;
+
+TOOLKIT_API HIMAGELIST ImageList_Create(int cx, int cy, UINT flags, int cInitial, int cGrow);
+// The bitmap resource nID cut into images cx wide, of the bitmap's height; pixels of colour crMask are
+// transparent (CLR_NONE: none are). NULL when no module of the chain has the bitmap.
+TOOLKIT_API HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask);
+TOOLKIT_API BOOL ImageList_Destroy(HIMAGELIST himl);
+TOOLKIT_API int ImageList_GetImageCount(HIMAGELIST himl);
+TOOLKIT_API BOOL ImageList_GetIconSize(HIMAGELIST himl, int* cx, int* cy);
+// The first new image's index, -1 when refused. Cuts the bitmap into images; hbmMask (may be NULL) is white
+// where the picture is transparent; without one the bitmap's own alpha counts.
+TOOLKIT_API int ImageList_Add(HIMAGELIST himl, HBITMAP hbmImage, HBITMAP hbmMask);
+TOOLKIT_API int ImageList_AddMasked(HIMAGELIST himl, HBITMAP hbmImage, COLORREF crMask);
+TOOLKIT_API BOOL ImageList_Replace(HIMAGELIST himl, int i, HBITMAP hbmImage, HBITMAP hbmMask);
+// Puts an icon at index i, or at a new index when i is -1; scaled to the list's size. The index, -1 when refused.
+TOOLKIT_API int ImageList_ReplaceIcon(HIMAGELIST himl, int i, HICON hIcon);
+TOOLKIT_API BOOL ImageList_Draw(HIMAGELIST himl, int i, HDC hdc, int x, int y, UINT style);
+
+// Owns an image list's handle and destroys it with itself.
+class TOOLKIT_API CImageList
+{
+public:
+    CImageList() = default;
+    ~CImageList() { DeleteImageList(); }
+    CImageList(const CImageList&) = delete;
+    CImageList& operator=(const CImageList&) = delete;
+
+    BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);
+    BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
+    BOOL DeleteImageList();
+
+    HIMAGELIST GetSafeHandle() const { return m_hImageList; }
+    int GetImageCount() const { return ImageList_GetImageCount(m_hImageList); }
+
+    HIMAGELIST m_hImageList = nullptr;
+};

@@ -1,0 +1,42 @@
+// A picture in memory: 32-bit pixels, alpha in the top byte, colours premultiplied by it.
+#pragma once
+
+#include "Toolkit/base/Geometry.h"
+
+#include <vector>
+
+namespace toolkit
+{
+
+using Pixel = std::uint32_t; // 0xAARRGGBB, premultiplied
+
+class TOOLKIT_API Surface
+{
+public:
+    Surface() = default;
+    explicit Surface(CSize size, Pixel fill = 0); // a negative extent counts as 0
+
+    int Width() const { return m_size.cx; }
+    int Height() const { return m_size.cy; }
+    CRect Bounds() const { return {0, 0, m_size.cx, m_size.cy}; }
+    bool IsEmpty() const { return m_pixels.empty(); }
+
+    // Rows lie behind one another without a gap, from the top. y must be inside.
+    Pixel* Row(int y) { return m_pixels.data() + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.cx); }
+    const Pixel* Row(int y) const { return const_cast<Surface*>(this)->Row(y); }
+    Pixel At(int x, int y) const { return Row(y)[x]; }
+
+private:
+    CSize m_size;
+    std::vector<Pixel> m_pixels;
+};
+
+// An opaque colour as a pixel, and a pixel's colour (its alpha is dropped).
+constexpr Pixel ToPixel(COLORREF color)
+{
+    return 0xFF000000u | static_cast<Pixel>(GetRValue(color)) << 16 | static_cast<Pixel>(GetGValue(color)) << 8 |
+           GetBValue(color);
+}
+constexpr COLORREF ToColor(Pixel pixel) { return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF); }
+
+} // namespace toolkit

@@ -1,0 +1,37 @@
+// What draws text. The desktop installs its own; without one a small built-in font serves.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+
+#include <string>
+#include <string_view>
+
+namespace toolkit
+{
+
+enum class FontStyle { Regular, Bold };
+
+// Texts are single lines in UTF-8; whatever bytes come, an engine draws something for each.
+class TOOLKIT_API TextEngine
+{
+public:
+    virtual ~TextEngine() = default;
+
+    virtual int LineHeight() const = 0; // pixels from one line to the next, the same for both styles
+    virtual int Measure(std::string_view text, FontStyle style) = 0; // the width in pixels
+
+    // Draws the text with its line's top left corner at `at`, only inside `clip` (inside the surface).
+    virtual void Draw(Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
+                      FontStyle style) = 0;
+};
+
+// The engine in use: the one installed, else the built-in font.
+TOOLKIT_API TextEngine& CurrentTextEngine();
+TOOLKIT_API void InstallTextEngine(TextEngine* pEngine); // borrowed; NULL brings back the built-in font
+TOOLKIT_API TextEngine& BuiltinTextEngine();             // the same pixels on every machine
+
+// The text, cut with "..." at its end so that it is no wider than `width`; whole when it fits. Cuts between
+// code points. A width too small for the dots gives the dots. Asks the engine a logarithmic number of times.
+TOOLKIT_API std::string Ellipsize(std::string_view text, int width, FontStyle style);
+
+} // namespace toolkit

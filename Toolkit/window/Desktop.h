@@ -1,0 +1,59 @@
+// The desktop: everything the toolkit needs of the machine around it.
+//
+// One desktop is installed at a time, before the first window. HeadlessDesktop is built in; a real one shows
+// the same surfaces in real windows. All calls come on the user-interface thread.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/TextEngine.h"
+#include "Toolkit/window/Messages.h"
+
+#include <optional>
+
+namespace toolkit
+{
+
+enum class Cursor { Arrow, Wait, Text, Hand };
+
+class TOOLKIT_API Desktop
+{
+public:
+    virtual ~Desktop() = default;
+
+    virtual DWORD Ticks() = 0;            // milliseconds; may wrap
+    virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
+
+    // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
+    virtual void WindowCreated(HWND hTop) = 0;
+    virtual void WindowChanged(HWND hTop) = 0; // shown, hidden, moved, sized, renamed
+    virtual void WindowDestroyed(HWND hTop) = 0;
+    virtual void Present(HWND hTop, const Surface& surface, const CRect& dirty) = 0;
+
+    // The queue has something to do: at once (0) or in so many milliseconds, for the next timer. Replaces the
+    // former request; nullopt: nothing at all. The desktop then calls toolkit::RunPendingMessages.
+    virtual void Wake(std::optional<DWORD> inMilliseconds) = 0;
+
+    virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
+    virtual void ShowCursor(Cursor cursor) = 0;
+};
+
+TOOLKIT_API void InstallDesktop(Desktop* pDesktop); // borrowed; NULL takes it away, after the last window
+TOOLKIT_API Desktop& CurrentDesktop();
+
+// The queue. One message: posted, else input, else a paint, else a due timer. FALSE when there was none.
+TOOLKIT_API bool RunOneMessage();
+TOOLKIT_API void RunPendingMessages(); // until there is none; timers that come due meanwhile included
+// As above, but gives up after about so many milliseconds, so that real input is never starved.
+TOOLKIT_API bool RunPendingMessagesFor(DWORD nMilliseconds); // true when nothing is left
+
+// What tests compare: windows, timers and posted messages alive.
+struct WindowCounts
+{
+    int windows, timers, posted;
+};
+TOOLKIT_API WindowCounts CountWindows();
+
+// A top-level window's picture as last painted; NULL for a stale handle.
+TOOLKIT_API const Surface* WindowSurface(HWND hTop);
+
+} // namespace toolkit

@@ -1,0 +1,73 @@
+// A desktop without a screen: scripted, deterministic, its clock included.
+//
+// Installs itself when made and goes when destroyed. Screen coordinates are those of the windows, which lie
+// where they were created. Input takes effect at once: each call runs the queue until nothing is left, but the
+// clock stands still unless Advance is called.
+#pragma once
+
+#include "Toolkit/window/Desktop.h"
+#include "Toolkit/window/Input.h"
+
+#include <deque>
+#include <string>
+#include <vector>
+
+namespace toolkit
+{
+
+class TOOLKIT_API HeadlessDesktop : public Desktop
+{
+public:
+    HeadlessDesktop();
+    ~HeadlessDesktop() override;
+    HeadlessDesktop(const HeadlessDesktop&) = delete;
+    HeadlessDesktop& operator=(const HeadlessDesktop&) = delete;
+
+    // Mouse, at client coordinates of any window. Buttons pressed stay down until released; a press after a press
+    // at the same place is a double click only within the double-click time, so tests Advance between clicks.
+    void MoveTo(HWND hWnd, CPoint at);
+    void Press(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
+    void Release(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
+    void Click(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left); // never the second of a double click
+    void DoubleClick(HWND hWnd, CPoint at);
+    void Wheel(HWND hWnd, CPoint at, int notches); // up is positive
+
+    // Keys, to the focus. Modifiers hold for mouse and keys until changed.
+    void Hold(Modifiers modifiers) { m_modifiers = modifiers; }
+    void Key(UINT vkey); // down and up
+    void Type(std::string_view utf8);
+
+    // Lets the time pass, a timer at a time, each handled when it is due.
+    void Advance(DWORD nMilliseconds);
+    void SetTicks(DWORD ticks) { m_ticks = ticks; }
+    void Run(); // until nothing is left to do at the present time
+
+    // Message boxes: answers in order (IDOK when there is none left), and what was shown: "caption: text".
+    void Answer(int nButton) { m_answers.push_back(nButton); }
+    std::vector<std::string> TakeMessageBoxes();
+
+    // The pixels of a window, border included, cut out of its top-level window after all painting is done.
+    Surface Dump(HWND hWnd);
+    CPoint CursorPos() const { return m_cursorPos; }
+    Cursor CurrentCursor() const { return m_cursor; }
+
+    DWORD Ticks() override { return m_ticks; }
+    void WindowCreated(HWND) override {}
+    void WindowChanged(HWND) override {}
+    void WindowDestroyed(HWND) override {}
+    void Present(HWND hTop, const Surface& surface, const CRect& dirty) override;
+    void Wake(std::optional<DWORD> inMilliseconds) override { m_wake = inMilliseconds; }
+    int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
+    void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
+
+private:
+    DWORD m_ticks = 1000;
+    std::optional<DWORD> m_wake;
+    Modifiers m_modifiers;
+    CPoint m_cursorPos;
+    Cursor m_cursor = Cursor::Arrow;
+    std::deque<int> m_answers;
+    std::vector<std::string> m_boxes;
+};
+
+} // namespace toolkit

@@ -1,0 +1,92 @@
+// Message maps: for each class a table from message to handler.
+//
+// A map is searched from the most derived class to the base; the first entry that fits gets the message. A
+// handler that wants the base's behaviour, too, calls the base's handler, which ends in Default().
+#pragma once
+
+#include "Toolkit/window/MessageThunks.h"
+
+class CWnd;
+
+namespace toolkit
+{
+
+// FALSE lets the search go on: the message counts as not handled.
+using MessageHandler = bool (*)(CWnd* pWnd, MessageCall& call);
+
+struct MessageEntry
+{
+    UINT message;
+    UINT code; // the notification's or command's code; 0 for other messages
+    UINT id, lastID;
+    MessageHandler handler;
+};
+
+struct MessageMap
+{
+    const MessageMap* (*base)(); // NULL at the root
+    const MessageEntry* entries; // ends with an entry without a handler
+};
+
+} // namespace toolkit
+
+#define afx_msg
+
+#define DECLARE_MESSAGE_MAP()                                                                                          \
+protected:                                                                                                             \
+    static const toolkit::MessageMap* GetThisMessageMap();                                                             \
+    const toolkit::MessageMap* GetMessageMap() const override;
+
+#define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
+    const toolkit::MessageMap* theClass::GetMessageMap() const { return GetThisMessageMap(); }                         \
+    const toolkit::MessageMap* theClass::GetThisMessageMap()                                                           \
+    {                                                                                                                  \
+        using ThisClass = theClass;                                                                                    \
+        using BaseClass = baseClass;                                                                                   \
+        static const toolkit::MessageEntry entries[] = {
+
+#define END_MESSAGE_MAP()                                                                                              \
+            {0, 0, 0, 0, nullptr}};                                                                                    \
+        static const toolkit::MessageMap map{[] { return BaseClass::GetThisMessageMap(); }, entries};                  \
+        return &map;                                                                                                   \
+    }
+
+#define TOOLKIT_ENTRY(message, thunk, member)                                                                          \
+    {message, 0, 0, 0, &toolkit::thunk<ThisClass, &ThisClass::member>},
+
+#define ON_WM_CREATE() TOOLKIT_ENTRY(WM_CREATE, CallCreate, OnCreate)
+#define ON_WM_DESTROY() TOOLKIT_ENTRY(WM_DESTROY, CallVoid, OnDestroy)
+#define ON_WM_CLOSE() TOOLKIT_ENTRY(WM_CLOSE, CallVoid, OnClose)
+#define ON_WM_PAINT() TOOLKIT_ENTRY(WM_PAINT, CallVoid, OnPaint)
+#define ON_WM_ERASEBKGND() TOOLKIT_ENTRY(WM_ERASEBKGND, CallErase, OnEraseBkgnd)
+#define ON_WM_SIZE() TOOLKIT_ENTRY(WM_SIZE, CallSize, OnSize)
+#define ON_WM_SHOWWINDOW() TOOLKIT_ENTRY(WM_SHOWWINDOW, CallShow, OnShowWindow)
+#define ON_WM_SETFOCUS() TOOLKIT_ENTRY(WM_SETFOCUS, CallFocus, OnSetFocus)
+#define ON_WM_KILLFOCUS() TOOLKIT_ENTRY(WM_KILLFOCUS, CallFocus, OnKillFocus)
+#define ON_WM_LBUTTONDOWN() TOOLKIT_ENTRY(WM_LBUTTONDOWN, CallMouse, OnLButtonDown)
+#define ON_WM_LBUTTONUP() TOOLKIT_ENTRY(WM_LBUTTONUP, CallMouse, OnLButtonUp)
+#define ON_WM_LBUTTONDBLCLK() TOOLKIT_ENTRY(WM_LBUTTONDBLCLK, CallMouse, OnLButtonDblClk)
+#define ON_WM_RBUTTONDOWN() TOOLKIT_ENTRY(WM_RBUTTONDOWN, CallMouse, OnRButtonDown)
+#define ON_WM_RBUTTONUP() TOOLKIT_ENTRY(WM_RBUTTONUP, CallMouse, OnRButtonUp)
+#define ON_WM_MOUSEMOVE() TOOLKIT_ENTRY(WM_MOUSEMOVE, CallMouse, OnMouseMove)
+#define ON_WM_MOUSEWHEEL() TOOLKIT_ENTRY(WM_MOUSEWHEEL, CallWheel, OnMouseWheel)
+#define ON_WM_KEYDOWN() TOOLKIT_ENTRY(WM_KEYDOWN, CallKey, OnKeyDown)
+#define ON_WM_CHAR() TOOLKIT_ENTRY(WM_CHAR, CallKey, OnChar)
+#define ON_WM_TIMER() TOOLKIT_ENTRY(WM_TIMER, CallTimer, OnTimer)
+#define ON_WM_CONTEXTMENU() TOOLKIT_ENTRY(WM_CONTEXTMENU, CallContextMenu, OnContextMenu)
+
+// LRESULT handler(WPARAM, LPARAM)
+#define ON_MESSAGE(message, memberFxn)                                                                                 \
+    {message, 0, 0, 0, &toolkit::CallMessage<ThisClass, &memberFxn>},
+// void handler(); the command's identifier
+#define ON_COMMAND(id, memberFxn)                                                                                      \
+    {WM_COMMAND, 0, id, id, &toolkit::CallVoid<ThisClass, &memberFxn>},
+// void handler(NMHDR*, LRESULT*); a child's notification, seen by the parent
+#define ON_NOTIFY(code, id, memberFxn)                                                                                 \
+    {WM_NOTIFY, code, id, id, &toolkit::CallNotify<ThisClass, &memberFxn>},
+// void handler(NMHDR*, LRESULT*); a notification that comes back to the control, not seen by the parent
+#define ON_NOTIFY_REFLECT(code, memberFxn)                                                                             \
+    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotify<ThisClass, &memberFxn>},
+// BOOL handler(NMHDR*, LRESULT*); FALSE lets the parent see it, too
+#define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                          \
+    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotifyEx<ThisClass, &memberFxn>},

@@ -1,0 +1,172 @@
+// Messages, styles, keys and the records that travel with them, with their standard values.
+#pragma once
+
+#include "Toolkit/base/Geometry.h"
+
+inline constexpr UINT WM_CREATE = 0x0001;
+inline constexpr UINT WM_DESTROY = 0x0002;
+inline constexpr UINT WM_MOVE = 0x0003;
+inline constexpr UINT WM_SIZE = 0x0005;
+inline constexpr UINT WM_SETFOCUS = 0x0007;
+inline constexpr UINT WM_KILLFOCUS = 0x0008;
+inline constexpr UINT WM_ENABLE = 0x000A;
+inline constexpr UINT WM_SETREDRAW = 0x000B;
+inline constexpr UINT WM_SETTEXT = 0x000C;
+inline constexpr UINT WM_GETTEXT = 0x000D;
+inline constexpr UINT WM_GETTEXTLENGTH = 0x000E;
+inline constexpr UINT WM_PAINT = 0x000F;
+inline constexpr UINT WM_CLOSE = 0x0010;
+inline constexpr UINT WM_ERASEBKGND = 0x0014; // wParam: the HDC
+inline constexpr UINT WM_SHOWWINDOW = 0x0018;
+inline constexpr UINT WM_NOTIFY = 0x004E;
+inline constexpr UINT WM_CONTEXTMENU = 0x007B; // wParam: the window, lParam: screen point, -1, -1 from the keyboard
+inline constexpr UINT WM_STYLECHANGED = 0x007D;
+inline constexpr UINT WM_NCCREATE = 0x0081;
+inline constexpr UINT WM_NCDESTROY = 0x0082;
+inline constexpr UINT WM_NCPAINT = 0x0085; // wParam: the HDC of the whole window, border and scroll bars included
+inline constexpr UINT WM_GETDLGCODE = 0x0087;
+inline constexpr UINT WM_KEYDOWN = 0x0100;
+inline constexpr UINT WM_KEYUP = 0x0101;
+inline constexpr UINT WM_CHAR = 0x0102; // wParam: a code point
+inline constexpr UINT WM_SYSKEYDOWN = 0x0104;
+inline constexpr UINT WM_SYSKEYUP = 0x0105;
+inline constexpr UINT WM_COMMAND = 0x0111;
+inline constexpr UINT WM_TIMER = 0x0113;
+inline constexpr UINT WM_HSCROLL = 0x0114;
+inline constexpr UINT WM_VSCROLL = 0x0115;
+inline constexpr UINT WM_MOUSEMOVE = 0x0200;
+inline constexpr UINT WM_LBUTTONDOWN = 0x0201;
+inline constexpr UINT WM_LBUTTONUP = 0x0202;
+inline constexpr UINT WM_LBUTTONDBLCLK = 0x0203;
+inline constexpr UINT WM_RBUTTONDOWN = 0x0204;
+inline constexpr UINT WM_RBUTTONUP = 0x0205;
+inline constexpr UINT WM_RBUTTONDBLCLK = 0x0206;
+inline constexpr UINT WM_MBUTTONDOWN = 0x0207;
+inline constexpr UINT WM_MBUTTONUP = 0x0208;
+inline constexpr UINT WM_MBUTTONDBLCLK = 0x0209;
+inline constexpr UINT WM_MOUSEWHEEL = 0x020A; // high word of wParam: the turn, WHEEL_DELTA a notch, up is positive
+inline constexpr UINT WM_CAPTURECHANGED = 0x0215;
+inline constexpr UINT WM_MOUSELEAVE = 0x02A3; // the mouse left the window it was over
+inline constexpr UINT WM_USER = 0x0400;
+inline constexpr UINT WM_APP = 0x8000;
+
+// What a reflected message is when it comes back to the control that caused it.
+inline constexpr UINT WM_REFLECT_BASE = 0xBC00;
+
+inline constexpr int WHEEL_DELTA = 120;
+
+// Window styles.
+inline constexpr DWORD WS_POPUP = 0x80000000;
+inline constexpr DWORD WS_CHILD = 0x40000000;
+inline constexpr DWORD WS_VISIBLE = 0x10000000;
+inline constexpr DWORD WS_DISABLED = 0x08000000;
+inline constexpr DWORD WS_CLIPSIBLINGS = 0x04000000;
+inline constexpr DWORD WS_CLIPCHILDREN = 0x02000000;
+inline constexpr DWORD WS_BORDER = 0x00800000; // a line of one pixel
+inline constexpr DWORD WS_VSCROLL = 0x00200000;
+inline constexpr DWORD WS_HSCROLL = 0x00100000;
+inline constexpr DWORD WS_TABSTOP = 0x00010000;
+inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
+inline constexpr DWORD WS_EX_CLIENTEDGE = 0x00000200; // an edge of kClientEdge pixels
+inline constexpr int kClientEdge = 1;                 // flat: one line on each side
+
+// The states of keys and buttons in the wParam of mouse messages.
+inline constexpr UINT MK_LBUTTON = 0x0001;
+inline constexpr UINT MK_RBUTTON = 0x0002;
+inline constexpr UINT MK_SHIFT = 0x0004;
+inline constexpr UINT MK_CONTROL = 0x0008;
+inline constexpr UINT MK_MBUTTON = 0x0010;
+inline constexpr UINT MK_ALT = 0x0020;
+
+// ShowWindow.
+inline constexpr int SW_HIDE = 0;
+inline constexpr int SW_SHOW = 5;
+
+// Virtual keys. Letters and digits are their upper-case ASCII codes.
+inline constexpr UINT VK_LBUTTON = 0x01;
+inline constexpr UINT VK_RBUTTON = 0x02;
+inline constexpr UINT VK_BACK = 0x08;
+inline constexpr UINT VK_TAB = 0x09;
+inline constexpr UINT VK_RETURN = 0x0D;
+inline constexpr UINT VK_SHIFT = 0x10;
+inline constexpr UINT VK_CONTROL = 0x11;
+inline constexpr UINT VK_MENU = 0x12; // Alt
+inline constexpr UINT VK_ESCAPE = 0x1B;
+inline constexpr UINT VK_SPACE = 0x20;
+inline constexpr UINT VK_PRIOR = 0x21;
+inline constexpr UINT VK_NEXT = 0x22;
+inline constexpr UINT VK_END = 0x23;
+inline constexpr UINT VK_HOME = 0x24;
+inline constexpr UINT VK_LEFT = 0x25;
+inline constexpr UINT VK_UP = 0x26;
+inline constexpr UINT VK_RIGHT = 0x27;
+inline constexpr UINT VK_DOWN = 0x28;
+inline constexpr UINT VK_INSERT = 0x2D;
+inline constexpr UINT VK_DELETE = 0x2E;
+inline constexpr UINT VK_APPS = 0x5D; // the menu key
+inline constexpr UINT VK_MULTIPLY = 0x6A;
+inline constexpr UINT VK_ADD = 0x6B;
+inline constexpr UINT VK_SUBTRACT = 0x6D;
+inline constexpr UINT VK_F1 = 0x70;
+inline constexpr UINT VK_F2 = 0x71;
+inline constexpr UINT VK_F5 = 0x74;
+inline constexpr UINT VK_F10 = 0x79;
+
+// Scroll bars: which one, and what WM_VSCROLL and WM_HSCROLL carry in the low word of wParam.
+inline constexpr int SB_HORZ = 0;
+inline constexpr int SB_VERT = 1;
+inline constexpr UINT SB_LINEUP = 0;
+inline constexpr UINT SB_LINEDOWN = 1;
+inline constexpr UINT SB_PAGEUP = 2;
+inline constexpr UINT SB_PAGEDOWN = 3;
+inline constexpr UINT SB_THUMBPOSITION = 4;
+inline constexpr UINT SB_THUMBTRACK = 5; // ask GetScrollInfo for the 32-bit track position
+inline constexpr UINT SB_ENDSCROLL = 8;
+
+// What CreateWindow hands to WM_NCCREATE and WM_CREATE. PreCreateWindow may change it before.
+struct CREATESTRUCT
+{
+    void* lpCreateParams;
+    HWND hwndParent;
+    int cy, cx, y, x; // in the parent's client coordinates
+    DWORD style;
+    LPCSTR lpszName;
+    LPCSTR lpszClass;
+    DWORD dwExStyle;
+    UINT nID;
+};
+using LPCREATESTRUCT = CREATESTRUCT*;
+
+// The head of every notification; WM_NOTIFY carries its address in lParam and idFrom in wParam.
+struct NMHDR
+{
+    HWND hwndFrom;
+    UINT_PTR idFrom;
+    UINT code;
+};
+
+// Notifications common to all controls, and how codes are made.
+constexpr UINT NotifyCode(int n) { return static_cast<UINT>(n); }
+inline constexpr UINT NM_CLICK = NotifyCode(-2);
+inline constexpr UINT NM_DBLCLK = NotifyCode(-3);
+inline constexpr UINT NM_RETURN = NotifyCode(-4);
+inline constexpr UINT NM_RCLICK = NotifyCode(-5);
+inline constexpr UINT NM_RDBLCLK = NotifyCode(-6);
+inline constexpr UINT NM_SETFOCUS = NotifyCode(-7);
+inline constexpr UINT NM_KILLFOCUS = NotifyCode(-8);
+
+struct MSG
+{
+    HWND hwnd;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+};
+
+struct SCROLLINFO
+{
+    int nMin, nMax; // both inclusive
+    int nPage;      // the bar is hidden while nPage covers the range
+    int nPos;
+    int nTrackPos; // where the thumb is while it is dragged
+};

@@ -1,0 +1,125 @@
+// CWnd: a window as an object, with its message map.
+//
+// The object and the window have lives of their own: the window is made by Create and may be destroyed while
+// the object lives on; the object, when it goes first, destroys its window.
+#pragma once
+
+#include "Toolkit/window/MessageMap.h"
+#include "Toolkit/window/WindowApi.h"
+
+class TOOLKIT_API CWnd
+{
+public:
+    CWnd() = default;
+    virtual ~CWnd();
+    CWnd(const CWnd&) = delete;
+    CWnd& operator=(const CWnd&) = delete;
+
+    // Makes the window and attaches it. FALSE when PreCreateWindow, WM_NCCREATE or WM_CREATE refused; there is
+    // no window then.
+    BOOL CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, const RECT& rect, CWnd* pParent,
+                  UINT nID);
+    virtual BOOL DestroyWindow();
+
+    HWND GetSafeHwnd() const { return m_hWnd; }
+    // The object of a window; for a window without one, an object that lives as long as the window. NULL for NULL
+    // and for a stale handle.
+    static CWnd* FromHandle(HWND hWnd);
+    static CWnd* FromHandlePermanent(HWND hWnd); // NULL for a window without an object of its own
+    static CWnd* GetFocus() { return FromHandle(::GetFocus()); }
+
+    CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
+    UINT GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
+    DWORD GetStyle() const { return ::GetWindowStyle(m_hWnd); }
+    DWORD GetExStyle() const { return ::GetWindowExStyle(m_hWnd); }
+    BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
+    CString GetWindowText() const { return ::GetWindowText(m_hWnd); }
+    void GetClientRect(RECT* pRect) const { ::GetClientRect(m_hWnd, pRect); }
+    void GetWindowRect(RECT* pRect) const { ::GetWindowRect(m_hWnd, pRect); }
+    void ClientToScreen(POINT* pPoint) const { ::ClientToScreen(m_hWnd, pPoint); }
+    void ScreenToClient(POINT* pPoint) const { ::ScreenToClient(m_hWnd, pPoint); }
+
+    BOOL ShowWindow(int nShow) { return ::ShowWindow(m_hWnd, nShow); }
+    BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
+    void MoveWindow(const RECT& rect);
+    void SetWindowText(LPCSTR pszText) { ::SetWindowText(m_hWnd, pszText); }
+    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
+    void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
+    void InvalidateRect(const RECT* pRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, pRect, bErase); }
+    void UpdateWindow() { ::UpdateWindow(m_hWnd); }
+    UINT_PTR SetTimer(UINT_PTR nID, UINT nElapse) { return ::SetTimer(m_hWnd, nID, nElapse); }
+    BOOL KillTimer(UINT_PTR nID) { return ::KillTimer(m_hWnd, nID); }
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+
+    // May change what CreateEx was called with; FALSE refuses.
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    // A key message on its way to the window that has the focus: asked of it first and then of its ancestors,
+    // before any of them handles it. TRUE swallows the message.
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+
+    HWND m_hWnd = nullptr; // NULL while there is no window
+
+protected:
+    // Every message of the window comes here first; looks it up in the message maps and else calls DefWindowProc.
+    virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    // What happens without a handler: the window class's own behaviour.
+    virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
+    // A child's notification: reflected to the child first, then looked up here. TRUE when someone took it.
+    virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual void PostNcDestroy(); // the window is gone, m_hWnd is NULL; nothing here
+
+    // Hands the message being handled to DefWindowProc, with the parameters it came with.
+    LRESULT Default();
+
+    // Handlers to override through the message map; each does just Default().
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnClose();
+    afx_msg void OnPaint();
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+
+    static const toolkit::MessageMap* GetThisMessageMap();
+    virtual const toolkit::MessageMap* GetMessageMap() const;
+
+private:
+    friend struct WndAccess; // the window manager's way to WindowProc and PostNcDestroy
+};
+
+// The window that AfxGetMainWnd's caller's thread shows its application in; NULL before there is one.
+TOOLKIT_API CWnd* AfxGetMainWnd();
+TOOLKIT_API void AfxSetMainWnd(CWnd* pWnd);
+
+// A device context for WM_PAINT, for as long as the object lives.
+class TOOLKIT_API CPaintDC
+{
+public:
+    explicit CPaintDC(CWnd* pWnd);
+    ~CPaintDC();
+    CPaintDC(const CPaintDC&) = delete;
+    CPaintDC& operator=(const CPaintDC&) = delete;
+
+    operator HDC() const { return m_target.hdc; }
+    const CRect& GetPaintRect() const { return m_target.rcPaint; }
+
+private:
+    const HWND m_hWnd;
+    const toolkit::PaintTarget m_target;
+};
