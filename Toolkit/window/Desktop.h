@@ -8,6 +8,7 @@
 #include "Toolkit/graphics/TextEngine.h"
 #include "Toolkit/window/Messages.h"
 
+#include <functional>
 #include <optional>
 
 namespace toolkit
@@ -20,7 +21,7 @@ class TOOLKIT_API Desktop
 public:
     virtual ~Desktop() = default;
 
-    virtual DWORD Ticks() = 0;            // milliseconds; may wrap
+    virtual DWORD Ticks() = 0; // milliseconds; may wrap
     virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
 
     // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
@@ -32,6 +33,7 @@ public:
     // The queue has something to do: at once (0) or in so many milliseconds, for the next timer. Replaces the
     // former request; nullopt: nothing at all. The desktop then calls toolkit::RunPendingMessages.
     virtual void Wake(std::optional<DWORD> inMilliseconds) = 0;
+    virtual void WakeFromThread() = 0; // a task was posted by another thread, which calls this: have the queue run
 
     virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
     virtual void ShowCursor(Cursor cursor) = 0;
@@ -45,6 +47,10 @@ TOOLKIT_API bool RunOneMessage();
 TOOLKIT_API void RunPendingMessages(); // until there is none; timers that come due meanwhile included
 // As above, but gives up after about so many milliseconds, so that real input is never starved.
 TOOLKIT_API bool RunPendingMessagesFor(DWORD nMilliseconds); // true when nothing is left
+
+// Has a task run on the user-interface thread, in order with the posted messages. Any thread may call it, as
+// long as a desktop is installed; tasks that have not run when the desktop goes are dropped.
+TOOLKIT_API void PostTask(std::function<void()> task);
 
 // What tests compare: windows, timers and posted messages alive.
 struct WindowCounts

@@ -8,7 +8,9 @@
 #include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/Input.h"
 
+#include <condition_variable>
 #include <deque>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -41,6 +43,9 @@ public:
     void Advance(DWORD nMilliseconds);
     void SetTicks(DWORD ticks) { m_ticks = ticks; }
     void Run(); // until nothing is left to do at the present time
+    // Runs the queue, waiting for the tasks that other threads post, until the condition holds. FALSE when it does
+    // not within ten seconds of real time.
+    bool RunUntil(const std::function<bool()>& condition);
 
     // Message boxes: answers in order (IDOK when there is none left), and what was shown: "caption: text".
     void Answer(int nButton) { m_answers.push_back(nButton); }
@@ -57,10 +62,15 @@ public:
     void WindowDestroyed(HWND) override {}
     void Present(HWND hTop, const Surface& surface, const CRect& dirty) override;
     void Wake(std::optional<DWORD> inMilliseconds) override { m_wake = inMilliseconds; }
+    void WakeFromThread() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
 
 private:
+    std::mutex m_mutex; // of m_bTaskPosted
+    std::condition_variable m_taskPosted;
+    bool m_bTaskPosted = false;
+
     DWORD m_ticks = 1000;
     std::optional<DWORD> m_wake;
     Modifiers m_modifiers;
