@@ -1,0 +1,44 @@
+// The reference editor as a whole: what main() makes once a desktop is installed.
+#pragma once
+
+#include "Editor/pictures/PictureReader.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace editor
+{
+
+class EditorApp
+{
+public:
+    struct Options
+    {
+        CSize size{960, 640};           // of the frame's client area
+        std::function<void()> onClosed; // the user closed the frame, whose window is gone; may be empty
+    };
+
+    // Installs the editor's services and resources; one editor at a time. The reader is borrowed and outlives the
+    // editor, the desktop, too.
+    EditorApp(const PictureReader& reader, Options options);
+    explicit EditorApp(const PictureReader& reader) : EditorApp(reader, Options()) {}
+    ~EditorApp(); // closes the frame, waits for the threads
+    EditorApp(const EditorApp&) = delete;
+    EditorApp& operator=(const EditorApp&) = delete;
+
+    // Shows the folder as a library, in the frame, which is made and shown at the first call. Empty when it is
+    // shown; else one line that names the folder and the reason, and nothing has changed.
+    std::string OpenFolder(const std::string& path);
+
+    HWND GetMainWindow() const; // NULL before the first folder and after the frame was closed
+
+    // Runs the queue until every picture in sight is decoded and painted.
+    void WaitUntilSettled();
+
+private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace editor

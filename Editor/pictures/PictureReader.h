@@ -1,0 +1,34 @@
+// What turns a picture file into pixels. The editor decodes nothing itself.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+struct DecodedPicture
+{
+    toolkit::Surface picture; // empty when the file could not be read
+    CSize fullSize;           // of the picture in the file; `picture` may be smaller
+    std::string error;        // why there is no picture, without the file's name: "not a PNG picture"
+};
+
+// Read is called on worker threads, several at a time; Extensions on the user-interface thread.
+class PictureReader
+{
+public:
+    virtual ~PictureReader() = default;
+
+    // The file names' extensions it reads, in lower case and without the dot. The same as long as it lives.
+    virtual std::vector<std::string> Extensions() const = 0;
+
+    // The picture, turned upright and scaled down, with its proportions kept, to fit into `maxSize`; never
+    // scaled up. Of an animated file the first frame. Never throws but for want of memory; whatever the file
+    // holds, the answer is a picture or an error.
+    virtual DecodedPicture Read(const std::string& path, CSize maxSize) const = 0;
+};
+
+} // namespace editor
