@@ -1,6 +1,7 @@
 #include "Editor/CommandLine.h"
 
 #include <charconv>
+#include <filesystem>
 
 namespace editor
 {
@@ -96,11 +97,17 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
     return Parser(arguments).Parse();
 }
 
+std::string DefaultFolder()
+{
+    std::error_code failure;
+    return std::filesystem::is_directory(EDITOR_SAMPLES, failure) ? EDITOR_SAMPLES : ".";
+}
+
 std::string CommandLineHelp()
 {
     return "Shows a folder of pictures as a library of objects.\n"
            "\n"
-           "  [FOLDER]                 open FOLDER; the current folder without one\n"
+           "  [FOLDER]                 open FOLDER; the sample library without one\n"
            "  --screenshot PNG         write a picture of the window to the file PNG and end\n"
            "  --size WIDTHxHEIGHT      the window's size in pixels; 960x640 without it\n"
            "  --help                   show this text and end\n";

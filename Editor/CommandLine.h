@@ -11,7 +11,7 @@ namespace editor
 
 struct CommandLine
 {
-    std::string folder = ".";
+    std::string folder;     // empty: none was named
     std::string screenshot; // the PNG file to write instead of staying open; empty: none
     CSize size{960, 640};   // of the frame's client area
     bool help = false;
@@ -20,6 +20,9 @@ struct CommandLine
 
 // The arguments without the program's name. What is wrong exits with status 2 after its line has been shown.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
+
+// What is opened when no folder is named: the sample library where the program was built, else the current folder.
+std::string DefaultFolder();
 
 // What --help prints, with a line's end after every line.
 std::string CommandLineHelp();

@@ -21,7 +21,7 @@ std::string Describe(const std::vector<std::string>& arguments)
 
 TEST(CommandLineTest, TheFolderAndTheOptionsComeInAnyOrder)
 {
-    EXPECT_EQ("[.] 960x640", Describe({}));
+    EXPECT_EQ("[] 960x640", Describe({}));
     EXPECT_EQ("[pictures] 960x640", Describe({"pictures"}));
     EXPECT_EQ("[pictures] 800x600 into out.png",
               Describe({"--screenshot", "out.png", "pictures", "--size", "800x600"}));
@@ -37,8 +37,7 @@ TEST(CommandLineTest, WhatIsWrongGivesOneLineThatNamesIt)
     EXPECT_EQ("error b: only one folder can be opened", Describe({"a", "b"}));
     EXPECT_EQ("error the folder's name is empty", Describe({""}));
     for (const char* size : {"800", "x600", "800x", "800x600x", "-800x600", "800x99999", "8e2x600", "99999999999x600"})
-        EXPECT_EQ(std::string("error --size ") + size +
-                      ": not a size like 960x640, from 200 to 8192 pixels each way",
+        EXPECT_EQ(std::string("error --size ") + size + ": not a size like 960x640, from 200 to 8192 pixels each way",
                   Describe({"--size", size}));
 }
 
