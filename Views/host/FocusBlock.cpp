@@ -1,0 +1,3 @@
+#include "Views/host/FocusBlock.h"
+
+int FocusBlock::FocusBlockCounter = 0;

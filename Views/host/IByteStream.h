@@ -1,0 +1,20 @@
+#pragma once
+
+#include "Kernel/StubBaseInterface.h"
+#include "Views/Api.h"
+
+// Bytes with a position.
+class VIEWS_API IByteStream : public virtual CStubBaseInterface
+{
+public:
+    virtual void StreamReserved1() {}
+    virtual void StreamReserved2() {}
+    virtual void Seek(DWORD dwOffset, DWORD dwOrigin) = 0; // origin 0: from the start
+    virtual DWORD GetLength() = 0;
+    virtual void StreamReserved5() {}
+    virtual void SetEnd() = 0;   // the stream ends where the position is, growing when that lies beyond its end
+    virtual void* GetData() = 0; // all bytes in one block, valid until the stream changes; NULL when there is none
+
+protected:
+    ~IByteStream() = default;
+};
