@@ -54,6 +54,9 @@ namespace toolkit
 // (both in the surface's coordinates). The surface must outlive it. DeleteDC ends it.
 TOOLKIT_API HDC CreateSurfaceDC(Surface& target, CPoint origin, Region clip);
 
+// Draws a part of a picture by its alpha, the part's top left corner at `at`.
+TOOLKIT_API BOOL DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part);
+
 // The pixels behind a handle; NULL when refused. Valid until the object is changed or deleted.
 TOOLKIT_API Surface* BitmapSurface(HBITMAP hBitmap);
 TOOLKIT_API const Surface* IconSurface(HICON hIcon);

@@ -31,6 +31,9 @@ private:
     std::vector<Pixel> m_pixels;
 };
 
+// A copy of a part of the surface; only what lies inside it.
+TOOLKIT_API Surface Crop(const Surface& source, const CRect& part);
+
 // An opaque colour as a pixel, and a pixel's colour (its alpha is dropped).
 constexpr Pixel ToPixel(COLORREF color)
 {

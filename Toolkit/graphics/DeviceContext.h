@@ -1,0 +1,59 @@
+// A device context: where drawing goes, through which clip, with which colours. Internal to the graphics layer.
+#pragma once
+
+#include "Toolkit/graphics/Region.h"
+#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/TextEngine.h"
+
+#include <vector>
+
+namespace toolkit
+{
+
+struct DrawState
+{
+    Region clip; // in the surface's coordinates
+    CPoint origin;
+    COLORREF textColor = RGB(0, 0, 0);
+    FontStyle fontStyle = FontStyle::Regular;
+};
+
+class DeviceContext
+{
+public:
+    DeviceContext(Surface& target, CPoint origin, Region clip);
+
+    Surface& Target() const { return *m_pTarget; }
+    CPoint Origin() const { return m_state.origin; }
+    HBITMAP SelectedBitmap() const { return m_hSelected; } // NULL: draws into a surface that is no bitmap
+    HBITMAP OwnBitmap() const { return m_hOwn; }
+    DrawState& State() { return m_state; }
+
+    // Draws into the bitmap from now on, all of it. Saved states stay; they come back within its bounds.
+    void Select(HBITMAP hBitmap, Surface& target);
+    void SetOwnBitmap(HBITMAP hBitmap) { m_hOwn = hBitmap; }
+
+    int Save();
+    bool Restore(int depth); // as RestoreDC
+
+    // Calls draw with each part of the rectangle (relative to the origin) that may be drawn on, moved to the
+    // surface's coordinates. Nothing outside the surface comes, whatever became of it since the clip was set.
+    template <class Draw>
+    void VisitVisible(const CRect& rect, Draw draw) const
+    {
+        for (const CRect& clip : m_state.clip.Rects()) {
+            const CRect part = ((clip & m_pTarget->Bounds()) - m_state.origin) & rect;
+            if (!part.IsRectEmpty())
+                draw(part + m_state.origin);
+        }
+    }
+
+private:
+    Surface* m_pTarget;
+    HBITMAP m_hSelected = nullptr;
+    HBITMAP m_hOwn = nullptr;
+    DrawState m_state;
+    std::vector<DrawState> m_saved;
+};
+
+} // namespace toolkit

@@ -1,0 +1,180 @@
+// Drawing: each function finds its device context and draws the parts that the clip lets through.
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/GdiObjects.h"
+#include "Toolkit/graphics/Pixels.h"
+
+using toolkit::AllGdiObjects;
+using toolkit::DeviceContext;
+using toolkit::FindContext;
+using toolkit::Pixel;
+using toolkit::Surface;
+
+namespace
+{
+
+// Calls draw(first pixel, count) for each visible row of the rectangle.
+template <class Draw>
+void VisitRows(const DeviceContext& context, const CRect& rect, Draw draw)
+{
+    context.VisitVisible(rect, [&](const CRect& part) {
+        for (int y = part.top; y < part.bottom; ++y)
+            draw(context.Target().Row(y) + part.left, part.Width());
+    });
+}
+
+int Clamp(std::int64_t coordinate)
+{
+    return static_cast<int>(std::clamp<std::int64_t>(coordinate, INT32_MIN, INT32_MAX));
+}
+
+// A rectangle by its corner and size, its edges kept within what a coordinate can hold.
+CRect Place(std::int64_t x, std::int64_t y, CSize size)
+{
+    return {Clamp(x), Clamp(y), Clamp(x + size.cx), Clamp(y + size.cy)};
+}
+
+// Calls draw(target row, source row, count) for each visible row of a picture's part put at x, y.
+template <class Draw>
+void VisitPictureRows(const DeviceContext& context, CPoint at, const Surface& picture, const CRect& part, Draw draw)
+{
+    const CRect inside = part & picture.Bounds();
+    const CRect place =
+        Place(std::int64_t{at.x} + inside.left - part.left, std::int64_t{at.y} + inside.top - part.top, inside.Size());
+    if (&picture == &context.Target()) { // what is drawn is what was there before
+        const Surface copy = toolkit::Crop(picture, inside);
+        return VisitPictureRows(context, place.TopLeft(), copy, copy.Bounds(), draw);
+    }
+    context.VisitVisible(place, [&](const CRect& visible) {
+        const CPoint shift = inside.TopLeft() - place.TopLeft() - context.Origin();
+        for (int y = visible.top; y < visible.bottom; ++y)
+            draw(context.Target().Row(y) + visible.left, picture.Row(y + shift.y) + visible.left + shift.x,
+                 visible.Width());
+    });
+}
+
+// The outermost pixels of a rectangle, none of them twice.
+std::vector<CRect> EdgeOf(const CRect& rect)
+{
+    toolkit::Region edge(rect);
+    if (!edge.IsEmpty())
+        edge.Subtract({rect.left + 1, rect.top + 1, rect.right - 1, rect.bottom - 1});
+    return edge.Rects();
+}
+
+// Every pixel whose column and row add up to an even or, if `odd`, to an odd number.
+void InvertDots(Surface& target, const CRect& part, int odd)
+{
+    for (int y = part.top; y < part.bottom; ++y)
+        for (int x = part.left + ((part.left ^ y ^ odd) & 1); x < part.right; x += 2)
+            target.Row(y)[x] = toolkit::Inverted(target.At(x, y));
+}
+
+} // namespace
+
+BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return FALSE;
+    const Pixel pixel = toolkit::ToPixel(color);
+    VisitRows(*pContext, rect, [pixel](Pixel* row, int count) { toolkit::FillRow(row, count, pixel); });
+    return TRUE;
+}
+
+BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush)
+{
+    const toolkit::Brush* pBrush = AllGdiObjects().brushes.Find(hBrush);
+    return pBrush && FillSolidRect(hdc, rect, pBrush->color);
+}
+
+BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return FALSE;
+    const Pixel pixel = toolkit::ScalePixel(toolkit::ToPixel(color), alpha);
+    VisitRows(*pContext, rect, [pixel](Pixel* row, int count) { toolkit::BlendRow(row, count, pixel); });
+    return TRUE;
+}
+
+BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush)
+{
+    const toolkit::Brush* pBrush = AllGdiObjects().brushes.Find(hBrush);
+    if (!pBrush || !FindContext(hdc))
+        return FALSE;
+    for (const CRect& side : EdgeOf(rect))
+        FillSolidRect(hdc, side, pBrush->color);
+    return TRUE;
+}
+
+// The top left corner is always a dot, so that the dots move with the rectangle.
+BOOL DrawFocusRect(HDC hdc, const RECT& rect)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return FALSE;
+    const int odd = rect.left ^ rect.top ^ pContext->Origin().x ^ pContext->Origin().y;
+    for (const CRect& side : EdgeOf(rect))
+        pContext->VisitVisible(side, [&](const CRect& part) { InvertDots(pContext->Target(), part, odd); });
+    return TRUE;
+}
+
+BOOL TextOut(HDC hdc, int x, int y, std::string_view text)
+{
+    DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return FALSE;
+    toolkit::TextEngine& engine = toolkit::CurrentTextEngine();
+    const toolkit::DrawState& state = pContext->State();
+    // To the right without end, and a little to the left, where a glyph may overhang.
+    const int height = engine.LineHeight();
+    const CRect line = Place(std::int64_t{x} - height, y, {INT32_MAX, height});
+    pContext->VisitVisible(line, [&](const CRect& part) {
+        engine.Draw(pContext->Target(), part, CPoint(x, y) + state.origin, text, state.textColor, state.fontStyle);
+    });
+    return TRUE;
+}
+
+CSize GetTextExtent(HDC hdc, std::string_view text)
+{
+    DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return {};
+    toolkit::TextEngine& engine = toolkit::CurrentTextEngine();
+    return {engine.Measure(text, pContext->State().fontStyle), engine.LineHeight()};
+}
+
+BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    const DeviceContext* pSource = FindContext(hdcSource);
+    if (!pContext || !pSource)
+        return FALSE;
+    const CPoint origin = pSource->Origin();
+    const CRect part = Place(std::int64_t{xSource} + origin.x, std::int64_t{ySource} + origin.y, {cx, cy});
+    VisitPictureRows(*pContext, {x, y}, pSource->Target(), part,
+                     [](Pixel* to, const Pixel* from, int count) { std::copy_n(from, count, to); });
+    return TRUE;
+}
+
+BOOL AlphaBlt(HDC hdc, int x, int y, HBITMAP hSource)
+{
+    const Surface* pPicture = toolkit::BitmapSurface(hSource);
+    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture, pPicture->Bounds());
+}
+
+BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon)
+{
+    const Surface* pPicture = toolkit::IconSurface(hIcon);
+    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture, pPicture->Bounds());
+}
+
+BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    if (!pContext)
+        return FALSE;
+    VisitPictureRows(*pContext, at, picture, part,
+                     [](Pixel* to, const Pixel* from, int count) { BlendRow(to, from, count); });
+    return TRUE;
+}

@@ -1,0 +1,74 @@
+#include "Toolkit/graphics/GdiObjects.h"
+
+#include "Toolkit/graphics/Gdi.h"
+
+toolkit::GdiObjects& toolkit::AllGdiObjects()
+{
+    static GdiObjects& objects = *new GdiObjects;
+    return objects;
+}
+
+int toolkit::CountGdiObjects()
+{
+    const GdiObjects& all = AllGdiObjects();
+    return all.bitmaps.GetCount() + all.brushes.GetCount() + all.icons.GetCount() + all.contexts.GetCount() +
+           all.imageLists;
+}
+
+HBITMAP CreateBitmapFromSurface(toolkit::Surface surface)
+{
+    return toolkit::AllGdiObjects().bitmaps.Add(std::make_unique<toolkit::Bitmap>(toolkit::Bitmap{std::move(surface)}));
+}
+
+BOOL DeleteBitmap(HBITMAP hBitmap)
+{
+    auto& bitmaps = toolkit::AllGdiObjects().bitmaps;
+    const toolkit::Bitmap* pBitmap = bitmaps.Find(hBitmap);
+    if (!pBitmap || pBitmap->hdcSelected || pBitmap->hdcOwner)
+        return FALSE;
+    return bitmaps.Remove(hBitmap) != nullptr;
+}
+
+CSize GetBitmapSize(HBITMAP hBitmap)
+{
+    const toolkit::Surface* pSurface = toolkit::BitmapSurface(hBitmap);
+    return pSurface ? pSurface->Bounds().Size() : CSize();
+}
+
+toolkit::Surface* toolkit::BitmapSurface(HBITMAP hBitmap)
+{
+    Bitmap* pBitmap = AllGdiObjects().bitmaps.Find(hBitmap);
+    return pBitmap ? &pBitmap->surface : nullptr;
+}
+
+HBRUSH CreateSolidBrush(COLORREF color)
+{
+    return toolkit::AllGdiObjects().brushes.Add(std::make_unique<toolkit::Brush>(toolkit::Brush{color}));
+}
+
+BOOL DeleteBrush(HBRUSH hBrush)
+{
+    return toolkit::AllGdiObjects().brushes.Remove(hBrush) != nullptr;
+}
+
+HICON CreateIconFromSurface(toolkit::Surface surface)
+{
+    return toolkit::AllGdiObjects().icons.Add(std::make_unique<toolkit::Icon>(toolkit::Icon{std::move(surface)}));
+}
+
+BOOL DestroyIcon(HICON hIcon)
+{
+    return toolkit::AllGdiObjects().icons.Remove(hIcon) != nullptr;
+}
+
+CSize GetIconSize(HICON hIcon)
+{
+    const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
+    return pSurface ? pSurface->Bounds().Size() : CSize();
+}
+
+const toolkit::Surface* toolkit::IconSurface(HICON hIcon)
+{
+    const Icon* pIcon = AllGdiObjects().icons.Find(hIcon);
+    return pIcon ? &pIcon->surface : nullptr;
+}

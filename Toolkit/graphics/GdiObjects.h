@@ -1,0 +1,44 @@
+// What stands behind the handles of drawing objects. Internal to the graphics layer.
+#pragma once
+
+#include "Toolkit/base/HandleTable.h"
+#include "Toolkit/graphics/DeviceContext.h"
+
+namespace toolkit
+{
+
+struct Bitmap
+{
+    Surface surface;
+    HDC hdcSelected = nullptr; // the device context that draws into it
+    HDC hdcOwner = nullptr;    // the device context that it was made with and goes with
+};
+
+struct Brush
+{
+    COLORREF color;
+};
+
+struct Icon
+{
+    Surface surface;
+};
+
+struct GdiObjects
+{
+    HandleTable<HBITMAP, Bitmap> bitmaps;
+    HandleTable<HBRUSH, Brush> brushes;
+    HandleTable<HICON, Icon> icons;
+    HandleTable<HDC, DeviceContext> contexts;
+    int imageLists = 0; // alive; their table is their own
+};
+
+// All of the process. Never destroyed, so that a library that is unloaded late still finds what it gives back.
+GdiObjects& AllGdiObjects();
+
+inline DeviceContext* FindContext(HDC hdc)
+{
+    return AllGdiObjects().contexts.Find(hdc);
+}
+
+} // namespace toolkit

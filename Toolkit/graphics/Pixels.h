@@ -1,0 +1,56 @@
+// Arithmetic on premultiplied pixels, and the loops over a row of them that all drawing is made of.
+//
+// Two channels share one multiplication, so that the loops come out as vector code. Results are rounded to the
+// nearest value: the same on every machine.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+
+#include <algorithm>
+
+namespace toolkit
+{
+
+// Each channel times part / 255. part is 0 to 255.
+constexpr Pixel ScalePixel(Pixel pixel, std::uint32_t part)
+{
+    constexpr std::uint32_t kTwo = 0x00FF00FF;
+    std::uint32_t even = (pixel & kTwo) * part + 0x00800080;
+    even = ((even + (even >> 8 & kTwo)) >> 8) & kTwo;
+    std::uint32_t odd = (pixel >> 8 & kTwo) * part + 0x00800080;
+    odd = (odd + (odd >> 8 & kTwo)) & ~kTwo;
+    return even | odd;
+}
+
+// What is seen when `above` lies on `below`.
+constexpr Pixel Over(Pixel above, Pixel below)
+{
+    return above + ScalePixel(below, 255 - (above >> 24));
+}
+
+// Each colour turned into its opposite, as seen through the same alpha. Done twice it is undone.
+constexpr Pixel Inverted(Pixel pixel)
+{
+    const std::uint32_t alpha = pixel >> 24;
+    return (pixel & 0xFF000000u) | ((alpha * 0x010101u - (pixel & 0xFFFFFFu)) & 0xFFFFFFu);
+}
+
+inline void FillRow(Pixel* to, int count, Pixel pixel)
+{
+    std::fill_n(to, count, pixel);
+}
+
+inline void BlendRow(Pixel* to, int count, Pixel above)
+{
+    for (int i = 0; i < count; ++i)
+        to[i] = Over(above, to[i]);
+}
+
+// The rows must not overlap.
+inline void BlendRow(Pixel* __restrict to, const Pixel* __restrict from, int count)
+{
+    for (int i = 0; i < count; ++i)
+        to[i] = Over(from[i], to[i]);
+}
+
+} // namespace toolkit

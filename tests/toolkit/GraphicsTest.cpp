@@ -1,0 +1,193 @@
+#include "Toolkit/graphics/Gdi.h"
+#include "tests/toolkit/Picture.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+constexpr COLORREF kRed = RGB(255, 0, 0), kGreen = RGB(0, 255, 0), kBlack = RGB(0, 0, 0);
+
+// A device context on a white surface; everything made during a test must be gone at its end.
+class GraphicsTest : public testing::Test
+{
+protected:
+    void SetUp() override { Begin({6, 4}); }
+    void TearDown() override
+    {
+        DeleteDC(hdc);
+        EXPECT_EQ(0, toolkit::CountGdiObjects());
+    }
+
+    void Begin(CSize size, CPoint origin = {})
+    {
+        DeleteDC(hdc);
+        surface = toolkit::Surface(size, 0xFFFFFFFF);
+        hdc = toolkit::CreateSurfaceDC(surface, origin, toolkit::Region({0, 0, size.cx, size.cy}));
+    }
+
+    toolkit::Surface surface;
+    HDC hdc = nullptr;
+};
+
+TEST_F(GraphicsTest, FillsAndFramesInsideTheRectangleAndTheSurface)
+{
+    const HBRUSH hBrush = CreateSolidBrush(kBlack);
+    EXPECT_TRUE(FillSolidRect(hdc, CRect(4, -3, INT32_MAX, 2), kRed));
+    EXPECT_TRUE(FrameRect(hdc, CRect(0, 1, 4, 4), hBrush));
+    EXPECT_TRUE(FillRect(hdc, CRect(5, 3, 6, 4), hBrush));
+    EXPECT_TRUE(FillSolidRect(hdc, CRect(3, 3, 1, 1), kGreen)); // an empty one
+    EXPECT_TRUE(DeleteBrush(hBrush));
+
+    EXPECT_EQ((Rows{
+                  "....RR",
+                  "####RR",
+                  "#..#..",
+                  "####.#",
+              }),
+              ShowPicture(surface));
+}
+
+TEST_F(GraphicsTest, DrawsRelativeToTheOriginAndThroughTheClip)
+{
+    Begin({6, 4}, {1, 1});
+    EXPECT_EQ(1, SaveDC(hdc));
+    EXPECT_TRUE(IntersectClipRect(hdc, CRect(0, 0, 4, 9)));
+    EXPECT_EQ(2, SaveDC(hdc));
+    EXPECT_TRUE(ExcludeClipRect(hdc, CRect(1, 1, 3, 2)));
+    EXPECT_FALSE(RectVisible(hdc, CRect(1, 1, 3, 2)));
+    EXPECT_TRUE(RectVisible(hdc, CRect(1, 1, 4, 2)));
+    FillSolidRect(hdc, CRect(-9, -9, 9, 9), kRed);
+    EXPECT_EQ((Rows{
+                  "......",
+                  ".RRRR.",
+                  ".R..R.",
+                  ".RRRR.",
+              }),
+              ShowPicture(surface));
+
+    SetTextColor(hdc, kRed);
+    EXPECT_FALSE(RestoreDC(hdc, 3));
+    EXPECT_TRUE(RestoreDC(hdc, 1)); // over the second one
+    EXPECT_FALSE(RestoreDC(hdc, -1));
+    EXPECT_EQ(kBlack, SetTextColor(hdc, kGreen));
+    FillSolidRect(hdc, CRect(-1, -1, 0, 3), kGreen);
+    EXPECT_EQ("G.....", ShowPicture(surface)[0]);
+}
+
+TEST_F(GraphicsTest, AFocusRectangleDrawnTwiceIsGone)
+{
+    FillSolidRect(hdc, CRect(0, 0, 3, 4), kRed);
+    const Rows before = ShowPicture(surface);
+    DrawFocusRect(hdc, CRect(1, 0, 6, 4));
+    EXPECT_EQ(0xFF00FFFF, surface.At(1, 0)); // red's opposite
+    FillSolidRect(hdc, CRect(0, 0, 3, 4), kGreen);
+    EXPECT_EQ((Rows{
+                  "GGG#.#",
+                  "GGG...",
+                  "GGG..#",
+                  "GGG.#.",
+              }),
+              ShowPicture(surface));
+
+    DrawFocusRect(hdc, CRect(0, 0, 1, 4)); // one pixel wide: each once
+    DrawFocusRect(hdc, CRect(0, 0, 1, 4));
+    DrawFocusRect(hdc, CRect(3, 0, 6, 4));
+    DrawFocusRect(hdc, CRect(3, 0, 6, 4));
+    DrawFocusRect(hdc, CRect(1, 0, 6, 4));
+    FillSolidRect(hdc, CRect(0, 0, 3, 4), kRed);
+    EXPECT_EQ(before, ShowPicture(surface));
+}
+
+TEST_F(GraphicsTest, BlendsByAlphaWithoutDriftAtTheEnds)
+{
+    BlendRect(hdc, CRect(0, 0, 1, 1), kRed, 255);
+    BlendRect(hdc, CRect(1, 0, 2, 1), kRed, 0);
+    BlendRect(hdc, CRect(2, 0, 3, 1), kBlack, 128);
+    BlendRect(hdc, CRect(3, 0, 4, 1), RGB(255, 255, 255), 77);
+    EXPECT_EQ("R.?.", ShowPicture(surface)[0].substr(0, 4));
+    EXPECT_EQ(0xFF7F7F7F, surface.At(2, 0));
+
+    surface.Row(1)[0] = 0;
+    BlendRect(hdc, CRect(0, 1, 1, 2), kRed, 128);
+    EXPECT_EQ(0x80800000, surface.At(0, 1)); // over nothing the colour stays half transparent
+}
+
+TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheirAlpha)
+{
+    const HBITMAP hPicture = CreateBitmapFromSurface(MakePicture({"R r", "GGG"}));
+    const HDC hdcMemory = CreateCompatibleDC(hdc);
+    const HBITMAP hOwn = SelectBitmap(hdcMemory, hPicture);
+
+    AlphaBlt(hdc, -1, 0, hPicture);
+    BitBlt(hdc, 3, 1, 9, 9, hdcMemory, 0, 0);
+    EXPECT_EQ((Rows{
+                  ".?....",
+                  "GG.R r",
+                  "...GGG",
+                  "......",
+              }),
+              ShowPicture(surface));
+    EXPECT_EQ(0xFFFF7F7F, surface.At(1, 0));
+
+    BitBlt(hdc, 2, 1, 6, 3, hdc, 0, 0); // onto itself
+    EXPECT_EQ((Rows{
+                  ".?....",
+                  "GG.?..",
+                  "..GG.R",
+                  ".....G",
+              }),
+              ShowPicture(surface));
+
+    EXPECT_EQ(hPicture, SelectBitmap(hdcMemory, hOwn));
+    EXPECT_TRUE(DeleteDC(hdcMemory));
+    EXPECT_TRUE(DeleteBitmap(hPicture));
+}
+
+TEST_F(GraphicsTest, ASelectedBitmapCannotBeDeletedNorSelectedElsewhere)
+{
+    const HDC hdcOne = CreateCompatibleDC(nullptr);
+    const HDC hdcTwo = CreateCompatibleDC(hdcOne);
+    const HBITMAP hBitmap = CreateBitmapFromSurface(toolkit::Surface({3, 2}, 0xFFFFFFFF));
+
+    const HBITMAP hOwn = SelectBitmap(hdcOne, hBitmap);
+    EXPECT_EQ(CSize(1, 1), GetBitmapSize(hOwn));
+    EXPECT_EQ(nullptr, SelectBitmap(hdcTwo, hBitmap));
+    EXPECT_EQ(nullptr, SelectBitmap(hdcTwo, hOwn));
+    EXPECT_EQ(nullptr, SelectBitmap(hdc, hBitmap)); // draws into a surface
+    EXPECT_FALSE(DeleteBitmap(hBitmap));
+    EXPECT_FALSE(DeleteBitmap(hOwn));
+    EXPECT_EQ(hBitmap, SelectBitmap(hdcOne, hBitmap));
+
+    FillSolidRect(hdcOne, CRect(1, 0, 2, 9), kRed);
+    EXPECT_EQ((Rows{".R.", ".R."}), ShowPicture(*toolkit::BitmapSurface(hBitmap)));
+
+    EXPECT_TRUE(DeleteDC(hdcOne)); // lets go of the bitmap
+    EXPECT_EQ(CSize(), GetBitmapSize(hOwn));
+    EXPECT_NE(nullptr, SelectBitmap(hdcTwo, hBitmap));
+    EXPECT_TRUE(DeleteDC(hdcTwo));
+    EXPECT_TRUE(DeleteBitmap(hBitmap));
+}
+
+TEST_F(GraphicsTest, StaleAndNullHandlesAreRefused)
+{
+    const HBRUSH hBrush = CreateSolidBrush(kRed);
+    const HDC hdcGone = CreateCompatibleDC(hdc);
+    EXPECT_TRUE(DeleteBrush(hBrush));
+    EXPECT_TRUE(DeleteDC(hdcGone));
+
+    EXPECT_FALSE(DeleteBrush(hBrush));
+    EXPECT_FALSE(FillRect(hdc, CRect(0, 0, 2, 2), hBrush));
+    EXPECT_FALSE(FrameRect(hdc, CRect(0, 0, 2, 2), hBrush));
+    EXPECT_FALSE(FillSolidRect(hdcGone, CRect(0, 0, 2, 2), kRed));
+    EXPECT_EQ(nullptr, CreateCompatibleDC(hdcGone));
+    EXPECT_EQ(nullptr, SelectBitmap(hdcGone, nullptr));
+    EXPECT_EQ(0, SaveDC(hdcGone));
+    EXPECT_FALSE(TextOut(nullptr, 0, 0, "x"));
+    EXPECT_FALSE(BitBlt(hdc, 0, 0, 2, 2, hdcGone, 0, 0));
+    EXPECT_FALSE(AlphaBlt(hdc, 0, 0, nullptr));
+    EXPECT_FALSE(DrawIcon(hdc, 0, 0, nullptr));
+    EXPECT_EQ(ShowPicture(toolkit::Surface({6, 4}, 0xFFFFFFFF)), ShowPicture(surface));
+}
+
+} // namespace

@@ -1,0 +1,85 @@
+#include "Toolkit/graphics/Region.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <set>
+#include <utility>
+
+namespace
+{
+
+using toolkit::Region;
+using Pixels = std::set<std::pair<int, int>>;
+
+Pixels PixelsOf(const CRect& rect)
+{
+    Pixels pixels;
+    for (int y = rect.top; y < rect.bottom; ++y)
+        for (int x = rect.left; x < rect.right; ++x)
+            pixels.emplace(x, y);
+    return pixels;
+}
+
+// Also checks that no pixel is in the region twice.
+Pixels PixelsOf(const Region& region)
+{
+    Pixels pixels;
+    std::size_t area = 0;
+    for (const CRect& rect : region.Rects()) {
+        EXPECT_FALSE(rect.IsRectEmpty());
+        area += static_cast<std::size_t>(rect.Width() * rect.Height());
+        pixels.merge(PixelsOf(rect));
+    }
+    EXPECT_EQ(area, pixels.size());
+    return pixels;
+}
+
+TEST(RegionTest, HoldsExactlyThePixelsThatWereAddedAndNotTakenAway)
+{
+    std::mt19937 random(7);
+    const auto rect = [&random] {
+        const int x = static_cast<int>(random() % 12), y = static_cast<int>(random() % 12);
+        return CRect(x, y, x + static_cast<int>(random() % 7), y + static_cast<int>(random() % 7));
+    };
+    for (int round = 0; round < 200; ++round) {
+        Region region(rect());
+        Pixels expected = PixelsOf(region);
+        for (int step = 0; step < 4; ++step) {
+            const CRect added = rect(), taken = rect(), kept(1, 1, 15, 15);
+            region.Add(added);
+            expected.merge(PixelsOf(added));
+            region.Subtract(taken);
+            for (const auto& pixel : PixelsOf(taken))
+                expected.erase(pixel);
+            if (region.Rects().size() > 12)
+                break; // beyond 16 the region may hold more
+            ASSERT_EQ(expected, PixelsOf(region)) << "round " << round << " step " << step;
+        }
+        region.Intersect({3, 3, 9, 9});
+        std::erase_if(expected, [](auto p) { return p.first < 3 || p.first > 8 || p.second < 3 || p.second > 8; });
+        ASSERT_EQ(expected, PixelsOf(region)) << "round " << round;
+    }
+}
+
+TEST(RegionTest, ManyRectanglesBecomeTheirBounds)
+{
+    Region region;
+    for (int i = 0; i < 16; ++i)
+        region.Add(CRect(i * 10, i * 10, i * 10 + 5, i * 10 + 5));
+    EXPECT_EQ(16u, region.Rects().size());
+
+    region.Add({2, 2, 4, 4}); // inside one that is there
+    EXPECT_EQ(16u, region.Rects().size());
+
+    region.Add({200, 0, 201, 1});
+    ASSERT_EQ(1u, region.Rects().size());
+    EXPECT_EQ(CRect(0, 0, 201, 155), region.Rects()[0]);
+
+    region.Offset({-1, 2});
+    EXPECT_EQ(CRect(-1, 2, 200, 157), region.Bounds());
+    region.Subtract({-5, 0, 300, 300});
+    EXPECT_TRUE(region.IsEmpty());
+    EXPECT_EQ(CRect(), region.Bounds());
+}
+
+} // namespace
