@@ -9,6 +9,7 @@ class TOOLKIT_API CListCtrl : public CWnd
 {
 public:
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID);
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override; // names the control's class
 
     int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
     BOOL SetItemCount(int nItems) { return SendMessage(LVM_SETITEMCOUNT, static_cast<WPARAM>(nItems)) != 0; }

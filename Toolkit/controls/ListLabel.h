@@ -1,0 +1,24 @@
+// How a row's name is set below its picture: in up to two lines, the last one cut with dots when it must be.
+#pragma once
+
+#include "Toolkit/graphics/TextEngine.h"
+
+#include <string>
+#include <vector>
+
+namespace toolkit
+{
+
+struct LabelLine
+{
+    std::string text;
+    int width; // pixels
+};
+
+// Breaks between words, and behind hyphens and underscores; inside a word where the line would stay more than half
+// empty, or where the whole name can be shown only so. Control characters count as spaces. Never wider than `width`,
+// unless a single character or the dots alone are. No line for a text without visible characters. Measures a
+// logarithmic number of times.
+TOOLKIT_API std::vector<LabelLine> WrapLabel(std::string_view text, int width, int maxLines);
+
+} // namespace toolkit

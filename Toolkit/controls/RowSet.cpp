@@ -1,0 +1,93 @@
+#include "Toolkit/controls/RowSet.h"
+
+#include <algorithm>
+
+namespace toolkit
+{
+
+RowSet::Ranges::const_iterator RowSet::FirstEndingAfter(int row) const
+{
+    auto it = m_ranges.upper_bound(row);
+    if (it != m_ranges.begin() && std::prev(it)->second > row)
+        --it;
+    return it;
+}
+
+bool RowSet::Contains(int row) const
+{
+    const auto it = FirstEndingAfter(row);
+    return it != m_ranges.end() && it->first <= row;
+}
+
+int RowSet::Next(int after) const
+{
+    const RowRange range = NextRange(after);
+    return range.IsEmpty() ? -1 : range.first;
+}
+
+RowRange RowSet::NextRange(int after) const
+{
+    if (after == kNoEnd)
+        return {0, 0};
+    const auto it = FirstEndingAfter(after + 1);
+    if (it == m_ranges.end())
+        return {0, 0};
+    return {std::max(it->first, after + 1), it->second};
+}
+
+void RowSet::Insert(RowRange range)
+{
+    if (range.IsEmpty())
+        return;
+    // Ranges that overlap or touch the new one become part of it.
+    auto it = FirstEndingAfter(range.first - 1);
+    while (it != m_ranges.end() && it->first <= range.end) {
+        range.first = std::min(range.first, it->first);
+        range.end = std::max(range.end, it->second);
+        m_nCount -= it->second - it->first;
+        it = m_ranges.erase(it);
+    }
+    m_ranges.emplace_hint(it, range.first, range.end);
+    m_nCount += range.Count();
+}
+
+void RowSet::Erase(RowRange range)
+{
+    if (range.IsEmpty())
+        return;
+    auto it = FirstEndingAfter(range.first);
+    while (it != m_ranges.end() && it->first < range.end) {
+        const RowRange old{it->first, it->second};
+        m_nCount -= old.Count();
+        it = m_ranges.erase(it);
+        for (const RowRange kept : {RowRange{old.first, range.first}, RowRange{range.end, old.end}}) {
+            if (kept.IsEmpty())
+                continue;
+            m_ranges.emplace_hint(it, kept.first, kept.end);
+            m_nCount += kept.Count();
+        }
+    }
+}
+
+void RowSet::Clear()
+{
+    m_ranges.clear();
+    m_nCount = 0;
+}
+
+RowSet RowSet::Without(const RowSet& other) const
+{
+    RowSet rest;
+    for (const auto& [first, end] : m_ranges) {
+        int from = first;
+        for (RowRange gone = other.NextRange(from - 1); !gone.IsEmpty() && gone.first < end;
+             gone = other.NextRange(gone.end)) {
+            rest.Insert({from, gone.first});
+            from = gone.end;
+        }
+        rest.Insert({from, end});
+    }
+    return rest;
+}
+
+} // namespace toolkit

@@ -1,0 +1,124 @@
+#include "Toolkit/controls/RowStates.h"
+
+#include <gtest/gtest.h>
+#include <random>
+#include <set>
+#include <sstream>
+
+using namespace toolkit;
+
+namespace
+{
+
+std::string Text(const RowSet& rows)
+{
+    std::ostringstream text;
+    for (RowRange run = rows.NextRange(-1); !run.IsEmpty(); run = rows.NextRange(run.end)) {
+        text << (text.tellp() > 0 ? " " : "") << run.first;
+        if (run.Count() > 1)
+            text << '-' << run.end - 1;
+    }
+    return text.str();
+}
+
+TEST(RowSetTest, NeighboursBecomeOneRangeAndAHoleSplitsIt)
+{
+    RowSet rows;
+    rows.Insert({3, 4});
+    rows.Insert({5, 6});
+    EXPECT_EQ("3 5", Text(rows));
+    rows.Insert({4, 5});
+    EXPECT_EQ("3-5", Text(rows));
+    rows.Insert({0, 10});
+    rows.Erase({4, 6});
+    EXPECT_EQ("0-3 6-9", Text(rows));
+    EXPECT_EQ(8, rows.Count());
+    rows.Truncate(7);
+    EXPECT_EQ("0-3 6", Text(rows));
+    EXPECT_EQ("1-2", Text(rows.Without(RowSet({3, 9})).Without(RowSet({0, 1}))));
+    rows.Insert({2, 2}); // empty
+    rows.Erase({9, 2});
+    EXPECT_EQ(5, rows.Count());
+}
+
+TEST(RowSetTest, TheLastRowOfTheLongestListIsLikeAnyOther)
+{
+    constexpr int kMost = 0x7FFFFFFF;
+    RowSet rows({0, kMost});
+    EXPECT_EQ(kMost, rows.Count());
+    EXPECT_TRUE(rows.Contains(kMost - 1));
+    EXPECT_EQ(kMost - 1, rows.Next(kMost - 2));
+    EXPECT_EQ(-1, rows.Next(kMost - 1));
+    EXPECT_EQ(-1, rows.Next(kMost));
+    rows.Erase({1, kMost - 1});
+    EXPECT_EQ(2, rows.Count());
+}
+
+TEST(RowSetTest, AgreesWithAPlainSetWhateverIsDone)
+{
+    std::mt19937 random(7);
+    RowSet rows;
+    std::set<int> plain;
+    const auto below = [&](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
+    for (int step = 0; step < 3000; ++step) {
+        const int first = below(60), end = first + below(9);
+        const bool insert = below(2) == 0;
+        insert ? rows.Insert({first, end}) : rows.Erase({first, end});
+        for (int row = first; row < end; ++row)
+            insert ? void(plain.insert(row)) : void(plain.erase(row));
+
+        ASSERT_EQ(static_cast<int>(plain.size()), rows.Count());
+        const int asked = below(70) - 1;
+        ASSERT_EQ(plain.count(asked) > 0, rows.Contains(asked));
+        const auto next = plain.upper_bound(asked);
+        ASSERT_EQ(next == plain.end() ? -1 : *next, rows.Next(asked));
+        const RowSet other({below(60), 40});
+        std::set<int> rest;
+        for (const int row : plain)
+            if (!other.Contains(row))
+                rest.insert(row);
+        RowSet expected;
+        for (const int row : rest)
+            expected.Insert({row, row + 1});
+        ASSERT_EQ(Text(expected), Text(rows.Without(other)));
+    }
+}
+
+TEST(RowStatesTest, TheNextRowHasAllTheStatesAskedFor)
+{
+    RowStates rows;
+    rows.SetCount(10);
+    rows.Set(2, LVIS_SELECTED, LVIS_SELECTED);
+    rows.Set(5, LVIS_SELECTED | LVIS_CUT, LVIS_SELECTED | LVIS_CUT);
+    rows.Set(7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    rows.Set(8, LVIS_CUT, LVIS_CUT);
+
+    EXPECT_EQ(2, rows.Next(-1, LVIS_SELECTED));
+    EXPECT_EQ(5, rows.Next(2, LVIS_SELECTED));
+    EXPECT_EQ(5, rows.Next(-1, LVIS_SELECTED | LVIS_CUT));
+    EXPECT_EQ(-1, rows.Next(5, LVIS_SELECTED | LVIS_CUT));
+    EXPECT_EQ(7, rows.Next(-1, LVIS_FOCUSED | LVIS_SELECTED));
+    EXPECT_EQ(-1, rows.Next(-1, LVIS_FOCUSED | LVIS_CUT));
+    EXPECT_EQ(-1, rows.Next(7, LVIS_FOCUSED));
+    EXPECT_EQ(9, rows.Next(8, 0));
+    EXPECT_EQ(-1, rows.Next(9, 0));
+}
+
+TEST(RowStatesTest, AShorterListForgetsWhatLayBeyondIt)
+{
+    RowStates rows;
+    rows.SetCount(1000000);
+    rows.SetAll(LVIS_SELECTED, LVIS_SELECTED);
+    rows.Set(999999, LVIS_FOCUSED, LVIS_FOCUSED);
+    rows.SetAnchor(500000);
+    EXPECT_EQ(1000000, rows.CountWith(LVIS_SELECTED));
+
+    rows.SetCount(3);
+    rows.SetCount(5);
+    EXPECT_EQ(3, rows.CountWith(LVIS_SELECTED));
+    EXPECT_EQ(0u, rows.State(3));
+    EXPECT_EQ(-1, rows.Focus());
+    EXPECT_EQ(-1, rows.Anchor());
+}
+
+} // namespace
