@@ -10,6 +10,7 @@
 
 // Bitmaps.
 TOOLKIT_API HBITMAP CreateBitmapFromSurface(toolkit::Surface surface);
+TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy); // black; NULL when an extent is not positive
 TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap); // FALSE, too, while it is selected into a device context
 TOOLKIT_API CSize GetBitmapSize(HBITMAP hBitmap); // 0 by 0 for no bitmap
 
@@ -21,6 +22,16 @@ TOOLKIT_API BOOL DeleteBrush(HBRUSH hBrush);
 TOOLKIT_API HICON CreateIconFromSurface(toolkit::Surface surface);
 TOOLKIT_API BOOL DestroyIcon(HICON hIcon);
 TOOLKIT_API CSize GetIconSize(HICON hIcon);
+
+struct ICONINFO
+{
+    BOOL fIcon;
+    DWORD xHotspot, yHotspot;
+    HBITMAP hbmMask;  // white where nothing of the icon is seen
+    HBITMAP hbmColor; // with the icon's own alpha
+};
+// New bitmaps of the icon, for the caller to delete; FALSE, and no change, when refused.
+TOOLKIT_API BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo);
 
 // Memory device contexts. A new one has a 1 by 1 bitmap of its own until another is selected into it.
 TOOLKIT_API HDC CreateCompatibleDC(HDC hdc); // NULL as argument is right, too
@@ -36,12 +47,28 @@ TOOLKIT_API BOOL RectVisible(HDC hdc, const RECT& rect); // does the clip let an
 TOOLKIT_API int SaveDC(HDC hdc);                         // clip, colours, font and origin; the depth, from 1
 TOOLKIT_API BOOL RestoreDC(HDC hdc, int nSaved);         // back to that depth; -1: the last one
 
+// A rectangle's edges: two lines on each side asked for, the outer one first.
+inline constexpr UINT BDR_RAISEDOUTER = 0x0001;
+inline constexpr UINT BDR_SUNKENOUTER = 0x0002;
+inline constexpr UINT BDR_RAISEDINNER = 0x0004;
+inline constexpr UINT BDR_SUNKENINNER = 0x0008;
+inline constexpr UINT EDGE_RAISED = BDR_RAISEDOUTER | BDR_RAISEDINNER;
+inline constexpr UINT EDGE_SUNKEN = BDR_SUNKENOUTER | BDR_SUNKENINNER;
+inline constexpr UINT EDGE_ETCHED = BDR_SUNKENOUTER | BDR_RAISEDINNER;
+inline constexpr UINT EDGE_BUMP = BDR_RAISEDOUTER | BDR_SUNKENINNER;
+inline constexpr UINT BF_LEFT = 0x0001;
+inline constexpr UINT BF_TOP = 0x0002;
+inline constexpr UINT BF_RIGHT = 0x0004;
+inline constexpr UINT BF_BOTTOM = 0x0008;
+inline constexpr UINT BF_RECT = BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM;
+
 // Drawing.
 TOOLKIT_API BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color);
 TOOLKIT_API BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush);
 TOOLKIT_API BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha); // 255 covers, 0 leaves
 TOOLKIT_API BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush);              // one pixel wide, inside
 TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverting: drawn twice it is gone
+TOOLKIT_API BOOL DrawEdge(HDC hdc, const RECT& rect, UINT edge, UINT flags); // BDR_* or EDGE_*, BF_*
 TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text); // top left of the line; background kept
 TOOLKIT_API CSize GetTextExtent(HDC hdc, std::string_view text);
 TOOLKIT_API BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource); // copies

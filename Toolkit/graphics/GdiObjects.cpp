@@ -1,6 +1,7 @@
 #include "Toolkit/graphics/GdiObjects.h"
 
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/Transparency.h"
 
 toolkit::GdiObjects& toolkit::AllGdiObjects()
 {
@@ -12,12 +13,19 @@ int toolkit::CountGdiObjects()
 {
     const GdiObjects& all = AllGdiObjects();
     return all.bitmaps.GetCount() + all.brushes.GetCount() + all.icons.GetCount() + all.contexts.GetCount() +
-           all.imageLists;
+           all.imageLists.GetCount();
 }
 
 HBITMAP CreateBitmapFromSurface(toolkit::Surface surface)
 {
     return toolkit::AllGdiObjects().bitmaps.Add(std::make_unique<toolkit::Bitmap>(toolkit::Bitmap{std::move(surface)}));
+}
+
+HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy)
+{
+    if (!toolkit::FindContext(hdc) || cx <= 0 || cy <= 0)
+        return nullptr;
+    return CreateBitmapFromSurface(toolkit::Surface({cx, cy}, toolkit::ToPixel(RGB(0, 0, 0))));
 }
 
 BOOL DeleteBitmap(HBITMAP hBitmap)
@@ -65,6 +73,18 @@ CSize GetIconSize(HICON hIcon)
 {
     const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
     return pSurface ? pSurface->Bounds().Size() : CSize();
+}
+
+BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo)
+{
+    const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
+    if (!pSurface || !pInfo)
+        return FALSE;
+    toolkit::Surface mask = toolkit::MaskOfAlpha(*pSurface);
+    toolkit::Surface color = *pSurface;
+    *pInfo = {TRUE, static_cast<DWORD>(pSurface->Width() / 2), static_cast<DWORD>(pSurface->Height() / 2),
+              CreateBitmapFromSurface(std::move(mask)), CreateBitmapFromSurface(std::move(color))};
+    return TRUE;
 }
 
 const toolkit::Surface* toolkit::IconSurface(HICON hIcon)

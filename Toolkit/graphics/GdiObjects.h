@@ -3,6 +3,7 @@
 
 #include "Toolkit/base/HandleTable.h"
 #include "Toolkit/graphics/DeviceContext.h"
+#include "Toolkit/graphics/ImageStore.h"
 
 namespace toolkit
 {
@@ -30,7 +31,7 @@ struct GdiObjects
     HandleTable<HBRUSH, Brush> brushes;
     HandleTable<HICON, Icon> icons;
     HandleTable<HDC, DeviceContext> contexts;
-    int imageLists = 0; // alive; their table is their own
+    HandleTable<HIMAGELIST, ImageStore> imageLists;
 };
 
 // All of the process. Never destroyed, so that a library that is unloaded late still finds what it gives back.

@@ -28,6 +28,13 @@ constexpr Pixel Over(Pixel above, Pixel below)
     return above + ScalePixel(below, 255 - (above >> 24));
 }
 
+// The mean of the pixel and an opaque tint seen through the pixel's own alpha, which stays; rounded down.
+constexpr Pixel Tinted(Pixel pixel, Pixel tint)
+{
+    const Pixel covering = ScalePixel(tint, pixel >> 24);
+    return (pixel & covering) + ((pixel ^ covering) >> 1 & 0x7F7F7F7F);
+}
+
 // Each colour turned into its opposite, as seen through the same alpha. Done twice it is undone.
 constexpr Pixel Inverted(Pixel pixel)
 {
@@ -51,6 +58,12 @@ inline void BlendRow(Pixel* __restrict to, const Pixel* __restrict from, int cou
 {
     for (int i = 0; i < count; ++i)
         to[i] = Over(from[i], to[i]);
+}
+
+inline void TintRow(Pixel* row, int count, Pixel opaqueTint)
+{
+    for (int i = 0; i < count; ++i)
+        row[i] = Tinted(row[i], opaqueTint);
 }
 
 } // namespace toolkit

@@ -35,6 +35,12 @@ private:
     std::map<UINT, toolkit::Surface> m_icons;
 };
 
+namespace toolkit
+{
+// The first bitmap resource of that number along the chain; NULL without one. The module keeps it.
+TOOLKIT_API const Surface* FindBitmapResource(UINT nID);
+} // namespace toolkit
+
 // A new bitmap or icon made from the first resource of that number along the chain; NULL without one.
 TOOLKIT_API HBITMAP LoadBitmap(UINT nID);
 TOOLKIT_API HICON LoadIcon(UINT nID);

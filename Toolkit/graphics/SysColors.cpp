@@ -15,6 +15,8 @@ COLORREF GetSysColor(int nIndex)
         return RGB(160, 160, 160);
     case COLOR_3DDKSHADOW:
         return RGB(105, 105, 105);
+    case COLOR_3DLIGHT:
+        return RGB(243, 243, 243);
     case COLOR_GRAYTEXT:
         return RGB(109, 109, 109);
     default:

@@ -13,5 +13,6 @@ inline constexpr int COLOR_GRAYTEXT = 17;
 inline constexpr int COLOR_BTNTEXT = 18;
 inline constexpr int COLOR_BTNHIGHLIGHT = 20; // the lit side of a raised edge
 inline constexpr int COLOR_3DDKSHADOW = 21;   // the dark side's outer line
+inline constexpr int COLOR_3DLIGHT = 22;      // the lit side's outer line
 
 TOOLKIT_API COLORREF GetSysColor(int nIndex); // black for an unknown one

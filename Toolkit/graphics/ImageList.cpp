@@ -1,0 +1,184 @@
+#include "Toolkit/graphics/ImageList.h"
+
+#include "Toolkit/graphics/GdiObjects.h"
+#include "Toolkit/graphics/ImageStore.h"
+#include "Toolkit/graphics/Pixels.h"
+#include "Toolkit/graphics/Resources.h"
+#include "Toolkit/graphics/Scale.h"
+#include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/graphics/Transparency.h"
+
+#include <utility>
+
+using toolkit::ImageStore;
+using toolkit::Surface;
+
+namespace
+{
+
+ImageStore* FindStore(HIMAGELIST himl)
+{
+    return toolkit::AllGdiObjects().imageLists.Find(himl);
+}
+
+// Appends every image that the picture's width has room for; the first one's index, -1 when there is none.
+int AppendImages(ImageStore& store, const Surface& picture)
+{
+    const CSize size = store.ImageSize();
+    if (picture.Height() < size.cy || picture.Width() < size.cx)
+        return -1;
+    const int first = store.GetCount();
+    for (int x = 0; picture.Width() - x >= size.cx; x += size.cx)
+        store.Put(store.Append(), picture, {x, 0});
+    return first;
+}
+
+Surface MadeTransparent(const Surface& picture, COLORREF color)
+{
+    if (color == CLR_NONE || picture.IsEmpty())
+        return picture;
+    return toolkit::WithTransparentColor(picture, color == CLR_DEFAULT ? toolkit::ToColor(picture.At(0, 0)) : color);
+}
+
+// Calls use(picture) with the bitmap as its mask leaves it. False when either handle is refused or they differ in size.
+template <class Use>
+bool UseMasked(HBITMAP hbmImage, HBITMAP hbmMask, Use use)
+{
+    const Surface* pPicture = toolkit::BitmapSurface(hbmImage);
+    const Surface* pMask = toolkit::BitmapSurface(hbmMask);
+    if (!pPicture || (hbmMask && (!pMask || pMask->Bounds() != pPicture->Bounds())))
+        return false;
+    return pMask ? use(toolkit::WithMask(*pPicture, *pMask)) : use(*pPicture);
+}
+
+// The icon on a transparent ground of that size.
+Surface FitIcon(const Surface& icon, CSize size)
+{
+    const Surface scaled = toolkit::ScaleSurface(icon, toolkit::FitInto(icon.Bounds().Size(), size));
+    Surface fitted(size);
+    const CPoint at = toolkit::Centred(scaled.Bounds().Size(), fitted.Bounds());
+    for (int y = 0; y < scaled.Height(); ++y)
+        std::copy_n(scaled.Row(y), scaled.Width(), fitted.Row(at.y + y) + at.x);
+    return fitted;
+}
+
+} // namespace
+
+HIMAGELIST ImageList_Create(int cx, int cy, UINT, int, int cGrow)
+{
+    if (cx < 1 || cx > ImageStore::kMostExtent || cy < 1 || cy > ImageStore::kMostExtent)
+        return nullptr;
+    return toolkit::AllGdiObjects().imageLists.Add(std::make_unique<ImageStore>(CSize(cx, cy), cGrow));
+}
+
+HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask)
+{
+    const Surface* pPicture = toolkit::FindBitmapResource(nID);
+    if (!pPicture || pPicture->Width() < cx)
+        return nullptr;
+    const HIMAGELIST himl = ImageList_Create(cx, pPicture->Height(), ILC_COLOR32, 0, cGrow);
+    if (himl)
+        AppendImages(*FindStore(himl), MadeTransparent(*pPicture, crMask));
+    return himl;
+}
+
+BOOL ImageList_Destroy(HIMAGELIST himl)
+{
+    return toolkit::AllGdiObjects().imageLists.Remove(himl) != nullptr;
+}
+
+int ImageList_GetImageCount(HIMAGELIST himl)
+{
+    const ImageStore* pStore = FindStore(himl);
+    return pStore ? pStore->GetCount() : 0;
+}
+
+BOOL ImageList_GetIconSize(HIMAGELIST himl, int* cx, int* cy)
+{
+    const ImageStore* pStore = FindStore(himl);
+    if (!pStore)
+        return FALSE;
+    *cx = pStore->ImageSize().cx;
+    *cy = pStore->ImageSize().cy;
+    return TRUE;
+}
+
+int ImageList_Add(HIMAGELIST himl, HBITMAP hbmImage, HBITMAP hbmMask)
+{
+    ImageStore* pStore = FindStore(himl);
+    int first = -1;
+    if (pStore)
+        UseMasked(hbmImage, hbmMask, [&](const Surface& picture) {
+            first = AppendImages(*pStore, picture);
+            return true;
+        });
+    return first;
+}
+
+int ImageList_AddMasked(HIMAGELIST himl, HBITMAP hbmImage, COLORREF crMask)
+{
+    ImageStore* pStore = FindStore(himl);
+    const Surface* pPicture = toolkit::BitmapSurface(hbmImage);
+    return pStore && pPicture ? AppendImages(*pStore, MadeTransparent(*pPicture, crMask)) : -1;
+}
+
+BOOL ImageList_Replace(HIMAGELIST himl, int i, HBITMAP hbmImage, HBITMAP hbmMask)
+{
+    ImageStore* pStore = FindStore(himl);
+    if (!pStore || !pStore->Has(i))
+        return FALSE;
+    return UseMasked(hbmImage, hbmMask, [=](const Surface& picture) {
+        if (picture.Width() < pStore->ImageSize().cx || picture.Height() < pStore->ImageSize().cy)
+            return false;
+        pStore->Put(i, picture, {});
+        return true;
+    });
+}
+
+int ImageList_ReplaceIcon(HIMAGELIST himl, int i, HICON hIcon)
+{
+    ImageStore* pStore = FindStore(himl);
+    const Surface* pIcon = toolkit::IconSurface(hIcon);
+    if (!pStore || !pIcon || (i != -1 && !pStore->Has(i)))
+        return -1;
+    const int index = i == -1 ? pStore->Append() : i;
+    if (pIcon->Bounds().Size() == pStore->ImageSize())
+        pStore->Put(index, *pIcon, {});
+    else
+        pStore->Put(index, FitIcon(*pIcon, pStore->ImageSize()), {});
+    return index;
+}
+
+BOOL ImageList_Draw(HIMAGELIST himl, int i, HDC hdc, int x, int y, UINT style)
+{
+    const ImageStore* pStore = FindStore(himl);
+    if (!pStore || !pStore->Has(i))
+        return FALSE;
+    if (!(style & ILD_BLEND50))
+        return toolkit::DrawSurface(hdc, {x, y}, pStore->BlockOf(i), pStore->PlaceOf(i));
+
+    Surface tinted = toolkit::Crop(pStore->BlockOf(i), pStore->PlaceOf(i));
+    const toolkit::Pixel tint = toolkit::ToPixel(GetSysColor(COLOR_HIGHLIGHT));
+    for (int row = 0; row < tinted.Height(); ++row)
+        toolkit::TintRow(tinted.Row(row), tinted.Width(), tint);
+    return toolkit::DrawSurface(hdc, {x, y}, tinted, tinted.Bounds());
+}
+
+BOOL CImageList::Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)
+{
+    DeleteImageList();
+    m_hImageList = ImageList_Create(cx, cy, nFlags, nInitial, nGrow);
+    return m_hImageList != nullptr;
+}
+
+BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask)
+{
+    DeleteImageList();
+    m_hImageList = ImageList_LoadBitmap(nBitmapID, cx, nGrow, crMask);
+    return m_hImageList != nullptr;
+}
+
+BOOL CImageList::DeleteImageList()
+{
+    return ImageList_Destroy(std::exchange(m_hImageList, nullptr));
+}

@@ -1,0 +1,30 @@
+#include "Toolkit/graphics/ImageStore.h"
+
+namespace
+{
+
+// A caller's large step must not reserve memory that may never be used.
+int ImagesPerBlock(CSize size, int growBy)
+{
+    constexpr int kMostPixels = 1 << 20;
+    return std::clamp(growBy, 1, std::max(1, kMostPixels / (size.cx * size.cy)));
+}
+
+} // namespace
+
+toolkit::ImageStore::ImageStore(CSize size, int growBy) : m_size(size), m_perBlock(ImagesPerBlock(size, growBy)) {}
+
+int toolkit::ImageStore::Append()
+{
+    if (m_count % m_perBlock == 0)
+        m_blocks.emplace_back(CSize(m_size.cx, m_size.cy * m_perBlock));
+    return m_count++;
+}
+
+void toolkit::ImageStore::Put(int i, const Surface& picture, CPoint from)
+{
+    Surface& block = m_blocks[static_cast<std::size_t>(i / m_perBlock)];
+    const int top = PlaceOf(i).top;
+    for (int y = 0; y < m_size.cy; ++y)
+        std::copy_n(picture.Row(from.y + y) + from.x, m_size.cx, block.Row(top + y));
+}

@@ -1,0 +1,38 @@
+// The pictures of an image list. Internal to the graphics layer.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+
+namespace toolkit
+{
+
+// Pictures of one size, by index. They lie in blocks of a few, so that growing moves no picture and costs
+// each new one only itself.
+class ImageStore
+{
+public:
+    static constexpr int kMostExtent = 4096;
+
+    // The size is 1 to kMostExtent each way.
+    ImageStore(CSize size, int growBy);
+
+    CSize ImageSize() const { return m_size; }
+    int GetCount() const { return m_count; }
+    bool Has(int i) const { return i >= 0 && i < m_count; }
+
+    // Where image i, which must be there, lies.
+    const Surface& BlockOf(int i) const { return m_blocks[static_cast<std::size_t>(i / m_perBlock)]; }
+    CRect PlaceOf(int i) const { return {CPoint(0, i % m_perBlock * m_size.cy), m_size}; }
+
+    int Append(); // the index of a new, transparent image
+    // Image i becomes the part of the picture whose top left corner is at `from`; the whole part is inside.
+    void Put(int i, const Surface& picture, CPoint from);
+
+private:
+    const CSize m_size;
+    const int m_perBlock;
+    int m_count = 0;
+    std::vector<Surface> m_blocks; // each m_perBlock images, one below the other
+};
+
+} // namespace toolkit
