@@ -1,0 +1,26 @@
+// The editor's own pictures, drawn at any size from 16 pixels up. Each has a transparent ground.
+#pragma once
+
+#include "Toolkit/graphics/Surface.h"
+
+namespace editor
+{
+
+enum class Pictogram
+{
+    Folder,
+    Phase,         // a strip of film
+    BrokenPicture, // a picture that cannot be read
+    Placeholder,   // a picture that is not read yet
+    TreePane,
+    IconPane,
+    ThumbnailPane,
+    Up, // an arrow
+};
+
+toolkit::Surface DrawPictogram(Pictogram which, int pixels);
+
+// The same, drawn once for each size and kept for the life of the process. User-interface thread only.
+const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
+
+} // namespace editor
