@@ -1,0 +1,80 @@
+#include "Views/list/IconList.h"
+
+#include "Toolkit/base/Exception.h"
+#include "Views/host/IAtomIcon.h"
+
+namespace
+{
+
+constexpr UINT kPaneKind = 1;
+constexpr UINT kPaneResource = 1008;
+constexpr UINT kDefaultImages = 1006;
+constexpr int kImageWidth = 48;
+constexpr int kImagesToGrow = 4;
+constexpr COLORREF kTransparent = RGB(255, 0, 0);
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CIconList, CObjectsList)
+    ON_WM_CREATE()
+END_MESSAGE_MAP()
+
+CIconList::CIconList(int bPassive) : CObjectsList(kPaneKind, kPaneResource, bPassive) {}
+
+CIconList::~CIconList()
+{
+    DestroyWindow();
+}
+
+// Without the bitmap the view works, but shows no pictures.
+int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CObjectsList::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    m_images.Create(kDefaultImages, kImageWidth, kImagesToGrow, kTransparent);
+    m_nDefaultImage = 0;
+    SetImageList(&m_images, LVSIL_NORMAL);
+    return 0;
+}
+
+// A free image that turns out not to be needed is not given back: the list may hold one more image than it shows.
+void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData)
+{
+    const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
+    const int nFree = TakeFreeImage();
+    const int nImage = pIcon ? pIcon->AddToImageList(m_images.GetSafeHandle(), nFree) : -1;
+    pData->nImage = nImage != -1 ? nImage : m_nDefaultImage;
+}
+
+void CIconList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
+{
+    if (pData->nImage == m_nDefaultImage)
+        return;
+    try {
+        m_freeImages.push_back(pData->nImage);
+    } catch (CMemoryException& e) {
+        e.ReportError(); // the image is not used again
+    }
+}
+
+// Nothing to do: the images of all rows are free by now.
+void CIconList::OnClearContext() {}
+
+BOOL CIconList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    return CObjectsList::OnDeleteAtom(pAtom, pContainer) ? TRUE : FALSE;
+}
+
+BOOL CIconList::OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    return CObjectsList::OnChangeAtom(pAtom, pContainer) ? TRUE : FALSE;
+}
+
+int CIconList::TakeFreeImage()
+{
+    if (m_freeImages.empty())
+        return -1;
+    const int nImage = m_freeImages.front();
+    m_freeImages.pop_front();
+    return nImage;
+}

@@ -1,0 +1,158 @@
+// CObjectsList: the list view of the members of one atom container.
+#pragma once
+
+#include "Toolkit/controls/ListCtrl.h"
+#include "Views/host/IAEStateHandler.h"
+#include "Views/host/IAtom.h"
+#include "Views/host/IAtomContainer.h"
+#include "Views/host/StubRef.h"
+#include "Views/list/ObjectsListCache.h"
+
+#include <vector>
+
+class IAtomEditor;
+
+// The base of the list views, which add pictures through the cache hooks.
+//
+// The control knows only how many rows there are; the view has one atom for each, in display order. Names and
+// pictures are read when the control announces the rows it is about to draw, and kept for the rows announced
+// last; drawing asks no atom anything. A view registers with the editor while its window lives, unless it is passive: a
+// passive view loads and shows rows, but is told nothing, shows no pane and tells nothing when it gains the focus.
+//
+// A derived class destroys its window in its own destructor, so that its hooks are there when the rows go.
+class VIEWS_API CObjectsList : public CListCtrl, public IAEStateHandler
+{
+public:
+    using CACHEDATA = CObjectsListCache::CACHEDATA;
+
+    // nPaneKind goes to the editor's AddPane and RemovePane; nResourceID is the host's caption string and icon for the
+    // pane.
+    CObjectsList(UINT nPaneKind, UINT nResourceID, int bPassive);
+    ~CObjectsList() override;
+
+    // A child window without extent, not shown yet, with the control identifier 0xE900.
+    BOOL Create(CWnd* pParent);
+    // Shows the members of an atom that is a container; any other atom empties the view. FALSE for NULL. Does nothing,
+    // and says TRUE, before there is a window.
+    BOOL SetRootAtom(IAtom* pRoot);
+
+protected:
+    // The hooks come first: they follow the list control's own virtual operations.
+    //
+    // Called once when a row's record leaves the cache: evicted, its row removed, its atom changed, or the view
+    // emptied. pData is a copy of the record. pAtom and pContainer are the row's, or both NULL when the row is no more.
+    virtual void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) = 0;
+    // Called once when a row enters the cache, with strText set and before the record is stored: sets nImage, leaves
+    // strText alone.
+    virtual void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) = 0;
+    // Called last when the view is emptied: every record is uncached, the rows are gone.
+    virtual void OnClearContext();
+
+public:
+    // Views are not counted: these two do nothing.
+    void AddRef() override {}
+    void Release() override {}
+    void GetInterface(DWORD id, void** out) override;
+    void StubReserved4(DWORD) override {}
+
+    BOOL PreRenameAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL PreSaveAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomDeselecting(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override;
+
+protected:
+    // The address of an OBJPAIR with the row's atom and container, borrowed, good until the next call; 0 when there
+    // is no such row or no atom in it.
+    unsigned long GetItemData(int nItem) const;
+
+    // Comparators for qsort over IAtom pointers: image links of one phase by their positions in it, all others by
+    // name without regard to case; NULL comes last. CompareFunc1 says 1 when the first sorts after the second, else
+    // 0. Each keeps the names it read last, so neither may be entered again from the host's answers.
+    static int CompareFunc(const void* p1, const void* p2);
+    static int CompareFunc1(const void* p1, const void* p2);
+
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnDblclk(NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnObjectsGetDispinfo(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnOdCacheHint(NMLVCACHEHINT* pHint, LRESULT* pResult);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // A row's atom and container, kept alive while the editor is told about them. Both empty without such a row.
+    struct HELDPAIR
+    {
+        CStubRef<IAtom> pAtom;
+        CStubRef<IAtomContainer> pContainer;
+        explicit operator bool() const { return static_cast<bool>(pAtom); }
+    };
+
+    OBJPAIR* PairAt(int nItem) const; // what GetItemData gives, NULL for 0
+    HELDPAIR HoldPair(int nItem) const;
+    bool IsShown(IAtomContainer* pContainer) const { return pContainer && pContainer == m_pContainer.Get(); }
+
+    void UpdateIndexes();
+    void ClearContext();
+    void GoToItem(UINT nItem);
+    void LoadMembers();
+    void ShowPane();
+    void RemovePane();
+
+    int FindRow(IAtom* pAtom) const; // the first row whose atom compares equal, -1: none; asks each row's name
+    void RemoveRow(int nItem);
+    void ReloadContainer(IAtomContainer* pContainer);
+
+    bool CacheRow(int nItem);
+    bool ReadText(IAtom* pAtom, CString& strText);
+    void EvictOne();
+    void UncacheRow(int nItem);
+    void UncacheAll();
+    int FindCachedRow(IAtom* pAtom) const; // by identity, in the cache's order; -1: none
+    void RekeyCache(int nRemoved);
+
+    BOOL Notify(IAtomEditor* pEditor, AEStateOperation operation, const HELDPAIR& pair);
+    void MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected);
+    void SetAllSelected(bool bSelected);
+    void ClearSelection();
+    void SelectRow(int nItem); // and give it the focus; nothing for -1
+    bool OfferSave();
+    void AnnounceSelection();
+    void PostButtonUp();
+    bool TakeFocus(); // false when it was refused
+
+    CStubRef<IAtomContainer> m_pContainer; // what is shown; empty when nothing is
+    std::vector<CStubRef<IAtom>> m_atoms;  // row i shows m_atoms[i]
+    CObjectsListCache m_cacheMaps[2];      // one is in use, the other serves when rows are re-keyed
+    CObjectsListCache* m_pCache = &m_cacheMaps[0];
+    mutable OBJPAIR m_pair{};             // what GetItemData gives
+    int m_nCacheFrom = 0, m_nCacheTo = 0; // the last hint's rows
+    // Does the view react? FALSE before there is a window and while the view itself is calling the editor.
+    BOOL m_bSync = FALSE;
+    const UINT m_nPaneKind;
+    const UINT m_nResourceID;
+    DWORD m_dwHandlerCookie = 0;
+    BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
+    BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
+    const BOOL m_bPassive;
+    BOOL m_bPaneShown = FALSE;
+};

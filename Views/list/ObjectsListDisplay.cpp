@@ -1,0 +1,140 @@
+// What the list view answers when its control draws.
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/Ticks.h"
+#include "Views/host/IDispAtom.h"
+#include "Views/host/IMyErrorInfo.h"
+#include "Views/host/ReadName.h"
+#include "Views/host/Services.h"
+#include "Views/list/ObjectsList.h"
+
+#include <algorithm>
+
+namespace
+{
+
+constexpr int kCacheLimit = 1024;
+constexpr UINT kNameErrorCaption = 0xE00A;
+
+} // namespace
+
+void CObjectsList::OnOdCacheHint(NMLVCACHEHINT* pHint, LRESULT* pResult)
+{
+    *pResult = 0;
+    m_nCacheFrom = pHint->iFrom;
+    m_nCacheTo = pHint->iTo;
+
+    const int nFirst = std::max(pHint->iFrom, 0);
+    const int nLast = std::min(pHint->iTo, static_cast<int>(m_atoms.size()) - 1);
+    for (int i = nFirst; i <= nLast; ++i) {
+        if (m_pCache->Find(i))
+            m_pCache->Touch(i, GetTickCount());
+        else if (!CacheRow(i))
+            return;
+    }
+}
+
+// False when the rest of the hint must wait: the row's name could not be read, and the user has been told. The row is
+// not stored then, so the next hint that covers it tries again.
+bool CObjectsList::CacheRow(int nItem)
+{
+    const HELDPAIR pair = HoldPair(nItem);
+    if (!pair)
+        return true;
+    CACHEDATA data;
+    if (!ReadText(pair.pAtom.Get(), data.strText))
+        return false;
+    try {
+        m_pCache->Reserve(); // now: a row announced to the hook is stored
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return false;
+    }
+    OnCacheItem(nItem, pair.pAtom.Get(), pair.pContainer.Get(), &data);
+    if (m_pCache->GetCount() > kCacheLimit)
+        EvictOne();
+    data.dwTick = GetTickCount();
+    m_pCache->Store(nItem, std::move(data));
+    return true;
+}
+
+// The display name where there is one, else the name. Without memory for it the text is empty, and the row goes on.
+bool CObjectsList::ReadText(IAtom* pAtom, CString& strText)
+{
+    try {
+        const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
+        if (pDispAtom ? views::ReadName(pDispAtom.Get(), &IDispAtom::GetDisplayName, strText)
+                      : views::ReadName(pAtom, &IAtom::GetName, strText))
+            return true;
+        const auto pError =
+            pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
+        ShowAtomError(m_hWnd, kNameErrorCaption, pError.Get());
+        return false;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        strText.Empty();
+        return true;
+    }
+}
+
+// One record makes room for one new record; none does while all were hinted in this very millisecond.
+void CObjectsList::EvictOne()
+{
+    const int nVictim = m_pCache->FindOldest(GetTickCount());
+    if (nVictim < 0)
+        return;
+    UncacheRow(nVictim);
+    m_pCache->Remove(nVictim);
+}
+
+// Tells the hook that the row's record leaves the cache, if it has one; the caller removes it.
+void CObjectsList::UncacheRow(int nItem)
+{
+    const CACHEDATA* pRecord = m_pCache->Find(nItem);
+    if (!pRecord)
+        return;
+    CACHEDATA data = *pRecord;
+    const HELDPAIR pair = HoldPair(nItem);
+    OnUncacheItem(nItem, pair.pAtom.Get(), pair.pContainer.Get(), &data);
+}
+
+void CObjectsList::UncacheAll()
+{
+    for (const auto& node : *m_pCache)
+        UncacheRow(node.nRow);
+}
+
+int CObjectsList::FindCachedRow(IAtom* pAtom) const
+{
+    for (const auto& node : *m_pCache) {
+        const OBJPAIR* pPair = PairAt(node.nRow);
+        if (pPair && pPair->pAtom == pAtom)
+            return node.nRow;
+    }
+    return -1;
+}
+
+// The rows after nRemoved, which has no record any more, move up by one; their records move along untouched. Without
+// memory for that all records leave, to be read again.
+void CObjectsList::RekeyCache(int nRemoved)
+{
+    CObjectsListCache& spare = m_pCache == &m_cacheMaps[0] ? m_cacheMaps[1] : m_cacheMaps[0];
+    try {
+        spare.CopyWithoutRow(*m_pCache, nRemoved);
+        m_pCache = &spare;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        UncacheAll();
+        m_pCache->RemoveAll();
+    }
+}
+
+void CObjectsList::OnObjectsGetDispinfo(NMLVDISPINFO* pInfo, LRESULT*)
+{
+    const CACHEDATA* pRecord = m_pCache->Find(pInfo->item.iItem);
+    if (!pRecord)
+        return;
+    if (pInfo->item.mask & LVIF_IMAGE)
+        pInfo->item.iImage = pRecord->nImage;
+    if (pInfo->item.mask & LVIF_TEXT)
+        pInfo->item.pszText = const_cast<LPSTR>(pRecord->strText.GetString()); // read, never written
+}

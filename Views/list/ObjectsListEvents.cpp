@@ -1,0 +1,133 @@
+// What the list view does when the editor tells it of atoms. Selections that come from the editor are in
+// ObjectsListSelection.cpp, OnAtomEntered is in ObjectsList.cpp.
+#include "Toolkit/base/Exception.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+#include "Views/list/ObjectsList.h"
+#include "Views/list/UpdateLock.h"
+
+#include <algorithm>
+
+BOOL CObjectsList::PreRenameAtom(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsList::PreSaveAtom(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsList::OnAtomSelecting(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsList::OnAtomDeselecting(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+// New atoms come last, whatever the order of the others, and are what the user goes on with.
+BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    if (!m_bSync || !pAtom || !IsShown(pContainer))
+        return TRUE;
+    try {
+        m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return TRUE;
+    }
+    SetItemCount(static_cast<int>(pContainer->GetCount()));
+    const views::UpdateLock lock(this);
+    ClearSelection();
+    SelectRow(GetItemCount() - 1);
+    return TRUE;
+}
+
+BOOL CObjectsList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    if (!m_bSync || !IsShown(pContainer))
+        return TRUE;
+    if (!pAtom) {
+        ReloadContainer(pContainer);
+        return TRUE;
+    }
+    const int nRow = FindRow(pAtom);
+    if (nRow < 0)
+        return TRUE;
+
+    RemoveRow(nRow);
+    SetItemCount(static_cast<int>(pContainer->GetCount()));
+    ClearSelection();
+    SelectRow(std::min(nRow, GetItemCount() - 1));
+    return TRUE;
+}
+
+void CObjectsList::ReloadContainer(IAtomContainer* pContainer)
+{
+    const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // reloading gives up the view's own reference
+    const views::UpdateLock lock(this);
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    OnAtomEntered(pContainer, nullptr);
+    if (pEditor)
+        pEditor->NotifyHandlers(this, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);
+}
+
+void CObjectsList::RemoveRow(int nItem)
+{
+    UncacheRow(nItem);
+    m_pCache->Remove(nItem);
+    RekeyCache(nItem);
+    const auto pRow = m_atoms.begin() + nItem;
+    const CStubRef<IAtom> pRemoved = std::move(*pRow); // its end may come back here: the row is gone by then
+    m_atoms.erase(pRow);
+}
+
+// Only a cached row can show what is out of date; others are read when they are next hinted.
+BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    if (!m_bSync || !pAtom)
+        return TRUE;
+    const int nRow = FindCachedRow(pAtom);
+    if (nRow < 0)
+        return TRUE;
+    UncacheRow(nRow);
+    m_pCache->Remove(nRow);
+    Update(nRow); // draws it, which hints it, which reads it
+    return TRUE;
+}
+
+BOOL CObjectsList::OnAtomRename(IAtom*, IAtomContainer*)
+{
+    if (!m_bSync)
+        return FALSE;
+    const int nFocused = GetNextItem(-1, LVNI_FOCUSED);
+    return nFocused >= 0 && EditLabel(nFocused) != nullptr;
+}
+
+BOOL CObjectsList::OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount)
+{
+    if (!pCount)
+        return FALSE;
+
+    // A focused row that is not selected is counted, though never filled in: callers skip empty pairs.
+    const int nFocused = GetNextItem(-1, LVNI_FOCUSED);
+    const bool bFocusedOnly = nFocused >= 0 && !GetItemState(nFocused, LVIS_SELECTED);
+    const DWORD nCount = static_cast<DWORD>(GetSelectedCount()) + (bFocusedOnly ? 1 : 0);
+    if (!pairs || *pCount < nCount) {
+        *pCount = nCount;
+        return FALSE;
+    }
+    for (int nRow = -1; (nRow = GetNextItem(nRow, LVNI_SELECTED)) >= 0;) {
+        HELDPAIR pair = HoldPair(nRow);
+        if (!pair)
+            continue;
+        const auto pFormerAtom = CStubRef<IAtom>::Adopt(std::exchange(pairs->pAtom, pair.pAtom.Detach()));
+        const auto pFormer =
+            CStubRef<IAtomContainer>::Adopt(std::exchange(pairs->pContainer, pair.pContainer.Detach()));
+        ++pairs;
+    }
+    return TRUE;
+}

@@ -1,0 +1,42 @@
+// The mouse in the list view, beyond selection.
+#include "Views/list/ObjectsList.h"
+
+// Opens the row under the cursor, in every view.
+void CObjectsList::OnDblclk(NMHDR*, LRESULT* pResult)
+{
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    GoToItem(static_cast<UINT>(HitTest(point)));
+    *pResult = 0;
+}
+
+// The focus comes before the click, which is dropped when the focus is refused.
+void CObjectsList::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    if (TakeFocus())
+        CListCtrl::OnLButtonDown(nFlags, point);
+}
+
+void CObjectsList::OnRButtonDown(UINT nFlags, CPoint point)
+{
+    if (TakeFocus())
+        CListCtrl::OnRButtonDown(nFlags, point);
+}
+
+void CObjectsList::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    CListCtrl::OnLButtonUp(nFlags, point);
+}
+
+void CObjectsList::OnRButtonUp(UINT nFlags, CPoint point)
+{
+    CListCtrl::OnRButtonUp(nFlags, point);
+}
+
+bool CObjectsList::TakeFocus()
+{
+    if (::GetFocus() != m_hWnd)
+        SetFocus();
+    return ::GetFocus() == m_hWnd;
+}

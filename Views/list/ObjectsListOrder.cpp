@@ -1,0 +1,88 @@
+// The list view's order, which is also its test of sameness.
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/Text.h"
+#include "Views/host/IPhase.h"
+#include "Views/host/ReadName.h"
+#include "Views/list/ObjectsList.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <optional>
+
+namespace
+{
+
+IAtom* AtomAt(const void* pElement)
+{
+    void* pAtom;
+    std::memcpy(&pAtom, pElement, sizeof pAtom); // arrays of holders and of plain pointers alike
+    return static_cast<IAtom*>(pAtom);
+}
+
+int Difference(int a, int b)
+{
+    constexpr std::int64_t kMax = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::int64_t{a} - b, -kMax, kMax));
+}
+
+// Two image links by their positions in the phase of the second; nothing when they must be compared by name.
+std::optional<int> CompareLinks(IAtom* a, IAtom* b)
+{
+    const auto pLinkA = CStubRef<IImageLink>::From(a);
+    if (!pLinkA)
+        return std::nullopt;
+    const auto pLinkB = CStubRef<IImageLink>::From(b);
+    CStubRef<IPhase> pPhase;
+    if (const auto pAtomB = CStubRef<IAtom>::From(pLinkB.Get()))
+        pAtomB->GetContainer(pPhase.Receive(), IID_IPhase);
+    if (!pPhase)
+        return std::nullopt;
+    return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
+}
+
+// A missing atom comes after every other. strA and strB keep the names read last: a name that cannot be read now is
+// what its string held before, cut to the length announced.
+int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
+{
+    if (!a || !b)
+        return static_cast<int>(!a) - static_cast<int>(!b);
+    try {
+        if (const std::optional<int> order = CompareLinks(a, b))
+            return *order;
+        views::ReadName(a, &IAtom::GetName, strA);
+        views::ReadName(b, &IAtom::GetName, strB);
+        return _mbsicmp(strA, strB);
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return 0;
+    }
+}
+
+} // namespace
+
+int CObjectsList::CompareFunc(const void* p1, const void* p2)
+{
+    static CString s_strName1, s_strName2;
+    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_strName1, s_strName2);
+}
+
+int CObjectsList::CompareFunc1(const void* p1, const void* p2)
+{
+    static CString s_strName1, s_strName2;
+    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_strName1, s_strName2) > 0 ? 1 : 0;
+}
+
+// An owner-data control has nothing to sort; the order is made when members are loaded.
+void CObjectsList::UpdateIndexes()
+{
+    PostMessage(LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareFunc));
+}
+
+int CObjectsList::FindRow(IAtom* pAtom) const
+{
+    const auto found = std::find_if(m_atoms.begin(), m_atoms.end(), [pAtom](const CStubRef<IAtom>& pRow) {
+        return pRow && CompareFunc(&pRow, &pAtom) == 0;
+    });
+    return found == m_atoms.end() ? -1 : static_cast<int>(found - m_atoms.begin());
+}

@@ -1,0 +1,206 @@
+// Selection and focus: what the list view tells the editor of them, and what it takes from it.
+#include "Views/host/FocusBlock.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+#include "Views/host/TopLevelAtom.h"
+#include "Views/list/ObjectsList.h"
+#include "Views/list/SyncPause.h"
+#include "Views/list/UpdateLock.h"
+
+namespace
+{
+
+bool Gains(const NMLISTVIEW& change, UINT nState)
+{
+    return (change.uNewState & nState) && !(change.uOldState & nState);
+}
+
+bool Loses(const NMLISTVIEW& change, UINT nState)
+{
+    return !(change.uNewState & nState) && (change.uOldState & nState);
+}
+
+} // namespace
+
+BOOL CObjectsList::Notify(IAtomEditor* pEditor, AEStateOperation operation, const HELDPAIR& pair)
+{
+    return pEditor->NotifyHandlers(this, operation, pair.pAtom.Get(), pair.pContainer.Get(), 0);
+}
+
+// Every change of a row is asked for, also one that mirrors another view.
+void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!IsWindowVisible() || !(pChange->uChanged & LVIF_STATE) || pChange->iItem == -1)
+        return;
+
+    m_bFocusFromSelChange = !m_bHasFocus;
+    const HELDPAIR pair = HoldPair(pChange->iItem);
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pair || !pEditor)
+        return;
+
+    const views::SyncPause pause(m_bSync);
+    BOOL bAllowed = TRUE;
+    if (Gains(*pChange, LVIS_SELECTED))
+        bAllowed = Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelecting, pair);
+    else if (Loses(*pChange, LVIS_SELECTED))
+        bAllowed = Notify(pEditor.Get(), &IAEStateHandler::OnAtomDeselecting, pair);
+    *pResult = !bAllowed;
+}
+
+void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
+{
+    *pResult = 0;
+    if (!m_bSync || !IsWindowVisible() || !(pChange->uChanged & LVIF_STATE))
+        return;
+    const bool bSelected = Gains(*pChange, LVIS_SELECTED);
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pEditor || (!bSelected && !Loses(*pChange, LVIS_SELECTED)))
+        return;
+
+    const auto operation = bSelected ? &IAEStateHandler::OnAtomSelected : &IAEStateHandler::OnAtomDeselected;
+    if (pChange->iItem == -1) {
+        const auto pContainer = CStubRef<IAtomContainer>::Share(m_pContainer.Get());
+        pEditor->NotifyHandlers(this, operation, nullptr, pContainer.Get(), 0);
+        return;
+    }
+    const HELDPAIR pair = HoldPair(pChange->iItem);
+    if (!pair)
+        return;
+    const views::SyncPause pause(m_bSync);
+    if (::GetFocus() == m_hWnd) // else the change mirrors another view's, which has told everyone
+        Notify(pEditor.Get(), operation, pair);
+}
+
+BOOL CObjectsList::OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    MirrorSelection(pAtom, pContainer, true);
+    return TRUE;
+}
+
+BOOL CObjectsList::OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    MirrorSelection(pAtom, pContainer, false);
+    return TRUE;
+}
+
+void CObjectsList::MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected)
+{
+    if (!m_bSync)
+        return;
+    const views::SyncPause pause(m_bSync);
+    if (!pAtom) {
+        if (pContainer)
+            SetAllSelected(bSelected);
+        return;
+    }
+    const int nRow = IsShown(pContainer) ? FindRow(pAtom) : -1;
+    if (nRow < 0)
+        return;
+    if (bSelected)
+        SetItemState(nRow, LVIS_SELECTED, LVIS_SELECTED);
+    else
+        SetItemState(nRow, 0, LVIS_SELECTED | LVIS_FOCUSED);
+    EnsureVisible(nRow, FALSE);
+}
+
+// All rows, whatever container was named.
+void CObjectsList::SetAllSelected(bool bSelected)
+{
+    const views::UpdateLock lock(AfxGetMainWnd());
+    if (bSelected) {
+        for (int i = 0; i < GetItemCount(); ++i)
+            SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+    } else {
+        for (int i = -1; (i = GetNextItem(i, LVNI_SELECTED)) >= 0;)
+            SetItemState(i, 0, LVIS_SELECTED);
+    }
+}
+
+// Neither selection nor focus is left, but for rows whose deselection was vetoed.
+void CObjectsList::ClearSelection()
+{
+    int nKept = -1;
+    for (int i; (i = GetNextItem(nKept, LVNI_SELECTED)) >= 0;) {
+        SetItemState(i, 0, LVIS_SELECTED);
+        if (GetItemState(i, LVIS_SELECTED))
+            nKept = i;
+    }
+    const int nFocused = GetNextItem(-1, LVNI_FOCUSED);
+    if (nFocused >= 0)
+        SetItemState(nFocused, 0, LVIS_FOCUSED);
+}
+
+void CObjectsList::SelectRow(int nItem)
+{
+    if (nItem >= 0)
+        SetItemState(nItem, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+}
+
+void CObjectsList::OnSetFocus(CWnd* pOldWnd)
+{
+    const FocusBlock block;
+    if (FocusBlock::IsInFocusBlock()) {
+        PostButtonUp();
+        CListCtrl::OnSetFocus(pOldWnd);
+        return;
+    }
+    if (!m_bPassive) {
+        const BOOL bFromSelChange = m_bFocusFromSelChange;
+        if (!OfferSave()) {
+            if (pOldWnd)
+                pOldWnd->SetFocus();
+            m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
+            return;
+        }
+        AnnounceSelection();
+    }
+    m_bFocusFromSelChange = FALSE;
+    m_bHasFocus = TRUE;
+    CListCtrl::OnSetFocus(pOldWnd);
+}
+
+// Has what the user was working on saved before the work goes on here. False: someone refused.
+bool CObjectsList::OfferSave()
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pEditor)
+        return true;
+    CStubRef<IAtom> pActive, pTop;
+    pEditor->GetActiveAtom(pActive.Receive(), IID_IAtom);
+    if (!GetTopLevelAtom(pActive.Get(), pTop.Receive(), IID_IAtom))
+        return true;
+    return pEditor->NotifyHandlers(nullptr, &IAEStateHandler::PreSaveAtom, pTop.Get(), nullptr, 0) != FALSE;
+}
+
+// The view that has the focus is the one whose selection counts. Nothing to tell when the selection was made from
+// outside, while another had the focus: everyone knows it.
+void CObjectsList::AnnounceSelection()
+{
+    for (int i = -1; !m_bFocusFromSelChange && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;) {
+        const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+        const HELDPAIR pair = HoldPair(i);
+        if (!pEditor || !pair)
+            continue;
+        Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelecting, pair);
+        Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelected, pair);
+    }
+}
+
+void CObjectsList::OnKillFocus(CWnd* pNewWnd)
+{
+    CListCtrl::OnKillFocus(pNewWnd);
+    m_bFocusFromSelChange = FALSE;
+    m_bHasFocus = FALSE;
+    PostButtonUp();
+}
+
+// Ends a press that the focus change has cut short: its release may go to another window.
+void CObjectsList::PostButtonUp()
+{
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    PostMessage(WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+}
