@@ -1,0 +1,276 @@
+#include "tests/views/FakeHost.h"
+
+#include "Kernel/Kernel.h"
+
+#include <algorithm>
+#include <cstring>
+#include <gtest/gtest.h>
+
+namespace
+{
+
+BOOL CopyName(const std::string& strName, bool bFails, char* pBuffer, DWORD* pLength)
+{
+    if (!pBuffer) {
+        *pLength = static_cast<DWORD>(strName.size()) + 1;
+        return FALSE; // no one looks
+    }
+    if (!bFails)
+        std::memcpy(pBuffer, strName.c_str(), std::min<std::size_t>(strName.size() + 1, *pLength));
+    return !bFails;
+}
+
+FakeAtom* AsFake(IAtom* pAtom)
+{
+    return dynamic_cast<FakeAtom*>(pAtom);
+}
+
+} // namespace
+
+std::string NameOf(IAtom* pAtom)
+{
+    return pAtom ? AsFake(pAtom)->name : "-";
+}
+
+void FakeAtom::Release()
+{
+    ASSERT_GT(m_nReferences, 0);
+    if (--m_nReferences == 0)
+        delete this;
+}
+
+void* FakeAtom::Find(DWORD id)
+{
+    if (id == IID_IAtom)
+        return static_cast<IAtom*>(this);
+    if (id == IID_IDispAtom && displayName)
+        return static_cast<IDispAtom*>(this);
+    if (id == IID_IAtomIcon && hasIcon)
+        return static_cast<IAtomIcon*>(this);
+    if (id == IID_IImageLink && isLink)
+        return static_cast<IImageLink*>(this);
+    if (id == IID_ICharacterLibrary && isLibrary)
+        return static_cast<ICharacterLibrary*>(this);
+    if (id == IID_IMyErrorInfo && (nameFails || displayNameFails))
+        return static_cast<IMyErrorInfo*>(this);
+    return id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
+}
+
+void FakeAtom::GetInterface(DWORD id, void** out)
+{
+    *out = Find(id);
+    if (*out)
+        AddRef();
+}
+
+BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
+{
+    nNameReads += pBuffer != nullptr;
+    return CopyName(name, nameFails, pBuffer, pLength);
+}
+
+BOOL FakeAtom::GetDisplayName(char* pBuffer, DWORD* pLength)
+{
+    return CopyName(*displayName, displayNameFails, pBuffer, pLength);
+}
+
+BOOL FakeAtom::GetContainer(void** ppOut, DWORD dwInterfaceId)
+{
+    *ppOut = nullptr;
+    if (parent)
+        parent->GetInterface(dwInterfaceId, ppOut);
+    return *ppOut != nullptr;
+}
+
+int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
+{
+    if (pLedger)
+        pLedger->push_back("icon " + name + " at " + std::to_string(nReplace));
+    if (iconFails)
+        return -1;
+    const HICON hIcon = CreateIconFromSurface(toolkit::Surface(CSize(48, 48), 0xFF00FF00));
+    const int nImage = ImageList_ReplaceIcon(hImageList, nReplace, hIcon);
+    DestroyIcon(hIcon);
+    return nImage;
+}
+
+FakeAtom* FakeContainer::Add(FakeAtom* pNew)
+{
+    pNew->parent = this;
+    members.push_back(AtomRef::Adopt(pNew));
+    return pNew;
+}
+
+AtomRef FakeContainer::Remove(FakeAtom* pMember)
+{
+    const auto found =
+        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p.Get() == pMember; });
+    AtomRef pRemoved = std::move(*found);
+    members.erase(found);
+    return pRemoved;
+}
+
+FakeAtom* FakeContainer::Named(const std::string& strName) const
+{
+    const auto found =
+        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p->name == strName; });
+    return found == members.end() ? nullptr : found->Get();
+}
+
+void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+{
+    ++nGetAtoms;
+    for (UINT i = 0; i < nCount; ++i) {
+        ppOut[i] = nullptr;
+        if (nFirst + i < members.size())
+            members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
+    }
+}
+
+int FakeContainer::GetPosition(IImageLink* pLink)
+{
+    const auto* pAtom = static_cast<FakeAtom*>(pLink);
+    const auto found = std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p.Get() == pAtom; });
+    return -static_cast<int>(found - members.begin());
+}
+
+void* FakeContainer::Find(DWORD id)
+{
+    if (id == IID_IAtomContainer)
+        return static_cast<IAtomContainer*>(this);
+    if (id == IID_IPhase && isPhase)
+        return static_cast<IPhase*>(this);
+    return FakeAtom::Find(id);
+}
+
+FakeEditor::FakeEditor()
+{
+    static constexpr SERVICETABLE s_editorTable{&GiveEditor};
+    static constexpr SERVICETABLE s_errorTable{&ShowError};
+    m_editorProvider.pTable = &s_editorTable;
+    m_errorProvider.pTable = &s_errorTable;
+    m_editorProvider.pEditor = m_errorProvider.pEditor = this;
+    Install();
+}
+
+FakeEditor::~FakeEditor()
+{
+    Uninstall();
+}
+
+void FakeEditor::Install()
+{
+    SRVN_InstallProvider("GetAtomEditorSv", &m_editorProvider);
+    SRVN_InstallProvider("ShowErrorSv", &m_errorProvider);
+}
+
+void FakeEditor::Uninstall()
+{
+    SRVN_InstallProvider("GetAtomEditorSv", nullptr);
+    SRVN_InstallProvider("ShowErrorSv", nullptr);
+}
+
+BOOL FakeEditor::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
+{
+    EXPECT_EQ(sizeof(void*), dwSize);
+    EXPECT_EQ(0u, dwExtra);
+    FakeEditor* const pEditor = static_cast<Provider*>(pProvider)->pEditor;
+    pEditor->AddRef();
+    *static_cast<IAtomEditor**>(pBuffer) = pEditor;
+    return TRUE;
+}
+
+BOOL FakeEditor::ShowError(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
+{
+    EXPECT_EQ(sizeof(ERRORREQUEST), dwSize);
+    EXPECT_EQ(0u, dwExtra);
+    const auto& request = *static_cast<ERRORREQUEST*>(pBuffer);
+    const auto* pFailed = static_cast<FakeAtom*>(request.pError);
+    static_cast<Provider*>(pProvider)->pEditor->ledger.push_back(std::string("error \"") + request.pszCaption +
+                                                                 "\" of " + (pFailed ? pFailed->name : "-"));
+    return TRUE;
+}
+
+DWORD FakeEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
+{
+    ledger.push_back(NameOf(handler) + " registers");
+    m_handlers.push_back({++m_nLastCookie, hWnd, handler});
+    return m_nLastCookie;
+}
+
+void FakeEditor::UnregisterHandler(DWORD cookie)
+{
+    const auto found =
+        std::find_if(m_handlers.begin(), m_handlers.end(), [&](const Handler& h) { return h.cookie == cookie; });
+    ASSERT_NE(m_handlers.end(), found);
+    ledger.push_back(NameOf(found->pHandler) + " unregisters");
+    m_handlers.erase(found);
+}
+
+BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
+                                IAtomContainer* container, DWORD reserved)
+{
+    EXPECT_EQ(0u, reserved);
+    const std::string strOperation = NameOf(operation);
+    const bool bAsks = strOperation.starts_with("Pre") || strOperation.ends_with("ing");
+    ledger.push_back(NameOf(sender) + (bAsks ? " asks " : " tells ") + strOperation + "(" + ::NameOf(atom) + " in " +
+                     ::NameOf(container) + ")");
+    if (onNotify)
+        onNotify(operation, atom);
+
+    BOOL bAgreed = !m_vetoes.contains(strOperation);
+    for (const Handler& handler : std::vector<Handler>(m_handlers)) {
+        if (handler.pHandler != sender || !skipsSender)
+            bAgreed &= (handler.pHandler->*operation)(atom, container) != FALSE;
+    }
+    return bAgreed;
+}
+
+void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
+{
+    ledger.push_back("pane " + std::to_string(kind) + " \"" + caption + "\"" +
+                     (GetIconSize(icon) == CSize(16, 16) ? " with icon" : ""));
+}
+
+void FakeEditor::RemovePane(DWORD kind, HWND)
+{
+    ledger.push_back("no pane " + std::to_string(kind));
+}
+
+void FakeEditor::GetActiveAtom(void** out, DWORD interfaceId)
+{
+    *out = nullptr;
+    if (active)
+        static_cast<CStubBaseInterface*>(active.Get())->GetInterface(interfaceId, out);
+}
+
+std::string FakeEditor::NameOf(AEStateOperation operation)
+{
+    static const std::pair<AEStateOperation, const char*> s_names[] = {
+        {&IAEStateHandler::PreRenameAtom, "PreRenameAtom"},
+        {&IAEStateHandler::PreSaveAtom, "PreSaveAtom"},
+        {&IAEStateHandler::OnCreateAtom, "OnCreateAtom"},
+        {&IAEStateHandler::OnDeleteAtom, "OnDeleteAtom"},
+        {&IAEStateHandler::OnChangeAtom, "OnChangeAtom"},
+        {&IAEStateHandler::OnAtomSelected, "OnAtomSelected"},
+        {&IAEStateHandler::OnAtomDeselected, "OnAtomDeselected"},
+        {&IAEStateHandler::OnAtomSelecting, "OnAtomSelecting"},
+        {&IAEStateHandler::OnAtomDeselecting, "OnAtomDeselecting"},
+        {&IAEStateHandler::OnAtomEntered, "OnAtomEntered"},
+        {&IAEStateHandler::OnAtomRename, "OnAtomRename"},
+    };
+    for (const auto& [op, pszName] : s_names) {
+        if (op == operation)
+            return pszName;
+    }
+    return "?";
+}
+
+std::string FakeEditor::NameOf(IAEStateHandler* pHandler) const
+{
+    for (const auto& [p, strName] : m_names) {
+        if (p == pHandler)
+            return strName;
+    }
+    return pHandler ? "someone" : "nobody";
+}

@@ -1,0 +1,170 @@
+// A host made of nothing but a ledger: atoms, containers, an atom editor and the services that lead to it.
+//
+// Everything a view asks or tells the editor is written down, in words: "list asks OnAtomSelecting(b in box)".
+// Everything the host hands out is counted, so that a test can end with no object alive.
+#pragma once
+
+#include "Toolkit/graphics/ImageList.h"
+#include "Views/host/host.h"
+
+#include <functional>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+using Ledger = std::vector<std::string>;
+
+class FakeContainer;
+
+// An atom with whatever interfaces its members give it.
+class FakeAtom : public virtual IAtom,
+                 public IDispAtom,
+                 public IAtomIcon,
+                 public IImageLink,
+                 public IMyErrorInfo,
+                 public ICharacterLibrary
+{
+public:
+    explicit FakeAtom(std::string strName) : name(std::move(strName)) { ++s_nLive; }
+    FakeAtom(const FakeAtom&) = delete;
+    FakeAtom& operator=(const FakeAtom&) = delete;
+
+    std::string name;
+    bool nameFails = false;
+    std::optional<std::string> displayName; // offers IDispAtom
+    bool displayNameFails = false;
+    bool hasIcon = false; // offers IAtomIcon
+    bool iconFails = false;
+    bool isLink = false;    // offers IImageLink
+    bool isLibrary = false; // offers ICharacterLibrary
+    FakeContainer* parent = nullptr;
+    int nNameReads = 0;        // names filled in, lengths asked for not counted
+    Ledger* pLedger = nullptr; // where icons are written down
+
+    int CountReferences() const { return m_nReferences; }
+    static int CountLive() { return s_nLive; }
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override;
+    void GetInterface(DWORD id, void** out) override;
+    DWORD GetID() override { return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(this)); }
+    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
+    BOOL IsModified() override { return FALSE; }
+    BOOL GetDisplayName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetIcon(ICONREQUEST*) override { return FALSE; }
+    int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
+
+protected:
+    virtual ~FakeAtom() { --s_nLive; }
+    virtual void* Find(DWORD id); // the interface, borrowed
+
+private:
+    static inline int s_nLive = 0;
+    int m_nReferences = 1;
+};
+
+using AtomRef = CStubRef<FakeAtom>;
+
+// A container, and a phase when it is told so: its members' positions are then those of `members`, last first.
+class FakeContainer : public FakeAtom, public IAtomContainer, public IPhase
+{
+public:
+    using FakeAtom::FakeAtom;
+
+    std::vector<AtomRef> members;
+    bool isPhase = false;
+    int nMissing = 0; // members announced beyond those there are
+    int nGetAtoms = 0;
+
+    FakeAtom* Add(FakeAtom* pNew); // takes the one reference of a new atom
+    FakeAtom* Add(const std::string& strName) { return Add(new FakeAtom(strName)); }
+    AtomRef Remove(FakeAtom* pMember);
+    FakeAtom* Named(const std::string& strName) const; // the first member of that name
+
+    UINT GetCount() override { return static_cast<UINT>(members.size()) + static_cast<UINT>(nMissing); }
+    void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
+    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
+    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
+    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RemoveAtom(IAtom*) override { return FALSE; }
+    DWORD GetPermissions(IAtom*) override { return 0; }
+    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
+    int GetPosition(IImageLink* pLink) override;
+
+protected:
+    void* Find(DWORD id) override;
+};
+
+using ContainerRef = CStubRef<FakeContainer>;
+
+// The editor and its services, installed for as long as the object lives.
+class FakeEditor final : public IAtomEditor
+{
+public:
+    FakeEditor();
+    ~FakeEditor();
+
+    Ledger TakeLedger() { return std::exchange(ledger, {}); }
+    // Refuse an asking operation, for every atom.
+    void Veto(AEStateOperation operation) { m_vetoes.insert(NameOf(operation)); }
+    void Allow() { m_vetoes.clear(); }
+    // The name under which a handler appears in the ledger.
+    void Call(IAEStateHandler* pHandler, std::string strName) { m_names.emplace_back(pHandler, std::move(strName)); }
+    void Install();
+    void Uninstall();
+    int CountHandlers() const { return static_cast<int>(m_handlers.size()); }
+    int CountReferences() const { return m_nReferences; }
+
+    Ledger ledger;
+    CStubRef<IAtom> active;
+    bool skipsSender = false;
+    std::function<void(AEStateOperation, IAtom*)> onNotify; // runs before the handlers are called
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override { --m_nReferences; }
+    void GetInterface(DWORD, void** out) override { *out = nullptr; }
+    DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
+    void UnregisterHandler(DWORD cookie) override;
+    BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
+                        DWORD reserved) override;
+    void AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon) override;
+    void RemovePane(DWORD kind, HWND hWnd) override;
+    CMenu* CreateContextMenu() override { return nullptr; }
+    HWND GetMainWindow() override { return nullptr; }
+    BOOL EnumActivePairs(ACTIVEPAIRPROC, void*) override { return FALSE; }
+    DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
+    BOOL ReadArchive(ARCHIVEATOMPROC, IArchive*, void*) override { return FALSE; }
+    BOOL WriteActiveObjects(IArchive*) override { return FALSE; }
+    CLIPFORMAT GetClipboardFormat() override { return 0; }
+    void GetActiveAtom(void** out, DWORD interfaceId) override;
+
+private:
+    struct Provider : SERVICEPROVIDER
+    {
+        FakeEditor* pEditor;
+    };
+    struct Handler
+    {
+        DWORD cookie;
+        HWND hWnd;
+        IAEStateHandler* pHandler;
+    };
+
+    static BOOL GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    static BOOL ShowError(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    static std::string NameOf(AEStateOperation operation);
+    std::string NameOf(IAEStateHandler* pHandler) const;
+
+    Provider m_editorProvider, m_errorProvider;
+    std::vector<std::pair<IAEStateHandler*, std::string>> m_names;
+    std::vector<Handler> m_handlers;
+    std::set<std::string> m_vetoes;
+    DWORD m_nLastCookie = 100;
+    int m_nReferences = 0;
+};
+
+// "b", or "-" for none.
+std::string NameOf(IAtom* pAtom);
