@@ -1,7 +1,7 @@
 // FocusBlock: says that focus handling is under way, for as long as it lives.
 #pragma once
 
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // Every live block counts, in the whole process; hosts may open blocks, too. The views' focus handlers open one of
 // their own and then ask IsInFocusBlock: with another block open they leave the editor alone. User-interface thread

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kernel/StubBaseInterface.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // Bytes with a position.
 class VIEWS_API IByteStream : public virtual CStubBaseInterface

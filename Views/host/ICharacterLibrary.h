@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kernel/StubBaseInterface.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // Marks an atom that, without a container, counts as the top of a hierarchy.
 class VIEWS_API ICharacterLibrary : public virtual CStubBaseInterface

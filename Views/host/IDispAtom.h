@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kernel/StubBaseInterface.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // An atom that is shown under another name than its own.
 class VIEWS_API IDispAtom : public virtual CStubBaseInterface

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kernel/StubBaseInterface.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // Why an operation of an object failed; handed to the service that shows errors.
 class VIEWS_API IMyErrorInfo : public virtual CStubBaseInterface

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Kernel/StubBaseInterface.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 // Marks an atom that links to an image inside a phase.
 class VIEWS_API IImageLink : public virtual CStubBaseInterface

@@ -1,7 +1,7 @@
 // The numbers of the host's interfaces, obtained from the kernel when the library is loaded.
 #pragma once
 
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 class IAEStateHandler;
 class IArchive;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Kernel/ServiceRec.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 class IAtomEditor;
 class IMyErrorInfo;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 class IAtom;
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Toolkit/base/String.h"
-#include "Views/Api.h"
+#include "Views/host/Api.h"
 
 #include <array>
 #include <memory>
