@@ -18,11 +18,12 @@ template <class Handle, class Object>
 class HandleTable
 {
 public:
-    // Takes the object over; NULL, and the object is gone, when a million are alive.
+    // Takes the object over; NULL, and the object is gone, when a million are alive. The only operation that needs
+    // memory.
     Handle Add(std::unique_ptr<Object> object)
     {
         const DWORD index = TakeSlot();
-        if (index > kMaxIndex)
+        if (index == kNone)
             return nullptr;
         m_slots[index].object = std::move(object);
         ++m_nLive;
@@ -37,13 +38,13 @@ public:
     }
 
     // Takes the object out and makes its handle stale; empty when there is none.
-    std::unique_ptr<Object> Remove(Handle handle)
+    std::unique_ptr<Object> Remove(Handle handle) noexcept
     {
         Slot* slot = const_cast<Slot*>(FindSlot(handle));
         if (!slot)
             return nullptr;
         slot->generation = slot->generation == kMaxGeneration ? 1 : slot->generation + 1;
-        m_free.push_back(static_cast<DWORD>(slot - m_slots.data()));
+        FreeSlot(static_cast<DWORD>(slot - m_slots.data()));
         --m_nLive;
         return std::move(slot->object);
     }
@@ -51,14 +52,16 @@ public:
     int GetCount() const { return m_nLive; }
 
 private:
+    static constexpr DWORD kMaxIndex = 0xFFFFF;
+    static constexpr DWORD kNone = 0xFFFFFFFF;
+    static constexpr DWORD kMaxGeneration = 0xFFF;
+
     struct Slot
     {
         std::unique_ptr<Object> object;
         DWORD generation = 1; // never 0, so that no handle is NULL
+        DWORD next = kNone;   // of the free slots
     };
-
-    static constexpr DWORD kMaxIndex = 0xFFFFF;
-    static constexpr DWORD kMaxGeneration = 0xFFF;
 
     static Handle Pack(DWORD index, DWORD generation)
     {
@@ -76,19 +79,25 @@ private:
 
     DWORD TakeSlot()
     {
-        if (!m_free.empty()) {
-            const DWORD index = m_free.back();
-            m_free.pop_back();
+        if (m_firstFree != kNone) {
+            const DWORD index = m_firstFree;
+            m_firstFree = std::exchange(m_slots[index].next, kNone);
             return index;
         }
         if (m_slots.size() > kMaxIndex)
-            return kMaxIndex + 1;
+            return kNone;
         m_slots.emplace_back();
         return static_cast<DWORD>(m_slots.size() - 1);
     }
 
+    void FreeSlot(DWORD index) noexcept
+    {
+        (m_firstFree == kNone ? m_firstFree : m_slots[m_lastFree].next) = index;
+        m_lastFree = index;
+    }
+
     std::vector<Slot> m_slots;
-    std::vector<DWORD> m_free;
+    DWORD m_firstFree = kNone, m_lastFree = kNone;
     int m_nLive = 0;
 };
 

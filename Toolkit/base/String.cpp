@@ -8,6 +8,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <new>
 #include <utility>
 
@@ -27,6 +28,14 @@ struct EmptyText
     char text[8] = {};
 };
 EmptyText s_empty;
+
+// A text's length as this class counts it; what is longer than that finds no memory.
+int CheckedLength(std::size_t size)
+{
+    if (size > static_cast<std::size_t>(std::numeric_limits<int>::max() / 2))
+        AfxThrowMemoryException();
+    return static_cast<int>(size);
+}
 } // namespace
 
 CString::Header* CString::GetHeader() const noexcept
@@ -96,7 +105,7 @@ int CString::Compare(LPCSTR pszOther) const noexcept
 
 int CString::CompareNoCase(LPCSTR pszOther) const noexcept
 {
-    return _mbsicmp(m_pszData, pszOther);
+    return toolkit::CompareNoCase(View(), pszOther);
 }
 
 void CString::Empty() noexcept
@@ -112,9 +121,10 @@ CString& CString::operator+=(std::string_view text)
     const int nOld = GetLength();
     const bool bOwnText = text.data() >= m_pszData && text.data() <= m_pszData + nOld;
     const CString keep = bOwnText ? *this : CString(); // a part of this string must outlive the buffer's move
-    Reserve(nOld + static_cast<int>(text.size()));
+    const int nNew = CheckedLength(static_cast<std::size_t>(nOld) + text.size());
+    Reserve(nNew);
     std::memcpy(m_pszData + nOld, text.data(), text.size());
-    ReleaseBuffer(nOld + static_cast<int>(text.size()));
+    ReleaseBuffer(nNew);
     return *this;
 }
 
@@ -172,11 +182,12 @@ void CString::Assign(std::string_view text)
 {
     if (text.empty())
         return Empty();
-    LPSTR pszData = Allocate(static_cast<int>(text.size()));
+    const int nLength = CheckedLength(text.size());
+    LPSTR pszData = Allocate(nLength);
     std::memcpy(pszData, text.data(), text.size());
     Release();
     m_pszData = pszData;
-    ReleaseBuffer(static_cast<int>(text.size()));
+    ReleaseBuffer(nLength);
 }
 
 void CString::Release() noexcept
