@@ -60,21 +60,24 @@ public:
     void WindowCreated(HWND) override {}
     void WindowChanged(HWND) override {}
     void WindowDestroyed(HWND) override {}
-    void Present(HWND hTop, const Surface& surface, const CRect& dirty) override;
-    void Wake(std::optional<DWORD> inMilliseconds) override { m_wake = inMilliseconds; }
+    void Present(HWND, const Surface&, const CRect&) override {}
+    void Wake(std::optional<DWORD> inMilliseconds) override;
     void WakeFromThread() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
 
 private:
+    void PutButton(HWND hWnd, CPoint at, MouseButton button, bool down);
+
     std::mutex m_mutex; // of m_bTaskPosted
     std::condition_variable m_taskPosted;
     bool m_bTaskPosted = false;
 
     DWORD m_ticks = 1000;
-    std::optional<DWORD> m_wake;
+    std::optional<DWORD> m_wakeAt; // when the queue asked to be run
     Modifiers m_modifiers;
     CPoint m_cursorPos;
+    HWND m_hUnderMouse = nullptr; // top-level window
     Cursor m_cursor = Cursor::Arrow;
     std::deque<int> m_answers;
     std::vector<std::string> m_boxes;

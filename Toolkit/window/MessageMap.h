@@ -6,12 +6,14 @@
 
 #include "Toolkit/window/MessageThunks.h"
 
+#include <cstdint>
+
 class CWnd;
 
 namespace toolkit
 {
 
-// FALSE lets the search go on: the message counts as not handled.
+// FALSE: the message counts as not handled, by this window at all; the search does not go on.
 using MessageHandler = bool (*)(CWnd* pWnd, MessageCall& call);
 
 struct MessageEntry
@@ -22,11 +24,29 @@ struct MessageEntry
     MessageHandler handler;
 };
 
+// One of 64 bits for a message and code: a class whose map has no entry under that bit is skipped at once.
+constexpr std::uint64_t MessageBit(UINT message, UINT code)
+{
+    return std::uint64_t{1} << ((message * 0x9E3779B1u ^ code * 0x85EBCA77u) >> 26);
+}
+
+constexpr std::uint64_t MessageBits(const MessageEntry* entries)
+{
+    std::uint64_t bits = 0;
+    for (; entries->handler; ++entries)
+        bits |= MessageBit(entries->message, entries->code);
+    return bits;
+}
+
 struct MessageMap
 {
     const MessageMap* (*base)(); // NULL at the root
     const MessageEntry* entries; // ends with an entry without a handler
+    std::uint64_t bits;          // MessageBits(entries)
 };
+
+// The entry for a message, searched from the given class to the base; NULL without one.
+TOOLKIT_API const MessageEntry* FindMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id);
 
 } // namespace toolkit
 
@@ -38,21 +58,28 @@ protected:                                                                      
     const toolkit::MessageMap* GetMessageMap() const override;
 
 #define BEGIN_MESSAGE_MAP(theClass, baseClass)                                                                         \
-    const toolkit::MessageMap* theClass::GetMessageMap() const { return GetThisMessageMap(); }                         \
+    const toolkit::MessageMap* theClass::GetMessageMap() const                                                         \
+    {                                                                                                                  \
+        return GetThisMessageMap();                                                                                    \
+    }                                                                                                                  \
     const toolkit::MessageMap* theClass::GetThisMessageMap()                                                           \
     {                                                                                                                  \
         using ThisClass = theClass;                                                                                    \
         using BaseClass = baseClass;                                                                                   \
-        static const toolkit::MessageEntry entries[] = {
+        static constexpr toolkit::MessageEntry entries[] = {
 
 #define END_MESSAGE_MAP()                                                                                              \
-            {0, 0, 0, 0, nullptr}};                                                                                    \
-        static const toolkit::MessageMap map{[] { return BaseClass::GetThisMessageMap(); }, entries};                  \
-        return &map;                                                                                                   \
+    {                                                                                                                  \
+        0, 0, 0, 0, nullptr                                                                                            \
+    }                                                                                                                  \
+    }                                                                                                                  \
+    ;                                                                                                                  \
+    static constexpr toolkit::MessageMap map{[] { return BaseClass::GetThisMessageMap(); }, entries,                   \
+                                             toolkit::MessageBits(entries)};                                           \
+    return &map;                                                                                                       \
     }
 
-#define TOOLKIT_ENTRY(message, thunk, member)                                                                          \
-    {message, 0, 0, 0, &toolkit::thunk<ThisClass, &ThisClass::member>},
+#define TOOLKIT_ENTRY(message, thunk, member) {message, 0, 0, 0, &toolkit::thunk<ThisClass, &ThisClass::member>},
 
 #define ON_WM_CREATE() TOOLKIT_ENTRY(WM_CREATE, CallCreate, OnCreate)
 #define ON_WM_DESTROY() TOOLKIT_ENTRY(WM_DESTROY, CallVoid, OnDestroy)
@@ -71,22 +98,30 @@ protected:                                                                      
 #define ON_WM_MOUSEMOVE() TOOLKIT_ENTRY(WM_MOUSEMOVE, CallMouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() TOOLKIT_ENTRY(WM_MOUSEWHEEL, CallWheel, OnMouseWheel)
 #define ON_WM_KEYDOWN() TOOLKIT_ENTRY(WM_KEYDOWN, CallKey, OnKeyDown)
+#define ON_WM_KEYUP() TOOLKIT_ENTRY(WM_KEYUP, CallKey, OnKeyUp)
 #define ON_WM_CHAR() TOOLKIT_ENTRY(WM_CHAR, CallKey, OnChar)
 #define ON_WM_TIMER() TOOLKIT_ENTRY(WM_TIMER, CallTimer, OnTimer)
 #define ON_WM_CONTEXTMENU() TOOLKIT_ENTRY(WM_CONTEXTMENU, CallContextMenu, OnContextMenu)
 
 // LRESULT handler(WPARAM, LPARAM)
-#define ON_MESSAGE(message, memberFxn)                                                                                 \
-    {message, 0, 0, 0, &toolkit::CallMessage<ThisClass, &memberFxn>},
+#define ON_MESSAGE(message, memberFxn) {message, 0, 0, 0, &toolkit::CallMessage<ThisClass, &ThisClass::memberFxn>},
 // void handler(); the command's identifier
-#define ON_COMMAND(id, memberFxn)                                                                                      \
-    {WM_COMMAND, 0, id, id, &toolkit::CallVoid<ThisClass, &memberFxn>},
+#define ON_COMMAND(id, memberFxn) {WM_COMMAND, 0, id, id, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+// void handler(); a control's own WM_COMMAND, which carries its notification's code, seen by the parent
+#define ON_CONTROL(code, id, memberFxn)                                                                                \
+    {WM_COMMAND, code, id, id, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+// void handler(); the same, come back to the control, not seen by the parent
+#define ON_CONTROL_REFLECT(code, memberFxn)                                                                            \
+    {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+// BOOL handler(); FALSE lets the parent see it, too
+#define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                                         \
+    {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, &toolkit::CallCommandEx<ThisClass, &ThisClass::memberFxn>},
 // void handler(NMHDR*, LRESULT*); a child's notification, seen by the parent
 #define ON_NOTIFY(code, id, memberFxn)                                                                                 \
-    {WM_NOTIFY, code, id, id, &toolkit::CallNotify<ThisClass, &memberFxn>},
+    {WM_NOTIFY, code, id, id, &toolkit::CallNotify<ThisClass, &ThisClass::memberFxn>},
 // void handler(NMHDR*, LRESULT*); a notification that comes back to the control, not seen by the parent
 #define ON_NOTIFY_REFLECT(code, memberFxn)                                                                             \
-    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotify<ThisClass, &memberFxn>},
+    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotify<ThisClass, &ThisClass::memberFxn>},
 // BOOL handler(NMHDR*, LRESULT*); FALSE lets the parent see it, too
 #define ON_NOTIFY_REFLECT_EX(code, memberFxn)                                                                          \
-    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotifyEx<ThisClass, &memberFxn>},
+    {WM_REFLECT_BASE + WM_NOTIFY, code, 0, 0, &toolkit::CallNotifyEx<ThisClass, &ThisClass::memberFxn>},

@@ -29,6 +29,13 @@ bool CallVoid(CWnd* pWnd, MessageCall& call)
 }
 
 template <class Class, auto member>
+bool CallCommandEx(CWnd* pWnd, MessageCall& call)
+{
+    call.result = TRUE;
+    return (static_cast<Class*>(pWnd)->*member)() != FALSE;
+}
+
+template <class Class, auto member>
 bool CallCreate(CWnd* pWnd, MessageCall& call)
 {
     call.result = (static_cast<Class*>(pWnd)->*member)(reinterpret_cast<LPCREATESTRUCT>(call.lParam));
@@ -78,8 +85,8 @@ bool CallMouse(CWnd* pWnd, MessageCall& call)
 template <class Class, auto member>
 bool CallWheel(CWnd* pWnd, MessageCall& call)
 {
-    call.result = (static_cast<Class*>(pWnd)->*member)(
-        LOWORD(call.wParam), static_cast<short>(HIWORD(call.wParam)), CPoint(call.lParam));
+    call.result = (static_cast<Class*>(pWnd)->*member)(LOWORD(call.wParam), static_cast<short>(HIWORD(call.wParam)),
+                                                       CPoint(call.lParam));
     return true;
 }
 

@@ -85,6 +85,7 @@ inline constexpr int SW_SHOW = 5;
 // Virtual keys. Letters and digits are their upper-case ASCII codes.
 inline constexpr UINT VK_LBUTTON = 0x01;
 inline constexpr UINT VK_RBUTTON = 0x02;
+inline constexpr UINT VK_MBUTTON = 0x04;
 inline constexpr UINT VK_BACK = 0x08;
 inline constexpr UINT VK_TAB = 0x09;
 inline constexpr UINT VK_RETURN = 0x0D;
@@ -146,7 +147,10 @@ struct NMHDR
 };
 
 // Notifications common to all controls, and how codes are made.
-constexpr UINT NotifyCode(int n) { return static_cast<UINT>(n); }
+constexpr UINT NotifyCode(int n)
+{
+    return static_cast<UINT>(n);
+}
 inline constexpr UINT NM_CLICK = NotifyCode(-2);
 inline constexpr UINT NM_DBLCLK = NotifyCode(-3);
 inline constexpr UINT NM_RETURN = NotifyCode(-4);

@@ -66,6 +66,7 @@ protected:
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     // What happens without a handler: the window class's own behaviour.
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
+    // A menu's or a control's command; a control's is reflected to it first. TRUE when someone took it.
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     // A child's notification: reflected to the child first, then looked up here. TRUE when someone took it.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
@@ -92,6 +93,7 @@ protected:
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
@@ -100,7 +102,7 @@ protected:
     virtual const toolkit::MessageMap* GetMessageMap() const;
 
 private:
-    friend struct WndAccess; // the window manager's way to WindowProc and PostNcDestroy
+    friend struct WndAccess; // the window manager's way to WindowProc, PostNcDestroy and the message map
 };
 
 // The window that AfxGetMainWnd's caller's thread shows its application in; NULL before there is one.

@@ -1,0 +1,66 @@
+#include "Toolkit/window/Desktop.h"
+
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/window/Queue.h"
+
+namespace
+{
+// Stands in while none is installed, so that windows may go after their desktop.
+class NoDesktop : public toolkit::Desktop
+{
+public:
+    DWORD Ticks() override { return toolkit::SystemTicks(); }
+    void WindowCreated(HWND) override {}
+    void WindowChanged(HWND) override {}
+    void WindowDestroyed(HWND) override {}
+    void Present(HWND, const toolkit::Surface&, const CRect&) override {}
+    void Wake(std::optional<DWORD>) override {}
+    void WakeFromThread() override {}
+    int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT) override { return IDCANCEL; }
+    void ShowCursor(toolkit::Cursor) override {}
+};
+
+NoDesktop s_none;
+toolkit::Desktop* s_pDesktop = &s_none;
+
+DWORD DesktopTicks()
+{
+    return s_pDesktop->Ticks();
+}
+} // namespace
+
+void toolkit::InstallDesktop(Desktop* pDesktop)
+{
+    AcceptTasks(pDesktop);
+    DropTasks();
+    s_pDesktop = pDesktop ? pDesktop : &s_none;
+    SetTickSource(pDesktop ? &DesktopTicks : nullptr);
+    InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);
+    UpdateWake();
+}
+
+toolkit::Desktop& toolkit::CurrentDesktop()
+{
+    return *s_pDesktop;
+}
+
+void toolkit::TellDesktopOfCreation(WindowRecord& top)
+{
+    top.bKnownToDesktop = true;
+    CurrentDesktop().WindowCreated(top.hWnd);
+}
+
+void toolkit::TellDesktopOfChange(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (pWindow && pWindow->bKnownToDesktop)
+        CurrentDesktop().WindowChanged(hWnd);
+}
+
+void toolkit::TellDesktopOfDestruction(WindowRecord& top)
+{
+    if (std::exchange(top.bKnownToDesktop, false))
+        CurrentDesktop().WindowDestroyed(top.hWnd);
+}

@@ -1,0 +1,19 @@
+// Which window the mouse is over. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/base/Geometry.h"
+
+namespace toolkit
+{
+
+struct MouseTarget
+{
+    HWND hWnd = nullptr;
+    bool bClient = false; // in its client area, not on its frame
+};
+
+// The innermost visible and enabled window there: of the given top-level window when the point lies in it, else
+// of whichever lies there. A disabled child's clicks are its parent's.
+MouseTarget FindMouseTarget(HWND hTop, CPoint screen);
+
+} // namespace toolkit

@@ -1,0 +1,11 @@
+// The mouse on its way to a window. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/window/InputQueue.h"
+
+namespace toolkit
+{
+void HandleMouse(const InputEvent& event);
+void ForgetMouse(HWND hWnd); // the window is gone
+void ForgetLastPress();      // the next press is not the second of a double click
+} // namespace toolkit

@@ -1,0 +1,49 @@
+#include "Toolkit/window/NativeWindow.h"
+
+#include "Toolkit/window/Dispatch.h"
+#include "Toolkit/window/NativeClasses.h"
+
+#include <map>
+#include <string>
+
+namespace
+{
+// Controls register while the library is being loaded, so the table is made by the first of them.
+std::map<std::string, toolkit::NativeWindowFactory, std::less<>>& Classes()
+{
+    static std::map<std::string, toolkit::NativeWindowFactory, std::less<>> classes;
+    return classes;
+}
+} // namespace
+
+void toolkit::RegisterWindowClass(LPCSTR pszClass, NativeWindowFactory factory)
+{
+    Classes()[pszClass] = std::move(factory);
+}
+
+bool toolkit::FindWindowClass(LPCSTR pszClass, const NativeWindowFactory** ppFactory)
+{
+    *ppFactory = nullptr;
+    if (!pszClass || !*pszClass)
+        return true;
+    const auto it = Classes().find(std::string_view(pszClass));
+    if (it == Classes().end())
+        return false;
+    *ppFactory = &it->second;
+    return true;
+}
+
+toolkit::NativeWindow* toolkit::FindNativeWindow(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    return pWindow ? pWindow->pNative.get() : nullptr;
+}
+
+LRESULT toolkit::NativeWindow::Notify(UINT code, NMHDR& header) const
+{
+    const WindowRecord* pWindow = FindRecord(m_hWnd);
+    if (!pWindow || !pWindow->pParent)
+        return 0;
+    header = {m_hWnd, pWindow->nID, code};
+    return CallWindow(*pWindow->pParent, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
+}

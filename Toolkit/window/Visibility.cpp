@@ -1,0 +1,83 @@
+#include "Toolkit/window/Visibility.h"
+
+#include "Toolkit/window/Capture.h"
+#include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/window/Focus.h"
+#include "Toolkit/window/Painting.h"
+#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/WindowGeometry.h"
+
+using toolkit::FindRecord;
+using toolkit::WindowRecord;
+
+void toolkit::SetVisible(HWND hWnd, bool bShow)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow || pWindow->Is(WS_VISIBLE) == bShow)
+        return;
+    pWindow->style ^= WS_VISIBLE;
+    if (bShow)
+        NoteWindow(*pWindow);
+    else if (pWindow->pParent)
+        NoteExposed(*pWindow->pParent, pWindow->rect);
+    TellDesktopOfChange(hWnd);
+    if (!bShow) {
+        PassFocusOn(hWnd);
+        ReleaseCaptureWithin(hWnd);
+    }
+}
+
+BOOL ShowWindow(HWND hWnd, int nShow)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    const bool bWas = pWindow->Is(WS_VISIBLE);
+    const bool bShow = nShow != SW_HIDE;
+    if (bWas != bShow) {
+        SendMessage(hWnd, WM_SHOWWINDOW, bShow, 0);
+        toolkit::SetVisible(hWnd, bShow);
+    }
+    return bWas;
+}
+
+BOOL IsWindowVisible(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    return pWindow && toolkit::IsShown(*pWindow);
+}
+
+BOOL EnableWindow(HWND hWnd, BOOL bEnable)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    const bool bWasDisabled = pWindow->Is(WS_DISABLED);
+    if (bWasDisabled != !bEnable) {
+        if (!bEnable)
+            toolkit::ReleaseCaptureWithin(hWnd);
+        if ((pWindow = FindRecord(hWnd)))
+            pWindow->style ^= WS_DISABLED;
+        SendMessage(hWnd, WM_ENABLE, bEnable != FALSE, 0);
+        if (!bEnable && GetFocus() == hWnd)
+            SetFocus(nullptr); // natively, a disabled window lets go of the focus and nobody gets it
+    }
+    return bWasDisabled;
+}
+
+BOOL IsWindowEnabled(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    return pWindow && !pWindow->Is(WS_DISABLED);
+}
+
+BOOL BringWindowToTop(HWND hWnd)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    toolkit::RaiseRecord(*pWindow);
+    if (pWindow->pParent)
+        toolkit::NoteWindow(*pWindow);
+    return TRUE;
+}

@@ -1,0 +1,80 @@
+#include "Toolkit/window/WindowCreation.h"
+
+#include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/window/NativeClasses.h"
+#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/WindowDestruction.h"
+#include "Toolkit/window/WindowGeometry.h"
+#include "Toolkit/window/WndAccess.h"
+
+namespace
+{
+using toolkit::WindowRecord;
+
+// The record, above its siblings, with its class's behaviour; NULL when parent or class are not there.
+HWND AddWindow(const CREATESTRUCT& cs, CWnd* pOwner)
+{
+    WindowRecord* pParent = toolkit::FindRecord(cs.hwndParent);
+    const toolkit::NativeWindowFactory* pFactory = nullptr;
+    const bool bHasParent = !cs.hwndParent || (pParent && toolkit::IsAlive(*pParent));
+    if (!bHasParent || !toolkit::FindWindowClass(cs.lpszClass, &pFactory))
+        return nullptr;
+
+    const HWND hWnd = toolkit::AddRecord(std::make_unique<WindowRecord>(cs), pParent);
+    WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return nullptr;
+    try {
+        if (pFactory)
+            pWindow->pNative = (*pFactory)(hWnd);
+    } catch (...) {
+        toolkit::RemoveRecord(hWnd);
+        throw;
+    }
+    pWindow->pWnd = pOwner;
+    if (pOwner)
+        pOwner->m_hWnd = hWnd;
+    return hWnd;
+}
+
+bool AcceptsCreation(HWND hWnd, CREATESTRUCT cs)
+{
+    const auto lParam = reinterpret_cast<LPARAM>(&cs);
+    if (!SendMessage(hWnd, WM_NCCREATE, 0, lParam)) {
+        toolkit::FinishDestruction(hWnd); // it never was created, so there is no WM_DESTROY
+        return false;
+    }
+    if (SendMessage(hWnd, WM_CREATE, 0, lParam) == -1) {
+        DestroyWindow(hWnd);
+        return false;
+    }
+    return true;
+}
+} // namespace
+
+HWND toolkit::MakeWindow(const CREATESTRUCT& cs, CWnd* pOwner)
+{
+    const HWND hWnd = AddWindow(cs, pOwner);
+    if (!hWnd) {
+        if (pOwner)
+            WndAccess::PostNcDestroy(*pOwner);
+        return nullptr;
+    }
+    if (!AcceptsCreation(hWnd, cs))
+        return nullptr;
+
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (pWindow && pWindow->IsTop())
+        TellDesktopOfCreation(*pWindow);
+    SendSize(hWnd);
+    SendMessage(hWnd, WM_MOVE, 0, MAKELPARAM(cs.x, cs.y));
+    if (cs.style & WS_VISIBLE)
+        ShowWindow(hWnd, SW_SHOW);
+    return IsWindow(hWnd) ? hWnd : nullptr;
+}
+
+HWND CreateWindowEx(DWORD exStyle, LPCSTR pszClass, LPCSTR pszName, DWORD style, int x, int y, int cx, int cy,
+                    HWND hParent, UINT nID, void* lpParam)
+{
+    return toolkit::MakeWindow({lpParam, hParent, cy, cx, y, x, style, pszName, pszClass, exStyle, nID}, nullptr);
+}

@@ -1,0 +1,82 @@
+#include "Toolkit/window/WindowDC.h"
+
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/window/Painting.h"
+#include "Toolkit/window/VisibleRegion.h"
+#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/WindowGeometry.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace
+{
+using toolkit::FindRecord;
+using toolkit::WindowRecord;
+
+struct OpenDC
+{
+    HDC hdc;
+    HWND hWnd, hTop;
+    CRect bounds;
+};
+std::vector<OpenDC> s_open; // a few at most
+
+template <class Condition>
+void CloseIf(Condition condition)
+{
+    std::erase_if(s_open, [&](const OpenDC& open) { return condition(open) && DeleteDC(open.hdc); });
+}
+} // namespace
+
+HDC toolkit::OpenWindowDC(const WindowRecord& window, CPoint origin, const Region& clip)
+{
+    WindowRecord& top = TopOf(window);
+    s_open.reserve(s_open.size() + 1);
+    const HDC hdc = CreateSurfaceDC(SurfaceOf(top), origin, clip);
+    if (hdc)
+        s_open.push_back({hdc, window.hWnd, top.hWnd, clip.Bounds()});
+    return hdc;
+}
+
+bool toolkit::CloseWindowDC(HWND hWnd, HDC hdc)
+{
+    const auto it = std::find_if(s_open.begin(), s_open.end(),
+                                 [&](const OpenDC& open) { return open.hdc == hdc && open.hWnd == hWnd; });
+    if (it == s_open.end())
+        return false;
+    const OpenDC open = *it;
+    s_open.erase(it);
+    DeleteDC(hdc);
+    if (WindowRecord* pTop = FindRecord(open.hTop))
+        NotePainted(*pTop, open.bounds);
+    return true;
+}
+
+void toolkit::CloseWindowDCs(HWND hWnd)
+{
+    CloseIf([hWnd](const OpenDC& open) { return open.hWnd == hWnd; });
+}
+
+void toolkit::CloseSurfaceDCs(HWND hTop)
+{
+    CloseIf([hTop](const OpenDC& open) { return open.hTop == hTop; });
+}
+
+HDC GetDC(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return nullptr;
+    const bool bLocked = toolkit::IsUpdateLocked(*pWindow);
+    if (bLocked)
+        toolkit::NoteDrawnWhileLocked();
+    const toolkit::Region clip =
+        bLocked ? toolkit::Region() : VisibleClient(*pWindow, toolkit::Children::AsTheStyleSays);
+    return toolkit::OpenWindowDC(*pWindow, toolkit::ClientArea(*pWindow).TopLeft(), clip);
+}
+
+int ReleaseDC(HWND hWnd, HDC hdc)
+{
+    return toolkit::CloseWindowDC(hWnd, hdc);
+}

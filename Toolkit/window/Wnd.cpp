@@ -1,0 +1,111 @@
+#include "Toolkit/window/Wnd.h"
+
+#include "Toolkit/window/NativeWindow.h"
+#include "Toolkit/window/WindowCreation.h"
+#include "Toolkit/window/WindowRecord.h"
+#include "Toolkit/window/WndAccess.h"
+
+namespace
+{
+CWnd* s_pMainWnd = nullptr;
+}
+
+CWnd::~CWnd()
+{
+    if (m_hWnd)
+        ::DestroyWindow(m_hWnd);
+    if (s_pMainWnd == this)
+        s_pMainWnd = nullptr;
+}
+
+BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, const RECT& rect, CWnd* pParent,
+                    UINT nID)
+{
+    if (m_hWnd)
+        return FALSE;
+    const CRect place(rect);
+    CREATESTRUCT cs{nullptr,
+                    pParent ? pParent->m_hWnd : nullptr,
+                    place.Height(),
+                    place.Width(),
+                    place.top,
+                    place.left,
+                    dwStyle,
+                    pszName,
+                    pszClass,
+                    dwExStyle,
+                    nID};
+    if (!PreCreateWindow(cs)) {
+        PostNcDestroy();
+        return FALSE;
+    }
+    return toolkit::MakeWindow(cs, this) != nullptr;
+}
+
+BOOL CWnd::DestroyWindow()
+{
+    return ::DestroyWindow(m_hWnd);
+}
+
+CWnd* CWnd::FromHandle(HWND hWnd)
+{
+    toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return nullptr;
+    if (pWindow->pWnd)
+        return pWindow->pWnd;
+    if (!pWindow->pTemporaryWnd) {
+        pWindow->pTemporaryWnd = std::make_unique<CWnd>();
+        pWindow->pTemporaryWnd->m_hWnd = hWnd;
+    }
+    return pWindow->pTemporaryWnd.get();
+}
+
+CWnd* CWnd::FromHandlePermanent(HWND hWnd)
+{
+    const toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    return pWindow ? pWindow->pWnd : nullptr;
+}
+
+CWnd* toolkit::WndFromHandle(HWND hWnd)
+{
+    return CWnd::FromHandle(hWnd);
+}
+
+void CWnd::MoveWindow(const RECT& rect)
+{
+    const CRect place(rect);
+    ::MoveWindow(m_hWnd, place.left, place.top, place.Width(), place.Height());
+}
+
+LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+{
+    return ::SendMessage(m_hWnd, message, wParam, lParam);
+}
+
+BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    return ::PostMessage(m_hWnd, message, wParam, lParam);
+}
+
+BOOL CWnd::PreCreateWindow(CREATESTRUCT&)
+{
+    return TRUE;
+}
+
+BOOL CWnd::PreTranslateMessage(MSG*)
+{
+    return FALSE;
+}
+
+void CWnd::PostNcDestroy() {}
+
+CWnd* AfxGetMainWnd()
+{
+    return s_pMainWnd;
+}
+
+void AfxSetMainWnd(CWnd* pWnd)
+{
+    s_pMainWnd = pWnd;
+}

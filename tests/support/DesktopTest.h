@@ -1,0 +1,22 @@
+// The fixture of every test that shows windows: a desktop without a screen, and a check that nothing is left.
+#pragma once
+
+#include "Toolkit/window/HeadlessDesktop.h"
+#include "tests/support/Ledger.h"
+
+#include <gtest/gtest.h>
+
+// At its end, after the members of the derived fixture have gone, the test fails for every window, timer, posted
+// message and drawing object that is alive and was not at the start.
+class DesktopTest : public testing::Test
+{
+protected:
+    DesktopTest();
+    ~DesktopTest() override;
+
+    toolkit::HeadlessDesktop desktop;
+
+private:
+    const toolkit::WindowCounts m_counts;
+    const int m_nGdiObjects;
+};

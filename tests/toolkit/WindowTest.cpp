@@ -1,0 +1,284 @@
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/window/NativeWindow.h"
+#include "tests/support/AllocationFailures.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/toolkit/SpyWnd.h"
+
+#include <memory>
+
+namespace
+{
+
+const std::set<UINT> kLife = {WM_NCCREATE, WM_CREATE, WM_SIZE, WM_MOVE, WM_SHOWWINDOW, WM_DESTROY, WM_NCDESTROY};
+
+class WindowTest : public DesktopTest, public LedgerBook
+{};
+
+TEST_F(WindowTest, IsToldOfItsLifeInTheNativeOrder)
+{
+    SpyWnd frame("frame", *this, kLife);
+    ASSERT_TRUE(frame.Show(nullptr, {10, 20, 110, 70}));
+    EXPECT_EQ(Ledger({"frame NCCREATE", "frame CREATE", "frame SIZE 100,50", "frame MOVE 10,20", "frame SHOWWINDOW 1"}),
+              TakeLedger());
+
+    SpyWnd a("a", *this, kLife), b("b", *this, kLife);
+    a.Show(&frame, {0, 0, 40, 40});
+    b.Show(&a, {0, 0, 20, 20});
+    TakeLedger();
+    EXPECT_TRUE(a.ShowWindow(SW_SHOW)); // shown already: no news
+    EXPECT_TRUE(a.ShowWindow(SW_HIDE));
+    EXPECT_FALSE(a.ShowWindow(SW_HIDE));
+    EXPECT_FALSE(b.IsWindowVisible());
+    EXPECT_EQ(Ledger({"a SHOWWINDOW 0"}), TakeLedger());
+
+    b.gone = [&] { Write("b is gone"); };
+    frame.DestroyWindow();
+    EXPECT_EQ(Ledger({"frame DESTROY", "a DESTROY", "b DESTROY", "b NCDESTROY", "b is gone", "a NCDESTROY",
+                      "frame NCDESTROY"}),
+              TakeLedger());
+    EXPECT_EQ(nullptr, a.m_hWnd);
+}
+
+TEST_F(WindowTest, ARefusedCreationLeavesNoWindow)
+{
+    SpyWnd early("early", *this, kLife), late("late", *this, kLife);
+    early.Answer(WM_NCCREATE, FALSE);
+    late.Answer(WM_CREATE, -1);
+    late.At(WM_CREATE, [&] { CreateWindowEx(0, "", "", WS_CHILD, 0, 0, 9, 9, late.m_hWnd, 1, nullptr); });
+    late.gone = [&] { Write("late is gone"); };
+
+    EXPECT_FALSE(early.Show(nullptr, {0, 0, 10, 10}));
+    EXPECT_FALSE(late.Show(nullptr, {0, 0, 10, 10}));
+    EXPECT_EQ(Ledger({"early NCCREATE", "early NCDESTROY", "late NCCREATE", "late CREATE", "late DESTROY",
+                      "late NCDESTROY", "late is gone"}),
+              TakeLedger());
+    EXPECT_EQ(nullptr, late.m_hWnd);
+    EXPECT_EQ(nullptr, CreateWindowEx(0, "no such class", "", 0, 0, 0, 9, 9, nullptr, 1, nullptr));
+}
+
+TEST_F(WindowTest, AStaleHandleIsRefusedAlsoWhenItsPlaceIsTakenAgain)
+{
+    SpyWnd frame("frame", *this, {});
+    frame.Show(nullptr, {0, 0, 100, 100});
+    const HWND hStale = frame.m_hWnd;
+    frame.DestroyWindow();
+    SpyWnd other("other", *this, {WM_APP, WM_USER});
+    other.Show(nullptr, {0, 0, 100, 100});
+
+    RECT rect{};
+    EXPECT_FALSE(IsWindow(hStale));
+    EXPECT_EQ(nullptr, CWnd::FromHandle(hStale));
+    EXPECT_FALSE(PostMessage(hStale, WM_APP, 0, 0));
+    EXPECT_EQ(0, SendMessage(hStale, WM_USER, 0, 0));
+    EXPECT_EQ(0u, SetTimer(hStale, 1, 10));
+    EXPECT_FALSE(GetWindowRect(hStale, &rect));
+    EXPECT_EQ(nullptr, GetDC(hStale));
+    EXPECT_FALSE(LockWindowUpdate(hStale));
+    EXPECT_EQ(nullptr, CreateWindowEx(0, "", "", WS_CHILD, 0, 0, 9, 9, hStale, 1, nullptr));
+    desktop.Run();
+    EXPECT_EQ(Ledger(), TakeLedger());
+}
+
+TEST_F(WindowTest, HandlersMayDestroyAnyWindowAtAnyMoment)
+{
+    SpyWnd frame("frame", *this, {});
+    frame.Show(nullptr, {0, 0, 100, 100});
+    for (const UINT message : {WM_CREATE, WM_SIZE, WM_SHOWWINDOW, WM_SETFOCUS, WM_KILLFOCUS, WM_PAINT, WM_ERASEBKGND,
+                               WM_NCPAINT, WM_LBUTTONDOWN, WM_MOUSEMOVE, WM_TIMER, WM_DESTROY, WM_NCDESTROY}) {
+        SpyWnd parent("parent", *this, {});
+        auto pChild = std::make_unique<SpyWnd>("child", *this, std::set<UINT>());
+        parent.Show(&frame, {0, 0, 50, 50});
+        pChild->At(message, [&] { parent.DestroyWindow(); });
+        pChild->gone = [&] { pChild.reset(); }; // the object goes with its window
+        pChild->Show(&parent, {0, 0, 20, 20}, WS_BORDER);
+        if (pChild && pChild->m_hWnd) {
+            const HWND hChild = pChild->m_hWnd;
+            SetTimer(hChild, 1, 10);
+            SetFocus(hChild);
+            desktop.Click(hChild, {5, 5});
+            SetFocus(frame.m_hWnd);
+            desktop.Advance(10);
+            DestroyWindow(hChild);
+        }
+        EXPECT_EQ(nullptr, pChild) << message;
+        EXPECT_EQ(nullptr, parent.m_hWnd) << message;
+    }
+}
+
+TEST_F(WindowTest, AnExceptionInAHandlerIsReportedOnceAndEndsThere)
+{
+    SpyWnd frame("frame", *this, {});
+    frame.Show(nullptr, {0, 0, 100, 100});
+    AfxSetMainWnd(&frame);
+    frame.At(WM_USER, [&] {
+        try {
+            SendMessage(frame.m_hWnd, WM_APP, 0, 0);
+            Write("after the inner message");
+            FailAllocation failure(2);
+            std::vector<std::unique_ptr<int>> numbers;
+            numbers.push_back(std::make_unique<int>(1));
+        } catch (CMemoryException& exception) {
+            exception.ReportError();
+            exception.ReportError();
+            throw;
+        }
+    });
+    frame.At(WM_APP, [] { AfxThrowMemoryException(); });
+
+    EXPECT_EQ(0, frame.SendMessage(WM_USER));
+    EXPECT_EQ(std::vector<std::string>({": Out of memory.", ": Out of memory."}), desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"after the inner message"}), TakeLedger());
+
+    frame.At(WM_PAINT, [] { AfxThrowMemoryException(); });
+    frame.Invalidate();
+    desktop.Run(); // once, and silently
+    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
+
+    SpyWnd child("child", *this, {});
+    child.At(WM_CREATE, [] { AfxThrowMemoryException(); });
+    EXPECT_FALSE(child.Show(&frame, {0, 0, 10, 10}));
+    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
+}
+
+// A control that notifies its parent, as list and tree do.
+class Bell : public toolkit::NativeWindow
+{
+public:
+    using NativeWindow::NativeWindow;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        NMHDR header{};
+        return message == WM_USER ? Notify(static_cast<UINT>(wParam), header)
+                                  : DefWindowProc(m_hWnd, message, wParam, lParam);
+    }
+};
+
+class BellWnd : public CWnd
+{
+public:
+    explicit BellWnd(LedgerBook& book) : m_book(book) {}
+
+protected:
+    void OnClick(NMHDR*, LRESULT* pResult)
+    {
+        m_book.Write("control sees the click");
+        *pResult = 7;
+    }
+    BOOL OnDblclk(NMHDR*, LRESULT*)
+    {
+        m_book.Write("control sees the double click");
+        return FALSE;
+    }
+    BOOL OnChange()
+    {
+        m_book.Write("control sees the change");
+        return FALSE;
+    }
+    LedgerBook& m_book;
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(BellWnd, CWnd)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
+    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, OnDblclk)
+    ON_CONTROL_REFLECT_EX(0x300, OnChange)
+END_MESSAGE_MAP()
+
+class LoudBellWnd : public BellWnd
+{
+public:
+    using BellWnd::BellWnd;
+
+protected:
+    void OnClick(NMHDR* pHeader, LRESULT* pResult)
+    {
+        m_book.Write("derived control sees the click");
+        BellWnd::OnClick(pHeader, pResult);
+    }
+    LRESULT OnUser(WPARAM, LPARAM)
+    {
+        m_book.Write("derived control sees the message");
+        return Default();
+    }
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(LoudBellWnd, BellWnd)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
+    ON_MESSAGE(WM_USER, OnUser)
+END_MESSAGE_MAP()
+
+class ParentWnd : public CWnd
+{
+public:
+    explicit ParentWnd(LedgerBook& book) : m_book(book) {}
+
+protected:
+    void OnAny(NMHDR* pHeader, LRESULT* pResult)
+    {
+        m_book.Write("parent sees " + std::to_string(static_cast<int>(pHeader->code)));
+        *pResult = 9;
+    }
+    void OnChange() { m_book.Write("parent sees the change"); }
+    void OnSave() { m_book.Write("parent saves"); }
+    LedgerBook& m_book;
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(ParentWnd, CWnd)
+    ON_NOTIFY(NM_CLICK, 5, OnAny)
+    ON_NOTIFY(NM_DBLCLK, 5, OnAny)
+    ON_NOTIFY(NM_RCLICK, 5, OnAny)
+    ON_CONTROL(0x300, 5, OnChange)
+    ON_COMMAND(100, OnSave)
+END_MESSAGE_MAP()
+
+class ReflectionTest : public WindowTest
+{
+protected:
+    ReflectionTest()
+    {
+        toolkit::RegisterWindowClass("Bell", [](HWND hWnd) { return std::make_unique<Bell>(hWnd); });
+        parent.CreateEx(0, "", "", WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0);
+        bell.CreateEx(0, "Bell", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
+    }
+    LRESULT Ring(UINT code) { return bell.SendMessage(WM_USER, code); }
+
+    ParentWnd parent{*this};
+    LoudBellWnd bell{*this};
+};
+
+TEST_F(ReflectionTest, ANotificationReachesTheControlsOwnClassFirst)
+{
+    EXPECT_EQ(7, Ring(NM_CLICK));
+    EXPECT_EQ(Ledger({"derived control sees the message", "derived control sees the click", "control sees the click"}),
+              TakeLedger());
+    EXPECT_EQ(9, Ring(NM_DBLCLK));
+    EXPECT_EQ(Ledger({"derived control sees the message", "control sees the double click", "parent sees -3"}),
+              TakeLedger());
+    EXPECT_EQ(9, Ring(NM_RCLICK));
+    EXPECT_EQ(0, Ring(NM_RETURN)); // nobody's
+    TakeLedger();
+
+    EXPECT_EQ(1, SendMessage(parent.m_hWnd, WM_COMMAND, 0x300 << 16 | 5, reinterpret_cast<LPARAM>(bell.m_hWnd)));
+    EXPECT_EQ(1, SendMessage(parent.m_hWnd, WM_COMMAND, 100, 0));
+    EXPECT_EQ(0, SendMessage(parent.m_hWnd, WM_COMMAND, 101, 0));
+    EXPECT_EQ(Ledger({"control sees the change", "parent sees the change", "parent saves"}), TakeLedger());
+}
+
+TEST_F(ReflectionTest, SendingAMessageNeedsNoMemory)
+{
+    SpyWnd quiet("quiet", *this, {});
+    quiet.Show(nullptr, {0, 0, 10, 10});
+    const auto work = [&] {
+        for (int i = 0; i < 10; ++i) {
+            quiet.SendMessage(WM_TIMER, 3);
+            quiet.PostMessage(WM_TIMER, 3);
+            toolkit::RunPendingMessages();
+        }
+    };
+    work();
+    EXPECT_EQ(0, CountAllocations(work));
+}
+
+} // namespace
