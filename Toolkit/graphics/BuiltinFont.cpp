@@ -9,7 +9,6 @@ namespace
 
 using toolkit::FontStyle;
 using toolkit::Glyph;
-using toolkit::Pixel;
 
 char32_t TakeCodePoint(std::string_view& text)
 {
@@ -18,11 +17,9 @@ char32_t TakeCodePoint(std::string_view& text)
     return c.value;
 }
 
-int Advance(char32_t c, FontStyle style)
+int Advance(const Glyph& glyph, FontStyle style)
 {
-    if (toolkit::IsCombiningMark(c))
-        return 0;
-    return toolkit::FindGlyph(c).width + (style == FontStyle::Bold ? 2 : 1);
+    return glyph.width + (style == FontStyle::Bold ? 2 : 1);
 }
 
 // The columns of a glyph at x that lie between left and right, as bits.
@@ -36,38 +33,59 @@ std::uint32_t VisibleColumns(int x, int left, int right)
     return columns;
 }
 
-void DrawGlyph(toolkit::Surface& target, const CRect& clip, CPoint at, const Glyph& glyph, Pixel pixel, FontStyle style)
+// The ink once more a pixel to the right, save where it would close a gap of one pixel.
+std::uint32_t Struck(std::uint32_t ink)
 {
-    const std::uint32_t columns = VisibleColumns(at.x, clip.left, clip.right);
-    const int first = std::max(clip.top, at.y);
-    const int end = std::min(clip.bottom, at.y + toolkit::kFontRows);
-    for (int y = first; y < end; ++y) {
-        const std::uint32_t ink = glyph.rows[static_cast<std::size_t>(y - at.y)];
-        const std::uint32_t struck = style == FontStyle::Bold ? ink | ink << 1 : ink;
-        for (std::uint32_t rest = struck & columns; rest != 0; rest &= rest - 1)
-            target.Row(y)[at.x + std::countr_zero(rest)] = pixel;
-    }
+    return ink | (ink << 1 & ~(ink >> 1));
 }
+
+struct Pen
+{
+    toolkit::Surface& target;
+    const CRect& clip;
+    const toolkit::Pixel pixel;
+    const FontStyle style;
+
+    void Draw(CPoint at, const Glyph& glyph) const
+    {
+        const std::uint32_t columns = VisibleColumns(at.x, clip.left, clip.right);
+        const int end = std::min(clip.bottom, at.y + toolkit::kFontRows);
+        for (int y = std::max(clip.top, at.y); y < end; ++y) {
+            const std::uint32_t ink = glyph.rows[static_cast<std::size_t>(y - at.y)];
+            const std::uint32_t struck = style == FontStyle::Bold ? Struck(ink) : ink;
+            for (std::uint32_t rest = struck & columns; rest != 0; rest &= rest - 1)
+                target.Row(y)[at.x + std::countr_zero(rest)] = pixel;
+        }
+    }
+};
 
 } // namespace
 
 int toolkit::BuiltinFont::Measure(std::string_view text, FontStyle style)
 {
     int width = 0;
-    while (!text.empty())
-        width += Advance(TakeCodePoint(text), style);
+    while (!text.empty()) {
+        const char32_t c = TakeCodePoint(text);
+        width += IsCombiningMark(c) ? 0 : Advance(m_glyphs.Find(c), style);
+    }
     return width;
 }
 
 void toolkit::BuiltinFont::Draw(Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
                                 FontStyle style)
 {
-    const Pixel pixel = ToPixel(color);
+    const Pen pen{target, clip, ToPixel(color), style};
     while (!text.empty() && at.x < clip.right) {
         const char32_t c = TakeCodePoint(text);
         if (IsCombiningMark(c))
-            continue;
-        DrawGlyph(target, clip, at, FindGlyph(c), pixel, style);
-        at.x += Advance(c, style);
+            continue; // nothing before it to stand on
+        const char32_t next = text.empty() ? 0 : DecodeUtf8(text).value;
+        const Glyph& glyph = m_glyphs.Find(GlyphTable::WithoutDot(c, next));
+        pen.Draw(at, glyph);
+        while (!text.empty() && IsCombiningMark(DecodeUtf8(text).value)) {
+            const PlacedMark mark = m_glyphs.Place(TakeCodePoint(text), glyph);
+            pen.Draw({at.x + mark.x, at.y}, mark.glyph);
+        }
+        at.x += Advance(glyph, style);
     }
 }

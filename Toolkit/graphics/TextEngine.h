@@ -30,6 +30,9 @@ TOOLKIT_API TextEngine& CurrentTextEngine();
 TOOLKIT_API void InstallTextEngine(TextEngine* pEngine); // borrowed; NULL brings back the built-in font
 TOOLKIT_API TextEngine& BuiltinTextEngine();             // the same pixels on every machine
 
+// Does the code point stand on the one before it, without a width of its own? No text is cut before one.
+TOOLKIT_API bool IsCombiningMark(char32_t c);
+
 // The text, cut with "..." at its end so that it is no wider than `width`; whole when it fits. Cuts between
 // code points. A width too small for the dots gives the dots. Asks the engine a logarithmic number of times.
 TOOLKIT_API std::string Ellipsize(std::string_view text, int width, FontStyle style);
