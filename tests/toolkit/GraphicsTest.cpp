@@ -1,4 +1,5 @@
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/SysColors.h"
 #include "tests/toolkit/Picture.h"
 
 #include <gtest/gtest.h>
@@ -142,6 +143,41 @@ TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheirAlpha)
     EXPECT_EQ(hPicture, SelectBitmap(hdcMemory, hOwn));
     EXPECT_TRUE(DeleteDC(hdcMemory));
     EXPECT_TRUE(DeleteBitmap(hPicture));
+}
+
+TEST_F(GraphicsTest, AWidePictureBlendsEachPixelByItsOwnAlpha)
+{
+    Begin({53, 1});
+    const std::string row = std::string(17, 'R') + std::string(20, ' ') + "r" + std::string(15, 'B');
+    const HBITMAP hPicture = CreateBitmapFromSurface(MakePicture({row}));
+    AlphaBlt(hdc, 0, 0, hPicture);
+    DeleteBitmap(hPicture);
+    EXPECT_EQ((Rows{std::string(17, 'R') + std::string(20, '.') + "?" + std::string(15, 'B')}), ShowPicture(surface));
+    EXPECT_EQ(0xFFFF7F7F, surface.At(37, 0));
+}
+
+TEST_F(GraphicsTest, ABumpIsRaisedOutsideAndSunkenInside)
+{
+    const auto shown = [this] {
+        Rows rows = ShowPicture(surface);
+        for (int y = 0; y < surface.Height(); ++y)
+            for (int x = 0; x < surface.Width(); ++x)
+                for (const auto& [index, letter] : {std::pair(COLOR_3DLIGHT, 'l'), std::pair(COLOR_3DDKSHADOW, 'd')})
+                    if (toolkit::ToColor(surface.At(x, y)) == GetSysColor(index))
+                        rows[static_cast<std::size_t>(y)][static_cast<std::size_t>(x)] = letter;
+        return rows;
+    };
+    Begin({7, 6});
+    EXPECT_TRUE(DrawEdge(hdc, CRect(1, 0, 7, 6), EDGE_BUMP, BF_RECT));
+    EXPECT_EQ((Rows{
+                  ".llllld",
+                  ".ldddld",
+                  ".ld..ld",
+                  ".ld..ld",
+                  ".llllld",
+                  ".dddddd",
+              }),
+              shown());
 }
 
 TEST_F(GraphicsTest, ASelectedBitmapCannotBeDeletedNorSelectedElsewhere)
