@@ -54,6 +54,7 @@ inline constexpr UINT LVIS_DROPHILITED = 0x0008;
 inline constexpr UINT LVNI_ALL = 0x0000;
 inline constexpr UINT LVNI_FOCUSED = 0x0001;
 inline constexpr UINT LVNI_SELECTED = 0x0002;
+inline constexpr UINT LVNI_CUT = 0x0004;
 inline constexpr UINT LVNI_DROPHILITED = 0x0008;
 
 inline constexpr UINT LVIF_TEXT = 0x0001;

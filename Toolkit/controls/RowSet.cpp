@@ -1,6 +1,7 @@
 #include "Toolkit/controls/RowSet.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace toolkit
 {
@@ -39,6 +40,7 @@ void RowSet::Insert(RowRange range)
 {
     if (range.IsEmpty())
         return;
+    Ranges spare{{range.first, range.end}}; // memory first, so that running out of it changes nothing
     // Ranges that overlap or touch the new one become part of it.
     auto it = FirstEndingAfter(range.first - 1);
     while (it != m_ranges.end() && it->first <= range.end) {
@@ -47,7 +49,10 @@ void RowSet::Insert(RowRange range)
         m_nCount -= it->second - it->first;
         it = m_ranges.erase(it);
     }
-    m_ranges.emplace_hint(it, range.first, range.end);
+    Ranges::node_type node = spare.extract(spare.begin());
+    node.key() = range.first;
+    node.mapped() = range.end;
+    m_ranges.insert(it, std::move(node));
     m_nCount += range.Count();
 }
 
@@ -55,17 +60,25 @@ void RowSet::Erase(RowRange range)
 {
     if (range.IsEmpty())
         return;
-    auto it = FirstEndingAfter(range.first);
+    const auto at = FirstEndingAfter(range.first);
+    if (at == m_ranges.end() || at->first >= range.end)
+        return;
+
+    // What the first range keeps below the hole stays; what the last one keeps above it is put back.
+    const int firstKeeps = at->first, lastKeeps = std::prev(m_ranges.lower_bound(range.end))->second;
+    if (lastKeeps > range.end) {
+        m_ranges.emplace(range.end, lastKeeps);
+        m_nCount += lastKeeps - range.end;
+    }
+    auto it = at;
+    if (firstKeeps < range.first) {
+        m_nCount -= it->second - range.first;
+        m_ranges[firstKeeps] = range.first;
+        ++it;
+    }
     while (it != m_ranges.end() && it->first < range.end) {
-        const RowRange old{it->first, it->second};
-        m_nCount -= old.Count();
+        m_nCount -= it->second - it->first;
         it = m_ranges.erase(it);
-        for (const RowRange kept : {RowRange{old.first, range.first}, RowRange{range.end, old.end}}) {
-            if (kept.IsEmpty())
-                continue;
-            m_ranges.emplace_hint(it, kept.first, kept.end);
-            m_nCount += kept.Count();
-        }
     }
 }
 

@@ -1,0 +1,142 @@
+#include "Toolkit/controls/ListControl.h"
+
+#include "Toolkit/controls/ListTracker.h"
+
+#include <unordered_map>
+
+namespace toolkit
+{
+
+namespace
+{
+
+constexpr CSize kAroundPicture{28, 48}; // what a cell has beyond its picture, at least
+constexpr int kMinCellWidth = 100;
+
+const bool s_registered = [] {
+    RegisterWindowClass(WC_LISTVIEW, [](HWND hWnd) { return std::make_unique<ListControl>(hWnd); });
+    RegisterListTracker();
+    return true;
+}();
+
+} // namespace
+
+// LVM_SORTITEMS, LVM_EDITLABEL and LVM_GETEDITCONTROL are left to the default, which answers 0: there is nothing
+// to sort, and no label is edited.
+ListControl::Handler ListControl::FindHandler(UINT message)
+{
+    static const std::unordered_map<UINT, Handler> handlers{
+        {WM_CREATE, &ListControl::OnCreate},
+        {WM_SIZE, &ListControl::OnSize},
+        {WM_PAINT, &ListControl::OnPaint},
+        {WM_ERASEBKGND, &ListControl::OnEraseBackground},
+        {WM_SETFOCUS, &ListControl::OnSetFocus},
+        {WM_KILLFOCUS, &ListControl::OnKillFocus},
+        {WM_KEYDOWN, &ListControl::OnKeyDown},
+        {WM_LBUTTONDOWN, &ListControl::OnLButtonDown},
+        {WM_LBUTTONUP, &ListControl::OnLButtonUp},
+        {WM_LBUTTONDBLCLK, &ListControl::OnLButtonDblClk},
+        {WM_RBUTTONDOWN, &ListControl::OnRButtonDown},
+        {WM_RBUTTONDBLCLK, &ListControl::OnRButtonDown},
+        {WM_RBUTTONUP, &ListControl::OnRButtonUp},
+        {WM_VSCROLL, &ListControl::OnVScroll},
+        {WM_MOUSEWHEEL, &ListControl::OnMouseWheel},
+        {LVM_GETIMAGELIST, &ListControl::OnGetImageList},
+        {LVM_SETIMAGELIST, &ListControl::OnSetImageList},
+        {LVM_GETITEMCOUNT, &ListControl::OnGetItemCount},
+        {LVM_SETITEMCOUNT, &ListControl::OnSetItemCount},
+        {LVM_GETNEXTITEM, &ListControl::OnGetNextItem},
+        {LVM_GETSELECTEDCOUNT, &ListControl::OnGetSelectedCount},
+        {LVM_GETITEMSTATE, &ListControl::OnGetItemState},
+        {LVM_SETITEMSTATE, &ListControl::OnSetItemState},
+        {LVM_GETITEMRECT, &ListControl::OnGetItemRect},
+        {LVM_HITTEST, &ListControl::OnHitTest},
+        {LVM_ENSUREVISIBLE, &ListControl::OnEnsureVisible},
+        {LVM_SCROLL, &ListControl::OnScroll},
+        {LVM_GETTOPINDEX, &ListControl::OnGetTopIndex},
+        {LVM_GETCOUNTPERPAGE, &ListControl::OnGetCountPerPage},
+        {LVM_REDRAWITEMS, &ListControl::OnRedrawItems},
+        {LVM_UPDATE, &ListControl::OnUpdate},
+        {LVM_ARRANGE, &ListControl::OnArrange},
+        {LVM_SETICONSPACING, &ListControl::OnSetIconSpacing},
+    };
+    const auto it = handlers.find(message);
+    return it == handlers.end() ? nullptr : it->second;
+}
+
+LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (const Handler handler = FindHandler(message))
+        return (this->*handler)(wParam, lParam);
+    return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+}
+
+LRESULT ListControl::OnCreate(WPARAM, LPARAM)
+{
+    Measure();
+    return Relayout() ? 0 : -1;
+}
+
+LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
+{
+    const int count = static_cast<int>(wParam);
+    if (count < 0)
+        return FALSE;
+
+    m_rows.SetCount(count);
+    m_layout.SetCount(count);
+    m_hinted = {0, 0};
+    if (m_band)
+        m_band->Truncate(count);
+    if (m_press && m_press->row >= count)
+        EndTracking();
+    RedrawAll();
+    return Relayout();
+}
+
+LRESULT ListControl::OnGetImageList(WPARAM wParam, LPARAM)
+{
+    return wParam == LVSIL_NORMAL ? reinterpret_cast<LRESULT>(m_hImages) : 0;
+}
+
+LRESULT ListControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
+{
+    if (wParam != LVSIL_NORMAL)
+        return 0;
+    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
+    Measure();
+    RedrawAll();
+    static_cast<void>(Relayout());
+    return reinterpret_cast<LRESULT>(former);
+}
+
+LRESULT ListControl::OnSetIconSpacing(WPARAM, LPARAM lParam)
+{
+    const CSize former = m_layout.Cell();
+    const CSize cell(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
+    m_spacing = cell.cx > 0 && cell.cy > 0 ? std::optional(cell) : std::nullopt;
+    Measure();
+    RedrawAll();
+    static_cast<void>(Relayout());
+    return MAKELONG(former.cx, former.cy);
+}
+
+LRESULT ListControl::OnArrange(WPARAM, LPARAM)
+{
+    RedrawAll(); // the rows always lie in the grid
+    return Relayout();
+}
+
+void ListControl::Measure()
+{
+    int cx = 0, cy = 0;
+    if (!ImageList_GetIconSize(m_hImages, &cx, &cy))
+        cx = cy = 0;
+    const int twoLines = ListLayout::kTopPadding + ListLayout::kLabelGap + 2 * CurrentTextEngine().LineHeight() + 1;
+    const CSize natural(std::max(kMinCellWidth, cx + static_cast<int>(kAroundPicture.cx)),
+                        cy + std::max(twoLines, static_cast<int>(kAroundPicture.cy)));
+    m_layout.SetIcon({cx, cy});
+    m_layout.SetCell(m_spacing.value_or(natural));
+}
+
+} // namespace toolkit

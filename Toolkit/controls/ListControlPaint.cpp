@@ -1,0 +1,181 @@
+// How the list control draws: only the cells that touch what is to be painted.
+#include "Toolkit/controls/ListControl.h"
+#include "Toolkit/window/SysColors.h"
+
+namespace toolkit
+{
+
+namespace
+{
+
+constexpr BYTE kBandFill = 40, kBandEdge = 170; // of 255
+constexpr BYTE kCutFade = 140;
+
+// A rectangle whose corners are cut by a pixel or two.
+void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
+{
+    FillSolidRect(hdc, {rect.left + 2, rect.top, rect.right - 2, rect.top + 1}, color);
+    FillSolidRect(hdc, {rect.left + 1, rect.top + 1, rect.right - 1, rect.top + 2}, color);
+    FillSolidRect(hdc, {rect.left, rect.top + 2, rect.right, rect.bottom - 2}, color);
+    FillSolidRect(hdc, {rect.left + 1, rect.bottom - 2, rect.right - 1, rect.bottom - 1}, color);
+    FillSolidRect(hdc, {rect.left + 2, rect.bottom - 1, rect.right - 2, rect.bottom}, color);
+}
+
+// A device context for WM_PAINT, given back also when the window is gone meanwhile.
+class PaintScope
+{
+public:
+    explicit PaintScope(HWND hWnd) : m_hWnd(hWnd), m_target(BeginPaint(hWnd)) {}
+    ~PaintScope() { EndPaint(m_hWnd, m_target.hdc); }
+    PaintScope(const PaintScope&) = delete;
+    PaintScope& operator=(const PaintScope&) = delete;
+
+    const PaintTarget& Target() const { return m_target; }
+
+private:
+    const HWND m_hWnd;
+    const PaintTarget m_target;
+};
+
+} // namespace
+
+LRESULT ListControl::OnEraseBackground(WPARAM wParam, LPARAM)
+{
+    return FillSolidRect(reinterpret_cast<HDC>(wParam), {0, 0, m_layout.Client().cx, m_layout.Client().cy},
+                         GetSysColor(COLOR_WINDOW));
+}
+
+LRESULT ListControl::OnPaint(WPARAM, LPARAM)
+{
+    const PaintScope paint(m_hWnd);
+    const auto [hdc, rcPaint] = paint.Target();
+    if (DrawRows(hdc, rcPaint))
+        DrawBand(hdc);
+    return 0;
+}
+
+bool ListControl::DrawRows(HDC hdc, const CRect& rcPaint)
+{
+    const CellBlock block = m_layout.CellsTouching(rcPaint);
+    const int first = m_layout.RowAt(block.firstLine, block.firstColumn);
+    if (block.IsEmpty() || first < 0)
+        return true;
+    const int last = m_layout.RowAt(block.endLine - 1, block.endColumn - 1);
+    if (!Hint({first, last < 0 ? m_rows.Count() : last + 1}))
+        return false;
+
+    for (int line = block.firstLine; line < block.endLine; ++line) {
+        for (int column = block.firstColumn; column < block.endColumn; ++column) {
+            const int row = m_layout.RowAt(line, column);
+            if (row < 0 || !RectVisible(hdc, m_layout.CellRect(row)))
+                continue;
+            const std::optional<Face> face = AskFace(row);
+            if (!face)
+                return false;
+            if (m_rows.Has(row))
+                DrawRow(hdc, row, *face);
+        }
+    }
+    return true;
+}
+
+void ListControl::DrawRow(HDC hdc, int row, const Face& face)
+{
+    const bool focused = GetFocus() == m_hWnd;
+    UINT state = m_rows.State(row);
+    if (!focused && !(GetWindowStyle(m_hWnd) & LVS_SHOWSELALWAYS))
+        state &= ~LVIS_SELECTED;
+
+    const Label label = PlaceLabel(row, face.text);
+    DrawPicture(hdc, row, face.image, state);
+    DrawLabel(hdc, label, state);
+    if (focused && (state & LVIS_FOCUSED))
+        DrawFocusRect(hdc, label.lines.empty() ? m_layout.IconRect(row) : label.box);
+}
+
+void ListControl::DrawPicture(HDC hdc, int row, int image, UINT state)
+{
+    if (image < 0)
+        return;
+    const CRect rect = m_layout.IconRect(row);
+    const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && GetFocus() == m_hWnd);
+    ImageList_Draw(m_hImages, image, hdc, rect.left, rect.top, marked ? ILD_SELECTED : ILD_NORMAL);
+    if (state & LVIS_CUT)
+        BlendRect(hdc, rect, GetSysColor(COLOR_WINDOW), kCutFade);
+}
+
+void ListControl::DrawLabel(HDC hdc, const Label& label, UINT state)
+{
+    int ground = COLOR_WINDOW, ink = state & LVIS_CUT ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT;
+    if ((state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && GetFocus() == m_hWnd)) {
+        ground = COLOR_HIGHLIGHT;
+        ink = COLOR_HIGHLIGHTTEXT;
+    } else if (state & LVIS_SELECTED) {
+        ground = COLOR_BTNFACE;
+    }
+    if (ground != COLOR_WINDOW)
+        FillRounded(hdc, label.box, GetSysColor(ground));
+
+    const int lineHeight = CurrentTextEngine().LineHeight();
+    int y = label.box.top + (label.box.Height() - static_cast<int>(label.lines.size()) * lineHeight) / 2;
+    SetTextColor(hdc, GetSysColor(ink));
+    for (const LabelLine& line : label.lines) {
+        TextOut(hdc, label.box.left + (label.box.Width() - line.width) / 2, y, line.text);
+        y += lineHeight;
+    }
+}
+
+void ListControl::DrawBand(HDC hdc)
+{
+    if (!m_band)
+        return;
+    const CRect band = BandRect();
+    const COLORREF color = GetSysColor(COLOR_HIGHLIGHT);
+    CRect inside = band;
+    inside.DeflateRect(1, 1);
+    BlendRect(hdc, inside, color, kBandFill);
+    for (const CRect& edge : Difference(band, inside))
+        BlendRect(hdc, edge, color, kBandEdge);
+}
+
+LRESULT ListControl::OnUpdate(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    if (!m_rows.Has(row))
+        return FALSE;
+    if (row >= m_hinted.first && row < m_hinted.end)
+        m_hinted = {0, 0}; // what the owner said of it may be out of date
+    Redraw(row);
+    return TRUE;
+}
+
+LRESULT ListControl::OnRedrawItems(WPARAM wParam, LPARAM lParam)
+{
+    const int first = static_cast<int>(wParam), last = static_cast<int>(lParam);
+    if (!m_rows.Has(first) || !m_rows.Has(last) || last < first)
+        return FALSE;
+    CellBlock block{m_layout.LineOf(first), m_layout.LineOf(last) + 1, 0, m_layout.Columns()};
+    const CRect rect = m_layout.BlockRect(block);
+    InvalidateRect(m_hWnd, &rect);
+    return TRUE;
+}
+
+void ListControl::Redraw(int row)
+{
+    const CRect visible = m_layout.CellRect(row) & CRect(CPoint(), m_layout.Client());
+    if (!visible.IsRectEmpty())
+        InvalidateRect(m_hWnd, &visible);
+}
+
+void ListControl::RedrawStates(UINT states)
+{
+    const CellBlock visible = VisibleCells();
+    for (int line = visible.firstLine; line < visible.endLine; ++line)
+        for (int column = visible.firstColumn; column < visible.endColumn; ++column) {
+            const int row = m_layout.RowAt(line, column);
+            if (m_rows.State(row) & states)
+                Redraw(row);
+        }
+}
+
+} // namespace toolkit
