@@ -1,6 +1,6 @@
 // How the list control draws: only the cells that touch what is to be painted.
 #include "Toolkit/controls/ListControl.h"
-#include "Toolkit/window/SysColors.h"
+#include "Toolkit/graphics/SysColors.h"
 
 namespace toolkit
 {

@@ -1,0 +1,73 @@
+// A list control in a window, and what its user and its owner see of it.
+#pragma once
+
+#include "Toolkit/controls/ListCtrl.h"
+#include "tests/support/DesktopTest.h"
+
+#include <functional>
+
+// Shows the rows "a", "b", "c" ... and writes down what it is told: "a? +selected" for a change it is asked about,
+// "a: +selected" for one that happened, "all" for row -1.
+class LedgerList : public CListCtrl
+{
+public:
+    // A derived class may keep movements and timers to itself.
+    bool keepsMouseMoves = false;
+    std::function<bool(const std::string& line)> refuses = [](const std::string&) { return false; };
+    std::function<void(const std::string& line)> meanwhile = [](const std::string&) {};
+    std::function<std::string(int row)> text = [](int row) { return NameOf(row); };
+    bool writesPaints = false;
+
+    static std::string NameOf(int row);
+    Ledger TakeLedger() { return book.TakeLedger(); }
+
+    LedgerBook book;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+    afx_msg void OnChanging(NMLISTVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnChanged(NMLISTVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnHint(NMLVCACHEHINT* pHint, LRESULT* pResult);
+    afx_msg void OnDispInfo(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnBeginDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
+    afx_msg void OnBeginRDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
+    afx_msg void OnClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
+    afx_msg void OnRClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
+    afx_msg void OnDblClk(NMITEMACTIVATE* pClick, LRESULT* pResult);
+    afx_msg void OnReturn(NMHDR* pHeader, LRESULT* pResult);
+    afx_msg void OnGotFocus(NMHDR* pHeader, LRESULT* pResult);
+    afx_msg void OnLostFocus(NMHDR* pHeader, LRESULT* pResult);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Write(const std::string& line);
+};
+
+// A list of three columns, 110 pixels wide each, with pictures of 48 by 48; a field beside it can take the focus.
+class ListControlTest : public DesktopTest
+{
+protected:
+    void SetUp() override;
+
+    void Fill(int rows); // and paints; the ledger is empty then
+
+    CPoint IconOf(int row) const;
+    CPoint LabelOf(int row) const;
+    std::string State() const; // "[a *b (c)]": selected rows with a star, the focused one in parentheses
+    std::string Selected() const;
+    Ledger TakeLedger() { return list.TakeLedger(); }
+
+    void Click(int row, toolkit::Modifiers modifiers = {});
+    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+    void Drag(CPoint from, CPoint to, toolkit::Modifiers modifiers = {}); // the button stays down
+
+    static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false};
+    const CPoint kEmpty{105, 10}; // between the pictures of a and b
+
+    CImageList images;
+    CWnd top;
+    LedgerList list;
+    CWnd other;
+};
