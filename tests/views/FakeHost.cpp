@@ -127,6 +127,18 @@ void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInt
     }
 }
 
+BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
+{
+    const auto found =
+        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p->GetID() == dwID; });
+    if (ppOut) {
+        *ppOut = nullptr;
+        if (found != members.end())
+            (*found)->GetInterface(dwInterfaceId, ppOut);
+    }
+    return found != members.end();
+}
+
 int FakeContainer::GetPosition(IImageLink* pLink)
 {
     const auto* pAtom = static_cast<FakeAtom*>(pLink);

@@ -38,6 +38,7 @@ public:
     bool iconFails = false;
     bool isLink = false;    // offers IImageLink
     bool isLibrary = false; // offers ICharacterLibrary
+    bool isModified = false;
     FakeContainer* parent = nullptr;
     int nNameReads = 0;        // names filled in, lengths asked for not counted
     Ledger* pLedger = nullptr; // where icons are written down
@@ -51,7 +52,7 @@ public:
     DWORD GetID() override { return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(this)); }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
-    BOOL IsModified() override { return FALSE; }
+    BOOL IsModified() override { return isModified; }
     BOOL GetDisplayName(char* pBuffer, DWORD* pLength) override;
     BOOL GetIcon(ICONREQUEST*) override { return FALSE; }
     int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
@@ -85,7 +86,7 @@ public:
 
     UINT GetCount() override { return static_cast<UINT>(members.size()) + static_cast<UINT>(nMissing); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
-    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
+    BOOL FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
     BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
     BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }

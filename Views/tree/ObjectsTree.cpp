@@ -1,0 +1,147 @@
+// The tree view's life, from Create to its window's end.
+#include "Views/tree/ObjectsTree.h"
+
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/graphics/Resources.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+
+#include <memory>
+
+namespace
+{
+
+constexpr UINT kControlID = 0xE900;
+constexpr DWORD kStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | TVS_HASBUTTONS | TVS_HASLINES |
+                         TVS_LINESATROOT | TVS_EDITLABELS | TVS_SHOWSELALWAYS;
+static_assert(kStyle == 0x4600002F);
+
+constexpr UINT kPaneKind = 0;
+constexpr UINT kPaneCaption = 57357;
+constexpr UINT kPaneIcon = 1007;
+constexpr LPCSTR kFallbackCaption = "Loaded Libraries";
+
+constexpr UINT kImages = 1013;
+constexpr int kImageWidth = 16;
+constexpr int kImagesToGrow = 4;
+constexpr COLORREF kTransparent = RGB(255, 0, 0);
+
+struct DestroyIconHandle
+{
+    void operator()(HICON hIcon) const { ::DestroyIcon(hIcon); }
+};
+using IconHolder = std::unique_ptr<HICON__, DestroyIconHandle>;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CObjectsTree, CTreeCtrl)
+    ON_WM_CREATE()
+    ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnObjectsGetDispInfo)
+    ON_WM_DESTROY()
+    ON_NOTIFY_REFLECT_EX(TVN_SELCHANGED, OnSelChanged)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGING, OnSelChanging)
+    ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDED, OnItemExpanded)
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+CObjectsTree::CObjectsTree(int bPassive) : m_bPassive(bPassive) {}
+
+// A window that is still there goes now, while it can still take its handler from the editor.
+CObjectsTree::~CObjectsTree()
+{
+    DestroyWindow();
+}
+
+BOOL CObjectsTree::Create(CWnd* pParentWnd)
+{
+    return CTreeCtrl::Create(0, CRect(), pParentWnd, kControlID);
+}
+
+BOOL CObjectsTree::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (!CTreeCtrl::PreCreateWindow(cs))
+        return FALSE;
+    cs.style = kStyle;
+    cs.dwExStyle |= WS_EX_CLIENTEDGE;
+    return TRUE;
+}
+
+BOOL CObjectsTree::PreTranslateMessage(MSG* pMsg)
+{
+    return CTreeCtrl::PreTranslateMessage(pMsg);
+}
+
+void CObjectsTree::GetInterface(DWORD id, void** out)
+{
+    *out = nullptr;
+    if (id == IID_IAEStateHandler)
+        *out = static_cast<IAEStateHandler*>(this);
+    else if (id == STUB_BASE_INTERFACE_ID)
+        *out = static_cast<CStubBaseInterface*>(this);
+    if (*out)
+        AddRef();
+}
+
+// Without the bitmap the tree works, but shows no pictures.
+int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CTreeCtrl::OnCreate(lpCreateStruct) == -1)
+        return -1;
+
+    m_bClosing = false;
+    m_nOpenImage = m_nDefaultImage = -1;
+    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor())) {
+        if (!m_bPassive)
+            ShowPane(pEditor.Get());
+        m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    }
+    m_images.Create(kImages, kImageWidth, kImagesToGrow, kTransparent);
+    m_nDefaultImage = 0;
+    m_nOpenImage = 1;
+    SetImageList(&m_images, TVSIL_NORMAL);
+    return 0;
+}
+
+void CObjectsTree::ShowPane(IAtomEditor* pEditor)
+{
+    IconHolder hIcon;
+    try {
+        hIcon.reset(::LoadIcon(kPaneIcon));
+        CString strCaption;
+        strCaption.LoadString(kPaneCaption);
+        pEditor->AddPane(kPaneKind, m_hWnd, strCaption, hIcon.get());
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        pEditor->AddPane(kPaneKind, m_hWnd, kFallbackCaption, hIcon.get());
+    }
+}
+
+// An item that OnDeleteAtom refuses goes without it. One that an outer call is removing just now is passed by.
+void CObjectsTree::OnDestroy()
+{
+    m_bClosing = true;
+    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
+        pEditor->UnregisterHandler(m_dwHandlerCookie);
+
+    HTREEITEM hPassed = nullptr;
+    while (const HTREEITEM hItem = hPassed ? GetNextSiblingItem(hPassed) : GetRootItem()) {
+        const HELDPAIR pair = HoldPair(hItem);
+        OnDeleteAtom(pair.pAtom.Get(), pair.pContainer.Get());
+        RemoveItem(hItem);
+        if (RecordOf(hItem))
+            hPassed = hItem;
+    }
+    CTreeCtrl::OnDestroy();
+}
+
+// Through the handler, as the editor would call it.
+BOOL CObjectsTree::SetRootAtom(IAtom* pAtom)
+{
+    if (!pAtom)
+        return FALSE;
+    CStubRef<IAtomContainer> pContainer;
+    pAtom->GetContainer(pContainer.Receive(), IID_IAtomContainer);
+    return OnAtomEntered(pAtom, pContainer.Get());
+}

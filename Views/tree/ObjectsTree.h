@@ -1,0 +1,170 @@
+// CObjectsTree: the tree view of the atoms that the editor announces.
+#pragma once
+
+#include "Toolkit/controls/TreeCtrl.h"
+#include "Toolkit/graphics/ImageList.h"
+#include "Views/host/IAEStateHandler.h"
+#include "Views/host/IAtom.h"
+#include "Views/host/IAtomContainer.h"
+#include "Views/host/StubRef.h"
+#include "Views/tree/TreeIconSlots.h"
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+class IAtomEditor;
+class IAtomIcon;
+
+// One item for each atom announced; an announced container's members become items below it at once, and theirs below
+// them.
+//
+// The control keeps no label, picture or number of children: it asks each time it draws, so that new names and marks
+// show by themselves. The members of an announced container stand in the order of their names, image links in the
+// order of their phase; an atom announced later takes the place its label gives it.
+//
+// An atom may be announced twice and has two items then; the later one is the one that is selected, refreshed and
+// removed. An atom announced below itself is ignored: such a tree would have no end.
+//
+// A passive tree shows what is announced like any other, but has no pane, and its selection is its own affair.
+class VIEWS_API CObjectsTree : public CTreeCtrl, public virtual CStubBaseInterface, public virtual IAEStateHandler
+{
+public:
+    CObjectsTree() : CObjectsTree(FALSE) {}
+    explicit CObjectsTree(int bPassive);
+    ~CObjectsTree() override;
+
+    // A child window without extent, not shown yet, with the control identifier 0xE900.
+    BOOL Create(CWnd* pParentWnd);
+    // Selects the atom's item, if it has one. FALSE for NULL.
+    BOOL SetRootAtom(IAtom* pAtom);
+    // The selected item's atom as the asked interface, with a reference. FALSE, and *ppOut is NULL, when nothing is
+    // selected or the atom does not have it; FALSE for ppOut NULL.
+    BOOL GetSelectedAtom(void** ppOut, DWORD dwInterfaceId);
+
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override;
+
+    // The hook follows the tree control's own virtual operations.
+    //
+    // Called with each display request, complete as it is answered, and may change the answer. Not called when the
+    // atom's name could not be read. Does nothing here.
+    virtual void OnGetDispInfo(TVDISPINFO* pInfo);
+
+public:
+    // Views are not counted: these two do nothing.
+    void AddRef() override {}
+    void Release() override {}
+    void GetInterface(DWORD id, void** out) override;
+    void StubReserved4(DWORD) override {}
+
+    BOOL PreRenameAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL PreSaveAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    // TRUE when the atom is shown now. Costs n log n for n members, however many of them there are already.
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override; // TRUE when the atom is shown
+    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomDeselecting(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override; // for atom NULL only
+    // The tree has one pair or none; with none *pCount stays as it was.
+    BOOL OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount) override;
+
+protected:
+    // The record behind an item, whose lParam is its address. Owned by the tree.
+    struct TREEITEMDATA
+    {
+        enum class State
+        {
+            Arriving, // the control is being handed the item
+            Filling,  // its members are being inserted
+            Settled,
+            Leaving
+        };
+
+        CStubRef<IAtom> pAtom;
+        CStubRef<IAtomContainer> pContainer; // as announced; may be empty
+        int nRank = 0;                       // among its siblings, while they are put in order
+        State state = State::Arriving;
+    };
+
+    // The item that shows the atom, the last one if there are several; NULL when none does.
+    HTREEITEM GetItem(IAtom* pAtom) const;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnObjectsGetDispInfo(TVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnDestroy();
+    afx_msg BOOL OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult);
+    afx_msg BOOL OnItemExpanded(NMTREEVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    using RecordHolder = std::unique_ptr<TREEITEMDATA>;
+    // An atom and its container, kept alive while the editor is told about them. Both empty without a record.
+    struct HELDPAIR
+    {
+        CStubRef<IAtom> pAtom;
+        CStubRef<IAtomContainer> pContainer;
+    };
+
+    BOOL SelectAtom(IAtom* pAtom); // FALSE when it has no item or was refused
+    void SyncItems(HTREEITEM hParent, IAtomContainer* pContainer);
+    BOOL SetBoldRoot(HTREEITEM hItem, BOOL bBold); // the item and all above it; FALSE for NULL
+    // Compares two items' records: image links of one phase by their positions in it, all others by name without
+    // regard to case.
+    static int MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+    void ShowPane(IAtomEditor* pEditor);
+
+    TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL when there is no such item
+    HELDPAIR HoldPair(HTREEITEM hItem) const;
+    std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
+
+    bool TakesMember(HTREEITEM hParent, IAtom* pAtom) const;
+    HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent);
+    HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
+    void MapItem(IAtom* pAtom, HTREEITEM hItem);
+    void AddMembers(HTREEITEM hItem, IAtom* pAtom);
+    bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
+
+    RecordHolder TakeRecord(HTREEITEM hItem);
+    void RemoveMembers(IAtom* pAtom);
+    void RemoveItem(HTREEITEM hItem);
+    void DropItem(HTREEITEM hItem, IAtom* pAtom);
+
+    void OrderMembers(HTREEITEM hItem);
+    bool OrderByName(HTREEITEM hItem);
+    static int CompareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+
+    int ImageOf(IAtom* pAtom, const TVITEM& item);
+    int IconImage(IAtomIcon* pIcon, HTREEITEM hItem);
+    bool AnswerLabel(IAtom* pAtom, TVITEM& item);
+
+    BOOL Notify(AEStateOperation operation, HTREEITEM hItem); // TRUE without an editor or a record, too
+    bool MayChangeSelection(const NMTREEVIEW& change);
+    void GoOnSelected(HTREEITEM hItem);
+    bool WelcomesFocus(CWnd* pOldWnd);
+    bool AnnounceSelection();
+    bool TakeFocus(); // false when it was refused
+
+    std::unordered_map<IAtom*, HTREEITEM> m_itemMap; // holds no references: the records do
+    views::TreeIconSlots m_iconSlots;
+    CImageList m_images;
+    int m_nOpenImage = -1;    // for an expanded item with children
+    int m_nDefaultImage = -1; // for any other atom without an icon
+    CString m_strLabel;       // the label asked for last; the control reads it there until it asks again
+    DWORD m_dwHandlerCookie = 0;
+    const BOOL m_bPassive;
+    BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
+    BOOL m_bFocusFromSelChange = FALSE; // the selection is changing, or has changed, without the focus
+    bool m_bClosing = false;            // the window is being destroyed: nothing new is shown
+};

@@ -1,0 +1,105 @@
+// What the tree answers when its control draws or compares labels.
+#include "Toolkit/base/Exception.h"
+#include "Views/host/IAtomIcon.h"
+#include "Views/host/IDispAtom.h"
+#include "Views/host/IMyErrorInfo.h"
+#include "Views/host/Services.h"
+#include "Views/tree/ObjectsTree.h"
+#include "Views/tree/TreeLabel.h"
+
+namespace
+{
+
+constexpr UINT kNameErrorCaption = 0xE00A;
+constexpr char kUnnamed[] = "Unnamed";
+
+} // namespace
+
+// Nothing is left for the control to keep: it asks again at every paint.
+void CObjectsTree::OnObjectsGetDispInfo(TVDISPINFO* pInfo, LRESULT* pResult)
+{
+    *pResult = 0;
+    TVITEM& item = pInfo->item;
+    const auto* pRecord = reinterpret_cast<const TREEITEMDATA*>(item.lParam);
+    const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
+    if (!pAtom)
+        return;
+
+    if (item.mask & TVIF_IMAGE)
+        item.iImage = item.iSelectedImage = ImageOf(pAtom.Get(), item);
+    if ((item.mask & TVIF_TEXT) && !AnswerLabel(pAtom.Get(), item))
+        return;
+    if (item.mask & TVIF_CHILDREN)
+        item.cChildren = GetChildItem(item.hItem) ? 1 : 0;
+    item.mask &= ~TVIF_DI_SETITEM;
+    OnGetDispInfo(pInfo);
+}
+
+void CObjectsTree::OnGetDispInfo(TVDISPINFO*) {}
+
+int CObjectsTree::ImageOf(IAtom* pAtom, const TVITEM& item)
+{
+    const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
+    const int nIcon = pIcon ? IconImage(pIcon.Get(), item.hItem) : -1;
+    if (nIcon != -1)
+        return nIcon;
+    const bool bOpen = (item.state & TVIS_EXPANDED) && GetChildItem(item.hItem);
+    return bOpen ? m_nOpenImage : m_nDefaultImage;
+}
+
+// -1 when the icon could not be added, now or when it was tried first.
+int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
+{
+    if (const views::ICONSLOT* pSlot = m_iconSlots.Find(hItem))
+        return pSlot->nImage;
+    const int nFree = m_iconSlots.TakeOver([this](HTREEITEM hShown) {
+        CRect rect;
+        return GetItemRect(hShown, &rect, FALSE) != FALSE;
+    });
+    const int nImage = pIcon->AddToImageList(m_images.GetSafeHandle(), nFree);
+    try {
+        m_iconSlots.Lend(hItem, nImage);
+    } catch (CMemoryException& e) {
+        e.ReportError(); // the image is not used again
+    }
+    return nImage;
+}
+
+// An item that is collapsed hides those below it.
+BOOL CObjectsTree::OnItemExpanded(NMTREEVIEW*, LRESULT* pResult)
+{
+    m_iconSlots.ItemsHidden();
+    *pResult = 0;
+    return FALSE; // the parent window hears of it, too
+}
+
+// False when the name could not be read: the user has been told, and nothing more is answered. Without memory for the
+// label there is none, and the request goes on.
+bool CObjectsTree::AnswerLabel(IAtom* pAtom, TVITEM& item)
+{
+    try {
+        const bool bModified = pAtom->IsModified() != FALSE;
+        const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
+        item.pszText = pDispAtom ? views::BuildLabel(pDispAtom.Get(), &IDispAtom::GetDisplayName, bModified, m_strLabel)
+                                 : views::BuildLabel(pAtom, &IAtom::GetName, bModified, m_strLabel);
+        if (item.pszText)
+            return true;
+        item.pszText = const_cast<LPSTR>(kUnnamed); // read, never written
+        const auto pError =
+            pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
+        ShowAtomError(m_hWnd, kNameErrorCaption, pError.Get());
+        return false;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return true;
+    }
+}
+
+BOOL CObjectsTree::SetBoldRoot(HTREEITEM hItem, BOOL bBold)
+{
+    if (!hItem)
+        return FALSE;
+    for (; hItem; hItem = GetParentItem(hItem))
+        SetItemState(hItem, bBold ? TVIS_BOLD : 0, TVIS_BOLD);
+    return TRUE;
+}

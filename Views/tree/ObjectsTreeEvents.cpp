@@ -1,0 +1,75 @@
+// What the tree does when the editor asks or tells it of atoms. Atoms that come and go are in ObjectsTreeItems.cpp.
+#include "Views/tree/ObjectsTree.h"
+
+#include <utility>
+
+BOOL CObjectsTree::PreRenameAtom(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsTree::PreSaveAtom(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsTree::OnAtomSelecting(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsTree::OnAtomDeselecting(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+// The tree follows what is opened, not what is selected.
+BOOL CObjectsTree::OnAtomSelected(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsTree::OnAtomDeselected(IAtom*, IAtomContainer*)
+{
+    return TRUE;
+}
+
+BOOL CObjectsTree::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
+{
+    SelectAtom(pAtom);
+    return TRUE;
+}
+
+// The label needs nothing, it is asked for again; the icon is fetched again.
+BOOL CObjectsTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
+    if (!hItem)
+        return FALSE;
+    m_iconSlots.GiveUp(hItem);
+    Invalidate(TRUE);
+    UpdateWindow();
+    return TRUE;
+}
+
+BOOL CObjectsTree::OnAtomRename(IAtom* pAtom, IAtomContainer*)
+{
+    const HTREEITEM hItem = pAtom ? nullptr : GetSelectedItem();
+    return hItem && EditLabel(hItem) != nullptr;
+}
+
+BOOL CObjectsTree::OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount)
+{
+    if (!pCount)
+        return FALSE;
+    if (const HTREEITEM hItem = GetSelectedItem()) {
+        *pCount = 1;
+        if (!pPairs)
+            return FALSE;
+        HELDPAIR pair = HoldPair(hItem);
+        const auto pFormerAtom = CStubRef<IAtom>::Adopt(std::exchange(pPairs->pAtom, pair.pAtom.Detach()));
+        const auto pFormer =
+            CStubRef<IAtomContainer>::Adopt(std::exchange(pPairs->pContainer, pair.pContainer.Detach()));
+    }
+    return pPairs != nullptr;
+}

@@ -1,0 +1,219 @@
+// Items: from an atom announced to its item, with the members below it, and back.
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/window/MessageBox.h"
+#include "Views/tree/ObjectsTree.h"
+
+#include <memory>
+
+namespace
+{
+
+constexpr UINT kInsertFailed = 57355;
+
+void ReportInsertFailed()
+{
+    CString strMessage;
+    strMessage.LoadString(kInsertFailed);
+    AfxMessageBox(strMessage, MB_OK);
+}
+
+} // namespace
+
+HTREEITEM CObjectsTree::GetItem(IAtom* pAtom) const
+{
+    const auto found = m_itemMap.find(pAtom);
+    return found == m_itemMap.end() ? nullptr : found->second;
+}
+
+CObjectsTree::TREEITEMDATA* CObjectsTree::RecordOf(HTREEITEM hItem) const
+{
+    return hItem ? reinterpret_cast<TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
+}
+
+CObjectsTree::HELDPAIR CObjectsTree::HoldPair(HTREEITEM hItem) const
+{
+    const TREEITEMDATA* pRecord = RecordOf(hItem);
+    if (!pRecord)
+        return {};
+    return {CStubRef<IAtom>::Share(pRecord->pAtom.Get()), CStubRef<IAtomContainer>::Share(pRecord->pContainer.Get())};
+}
+
+std::vector<HTREEITEM> CObjectsTree::ChildrenOf(HTREEITEM hItem) const
+{
+    std::vector<HTREEITEM> children;
+    for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild))
+        children.push_back(hChild);
+    return children;
+}
+
+BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    if (!pAtom || m_bClosing)
+        return FALSE;
+
+    HTREEITEM hParent = TVI_ROOT;
+    if (const auto pOwner = CStubRef<IAtom>::From(pContainer)) {
+        hParent = GetItem(pOwner.Get());
+        if (!TakesMember(hParent, pAtom))
+            return FALSE;
+    }
+    const HTREEITEM hItem = AddItem(pAtom, pContainer, hParent);
+    if (!hItem)
+        return FALSE;
+    AddMembers(hItem, pAtom);
+    return TRUE;
+}
+
+// Not an item that is going, and not one that shows the atom itself or stands below it.
+bool CObjectsTree::TakesMember(HTREEITEM hParent, IAtom* pAtom) const
+{
+    const TREEITEMDATA* pRecord = RecordOf(hParent);
+    if (!pRecord || pRecord->state == TREEITEMDATA::State::Leaving)
+        return false;
+    if (!GetItem(pAtom))
+        return true;
+    for (HTREEITEM hItem = hParent; hItem && pRecord; pRecord = RecordOf(hItem = GetParentItem(hItem))) {
+        if (pRecord->pAtom.Get() == pAtom)
+            return false;
+    }
+    return true;
+}
+
+// The new item, in the map; NULL when there is none, and the user has been told.
+HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent)
+{
+    try {
+        auto pRecord = std::make_unique<TREEITEMDATA>();
+        pRecord->pAtom = CStubRef<IAtom>::Share(pAtom);
+        pRecord->pContainer = CStubRef<IAtomContainer>::Share(pContainer);
+        const HTREEITEM hItem = HandToControl(pRecord.get(), hParent);
+        if (!hItem) {
+            ReportInsertFailed();
+            return nullptr;
+        }
+        pRecord.release()->state = TREEITEMDATA::State::Settled;
+        MapItem(pAtom, hItem);
+        return hItem;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return nullptr;
+    }
+}
+
+// In a container that is being filled the order is made once, when all members are there. NULL when the control
+// refuses, or the item went with its parent while the host was asked for labels.
+HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
+{
+    const TREEITEMDATA* pParent = hParent == TVI_ROOT ? nullptr : RecordOf(hParent);
+    const bool bFilling = pParent && pParent->state == TREEITEMDATA::State::Filling;
+
+    TVINSERTSTRUCT insert{};
+    insert.hParent = hParent;
+    insert.hInsertAfter = bFilling ? TVI_LAST : TVI_SORT;
+    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN | TVIF_PARAM;
+    insert.item.pszText = LPSTR_TEXTCALLBACK;
+    insert.item.iImage = insert.item.iSelectedImage = I_IMAGECALLBACK;
+    insert.item.cChildren = I_CHILDRENCALLBACK;
+    insert.item.lParam = reinterpret_cast<LPARAM>(pRecord);
+    const HTREEITEM hItem = InsertItem(&insert);
+    return RecordOf(hItem) ? hItem : nullptr;
+}
+
+void CObjectsTree::MapItem(IAtom* pAtom, HTREEITEM hItem)
+{
+    try {
+        m_itemMap[pAtom] = hItem;
+    } catch (...) {
+        RemoveItem(hItem);
+        throw;
+    }
+}
+
+void CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom)
+{
+    const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
+    if (!pMembers || !Advance(hItem, TREEITEMDATA::State::Settled, TREEITEMDATA::State::Filling))
+        return;
+    for (UINT i = 0; i < pMembers->GetCount(); ++i) {
+        CStubRef<IAtom> pMember;
+        pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
+        if (pMember)
+            OnCreateAtom(pMember.Get(), pMembers.Get());
+    }
+    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled))
+        OrderMembers(hItem);
+}
+
+// False when the item is gone, or going.
+bool CObjectsTree::Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to)
+{
+    TREEITEMDATA* const pRecord = RecordOf(hItem);
+    if (!pRecord || pRecord->state != from)
+        return false;
+    pRecord->state = to;
+    return true;
+}
+
+BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    if (!pAtom) {
+        if (const HTREEITEM hContainer = GetItem(pContainer))
+            SyncItems(hContainer, pContainer);
+        return TRUE;
+    }
+    const HTREEITEM hItem = GetItem(pAtom);
+    if (!hItem || (pContainer && !GetItem(CStubRef<IAtom>::From(pContainer).Get())))
+        return TRUE;
+    if (const auto pRecord = TakeRecord(hItem)) {
+        RemoveMembers(pAtom);
+        DropItem(hItem, pAtom);
+    }
+    return TRUE;
+}
+
+// From here on the item is going: it is not removed twice, however its removal comes back, and takes no members. Empty
+// when it is going already, or only arriving: the one who began that ends it.
+CObjectsTree::RecordHolder CObjectsTree::TakeRecord(HTREEITEM hItem)
+{
+    TREEITEMDATA* const pRecord = RecordOf(hItem);
+    if (!pRecord || pRecord->state == TREEITEMDATA::State::Arriving || pRecord->state == TREEITEMDATA::State::Leaving)
+        return nullptr;
+    pRecord->state = TREEITEMDATA::State::Leaving;
+    return RecordHolder(pRecord);
+}
+
+void CObjectsTree::RemoveMembers(IAtom* pAtom)
+{
+    const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
+    if (!pMembers)
+        return;
+    for (UINT i = 0; i < pMembers->GetCount(); ++i) {
+        CStubRef<IAtom> pMember;
+        pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
+        if (pMember)
+            OnDeleteAtom(pMember.Get(), pMembers.Get());
+    }
+}
+
+// Without asking OnDeleteAtom: for items that it does not reach.
+void CObjectsTree::RemoveItem(HTREEITEM hItem)
+{
+    if (const auto pRecord = TakeRecord(hItem))
+        DropItem(hItem, pRecord->pAtom.Get());
+}
+
+// The caller holds the record until the item is gone: the control still tells of the item when the selection leaves it.
+// Below it are only items whose atoms are members no longer, or have another item.
+void CObjectsTree::DropItem(HTREEITEM hItem, IAtom* pAtom)
+{
+    HTREEITEM hPassed = nullptr;
+    while (const HTREEITEM hChild = hPassed ? GetNextSiblingItem(hPassed) : GetChildItem(hItem)) {
+        RemoveItem(hChild);
+        if (RecordOf(hChild))
+            hPassed = hChild;
+    }
+    DeleteItem(hItem);
+    if (GetItem(pAtom) == hItem)
+        m_itemMap.erase(pAtom);
+    m_iconSlots.GiveUp(hItem);
+}

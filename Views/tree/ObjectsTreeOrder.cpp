@@ -1,0 +1,104 @@
+// The order of a container's members, made when it is announced.
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/Text.h"
+#include "Views/host/IPhase.h"
+#include "Views/host/ReadName.h"
+#include "Views/list/NameKeys.h"
+#include "Views/tree/ObjectsTree.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+namespace
+{
+
+int Difference(int a, int b)
+{
+    constexpr std::int64_t kMax = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(std::int64_t{a} - b, -kMax, kMax));
+}
+
+// Two image links by their positions in the phase of the second; nothing when they must be compared by name.
+std::optional<int> CompareLinks(IAtom* a, IAtom* b)
+{
+    const auto pLinkA = CStubRef<IImageLink>::From(a);
+    const auto pLinkB = CStubRef<IImageLink>::From(pLinkA ? b : nullptr);
+    const auto pAtomB = CStubRef<IAtom>::From(pLinkB.Get());
+    CStubRef<IPhase> pPhase;
+    if (!pAtomB || !pAtomB->GetContainer(pPhase.Receive(), IID_IPhase) || !pPhase)
+        return std::nullopt;
+    return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
+}
+
+// A name that cannot be read counts as empty.
+int CompareNames(IAtom* a, IAtom* b)
+{
+    CString strA, strB;
+    views::ReadName(a, &IAtom::GetName, strA);
+    views::ReadName(b, &IAtom::GetName, strB);
+    return _mbsicmp(strA, strB);
+}
+
+} // namespace
+
+int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
+{
+    IAtom* const a = reinterpret_cast<const TREEITEMDATA*>(lParam1)->pAtom.Get();
+    IAtom* const b = reinterpret_cast<const TREEITEMDATA*>(lParam2)->pAtom.Get();
+    try {
+        if (const std::optional<int> order = CompareLinks(a, b))
+            return *order;
+        return CompareNames(a, b);
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return 0;
+    }
+}
+
+// Members stand by their labels first, as if each had been inserted by its own, and so do those that MyFunc
+// finds equal. Where names alone decide they are read once for each member, not for each comparison.
+void CObjectsTree::OrderMembers(HTREEITEM hItem)
+{
+    SortChildren(hItem);
+    try {
+        if (OrderByName(hItem))
+            return;
+    } catch (CMemoryException&) {
+        // No room for the keys: comparing needs none.
+    }
+    TVSORTCB sort{hItem, &MyFunc, 0};
+    SortChildrenCB(&sort);
+}
+
+// False when names do not decide, or cannot be read, and nothing has changed. When the labels give the same order,
+// which they nearly always do, the control is left to know that: a later atom finds its place among them by halving.
+bool CObjectsTree::OrderByName(HTREEITEM hItem)
+{
+    const std::vector<HTREEITEM> children = ChildrenOf(hItem);
+    views::NameKeys keys(children.size());
+    for (const HTREEITEM hChild : children) {
+        const HELDPAIR pair = HoldPair(hChild);
+        if (!pair.pAtom || CStubRef<IImageLink>::From(pair.pAtom.Get()) || !keys.Add(pair.pAtom.Get()))
+            return false;
+    }
+    bool bByLabel = true;
+    int nRank = 0;
+    for (const auto& key : keys.Sort()) {
+        bByLabel &= key.nIndex == static_cast<std::uint32_t>(nRank);
+        if (TREEITEMDATA* const pRecord = RecordOf(children[key.nIndex]))
+            pRecord->nRank = nRank;
+        ++nRank;
+    }
+    if (bByLabel)
+        return true;
+    TVSORTCB sort{hItem, &CompareRanks, 0};
+    SortChildrenCB(&sort);
+    return true;
+}
+
+int CObjectsTree::CompareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM)
+{
+    return reinterpret_cast<const TREEITEMDATA*>(lParam1)->nRank -
+           reinterpret_cast<const TREEITEMDATA*>(lParam2)->nRank;
+}

@@ -1,0 +1,156 @@
+// Selection and focus: what the tree asks and tells the editor of them.
+#include "Views/host/FocusBlock.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+#include "Views/host/TopLevelAtom.h"
+#include "Views/tree/ObjectsTree.h"
+
+namespace
+{
+
+// Has what the user was working on saved before the work goes on here. False: someone refused.
+bool OfferSave()
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pEditor)
+        return true;
+    CStubRef<IAtom> pActive, pTop;
+    pEditor->GetActiveAtom(pActive.Receive(), IID_IAtom);
+    if (!GetTopLevelAtom(pActive.Get(), pTop.Receive(), IID_IAtom))
+        return true;
+    return pEditor->NotifyHandlers(nullptr, &IAEStateHandler::PreSaveAtom, pTop.Get(), nullptr, 0) != FALSE;
+}
+
+} // namespace
+
+// Nothing is sent for the item that is selected already: an announcement of the tree's own that comes back ends here.
+BOOL CObjectsTree::SelectAtom(IAtom* pAtom)
+{
+    const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
+    if (!hItem)
+        return FALSE;
+    return hItem == GetSelectedItem() || SelectItem(hItem);
+}
+
+BOOL CObjectsTree::GetSelectedAtom(void** ppOut, DWORD dwInterfaceId)
+{
+    if (!ppOut)
+        return FALSE;
+    *ppOut = nullptr;
+    const HELDPAIR pair = HoldPair(GetSelectedItem());
+    if (pair.pAtom)
+        static_cast<CStubBaseInterface*>(pair.pAtom.Get())->GetInterface(dwInterfaceId, ppOut);
+    return *ppOut != nullptr;
+}
+
+BOOL CObjectsTree::Notify(AEStateOperation operation, HTREEITEM hItem)
+{
+    const HELDPAIR pair = HoldPair(hItem);
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pair.pAtom || !pEditor)
+        return TRUE;
+    return pEditor->NotifyHandlers(this, operation, pair.pAtom.Get(), pair.pContainer.Get(), 0);
+}
+
+void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    m_bFocusFromSelChange = !m_bHasFocus;
+    if (!m_bPassive && !MayChangeSelection(*pChange)) {
+        *pResult = -1;
+        return;
+    }
+    SetBoldRoot(pChange->itemOld.hItem, FALSE);
+    *pResult = 0;
+}
+
+// Whoever is asked may move the focus, so it is taken twice.
+bool CObjectsTree::MayChangeSelection(const NMTREEVIEW& change)
+{
+    SetFocus();
+    if (!Notify(&IAEStateHandler::OnAtomDeselecting, change.itemOld.hItem))
+        return false;
+    SetFocus();
+    return Notify(&IAEStateHandler::OnAtomSelecting, change.itemNew.hItem) != FALSE;
+}
+
+BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    if (!m_bPassive)
+        Notify(&IAEStateHandler::OnAtomDeselected, pChange->itemOld.hItem);
+    GoOnSelected(pChange->itemNew.hItem);
+    *pResult = 0;
+    return FALSE; // the parent window hears of it, too
+}
+
+// Whoever is told may select something else, which is then told and shown in its own turn: nothing more is said of
+// this item.
+void CObjectsTree::GoOnSelected(HTREEITEM hItem)
+{
+    if (!m_bPassive) {
+        for (const auto operation : {&IAEStateHandler::OnAtomEntered, &IAEStateHandler::OnAtomSelected}) {
+            if (GetSelectedItem() != hItem)
+                return;
+            Notify(operation, hItem);
+        }
+    }
+    if (GetSelectedItem() == hItem)
+        SetBoldRoot(hItem, TRUE);
+}
+
+void CObjectsTree::OnSetFocus(CWnd* pOldWnd)
+{
+    const FocusBlock block;
+    if (!FocusBlock::IsInFocusBlock()) {
+        if (!m_bPassive && !WelcomesFocus(pOldWnd))
+            return;
+        m_bFocusFromSelChange = FALSE;
+        m_bHasFocus = TRUE;
+    }
+    CTreeCtrl::OnSetFocus(pOldWnd);
+}
+
+// False when it was refused, and given back. A selection that nobody accepts is no reason to refuse when there is no
+// window to give it back to.
+bool CObjectsTree::WelcomesFocus(CWnd* pOldWnd)
+{
+    const HWND hOldWnd = pOldWnd ? pOldWnd->m_hWnd : nullptr;
+    const BOOL bFromSelChange = m_bFocusFromSelChange;
+    if (OfferSave() && (AnnounceSelection() || !hOldWnd))
+        return true;
+    if (hOldWnd)
+        ::SetFocus(hOldWnd);
+    m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
+    return false;
+}
+
+// The view that has the focus is the one whose selection counts. Nothing to tell when the focus comes with a change of
+// the selection. False: someone refused.
+bool CObjectsTree::AnnounceSelection()
+{
+    const HTREEITEM hItem = m_bFocusFromSelChange ? nullptr : GetSelectedItem();
+    if (!Notify(&IAEStateHandler::OnAtomSelecting, hItem))
+        return false;
+    Notify(&IAEStateHandler::OnAtomSelected, hItem);
+    return true;
+}
+
+void CObjectsTree::OnKillFocus(CWnd* pNewWnd)
+{
+    CTreeCtrl::OnKillFocus(pNewWnd);
+    m_bHasFocus = FALSE;
+    m_bFocusFromSelChange = FALSE;
+}
+
+// The focus comes before the click, which is dropped when the focus is refused.
+void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    if (TakeFocus())
+        CTreeCtrl::OnLButtonDown(nFlags, point);
+}
+
+bool CObjectsTree::TakeFocus()
+{
+    if (::GetFocus() != m_hWnd)
+        SetFocus();
+    return ::GetFocus() == m_hWnd;
+}

@@ -1,0 +1,39 @@
+#include "Views/tree/TreeIconSlots.h"
+
+const views::ICONSLOT* views::TreeIconSlots::Find(HTREEITEM hItem) const
+{
+    const auto found = m_lent.find(hItem);
+    return found == m_lent.end() ? nullptr : &*found->second;
+}
+
+void views::TreeIconSlots::Lend(HTREEITEM hItem, int nImage)
+{
+    GiveUp(hItem);
+    const auto slot = m_slots.insert(m_slots.end(), {hItem, nImage});
+    if (m_next == m_slots.end())
+        m_next = slot;
+    try {
+        m_lent.emplace(hItem, slot);
+    } catch (...) {
+        slot->hItem = nullptr;
+        throw;
+    }
+}
+
+void views::TreeIconSlots::GiveUp(HTREEITEM hItem)
+{
+    const auto found = m_lent.find(hItem);
+    if (found == m_lent.end())
+        return;
+    found->second->hItem = nullptr;
+    m_lent.erase(found);
+    m_next = m_slots.begin();
+}
+
+int views::TreeIconSlots::Remove(Slots::iterator slot)
+{
+    const int nImage = slot->nImage;
+    m_lent.erase(slot->hItem);
+    m_slots.erase(slot);
+    return nImage;
+}
