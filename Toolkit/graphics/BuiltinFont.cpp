@@ -22,12 +22,14 @@ int Advance(const Glyph& glyph, FontStyle style)
     return glyph.width + (style == FontStyle::Bold ? 2 : 1);
 }
 
-// The columns of a glyph at x that lie between left and right, as bits.
+constexpr int kWidest = 16; // pixels that a row of a glyph has bits for
+
+// The columns of a glyph at x, no more than its width left of `left`, that lie between left and right, as bits.
 std::uint32_t VisibleColumns(int x, int left, int right)
 {
     std::uint32_t columns = ~0u;
     if (left > x)
-        columns = left - x < 32 ? columns << (left - x) : 0;
+        columns <<= left - x;
     if (right - x < 32)
         columns &= right > x ? (1u << (right - x)) - 1 : 0;
     return columns;
@@ -48,6 +50,8 @@ struct Pen
 
     void Draw(CPoint at, const Glyph& glyph) const
     {
+        if (at.x + kWidest <= clip.left)
+            return;
         const std::uint32_t columns = VisibleColumns(at.x, clip.left, clip.right);
         const int end = std::min(clip.bottom, at.y + toolkit::kFontRows);
         for (int y = std::max(clip.top, at.y); y < end; ++y) {

@@ -11,9 +11,9 @@ toolkit::DeviceContext::DeviceContext(Surface& target, CPoint origin, Region cli
 
 void toolkit::DeviceContext::Select(HBITMAP hBitmap, Surface& target)
 {
+    m_state.clip = Region(target.Bounds());
     m_hSelected = hBitmap;
     m_pTarget = &target;
-    m_state.clip = Region(target.Bounds());
 }
 
 int toolkit::DeviceContext::Save()

@@ -31,7 +31,7 @@ public:
 
     // Draws into the bitmap from now on, all of it. Saved states stay; they come back within its bounds.
     void Select(HBITMAP hBitmap, Surface& target);
-    void SetOwnBitmap(HBITMAP hBitmap) { m_hOwn = hBitmap; }
+    void SetOwnBitmap(HBITMAP hBitmap) { m_hOwn = m_hSelected = hBitmap; } // it is the surface drawn into
 
     int Save();
     bool Restore(int depth); // as RestoreDC

@@ -19,12 +19,13 @@ HDC CreateCompatibleDC(HDC hdc)
     if (hdc && !FindContext(hdc))
         return nullptr;
 
-    const HBITMAP hBitmap = CreateBitmapFromSurface(toolkit::Surface({1, 1}, toolkit::ToPixel(RGB(0, 0, 0))));
-    Bitmap* pBitmap = AllGdiObjects().bitmaps.Find(hBitmap);
-    const HDC hdcNew = toolkit::CreateSurfaceDC(pBitmap->surface, {}, {});
-    pBitmap->hdcOwner = hdcNew;
-    FindContext(hdcNew)->SetOwnBitmap(hBitmap);
-    SelectBitmap(hdcNew, hBitmap);
+    toolkit::NewBitmap own(toolkit::Surface({1, 1}, toolkit::ToPixel(RGB(0, 0, 0))));
+    Bitmap* pOwn = own.Get();
+    const HDC hdcNew = pOwn ? toolkit::CreateSurfaceDC(pOwn->surface, {}, toolkit::Region({0, 0, 1, 1})) : nullptr;
+    if (!hdcNew)
+        return nullptr;
+    pOwn->hdcOwner = pOwn->hdcSelected = hdcNew;
+    FindContext(hdcNew)->SetOwnBitmap(own.Release());
     return hdcNew;
 }
 
@@ -49,10 +50,10 @@ HBITMAP SelectBitmap(HDC hdc, HBITMAP hBitmap)
         return nullptr;
 
     const HBITMAP hFormer = pContext->SelectedBitmap();
+    pContext->Select(hBitmap, pBitmap->surface);
     if (Bitmap* pFormer = AllGdiObjects().bitmaps.Find(hFormer))
         pFormer->hdcSelected = nullptr;
     pBitmap->hdcSelected = hdc;
-    pContext->Select(hBitmap, pBitmap->surface);
     return hFormer;
 }
 

@@ -129,8 +129,9 @@ BOOL TextOut(HDC hdc, int x, int y, std::string_view text)
     // To the right without end, and a little to the left, where a glyph may overhang.
     const int height = engine.LineHeight();
     const CRect line = Place(std::int64_t{x} - height, y, {INT32_MAX, height});
+    const CPoint at = Place(std::int64_t{x} + state.origin.x, std::int64_t{y} + state.origin.y, {}).TopLeft();
     pContext->VisitVisible(line, [&](const CRect& part) {
-        engine.Draw(pContext->Target(), part, CPoint(x, y) + state.origin, text, state.textColor, state.fontStyle);
+        engine.Draw(pContext->Target(), part, at, text, state.textColor, state.fontStyle);
     });
     return TRUE;
 }

@@ -18,7 +18,7 @@ int toolkit::CountGdiObjects()
 
 HBITMAP CreateBitmapFromSurface(toolkit::Surface surface)
 {
-    return toolkit::AllGdiObjects().bitmaps.Add(std::make_unique<toolkit::Bitmap>(toolkit::Bitmap{std::move(surface)}));
+    return toolkit::NewBitmap(std::move(surface)).Release();
 }
 
 HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy)
@@ -80,10 +80,9 @@ BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo)
     const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
     if (!pSurface || !pInfo)
         return FALSE;
-    toolkit::Surface mask = toolkit::MaskOfAlpha(*pSurface);
-    toolkit::Surface color = *pSurface;
+    toolkit::NewBitmap mask(toolkit::MaskOfAlpha(*pSurface)), color(*pSurface);
     *pInfo = {TRUE, static_cast<DWORD>(pSurface->Width() / 2), static_cast<DWORD>(pSurface->Height() / 2),
-              CreateBitmapFromSurface(std::move(mask)), CreateBitmapFromSurface(std::move(color))};
+              mask.Release(), color.Release()};
     return TRUE;
 }
 

@@ -37,6 +37,24 @@ struct GdiObjects
 // All of the process. Never destroyed, so that a library that is unloaded late still finds what it gives back.
 GdiObjects& AllGdiObjects();
 
+// A bitmap on its way to its owner: deleted unless it arrives.
+class NewBitmap
+{
+public:
+    explicit NewBitmap(Surface surface)
+        : m_hBitmap(AllGdiObjects().bitmaps.Add(std::make_unique<Bitmap>(Bitmap{std::move(surface)})))
+    {}
+    ~NewBitmap() { AllGdiObjects().bitmaps.Remove(m_hBitmap); }
+    NewBitmap(const NewBitmap&) = delete;
+    NewBitmap& operator=(const NewBitmap&) = delete;
+
+    Bitmap* Get() const { return AllGdiObjects().bitmaps.Find(m_hBitmap); }
+    HBITMAP Release() { return std::exchange(m_hBitmap, nullptr); }
+
+private:
+    HBITMAP m_hBitmap;
+};
+
 inline DeviceContext* FindContext(HDC hdc)
 {
     return AllGdiObjects().contexts.Find(hdc);

@@ -27,10 +27,19 @@ int AppendImages(ImageStore& store, const Surface& picture)
     const CSize size = store.ImageSize();
     if (picture.Height() < size.cy || picture.Width() < size.cx)
         return -1;
-    const int first = store.GetCount();
-    for (int x = 0; picture.Width() - x >= size.cx; x += size.cx)
-        store.Put(store.Append(), picture, {x, 0});
+    const int images = picture.Width() / size.cx;
+    const int first = store.Append(images);
+    for (int i = 0; i < images; ++i)
+        store.Put(first + i, picture, {i * size.cx, 0});
     return first;
+}
+
+// NULL for a size that images cannot have.
+std::unique_ptr<ImageStore> MakeStore(int cx, int cy, int growBy)
+{
+    if (cx < 1 || cx > ImageStore::kMostExtent || cy < 1 || cy > ImageStore::kMostExtent)
+        return nullptr;
+    return std::make_unique<ImageStore>(CSize(cx, cy), growBy);
 }
 
 Surface MadeTransparent(const Surface& picture, COLORREF color)
@@ -66,20 +75,17 @@ Surface FitIcon(const Surface& icon, CSize size)
 
 HIMAGELIST ImageList_Create(int cx, int cy, UINT, int, int cGrow)
 {
-    if (cx < 1 || cx > ImageStore::kMostExtent || cy < 1 || cy > ImageStore::kMostExtent)
-        return nullptr;
-    return toolkit::AllGdiObjects().imageLists.Add(std::make_unique<ImageStore>(CSize(cx, cy), cGrow));
+    std::unique_ptr<ImageStore> pStore = MakeStore(cx, cy, cGrow);
+    return pStore ? toolkit::AllGdiObjects().imageLists.Add(std::move(pStore)) : nullptr;
 }
 
 HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask)
 {
     const Surface* pPicture = toolkit::FindBitmapResource(nID);
-    if (!pPicture || pPicture->Width() < cx)
+    std::unique_ptr<ImageStore> pStore = pPicture ? MakeStore(cx, pPicture->Height(), cGrow) : nullptr;
+    if (!pStore || AppendImages(*pStore, MadeTransparent(*pPicture, crMask)) < 0)
         return nullptr;
-    const HIMAGELIST himl = ImageList_Create(cx, pPicture->Height(), ILC_COLOR32, 0, cGrow);
-    if (himl)
-        AppendImages(*FindStore(himl), MadeTransparent(*pPicture, crMask));
-    return himl;
+    return toolkit::AllGdiObjects().imageLists.Add(std::move(pStore));
 }
 
 BOOL ImageList_Destroy(HIMAGELIST himl)
@@ -141,11 +147,10 @@ int ImageList_ReplaceIcon(HIMAGELIST himl, int i, HICON hIcon)
     const Surface* pIcon = toolkit::IconSurface(hIcon);
     if (!pStore || !pIcon || (i != -1 && !pStore->Has(i)))
         return -1;
-    const int index = i == -1 ? pStore->Append() : i;
-    if (pIcon->Bounds().Size() == pStore->ImageSize())
-        pStore->Put(index, *pIcon, {});
-    else
-        pStore->Put(index, FitIcon(*pIcon, pStore->ImageSize()), {});
+    const bool bFits = pIcon->Bounds().Size() == pStore->ImageSize();
+    const Surface fitted = bFits ? Surface() : FitIcon(*pIcon, pStore->ImageSize());
+    const int index = i == -1 ? pStore->Append(1) : i;
+    pStore->Put(index, bFits ? *pIcon : fitted, {});
     return index;
 }
 

@@ -1,5 +1,7 @@
 #include "Toolkit/graphics/ImageStore.h"
 
+#include <utility>
+
 namespace
 {
 
@@ -14,11 +16,12 @@ int ImagesPerBlock(CSize size, int growBy)
 
 toolkit::ImageStore::ImageStore(CSize size, int growBy) : m_size(size), m_perBlock(ImagesPerBlock(size, growBy)) {}
 
-int toolkit::ImageStore::Append()
+int toolkit::ImageStore::Append(int images)
 {
-    if (m_count % m_perBlock == 0)
+    const auto blocks = static_cast<std::size_t>((m_count + images + m_perBlock - 1) / m_perBlock);
+    while (m_blocks.size() < blocks)
         m_blocks.emplace_back(CSize(m_size.cx, m_size.cy * m_perBlock));
-    return m_count++;
+    return std::exchange(m_count, m_count + images);
 }
 
 void toolkit::ImageStore::Put(int i, const Surface& picture, CPoint from)

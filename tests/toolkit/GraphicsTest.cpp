@@ -1,5 +1,7 @@
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "tests/support/AllocationFailures.h"
 #include "tests/toolkit/Picture.h"
 
 #include <gtest/gtest.h>
@@ -180,6 +182,29 @@ TEST_F(GraphicsTest, ABumpIsRaisedOutsideAndSunkenInside)
               shown());
 }
 
+TEST_F(GraphicsTest, TheFarthestCoordinatesAreJustOutOfSight)
+{
+    constexpr int kLeast = INT32_MIN, kMost = INT32_MAX;
+    Begin({6, 4}, {-2, 3});
+    const HBITMAP hPicture = CreateBitmapFromSurface(MakePicture({"RG", "BY"}));
+    const HBRUSH hBrush = CreateSolidBrush(kRed);
+    for (const int far : {kLeast, kLeast + 1, kMost - 1, kMost}) {
+        EXPECT_TRUE(AlphaBlt(hdc, far, 0, hPicture));
+        EXPECT_TRUE(AlphaBlt(hdc, 0, far, hPicture));
+        EXPECT_TRUE(BitBlt(hdc, 0, 0, kMost, kMost, hdc, far, far));
+        EXPECT_TRUE(TextOut(hdc, far, 0, "far"));
+        EXPECT_TRUE(TextOut(hdc, 0, far, "far"));
+    }
+    EXPECT_TRUE(DrawFocusRect(hdc, CRect(kLeast, kLeast, kMost, kMost)));
+    EXPECT_TRUE(FrameRect(hdc, CRect(kLeast, kLeast, kMost, kMost), hBrush));
+    EXPECT_TRUE(ExcludeClipRect(hdc, CRect(kMost - 1, kLeast, kMost, kMost)));
+    EXPECT_EQ(Rows(4, "......"), ShowPicture(surface));
+
+    EXPECT_TRUE(FillSolidRect(hdc, CRect(kLeast, kLeast, kMost, kMost), kRed));
+    EXPECT_EQ(Rows(4, "RRRRRR"), ShowPicture(surface));
+    EXPECT_TRUE(DeleteBrush(hBrush) && DeleteBitmap(hPicture));
+}
+
 TEST_F(GraphicsTest, ASelectedBitmapCannotBeDeletedNorSelectedElsewhere)
 {
     const HDC hdcOne = CreateCompatibleDC(nullptr);
@@ -203,6 +228,31 @@ TEST_F(GraphicsTest, ASelectedBitmapCannotBeDeletedNorSelectedElsewhere)
     EXPECT_NE(nullptr, SelectBitmap(hdcTwo, hBitmap));
     EXPECT_TRUE(DeleteDC(hdcTwo));
     EXPECT_TRUE(DeleteBitmap(hBitmap));
+}
+
+TEST_F(GraphicsTest, WhenMemoryRunsOutNothingIsLeftBehind)
+{
+    const HICON hIcon = CreateIconFromSurface(MakePicture({"RG"}));
+    const int alive = toolkit::CountGdiObjects();
+    const auto failEach = [alive](const std::function<void()>& call) {
+        const int failed = FailEveryAllocation([&] {
+            try {
+                call();
+            } catch (const CMemoryException&) {
+            }
+            EXPECT_EQ(alive, toolkit::CountGdiObjects());
+        });
+        EXPECT_LT(1, failed);
+    };
+    failEach([] { DeleteDC(CreateCompatibleDC(nullptr)); });
+    failEach([] { DeleteBitmap(CreateBitmapFromSurface(toolkit::Surface({3, 3}))); });
+    failEach([hIcon] {
+        ICONINFO info{};
+        GetIconInfo(hIcon, &info);
+        DeleteBitmap(info.hbmColor);
+        DeleteBitmap(info.hbmMask);
+    });
+    DestroyIcon(hIcon);
 }
 
 TEST_F(GraphicsTest, StaleAndNullHandlesAreRefused)

@@ -23,14 +23,15 @@ Bytes MakeBmp(int width, int height, int bits, const std::vector<std::uint8_t>& 
 {
     Bytes file;
     Append(file, 'B' | 'M' << 8, 2);
-    Append(file, 0, 8);
+    Append(file, 0, 4);
+    Append(file, 0, 4);
     Append(file, 56, 4); // two bytes lie between the headers and the pixels
     Append(file, 40, 4);
     Append(file, static_cast<std::uint32_t>(width), 4);
     Append(file, static_cast<std::uint32_t>(height), 4);
     Append(file, 1, 2);
     Append(file, static_cast<std::uint32_t>(bits), 2);
-    Append(file, 0, 26);
+    file.resize(56);
     for (const std::uint8_t byte : pixels)
         file.push_back(static_cast<std::byte>(byte));
     return file;

@@ -1,7 +1,9 @@
 #include "Toolkit/graphics/ImageList.h"
 
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "tests/support/AllocationFailures.h"
 #include "tests/toolkit/Picture.h"
 
 #include <gtest/gtest.h>
@@ -117,6 +119,24 @@ TEST_F(ImageListTest, KeepsEveryImageWhileItGrowsByThousands)
         ASSERT_EQ(i, PutIcon(-1, {i % 3 ? "B" : "G"}));
     for (int i = 0; i < 1025; ++i)
         ASSERT_EQ((Rows{i % 3 ? "B" : "G"}), Shown(i)) << i;
+}
+
+TEST_F(ImageListTest, WhenMemoryRunsOutTheListIsAsItWas)
+{
+    ASSERT_TRUE(images.Create(2, 1, ILC_COLOR32, 0, 1));
+    const HBITMAP hPicture = Bitmap({"RGRGRGRG"});
+    int count = 0;
+    EXPECT_LT(4, FailEveryAllocation([&] {
+                  const int before = images.GetImageCount();
+                  try {
+                      EXPECT_EQ(before, ImageList_Add(images.GetSafeHandle(), hPicture, hPicture));
+                      count = images.GetImageCount();
+                  } catch (const CMemoryException&) {
+                      EXPECT_EQ(before, images.GetImageCount());
+                  }
+              }));
+    EXPECT_EQ(4, count);
+    EXPECT_EQ((Rows{"RG"}), Shown(3));
 }
 
 TEST_F(ImageListTest, ASelectedImageIsTintedOnlyWhereItCovers)
