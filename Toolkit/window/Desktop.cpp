@@ -14,6 +14,7 @@ public:
     DWORD Ticks() override { return toolkit::SystemTicks(); }
     void WindowCreated(HWND) override {}
     void WindowChanged(HWND) override {}
+    void WindowPlaced(HWND) override {}
     void WindowDestroyed(HWND) override {}
     void Present(HWND, const toolkit::Surface&, const CRect&) override {}
     void Wake(std::optional<DWORD>) override {}
@@ -28,6 +29,12 @@ toolkit::Desktop* s_pDesktop = &s_none;
 DWORD DesktopTicks()
 {
     return s_pDesktop->Ticks();
+}
+
+bool IsKnownToDesktop(HWND hWnd)
+{
+    const toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    return pWindow && pWindow->bKnownToDesktop;
 }
 } // namespace
 
@@ -54,9 +61,14 @@ void toolkit::TellDesktopOfCreation(WindowRecord& top)
 
 void toolkit::TellDesktopOfChange(HWND hWnd)
 {
-    const WindowRecord* pWindow = FindRecord(hWnd);
-    if (pWindow && pWindow->bKnownToDesktop)
+    if (IsKnownToDesktop(hWnd))
         CurrentDesktop().WindowChanged(hWnd);
+}
+
+void toolkit::TellDesktopOfPlace(HWND hWnd)
+{
+    if (IsKnownToDesktop(hWnd))
+        CurrentDesktop().WindowPlaced(hWnd);
 }
 
 void toolkit::TellDesktopOfDestruction(WindowRecord& top)

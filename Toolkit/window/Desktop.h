@@ -26,9 +26,10 @@ public:
 
     // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
     virtual void WindowCreated(HWND hTop) = 0;
-    // Shown, hidden, moved, sized or renamed by the program. Not called for what InputResize and InputMoved told:
-    // the desktop knows, and a late echo would undo what the user has done since.
-    virtual void WindowChanged(HWND hTop) = 0;
+    virtual void WindowChanged(HWND hTop) = 0; // shown, hidden or renamed
+    // Moved or sized by the program. Not called for what InputResize and InputMoved told: the desktop knows, and a
+    // late echo would undo what the user has done since.
+    virtual void WindowPlaced(HWND hTop) = 0;
     virtual void WindowDestroyed(HWND hTop) = 0;
     virtual void Present(HWND hTop, const Surface& surface, const CRect& dirty) = 0;
 

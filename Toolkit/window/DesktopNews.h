@@ -7,7 +7,9 @@ namespace toolkit
 {
 
 void TellDesktopOfCreation(WindowRecord& top);
-void TellDesktopOfChange(HWND hWnd); // does nothing for a child and for a window the desktop does not know yet
+// These do nothing for a child and for a window the desktop does not know yet.
+void TellDesktopOfChange(HWND hWnd);
+void TellDesktopOfPlace(HWND hWnd);
 void TellDesktopOfDestruction(WindowRecord& top);
 
 } // namespace toolkit

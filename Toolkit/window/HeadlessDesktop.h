@@ -59,6 +59,7 @@ public:
     DWORD Ticks() override { return m_ticks; }
     void WindowCreated(HWND) override {}
     void WindowChanged(HWND) override {}
+    void WindowPlaced(HWND) override {}
     void WindowDestroyed(HWND) override {}
     void Present(HWND, const Surface&, const CRect&) override {}
     void Wake(std::optional<DWORD> inMilliseconds) override;

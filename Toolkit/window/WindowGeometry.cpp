@@ -141,7 +141,7 @@ BOOL MoveWindow(HWND hWnd, int x, int y, int cx, int cy)
     if (pWindow->rect == rect)
         return TRUE;
     toolkit::PlaceWindow(hWnd, rect);
-    toolkit::TellDesktopOfChange(hWnd);
+    toolkit::TellDesktopOfPlace(hWnd);
     return TRUE;
 }
 
