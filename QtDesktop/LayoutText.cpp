@@ -1,0 +1,103 @@
+#include "QtDesktop/LayoutText.h"
+
+#include "QtDesktop/TextParts.h"
+
+#include <QFontMetricsF>
+#include <QPainter>
+#include <QTextLayout>
+#include <cmath>
+
+namespace qtdesktop
+{
+namespace
+{
+
+constexpr std::size_t kMaxLabels = 4096;
+constexpr std::size_t kMaxPictureBytes = 4 << 20;
+constexpr std::size_t kLongestLabel = 256; // bytes; a longer text is laid out each time
+
+// The text laid out as one line.
+class Line
+{
+public:
+    Line(std::string_view text, const QFont& font) : m_layout(ShownText(text), font)
+    {
+        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+        option.setTextDirection(Qt::LayoutDirectionAuto);
+        option.setWrapMode(QTextOption::NoWrap);
+        m_layout.setTextOption(option);
+        m_layout.beginLayout();
+        m_line = m_layout.createLine();
+        m_layout.endLayout();
+    }
+
+    int Width() const { return ToWidth(std::llround(m_line.naturalTextWidth() * 64)); }
+    void Draw(QPainter& painter, CPoint baseline, COLORREF color) const
+    {
+        painter.setPen(QColor(GetRValue(color), GetGValue(color), GetBValue(color)));
+        m_line.draw(&painter, QPointF(baseline.x, baseline.y - m_line.ascent()));
+    }
+
+private:
+    QTextLayout m_layout;
+    QTextLine m_line;
+};
+
+} // namespace
+
+LayoutText::LayoutText(const QFont& font)
+    : m_font(font), m_nBaseline(BaselineOf(font)), m_nRoom(static_cast<int>(QFontMetricsF(font).height()) / 2)
+{}
+
+int LayoutText::Measure(std::string_view text)
+{
+    return text.size() > kLongestLabel ? Line(text, m_font).Width() : FindLabel(text).width;
+}
+
+void LayoutText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color)
+{
+    QImage picture(reinterpret_cast<uchar*>(target.Row(0)), target.Width(), target.Height(),
+                   target.Width() * static_cast<int>(sizeof(toolkit::Pixel)), QImage::Format_ARGB32_Premultiplied);
+    QPainter painter(&picture);
+    painter.setClipRect(clip.left, clip.top, clip.Width(), clip.Height());
+    if (text.size() > kLongestLabel)
+        Line(text, m_font).Draw(painter, at + CPoint(0, m_nBaseline), color);
+    else
+        PaintLabel(painter, at, text, FindLabel(text), color);
+}
+
+void LayoutText::PaintLabel(QPainter& painter, CPoint at, std::string_view text, Label& label, COLORREF color)
+{
+    if (label.picture.isNull() || label.color != color) {
+        m_nPictureBytes -= static_cast<std::size_t>(label.picture.sizeInBytes());
+        label.picture = Render(text, label.width, color);
+        label.color = color;
+        m_nPictureBytes += static_cast<std::size_t>(label.picture.sizeInBytes());
+    }
+    painter.drawImage(at.x - m_nRoom, at.y - m_nRoom, label.picture);
+}
+
+LayoutText::Label& LayoutText::FindLabel(std::string_view text)
+{
+    std::string key(text);
+    if (const auto it = m_labels.find(key); it != m_labels.end())
+        return it->second;
+    if (m_labels.size() >= kMaxLabels || m_nPictureBytes >= kMaxPictureBytes) {
+        m_labels.clear();
+        m_nPictureBytes = 0;
+    }
+    Label& label = m_labels[std::move(key)];
+    label.width = Line(text, m_font).Width();
+    return label;
+}
+
+QImage LayoutText::Render(std::string_view text, int nWidth, COLORREF color) const
+{
+    QImage picture(nWidth + 2 * m_nRoom, 4 * m_nRoom, QImage::Format_ARGB32_Premultiplied);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    Line(text, m_font).Draw(painter, CPoint(m_nRoom, m_nRoom + m_nBaseline), color);
+    return picture;
+}
+
+} // namespace qtdesktop

@@ -1,0 +1,117 @@
+#include "QtDesktop/QtDesktop.h"
+
+#include "QtDesktop/QtMessageBox.h"
+#include "QtDesktop/QtTextEngine.h"
+#include "QtDesktop/QtWindow.h"
+#include "QtDesktop/QueuePump.h"
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/window/WindowApi.h"
+
+#include <QFontDatabase>
+#include <map>
+
+namespace qtdesktop
+{
+namespace
+{
+
+std::unique_ptr<QtTextEngine> MakeTextEngine()
+{
+    return QFontDatabase::families().isEmpty() ? nullptr : std::make_unique<QtTextEngine>();
+}
+
+} // namespace
+
+struct QtDesktop::Parts
+{
+    QueuePump pump;
+    std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
+    std::map<HWND, std::unique_ptr<QtWindow>> windows;
+    toolkit::Cursor cursor = toolkit::Cursor::Arrow;
+
+    QtWindow* Find(HWND hTop) const
+    {
+        const auto it = windows.find(hTop);
+        return it == windows.end() ? nullptr : it->second.get();
+    }
+};
+
+QtDesktop::QtDesktop() : m_parts(std::make_unique<Parts>())
+{
+    toolkit::InstallDesktop(this);
+}
+
+QtDesktop::~QtDesktop()
+{
+    toolkit::InstallDesktop(nullptr);
+}
+
+QWidget* QtDesktop::FindWidget(HWND hTop) const
+{
+    return m_parts->Find(hTop);
+}
+
+DWORD QtDesktop::Ticks()
+{
+    return toolkit::SystemTicks();
+}
+
+toolkit::TextEngine& QtDesktop::GetTextEngine()
+{
+    if (m_parts->pTextEngine)
+        return *m_parts->pTextEngine;
+    return toolkit::BuiltinTextEngine();
+}
+
+void QtDesktop::WindowCreated(HWND hTop)
+{
+    const auto [it, bNew] = m_parts->windows.emplace(hTop, std::make_unique<QtWindow>(hTop));
+    it->second->ShowShape(m_parts->cursor);
+}
+
+void QtDesktop::WindowChanged(HWND hTop)
+{
+    if (QtWindow* pWindow = m_parts->Find(hTop))
+        pWindow->FollowState();
+}
+
+void QtDesktop::WindowPlaced(HWND hTop)
+{
+    if (QtWindow* pWindow = m_parts->Find(hTop))
+        pWindow->FollowPlace();
+}
+
+void QtDesktop::WindowDestroyed(HWND hTop)
+{
+    m_parts->windows.erase(hTop);
+}
+
+void QtDesktop::Present(HWND hTop, const toolkit::Surface&, const CRect& dirty)
+{
+    if (QtWindow* pWindow = m_parts->Find(hTop))
+        pWindow->Present(dirty);
+}
+
+void QtDesktop::Wake(std::optional<DWORD> inMilliseconds)
+{
+    m_parts->pump.Wake(inMilliseconds);
+}
+
+void QtDesktop::WakeFromThread()
+{
+    m_parts->pump.WakeFromThread();
+}
+
+int QtDesktop::ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType)
+{
+    return AskMessageBox(m_parts->Find(GetTopLevel(hOwner)), pszText, pszCaption, nType);
+}
+
+void QtDesktop::ShowCursor(toolkit::Cursor cursor)
+{
+    m_parts->cursor = cursor;
+    for (const auto& [hTop, pWindow] : m_parts->windows)
+        pWindow->ShowShape(cursor);
+}
+
+} // namespace qtdesktop

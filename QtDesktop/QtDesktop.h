@@ -1,0 +1,46 @@
+// Shows the toolkit's windows on the real desktop, with Qt.
+//
+// Made after the QApplication and before the first window of the toolkit, gone after the last window and before
+// the QApplication. Installs itself when made. The toolkit's queue then runs whenever Qt's event loop does,
+// also in the loops that Qt runs inside others.
+#pragma once
+
+#include "QtDesktop/Export.h"
+#include "Toolkit/window/Desktop.h"
+
+#include <memory>
+
+class QWidget;
+
+namespace qtdesktop
+{
+
+class QTDESKTOP_API QtDesktop : public toolkit::Desktop
+{
+public:
+    QtDesktop();
+    ~QtDesktop() override;
+    QtDesktop(const QtDesktop&) = delete;
+    QtDesktop& operator=(const QtDesktop&) = delete;
+
+    // The widget that shows a top-level window; NULL for every other handle. It goes with the window.
+    QWidget* FindWidget(HWND hTop) const;
+
+    DWORD Ticks() override;
+    toolkit::TextEngine& GetTextEngine() override;
+    void WindowCreated(HWND hTop) override;
+    void WindowChanged(HWND hTop) override;
+    void WindowPlaced(HWND hTop) override;
+    void WindowDestroyed(HWND hTop) override;
+    void Present(HWND hTop, const toolkit::Surface& surface, const CRect& dirty) override;
+    void Wake(std::optional<DWORD> inMilliseconds) override;
+    void WakeFromThread() override;
+    int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
+    void ShowCursor(toolkit::Cursor cursor) override;
+
+private:
+    struct Parts;
+    const std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace qtdesktop

@@ -1,0 +1,237 @@
+#include "QtDesktop/QtWindow.h"
+
+#include "QtDesktop/Keys.h"
+#include "Toolkit/window/WindowApi.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QWheelEvent>
+#include <cmath>
+#include <utility>
+
+namespace qtdesktop
+{
+namespace
+{
+
+// A touchpad turns in steps of a pixel; told one by one they would cost more than they move.
+constexpr int kFinestTurn = WHEEL_DELTA / 8;
+
+QRect ToQt(const CRect& rect)
+{
+    return {rect.left, rect.top, rect.Width(), rect.Height()};
+}
+
+CPoint ToPoint(QPointF point)
+{
+    return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
+}
+
+constexpr std::pair<Qt::MouseButton, toolkit::MouseButton> kButtons[] = {
+    {Qt::LeftButton, toolkit::MouseButton::Left},
+    {Qt::RightButton, toolkit::MouseButton::Right},
+    {Qt::MiddleButton, toolkit::MouseButton::Middle},
+};
+
+Qt::CursorShape ToQt(toolkit::Cursor cursor)
+{
+    switch (cursor) {
+    case toolkit::Cursor::Wait:
+        return Qt::WaitCursor;
+    case toolkit::Cursor::Text:
+        return Qt::IBeamCursor;
+    case toolkit::Cursor::Hand:
+        return Qt::PointingHandCursor;
+    default:
+        return Qt::ArrowCursor;
+    }
+}
+
+Qt::WindowFlags FlagsOf(HWND hTop)
+{
+    return GetWindowStyle(hTop) & WS_POPUP ? Qt::Tool | Qt::FramelessWindowHint : Qt::Window;
+}
+
+} // namespace
+
+QtWindow::QtWindow(HWND hTop) : QWidget(nullptr, FlagsOf(hTop)), m_hTop(hTop)
+{
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setAttribute(Qt::WA_NoSystemBackground);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    FollowPlace();
+    FollowState();
+}
+
+void QtWindow::FollowState()
+{
+    const QString title = QString::fromUtf8(GetWindowText(m_hTop).GetString());
+    if (title != windowTitle())
+        setWindowTitle(title);
+    setVisible(IsWindowVisible(m_hTop));
+}
+
+void QtWindow::FollowPlace()
+{
+    CRect place;
+    GetWindowRect(m_hTop, &place);
+    // A new window in the screen's corner has no place in particular: the window manager knows a better one.
+    const bool bAnywhere = !isVisible() && place.TopLeft() == CPoint();
+    if (bAnywhere || place.TopLeft() == Corner())
+        resize(place.Width(), place.Height());
+    else
+        setGeometry(ToQt(place));
+}
+
+CPoint QtWindow::Corner() const
+{
+    const QPoint corner = mapToGlobal(QPoint(0, 0));
+    return {corner.x(), corner.y()};
+}
+
+void QtWindow::Present(const CRect& dirty)
+{
+    update(ToQt(dirty));
+}
+
+void QtWindow::ShowShape(toolkit::Cursor cursor)
+{
+    setCursor(ToQt(cursor));
+}
+
+void QtWindow::paintEvent(QPaintEvent* pEvent)
+{
+    QPainter painter(this);
+    const toolkit::Surface* pSurface = toolkit::WindowSurface(m_hTop);
+    if (!pSurface || pSurface->IsEmpty()) {
+        painter.fillRect(pEvent->rect(), palette().window());
+        return;
+    }
+    const QImage image(reinterpret_cast<const uchar*>(pSurface->Row(0)), pSurface->Width(), pSurface->Height(),
+                       pSurface->Width() * static_cast<int>(sizeof(toolkit::Pixel)), QImage::Format_RGB32);
+    const qreal ratio = devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
+    for (const QRect& rect : pEvent->region() & image.rect())
+        painter.drawImage(rect, image, rect);
+    for (const QRect& rect : pEvent->region() - image.rect()) // sized, and the toolkit has not painted yet
+        painter.fillRect(rect, palette().window());
+}
+
+bool QtWindow::event(QEvent* pEvent)
+{
+    switch (pEvent->type()) {
+    case QEvent::WindowActivate:
+        toolkit::InputActivate(m_hTop, true);
+        break;
+    case QEvent::WindowDeactivate:
+        toolkit::InputActivate(m_hTop, false);
+        break;
+    case QEvent::WindowBlocked: // a message box takes the input; the releases will go to it
+    case QEvent::Hide:
+        ReleaseHeldButtons();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(pEvent);
+}
+
+void QtWindow::resizeEvent(QResizeEvent* pEvent)
+{
+    toolkit::InputResize(m_hTop, CSize(pEvent->size().width(), pEvent->size().height()));
+}
+
+void QtWindow::moveEvent(QMoveEvent*)
+{
+    toolkit::InputMoved(m_hTop, Corner());
+}
+
+void QtWindow::closeEvent(QCloseEvent* pEvent)
+{
+    pEvent->ignore(); // the program decides
+    toolkit::InputClose(m_hTop);
+}
+
+void QtWindow::mousePressEvent(QMouseEvent* pEvent)
+{
+    for (const auto& [qtButton, button] : kButtons) {
+        if (qtButton != pEvent->button())
+            continue;
+        m_held |= qtButton;
+        m_lastMouse = ToPoint(pEvent->position());
+        toolkit::InputMouseButton(m_hTop, m_lastMouse, button, true, ToModifiers(pEvent->modifiers()));
+    }
+}
+
+void QtWindow::mouseReleaseEvent(QMouseEvent* pEvent)
+{
+    for (const auto& [qtButton, button] : kButtons) {
+        if (qtButton != pEvent->button() || !m_held.testFlag(qtButton))
+            continue;
+        m_held &= ~qtButton;
+        m_lastMouse = ToPoint(pEvent->position());
+        toolkit::InputMouseButton(m_hTop, m_lastMouse, button, false, ToModifiers(pEvent->modifiers()));
+    }
+}
+
+void QtWindow::ReleaseHeldButtons()
+{
+    for (const auto& [qtButton, button] : kButtons) {
+        if (m_held.testFlag(qtButton))
+            toolkit::InputMouseButton(m_hTop, m_lastMouse, button, false, {});
+    }
+    m_held = {};
+}
+
+// The toolkit makes double clicks of presses itself.
+void QtWindow::mouseDoubleClickEvent(QMouseEvent* pEvent)
+{
+    mousePressEvent(pEvent);
+}
+
+void QtWindow::mouseMoveEvent(QMouseEvent* pEvent)
+{
+    m_lastMouse = ToPoint(pEvent->position());
+    toolkit::InputMouseMove(m_hTop, m_lastMouse, ToModifiers(pEvent->modifiers()));
+}
+
+void QtWindow::wheelEvent(QWheelEvent* pEvent)
+{
+    const QPoint turn = pEvent->angleDelta();
+    const bool bTurnedByAlt = turn.y() == 0 && pEvent->modifiers().testFlag(Qt::AltModifier);
+    m_nWheelRest += bTurnedByAlt ? turn.x() : turn.y();
+    const int nWhole = m_nWheelRest - m_nWheelRest % kFinestTurn;
+    if (nWhole == 0)
+        return;
+    m_nWheelRest -= nWhole;
+    toolkit::InputMouseWheel(m_hTop, ToPoint(pEvent->position()), nWhole, ToModifiers(pEvent->modifiers()));
+}
+
+void QtWindow::leaveEvent(QEvent*)
+{
+    toolkit::InputMouseLeave(m_hTop);
+}
+
+void QtWindow::keyPressEvent(QKeyEvent* pEvent)
+{
+    if (const UINT vkey = ToVirtualKey(*pEvent))
+        toolkit::InputKey(vkey, true, ModifiersAfter(*pEvent));
+    if (const std::string text = TypedText(*pEvent); !text.empty())
+        toolkit::InputText(text);
+}
+
+void QtWindow::keyReleaseEvent(QKeyEvent* pEvent)
+{
+    if (pEvent->isAutoRepeat()) // the key is still down
+        return;
+    if (const UINT vkey = ToVirtualKey(*pEvent))
+        toolkit::InputKey(vkey, false, ModifiersAfter(*pEvent));
+}
+
+bool QtWindow::focusNextPrevChild(bool)
+{
+    return false;
+}
+
+} // namespace qtdesktop

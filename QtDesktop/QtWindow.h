@@ -1,0 +1,51 @@
+// The widget that shows one top-level window of the toolkit.
+//
+// Draws the window's surface, a pixel of it to a logical pixel of the screen, and hands the user's input to the
+// toolkit's queue. Nothing here calls into the toolkit's windows but to ask for their state.
+#pragma once
+
+#include "Toolkit/window/Desktop.h"
+#include "Toolkit/window/Input.h"
+
+#include <QWidget>
+
+namespace qtdesktop
+{
+
+class QtWindow : public QWidget
+{
+public:
+    explicit QtWindow(HWND hTop); // hidden at first
+
+    void FollowState();               // the window was shown, hidden or renamed
+    void FollowPlace();               // the program moved or sized it
+    void Present(const CRect& dirty); // the window's surface has new pixels
+    void ShowShape(toolkit::Cursor cursor);
+
+protected:
+    bool event(QEvent* pEvent) override;
+    void paintEvent(QPaintEvent* pEvent) override;
+    void resizeEvent(QResizeEvent* pEvent) override;
+    void moveEvent(QMoveEvent* pEvent) override;
+    void closeEvent(QCloseEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override;
+    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
+    void mouseMoveEvent(QMouseEvent* pEvent) override;
+    void wheelEvent(QWheelEvent* pEvent) override;
+    void leaveEvent(QEvent* pEvent) override;
+    void keyPressEvent(QKeyEvent* pEvent) override;
+    void keyReleaseEvent(QKeyEvent* pEvent) override;
+    bool focusNextPrevChild(bool bNext) override; // FALSE: Tab is the toolkit's
+
+private:
+    CPoint Corner() const; // on the screen
+    void ReleaseHeldButtons();
+
+    const HWND m_hTop;
+    Qt::MouseButtons m_held; // pressed in the toolkit's eyes
+    CPoint m_lastMouse;
+    int m_nWheelRest = 0; // turned, but too little yet to be told
+};
+
+} // namespace qtdesktop
