@@ -1,0 +1,119 @@
+#include "Editor/app/QtPictureReader.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+
+namespace editor
+{
+namespace
+{
+
+std::vector<std::string> KnownExtensions()
+{
+    std::vector<std::string> extensions;
+    for (const QByteArray& format : QImageReader::supportedImageFormats())
+        extensions.push_back(format.toLower().toStdString());
+    return extensions;
+}
+
+std::string ReasonOf(int error)
+{
+    return std::generic_category().message(error);
+}
+
+// Opens the file by the very bytes of its name, which need not be UTF-8. Empty, or why it was not opened.
+std::string Open(QFile& file, const std::string& path)
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return ReasonOf(errno);
+    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
+    struct stat info;
+    if (::fstat(descriptor, &info) != 0)
+        return ReasonOf(errno);
+    if (!S_ISREG(info.st_mode))
+        return "not a regular file";
+    return info.st_size == 0 ? "the file is empty" : "";
+}
+
+bool IsTurned(const QImageReader& reader)
+{
+    return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+}
+
+QSize FitInto(QSize size, QSize max)
+{
+    if (size.width() <= max.width() && size.height() <= max.height())
+        return size;
+    return size.scaled(max, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+}
+
+std::string WhyUndecoded(QSize stored)
+{
+    if (qint64(stored.width()) * stored.height() * 4 <= qint64(QtPictureReader::kMaxMegabytes) << 20)
+        return "the picture is damaged";
+    return "too large to decode: " + std::to_string(stored.width()) + " by " + std::to_string(stored.height()) +
+           " pixels";
+}
+
+toolkit::Surface ToSurface(const QImage& decoded)
+{
+    const QImage image = decoded.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    toolkit::Surface surface(CSize(image.width(), image.height()));
+    for (int y = 0; y < image.height(); ++y)
+        std::memcpy(surface.Row(y), image.constScanLine(y),
+                    static_cast<std::size_t>(image.width()) * sizeof(toolkit::Pixel));
+    return surface;
+}
+
+DecodedPicture Decode(QImageReader& reader, QSize max)
+{
+    reader.setAutoTransform(true);
+    const QSize stored = reader.size();
+    if (stored.isValid())
+        reader.setScaledSize(FitInto(stored, IsTurned(reader) ? max.transposed() : max));
+    QImage image = reader.read();
+    if (image.isNull())
+        return {{}, {}, WhyUndecoded(stored)};
+
+    QSize full = image.size();
+    if (stored.isValid())
+        full = IsTurned(reader) ? stored.transposed() : stored;
+    else // the decoder could not tell before
+        image = image.scaled(FitInto(full, max), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    return {ToSurface(image), CSize(full.width(), full.height()), {}};
+}
+
+} // namespace
+
+QtPictureReader::QtPictureReader() : m_extensions(KnownExtensions())
+{
+    QImageReader::setAllocationLimit(kMaxMegabytes);
+}
+
+DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize) const
+{
+    QFile file;
+    if (std::string reason = Open(file, path); !reason.empty())
+        return {{}, {}, std::move(reason)};
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    const QSize max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1));
+    if (reader.canRead())
+        return Decode(reader, max);
+    reader.setDecideFormatFromContent(false);
+    reader.setFormat(QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower().toLatin1());
+    DecodedPicture decoded = Decode(reader, max);
+    if (!decoded.error.empty())
+        decoded.error = "not a picture of a known format";
+    return decoded;
+}
+
+} // namespace editor
