@@ -1,0 +1,125 @@
+#include "tests/desktop/DesktopTest.h"
+
+#include <QWheelEvent>
+
+namespace
+{
+
+class InputTest : public DesktopTest
+{
+protected:
+    std::string AfterMouse(const std::function<void()>& act)
+    {
+        act();
+        Settle();
+        return m_probe->TakeLog();
+    }
+
+    std::string AfterKey(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
+    {
+        QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
+        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
+        QCoreApplication::sendEvent(&Widget(), &press);
+        QCoreApplication::sendEvent(&Widget(), &release);
+        Settle();
+        return m_probe->TakeLog();
+    }
+
+    std::string AfterWheel(QPoint turn, Qt::KeyboardModifiers modifiers = {})
+    {
+        QWheelEvent event(QPointF(5, 5), Widget().mapToGlobal(QPointF(5, 5)), {}, turn, Qt::NoButton, modifiers,
+                          Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(&Widget(), &event);
+        Settle();
+        return m_probe->TakeLog();
+    }
+};
+
+} // namespace
+
+TEST_F(InputTest, ThePointerIsFollowedAndPressesLandWhereTheyWereMade)
+{
+    EXPECT_EQ("move 30,40", AfterMouse([&] { QTest::mouseMove(Window(), {30, 40}); }));
+    EXPECT_EQ("ldown 30,40 control", AfterMouse([&] {
+                  QTest::mousePress(Window(), Qt::LeftButton, Qt::ControlModifier, {30, 40});
+              }));
+    EXPECT_EQ("lup 30,40", AfterMouse([&] { QTest::mouseRelease(Window(), Qt::LeftButton, {}, {30, 40}); }));
+    EXPECT_EQ("move 8,9; rdown 8,9; rup 8,9", AfterMouse([&] {
+                  QTest::mouseClick(Window(), Qt::RightButton, {}, {8, 9});
+              }));
+    EXPECT_EQ("leave", AfterMouse([&] {
+                  QEvent leave(QEvent::Leave);
+                  QCoreApplication::sendEvent(&Widget(), &leave);
+              }));
+}
+
+TEST_F(InputTest, TwoQuickClicksAreOneDoubleClick)
+{
+    QTest::mouseClick(Window(), Qt::LeftButton, {}, {30, 40});
+    QTest::mouseClick(Window(), Qt::LeftButton, {}, {30, 40});
+    Settle();
+    EXPECT_EQ("move 30,40; ldown 30,40; lup 30,40; ldouble 30,40; lup 30,40", m_probe->TakeLog());
+}
+
+TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAre)
+{
+    ::SetFocus(m_probe->GetSafeHwnd());
+    EXPECT_EQ("key F2", AfterKey(Qt::Key_F2));
+    EXPECT_EQ("key A; char 97", AfterKey(Qt::Key_A, "a"));
+    EXPECT_EQ("key 7; char 55", AfterKey(Qt::Key_7, "7"));
+    EXPECT_EQ("key Tab; char 9", AfterKey(Qt::Key_Tab, "\t"));
+    EXPECT_EQ("key Tab; char 9", AfterKey(Qt::Key_Backtab, "", Qt::ShiftModifier));
+    EXPECT_EQ("key Return; char 13", AfterKey(Qt::Key_Enter, "\r", Qt::KeypadModifier));
+    EXPECT_EQ("key Keypad+; char 43", AfterKey(Qt::Key_Plus, "+", Qt::KeypadModifier));
+    EXPECT_EQ("char 43", AfterKey(Qt::Key_Plus, "+"));
+    EXPECT_EQ("key Menu", AfterKey(Qt::Key_Menu));
+    EXPECT_EQ("key Backspace; char 8", AfterKey(Qt::Key_Backspace, "\b"));
+}
+
+TEST_F(InputTest, OnlyPrintableTextIsTyped)
+{
+    ::SetFocus(m_probe->GetSafeHwnd());
+    EXPECT_EQ("key C; char 3", AfterKey(Qt::Key_C, "\x03", Qt::ControlModifier));
+    EXPECT_EQ("key 1", AfterKey(Qt::Key_1, "1", Qt::ControlModifier));
+    EXPECT_EQ("char 8364", AfterKey(Qt::Key_unknown, "€", Qt::GroupSwitchModifier));
+    EXPECT_EQ("char 128512", AfterKey(Qt::Key_unknown, "😀"));
+    EXPECT_EQ("", AfterKey(Qt::Key_Dead_Acute));
+}
+
+TEST_F(InputTest, AModifierIsDownAsSoonAsItsKeyIs)
+{
+    ::SetFocus(m_probe->GetSafeHwnd());
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Control, {});
+    QCoreApplication::sendEvent(&Widget(), &press);
+    Settle();
+    EXPECT_LT(::GetKeyState(VK_CONTROL), 0);
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
+    QCoreApplication::sendEvent(&Widget(), &release);
+    Settle();
+    EXPECT_GE(::GetKeyState(VK_CONTROL), 0);
+}
+
+TEST_F(InputTest, AHeldKeyRepeatsWithoutBeingReleased)
+{
+    ::SetFocus(m_probe->GetSafeHwnd());
+    QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, {});
+    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, {}, {}, true);
+    QKeyEvent again(QEvent::KeyPress, Qt::Key_Delete, {}, {}, true);
+    for (QKeyEvent* pEvent : {&press, &release, &again})
+        QCoreApplication::sendEvent(&Widget(), pEvent);
+    Settle();
+    EXPECT_EQ("key Delete; key Delete", m_probe->TakeLog());
+    EXPECT_LT(::GetKeyState(VK_DELETE), 0);
+}
+
+TEST_F(InputTest, TheWheelTurnsByNotchesAndATouchpadByPiecesThatAddUp)
+{
+    ::SetFocus(m_probe->GetSafeHwnd());
+    EXPECT_EQ("wheel 120", AfterWheel({0, 120}));
+    EXPECT_EQ("wheel -240", AfterWheel({0, -240}));
+    EXPECT_EQ("wheel 120", AfterWheel({120, 0}, Qt::AltModifier)); // Qt turns it sideways then
+    EXPECT_EQ("", AfterWheel({120, 0}));
+    EXPECT_EQ("", AfterWheel({0, 6}));
+    EXPECT_EQ("", AfterWheel({0, 6}));
+    EXPECT_EQ("wheel 15", AfterWheel({0, 6}));
+}

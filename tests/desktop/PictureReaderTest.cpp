@@ -1,0 +1,123 @@
+#include "Editor/app/QtPictureReader.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QImageWriter>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using editor::DecodedPicture;
+
+namespace
+{
+
+class PictureReaderTest : public testing::Test
+{
+protected:
+    std::string Path(const char* pszName) const { return m_folder.filePath(pszName).toStdString(); }
+
+    static QImage TwoHalves(int cx, int cy) // left red, right half-transparent blue
+    {
+        QImage image(cx, cy, QImage::Format_ARGB32);
+        for (int y = 0; y < cy; ++y) {
+            for (int x = 0; x < cx; ++x)
+                image.setPixel(x, y, x < cx / 2 ? qRgba(255, 0, 0, 255) : qRgba(0, 0, 255, 128));
+        }
+        return image;
+    }
+
+    void WriteBytes(const char* pszName, const QByteArray& bytes) const
+    {
+        QFile file(m_folder.filePath(pszName));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        ASSERT_EQ(bytes.size(), file.write(bytes));
+    }
+
+    QTemporaryDir m_folder;
+    editor::QtPictureReader m_reader;
+};
+
+} // namespace
+
+TEST_F(PictureReaderTest, AnOrdinaryMachineReadsTheUsualKinds)
+{
+    const std::vector<std::string> extensions = m_reader.Extensions();
+    for (const char* pszKnown : {"png", "jpg", "jpeg", "gif", "bmp"})
+        EXPECT_EQ(1, std::count(extensions.begin(), extensions.end(), pszKnown)) << pszKnown;
+}
+
+TEST_F(PictureReaderTest, APictureComesPremultipliedAndSmallerButNeverLarger)
+{
+    TwoHalves(40, 20).save(m_folder.filePath("a.png"));
+
+    const DecodedPicture whole = m_reader.Read(Path("a.png"), {100, 100});
+    EXPECT_EQ("", whole.error);
+    EXPECT_EQ(CSize(40, 20), whole.fullSize);
+    EXPECT_EQ(CSize(40, 20), whole.picture.Bounds().Size());
+    EXPECT_EQ(0xFFFF0000u, whole.picture.At(5, 5));
+    EXPECT_EQ(0x80000080u, whole.picture.At(35, 5));
+
+    const DecodedPicture small = m_reader.Read(Path("a.png"), {10, 10});
+    EXPECT_EQ(CSize(40, 20), small.fullSize);
+    EXPECT_EQ(CSize(10, 5), small.picture.Bounds().Size());
+    EXPECT_EQ(0xFFFF0000u, small.picture.At(1, 2));
+
+    TwoHalves(300, 1).save(m_folder.filePath("line.png"));
+    EXPECT_EQ(CSize(10, 1), m_reader.Read(Path("line.png"), {10, 10}).picture.Bounds().Size());
+}
+
+// The smallest EXIF block there is: the picture is to be turned by 90 degrees clockwise.
+TEST_F(PictureReaderTest, ACamerasPictureStandsUpright)
+{
+    const QByteArray exif = QByteArray::fromHex("ffe10022457869660000"         // APP1, "Exif"
+                                                "4d4d002a00000008"             // big-endian TIFF
+                                                "0001011200030000000100060000" // orientation 6
+                                                "00000000");
+    QImage wide(400, 200, QImage::Format_RGB32);
+    wide.fill(Qt::green);
+    ASSERT_TRUE(wide.save(m_folder.filePath("b.jpg"), "jpg"));
+    QFile file(m_folder.filePath("b.jpg"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray plain = file.readAll();
+    WriteBytes("turned.jpg", plain.left(2) + exif + plain.mid(2));
+
+    const DecodedPicture turned = m_reader.Read(Path("turned.jpg"), {100, 100});
+    EXPECT_EQ(CSize(200, 400), turned.fullSize);
+    EXPECT_EQ(CSize(50, 100), turned.picture.Bounds().Size());
+}
+
+TEST_F(PictureReaderTest, TheContentTellsTheKindNotTheName)
+{
+    TwoHalves(8, 8).save(m_folder.filePath("really-png.jpg"), "png");
+    EXPECT_EQ("", m_reader.Read(Path("really-png.jpg"), {8, 8}).error);
+}
+
+TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
+{
+    TwoHalves(64, 64).save(m_folder.filePath("c.png"));
+    QFile whole(m_folder.filePath("c.png"));
+    ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
+    const QByteArray bytes = whole.readAll();
+    WriteBytes("half.png", bytes.left(bytes.size() / 2));
+    WriteBytes("text.png", "this is no picture");
+    WriteBytes("empty.gif", "");
+    TwoHalves(4, 4).save(m_folder.filePath("d.bmp"));
+    QFile small(m_folder.filePath("d.bmp"));
+    ASSERT_TRUE(small.open(QIODevice::ReadOnly));
+    WriteBytes("huge.bmp",
+               small.readAll().replace(18, 8, QByteArray::fromHex("1027000010270000"))); // claims 10000 by 10000
+    ASSERT_EQ(0, ::mkfifo(Path("pipe.png").c_str(), 0600));
+
+    const auto error = [this](const char* pszName) { return m_reader.Read(Path(pszName), {50, 50}).error; };
+    EXPECT_EQ("the picture is damaged", error("half.png"));
+    EXPECT_EQ("not a picture of a known format", error("text.png"));
+    EXPECT_EQ("the file is empty", error("empty.gif"));
+    EXPECT_EQ("not a regular file", error("pipe.png"));
+    EXPECT_EQ("not a regular file", error("."));
+    EXPECT_EQ("No such file or directory", error("gone.png"));
+    EXPECT_EQ("too large to decode: 10000 by 10000 pixels", error("huge.bmp"));
+    EXPECT_TRUE(m_reader.Read(Path("half.png"), {50, 50}).picture.IsEmpty());
+}

@@ -1,0 +1,138 @@
+#include "QtDesktop/QtDesktop.h"
+#include "Toolkit/graphics/Gdi.h"
+
+#include <QFont>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+using toolkit::FontStyle;
+using toolkit::Surface;
+
+namespace
+{
+
+constexpr CPoint kAt(20, 20);
+constexpr toolkit::Pixel kWhite = 0xFFFFFFFF;
+
+constexpr const char* kLabels[] = {
+    "IMG_2024-07-13.png", "AVATAR To Ty, Wałbrzych",     "Grüße – Ελλάδα – Москва", "صورة من القاهرة.png",
+    "שלום.gif",           "e\u0301te\u0301 (combining)",
+};
+
+class TextEngineTest : public testing::Test
+{
+protected:
+    Surface Draw(std::string_view text, FontStyle style, std::optional<CRect> clip = {})
+    {
+        Surface surface(CSize(600, 60), kWhite);
+        m_engine.Draw(surface, clip.value_or(surface.Bounds()), kAt, text, RGB(0, 0, 0), style);
+        return surface;
+    }
+
+    static CRect Ink(const Surface& surface)
+    {
+        CRect ink;
+        for (int y = 0; y < surface.Height(); ++y) {
+            for (int x = 0; x < surface.Width(); ++x) {
+                if (surface.At(x, y) != kWhite)
+                    ink = ink | CRect(x, y, x + 1, y + 1);
+            }
+        }
+        return ink;
+    }
+
+    qtdesktop::QtDesktop m_desktop;
+    toolkit::TextEngine& m_engine = toolkit::CurrentTextEngine();
+};
+
+} // namespace
+
+TEST_F(TextEngineTest, TheDrawnTextFillsTheMeasuredWidthAndStandsInItsLine)
+{
+    for (const FontStyle style : {FontStyle::Regular, FontStyle::Bold}) {
+        for (const char* pszLabel : kLabels) {
+            SCOPED_TRACE(pszLabel);
+            const int nWidth = m_engine.Measure(pszLabel, style);
+            const CRect ink = Ink(Draw(pszLabel, style));
+            EXPECT_NEAR(kAt.x, ink.left, 3);
+            EXPECT_NEAR(kAt.x + nWidth, ink.right, 3);
+            EXPECT_GE(ink.top, kAt.y - 1);
+            EXPECT_LE(ink.bottom, kAt.y + m_engine.LineHeight() + 1);
+        }
+    }
+    EXPECT_GT(m_engine.Measure("Bold", FontStyle::Bold), m_engine.Measure("Bold", FontStyle::Regular));
+}
+
+TEST_F(TextEngineTest, TextLooksAsQtItselfDrawsIt)
+{
+    QFont font = QGuiApplication::font();
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    for (const char* pszLabel : kLabels) {
+        SCOPED_TRACE(pszLabel);
+        QImage expected(600, 60, QImage::Format_ARGB32_Premultiplied);
+        expected.fill(Qt::white);
+        {
+            QPainter painter(&expected);
+            painter.setFont(font);
+            painter.drawText(QPointF(kAt.x, kAt.y + qRound(QFontMetricsF(font).ascent())), QString::fromUtf8(pszLabel));
+        }
+        const Surface drawn = Draw(pszLabel, FontStyle::Regular);
+        int nDifferent = 0, nInk = 0;
+        for (int y = 0; y < 60; ++y) {
+            for (int x = 0; x < 600; ++x) {
+                const int nExpected = qGray(expected.pixel(x, y));
+                nInk += nExpected < 255;
+                nDifferent += std::abs(nExpected - qGray(drawn.At(x, y))) > 8;
+            }
+        }
+        EXPECT_GT(nInk, 100);
+        EXPECT_EQ(0, nDifferent);
+    }
+}
+
+TEST_F(TextEngineTest, WhateverBytesComeSomethingIsDrawnForEach)
+{
+    const int nOne = m_engine.Measure("\xFF", FontStyle::Regular);
+    EXPECT_GT(nOne, 0);
+    for (const char* pszText : {"\x80", "\n", "\t", "\x7F", "\x01"}) {
+        EXPECT_EQ(nOne, m_engine.Measure(pszText, FontStyle::Regular));
+        EXPECT_FALSE(Ink(Draw(pszText, FontStyle::Regular)).IsRectEmpty());
+    }
+    EXPECT_NEAR(3 * nOne, m_engine.Measure("\xE2\x82\xFF", FontStyle::Regular), 2);
+    EXPECT_EQ(0, m_engine.Measure("", FontStyle::Regular));
+    EXPECT_GT(m_engine.Measure(std::string(100'000, '\xC3'), FontStyle::Regular), 10'000);
+}
+
+TEST_F(TextEngineTest, NothingIsDrawnOutsideTheClip)
+{
+    const CRect clip(30, 22, 70, 29);
+    for (const char* pszLabel : kLabels) {
+        SCOPED_TRACE(pszLabel);
+        const CRect ink = Ink(Draw(pszLabel, FontStyle::Regular, clip));
+        EXPECT_FALSE(ink.IsRectEmpty());
+        EXPECT_EQ(ink, ink & clip);
+    }
+    Surface small(CSize(10, 10), kWhite);
+    m_engine.Draw(small, CRect(-50, -50, 50, 50), CPoint(-5, -3), "clipped by the surface", RGB(0, 0, 0),
+                  FontStyle::Bold);
+    EXPECT_FALSE(Ink(small).IsRectEmpty());
+}
+
+TEST_F(TextEngineTest, SelectedTextIsDrawnInItsOwnColour)
+{
+    for (const char* pszLabel : {"plain", "עברית"}) { // as glyphs and as a remembered picture
+        Surface surface(CSize(100, 40), 0xFF3070C0);
+        Draw(pszLabel, FontStyle::Regular);
+        m_engine.Draw(surface, surface.Bounds(), CPoint(5, 5), pszLabel, RGB(255, 255, 255), FontStyle::Regular);
+        bool bWhite = false;
+        for (int y = 0; y < 40; ++y) {
+            for (int x = 0; x < 100; ++x)
+                bWhite |= qBlue(surface.At(x, y)) > 0xF0 && qRed(surface.At(x, y)) > 0xE0;
+        }
+        EXPECT_TRUE(bWhite) << pszLabel;
+    }
+}

@@ -1,0 +1,83 @@
+#include "tests/desktop/DesktopTest.h"
+
+#include <QImage>
+#include <QPixmap>
+
+namespace
+{
+
+class WindowTest : public DesktopTest
+{
+protected:
+    QImage Screen() { return Widget().grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+    QImage SurfacePicture()
+    {
+        const toolkit::Surface& surface = *toolkit::WindowSurface(m_probe->GetSafeHwnd());
+        QImage picture(surface.Width(), surface.Height(), QImage::Format_RGB32);
+        for (int y = 0; y < surface.Height(); ++y)
+            std::copy_n(surface.Row(y), surface.Width(), reinterpret_cast<toolkit::Pixel*>(picture.scanLine(y)));
+        return picture;
+    }
+};
+
+} // namespace
+
+TEST_F(WindowTest, WhatTheToolkitPaintsIsWhatTheScreenShows)
+{
+    EXPECT_EQ(QSize(200, 120), Widget().size());
+    EXPECT_TRUE(Widget().isVisible());
+    EXPECT_EQ(QColor(255, 255, 255), Screen().pixelColor(100, 60));
+
+    m_probe->m_color = RGB(10, 20, 200);
+    const CRect corner(0, 0, 50, 30);
+    m_probe->InvalidateRect(&corner);
+    Settle();
+    const QImage screen = Screen();
+    EXPECT_EQ(QColor(10, 20, 200), screen.pixelColor(49, 29));
+    EXPECT_EQ(QColor(255, 255, 255), screen.pixelColor(50, 30)); // not asked for, not painted
+    EXPECT_EQ(SurfacePicture(), screen);
+}
+
+TEST_F(WindowTest, TheUsersSizeAndTheProgramsSizeMeet)
+{
+    Widget().resize(320, 90);
+    EXPECT_TRUE(RunUntil([&] { return m_probe->m_sized == CSize(320, 90); }));
+    Settle();
+    EXPECT_EQ(SurfacePicture(), Screen());
+    EXPECT_EQ(QSize(320, 90), Screen().size());
+
+    ::MoveWindow(m_probe->GetSafeHwnd(), 40, 50, 260, 70);
+    Settle();
+    EXPECT_EQ(QRect(40, 50, 260, 70), Widget().geometry());
+    EXPECT_EQ(CSize(260, 70), m_probe->m_sized);
+}
+
+TEST_F(WindowTest, AWindowBearsItsTitleAndHidesAndShows)
+{
+    m_probe->SetWindowText("Pictures – Überlingen");
+    EXPECT_EQ("Pictures – Überlingen", Widget().windowTitle().toStdString());
+    m_probe->ShowWindow(SW_HIDE);
+    EXPECT_FALSE(Widget().isVisible());
+    m_probe->ShowWindow(SW_SHOW);
+    EXPECT_TRUE(Widget().isVisible());
+}
+
+TEST_F(WindowTest, ClosingAsksTheProgramWhichMayStay)
+{
+    EXPECT_FALSE(Widget().close());
+    EXPECT_TRUE(RunUntil([&] { return m_probe->m_bCloseAsked; }));
+    EXPECT_TRUE(Widget().isVisible());
+
+    const HWND hProbe = m_probe->GetSafeHwnd();
+    m_probe->DestroyWindow();
+    EXPECT_EQ(nullptr, m_desktop->FindWidget(hProbe));
+}
+
+TEST_F(WindowTest, TheCursorIsTheToolkitsChoice)
+{
+    m_desktop->ShowCursor(toolkit::Cursor::Wait);
+    EXPECT_EQ(Qt::WaitCursor, Widget().cursor().shape());
+    m_desktop->ShowCursor(toolkit::Cursor::Arrow);
+    EXPECT_EQ(Qt::ArrowCursor, Widget().cursor().shape());
+}
