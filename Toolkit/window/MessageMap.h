@@ -33,7 +33,7 @@ constexpr std::uint64_t MessageBit(UINT message, UINT code)
 constexpr std::uint64_t MessageBits(const MessageEntry* entries)
 {
     std::uint64_t bits = 0;
-    for (; entries->handler; ++entries)
+    for (; entries->message != 0; ++entries) // not the handler: no constant where a sanitizer lets functions be NULL
         bits |= MessageBit(entries->message, entries->code);
     return bits;
 }

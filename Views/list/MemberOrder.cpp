@@ -71,22 +71,33 @@ bool OrderByPosition(AtomArray& atoms)
     return true;
 }
 
-bool OrderByKeys(AtomArray& atoms)
+enum class Order
 {
-    return CStubRef<IImageLink>::From(atoms.front().Get()) ? OrderByPosition(atoms) : OrderByName(atoms);
+    None,
+    ByName,
+    ByPosition
+};
+
+Order OrderByKeys(AtomArray& atoms)
+{
+    const bool bLinks = static_cast<bool>(CStubRef<IImageLink>::From(atoms.front().Get()));
+    if (bLinks)
+        return OrderByPosition(atoms) ? Order::ByPosition : Order::None;
+    return OrderByName(atoms) ? Order::ByName : Order::None;
 }
 
 } // namespace
 
-void views::OrderMembers(AtomArray& atoms, AtomComparator compare)
+bool views::OrderMembers(AtomArray& atoms, AtomComparator compare)
 {
-    if (atoms.size() < 2)
-        return;
+    if (atoms.empty())
+        return true;
     try {
-        if (OrderByKeys(atoms))
-            return;
+        if (const Order order = OrderByKeys(atoms); order != Order::None)
+            return order == Order::ByName;
     } catch (CMemoryException&) {
         // No room for the keys: comparing needs none.
     }
     std::qsort(atoms.data(), atoms.size(), sizeof atoms[0], compare); // a holder may be moved as the pointer it is
+    return false;
 }

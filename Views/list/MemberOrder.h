@@ -21,6 +21,8 @@ using AtomComparator = int (*)(const void* p1, const void* p2);
 // comparisons. So keys are read once for each member wherever keys alone decide: when no member is an image link and
 // every name can be read, the folded names; when all are image links of one phase, the positions. Anything else
 // (links among other atoms, names that fail) is compared pair by pair.
-void OrderMembers(AtomArray& atoms, AtomComparator compare);
+//
+// True when names alone have decided.
+bool OrderMembers(AtomArray& atoms, AtomComparator compare);
 
 } // namespace views

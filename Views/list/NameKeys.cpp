@@ -35,6 +35,17 @@ void AppendUtf8(std::string& text, char32_t c)
     }
 }
 
+std::size_t CountAscii(std::string_view text)
+{
+    const auto first = std::find_if(text.begin(), text.end(), [](char c) { return (c & 0x80) != 0; });
+    return static_cast<std::size_t>(first - text.begin());
+}
+
+char FoldAscii(char c)
+{
+    return static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+}
+
 } // namespace
 
 views::NameKeys::NameKeys(std::size_t nExpected) : m_buffer(256)
@@ -61,12 +72,21 @@ bool views::NameKeys::Add(IAtom* pAtom)
     return true;
 }
 
+// ASCII, which is nearly everything, goes by whole runs.
 void views::NameKeys::AppendFolded(std::string_view name)
 {
     while (!name.empty()) {
-        const auto [c, bytes] = toolkit::DecodeUtf8(name);
-        AppendUtf8(m_texts, toolkit::FoldCase(c));
-        name.remove_prefix(static_cast<std::size_t>(bytes));
+        const std::size_t nAscii = CountAscii(name);
+        const std::size_t nStart = m_texts.size();
+        m_texts.append(name.substr(0, nAscii));
+        std::transform(m_texts.begin() + static_cast<std::ptrdiff_t>(nStart), m_texts.end(),
+                       m_texts.begin() + static_cast<std::ptrdiff_t>(nStart), FoldAscii);
+        name.remove_prefix(nAscii);
+        if (!name.empty()) {
+            const auto [c, bytes] = toolkit::DecodeUtf8(name);
+            AppendUtf8(m_texts, toolkit::FoldCase(c));
+            name.remove_prefix(static_cast<std::size_t>(bytes));
+        }
     }
 }
 

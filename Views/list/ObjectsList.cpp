@@ -27,18 +27,18 @@ using IconHolder = std::unique_ptr<HICON__, DestroyIconHandle>;
 BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
     ON_WM_CREATE()
     ON_WM_DESTROY()
-    ON_NOTIFY_REFLECT(NM_DBLCLK, ThisClass::OnDblclk)
-    ON_NOTIFY_REFLECT(LVN_GETDISPINFO, ThisClass::OnObjectsGetDispinfo)
+    ON_NOTIFY_REFLECT(NM_DBLCLK, OnDblclk)
+    ON_NOTIFY_REFLECT(LVN_GETDISPINFO, OnObjectsGetDispinfo)
     ON_WM_RBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
     ON_WM_RBUTTONUP()
     ON_WM_LBUTTONUP()
-    ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, ThisClass::OnItemChanged)
+    ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, OnItemChanged)
     ON_WM_SETFOCUS()
-    ON_NOTIFY_REFLECT(LVN_ITEMCHANGING, ThisClass::OnItemChanging)
+    ON_NOTIFY_REFLECT(LVN_ITEMCHANGING, OnItemChanging)
     ON_WM_KILLFOCUS()
     ON_WM_SHOWWINDOW()
-    ON_NOTIFY_REFLECT(LVN_ODCACHEHINT, ThisClass::OnOdCacheHint)
+    ON_NOTIFY_REFLECT(LVN_ODCACHEHINT, OnOdCacheHint)
 END_MESSAGE_MAP()
 
 CObjectsList::CObjectsList(UINT nPaneKind, UINT nResourceID, int bPassive)
@@ -145,8 +145,9 @@ void CObjectsList::LoadMembers()
         views::AtomArray atoms(m_pContainer->GetCount());
         if (!atoms.empty())
             m_pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
-        views::OrderMembers(atoms, &CompareFunc);
+        const bool bByName = views::OrderMembers(atoms, &CompareFunc);
         m_atoms = std::move(atoms);
+        m_nOrdered = bByName ? static_cast<int>(m_atoms.size()) : 0;
     } catch (CMemoryException& e) {
         e.ReportError();
     }
@@ -188,6 +189,7 @@ void CObjectsList::ClearContext()
     SetItemCount(0);
     m_pCache->RemoveAll();
     m_nCacheFrom = m_nCacheTo = 0;
+    m_nOrdered = 0;
     std::exchange(m_atoms, {}).clear(); // an atom's end may come back here: there are no rows any more
     m_pContainer.Release();
     OnClearContext();

@@ -118,7 +118,8 @@ private:
     void ShowPane();
     void RemovePane();
 
-    int FindRow(IAtom* pAtom) const; // the first row whose atom compares equal, -1: none; asks each row's name
+    int FindRow(IAtom* pAtom) const; // the first row whose atom compares equal, -1: none
+    void CheckOrder(IAtom* pChanged);
     void RemoveRow(int nItem);
     void ReloadContainer(IAtomContainer* pContainer);
 
@@ -155,4 +156,5 @@ private:
     BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
     const BOOL m_bPassive;
     BOOL m_bPaneShown = FALSE;
+    int m_nOrdered = 0; // rows before this one stand in the order of their names
 };

@@ -83,6 +83,8 @@ void CObjectsList::RemoveRow(int nItem)
     const auto pRow = m_atoms.begin() + nItem;
     const CStubRef<IAtom> pRemoved = std::move(*pRow); // its end may come back here: the row is gone by then
     m_atoms.erase(pRow);
+    if (nItem < m_nOrdered)
+        --m_nOrdered;
 }
 
 // Only a cached row can show what is out of date; others are read when they are next hinted.
@@ -90,6 +92,7 @@ BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (!m_bSync || !pAtom)
         return TRUE;
+    CheckOrder(pAtom);
     const int nRow = FindCachedRow(pAtom);
     if (nRow < 0)
         return TRUE;

@@ -79,10 +79,36 @@ void CObjectsList::UpdateIndexes()
     PostMessage(LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareFunc));
 }
 
+// In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
+// for names that have changed without a word.
 int CObjectsList::FindRow(IAtom* pAtom) const
 {
-    const auto found = std::find_if(m_atoms.begin(), m_atoms.end(), [pAtom](const CStubRef<IAtom>& pRow) {
-        return pRow && CompareFunc(&pRow, &pAtom) == 0;
-    });
-    return found == m_atoms.end() ? -1 : static_cast<int>(found - m_atoms.begin());
+    const auto compare = [pAtom](const CStubRef<IAtom>& pRow) { return CompareFunc(&pRow, &pAtom); };
+    const auto isSame = [&](const CStubRef<IAtom>& pRow) { return pRow && compare(pRow) == 0; };
+    const auto isBefore = [&](const CStubRef<IAtom>& pRow) { return compare(pRow) < 0; };
+
+    const auto orderedEnd = m_atoms.begin() + m_nOrdered;
+    auto found = std::partition_point(m_atoms.begin(), orderedEnd, isBefore);
+    if (found == orderedEnd || !isSame(*found))
+        found = std::find_if(orderedEnd, m_atoms.end(), isSame);
+    if (found == m_atoms.end()) {
+        found = std::find_if(m_atoms.begin(), orderedEnd, isSame);
+        if (found == orderedEnd)
+            return -1;
+    }
+    return static_cast<int>(found - m_atoms.begin());
+}
+
+// A new name may put its row out of order: from there on rows are no longer found by halving.
+void CObjectsList::CheckOrder(IAtom* pChanged)
+{
+    const auto orderedEnd = m_atoms.begin() + m_nOrdered;
+    const auto row =
+        std::find_if(m_atoms.begin(), orderedEnd, [&](const auto& pRow) { return pRow.Get() == pChanged; });
+    if (row == orderedEnd)
+        return;
+    const bool bAfterFormer = row == m_atoms.begin() || CompareFunc(&row[-1], &row[0]) <= 0;
+    const bool bBeforeNext = row + 1 == orderedEnd || CompareFunc(&row[0], &row[1]) <= 0;
+    if (!bAfterFormer || !bBeforeNext)
+        m_nOrdered = static_cast<int>(row - m_atoms.begin());
 }

@@ -227,8 +227,8 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
     const bool bAsks = strOperation.starts_with("Pre") || strOperation.ends_with("ing");
     ledger.push_back(NameOf(sender) + (bAsks ? " asks " : " tells ") + strOperation + "(" + ::NameOf(atom) + " in " +
                      ::NameOf(container) + ")");
-    if (onNotify)
-        onNotify(operation, atom);
+    if (const auto hook = onNotify) // a copy: it may take itself away
+        hook(operation, atom);
 
     BOOL bAgreed = !m_vetoes.contains(strOperation);
     for (const Handler& handler : std::vector<Handler>(m_handlers)) {

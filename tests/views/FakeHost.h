@@ -6,14 +6,13 @@
 
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/host.h"
+#include "tests/support/Ledger.h"
 
 #include <functional>
 #include <optional>
 #include <set>
 #include <string>
 #include <vector>
-
-using Ledger = std::vector<std::string>;
 
 class FakeContainer;
 

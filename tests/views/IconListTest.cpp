@@ -1,0 +1,94 @@
+// The pictures of an icon list.
+#include "tests/views/ListTest.h"
+
+namespace
+{
+
+class IconListTest : public ListTest
+{
+protected:
+    IconListTest()
+    {
+        box = MakeBox({"a", "b", "c", "d"});
+        for (const AtomRef& pMember : box->members)
+            pMember->pLedger = &icons;
+        for (const char* pszName : {"a", "b", "c"})
+            box->Named(pszName)->hasIcon = true;
+    }
+
+    ProbeList& ShowHidden()
+    {
+        ProbeList& list = MakeList({});
+        list.ShowWindow(SW_HIDE);
+        list.SetRootAtom(box);
+        return list;
+    }
+
+    static int CountImages(const ProbeList& list)
+    {
+        return ImageList_GetImageCount(reinterpret_cast<HIMAGELIST>(list.SendMessage(LVM_GETIMAGELIST, LVSIL_NORMAL)));
+    }
+
+    FakeContainer* box;
+    Ledger icons;
+};
+
+TEST_F(IconListTest, IconsFollowTheDefaultPictureAndAtomsWithoutOneShareIt)
+{
+    ProbeList& list = ShowHidden();
+    EXPECT_EQ(1, CountImages(list));
+    box->Named("c")->iconFails = true;
+    Hint(list, 0, 3);
+    EXPECT_EQ("a 1, b 2, c 0, d 0",
+              Shown(list, 0) + ", " + Shown(list, 1) + ", " + Shown(list, 2) + ", " + Shown(list, 3));
+    EXPECT_EQ(Ledger({"icon a at -1", "icon b at -1", "icon c at -1"}), icons);
+    EXPECT_EQ(3, CountImages(list));
+}
+
+TEST_F(IconListTest, PicturesOfRowsThatLeftAreUsedAgainTheOldestFirst)
+{
+    ProbeList& list = ShowHidden();
+    Hint(list, 0, 1);
+    icons.clear();
+    list.OnChangeAtom(box->Named("b"), nullptr); // its image 2 is free
+    list.OnChangeAtom(box->Named("a"), nullptr); // and then 1
+    Hint(list, 2, 2);
+    EXPECT_EQ("c 2", Shown(list, 2));
+    Hint(list, 3, 3); // has no icon, but takes image 1, which is lost
+    Hint(list, 0, 0);
+    EXPECT_EQ("a 3", Shown(list, 0));
+    EXPECT_EQ(Ledger({"icon c at 2", "icon a at -1"}), icons);
+
+    list.OnChangeAtom(box->Named("d"), nullptr); // the default picture is never free
+    Hint(list, 1, 1);
+    EXPECT_EQ("icon b at -1", icons.back());
+}
+
+TEST_F(IconListTest, AnotherContainersRowsUseThePicturesAgain)
+{
+    ProbeList& list = ShowHidden();
+    Hint(list, 0, 2);
+    list.SetRootAtom(box);
+    Hint(list, 0, 2);
+    EXPECT_EQ(4, CountImages(list));
+    EXPECT_EQ("a 3", Shown(list, 0)); // the rows left c first
+}
+
+TEST_F(IconListTest, WithoutTheHostsBitmapRowsHaveNoPicture)
+{
+    resources.Leave();
+    ProbeList& list = ShowHidden();
+    EXPECT_EQ(0, list.SendMessage(LVM_GETIMAGELIST, LVSIL_NORMAL));
+    Hint(list, 0, 0);
+    EXPECT_EQ("a 0", Shown(list, 0));
+    resources.Join();
+}
+
+TEST_F(IconListTest, EventsAnswerOneWhateverTheyDid)
+{
+    ProbeList& list = ShowHidden();
+    EXPECT_EQ(1, list.OnChangeAtom(box->Named("a"), box));
+    EXPECT_EQ(1, list.OnDeleteAtom(box->Named("a"), world.Get()));
+}
+
+} // namespace

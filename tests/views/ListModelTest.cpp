@@ -1,0 +1,278 @@
+// The list as a window, its rows and what it remembers of them.
+#include "tests/support/AllocationFailures.h"
+#include "tests/views/KernelCalls.h"
+#include "tests/views/ListTest.h"
+
+namespace
+{
+
+class ListModelTest : public ListTest
+{
+protected:
+    FakeContainer* MakeBigBox(int nMembers)
+    {
+        FakeContainer* const pBox = MakeBox({});
+        for (int i = 0; i < nMembers; ++i)
+            pBox->Add(std::to_string(10000 + i));
+        return pBox;
+    }
+};
+
+TEST_F(ListModelTest, ACreatedListIsARegisteredHiddenChildThatIsAnEmptyComponent)
+{
+    ProbeList list(hooks, FALSE);
+    editor.Call(&list, "list");
+    EXPECT_TRUE(list.SetRootAtom(world.Get())); // no window: nothing happens
+    ASSERT_TRUE(list.Create(&frame));
+    EXPECT_EQ(0x46001208u, list.GetStyle());
+    EXPECT_EQ(0x200u, list.GetExStyle());
+    EXPECT_EQ(0xE900u, list.GetDlgCtrlID());
+    EXPECT_EQ("[]", list.State());
+    EXPECT_EQ(Ledger({"list registers"}), editor.TakeLedger());
+    EXPECT_EQ(nullptr, list.Pair(0));
+    EXPECT_FALSE(list.SetRootAtom(nullptr));
+
+    void* p = &list;
+    IAEStateHandler* const pHandler = &list;
+    pHandler->GetInterface(IID_IAEStateHandler, &p);
+    EXPECT_EQ(pHandler, p);
+    pHandler->GetInterface(STUB_BASE_INTERFACE_ID, &p);
+    EXPECT_EQ(static_cast<CStubBaseInterface*>(pHandler), p);
+    pHandler->GetInterface(IID_IAtom, &p);
+    EXPECT_EQ(nullptr, p);
+    for (int i = 0; i < 5; ++i)
+        pHandler->Release(); // a view is not counted
+
+    list.DestroyWindow();
+    EXPECT_EQ(Ledger({"list unregisters"}), editor.TakeLedger());
+    EXPECT_EQ(Ledger({"clear"}), TakeHooks());
+}
+
+TEST_F(ListModelTest, EnteringAContainerShowsItsMembersAndThePaneOnce)
+{
+    FakeContainer* const pBox = MakeBox({"b", "a"});
+    ProbeList& list = MakeList({});
+    EXPECT_TRUE(list.SetRootAtom(pBox));
+    list.OnAtomEntered(world.Get(), nullptr);
+    EXPECT_EQ("[box]", list.State());
+    list.OnAtomEntered(pBox, world.Get());
+    EXPECT_EQ("[a b]", list.State());
+    EXPECT_EQ(Ledger({"list registers", "pane 1 \"Icons\" with icon"}), editor.TakeLedger());
+    EXPECT_EQ(1, pBox->CountReferences() - 1); // the view holds one, to its container only
+
+    list.OnAtomEntered(pBox->Named("a"), pBox);
+    EXPECT_EQ("[]", list.State());
+    list.OnAtomEntered(nullptr, nullptr);
+    EXPECT_EQ(Ledger({"no pane 1"}), editor.TakeLedger());
+    list.OnAtomEntered(pBox, world.Get());
+    EXPECT_EQ(Ledger({"pane 1 \"Icons\" with icon"}), editor.TakeLedger());
+}
+
+TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
+{
+    ProbeList& list = ShowList(MakeBox({"a", "b"}), {.passive = true});
+    EXPECT_EQ(0, editor.CountHandlers());
+    editor.active = CStubRef<IAtom>::Share(world->members[0].Get());
+    Hint(list, 0, 1);
+    EXPECT_EQ("a 0", Shown(list, 0));
+    list.SetFocus();
+    list.OnAtomEntered(nullptr, nullptr);
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+}
+
+TEST_F(ListModelTest, WithoutAnEditorAListWorksAndItsPaneComesWithTheNextContainer)
+{
+    FakeContainer* const pBox = MakeBox({"a"});
+    editor.Uninstall();
+    ProbeList& list = MakeList({});
+    list.SetRootAtom(pBox);
+    EXPECT_EQ("[a]", list.State());
+    Click(list, 0);
+    desktop.DoubleClick(list.m_hWnd, PointOf(list, 0)); // would open it
+    EXPECT_EQ("[(*a)]", list.State());
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+    editor.Install();
+    list.SetRootAtom(pBox);
+    EXPECT_EQ(Ledger({"pane 1 \"Icons\" with icon"}), editor.TakeLedger());
+    editor.Uninstall(); // it never registered
+    list.DestroyWindow();
+}
+
+TEST_F(ListModelTest, AnnouncedMembersThatAreMissingAreRowsWithoutAnything)
+{
+    FakeContainer* const pBox = MakeBox({"b", "a"});
+    pBox->nMissing = 2;
+    ProbeList& list = ShowList(pBox);
+    EXPECT_EQ("[a b - -]", list.State());
+    TakeHooks();
+    Hint(list, 2, 3);
+    EXPECT_EQ("", Shown(list, 2));
+    EXPECT_EQ(nullptr, list.Pair(3));
+    EXPECT_EQ(nullptr, list.Pair(-1));
+    EXPECT_EQ(nullptr, list.Pair(4));
+    EXPECT_EQ(Ledger(), TakeHooks());
+    list.OnAtomSelected(pBox->Named("b"), pBox); // finding its row passes the empty ones by
+    EXPECT_EQ("[a *b - -]", list.State());
+}
+
+TEST_F(ListModelTest, RowsAreReadWhenTheyAreAboutToBeDrawnAndOnlyThen)
+{
+    FakeContainer* const pBox = MakeBox({"a", "b", "c", "d"});
+    pBox->Named("b")->displayName = "B shown";
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pBox);
+    EXPECT_EQ("", Shown(list, 1));
+
+    Hint(list, 1, 2);
+    EXPECT_EQ("B shown 0", Shown(list, 1));
+    EXPECT_EQ("c 0", Shown(list, 2));
+    EXPECT_EQ("", Shown(list, 0));
+    EXPECT_EQ(Ledger({"clear", "cache 1 b in box \"B shown\"", "cache 2 c in box \"c\""}), TakeHooks());
+    const int nReads = pBox->Named("c")->nNameReads;
+    Hint(list, 2, 1);
+    Hint(list, 1, 2);
+    EXPECT_EQ(Ledger(), TakeHooks());
+    EXPECT_EQ(nReads, pBox->Named("c")->nNameReads);
+
+    list.ShowWindow(SW_SHOW);
+    desktop.Dump(list.m_hWnd); // the control hints what it draws
+    EXPECT_EQ(Ledger({"cache 0 a in box \"a\"", "cache 3 d in box \"d\""}), TakeHooks());
+    list.OnAtomEntered(nullptr, nullptr);
+    EXPECT_EQ(Ledger({"uncache 3 d in box \"d\"", "uncache 0 a in box \"a\"", "uncache 2 c in box \"c\"",
+                      "uncache 1 b in box \"B shown\"", "clear"}),
+              TakeHooks());
+}
+
+TEST_F(ListModelTest, PastAThousandRowsEachNewOneTakesThePlaceOfTheOneHintedLongestAgo)
+{
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(MakeBigBox(1100));
+    desktop.SetTicks(0xFFFFFFF0);
+    Hint(list, 0, 499);
+    desktop.SetTicks(0xFFFFFFF5);
+    Hint(list, 500, 1023);
+    Hint(list, 0, 99);
+    desktop.SetTicks(10); // the counter has wrapped
+    EXPECT_EQ(1024u, TakeHooks().size() - 1);
+    Hint(list, 1024, 1024);
+    EXPECT_EQ(Ledger({"cache 1024 11024 in box \"11024\""}), TakeHooks());
+
+    // Rows 100 to 499 are the oldest; the map's first bucket with one of them is that of rows 272 to 287.
+    Hint(list, 1025, 1026);
+    EXPECT_EQ(Ledger({"cache 1025 11025 in box \"11025\"", "uncache 287 10287 in box \"10287\"",
+                      "cache 1026 11026 in box \"11026\"", "uncache 286 10286 in box \"10286\""}),
+              TakeHooks());
+    EXPECT_EQ("", Shown(list, 287));
+    EXPECT_EQ("11026 0", Shown(list, 1026));
+}
+
+TEST_F(ListModelTest, RowsHintedInTheSameMillisecondAreNeverEvicted)
+{
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(MakeBigBox(1030));
+    TakeHooks();
+    Hint(list, -5, 5000); // as far as there are rows
+    const Ledger cached = TakeHooks();
+    EXPECT_EQ(1030u, cached.size());
+    EXPECT_EQ("cache 1029 11029 in box \"11029\"", cached.back());
+    EXPECT_EQ("10000 0", Shown(list, 0));
+}
+
+TEST_F(ListModelTest, ANameThatCannotBeReadIsReportedAndTriedAgain)
+{
+    FakeContainer* const pBox = MakeBox({"a", "b", "c"});
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pBox);
+    editor.TakeLedger();
+    TakeHooks();
+    pBox->Named("b")->nameFails = true;
+    for (int i = 0; i < 2; ++i) {
+        Hint(list, 0, 2);
+        EXPECT_EQ(Ledger({"error \"Unreadable\" of b"}), editor.TakeLedger());
+    }
+    EXPECT_EQ(Ledger({"cache 0 a in box \"a\""}), TakeHooks());
+    EXPECT_EQ("", Shown(list, 1));
+    EXPECT_EQ("", Shown(list, 2));
+
+    pBox->Named("b")->displayName = "B";
+    Hint(list, 0, 2);
+    EXPECT_EQ("B 0", Shown(list, 1));
+    pBox->Named("c")->displayName = "C";
+    list.OnChangeAtom(pBox->Named("c"), nullptr);
+    pBox->Named("c")->displayNameFails = true;
+    Hint(list, 2, 2);
+    EXPECT_EQ(Ledger({"error \"Unreadable\" of c"}), editor.TakeLedger());
+}
+
+TEST_F(ListModelTest, WithoutMemoryForANameItsRowIsShownWithoutText)
+{
+    FakeContainer* const pBox = MakeBox({"a", "a name that is long enough to need memory of its own"});
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pBox);
+    int nWithoutText = 0;
+    const auto hint = [&] {
+        list.OnChangeAtom(list.Pair(1)->pAtom, nullptr);
+        TakeHooks();
+        hooks.reserve(8);
+        const FailAllocation failure(1);
+        Hint(list, 1, 1);
+    };
+    hint();
+    nWithoutText += Shown(list, 1) == " 0";
+    EXPECT_EQ(1, nWithoutText);
+    EXPECT_EQ(std::vector<std::string>{": Out of memory."}, desktop.TakeMessageBoxes());
+}
+
+TEST_F(ListModelTest, WhereverMemoryRunsOutTheRowsStayInStep)
+{
+    FakeContainer* const pBox = MakeBox({"b", "a", "c", "d"});
+    ProbeList& list = MakeList({});
+    const auto load = [&] { list.SetRootAtom(pBox); };
+    for (int nth = 1; nth < 200; ++nth) {
+        {
+            const FailAllocation failure(nth);
+            load();
+        }
+        const std::string strNames = list.Names();
+        EXPECT_TRUE(strNames == "a b c d" || strNames.empty()) << strNames;
+        const std::size_t nBoxes = desktop.TakeMessageBoxes().size();
+        EXPECT_LE(nBoxes, 1u);
+        if (!FailAllocation::HasFailed())
+            return;
+    }
+    ADD_FAILURE() << "never came through";
+}
+
+TEST_F(ListModelTest, TheEditorsServiceIsLookedUpOnceHoweverManyViewsThereAre)
+{
+    MakeList({});
+    KernelCalls().clear();
+    for (int i = 0; i < 3; ++i)
+        ShowList(MakeBox({"a"}));
+    for (const std::string& strCall : KernelCalls())
+        EXPECT_FALSE(strCall.starts_with("service")) << strCall;
+}
+
+TEST_F(ListModelTest, ADoubleClickOpensTheRowInEveryView)
+{
+    FakeContainer* const pBox = MakeBox({"a", "b"});
+    ProbeList& list = ShowList(world.Get());
+    ProbeList& other = ShowList(world.Get(), {.x = 400, .name = "other"});
+    desktop.DoubleClick(list.m_hWnd, EmptyPoint(list));
+    editor.TakeLedger();
+    desktop.DoubleClick(list.m_hWnd, PointOf(list, 0));
+    EXPECT_EQ("nobody tells OnAtomEntered(box in world)", editor.TakeLedger().back());
+    EXPECT_EQ("a b", list.Names());
+    EXPECT_EQ("a b", other.Names());
+
+    desktop.DoubleClick(list.m_hWnd, PointOf(list, 1)); // not a container
+    EXPECT_EQ("[]", list.State());
+    EXPECT_EQ(2, pBox->CountReferences() + 1);
+}
+
+} // namespace

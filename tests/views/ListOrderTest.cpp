@@ -1,0 +1,125 @@
+// The rows' order when a container is loaded.
+#include "tests/views/ListTest.h"
+
+#include <cstdlib>
+#include <random>
+
+namespace
+{
+
+class ListOrderTest : public ListTest
+{
+protected:
+    // The members in the order that the comparator alone gives them.
+    static std::string Sorted(const FakeContainer& box)
+    {
+        std::vector<IAtom*> atoms;
+        for (const AtomRef& pMember : box.members)
+            atoms.push_back(pMember.Get());
+        std::qsort(atoms.data(), atoms.size(), sizeof atoms[0], &ProbeList::CompareFunc);
+        return Joined(atoms);
+    }
+
+    static std::string Rows(const ProbeList& list)
+    {
+        std::vector<IAtom*> atoms;
+        for (int i = 0; i < list.GetItemCount(); ++i)
+            atoms.push_back(list.Pair(i)->pAtom);
+        return Joined(atoms);
+    }
+
+    // Names alone would not tell equal ones apart.
+    static std::string Joined(const std::vector<IAtom*>& atoms)
+    {
+        std::string strJoined;
+        for (IAtom* pAtom : atoms)
+            strJoined += NameOf(pAtom) + "@" + std::to_string(pAtom->GetID()) + " ";
+        return strJoined;
+    }
+
+    static int Compare(IAtom* a, IAtom* b) { return ProbeList::CompareFunc(&a, &b); }
+    static int Compare1(IAtom* a, IAtom* b) { return ProbeList::CompareFunc1(&a, &b); }
+};
+
+TEST_F(ListOrderTest, NamesAreOrderedWithoutRegardToCaseAndDisplayNamesDoNotCount)
+{
+    FakeContainer* const pBox = MakeBox({"b", "C", "a", "B2", "Äpfel", "älter", "zebra"});
+    pBox->Named("a")->displayName = "zz";
+    EXPECT_EQ("a b B2 C zebra älter Äpfel", ShowList(pBox).Names());
+    EXPECT_GT(0, Compare(pBox->Named("a"), pBox->Named("b")));
+    EXPECT_EQ(0, Compare1(pBox->Named("a"), pBox->Named("b")));
+    EXPECT_EQ(1, Compare1(pBox->Named("b"), pBox->Named("a")));
+    EXPECT_EQ(0, Compare1(pBox->Named("b"), pBox->Named("b")));
+}
+
+TEST_F(ListOrderTest, LinksOfOnePhaseAreOrderedByPositionAndAmongOthersByName)
+{
+    FakeContainer* const pPhase = MakeBox({"a", "b", "c"}); // its positions run backwards
+    pPhase->isPhase = true;
+    for (const AtomRef& pMember : pPhase->members)
+        pMember->isLink = true;
+    EXPECT_EQ("c b a", ShowList(pPhase).Names());
+    EXPECT_LT(0, Compare(pPhase->Named("a"), pPhase->Named("c")));
+    EXPECT_EQ(1, Compare1(pPhase->Named("a"), pPhase->Named("c")));
+
+    const auto pOther = AtomRef::Adopt(new FakeAtom("b2"));
+    EXPECT_GT(0, Compare(pPhase->Named("b"), pOther.Get())); // not a link: by name
+    EXPECT_LT(0, Compare(pOther.Get(), pPhase->Named("b")));
+    pPhase->isPhase = false;
+    EXPECT_GT(0, Compare(pPhase->Named("a"), pPhase->Named("c"))); // no phase: by name
+    EXPECT_EQ(2, pPhase->Named("a")->CountReferences());           // the box's and the row's
+}
+
+// The same order whether keys or comparisons make it: with names that differ in case, at once or late or not at all, in
+// every length and beyond ASCII, some of them no UTF-8.
+TEST_F(ListOrderTest, AnyNamesComeInTheOrderOfTheComparator)
+{
+    const std::string alphabet[] = {"a", "A", "b", "B", "z", "Z",    "ä",    "Ä",
+                                    "ß", "Ω", "ω", "ς", "😀", "\xFF", "\xC3", "1"};
+    const std::string starts[] = {"", "picture of ", "Picture Of ", "\xF0\x9F\x98\x80 and "};
+    std::mt19937 random(7);
+    for (int nRound = 0; nRound < 40; ++nRound) {
+        FakeContainer* const pBox = MakeBox({});
+        const std::string& strStart = starts[nRound % 4];
+        for (int i = 0; i < 60; ++i) {
+            std::string strName = nRound % 3 || i % 7 ? strStart : "";
+            for (unsigned n = random() % 14; n > 0; --n)
+                strName += alphabet[random() % (nRound % 2 ? 3 : std::size(alphabet))];
+            pBox->Add(strName);
+        }
+        EXPECT_EQ(Sorted(*pBox), Rows(ShowList(pBox))) << "round " << nRound;
+    }
+}
+
+TEST_F(ListOrderTest, LinksAmongOtherAtomsAndNamesThatFailAreComparedPairByPair)
+{
+    std::mt19937 random(11);
+    for (int nRound = 0; nRound < 20; ++nRound) {
+        FakeContainer* const pBox = MakeBox({});
+        pBox->isPhase = true;
+        for (int i = 0; i < 30; ++i) {
+            FakeAtom* const pAtom = pBox->Add(std::string(1 + random() % 4, static_cast<char>('a' + random() % 3)));
+            pAtom->isLink = nRound % 2 && random() % 4 == 0;
+            pAtom->nameFails = nRound % 2 == 0 && random() % 10 == 0;
+        }
+        // A name that fails is what its string held before, so both sorts must begin with the same.
+        Compare(world.Get(), world.Get());
+        const std::string strSorted = Sorted(*pBox);
+        Compare(world.Get(), world.Get());
+        EXPECT_EQ(strSorted, Rows(ShowList(pBox))) << "round " << nRound;
+    }
+}
+
+TEST_F(ListOrderTest, ALoadReadsEachNameOnce)
+{
+    FakeContainer* const pBox = MakeBox({});
+    for (int i = 0; i < 500; ++i)
+        pBox->Add("atom " + std::to_string(i * 7919 % 500));
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pBox);
+    for (const AtomRef& pMember : pBox->members)
+        EXPECT_EQ(1, pMember->nNameReads);
+}
+
+} // namespace

@@ -1,0 +1,68 @@
+// A desk for list views: a frame window on a headless desktop, a host, and lists that write down their hooks.
+#pragma once
+
+#include "Toolkit/graphics/Resources.h"
+#include "Views/list/list.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/views/FakeHost.h"
+
+// An icon list that writes down what its cache hooks are called with.
+class ProbeList : public CIconList
+{
+public:
+    ProbeList(Ledger& hooks, int bPassive) : CIconList(bPassive), m_hooks(hooks) {}
+    ~ProbeList() override { DestroyWindow(); }
+
+    using CIconList::CompareFunc;
+    using CIconList::CompareFunc1;
+    const OBJPAIR* Pair(int nRow) const { return reinterpret_cast<const OBJPAIR*>(GetItemData(nRow)); }
+    // "[a *b (c)]": every row's atom, * when it is selected, () when it has the focus; - for a row without an atom.
+    std::string State() const;
+    std::string Names() const; // "a b c"
+
+protected:
+    void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
+    void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
+    void OnClearContext() override;
+
+private:
+    Ledger& m_hooks;
+};
+
+class ListTest : public DesktopTest
+{
+protected:
+    ListTest();
+    ~ListTest() override;
+
+    struct Shape
+    {
+        bool passive = false;
+        int x = 0; // in the frame
+        const char* name = "list";
+    };
+    ProbeList& MakeList(const Shape& shape);                            // created and shown, with nothing in it
+    ProbeList& ShowList(FakeContainer* pContainer, const Shape& shape); // showing it, all news taken
+    ProbeList& ShowList(FakeContainer* pContainer) { return ShowList(pContainer, Shape()); }
+
+    // A box in the world with members of these names, in this order. The box and the world live as long as the test.
+    FakeContainer* MakeBox(const std::vector<std::string>& names);
+
+    void Click(ProbeList& list, int nRow, toolkit::MouseButton button = toolkit::MouseButton::Left);
+    CPoint PointOf(ProbeList& list, int nRow) const; // the middle of its picture
+    CPoint EmptyPoint(ProbeList& list) const;        // in no row
+    // The rows' picture is asked for, as the control does when it draws.
+    void Hint(ProbeList& list, int nFrom, int nTo);
+    // "a 2": the text and the picture that the list gives for a row; "" when it gives nothing.
+    std::string Shown(ProbeList& list, int nRow);
+    Ledger TakeHooks() { return std::exchange(hooks, {}); }
+
+    CResourceModule resources;
+    FakeEditor editor;
+    Ledger hooks;
+    CWnd frame;
+    ContainerRef world;
+
+private:
+    std::vector<std::unique_ptr<ProbeList>> m_lists;
+};
