@@ -1,5 +1,7 @@
 #include "Editor/resources/Drawing.h"
 
+#include "Toolkit/graphics/Pixels.h"
+
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -127,7 +129,7 @@ void Drawing::Blend(Coverage coverage, const Ink& ink)
         for (int x = 0; x < m_surface.Width(); ++x) {
             const Vec at{(x + 0.5) * m_pixel, (y + 0.5) * m_pixel};
             if (const double part = coverage(at); part > 0)
-                row[x] = BlendPixel(row[x], Premultiplied(ink, at.y, part));
+                row[x] = toolkit::Over(Premultiplied(ink, at.y, part), row[x]);
         }
     }
 }
@@ -144,27 +146,6 @@ void Drawing::Shade(const Shape& shape, double reach, double opacity)
         return left * left * opacity;
     };
     Blend(softly, Ink(RGB(0, 0, 0)));
-}
-
-toolkit::Pixel BlendPixel(toolkit::Pixel under, toolkit::Pixel over, int opacity)
-{
-    const auto channel = [](toolkit::Pixel pixel, int shift) { return static_cast<int>(pixel >> shift & 0xFF); };
-    const int stays = 255 - (channel(over, 24) * opacity + 127) / 255;
-    toolkit::Pixel result = 0;
-    for (const int shift : {24, 16, 8, 0}) {
-        const int sum = (channel(over, shift) * opacity + channel(under, shift) * stays + 127) / 255;
-        result |= static_cast<toolkit::Pixel>(std::min(sum, 255)) << shift;
-    }
-    return result;
-}
-
-toolkit::Surface Flatten(const toolkit::Surface& picture, COLORREF ground)
-{
-    toolkit::Surface flat(picture.Bounds().Size(), toolkit::ToPixel(ground));
-    for (int y = 0; y < flat.Height(); ++y)
-        for (int x = 0; x < flat.Width(); ++x)
-            flat.Row(y)[x] = BlendPixel(flat.At(x, y), picture.At(x, y));
-    return flat;
 }
 
 } // namespace editor

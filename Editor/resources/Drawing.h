@@ -57,10 +57,4 @@ private:
     double m_pixel; // units
 };
 
-// `over` drawn on `under`, both premultiplied, with `over` weakened to `opacity` (0 to 255).
-toolkit::Pixel BlendPixel(toolkit::Pixel under, toolkit::Pixel over, int opacity = 255);
-
-// The picture on an opaque ground.
-toolkit::Surface Flatten(const toolkit::Surface& picture, COLORREF ground);
-
 } // namespace editor

@@ -1,8 +1,6 @@
 #include "Editor/resources/EditorResources.h"
 
-#include "Editor/resources/Drawing.h"
 #include "Editor/resources/Pictograms.h"
-#include "Toolkit/graphics/SysColors.h"
 
 namespace editor
 {
@@ -11,15 +9,14 @@ namespace
 
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
 
-// A bitmap has no transparency but that colour: smooth edges are blended with a list's ground.
-toolkit::Surface WithTransparentColor(const toolkit::Surface& picture)
+// Smooth edges keep their alpha; only what is wholly transparent bears the colour.
+toolkit::Surface WithTransparentColor(toolkit::Surface picture)
 {
-    toolkit::Surface keyed = Flatten(picture, GetSysColor(COLOR_WINDOW));
-    for (int y = 0; y < keyed.Height(); ++y)
-        for (int x = 0; x < keyed.Width(); ++x)
+    for (int y = 0; y < picture.Height(); ++y)
+        for (int x = 0; x < picture.Width(); ++x)
             if (picture.At(x, y) >> 24 == 0)
-                keyed.Row(y)[x] = toolkit::ToPixel(kTransparent);
-    return keyed;
+                picture.Row(y)[x] = toolkit::ToPixel(kTransparent);
+    return picture;
 }
 
 void AddPane(CResourceModule& module, UINT nID, LPCSTR pszCaption, Pictogram icon)

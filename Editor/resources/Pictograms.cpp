@@ -115,9 +115,24 @@ void DrawThumbnailPane(Drawing& drawing, bool)
     DrawPhotograph(drawing, RoundRect({4, 6}, {44, 42}, 3), 1);
 }
 
+void DrawArrow(Drawing& drawing, const Ink& ink)
+{
+    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), ink);
+}
+
 void DrawUp(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), Ink(kInk));
+    DrawArrow(drawing, Ink(kInk));
+}
+
+void DrawNoUp(Drawing& drawing, bool)
+{
+    DrawArrow(drawing, Ink(kInk, 0.3));
+}
+
+void DrawPathArrow(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{19, 13}, {30, 24}, {19, 35}}, 4), Ink(kInk, 0.7));
 }
 
 } // namespace
@@ -126,7 +141,8 @@ toolkit::Surface DrawPictogram(Pictogram which, int pixels)
 {
     using Draw = void (*)(Drawing&, bool);
     static constexpr Draw draw[] = {DrawFolder,   DrawPhase,    DrawBrokenPicture, DrawPlaceholder,
-                                    DrawTreePane, DrawIconPane, DrawThumbnailPane, DrawUp};
+                                    DrawTreePane, DrawIconPane, DrawThumbnailPane, DrawUp,
+                                    DrawNoUp,     DrawPathArrow};
     Drawing drawing(pixels, kUnits);
     draw[static_cast<int>(which)](drawing, pixels >= kDetailed);
     return drawing.Take();

@@ -15,7 +15,9 @@ enum class Pictogram
     TreePane,
     IconPane,
     ThumbnailPane,
-    Up, // an arrow
+    Up,        // an arrow
+    NoUp,      // the same when there is nothing above
+    PathArrow, // between the parts of a path
 };
 
 toolkit::Surface DrawPictogram(Pictogram which, int pixels);

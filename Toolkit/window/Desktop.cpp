@@ -2,7 +2,6 @@
 
 #include "Toolkit/base/Ticks.h"
 #include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/InputQueue.h"
 #include "Toolkit/window/MessageBox.h"
 #include "Toolkit/window/Queue.h"
 
@@ -43,7 +42,6 @@ void toolkit::InstallDesktop(Desktop* pDesktop)
 {
     AcceptTasks(pDesktop);
     DropTasks();
-    ResetInput();
     s_pDesktop = pDesktop ? pDesktop : &s_none;
     SetTickSource(pDesktop ? &DesktopTicks : nullptr);
     InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);

@@ -14,13 +14,7 @@
 namespace toolkit
 {
 
-enum class Cursor
-{
-    Arrow,
-    Wait,
-    Text,
-    Hand
-};
+enum class Cursor { Arrow, Wait, Text, Hand };
 
 class TOOLKIT_API Desktop
 {

@@ -17,7 +17,7 @@ enum class ScrollPart
     After
 };
 
-class TOOLKIT_API ScrollBar
+class ScrollBar
 {
 public:
     ScrollBar(const CRect& box, int nBar, const SCROLLINFO& info); // SB_HORZ or SB_VERT

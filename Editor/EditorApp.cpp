@@ -1,0 +1,85 @@
+#include "Editor/EditorApp.h"
+
+#include "Editor/frame/MainFrame.h"
+#include "Editor/resources/EditorResources.h"
+#include "Editor/services/Services.h"
+#include "Toolkit/window/Desktop.h"
+#include "Toolkit/window/MessageBox.h"
+
+namespace editor
+{
+
+// In the order in which they need each other: what is last goes first.
+struct EditorApp::Parts
+{
+    Parts(const PictureReader& pictureReader, Options appOptions)
+        : reader(pictureReader),
+          options(std::move(appOptions)),
+          pPictures(std::make_shared<PictureStore>(reader, PictureStore::Limits(),
+                                                   [this](IAtom* pAtom) { TellOfPicture(pAtom); })),
+          services(atomEditor)
+    {
+        AddEditorResources(resources);
+        resources.Join();
+        AfxSetAppName("Views");
+    }
+    ~Parts()
+    {
+        pFrame.reset();
+        atomEditor.ForgetActiveAtom();
+        pPictures->Stop();
+    }
+
+    void TellOfPicture(IAtom* pAtom)
+    {
+        CStubRef<IAtomContainer> pContainer;
+        pAtom->GetContainer(pContainer.Receive(), IID_IAtomContainer);
+        atomEditor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pAtom, pContainer.Get(), 0);
+    }
+
+    const PictureReader& reader;
+    const Options options;
+    CResourceModule resources;
+    CAtomEditor atomEditor;
+    std::shared_ptr<PictureStore> pPictures;
+    Services services;
+    std::unique_ptr<CMainFrame> pFrame;
+};
+
+EditorApp::EditorApp(const PictureReader& reader, Options options)
+    : m_parts(std::make_unique<Parts>(reader, std::move(options)))
+{}
+
+EditorApp::~EditorApp() = default;
+
+std::string EditorApp::OpenFolder(const std::string& path)
+{
+    std::string error;
+    const CStubRef<CLibrary> pLibrary = CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error);
+    if (!pLibrary)
+        return error;
+    std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
+    if (!GetMainWindow()) {
+        pFrame = std::make_unique<CMainFrame>(m_parts->atomEditor, *m_parts->pPictures, m_parts->options.onClosed);
+        if (!pFrame->Create(m_parts->options.size))
+            return "the window cannot be made";
+        AfxSetMainWnd(pFrame.get());
+    }
+    pFrame->ShowLibrary(pLibrary.Get());
+    pFrame->ShowWindow(SW_SHOW);
+    pFrame->GetList().SetFocus();
+    return {};
+}
+
+HWND EditorApp::GetMainWindow() const
+{
+    return m_parts->pFrame ? m_parts->pFrame->GetSafeHwnd() : nullptr;
+}
+
+void EditorApp::WaitUntilSettled()
+{
+    for (toolkit::RunPendingMessages(); !m_parts->pPictures->IsIdle(); toolkit::RunPendingMessages())
+        m_parts->pPictures->WaitForResult();
+}
+
+} // namespace editor

@@ -1,0 +1,185 @@
+#include "Editor/frame/MainFrame.h"
+
+#include "Editor/frame/Look.h"
+#include "Editor/resources/EditorResources.h"
+#include "Editor/resources/Pictograms.h"
+
+namespace editor
+{
+namespace
+{
+
+constexpr DWORD kListPane = 1;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_CLOSE()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)
+    : m_editor(editor),
+      m_pictures(pictures),
+      m_closed(std::move(closed)),
+      m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),
+      m_list([this] { return DescribeEmptyList(); }),
+      m_picture(pictures),
+      m_statusBar([this] { return IsPictureShown() ? DescribePicture() : DescribeList(); })
+{}
+
+CMainFrame::~CMainFrame()
+{
+    DestroyWindow();
+}
+
+BOOL CMainFrame::Create(CSize client)
+{
+    return CreateEx(0, "", "Views", WS_OVERLAPPED | WS_CLIPCHILDREN, CRect(CPoint(), client), nullptr, 0);
+}
+
+void CMainFrame::ShowLibrary(CLibrary* pLibrary)
+{
+    SetWindowText((pLibrary->ShownName() + " - Views").c_str());
+    GoTo(pLibrary);
+}
+
+void CMainFrame::AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon)
+{
+    if (kind != kListPane)
+        return;
+    const toolkit::Surface* const pIcon = toolkit::IconSurface(hIcon);
+    m_listPane.ShowView(hWnd, pszCaption ? pszCaption : "", pIcon ? *pIcon : toolkit::Surface());
+    if (::GetFocus() == nullptr || ::GetFocus() == m_hWnd)
+        ::SetFocus(hWnd);
+}
+
+void CMainFrame::RemovePane(DWORD kind, HWND hWnd)
+{
+    if (kind == kListPane && hWnd == m_listPane.GetView())
+        m_listPane.HideView();
+}
+
+BOOL CMainFrame::OnCreateAtom(IAtom*, IAtomContainer*)
+{
+    UpdateStatus();
+    return TRUE;
+}
+
+BOOL CMainFrame::OnDeleteAtom(IAtom*, IAtomContainer*)
+{
+    UpdateStatus();
+    return TRUE;
+}
+
+BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    if (pAtom && pAtom == m_picture.GetAtom())
+        m_picture.OnPictureArrived();
+    UpdateStatus();
+    return TRUE;
+}
+
+BOOL CMainFrame::OnAtomSelected(IAtom*, IAtomContainer*)
+{
+    UpdateStatus();
+    return TRUE;
+}
+
+BOOL CMainFrame::OnAtomDeselected(IAtom*, IAtomContainer*)
+{
+    UpdateStatus();
+    return TRUE;
+}
+
+// The list, which hears of it next, shows a container's members and makes way for anything else.
+BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
+{
+    CMember* const pMember = CMember::Of(pAtom);
+    if (!pMember)
+        return TRUE;
+    m_pShown = CStubRef<CMember>::Share(pMember);
+    if (CStubRef<IAtomContainer>::From(pAtom))
+        HidePicture();
+    else
+        ShowPicture(pMember);
+    UpdatePath();
+    UpdateStatus();
+    return TRUE;
+}
+
+int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    // Registered before the list, the frame hears of everything first.
+    m_editor.SetFrame(this);
+    m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
+    const bool bMade = m_pathBar.Create(this) && m_listPane.Create(this) && m_picturePane.Create(this) &&
+                       m_statusBar.Create(this) && m_list.Create(&m_listPane) && m_picture.Create(&m_picturePane);
+    return bMade ? 0 : -1;
+}
+
+void CMainFrame::OnDestroy()
+{
+    m_editor.UnregisterHandler(m_dwHandlerCookie);
+    m_editor.SetFrame(nullptr);
+    CWnd::OnDestroy();
+}
+
+void CMainFrame::OnClose()
+{
+    const std::function<void()> closed = m_closed; // the frame may go with it
+    DestroyWindow();
+    if (closed)
+        closed();
+}
+
+void CMainFrame::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    const int bottom = std::max(kPathBarHeight, cy - kStatusBarHeight);
+    m_pathBar.MoveWindow(CRect(0, 0, cx, kPathBarHeight));
+    m_listPane.MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
+    m_picturePane.MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
+    m_statusBar.MoveWindow(CRect(0, bottom, cx, bottom + kStatusBarHeight));
+}
+
+// The focus is the views' own; the frame passes on what falls to it when one is hidden.
+void CMainFrame::OnSetFocus(CWnd* pOldWnd)
+{
+    CWnd::OnSetFocus(pOldWnd);
+    if (IsPictureShown())
+        m_picture.SetFocus();
+    else if (m_list.IsWindowVisible())
+        m_list.SetFocus();
+}
+
+void CMainFrame::ShowPicture(CMember* pMember)
+{
+    m_picture.SetAtom(pMember);
+    m_picturePane.ShowView(m_picture.GetSafeHwnd(), pMember->ShownName(),
+                           GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent));
+    m_picture.SetFocus();
+}
+
+void CMainFrame::HidePicture()
+{
+    if (!IsPictureShown())
+        return;
+    m_picture.SetAtom(nullptr);
+    m_picturePane.HideView();
+}
+
+void CMainFrame::UpdatePath()
+{
+    std::vector<std::string> parts;
+    for (const CMember* pMember = Shown(); pMember; pMember = pMember->Container())
+        parts.insert(parts.begin(), pMember->ShownName());
+    m_pathBar.SetPath(std::move(parts));
+}
+
+} // namespace editor

@@ -1,0 +1,82 @@
+// The editor's window: the path at the top, the panes, the status at the bottom.
+#pragma once
+
+#include "Editor/frame/EditorList.h"
+#include "Editor/frame/Pane.h"
+#include "Editor/frame/PathBar.h"
+#include "Editor/frame/PictureView.h"
+#include "Editor/frame/StatusBar.h"
+#include "Editor/model/Library.h"
+#include "Editor/services/AtomEditor.h"
+#include "Editor/services/StateHandler.h"
+
+namespace editor
+{
+
+// The frame is a handler like the views: it hears from the editor what was entered, and shows a container's path or,
+// for an atom that is none, the atom's picture in the list's place. Where the user wants to go it tells the
+// editor, and all views follow.
+class CMainFrame : public CWnd, public CStateHandler, public PaneFrame
+{
+public:
+    // Both borrowed. `closed` is called when the window is gone; it may be empty.
+    CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed);
+    ~CMainFrame() override;
+
+    BOOL Create(CSize client); // a top-level window with the list in it, not shown yet
+    void ShowLibrary(CLibrary* pLibrary);
+    CEditorList& GetList() { return m_list; }
+
+    void GoUp();        // nothing at the top
+    void OpenFocused(); // the list's focused row
+    void Refresh();     // reads what is shown anew
+
+    void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
+    void RemovePane(DWORD kind, HWND hWnd) override;
+    HWND GetMainWindow() const override { return m_hWnd; }
+
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+
+protected:
+    BOOL PreTranslateMessage(MSG* pMsg) override;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnClose();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CMember* Shown() const { return m_pShown.Get(); } // the container, or the picture shown in its place
+    bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
+    void GoTo(CMember* pMember); // opens it, whatever it is
+    void GoBackTo(CContainer* pContainer);
+    void GoToPart(int nPart);             // of the path
+    bool HandleKey(UINT vkey, bool bAlt); // false: it means nothing here
+    void ShowPicture(CMember* pMember);
+    void HidePicture();
+    void UpdatePath();
+    Status DescribePicture() const;
+    Status DescribeList() const;
+    std::string DescribeEmptyList() const;
+    void UpdateStatus() { m_statusBar.Invalidate(); }
+
+    CAtomEditor& m_editor;
+    PictureStore& m_pictures;
+    const std::function<void()> m_closed;
+    DWORD m_dwHandlerCookie = 0;
+    CStubRef<CMember> m_pShown;
+    CPathBar m_pathBar;
+    CPane m_listPane, m_picturePane;
+    CEditorList m_list;
+    CPictureView m_picture;
+    CStatusBar m_statusBar;
+};
+
+} // namespace editor

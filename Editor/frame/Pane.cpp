@@ -1,0 +1,82 @@
+#include "Editor/frame/Pane.h"
+
+#include "Editor/frame/Look.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <utility>
+
+namespace editor
+{
+
+BEGIN_MESSAGE_MAP(CPane, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+END_MESSAGE_MAP()
+
+BOOL CPane::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0);
+}
+
+void CPane::ShowView(HWND hView, std::string caption, toolkit::Surface icon)
+{
+    m_hView = hView;
+    m_caption = std::move(caption);
+    m_icon = std::move(icon);
+    PlaceView();
+    ::ShowWindow(hView, SW_SHOW);
+    ShowWindow(SW_SHOW);
+    Invalidate();
+}
+
+void CPane::HideView()
+{
+    ::ShowWindow(std::exchange(m_hView, nullptr), SW_HIDE);
+    ShowWindow(SW_HIDE);
+}
+
+BOOL CPane::OnEraseBkgnd(HDC hdc)
+{
+    CRect client;
+    GetClientRect(&client);
+    FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
+    return TRUE;
+}
+
+void CPane::OnPaint()
+{
+    const CPaintDC dc(this);
+    CRect caption;
+    GetClientRect(&caption);
+    caption.bottom = kPaneCaptionHeight;
+    CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Width(), caption.bottom);
+    DrawCentred(dc, icon, m_icon);
+    caption.left = icon.right + kSpace;
+    caption.right -= kSpace;
+    DrawTextLine(dc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
+}
+
+void CPane::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    PlaceView();
+}
+
+void CPane::OnSetFocus(CWnd* pOldWnd)
+{
+    CWnd::OnSetFocus(pOldWnd);
+    ::SetFocus(m_hView);
+}
+
+void CPane::PlaceView()
+{
+    CRect client;
+    GetClientRect(&client);
+    // The edges of a view that has some lie outside, but for the one below the caption.
+    ::MoveWindow(m_hView, -kClientEdge, kPaneCaptionHeight, client.Width() + 2 * kClientEdge,
+                 std::max(0, client.Height() - kPaneCaptionHeight + kClientEdge));
+}
+
+} // namespace editor

@@ -1,0 +1,40 @@
+// One picture, as large as the window allows.
+#pragma once
+
+#include "Editor/model/Member.h"
+#include "Editor/pictures/PictureStore.h"
+#include "Toolkit/window/Wnd.h"
+
+namespace editor
+{
+
+// The picture is read by the store at the window's size. While the window is sized, what was read last is shown.
+// Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle.
+class CPictureView : public CWnd
+{
+public:
+    explicit CPictureView(PictureStore& pictures) : m_pictures(pictures) {}
+    ~CPictureView() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    IAtom* GetAtom() const { return m_pAtom.Get(); } // borrowed; NULL while nothing is shown
+    void SetAtom(IAtom* pAtom);                      // NULL: nothing
+    void OnPictureArrived();                         // the atom's picture is there, or has changed
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect Room() const;
+    void Fetch();
+    toolkit::Surface Fitted(const toolkit::Surface& picture) const;
+
+    PictureStore& m_pictures;
+    CStubRef<IAtom> m_pAtom;
+    toolkit::Surface m_shown; // at the size it is drawn; empty: none yet, or none at all
+};
+
+} // namespace editor

@@ -1,0 +1,42 @@
+#include "Editor/frame/StatusBar.h"
+
+#include "Editor/frame/Look.h"
+#include "Toolkit/graphics/SysColors.h"
+
+namespace editor
+{
+
+BEGIN_MESSAGE_MAP(CStatusBar, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+BOOL CStatusBar::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+}
+
+BOOL CStatusBar::OnEraseBkgnd(HDC hdc)
+{
+    CRect client;
+    GetClientRect(&client);
+    FillSolidRect(hdc, client, BarColor());
+    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
+    return TRUE;
+}
+
+void CStatusBar::OnPaint()
+{
+    const CPaintDC dc(this);
+    const Status status = m_ask();
+    CRect left;
+    GetClientRect(&left);
+    left.DeflateRect(2 * kSpace, 0);
+    CRect right = left;
+    left.right = std::min<int>(left.right, left.left + TextWidth(status.text));
+    right.left = left.right + 2 * kSpace;
+    DrawTextLine(dc, left, status.text, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextLine(dc, right, status.detail, status.isError ? ErrorColor() : GetSysColor(COLOR_WINDOWTEXT), Align::Right);
+}
+
+} // namespace editor

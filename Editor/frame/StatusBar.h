@@ -1,0 +1,37 @@
+// The line at the bottom.
+#pragma once
+
+#include "Toolkit/window/Wnd.h"
+
+#include <functional>
+#include <string>
+
+namespace editor
+{
+
+struct Status
+{
+    std::string text;     // at the left: what is shown
+    std::string detail;   // at the right: what is selected
+    bool isError = false; // is `detail` the reason of a failure?
+};
+
+// Asks for its text whenever it is drawn: telling it of a change costs nothing, however often it is done.
+class CStatusBar : public CWnd
+{
+public:
+    explicit CStatusBar(std::function<Status()> ask) : m_ask(std::move(ask)) {}
+    ~CStatusBar() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    const std::function<Status()> m_ask;
+};
+
+} // namespace editor

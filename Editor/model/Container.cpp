@@ -1,0 +1,180 @@
+#include "Editor/model/Container.h"
+
+#include "Editor/model/LibraryContext.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+// The indexes of the members that `wanted` accepts, in the order of their names.
+template <class Wanted>
+std::vector<UINT> ByName(const MemberTable& table, Wanted wanted)
+{
+    std::vector<UINT> indexes;
+    for (UINT i = 0; i < table.GetCount(); ++i)
+        if (wanted(i))
+            indexes.push_back(i);
+    std::stable_sort(indexes.begin(), indexes.end(), [&](UINT a, UINT b) { return table.NameOf(a) < table.NameOf(b); });
+    return indexes;
+}
+
+} // namespace
+
+void CContainer::ReadAgain()
+{
+    auto pNow = std::make_unique<Contents>();
+    static_cast<Listing&>(*pNow) = Read();
+    if (m_pContents)
+        MoveMembers(*m_pContents, *pNow);
+    pNow->table.NumberTheRest(Context().nextId);
+    m_pContents = std::move(pNow);
+    m_bRefused = false;
+}
+
+std::string CContainer::ErrorReason() const
+{
+    return m_pContents ? m_pContents->error : std::string();
+}
+
+UINT CContainer::GetCount()
+{
+    return Members().table.GetCount();
+}
+
+void CContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+{
+    const UINT nMembers = GetCount();
+    for (UINT i = 0; i < nCount; ++i) {
+        ppOut[i] = nullptr;
+        if (nFirst < nMembers && i < nMembers - nFirst)
+            GiveMember(nFirst + i, ppOut + i, dwInterfaceId);
+    }
+}
+
+BOOL CContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
+{
+    return GiveMember(Members().table.FindID(dwID), ppOut, dwInterfaceId);
+}
+
+BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
+{
+    return GiveMember(pszName ? FindName(Members().table, pszName) : MemberTable::kNone, ppOut, dwInterfaceId);
+}
+
+BOOL CContainer::AddAtom(IAtom*, DWORD, const char*, void** ppOut, DWORD)
+{
+    if (ppOut)
+        *ppOut = nullptr;
+    return Refuse();
+}
+
+BOOL CContainer::RenameAtom(IAtom*, const char*, void** ppOut, DWORD)
+{
+    if (ppOut)
+        *ppOut = nullptr;
+    return Refuse();
+}
+
+BOOL CContainer::RemoveAtom(IAtom*)
+{
+    return Refuse();
+}
+
+BOOL CContainer::ValidateName(CString&, DWORD)
+{
+    return Refuse();
+}
+
+void* CContainer::FindInterface(DWORD id)
+{
+    return id == IID_IAtomContainer ? static_cast<IAtomContainer*>(this) : CMember::FindInterface(id);
+}
+
+std::string CContainer::LastError() const
+{
+    return m_bRefused ? "its members cannot be changed here" : ErrorReason();
+}
+
+CContainer::Contents& CContainer::Members()
+{
+    if (!m_pContents)
+        ReadAgain();
+    return *m_pContents;
+}
+
+CStubRef<CMember> CContainer::MemberAt(UINT nIndex)
+{
+    MemberTable& table = m_pContents->table;
+    CMember*& pLive = table.LiveAt(nIndex);
+    if (pLive)
+        return CStubRef<CMember>::Share(pLive);
+    pLive = MakeMember(nIndex, table.KindOf(nIndex));
+    return CStubRef<CMember>::Adopt(pLive);
+}
+
+BOOL CContainer::GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId)
+{
+    if (ppOut)
+        *ppOut = nullptr;
+    if (nIndex == MemberTable::kNone)
+        return FALSE;
+    if (ppOut)
+        MemberAt(nIndex)->GetInterface(dwInterfaceId, ppOut);
+    return !ppOut || *ppOut;
+}
+
+// Former and present members, both in the order of their names, go side by side.
+void CContainer::MoveMembers(Contents& former, Contents& contents)
+{
+    MemberTable& now = contents.table;
+    contents.gone = std::move(former.gone);
+    const std::vector<UINT> alive = ByName(former.table, [&](UINT i) { return former.table.LiveAt(i) != nullptr; });
+    const std::vector<UINT> present = ByName(now, [&](UINT) { return !alive.empty(); });
+    auto next = present.begin();
+    for (const UINT i : alive) {
+        const std::string_view name = former.table.NameOf(i);
+        while (next != present.end() && now.NameOf(*next) < name)
+            ++next;
+        CMember& member = *former.table.LiveAt(i);
+        if (next != present.end() && now.NameOf(*next) == name && now.KindOf(*next) == former.table.KindOf(i)) {
+            now.Identify(*next, former.table.IdOf(i), &member);
+            member.m_nIndex = *next++;
+        } else {
+            contents.gone[&member] = {std::string(name), former.table.IdOf(i)};
+            member.m_nIndex = MemberTable::kNone;
+        }
+    }
+}
+
+BOOL CContainer::Refuse()
+{
+    m_bRefused = true;
+    return FALSE;
+}
+
+std::string_view CContainer::NameOf(const CMember& member) const
+{
+    if (member.m_nIndex != MemberTable::kNone)
+        return m_pContents->table.NameOf(member.m_nIndex);
+    return m_pContents->gone.at(&member).name;
+}
+
+DWORD CContainer::IdOf(const CMember& member) const
+{
+    if (member.m_nIndex != MemberTable::kNone)
+        return m_pContents->table.IdOf(member.m_nIndex);
+    return m_pContents->gone.at(&member).id;
+}
+
+void CContainer::Forget(const CMember& member)
+{
+    if (member.m_nIndex != MemberTable::kNone)
+        m_pContents->table.LiveAt(member.m_nIndex) = nullptr;
+    else
+        m_pContents->gone.erase(&member);
+}
+
+} // namespace editor

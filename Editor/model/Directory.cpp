@@ -1,0 +1,68 @@
+#include "Editor/model/Directory.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace editor
+{
+
+Directory::Directory(const std::string& path)
+{
+    const int fd = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK);
+    struct stat status;
+    if (fd >= 0 && fstat(fd, &status) == 0) {
+        m_identity = {status.st_dev, status.st_ino};
+        m_pDir = fdopendir(fd);
+    }
+    if (m_pDir)
+        return;
+    m_error = errno;
+    if (fd >= 0)
+        close(fd);
+}
+
+Directory::~Directory()
+{
+    if (m_pDir)
+        closedir(m_pDir);
+}
+
+void Directory::ForEach(const std::function<void(const char* pszName, bool isDirectory)>& entry)
+{
+    if (!m_pDir)
+        return;
+    for (;;) {
+        errno = 0;
+        const dirent* const next = readdir(m_pDir);
+        if (!next)
+            break;
+        if (next->d_name[0] == '.')
+            continue;
+        if (const Kind kind = KindOf(*next); kind != Kind::Other)
+            entry(next->d_name, kind == Kind::Directory);
+    }
+    m_error = errno;
+}
+
+Directory::Kind Directory::KindOf(const dirent& entry) const
+{
+    switch (entry.d_type) {
+    case DT_DIR:
+        return Kind::Directory;
+    case DT_REG:
+        return Kind::File;
+    case DT_LNK:
+    case DT_UNKNOWN:
+        break;
+    default:
+        return Kind::Other;
+    }
+    struct stat status;
+    if (fstatat(dirfd(m_pDir), entry.d_name, &status, 0) != 0)
+        return Kind::File;
+    return S_ISDIR(status.st_mode) ? Kind::Directory : S_ISREG(status.st_mode) ? Kind::File : Kind::Other;
+}
+
+} // namespace editor

@@ -1,0 +1,52 @@
+// A directory on disk while it is read.
+#pragma once
+
+#include "Toolkit/base/Types.h"
+
+#include <dirent.h>
+#include <functional>
+#include <string>
+#include <sys/types.h>
+
+namespace editor
+{
+
+// Tells directories apart, whatever the paths that lead to them.
+struct DirectoryIdentity
+{
+    dev_t device = 0;
+    ino_t inode = 0;
+    friend bool operator==(const DirectoryIdentity&, const DirectoryIdentity&) = default;
+};
+
+class Directory
+{
+public:
+    explicit Directory(const std::string& path);
+    ~Directory();
+    Directory(const Directory&) = delete;
+    Directory& operator=(const Directory&) = delete;
+
+    int GetError() const { return m_error; } // of opening or, later, of reading; 0: none
+    DirectoryIdentity GetIdentity() const { return m_identity; }
+
+    // Calls back for each sub-directory and each regular file, or link to one, in no particular order; not for
+    // names that begin with a dot, nor for anything else, such as pipes. A link that leads nowhere counts as a
+    // file. Asks the disk about a single entry only when the directory itself does not tell its kind.
+    void ForEach(const std::function<void(const char* pszName, bool isDirectory)>& entry);
+
+private:
+    enum class Kind
+    {
+        Directory,
+        File,
+        Other
+    };
+    Kind KindOf(const dirent& entry) const;
+
+    DIR* m_pDir = nullptr;
+    int m_error = 0;
+    DirectoryIdentity m_identity;
+};
+
+} // namespace editor

@@ -1,0 +1,75 @@
+#include "Editor/model/FileText.h"
+
+#include "Toolkit/base/Text.h"
+
+#include <algorithm>
+#include <system_error>
+
+namespace editor
+{
+namespace
+{
+
+constexpr char32_t kInvalid = 0x110000; // from here on DecodeUtf8 tells of bytes that are no code points
+
+bool CanBeShown(char32_t c)
+{
+    return c >= 0x20 && c != 0x7F && c < kInvalid;
+}
+
+char ToLower(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+} // namespace
+
+bool IsShownAsItIs(std::string_view text)
+{
+    const auto isPlain = [](char c) { return c >= 0x20 && c < 0x7F; };
+    text.remove_prefix(static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), isPlain) - text.begin()));
+    while (!text.empty()) {
+        const toolkit::CodePoint next = toolkit::DecodeUtf8(text);
+        if (!CanBeShown(next.value))
+            return false;
+        text.remove_prefix(static_cast<std::size_t>(next.bytes));
+    }
+    return true;
+}
+
+std::string ToShown(std::string_view text)
+{
+    std::string shown;
+    while (!text.empty()) {
+        const toolkit::CodePoint next = toolkit::DecodeUtf8(text);
+        const auto bytes = static_cast<std::size_t>(next.bytes);
+        shown += CanBeShown(next.value) ? text.substr(0, bytes) : std::string_view("\xEF\xBF\xBD");
+        text.remove_prefix(bytes);
+    }
+    return shown;
+}
+
+std::string SystemErrorText(int error)
+{
+    std::string text = std::generic_category().message(error);
+    if (!text.empty())
+        text[0] = ToLower(text[0]);
+    return text;
+}
+
+std::string ExtensionOf(std::string_view name)
+{
+    const std::size_t dot = name.rfind('.');
+    if (dot == name.npos)
+        return {};
+    std::string extension(name.substr(dot + 1));
+    std::transform(extension.begin(), extension.end(), extension.begin(), ToLower);
+    return extension;
+}
+
+std::string_view BaseName(std::string_view path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+} // namespace editor

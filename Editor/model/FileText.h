@@ -1,0 +1,23 @@
+// File names and system errors as texts that can be shown.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace editor
+{
+
+// The text with every byte that is no part of valid UTF-8, and every control character, as U+FFFD.
+std::string ToShown(std::string_view text);
+bool IsShownAsItIs(std::string_view text); // is there nothing of that kind in it?
+
+// What an error number of the system means, beginning in lower case: "permission denied".
+std::string SystemErrorText(int error);
+
+// The part behind the last dot, in lower case as far as ASCII goes; empty without one.
+std::string ExtensionOf(std::string_view name);
+
+// The part behind the last slash.
+std::string_view BaseName(std::string_view path);
+
+} // namespace editor

@@ -1,0 +1,76 @@
+#include "Editor/model/Folder.h"
+
+#include "Editor/model/FileText.h"
+#include "Editor/model/LibraryContext.h"
+#include "Editor/model/Phase.h"
+#include "Editor/model/Picture.h"
+#include "Editor/pictures/IconPainter.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+constexpr const char* kPhaseExtension = "phase";
+
+bool KindOfFile(const char* pszName, const LibraryContext& context, MemberKind& kind)
+{
+    const std::string extension = ExtensionOf(pszName);
+    kind = extension == kPhaseExtension ? MemberKind::Phase : MemberKind::Picture;
+    return kind == MemberKind::Phase ||
+           std::binary_search(context.pictureExtensions.begin(), context.pictureExtensions.end(), extension);
+}
+
+} // namespace
+
+CContainer::Listing CFolder::Read()
+{
+    Listing listing;
+    Directory directory(Path());
+    m_identity = {};
+    if (directory.GetError() == 0 && IsInside(directory.GetIdentity())) {
+        listing.error = "a link to a folder that holds it, not opened";
+        return listing;
+    }
+    m_identity = directory.GetIdentity();
+    directory.ForEach([&](const char* pszName, bool isDirectory) {
+        MemberKind kind = MemberKind::Folder;
+        if (isDirectory || KindOfFile(pszName, Context(), kind))
+            listing.table.Add(pszName, kind);
+    });
+    listing.table.Sort();
+    if (directory.GetError() != 0)
+        listing.error = SystemErrorText(directory.GetError());
+    return listing;
+}
+
+CMember* CFolder::MakeMember(UINT nIndex, MemberKind kind)
+{
+    switch (kind) {
+    case MemberKind::Folder:
+        return new CFolder(this, nIndex);
+    case MemberKind::Phase:
+        return new CPhase(this, nIndex);
+    default:
+        return new CPicture(this, nIndex);
+    }
+}
+
+toolkit::Surface CFolder::DrawIcon(CSize size)
+{
+    return PaintPictogram(Pictogram::Folder, size);
+}
+
+bool CFolder::IsInside(const DirectoryIdentity& identity) const
+{
+    for (const CContainer* pOuter = Container(); pOuter; pOuter = pOuter->Container()) {
+        const auto* const pFolder = dynamic_cast<const CFolder*>(pOuter);
+        if (pFolder && pFolder->m_identity == identity)
+            return true;
+    }
+    return false;
+}
+
+} // namespace editor

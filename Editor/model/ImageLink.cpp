@@ -1,0 +1,71 @@
+#include "Editor/model/ImageLink.h"
+
+#include "Editor/model/FileText.h"
+#include "Editor/model/LibraryContext.h"
+#include "Editor/model/Phase.h"
+#include "Editor/pictures/IconPainter.h"
+
+#include <filesystem>
+#include <unistd.h>
+
+namespace editor
+{
+namespace
+{
+
+bool IsInside(const std::string& path, const std::string& root)
+{
+    return path.size() > root.size() && path.starts_with(root) && (root.ends_with('/') || path[root.size()] == '/');
+}
+
+} // namespace
+
+CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : CMember(pPhase, nIndex) {}
+
+std::string_view CImageLink::Name() const
+{
+    return BaseName(Line());
+}
+
+// Where no picture is found, the one beside the phase is the one that is missed.
+std::string CImageLink::Path() const
+{
+    const std::string& root = Context().rootPath;
+    std::string missed;
+    for (const std::string& folder : {Container()->Container()->Path(), root}) {
+        const std::string path = (std::filesystem::path(folder) / Line()).lexically_normal();
+        if (!IsInside(path, root))
+            continue;
+        if (access(path.c_str(), F_OK) == 0)
+            return path;
+        if (missed.empty())
+            missed = path;
+    }
+    return missed;
+}
+
+std::string CImageLink::ErrorReason() const
+{
+    const std::string path = Path();
+    return path.empty() ? "lies outside the library" : Context().pPictures->ErrorOf(path);
+}
+
+void* CImageLink::FindInterface(DWORD id)
+{
+    return id == IID_IImageLink ? static_cast<IImageLink*>(this) : CMember::FindInterface(id);
+}
+
+toolkit::Surface CImageLink::DrawIcon(CSize size)
+{
+    const std::string path = Path();
+    if (path.empty())
+        return PaintPictogram(Pictogram::BrokenPicture, size);
+    return PaintPictureIcon(Context().pPictures->Find(path, size, this), size);
+}
+
+std::string_view CImageLink::Line() const
+{
+    return static_cast<CPhase*>(Container())->LineOf(*this);
+}
+
+} // namespace editor

@@ -1,0 +1,64 @@
+#include "Editor/model/Library.h"
+
+#include "Editor/model/FileText.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <cstdlib>
+#include <sys/stat.h>
+
+namespace editor
+{
+namespace
+{
+
+std::string LastPart(const std::string& path)
+{
+    return path == "/" ? path : std::string(BaseName(path));
+}
+
+// Empty when there is a folder; fills in its absolute path.
+std::string FindFolder(const std::string& path, std::string& absolute)
+{
+    char buffer[PATH_MAX];
+    struct stat status;
+    if (!realpath(path.c_str(), buffer) || stat(buffer, &status) != 0)
+        return SystemErrorText(errno);
+    absolute = buffer;
+    return S_ISDIR(status.st_mode) ? std::string() : "not a folder";
+}
+
+} // namespace
+
+CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std::string>& extensions,
+                                  std::shared_ptr<PictureStore> pPictures, std::string& error)
+{
+    LibraryContext context;
+    error = FindFolder(path, context.rootPath);
+    CStubRef<CLibrary> pLibrary;
+    if (error.empty()) {
+        context.pictureExtensions = extensions;
+        std::sort(context.pictureExtensions.begin(), context.pictureExtensions.end());
+        context.pPictures = std::move(pPictures);
+        pLibrary = CStubRef<CLibrary>::Adopt(new CLibrary(std::move(context)));
+        pLibrary->ReadAgain();
+        error = pLibrary->ErrorReason();
+    }
+    if (!error.empty()) {
+        error = ToShown(path) + ": " + error;
+        pLibrary.Release();
+    }
+    return pLibrary;
+}
+
+CLibrary::CLibrary(LibraryContext context)
+    : CFolder(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
+{}
+
+void* CLibrary::FindInterface(DWORD id)
+{
+    return id == IID_ICharacterLibrary ? static_cast<ICharacterLibrary*>(this) : CFolder::FindInterface(id);
+}
+
+} // namespace editor

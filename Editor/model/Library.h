@@ -1,0 +1,32 @@
+// A folder on disk as a character library: the top of a hierarchy.
+#pragma once
+
+#include "Editor/model/Folder.h"
+#include "Editor/model/LibraryContext.h"
+
+namespace editor
+{
+
+class CLibrary : public CFolder, public ICharacterLibrary
+{
+public:
+    // The library of that folder, with its members read. Empty, and `error` is one line that names the folder and
+    // the reason, when there is no such folder or it cannot be read.
+    [[nodiscard]] static CStubRef<CLibrary> Open(const std::string& path, const std::vector<std::string>& extensions,
+                                                 std::shared_ptr<PictureStore> pPictures, std::string& error);
+
+    std::string_view Name() const override { return m_name; }
+    std::string Path() const override { return m_context.rootPath; }
+
+protected:
+    void* FindInterface(DWORD id) override;
+    LibraryContext& Context() const override { return m_context; }
+
+private:
+    explicit CLibrary(LibraryContext context);
+
+    mutable LibraryContext m_context; // the members number themselves in it
+    const std::string m_name;
+};
+
+} // namespace editor

@@ -1,0 +1,21 @@
+// What all atoms of one library share.
+#pragma once
+
+#include "Editor/pictures/PictureStore.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+struct LibraryContext
+{
+    std::string rootPath;                       // absolute, with neither links nor a slash at its end
+    std::vector<std::string> pictureExtensions; // sorted
+    std::shared_ptr<PictureStore> pPictures;
+    DWORD nextId = 1;
+};
+
+} // namespace editor

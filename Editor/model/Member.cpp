@@ -1,0 +1,131 @@
+#include "Editor/model/Member.h"
+
+#include "Editor/model/Container.h"
+#include "Editor/model/DisplayName.h"
+#include "Editor/model/ErrorInfo.h"
+#include "Editor/model/FileText.h"
+#include "Editor/model/LiveObjects.h"
+#include "Toolkit/graphics/ImageList.h"
+
+namespace editor
+{
+namespace
+{
+
+std::string Join(std::string folder, std::string_view name)
+{
+    if (!folder.ends_with('/'))
+        folder += '/';
+    return folder += name;
+}
+
+} // namespace
+
+CMember::CMember(CContainer* pContainer, UINT nIndex)
+    : m_pContainer(CStubRef<CContainer>::Share(pContainer)), m_nIndex(nIndex)
+{
+    ++g_nLiveObjects;
+}
+
+CMember::~CMember()
+{
+    if (m_pContainer)
+        m_pContainer->Forget(*this);
+    --g_nLiveObjects;
+}
+
+std::string_view CMember::Name() const
+{
+    return m_pContainer->NameOf(*this);
+}
+
+std::string CMember::ShownName() const
+{
+    return ToShown(Name());
+}
+
+std::string CMember::Path() const
+{
+    return Join(m_pContainer->Path(), Name());
+}
+
+std::string CMember::ErrorLine() const
+{
+    const std::string reason = ErrorReason();
+    return reason.empty() ? reason : ShownName() + ": " + reason;
+}
+
+void CMember::Release()
+{
+    if (--m_nRefs == 0)
+        delete this;
+}
+
+void CMember::GetInterface(DWORD id, void** out)
+{
+    *out = FindInterface(id);
+    if (*out)
+        AddRef();
+    else if (id == IID_IDispAtom && !IsShownAsItIs(Name()))
+        *out = static_cast<IDispAtom*>(new CDisplayName(this, ShownName()));
+    else if (id == IID_IMyErrorInfo)
+        if (const std::string reason = LastError(); !reason.empty())
+            *out = CErrorInfo::Make(ShownName() + ": " + reason).Detach();
+}
+
+void* CMember::FindInterface(DWORD id)
+{
+    if (id == IID_IAtom)
+        return static_cast<IAtom*>(this);
+    if (id == IID_IAtomIcon)
+        return static_cast<IAtomIcon*>(this);
+    if (id == STUB_BASE_INTERFACE_ID)
+        return static_cast<CStubBaseInterface*>(this);
+    return nullptr;
+}
+
+LibraryContext& CMember::Context() const
+{
+    return static_cast<const CMember*>(m_pContainer.Get())->Context();
+}
+
+DWORD CMember::GetID()
+{
+    return m_pContainer ? m_pContainer->IdOf(*this) : 0;
+}
+
+BOOL CMember::GetName(char* pBuffer, DWORD* pLength)
+{
+    return GiveName(Name(), pBuffer, pLength);
+}
+
+BOOL CMember::GetContainer(void** ppOut, DWORD dwInterfaceId)
+{
+    if (!ppOut)
+        return FALSE;
+    *ppOut = nullptr;
+    if (m_pContainer)
+        m_pContainer->GetInterface(dwInterfaceId, ppOut);
+    return *ppOut != nullptr;
+}
+
+BOOL CMember::GetIcon(ICONREQUEST* pRequest)
+{
+    if (!pRequest || pRequest->cx <= 0 || pRequest->cy <= 0)
+        return FALSE;
+    pRequest->hIcon = CreateIconFromSurface(DrawIcon({pRequest->cx, pRequest->cy}));
+    return pRequest->hIcon != nullptr;
+}
+
+int CMember::AddToImageList(HIMAGELIST hImageList, int nReplace)
+{
+    int cx = 0, cy = 0;
+    if (!ImageList_GetIconSize(hImageList, &cx, &cy))
+        return -1;
+    const HICON hIcon = CreateIconFromSurface(DrawIcon({cx, cy}));
+    const int nIndex = ImageList_ReplaceIcon(hImageList, nReplace, hIcon);
+    DestroyIcon(hIcon);
+    return nIndex;
+}
+
+} // namespace editor

@@ -1,0 +1,88 @@
+#include "Editor/pictures/IconPainter.h"
+
+#include "Toolkit/graphics/Pixels.h"
+#include "Toolkit/graphics/Scale.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+constexpr toolkit::Pixel kEdge = 0x50000000;                   // premultiplied, as all here
+constexpr toolkit::Pixel kShadow[] = {0x30000000, 0x18000000}; // below and beside, from the edge on
+constexpr int kShadowReach = static_cast<int>(std::size(kShadow));
+constexpr int kSmallestPhotograph = 12; // pixels; below this an edge would eat the picture
+
+bool CoversAll(const toolkit::Surface& picture)
+{
+    const toolkit::Pixel* const first = picture.Row(0);
+    const auto count = static_cast<std::ptrdiff_t>(picture.Width()) * picture.Height();
+    return std::all_of(first, first + count, [](toolkit::Pixel pixel) { return pixel >> 24 == 0xFF; });
+}
+
+void Blend(toolkit::Surface& target, const CRect& rect, toolkit::Pixel above)
+{
+    const CRect inside = rect & target.Bounds();
+    for (int y = inside.top; y < inside.bottom; ++y)
+        toolkit::BlendRow(target.Row(y) + inside.left, inside.Width(), above);
+}
+
+// One pixel wide, on the outermost pixels of the rectangle.
+void BlendEdge(toolkit::Surface& target, const CRect& rect, toolkit::Pixel above)
+{
+    Blend(target, {rect.left, rect.top, rect.right, rect.top + 1}, above);
+    Blend(target, {rect.left, rect.bottom - 1, rect.right, rect.bottom}, above);
+    Blend(target, {rect.left, rect.top + 1, rect.left + 1, rect.bottom - 1}, above);
+    Blend(target, {rect.right - 1, rect.top + 1, rect.right, rect.bottom - 1}, above);
+}
+
+void BlendShadow(toolkit::Surface& target, const CRect& rect)
+{
+    for (int i = 0; i < kShadowReach; ++i) {
+        Blend(target, {rect.left + 1 + i, rect.bottom + i, rect.right + 1 + i, rect.bottom + i + 1}, kShadow[i]);
+        Blend(target, {rect.right + i, rect.top + 1 + i, rect.right + i + 1, rect.bottom + i}, kShadow[i]);
+    }
+}
+
+void Place(toolkit::Surface& target, CPoint at, const toolkit::Surface& picture)
+{
+    for (int y = 0; y < picture.Height(); ++y)
+        toolkit::BlendRow(target.Row(at.y + y) + at.x, picture.Row(y), picture.Width());
+}
+
+toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, CSize room, bool isPhotograph)
+{
+    toolkit::Surface icon(size);
+    const CSize fitted = toolkit::FitInto(picture.Bounds().Size(), room);
+    const bool isTooLarge = fitted.cx < picture.Width() || fitted.cy < picture.Height();
+    const toolkit::Surface scaled = isTooLarge ? toolkit::ScaleSurface(picture, fitted) : picture;
+    const CRect place(toolkit::Centred(scaled.Bounds().Size(), {0, 0, room.cx, room.cy}), scaled.Bounds().Size());
+    if (isPhotograph)
+        BlendShadow(icon, place);
+    Place(icon, place.TopLeft(), scaled);
+    if (isPhotograph)
+        BlendEdge(icon, place, kEdge);
+    return icon;
+}
+
+} // namespace
+
+toolkit::Surface PaintPictogram(Pictogram which, CSize size)
+{
+    const toolkit::Surface& picture = GetPictogram(which, std::max(1, std::min(size.cx, size.cy)));
+    return PaintInTheMiddle(picture, size, size, false);
+}
+
+toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size)
+{
+    if (!answer.pPicture)
+        return PaintPictogram(answer.bFailed ? Pictogram::BrokenPicture : Pictogram::Placeholder, size);
+    const toolkit::Surface& picture = *answer.pPicture;
+    if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
+        return PaintInTheMiddle(picture, size, size, false);
+    return PaintInTheMiddle(picture, size, {size.cx - kShadowReach, size.cy - kShadowReach}, true);
+}
+
+} // namespace editor

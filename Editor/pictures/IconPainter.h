@@ -1,0 +1,18 @@
+// Icons of atoms, at any size.
+#pragma once
+
+#include "Editor/pictures/PictureStore.h"
+#include "Editor/resources/Pictograms.h"
+
+namespace editor
+{
+
+// The pictogram in the middle of a transparent ground.
+toolkit::Surface PaintPictogram(Pictogram which, CSize size);
+
+// A picture that has reached the store, in the middle of a transparent ground: one that covers its whole rectangle
+// as a little photograph, with an edge and a shadow; any other as it is. Else what tells that there is none, or
+// none yet.
+toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size);
+
+} // namespace editor

@@ -1,0 +1,203 @@
+#include "Editor/pictures/PictureStore.h"
+
+#include "Toolkit/window/Desktop.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+constexpr std::size_t kOverhead = 300; // of an entry beside its pixels, about
+constexpr int kLarge = 256;            // of the variants larger than this each way only the newest is kept
+
+std::string WaitingKey(const std::string& path, CSize size)
+{
+    return path + '\0' + std::to_string(size.cx) + 'x' + std::to_string(size.cy);
+}
+
+bool FitsInto(CSize picture, CSize room)
+{
+    return picture.cx <= room.cx && picture.cy <= room.cy;
+}
+
+bool IsLarge(CSize size)
+{
+    return size.cx > kLarge || size.cy > kLarge;
+}
+
+} // namespace
+
+PictureStore::PictureStore(const PictureReader& reader, Limits limits, Arrived arrived)
+    : m_limits(limits),
+      m_arrived(std::move(arrived)),
+      m_pSelf(std::make_shared<PictureStore*>(this)),
+      m_queue(reader, limits.threads, [this] { PostCollect(); })
+{}
+
+PictureStore::Answer PictureStore::Find(const std::string& path, CSize size, IAtom* pAtom)
+{
+    const auto at = m_entries.find(path);
+    if (at == m_entries.end()) {
+        Queue(path, size, nullptr, pAtom);
+        return {};
+    }
+    Entry& entry = at->second;
+    m_recent.splice(m_recent.begin(), m_recent, entry.recent);
+    const Variant* const pVariant = FindVariant(entry, size);
+    const bool bFailed = !entry.error.empty();
+    if (entry.bStale || (!pVariant && !bFailed))
+        Queue(path, size, pVariant ? &entry : nullptr, pAtom);
+    return {pVariant ? &pVariant->picture : nullptr, bFailed};
+}
+
+std::string PictureStore::ErrorOf(const std::string& path) const
+{
+    const auto at = m_entries.find(path);
+    return at == m_entries.end() ? std::string() : at->second.error;
+}
+
+CSize PictureStore::FullSizeOf(const std::string& path) const
+{
+    const auto at = m_entries.find(path);
+    return at == m_entries.end() ? CSize() : at->second.fullSize;
+}
+
+void PictureStore::Recheck()
+{
+    for (auto& [path, entry] : m_entries)
+        entry.bStale = true;
+}
+
+void PictureStore::Stop()
+{
+    *m_pSelf = nullptr;
+    m_queue.Stop();
+    m_waiting.clear();
+    m_sentAway.clear();
+}
+
+// A picture that is smaller than what was asked for serves every larger size as well.
+const PictureStore::Variant* PictureStore::FindVariant(const Entry& entry, CSize size)
+{
+    const auto serves = [&](const Variant& variant) {
+        return variant.asked == size ||
+               (variant.picture.Bounds().Size() == entry.fullSize && FitsInto(entry.fullSize, size));
+    };
+    const auto at = std::find_if(entry.variants.begin(), entry.variants.end(), serves);
+    return at == entry.variants.end() ? nullptr : &*at;
+}
+
+std::size_t PictureStore::CostOf(const std::string& path, const Entry& entry)
+{
+    std::size_t bytes = kOverhead + 2 * path.size() + entry.error.size();
+    for (const Variant& variant : entry.variants)
+        bytes += static_cast<std::size_t>(variant.picture.Width()) *
+                 static_cast<std::size_t>(variant.picture.Height()) * sizeof(toolkit::Pixel);
+    return bytes;
+}
+
+void PictureStore::Queue(const std::string& path, CSize size, const Entry* pKnown, IAtom* pAtom)
+{
+    if (!*m_pSelf)
+        return;
+    const auto [at, isNew] = m_waiting.try_emplace(WaitingKey(path, size));
+    at->second.push_back(CStubRef<IAtom>::Share(pAtom));
+    if (!isNew)
+        return;
+    m_queue.Add({path, size, pKnown ? pKnown->stamp : FileStamp()});
+    SendAwayTheOldest();
+}
+
+void PictureStore::SendAwayTheOldest()
+{
+    const std::optional<DecodeJob> oldest = m_queue.DropOldest(m_limits.waiting);
+    if (!oldest)
+        return;
+    const auto at = m_waiting.find(WaitingKey(oldest->path, oldest->size));
+    if (m_sentAway.empty())
+        PostCollect();
+    std::move(at->second.begin(), at->second.end(), std::back_inserter(m_sentAway));
+    m_waiting.erase(at);
+}
+
+// Any thread.
+void PictureStore::PostCollect()
+{
+    toolkit::PostTask([pSelf = m_pSelf] {
+        if (*pSelf)
+            (*pSelf)->Collect();
+    });
+}
+
+void PictureStore::Collect()
+{
+    const std::shared_ptr<PictureStore*> pSelf = m_pSelf;
+    const Atoms sentAway = std::exchange(m_sentAway, {});
+    std::vector<Atoms> changed;
+    for (DecodeResult& result : m_queue.TakeResults()) {
+        auto waited = m_waiting.extract(WaitingKey(result.job.path, result.job.size));
+        if (Keep(result) && waited)
+            changed.push_back(std::move(waited.mapped()));
+    }
+    Trim();
+    Tell(sentAway);
+    for (const Atoms& atoms : changed)
+        if (*pSelf)
+            Tell(atoms);
+}
+
+bool PictureStore::Keep(DecodeResult& result)
+{
+    Entry& entry = Renew(result.job.path);
+    m_nBytes -= CostOf(result.job.path, entry);
+    const bool bSameFile = result.stamp == entry.stamp;
+    entry.bStale = false;
+    if (!result.unchanged) {
+        if (!bSameFile)
+            entry.variants.clear();
+        if (IsLarge(result.job.size))
+            std::erase_if(entry.variants, [](const Variant& variant) { return IsLarge(variant.asked); });
+        entry.stamp = result.stamp;
+        entry.error = std::move(result.decoded.error);
+        entry.fullSize = result.decoded.fullSize;
+        if (entry.error.empty())
+            entry.variants.push_back({result.job.size, std::move(result.decoded.picture)});
+    }
+    m_nBytes += CostOf(result.job.path, entry);
+    return !result.unchanged;
+}
+
+PictureStore::Entry& PictureStore::Renew(const std::string& path)
+{
+    const auto [at, isNew] = m_entries.try_emplace(path);
+    Entry& entry = at->second;
+    if (isNew) {
+        m_recent.push_front(path);
+        entry.recent = m_recent.begin();
+        m_nBytes += CostOf(path, entry);
+    }
+    m_recent.splice(m_recent.begin(), m_recent, entry.recent);
+    return entry;
+}
+
+// The newest stays, however large it is.
+void PictureStore::Trim()
+{
+    while (m_nBytes > m_limits.bytes && m_recent.size() > 1) {
+        const auto at = m_entries.find(m_recent.back());
+        m_nBytes -= CostOf(at->first, at->second);
+        m_entries.erase(at);
+        m_recent.pop_back();
+    }
+}
+
+void PictureStore::Tell(const Atoms& atoms)
+{
+    const Arrived arrived = m_arrived; // the store may go meanwhile
+    for (const CStubRef<IAtom>& pAtom : atoms)
+        arrived(pAtom.Get());
+}
+
+} // namespace editor

@@ -1,0 +1,93 @@
+// The pictures that have been read, and those that threads are reading meanwhile.
+#pragma once
+
+#include "Editor/pictures/DecodeQueue.h"
+#include "Views/host/host.h"
+
+#include <list>
+#include <unordered_map>
+
+namespace editor
+{
+
+// Pictures are read when they are first wanted, the newest wish first, and kept in memory up to a bound; those
+// not wanted for the longest go first. User-interface thread only, with a desktop installed.
+class PictureStore
+{
+public:
+    struct Limits
+    {
+        std::size_t bytes = 64 << 20; // of pictures kept
+        std::size_t waiting = 1500;   // more than a view ever caches; who waits longest is sent away
+        int threads = 2;
+    };
+    // Called, from the queue of messages, for each atom whose picture has become ready or has changed; also for one
+    // that was sent away: whoever shows it asks again, and that counts as a new wish.
+    using Arrived = std::function<void(IAtom* pAtom)>;
+
+    struct Answer
+    {
+        const toolkit::Surface* pPicture = nullptr; // valid until the store is used again
+        bool bFailed = false;                       // there is none; ErrorOf tells why
+    };
+
+    PictureStore(const PictureReader& reader, Limits limits, Arrived arrived);
+    ~PictureStore() { Stop(); }
+    PictureStore(const PictureStore&) = delete;
+    PictureStore& operator=(const PictureStore&) = delete;
+
+    // The file's picture, scaled down to fit into `size`. While it is neither read nor failed, it is put in the
+    // queue, and pAtom hears of it.
+    Answer Find(const std::string& path, CSize size, IAtom* pAtom);
+    // Why the file could not be read; empty when it could, was not tried, or is long forgotten.
+    std::string ErrorOf(const std::string& path) const;
+    // Of the picture in the file, in pixels; 0 by 0 when it is not known.
+    CSize FullSizeOf(const std::string& path) const;
+    bool IsIdle() const { return m_waiting.empty(); }
+
+    // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
+    void Recheck();
+    void WaitForResult() { m_queue.WaitForResult(); } // blocks until there is one or nothing is under way
+    void Stop();                                      // waits for what the threads have begun; nothing is read any more
+
+private:
+    // One picture at one size.
+    struct Variant
+    {
+        CSize asked;
+        toolkit::Surface picture;
+    };
+    struct Entry
+    {
+        CSize fullSize;
+        std::string error;
+        FileStamp stamp;
+        bool bStale = false;
+        std::vector<Variant> variants;
+        std::list<std::string>::iterator recent;
+    };
+    using Atoms = std::vector<CStubRef<IAtom>>;
+
+    static const Variant* FindVariant(const Entry& entry, CSize size);
+    static std::size_t CostOf(const std::string& path, const Entry& entry);
+    void Queue(const std::string& path, CSize size, const Entry* pKnown, IAtom* pAtom);
+    void SendAwayTheOldest();
+    void PostCollect();
+    void Collect();
+    bool Keep(DecodeResult& result); // did anything change?
+    Entry& Renew(const std::string& path);
+    void Trim();
+    void Tell(const Atoms& atoms);
+
+    const Limits m_limits;
+    const Arrived m_arrived;
+    std::unordered_map<std::string, Entry> m_entries; // by path
+    std::list<std::string> m_recent;                  // paths, the last wanted first
+    std::size_t m_nBytes = 0;
+    std::unordered_map<std::string, Atoms> m_waiting; // by path and size, see WaitingKey
+    Atoms m_sentAway;
+    std::shared_ptr<PictureStore*> m_pSelf; // NULL inside once the store has stopped: tasks under way look there
+    DecodeQueue m_queue;
+};
+
+} // namespace editor

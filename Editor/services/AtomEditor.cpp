@@ -1,0 +1,117 @@
+#include "Editor/services/AtomEditor.h"
+
+#include "Toolkit/window/WindowApi.h"
+
+namespace editor
+{
+namespace
+{
+
+// The pairs that a handler gave, with their references.
+class ActivePairs
+{
+public:
+    explicit ActivePairs(IAEStateHandler& handler)
+    {
+        DWORD nCount = 0;
+        handler.OnGetActivePairs(nullptr, &nCount);
+        m_pairs.resize(nCount);
+        if (nCount > 0 && !handler.OnGetActivePairs(m_pairs.data(), &nCount))
+            m_pairs.clear();
+    }
+    ~ActivePairs()
+    {
+        for (const OBJPAIR& pair : m_pairs) {
+            CStubRef<IAtom>::Adopt(pair.pAtom).Release();
+            CStubRef<IAtomContainer>::Adopt(pair.pContainer).Release();
+        }
+    }
+    ActivePairs(const ActivePairs&) = delete;
+    ActivePairs& operator=(const ActivePairs&) = delete;
+
+    const std::vector<OBJPAIR>& Get() const { return m_pairs; } // some may be empty
+
+private:
+    std::vector<OBJPAIR> m_pairs;
+};
+
+} // namespace
+
+void CAtomEditor::GetInterface(DWORD id, void** out)
+{
+    *out = id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
+    if (*out)
+        AddRef();
+}
+
+DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
+{
+    return m_handlers.Register(hWnd, handler);
+}
+
+void CAtomEditor::UnregisterHandler(DWORD cookie)
+{
+    m_handlers.Unregister(cookie);
+}
+
+BOOL CAtomEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
+                                 IAtomContainer* container, DWORD)
+{
+    // A view may let go of both in the middle.
+    const auto pAtom = CStubRef<IAtom>::Share(atom);
+    const auto pContainer = CStubRef<IAtomContainer>::Share(container);
+    Note(sender, operation, atom, container);
+    return m_handlers.Call(sender, operation, atom, container);
+}
+
+void CAtomEditor::AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon)
+{
+    if (m_pFrame)
+        m_pFrame->AddPane(kind, hWnd, caption, icon);
+}
+
+void CAtomEditor::RemovePane(DWORD kind, HWND hWnd)
+{
+    if (m_pFrame)
+        m_pFrame->RemovePane(kind, hWnd);
+}
+
+BOOL CAtomEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
+{
+    IAEStateHandler* const pSource = FindSelectionSource();
+    if (!pSource)
+        return TRUE;
+    const ActivePairs pairs(*pSource);
+    for (const OBJPAIR& pair : pairs.Get())
+        if (pair.pAtom && pair.pContainer && !callback(pair.pAtom, pair.pContainer, context))
+            return FALSE;
+    return TRUE;
+}
+
+void CAtomEditor::GetActiveAtom(void** out, DWORD interfaceId)
+{
+    *out = nullptr;
+    if (m_pActive)
+        static_cast<CStubBaseInterface*>(m_pActive.Get())->GetInterface(interfaceId, out);
+}
+
+void CAtomEditor::Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer)
+{
+    const bool bSelected = operation == &IAEStateHandler::OnAtomSelected;
+    const bool bLost = operation == &IAEStateHandler::OnAtomDeselected || operation == &IAEStateHandler::OnDeleteAtom;
+    if (pSender && bSelected)
+        m_pLastSender = pSender;
+    if (operation == &IAEStateHandler::OnAtomEntered || (bSelected && pAtom))
+        m_pActive = CStubRef<IAtom>::Share(pAtom);
+    else if ((bSelected || bLost) && pContainer && (!pAtom || pAtom == m_pActive.Get()))
+        m_pActive = CStubRef<IAtom>::Share(pContainer);
+}
+
+IAEStateHandler* CAtomEditor::FindSelectionSource() const
+{
+    if (IAEStateHandler* const pFocused = m_handlers.FindByWindow(GetFocus()))
+        return pFocused;
+    return m_handlers.Contains(m_pLastSender) ? m_pLastSender : nullptr;
+}
+
+} // namespace editor

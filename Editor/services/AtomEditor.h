@@ -1,0 +1,67 @@
+// The atom editor: it knows what the user is working on and passes the views' news on.
+#pragma once
+
+#include "Editor/services/HandlerRegistry.h"
+
+namespace editor
+{
+
+// The frame, as the editor uses it.
+class PaneFrame
+{
+public:
+    virtual void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) = 0; // copies caption and icon
+    virtual void RemovePane(DWORD kind, HWND hWnd) = 0;
+    virtual HWND GetMainWindow() const = 0;
+
+protected:
+    ~PaneFrame() = default;
+};
+
+// The active atom follows the broadcasts: the one selected last; the one entered; the container when the active
+// atom is deselected or removed, or when all members are meant.
+//
+// What is selected is asked of one view: the one that has the focus, else the one that announced a selection
+// last. Owned by the application, which outlives every reference.
+class CAtomEditor final : public IAtomEditor
+{
+public:
+    CAtomEditor() = default;
+    CAtomEditor(const CAtomEditor&) = delete;
+    CAtomEditor& operator=(const CAtomEditor&) = delete;
+
+    void SetFrame(PaneFrame* pFrame) { m_pFrame = pFrame; } // borrowed; NULL: none
+    void ForgetActiveAtom() { m_pActive.Release(); }
+    int CountReferences() const { return m_nRefs; } // beside the owner's
+
+    void AddRef() override { ++m_nRefs; }
+    void Release() override { --m_nRefs; }
+    void GetInterface(DWORD id, void** out) override;
+
+    DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
+    void UnregisterHandler(DWORD cookie) override;
+    BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
+                        DWORD reserved) override;
+    void AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon) override;
+    void RemovePane(DWORD kind, HWND hWnd) override;
+    CMenu* CreateContextMenu() override { return nullptr; }
+    HWND GetMainWindow() override { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
+    BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override; // stops at the first refusal
+    DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
+    BOOL ReadArchive(ARCHIVEATOMPROC, IArchive*, void*) override { return FALSE; }
+    BOOL WriteActiveObjects(IArchive*) override { return FALSE; }
+    CLIPFORMAT GetClipboardFormat() override { return 0; }
+    void GetActiveAtom(void** out, DWORD interfaceId) override;
+
+private:
+    void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
+    IAEStateHandler* FindSelectionSource() const;
+
+    HandlerRegistry m_handlers;
+    PaneFrame* m_pFrame = nullptr;
+    CStubRef<IAtom> m_pActive;
+    IAEStateHandler* m_pLastSender = nullptr; // of a selection; may have unregistered since
+    int m_nRefs = 0;
+};
+
+} // namespace editor

@@ -1,0 +1,62 @@
+#include "tests/editor/BmpReader.h"
+
+#include "Toolkit/graphics/ImageFiles.h"
+#include "Toolkit/graphics/Scale.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+void BmpReader::Hold()
+{
+    const std::lock_guard lock(m_mutex);
+    m_nAllowed = 0;
+}
+
+void BmpReader::Allow(int nReads)
+{
+    const std::lock_guard lock(m_mutex);
+    m_nAllowed += nReads;
+    m_changed.notify_all();
+}
+
+void BmpReader::AllowAll()
+{
+    Allow(1 << 20);
+}
+
+void BmpReader::WaitForReads(int nBegun) const
+{
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [&] { return m_nBegun >= nBegun; });
+}
+
+Ledger BmpReader::TakeReads()
+{
+    const std::lock_guard lock(m_mutex);
+    return m_reads.TakeLedger();
+}
+
+editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize) const
+{
+    Pass(path);
+    std::ifstream stream(path, std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
+    const auto picture = toolkit::DecodeBmp(std::as_bytes(std::span(bytes)));
+    if (!picture)
+        return {{}, {}, "not a BMP picture"};
+    const CSize own = picture->Bounds().Size();
+    const CSize fitted = toolkit::FitInto(own, {std::min(own.cx, maxSize.cx), std::min(own.cy, maxSize.cy)});
+    return {toolkit::ScaleSurface(*picture, fitted), own, {}};
+}
+
+void BmpReader::Pass(const std::string& path) const
+{
+    std::unique_lock lock(m_mutex);
+    m_reads.Write(std::filesystem::path(path).filename().string());
+    ++m_nBegun;
+    m_changed.notify_all();
+    m_changed.wait(lock, [&] { return m_nAllowed > 0; });
+    --m_nAllowed;
+}

@@ -1,0 +1,31 @@
+// A picture reader for tests: BMP files, read when the test allows it.
+#pragma once
+
+#include "Editor/pictures/PictureReader.h"
+#include "tests/support/Ledger.h"
+
+#include <condition_variable>
+#include <mutex>
+
+class BmpReader : public editor::PictureReader
+{
+public:
+    // From now on reads wait until they are allowed; they are in the ledger when they begin.
+    void Hold();
+    void Allow(int nReads);
+    void AllowAll();
+    void WaitForReads(int nBegun) const; // until so many have begun altogether
+    Ledger TakeReads();                  // "name", in the order in which they began
+
+    std::vector<std::string> Extensions() const override { return {"bmp", "dib"}; }
+    editor::DecodedPicture Read(const std::string& path, CSize maxSize) const override;
+
+private:
+    void Pass(const std::string& path) const;
+
+    mutable std::mutex m_mutex;
+    mutable std::condition_variable m_changed;
+    mutable LedgerBook m_reads;
+    mutable int m_nBegun = 0;
+    mutable int m_nAllowed = 1 << 30;
+};

@@ -1,0 +1,137 @@
+#include "tests/editor/LibraryFixture.h"
+
+#include "Editor/model/ErrorInfo.h"
+#include "Editor/model/LiveObjects.h"
+#include "Editor/pictures/IconPainter.h"
+#include "Toolkit/graphics/Gdi.h"
+
+#include <algorithm>
+
+using editor::Pictogram;
+
+namespace
+{
+
+template <class Object>
+std::string ReadName(Object* pObject, BOOL (Object::*read)(char*, DWORD*))
+{
+    DWORD length = 0;
+    if (!(pObject->*read)(nullptr, &length))
+        return "?";
+    std::string name(length, '?');
+    if (!(pObject->*read)(name.data(), &length))
+        return "?";
+    EXPECT_EQ('\0', name.back());
+    name.pop_back();
+    return name;
+}
+
+bool AreSame(const toolkit::Surface& a, const toolkit::Surface& b)
+{
+    return a.Bounds() == b.Bounds() && std::equal(a.Row(0), a.Row(0) + a.Width() * a.Height(), b.Row(0));
+}
+
+} // namespace
+
+LibraryTest::LibraryTest() : m_nLive(editor::g_nLiveObjects)
+{
+    editor::PictureStore::Limits limits;
+    limits.threads = 1;
+    limits.waiting = 3;
+    pPictures =
+        std::make_shared<editor::PictureStore>(reader, limits, [this](IAtom* pAtom) { m_arrivals.Write(Name(pAtom)); });
+}
+
+LibraryTest::~LibraryTest()
+{
+    m_pLibrary.Release();
+    reader.AllowAll();
+    pPictures->Stop();
+    EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
+}
+
+std::string LibraryTest::Open()
+{
+    return Open(folder.Path());
+}
+
+std::string LibraryTest::Open(const std::string& path)
+{
+    std::string error;
+    m_pLibrary = editor::CLibrary::Open(path, reader.Extensions(), pPictures, error);
+    EXPECT_EQ(error.empty(), static_cast<bool>(m_pLibrary));
+    return m_pLibrary ? Members(m_pLibrary.Get()) : "! " + error;
+}
+
+std::string LibraryTest::Members(IAtomContainer* pContainer)
+{
+    std::vector<void*> atoms(pContainer->GetCount());
+    pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.data(), IID_IAtom);
+    std::string text;
+    for (void* const p : atoms) {
+        const auto pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(p));
+        text += text.empty() ? "" : " ";
+        text += pAtom ? Name(pAtom.Get()) : "-";
+        if (CStubRef<IPhase>::From(pAtom.Get()))
+            text += '>';
+        else if (CStubRef<IAtomContainer>::From(pAtom.Get()))
+            text += '/';
+    }
+    return '[' + text + ']';
+}
+
+CStubRef<IAtomContainer> LibraryTest::Container(IAtomContainer* pIn, const char* pszName)
+{
+    CStubRef<IAtomContainer> pFound;
+    pIn->FindAtom(pszName, pFound.Receive(), IID_IAtomContainer);
+    return pFound;
+}
+
+CStubRef<IAtom> LibraryTest::Find(IAtomContainer* pIn, const char* pszName)
+{
+    CStubRef<IAtom> pFound;
+    const BOOL bFound = pIn->FindAtom(pszName, pFound.Receive(), IID_IAtom);
+    EXPECT_EQ(bFound != FALSE, static_cast<bool>(pFound));
+    return pFound;
+}
+
+std::string LibraryTest::Name(IAtom* pAtom)
+{
+    return ReadName(pAtom, &IAtom::GetName);
+}
+
+std::string LibraryTest::ShownName(IAtom* pAtom)
+{
+    const auto pDisp = CStubRef<IDispAtom>::From(pAtom);
+    return pDisp ? ReadName(pDisp.Get(), &IDispAtom::GetDisplayName) : Name(pAtom);
+}
+
+std::string LibraryTest::Error(IAtom* pAtom)
+{
+    return editor::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pAtom).Get());
+}
+
+std::string LibraryTest::Icon(IAtom* pAtom)
+{
+    const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
+    ICONREQUEST request{48, 48, nullptr};
+    if (!pIcon || !pIcon->GetIcon(&request))
+        return "no icon";
+    const toolkit::Surface shown = *toolkit::IconSurface(request.hIcon);
+    DestroyIcon(request.hIcon);
+    const std::pair<Pictogram, const char*> known[] = {{Pictogram::Folder, "folder"},
+                                                       {Pictogram::Phase, "phase"},
+                                                       {Pictogram::BrokenPicture, "broken"},
+                                                       {Pictogram::Placeholder, "none yet"}};
+    for (const auto& [which, pszName] : known)
+        if (AreSame(shown, editor::PaintPictogram(which, {48, 48})))
+            return pszName;
+    char middle[16];
+    std::snprintf(middle, sizeof middle, "%06X", shown.At(24, 24) & 0xFFFFFF);
+    return middle;
+}
+
+void LibraryTest::Settle()
+{
+    EXPECT_TRUE(desktop.RunUntil([&] { return pPictures->IsIdle(); }));
+}

@@ -1,0 +1,41 @@
+// A library in a temporary folder, without a window.
+#pragma once
+
+#include "Editor/model/Library.h"
+#include "tests/editor/BmpReader.h"
+#include "tests/editor/TempFolder.h"
+#include "tests/support/DesktopTest.h"
+
+// At its end no object of the model may be alive.
+class LibraryTest : public DesktopTest
+{
+protected:
+    LibraryTest();
+    ~LibraryTest() override;
+
+    // An error's line instead of an exception: "! line".
+    std::string Open();
+    std::string Open(const std::string& path);
+    editor::CLibrary* Library() { return m_pLibrary.Get(); }
+
+    // The members by name, in the container's order: "[Ada/ ball.bmp walk.phase>]"; missing ones as "-".
+    static std::string Members(IAtomContainer* pContainer);
+    static CStubRef<IAtomContainer> Container(IAtomContainer* pIn, const char* pszName);
+    static CStubRef<IAtom> Find(IAtomContainer* pIn, const char* pszName);
+    static std::string Name(IAtom* pAtom);
+    static std::string ShownName(IAtom* pAtom);
+    static std::string Error(IAtom* pAtom); // empty without one
+    // Of an icon 48 pixels wide: what is in its middle, or "folder", "phase", "broken", "none yet".
+    static std::string Icon(IAtom* pAtom);
+    Ledger TakeArrivals() { return m_arrivals.TakeLedger(); }
+    void Settle(); // all pictures wanted so far have arrived
+
+    TempFolder folder;
+    BmpReader reader;
+    std::shared_ptr<editor::PictureStore> pPictures;
+
+private:
+    LedgerBook m_arrivals;
+    CStubRef<editor::CLibrary> m_pLibrary;
+    const int m_nLive;
+};

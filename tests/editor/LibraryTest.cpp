@@ -1,0 +1,319 @@
+#include "Editor/model/LiveObjects.h"
+#include "tests/editor/LibraryFixture.h"
+#include "tests/support/AllocationFailures.h"
+
+#include <cstdlib>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
+{
+    folder.WriteBmp("ball.bmp");
+    folder.WriteBmp("Star.DIB");
+    folder.Write("walk.phase", "ball.bmp\n");
+    folder.Write("readme.txt", "hello");
+    folder.Write("bmp", "no extension");
+    folder.WriteBmp(".hidden.bmp");
+    folder.MakeFolder(".git");
+    folder.MakeFolder("Ada");
+    mkfifo(folder.At("pipe.bmp").c_str(), 0600);
+
+    EXPECT_EQ("[Ada/ Star.DIB ball.bmp walk.phase>]", Open());
+    EXPECT_EQ("[]", Members(Container(Library(), "Ada").Get()));
+    EXPECT_FALSE(Find(Library(), "readme.txt"));
+    EXPECT_FALSE(Find(Library(), "BALL.BMP"));
+}
+
+TEST_F(LibraryTest, WhatCannotBeOpenedIsNamedWithTheReason)
+{
+    folder.Write("file.txt", "");
+
+    EXPECT_EQ("! " + folder.At("file.txt") + ": not a folder", Open(folder.At("file.txt")));
+    EXPECT_EQ("! " + folder.At("none") + ": no such file or directory", Open(folder.At("none")));
+}
+
+TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
+{
+    folder.WriteBmp("Ada/walk-1.bmp");
+    folder.Write("Ada/walk.phase", "walk-1.bmp");
+    Open();
+    const auto pAda = Container(Library(), "Ada");
+    const auto pPhase = Container(pAda.Get(), "walk.phase");
+
+    for (IAtomContainer* pContainer : {static_cast<IAtomContainer*>(Library()), pAda.Get(), pPhase.Get()}) {
+        IAtom* const pConverted = pContainer;
+        EXPECT_EQ(pConverted, CStubRef<IAtom>::From(pContainer).Get());
+        EXPECT_EQ(pConverted, CStubRef<IAtom>::From(CStubRef<IAtomIcon>::From(pContainer).Get()).Get());
+        CStubRef<IAtom> pMember, pAgain, pHolder;
+        pContainer->GetAtoms(0, 1, pMember.Receive(), IID_IAtom);
+        pContainer->FindAtom(Name(pMember.Get()).c_str(), pAgain.Receive(), IID_IAtom);
+        EXPECT_EQ(pMember.Get(), pAgain.Get());
+        EXPECT_TRUE(pContainer->FindAtomByID(pMember->GetID(), pAgain.Receive(), IID_IAtom));
+        EXPECT_EQ(pMember.Get(), pAgain.Get());
+        EXPECT_TRUE(pMember->GetContainer(pHolder.Receive(), IID_IAtom));
+        EXPECT_EQ(pConverted, pHolder.Get());
+    }
+    CStubRef<IAtom> pAbove;
+    EXPECT_FALSE(Library()->GetContainer(pAbove.Receive(), IID_IAtom));
+    EXPECT_TRUE(CStubRef<ICharacterLibrary>::From(Library()));
+    EXPECT_FALSE(CStubRef<ICharacterLibrary>::From(pAda.Get()));
+}
+
+TEST_F(LibraryTest, AChildKeepsItsFoldersAliveAndAFolderOnlyThoseWhoAreHeld)
+{
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.WriteBmp("Ada/Poses/two.bmp");
+    Open();
+    const int nAlone = editor::g_nLiveObjects;
+    CStubRef<IAtom> pOne;
+    {
+        const auto pPoses = Container(Container(Library(), "Ada").Get(), "Poses");
+        EXPECT_EQ("[one.bmp two.bmp]", Members(pPoses.Get()));
+        pOne = Find(pPoses.Get(), "one.bmp");
+    }
+    EXPECT_EQ(nAlone + 3, editor::g_nLiveObjects) << "the picture and its two folders";
+    EXPECT_EQ("one.bmp", Name(pOne.Get()));
+    pOne.Release();
+    EXPECT_EQ(nAlone, editor::g_nLiveObjects);
+}
+
+TEST_F(LibraryTest, GetAtomsFillsEverySlotAlsoBehindTheLastMember)
+{
+    folder.WriteBmp("a.bmp");
+    folder.WriteBmp("b.bmp");
+    Open();
+    void* slots[4] = {this, this, this, this};
+
+    Library()->GetAtoms(1, 4, slots, IID_IAtom);
+    EXPECT_EQ("b.bmp", Name(CStubRef<IAtom>::Adopt(static_cast<IAtom*>(slots[0])).Get()));
+    EXPECT_EQ(nullptr, slots[1]);
+    EXPECT_EQ(nullptr, slots[3]);
+    Library()->GetAtoms(0xFFFFFFFF, 1, slots, IID_IAtom);
+    EXPECT_EQ(nullptr, slots[0]);
+    Library()->GetAtoms(0, 1, slots, IID_IPhase);
+    EXPECT_EQ(nullptr, slots[0]) << "a picture is no phase";
+}
+
+TEST_F(LibraryTest, NamesThatCannotBeShownAreReplacedForTheEyeOnly)
+{
+    const std::string names[] = {"Zo\xC3\xAB.bmp", "Zo\xEB.bmp", "two\nlines.bmp"};
+    for (const std::string& name : names)
+        folder.WriteBmp(name);
+    Open();
+
+    const auto shown = [&](const std::string& name) {
+        const auto pAtom = Find(Library(), name.c_str());
+        EXPECT_EQ(name, Name(pAtom.Get()));
+        const auto pDisp = CStubRef<IDispAtom>::From(pAtom.Get());
+        EXPECT_TRUE(!pDisp || CStubRef<IAtom>::From(pDisp.Get()).Get() == pAtom.Get());
+        return ShownName(pAtom.Get());
+    };
+    EXPECT_EQ("Zo\xC3\xAB.bmp", shown(names[0]));
+    EXPECT_EQ("Zo\xEF\xBF\xBD.bmp", shown(names[1]));
+    EXPECT_EQ("two\xEF\xBF\xBDlines.bmp", shown(names[2]));
+}
+
+TEST_F(LibraryTest, ABufferThatIsTooSmallForANameIsNotWrittenTo)
+{
+    folder.WriteBmp("a.bmp");
+    Open();
+    const auto pAtom = Find(Library(), "a.bmp");
+    char buffer[6] = "?????";
+    DWORD length = 5;
+
+    EXPECT_FALSE(pAtom->GetName(buffer, &length));
+    EXPECT_EQ(6u, length);
+    EXPECT_STREQ("?????", buffer);
+    EXPECT_TRUE(pAtom->GetName(buffer, &length));
+    EXPECT_STREQ("a.bmp", buffer);
+}
+
+TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
+{
+    folder.WriteBmp("Props/ball.bmp", 8, 8, 0xFF102030);
+    folder.WriteBmp("Ada/walk-1.bmp", 8, 8, 0xFF405060);
+    folder.Write("secret.bmp", "");
+    folder.Write("Ada/walk.phase",
+                 "# a walk\r\nwalk-1.bmp\r\n\n  Props/ball.bmp  \nwalk-1.bmp\nlost.bmp\n../../x.bmp\n/etc/x.bmp");
+    Open();
+    const auto pPhase = Container(Container(Library(), "Ada").Get(), "walk.phase");
+
+    EXPECT_EQ("[walk-1.bmp ball.bmp walk-1.bmp lost.bmp x.bmp x.bmp]", Members(pPhase.Get()));
+    std::vector<CStubRef<IAtom>> links;
+    std::string state;
+    const auto pOrder = CStubRef<IPhase>::From(pPhase.Get());
+    for (UINT i = 0; i < pPhase->GetCount(); ++i) {
+        pPhase->GetAtoms(i, 1, links.emplace_back().Receive(), IID_IAtom);
+        Icon(links.back().Get());
+        Settle();
+        const auto pLink = CStubRef<IImageLink>::From(links.back().Get());
+        state += std::to_string(pOrder->GetPosition(pLink.Get())) + ' ' + Icon(links.back().Get()) + ' ' +
+                 Error(links.back().Get()) + '\n';
+    }
+    EXPECT_EQ("0 405060 \n"
+              "1 102030 \n"
+              "2 405060 \n"
+              "3 broken lost.bmp: no such file or directory\n"
+              "4 broken x.bmp: lies outside the library\n"
+              "5 broken x.bmp: lies outside the library\n",
+              state);
+    EXPECT_EQ(-1, pOrder->GetPosition(nullptr));
+    EXPECT_EQ("phase", Icon(pPhase.Get()));
+}
+
+TEST_F(LibraryTest, APhaseThatCannotBeReadSaysWhyAndIsEmpty)
+{
+    folder.Write("binary.phase", std::string("a\0b", 3));
+    folder.Write("huge.phase", std::string(5 << 20, 'x'));
+    folder.MakeFolder("folder.phase");
+    folder.Link("gone.phase", "nowhere");
+    EXPECT_EQ("[binary.phase> folder.phase/ gone.phase> huge.phase>]", Open());
+
+    const auto error = [&](const char* pszName) {
+        const auto pPhase = Container(Library(), pszName);
+        EXPECT_EQ(0u, pPhase->GetCount());
+        return Error(pPhase.Get());
+    };
+    EXPECT_EQ("binary.phase: not a text", error("binary.phase"));
+    EXPECT_EQ("gone.phase: no such file or directory", error("gone.phase"));
+    EXPECT_EQ("huge.phase: too large for a phase", error("huge.phase"));
+}
+
+TEST_F(LibraryTest, ALinkToAFolderThatHoldsItIsShownAndNotOpened)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.Link("Ada/up", "..");
+    folder.Link("Ada/self", ".");
+    folder.Link("friend", "Ada");
+    folder.Link("gone.bmp", "nowhere.bmp");
+    EXPECT_EQ("[Ada/ friend/ gone.bmp]", Open());
+    const auto pAda = Container(Library(), "Ada");
+    const auto pUp = Container(pAda.Get(), "up");
+
+    EXPECT_EQ("[a.bmp self/ up/]", Members(pAda.Get()));
+    EXPECT_EQ("[a.bmp self/ up/]", Members(Container(Library(), "friend").Get())) << "not a ring by itself";
+    EXPECT_EQ("[]", Members(pUp.Get()));
+    EXPECT_EQ("up: a link to a folder that holds it, not opened", Error(pUp.Get()));
+    EXPECT_EQ("[]", Members(Container(pAda.Get(), "self").Get()));
+    EXPECT_EQ("", Error(pAda.Get()));
+}
+
+// The superuser may read everything: for a while the test is nobody.
+class AsNobody
+{
+public:
+    AsNobody() : m_bChanged(geteuid() == 0 && seteuid(65534) == 0) {}
+    ~AsNobody()
+    {
+        if (m_bChanged && seteuid(0) != 0)
+            std::abort();
+    }
+    AsNobody(const AsNobody&) = delete;
+    AsNobody& operator=(const AsNobody&) = delete;
+
+private:
+    const bool m_bChanged;
+};
+
+TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
+{
+    folder.MakeFolder("secret");
+    chmod(folder.Path().c_str(), 0755);
+    chmod(folder.At("secret").c_str(), 0);
+    const AsNobody nobody;
+    if (eaccess(folder.At("secret").c_str(), R_OK) == 0)
+        GTEST_SKIP() << "this user may read everything";
+    EXPECT_EQ("[secret/]", Open());
+    const auto pSecret = Container(Library(), "secret");
+
+    EXPECT_EQ("[]", Members(pSecret.Get()));
+    EXPECT_EQ("secret: permission denied", Error(pSecret.Get()));
+    EXPECT_EQ("! " + folder.At("secret") + ": permission denied", Open(folder.At("secret")));
+}
+
+TEST_F(LibraryTest, NothingOnTheDiskIsChangedAndTheReasonIsGiven)
+{
+    folder.WriteBmp("a.bmp");
+    Open();
+    const auto pAtom = Find(Library(), "a.bmp");
+    CStubRef<IAtom> pNew;
+
+    EXPECT_EQ(0u, Library()->GetPermissions(pAtom.Get()));
+    EXPECT_EQ("", Error(Library()));
+    EXPECT_FALSE(Library()->RenameAtom(pAtom.Get(), "b.bmp", pNew.Receive(), IID_IAtom));
+    EXPECT_EQ(Name(Library()) + ": its members cannot be changed here", Error(Library()));
+    EXPECT_FALSE(Library()->RemoveAtom(pAtom.Get()));
+    EXPECT_EQ("[a.bmp]", Members(Library()));
+}
+
+TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
+{
+    for (const char* name : {"a.bmp", "b.bmp", "c.bmp"})
+        folder.WriteBmp(name);
+    folder.Write("walk.phase", "a.bmp\nb.bmp\na.bmp\n");
+    Open();
+    const auto pA = Find(Library(), "a.bmp"), pB = Find(Library(), "b.bmp"), pC = Find(Library(), "c.bmp");
+    const DWORD idB = pB->GetID(), idC = pC->GetID();
+    const auto pPhase = Container(Library(), "walk.phase");
+    CStubRef<IAtom> pSecondA;
+    pPhase->GetAtoms(2, 1, pSecondA.Receive(), IID_IAtom);
+
+    folder.Remove("b.bmp");
+    folder.WriteBmp("aa.bmp");
+    folder.Write("walk.phase", "new.bmp\na.bmp\n");
+    Library()->ReadAgain();
+    dynamic_cast<editor::CContainer*>(pPhase.Get())->ReadAgain();
+
+    EXPECT_EQ("[a.bmp aa.bmp c.bmp walk.phase>]", Members(Library()));
+    EXPECT_EQ(pA.Get(), Find(Library(), "a.bmp").Get());
+    EXPECT_EQ(pC.Get(), Find(Library(), "c.bmp").Get());
+    EXPECT_EQ(idC, pC->GetID());
+    EXPECT_TRUE(Library()->FindAtomByID(idC, nullptr, 0));
+    EXPECT_FALSE(Library()->FindAtomByID(idB, nullptr, 0)) << "gone";
+    EXPECT_FALSE(Library()->FindAtomByID(0, nullptr, 0));
+    EXPECT_EQ("b.bmp", Name(pB.Get())) << "who holds it still knows what it was";
+    EXPECT_EQ(idB, pB->GetID());
+    EXPECT_EQ("none yet", Icon(pB.Get()));
+    Settle();
+    EXPECT_EQ("b.bmp: no such file or directory", Error(pB.Get()));
+    EXPECT_EQ("[new.bmp a.bmp]", Members(pPhase.Get()));
+    CStubRef<IAtom> pNowSecond;
+    pPhase->GetAtoms(1, 1, pNowSecond.Receive(), IID_IAtom);
+    EXPECT_EQ(pSecondA.Get(), pNowSecond.Get());
+
+    folder.WriteBmp("b.bmp");
+    Library()->ReadAgain();
+    EXPECT_NE(pB.Get(), Find(Library(), "b.bmp").Get()) << "another file";
+    EXPECT_NE(idB, Find(Library(), "b.bmp")->GetID());
+}
+
+TEST_F(LibraryTest, AHundredThousandFilesCostLittleUntilTheyAreShown)
+{
+    constexpr int kFiles = 100'000;
+    folder.MakeEmptyFiles(kFiles, "frame %06d.bmp");
+    std::string error;
+    const auto pLibrary = editor::CLibrary::Open(folder.Path(), reader.Extensions(), pPictures, error);
+    ASSERT_EQ(static_cast<UINT>(kFiles), pLibrary->GetCount());
+    const int nAlone = editor::g_nLiveObjects;
+
+    std::vector<void*> atoms(kFiles);
+    const int nAllocations = CountAllocations([&] { pLibrary->GetAtoms(0, kFiles, atoms.data(), IID_IAtom); });
+    EXPECT_EQ(kFiles, nAllocations) << "one for each atom and nothing more";
+    EXPECT_EQ(nAlone + kFiles, editor::g_nLiveObjects);
+    EXPECT_EQ("frame 099999.bmp", Name(static_cast<IAtom*>(atoms.back())));
+    EXPECT_EQ(0, CountAllocations([&] {
+                  char name[32];
+                  DWORD length = sizeof name;
+                  CStubRef<IAtom> pAgain;
+                  pLibrary->FindAtom("frame 070000.bmp", pAgain.Receive(), IID_IAtom);
+                  pAgain->GetName(name, &length);
+              }));
+    for (void* const p : atoms)
+        CStubRef<IAtom>::Adopt(static_cast<IAtom*>(p)).Release();
+    EXPECT_EQ(nAlone, editor::g_nLiveObjects);
+}
+
+} // namespace

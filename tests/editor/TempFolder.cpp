@@ -1,0 +1,69 @@
+#include "tests/editor/TempFolder.h"
+
+#include "Toolkit/graphics/ImageFiles.h"
+
+#include <cstdio>
+#include <fcntl.h>
+#include <fstream>
+#include <stdexcept>
+#include <stdlib.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+// In memory where that is possible: some tests need very many files.
+TempFolder::TempFolder()
+{
+    const fs::path memory = "/dev/shm";
+    const bool hasMemory = access(memory.c_str(), W_OK) == 0;
+    std::string pattern = ((hasMemory ? memory : fs::temp_directory_path()) / "views-library-XXXXXX").string();
+    if (!mkdtemp(pattern.data()))
+        throw std::runtime_error("no temporary folder");
+    m_path = fs::canonical(pattern).string();
+}
+
+TempFolder::~TempFolder()
+{
+    std::error_code ignored;
+    fs::remove_all(m_path, ignored);
+}
+
+void TempFolder::MakeFolder(const std::string& name) const
+{
+    fs::create_directories(At(name));
+}
+
+void TempFolder::Write(const std::string& name, const std::string& bytes) const
+{
+    fs::create_directories(fs::path(At(name)).parent_path());
+    std::ofstream(At(name), std::ios::binary) << bytes;
+}
+
+void TempFolder::WriteBmp(const std::string& name, int width, int height, unsigned color) const
+{
+    const auto bytes = toolkit::EncodeBmp(toolkit::Surface({width, height}, color));
+    Write(name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+void TempFolder::MakeEmptyFiles(int count, const char* pszPattern) const
+{
+    const int dir = open(m_path.c_str(), O_RDONLY | O_DIRECTORY);
+    for (int i = 0; i < count; ++i) {
+        char name[64];
+        std::snprintf(name, sizeof name, pszPattern, i);
+        if (mknodat(dir, name, S_IFREG | 0600, 0) != 0)
+            throw std::runtime_error("an empty file could not be made");
+    }
+    close(dir);
+}
+
+void TempFolder::Link(const std::string& name, const std::string& target) const
+{
+    fs::create_symlink(target, At(name));
+}
+
+void TempFolder::Remove(const std::string& name) const
+{
+    fs::remove_all(At(name));
+}

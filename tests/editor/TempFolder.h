@@ -1,0 +1,27 @@
+// A folder on disk that is gone at the end of the test, and short ways to fill it.
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+class TempFolder
+{
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    const std::string& Path() const { return m_path; }
+    std::string At(const std::string& name) const { return m_path + '/' + name; }
+
+    void MakeFolder(const std::string& name) const;
+    void Write(const std::string& name, const std::string& bytes) const;
+    void WriteBmp(const std::string& name, int width = 8, int height = 8, unsigned color = 0xFF3080C0) const;
+    void MakeEmptyFiles(int count, const char* pszPattern) const; // a printf pattern with one number
+    void Link(const std::string& name, const std::string& target) const;
+    void Remove(const std::string& name) const;
+
+private:
+    std::string m_path;
+};
