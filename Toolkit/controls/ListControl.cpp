@@ -12,6 +12,7 @@ namespace
 
 constexpr CSize kAroundPicture{28, 48}; // what a cell has beyond its picture, at least
 constexpr int kMinCellWidth = 100;
+constexpr int kMinCellLines = 7; // and at least so many line heights wide, for the label's sake
 
 const bool s_registered = [] {
     RegisterWindowClass(WC_LISTVIEW, [](HWND hWnd) { return std::make_unique<ListControl>(hWnd); });
@@ -132,9 +133,10 @@ void ListControl::Measure()
     int cx = 0, cy = 0;
     if (!ImageList_GetIconSize(m_hImages, &cx, &cy))
         cx = cy = 0;
-    const int twoLines = ListLayout::kTopPadding + ListLayout::kLabelGap + 2 * CurrentTextEngine().LineHeight() + 1;
-    const CSize natural(std::max(kMinCellWidth, cx + static_cast<int>(kAroundPicture.cx)),
-                        cy + std::max(twoLines, static_cast<int>(kAroundPicture.cy)));
+    const int line = CurrentTextEngine().LineHeight();
+    const int label = ListLayout::kTopPadding + ListLayout::kLabelGap + 2 * line + 1;
+    const CSize natural(std::max<int>({kMinCellWidth, kMinCellLines * line, cx + kAroundPicture.cx}),
+                        cy + std::max<int>(label, kAroundPicture.cy));
     m_layout.SetIcon({cx, cy});
     m_layout.SetCell(m_spacing.value_or(natural));
 }

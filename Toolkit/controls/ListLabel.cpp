@@ -78,7 +78,9 @@ LabelLine TakeLine(std::string_view& text, int width)
         const std::string_view rest = TrimLeft(text.substr(natural));
         LabelLine line = MakeLine(TrimRight(text.substr(0, natural)));
         const bool betweenWords = text[natural] == ' ' || text[natural - 1] == ' ';
-        if (Measure(rest) <= width || (line.width * 2 >= width && (betweenWords || Measure(restWhenCut) > width))) {
+        const bool wellFilled =
+            betweenWords ? line.width * 3 >= width : line.width * 2 >= width && Measure(restWhenCut) > width;
+        if (wellFilled || Measure(rest) <= width) {
             text = rest;
             return line;
         }

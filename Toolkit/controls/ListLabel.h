@@ -15,9 +15,9 @@ struct LabelLine
     int width; // pixels
 };
 
-// Breaks between words, and behind hyphens and underscores; inside a word where the line would stay more than half
-// empty, or where the whole name can be shown only so. Control characters count as spaces. Never wider than `width`,
-// unless a single character or the dots alone are. No line for a text without visible characters. Measures a
+// Breaks between words, and behind hyphens and underscores; inside a word where the line would stay too empty, or
+// where a name without spaces can be shown whole only so. Control characters count as spaces. Never wider than
+// `width`, unless a single character or the dots alone are. No line for a text without visible characters. Measures a
 // logarithmic number of times.
 TOOLKIT_API std::vector<LabelLine> WrapLabel(std::string_view text, int width, int maxLines);
 

@@ -150,6 +150,7 @@ TEST(ListLabelTest, ANameIsBrokenWhereItReadsBest)
     EXPECT_EQ("sunny_|autumn.png", Wrapped("sunny_autumn.png"));
     EXPECT_EQ("sunny_holi|day.png", Wrapped("sunny_holiday.png"));
     EXPECT_EQ("sunny_|holiday...", Wrapped("sunny_holidays-in-the-sun.png"));
+    EXPECT_EQ("walk|unbreak...", Wrapped("walk unbreakable"));
     EXPECT_EQ("walk to|beautif...", Wrapped("walk to beautiful-1"));
     EXPECT_EQ("unbreakabl|ename", Wrapped("unbreakablename"));
     EXPECT_EQ("a verylong|word here", Wrapped("a verylongword here"));
