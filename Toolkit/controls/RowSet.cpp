@@ -66,10 +66,9 @@ void RowSet::Erase(RowRange range)
 
     // What the first range keeps below the hole stays; what the last one keeps above it is put back.
     const int firstKeeps = at->first, lastKeeps = std::prev(m_ranges.lower_bound(range.end))->second;
-    if (lastKeeps > range.end) {
+    const int putBack = std::max(lastKeeps - range.end, 0);
+    if (putBack > 0)
         m_ranges.emplace(range.end, lastKeeps);
-        m_nCount += lastKeeps - range.end;
-    }
     auto it = at;
     if (firstKeeps < range.first) {
         m_nCount -= it->second - range.first;
@@ -80,6 +79,7 @@ void RowSet::Erase(RowRange range)
         m_nCount -= it->second - it->first;
         it = m_ranges.erase(it);
     }
+    m_nCount += putBack;
 }
 
 void RowSet::Clear()
