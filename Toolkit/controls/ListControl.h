@@ -92,7 +92,7 @@ private:
     LRESULT OnSetItemState(WPARAM wParam, LPARAM lParam);
     [[nodiscard]] bool ChangeState(int row, UINT state, UINT mask);
     [[nodiscard]] bool ChangeAll(UINT state, UINT mask);
-    [[nodiscard]] bool Deselect(const RowSet& rows);
+    [[nodiscard]] bool DeselectBut(const RowSet& kept);
     [[nodiscard]] bool Select(const RowSet& rows);
     [[nodiscard]] bool SelectOnly(int row); // and the focus and the anchor
     [[nodiscard]] bool Toggle(int row);     // and the focus and the anchor

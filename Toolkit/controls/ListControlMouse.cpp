@@ -123,7 +123,7 @@ bool ListControl::PressRow(Press& press)
 
 bool ListControl::PressEmpty(const Press& press)
 {
-    return press.keys.shift || press.keys.control || Deselect(m_rows.Selected());
+    return press.keys.shift || press.keys.control || DeselectBut({});
 }
 
 bool ListControl::EndPress(bool right)

@@ -56,7 +56,7 @@ bool ListControl::ChangeState(int row, UINT state, UINT mask)
         return true;
 
     const UINT gained = newState & ~oldState;
-    if ((gained & LVIS_SELECTED) && IsSingle() && !Deselect(m_rows.Selected().Without(RowSet({row, row + 1}))))
+    if ((gained & LVIS_SELECTED) && IsSingle() && !DeselectBut(RowSet({row, row + 1})))
         return false;
     if (gained & LVIS_FOCUSED) {
         const int former = m_rows.Focus();
@@ -99,12 +99,13 @@ bool ListControl::ChangeAll(UINT state, UINT mask)
     return TellChange(-1, oldState, newState);
 }
 
-bool ListControl::Deselect(const RowSet& rows)
+bool ListControl::DeselectBut(const RowSet& kept)
 {
-    const RowSet kept = m_rows.Selected().Without(rows);
-    if (rows.Count() > std::max(kOneByOne, kept.Count()))
-        return ChangeAll(0, LVIS_SELECTED) && Select(kept);
-    for (int row = rows.Next(-1); row >= 0; row = rows.Next(row))
+    const RowSet stays = m_rows.Selected().Within(kept);
+    if (m_rows.Selected().Count() - stays.Count() > std::max(kOneByOne, stays.Count()))
+        return ChangeAll(0, LVIS_SELECTED) && Select(stays);
+    const RowSet goes = m_rows.Selected().Without(stays);
+    for (int row = goes.Next(-1); row >= 0; row = goes.Next(row))
         if (!ChangeState(row, 0, LVIS_SELECTED))
             return false;
     return true;
@@ -124,8 +125,7 @@ bool ListControl::Select(const RowSet& rows)
 bool ListControl::SelectOnly(int row)
 {
     m_rows.SetAnchor(row);
-    return Deselect(m_rows.Selected().Without(RowSet({row, row + 1}))) &&
-           ChangeState(row, kSelectedAndFocused, kSelectedAndFocused);
+    return DeselectBut(RowSet({row, row + 1})) && ChangeState(row, kSelectedAndFocused, kSelectedAndFocused);
 }
 
 bool ListControl::Toggle(int row)
@@ -142,7 +142,7 @@ bool ListControl::ExtendTo(int row, bool add, bool allBetween)
     const auto [first, last] = std::minmax({m_rows.Anchor(), row});
     const RowSet wanted = allBetween ? RowSet({first, last + 1}) : RowsOf(m_layout.BlockBetween(first, last));
 
-    if (!add && !Deselect(m_rows.Selected().Without(wanted)))
+    if (!add && !DeselectBut(wanted))
         return false;
     return Select(wanted) && ChangeState(row, LVIS_FOCUSED, LVIS_FOCUSED);
 }

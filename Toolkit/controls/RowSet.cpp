@@ -103,4 +103,13 @@ RowSet RowSet::Without(const RowSet& other) const
     return rest;
 }
 
+RowSet RowSet::Within(const RowSet& other) const
+{
+    RowSet common;
+    for (const auto& [first, end] : other.m_ranges)
+        for (RowRange run = NextRange(first - 1); !run.IsEmpty() && run.first < end; run = NextRange(run.end))
+            common.Insert({run.first, std::min(run.end, end)});
+    return common;
+}
+
 } // namespace toolkit

@@ -39,6 +39,7 @@ public:
     void Clear();
 
     RowSet Without(const RowSet& other) const; // costs the ranges of both
+    RowSet Within(const RowSet& other) const;  // costs the other's ranges, and the ranges of the result
 
 private:
     static constexpr int kNoEnd = 0x7FFFFFFF;

@@ -81,6 +81,7 @@ TEST(RowSetTest, AgreesWithAPlainSetWhateverIsDone)
         for (const int row : rest)
             expected.Insert({row, row + 1});
         ASSERT_EQ(Text(expected), Text(rows.Without(other)));
+        ASSERT_EQ(Text(expected), Text(rows.Without(rows.Within(other))));
     }
 }
 
