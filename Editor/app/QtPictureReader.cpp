@@ -1,5 +1,7 @@
 #include "Editor/app/QtPictureReader.h"
 
+#include "Editor/model/FileText.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -8,7 +10,6 @@
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <system_error>
 
 namespace editor
 {
@@ -23,21 +24,16 @@ std::vector<std::string> KnownExtensions()
     return extensions;
 }
 
-std::string ReasonOf(int error)
-{
-    return std::generic_category().message(error);
-}
-
 // Opens the file by the very bytes of its name, which need not be UTF-8. Empty, or why it was not opened.
 std::string Open(QFile& file, const std::string& path)
 {
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0)
-        return ReasonOf(errno);
+        return SystemErrorText(errno);
     file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
     struct stat info;
     if (::fstat(descriptor, &info) != 0)
-        return ReasonOf(errno);
+        return SystemErrorText(errno);
     if (!S_ISREG(info.st_mode))
         return "not a regular file";
     return info.st_size == 0 ? "the file is empty" : "";

@@ -51,7 +51,7 @@ bool Screenshot::Keep()
 
 bool Screenshot::Fail(const QString& reason)
 {
-    m_error = m_path + ": " + reason.toStdString();
+    m_error = m_path + ": " + (reason.left(1).toLower() + reason.mid(1)).toStdString();
     return false;
 }
 

@@ -117,7 +117,7 @@ TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
     EXPECT_EQ("the file is empty", error("empty.gif"));
     EXPECT_EQ("not a regular file", error("pipe.png"));
     EXPECT_EQ("not a regular file", error("."));
-    EXPECT_EQ("No such file or directory", error("gone.png"));
+    EXPECT_EQ("no such file or directory", error("gone.png"));
     EXPECT_EQ("too large to decode: 10000 by 10000 pixels", error("huge.bmp"));
     EXPECT_TRUE(m_reader.Read(Path("half.png"), {50, 50}).picture.IsEmpty());
 }

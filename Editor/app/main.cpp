@@ -1,0 +1,87 @@
+// The reference editor's program.
+//
+// Shows a folder in a window. Without a display, or when a picture is asked for, it renders the same window into a
+// PNG file and ends. Exit status 2, after one line that says why, when nothing could be shown.
+#include "Editor/CommandLine.h"
+#include "Editor/EditorApp.h"
+#include "Editor/app/Display.h"
+#include "Editor/app/QtPictureReader.h"
+#include "Editor/app/Screenshot.h"
+#include "Editor/model/FileText.h"
+#include "QtDesktop/QtDesktop.h"
+
+#include <QApplication>
+#include <cstdio>
+
+namespace
+{
+
+constexpr int kNothingShown = 2;
+
+int Refuse(const std::string& reason)
+{
+    std::fprintf(stderr, "editor: %s\n", editor::ToShown(reason).c_str()); // one line, whatever a name holds
+    return kNothingShown;
+}
+
+// Qt's warnings speak of its own affairs, and of pictures whose trouble the editor tells itself.
+void ShowOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& message)
+{
+    if (type == QtCriticalMsg || type == QtFatalMsg)
+        std::fprintf(stderr, "editor: %s\n", qPrintable(message));
+}
+
+int Show(QApplication& application, const editor::CommandLine& line)
+{
+    const editor::QtPictureReader reader;
+    qtdesktop::QtDesktop desktop;
+    editor::EditorApp editor(reader, {.size = line.size, .onClosed = [&] { application.quit(); }});
+    if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
+        return Refuse(error);
+    return application.exec();
+}
+
+int TakeScreenshot(const editor::CommandLine& line, const std::string& trouble)
+{
+    editor::Screenshot screenshot(line.screenshot);
+    if (!screenshot.GetError().empty())
+        return Refuse(screenshot.GetError());
+
+    const editor::QtPictureReader reader;
+    qtdesktop::QtDesktop desktop;
+    editor::EditorApp editor(reader, {.size = line.size, .onClosed = {}});
+    if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
+        return Refuse(error);
+    QCoreApplication::processEvents(); // the window takes its place
+    editor.WaitUntilSettled();
+    if (!screenshot.Write(*desktop.FindWidget(editor.GetMainWindow())))
+        return Refuse(screenshot.GetError());
+    if (!trouble.empty())
+        std::printf("No window, for %s; its picture is in %s\n", trouble.c_str(), screenshot.GetPath().c_str());
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    editor::CommandLine line = editor::ParseCommandLine({argv + 1, argv + argc});
+    if (!line.error.empty())
+        return Refuse(line.error);
+    if (line.help) {
+        std::printf("%s", editor::CommandLineHelp().c_str());
+        return 0;
+    }
+    if (line.folder.empty())
+        line.folder = editor::DefaultFolder();
+
+    const editor::Display display = line.screenshot.empty() ? editor::FindDisplay() : editor::Display();
+    const std::string platform = display.usable ? display.platform : "offscreen";
+    if (!platform.empty())
+        qputenv("QT_QPA_PLATFORM", platform.c_str());
+    qInstallMessageHandler(ShowOnlyTrouble);
+    QApplication application(argc, argv);
+    application.setApplicationName("Views");
+    application.setQuitOnLastWindowClosed(false); // the editor tells when it is closed
+    return display.usable ? Show(application, line) : TakeScreenshot(line, display.trouble);
+}
