@@ -32,14 +32,14 @@ BEGIN_MESSAGE_MAP(LedgerList, CListCtrl)
     ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, OnChanged)
     ON_NOTIFY_REFLECT(LVN_ODCACHEHINT, OnHint)
     ON_NOTIFY_REFLECT(LVN_GETDISPINFO, OnDispInfo)
-    ON_NOTIFY_REFLECT(LVN_BEGINDRAG, OnBeginDrag)
-    ON_NOTIFY_REFLECT(LVN_BEGINRDRAG, OnBeginRDrag)
+    ON_NOTIFY_REFLECT(LVN_BEGINDRAG, OnDrag)
+    ON_NOTIFY_REFLECT(LVN_BEGINRDRAG, OnDrag)
     ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
-    ON_NOTIFY_REFLECT(NM_RCLICK, OnRClick)
-    ON_NOTIFY_REFLECT(NM_DBLCLK, OnDblClk)
-    ON_NOTIFY_REFLECT(NM_RETURN, OnReturn)
-    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnGotFocus)
-    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnLostFocus)
+    ON_NOTIFY_REFLECT(NM_RCLICK, OnClick)
+    ON_NOTIFY_REFLECT(NM_DBLCLK, OnClick)
+    ON_NOTIFY_REFLECT(NM_RETURN, OnEvent)
+    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
+    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -90,49 +90,21 @@ void LedgerList::OnDispInfo(NMLVDISPINFO* pInfo, LRESULT*)
         Write("show " + NameOf(row));
 }
 
-void LedgerList::OnBeginDrag(NMLISTVIEW* pDrag, LRESULT*)
+void LedgerList::OnDrag(NMLISTVIEW* pDrag, LRESULT*)
 {
-    Write("drag " + RowName(pDrag->iItem));
-}
-
-void LedgerList::OnBeginRDrag(NMLISTVIEW* pDrag, LRESULT*)
-{
-    Write("right drag " + RowName(pDrag->iItem));
+    Write((pDrag->hdr.code == LVN_BEGINDRAG ? "drag " : "right drag ") + NameOf(pDrag->iItem));
 }
 
 void LedgerList::OnClick(NMITEMACTIVATE* pClick, LRESULT*)
 {
-    Write("click " + (pClick->iItem < 0 ? "nothing" : NameOf(pClick->iItem)));
+    const UINT code = pClick->hdr.code;
+    const std::string kind = code == NM_CLICK ? "click " : code == NM_RCLICK ? "right click " : "double click ";
+    Write(kind + (pClick->iItem < 0 ? "nothing" : NameOf(pClick->iItem)));
 }
 
-void LedgerList::OnRClick(NMITEMACTIVATE* pClick, LRESULT*)
+void LedgerList::OnEvent(NMHDR* pHeader, LRESULT*)
 {
-    Write("right click " + (pClick->iItem < 0 ? "nothing" : NameOf(pClick->iItem)));
-}
-
-void LedgerList::OnDblClk(NMITEMACTIVATE* pClick, LRESULT*)
-{
-    Write("double click " + (pClick->iItem < 0 ? "nothing" : NameOf(pClick->iItem)));
-}
-
-void LedgerList::OnReturn(NMHDR*, LRESULT*)
-{
-    Write("return");
-}
-
-void LedgerList::OnGotFocus(NMHDR*, LRESULT*)
-{
-    Write("focus comes");
-}
-
-void LedgerList::OnLostFocus(NMHDR*, LRESULT*)
-{
-    Write("focus goes");
-}
-
-void LedgerList::OnContextMenu(CWnd*, CPoint)
-{
-    Write("menu");
+    Write(pHeader->code == NM_RETURN ? "return" : pHeader->code == NM_SETFOCUS ? "focus comes" : "focus goes");
 }
 
 void ListControlTest::SetUp()

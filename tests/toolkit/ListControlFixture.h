@@ -30,15 +30,10 @@ protected:
     afx_msg void OnChanged(NMLISTVIEW* pChange, LRESULT* pResult);
     afx_msg void OnHint(NMLVCACHEHINT* pHint, LRESULT* pResult);
     afx_msg void OnDispInfo(NMLVDISPINFO* pInfo, LRESULT* pResult);
-    afx_msg void OnBeginDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
-    afx_msg void OnBeginRDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
+    afx_msg void OnDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
     afx_msg void OnClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
-    afx_msg void OnRClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
-    afx_msg void OnDblClk(NMITEMACTIVATE* pClick, LRESULT* pResult);
-    afx_msg void OnReturn(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnGotFocus(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnLostFocus(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
+    afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()
 
 private:

@@ -28,6 +28,12 @@ protected:
         return TakeLedger();
     }
 
+    static void ExpectSame(const Surface& a, const Surface& b)
+    {
+        for (int y = 0; y < a.Height(); ++y)
+            ASSERT_TRUE(std::equal(a.Row(y), a.Row(y) + a.Width(), b.Row(y))) << "line " << y;
+    }
+
     COLORREF ColorAt(CPoint client) { return ToColor(desktop.Dump(list.m_hWnd).At(client.x, client.y)); }
 
     CRect Part(int row, int area) const
@@ -70,22 +76,30 @@ TEST_F(ListControlViewTest, WithControlTheRubberBandTogglesAgainstWhatItBeganWit
     desktop.MoveTo(list.m_hWnd, {160, 130}); // over e instead
     EXPECT_EQ("abe", Selected());
     desktop.Release(list.m_hWnd, {160, 130});
-    Drag({105, 90}, {10, 130}, kShift); // over d, beside the rest
+    Drag({105, 90}, {10, 10}, kShift); // over a, which stays
+    desktop.MoveTo(list.m_hWnd, {10, 130});
     EXPECT_EQ("abde", Selected());
-    desktop.Release(list.m_hWnd, {10, 130});
+    desktop.MoveTo(list.m_hWnd, {10, 10});
+    EXPECT_EQ("abe", Selected());
+    desktop.Release(list.m_hWnd, {10, 10});
 }
 
 TEST_F(ListControlViewTest, TheRubberBandScrollsTheListAtItsEdge)
 {
     Drag(kEmpty, {230, 330});
     EXPECT_EQ("behk", Selected());
+    desktop.Advance(150);
+    const CRect before = Part(0, LVIR_ICON);
+    EXPECT_GT(0, before.top);
+    desktop.MoveTo(list.m_hWnd, {230, 200});
+    desktop.Advance(2000);
+    EXPECT_EQ(before, Part(0, LVIR_ICON)); // inside again, it stays
+    desktop.MoveTo(list.m_hWnd, {230, 330});
     desktop.Advance(2000);
     EXPECT_EQ(10, list.GetSelectedCount()); // down to the last line
     EXPECT_EQ(28, list.GetNextItem(27, LVNI_SELECTED));
     const int scrolled = list.GetTopIndex();
     desktop.MoveTo(list.m_hWnd, {230, 200});
-    desktop.Advance(2000);
-    EXPECT_EQ(scrolled, list.GetTopIndex()); // inside again, it stays
     desktop.Wheel(list.m_hWnd, {230, 200}, 1);
     EXPECT_GT(scrolled, list.GetTopIndex()); // the corner stays under the mouse
     EXPECT_GT(10, list.GetSelectedCount());
@@ -106,14 +120,16 @@ TEST_F(ListControlViewTest, TheRubberBandIsDrawnAndLeavesNoTrace)
     desktop.MoveTo(list.m_hWnd, {300, 250});
     desktop.Wheel(list.m_hWnd, {300, 250}, -1);
     desktop.Wheel(list.m_hWnd, {300, 250}, 1);
+    desktop.MoveTo(list.m_hWnd, {296, 254});
+    const Surface drawn = desktop.Dump(list.m_hWnd);
+    list.Invalidate();
+    ExpectSame(drawn, desktop.Dump(list.m_hWnd));
     other.SetFocus(); // ends it
     EXPECT_EQ(nullptr, GetCapture());
     list.SetItemState(-1, 0, LVIS_SELECTED);
     list.SetFocus();
 
-    const Surface after = desktop.Dump(list.m_hWnd);
-    for (int y = 0; y < before.Height(); ++y)
-        ASSERT_TRUE(std::equal(before.Row(y), before.Row(y) + before.Width(), after.Row(y))) << "line " << y;
+    ExpectSame(before, desktop.Dump(list.m_hWnd));
 }
 
 TEST_F(ListControlViewTest, AListThatKeepsMouseMovesAndTimersIsDraggedAndBandedAllTheSame)
@@ -161,8 +177,8 @@ TEST_F(ListControlViewTest, APointHitsExactlyWhatWasPainted)
 TEST_F(ListControlViewTest, OnlyRowsInSightAreAskedFor)
 {
     EXPECT_EQ(Ledger({"hint d-d", "show d"}), Paints([&] { list.Update(3); }));
-    EXPECT_EQ(Ledger({"hint b-e", "show b", "show e"}), Paints([&] {
-                  list.Update(1);
+    EXPECT_EQ(Ledger({"hint a-e", "show a", "show e"}), Paints([&] {
+                  list.Update(0);
                   list.Update(4);
               }));
     EXPECT_EQ(Ledger(), Paints([&] { list.Update(29); }));
@@ -204,10 +220,10 @@ TEST_F(ListControlViewTest, TheScrollBarIsThereOnlyWhenItIsNeeded)
     EXPECT_EQ(330, width());
     list.SetItemCount(10);
     EXPECT_GT(330, width());
-    list.MoveWindow(CRect(0, 0, 440, 300)); // four columns, if the bar does not take the room
-    EXPECT_EQ(440, width());
-    list.MoveWindow(CRect(0, 0, 440, 200));
-    EXPECT_GT(440, width());
+    list.MoveWindow(CRect(0, 0, 405, 300)); // four columns, if the bar does not take the room
+    EXPECT_EQ(405, width());
+    list.MoveWindow(CRect(0, 0, 405, 200));
+    EXPECT_GT(405, width());
 }
 
 TEST_F(ListControlViewTest, SelectedRowsAreGreyWithoutTheFocus)

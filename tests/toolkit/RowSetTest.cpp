@@ -21,26 +21,6 @@ std::string Text(const RowSet& rows)
     return text.str();
 }
 
-TEST(RowSetTest, NeighboursBecomeOneRangeAndAHoleSplitsIt)
-{
-    RowSet rows;
-    rows.Insert({3, 4});
-    rows.Insert({5, 6});
-    EXPECT_EQ("3 5", Text(rows));
-    rows.Insert({4, 5});
-    EXPECT_EQ("3-5", Text(rows));
-    rows.Insert({0, 10});
-    rows.Erase({4, 6});
-    EXPECT_EQ("0-3 6-9", Text(rows));
-    EXPECT_EQ(8, rows.Count());
-    rows.Truncate(7);
-    EXPECT_EQ("0-3 6", Text(rows));
-    EXPECT_EQ("1-2", Text(rows.Without(RowSet({3, 9})).Without(RowSet({0, 1}))));
-    rows.Insert({2, 2}); // empty
-    rows.Erase({9, 2});
-    EXPECT_EQ(5, rows.Count());
-}
-
 TEST(RowSetTest, TheLastRowOfTheLongestListIsLikeAnyOther)
 {
     constexpr int kMost = 0x7FFFFFFF;
@@ -83,26 +63,6 @@ TEST(RowSetTest, AgreesWithAPlainSetWhateverIsDone)
         ASSERT_EQ(Text(expected), Text(rows.Without(other)));
         ASSERT_EQ(Text(expected), Text(rows.Without(rows.Within(other))));
     }
-}
-
-TEST(RowStatesTest, TheNextRowHasAllTheStatesAskedFor)
-{
-    RowStates rows;
-    rows.SetCount(10);
-    rows.Set(2, LVIS_SELECTED, LVIS_SELECTED);
-    rows.Set(5, LVIS_SELECTED | LVIS_CUT, LVIS_SELECTED | LVIS_CUT);
-    rows.Set(7, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-    rows.Set(8, LVIS_CUT, LVIS_CUT);
-
-    EXPECT_EQ(2, rows.Next(-1, LVIS_SELECTED));
-    EXPECT_EQ(5, rows.Next(2, LVIS_SELECTED));
-    EXPECT_EQ(5, rows.Next(-1, LVIS_SELECTED | LVIS_CUT));
-    EXPECT_EQ(-1, rows.Next(5, LVIS_SELECTED | LVIS_CUT));
-    EXPECT_EQ(7, rows.Next(-1, LVIS_FOCUSED | LVIS_SELECTED));
-    EXPECT_EQ(-1, rows.Next(-1, LVIS_FOCUSED | LVIS_CUT));
-    EXPECT_EQ(-1, rows.Next(7, LVIS_FOCUSED));
-    EXPECT_EQ(9, rows.Next(8, 0));
-    EXPECT_EQ(-1, rows.Next(9, 0));
 }
 
 TEST(RowStatesTest, AShorterListForgetsWhatLayBeyondIt)
