@@ -38,6 +38,24 @@ int WidthWithoutScrollBar(HWND hWnd)
     return rect.Width() - EdgeWidth(hWnd);
 }
 
+// Holds a flag of a window's object up; lets it down at the end unless the window is gone.
+class Raised
+{
+public:
+    Raised(HWND hWnd, bool& flag) : m_hWnd(hWnd), m_flag(flag) { m_flag = true; }
+    ~Raised()
+    {
+        if (IsWindow(m_hWnd))
+            m_flag = false;
+    }
+    Raised(const Raised&) = delete;
+    Raised& operator=(const Raised&) = delete;
+
+private:
+    const HWND m_hWnd;
+    bool& m_flag;
+};
+
 } // namespace
 
 bool ListControl::Relayout()
@@ -47,7 +65,7 @@ bool ListControl::Relayout()
 
     const HWND hWnd = m_hWnd;
     const int columns = m_layout.Columns();
-    m_bInRelayout = true;
+    const Raised inRelayout(hWnd, m_bInRelayout);
     CSize client;
     do {
         client = ClientSize(hWnd);
@@ -55,7 +73,6 @@ bool ListControl::Relayout()
         if (!UpdateScrollBar())
             return false;
     } while (!(ClientSize(hWnd) == client));
-    m_bInRelayout = false;
     if (m_layout.Columns() != columns && m_band)
         EndTracking(); // its cells are no longer where they were
     return true;

@@ -16,7 +16,7 @@ public:
     int GetNextItem(int nItem, UINT nFlags) const;
     int GetSelectedCount() const { return static_cast<int>(SendMessage(LVM_GETSELECTEDCOUNT)); }
     UINT GetItemState(int nItem, UINT nMask) const;
-    BOOL SetItemState(int nItem, UINT nState, UINT nMask); // row -1: all rows
+    BOOL SetItemState(int nItem, UINT nState, UINT nMask);     // row -1: all rows
     BOOL GetItemRect(int nItem, RECT* pRect, int nArea) const; // client; FALSE without that row
     int HitTest(CPoint pt, UINT* pFlags = nullptr) const;      // client; the row, -1 on none
     BOOL EnsureVisible(int nItem, BOOL bPartialOK);

@@ -27,7 +27,7 @@ inline constexpr UINT LVM_ENSUREVISIBLE = LVM_FIRST + 19; // wParam: row, lParam
 inline constexpr UINT LVM_SCROLL = LVM_FIRST + 20;        // wParam, lParam: pixels
 inline constexpr UINT LVM_REDRAWITEMS = LVM_FIRST + 21;   // wParam, lParam: first and last row
 inline constexpr UINT LVM_ARRANGE = LVM_FIRST + 22;
-inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23;     // wParam: row; the edit field or NULL
+inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23; // wParam: row; the edit field or NULL
 inline constexpr UINT LVM_GETEDITCONTROL = LVM_FIRST + 24;
 inline constexpr UINT LVM_GETTOPINDEX = LVM_FIRST + 39;
 inline constexpr UINT LVM_GETCOUNTPERPAGE = LVM_FIRST + 40;
@@ -41,7 +41,7 @@ inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width
 
 inline constexpr int LVSIL_NORMAL = 0;
 inline constexpr UINT LVA_DEFAULT = 0;
-inline constexpr int LVIR_BOUNDS = 0;
+inline constexpr int LVIR_BOUNDS = 0; // picture and label
 inline constexpr int LVIR_ICON = 1;
 inline constexpr int LVIR_LABEL = 2;
 
@@ -91,8 +91,8 @@ inline constexpr UINT LVN_ITEMCHANGING = LVN_FIRST - 0; // NMLISTVIEW
 inline constexpr UINT LVN_ITEMCHANGED = LVN_FIRST - 1;  // NMLISTVIEW
 inline constexpr UINT LVN_BEGINLABELEDIT = LVN_FIRST - 5;
 inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;
-inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;   // NMLISTVIEW: the row pressed and where
-inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11; // the same with the right button
+inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;    // NMLISTVIEW: the row pressed and where
+inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11;  // the same with the right button
 inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13; // NMLVCACHEHINT: rows about to be drawn
 inline constexpr UINT LVN_GETDISPINFO = LVN_FIRST - 50; // NMLVDISPINFO: fill in what item.mask asks for
 
