@@ -42,7 +42,7 @@ public:
     BOOL GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const; // FALSE inside a collapsed branch
     HTREEITEM HitTest(CPoint pt, UINT* pFlags = nullptr) const;           // NULL where no item's row is
     HTREEITEM HitTest(TVHITTESTINFO* pInfo) const;
-    BOOL EnsureVisible(HTREEITEM hItem);
+    BOOL EnsureVisible(HTREEITEM hItem); // TRUE when it only had to scroll
 
     HTREEITEM InsertItem(TVINSERTSTRUCT* pInsert);
     HTREEITEM InsertItem(LPCSTR pszText, HTREEITEM hParent = TVI_ROOT, HTREEITEM hInsertAfter = TVI_LAST);

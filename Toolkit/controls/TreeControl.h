@@ -1,0 +1,249 @@
+// The control behind WC_TREEVIEW.
+//
+// Every notification may come back with other messages, delete items or destroy the window. So whatever notifies gives
+// false when the window is gone: nothing of the object may be touched then. Across a notification an item is kept as a
+// handle and looked up again, and nothing is taken for granted that was known before it.
+#pragma once
+
+#include "Toolkit/controls/TreeItems.h"
+#include "Toolkit/controls/TreeLayout.h"
+#include "Toolkit/graphics/ImageList.h"
+#include "Toolkit/window/NativeWindow.h"
+
+#include <optional>
+#include <string>
+
+namespace toolkit
+{
+
+class TreeControl : public NativeWindow
+{
+public:
+    explicit TreeControl(HWND hWnd) : NativeWindow(hWnd) {}
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+
+private:
+    using Handler = LRESULT (TreeControl::*)(WPARAM, LPARAM);
+
+    // What the owner shows in an item; as far as it was asked for.
+    struct Face
+    {
+        std::string text;
+        int image = -1, selectedImage = -1; // -1: none
+        bool hasChildren = false;
+    };
+    struct Hit
+    {
+        HTREEITEM hItem = nullptr;
+        UINT flags = TVHT_NOWHERE;
+    };
+    // A button is down on an item's picture or label, or beside every item, and it is not yet known whether it will
+    // click or drag. What is pressed looks selected.
+    struct Press
+    {
+        Hit hit;
+        CPoint at;
+        bool right;
+    };
+    // The labels typed for, and when the last letter came.
+    struct Search
+    {
+        std::string text;
+        DWORD at = 0;
+    };
+
+    // Counts something that is under way, as long as the window lives.
+    class UnderWay
+    {
+    public:
+        UnderWay(HWND hWnd, int& count) : m_hWnd(hWnd), m_count(count) { ++m_count; }
+        ~UnderWay()
+        {
+            if (IsWindow(m_hWnd))
+                --m_count;
+        }
+        UnderWay(const UnderWay&) = delete;
+        UnderWay& operator=(const UnderWay&) = delete;
+
+    private:
+        const HWND m_hWnd;
+        int& m_count;
+    };
+
+    class NewItem;
+
+    static Handler FindHandler(UINT message);
+    bool Is(DWORD style) const { return (GetWindowStyle(m_hWnd) & style) != 0; }
+    bool IsFocused() const { return GetFocus() == m_hWnd; }
+
+    // Life and looks of the whole.
+    LRESULT OnCreate(WPARAM, LPARAM);
+    LRESULT OnDestroy(WPARAM, LPARAM);
+    LRESULT OnStyleChanged(WPARAM, LPARAM);
+    LRESULT OnGetImageList(WPARAM wParam, LPARAM);
+    LRESULT OnSetImageList(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGetIndent(WPARAM, LPARAM) { return TreeLayout::kIndent; }
+    LRESULT OnGetItemHeight(WPARAM, LPARAM) { return m_layout.RowHeight(); }
+    void Measure(); // takes over the text's and the pictures' height
+
+    // Items: making, changing, asking.
+    LRESULT OnInsertItem(WPARAM, LPARAM lParam);
+    LRESULT OnGetItem(WPARAM, LPARAM lParam);
+    LRESULT OnSetItem(WPARAM, LPARAM lParam);
+    LRESULT OnGetItemState(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGetCount(WPARAM, LPARAM) { return m_items.Count(); }
+    LRESULT OnGetNextItem(WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] bool Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew);
+    [[nodiscard]] bool FindPlace(HTREEITEM hNew, HTREEITEM hParent, HTREEITEM hInsertAfter, int& place);
+    [[nodiscard]] bool ShowPlaced(ItemIndex item, ItemIndex parent);
+    void Assign(ItemIndex item, const TVITEM& from);
+    void SetState(ItemIndex item, UINT state, UINT mask);
+    void CountDropMark(ItemIndex item);
+    ItemIndex Neighbour(UINT code, HTREEITEM hItem) const;
+    int RowAbove(ItemIndex item) const;
+
+    // Sorting. The place is the one before the first child whose label is greater. A parent is NULL for the root.
+    [[nodiscard]] bool FindSortedPlace(HTREEITEM hNew, HTREEITEM hParent, int& place);
+    [[nodiscard]] bool Bisect(const std::string& label, HTREEITEM hParent, int& place);
+    [[nodiscard]] bool LookThrough(const std::string& label, HTREEITEM hParent, int& place);
+    LRESULT OnSortChildren(WPARAM, LPARAM lParam);
+    LRESULT OnSortChildrenCB(WPARAM, LPARAM lParam);
+    void DoubtOrder(ItemIndex parent);
+    [[nodiscard]] bool Rearrange(ItemIndex parent, std::span<const ItemIndex> order);
+
+    // Deleting.
+    LRESULT OnDeleteItem(WPARAM, LPARAM lParam);
+    [[nodiscard]] bool DeleteBranch(HTREEITEM hTop);
+    [[nodiscard]] bool DeleteChildren(ItemIndex parent);
+    [[nodiscard]] bool MoveSelectionOutOf(HTREEITEM hItem);
+    [[nodiscard]] bool Remove(HTREEITEM hItem); // a leaf that was announced
+    bool IsGoing(ItemIndex item) const { return m_nDeleting > 0 && m_items.Goes(item); }
+
+    // Selection and drop highlight.
+    LRESULT OnSelectItem(WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] bool Select(HTREEITEM hItem, UINT cause, bool* pDone = nullptr);
+    bool MaySelect(HTREEITEM hItem) const;
+    void SetCaret(HTREEITEM hItem); // tells nobody
+    void SetDropTarget(HTREEITEM hItem);
+
+    // Expanding.
+    LRESULT OnExpand(WPARAM wParam, LPARAM lParam);
+    [[nodiscard]] bool Expand(HTREEITEM hItem, UINT code, UINT cause, bool* pChanged = nullptr);
+    [[nodiscard]] bool ShowChildren(HTREEITEM hItem, bool expanded, UINT cause, bool& changed);
+    [[nodiscard]] bool ForgetChildren(HTREEITEM hItem);
+    [[nodiscard]] bool ExpandAncestors(HTREEITEM hItem, bool* pExpanded = nullptr);
+    [[nodiscard]] bool ExpandBranch(HTREEITEM hItem);
+
+    // Scrolling.
+    LRESULT OnSize(WPARAM, LPARAM);
+    LRESULT OnVScroll(WPARAM wParam, LPARAM);
+    LRESULT OnHScroll(WPARAM wParam, LPARAM);
+    LRESULT OnMouseWheel(WPARAM wParam, LPARAM);
+    LRESULT OnEnsureVisible(WPARAM, LPARAM lParam);
+    LRESULT OnGetVisibleCount(WPARAM, LPARAM) { return m_layout.FullRows(); }
+    [[nodiscard]] bool RowsChanged(); // keeps the item at the top where it is, as long as that is not the first row
+    [[nodiscard]] bool Relayout();    // the client area, the rows or the width are new
+    [[nodiscard]] bool UpdateBarAtSide(int height);
+    [[nodiscard]] bool UpdateBarBelow();
+    [[nodiscard]] bool UpdateBar(int nBar, const SCROLLINFO& info);
+    [[nodiscard]] bool ScrollToRow(int row);
+    [[nodiscard]] bool ScrollToX(int x);
+    [[nodiscard]] bool ScrollIntoView(HTREEITEM hItem);
+    [[nodiscard]] bool Reveal(HTREEITEM hItem, bool* pExpanded = nullptr); // expands ancestors and scrolls
+    void KeepTopRow();                                                     // whatever item comes to lie there
+    void ForgetWidth();
+
+    // Places.
+    LRESULT OnGetItemRect(WPARAM wParam, LPARAM lParam);
+    LRESULT OnHitTest(WPARAM, LPARAM lParam);
+    [[nodiscard]] bool HitTest(CPoint client, Hit& hit);
+    [[nodiscard]] bool HitTestRow(CPoint client, int row, Hit& hit);
+    UINT Outside(CPoint client) const; // TVHT_ABOVE and its like; 0 inside
+    bool HasLinesAt(int level) const { return level > 0 || Is(TVS_LINESATROOT); }
+    bool HasButtonAt(int level) const { return Is(TVS_HASBUTTONS) && HasLinesAt(level); }
+    FontStyle FontOf(ItemIndex item) const;
+    int TextWidth(ItemIndex item, const std::string& text) const;
+
+    // Painting.
+    LRESULT OnPaint(WPARAM, LPARAM);
+    LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
+    // How wide the content is in these rows, and whether they were all that are in sight.
+    [[nodiscard]] bool DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& complete);
+    [[nodiscard]] bool TakeWidth(int width, bool complete);
+    int DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) const; // the label's right end, in the content
+    void DrawLines(HDC hdc, int row, int level, ItemIndex item) const;
+    void DrawButton(HDC hdc, const CRect& slot, bool expanded) const;
+    void DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const;
+    void DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const;
+    enum class Mark
+    {
+        None,
+        Grey,
+        Full
+    };
+    Mark MarkOf(ItemIndex item) const;
+    void Redraw(HTREEITEM hItem);
+    void RedrawFrom(int row); // and all below it
+    void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
+
+    // Mouse.
+    LRESULT OnLButtonDown(WPARAM, LPARAM lParam);
+    LRESULT OnLButtonUp(WPARAM, LPARAM);
+    LRESULT OnLButtonDblClk(WPARAM, LPARAM lParam);
+    LRESULT OnRButtonDown(WPARAM, LPARAM lParam);
+    LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
+    LRESULT OnMouseMove(WPARAM, LPARAM lParam);
+    LRESULT OnCaptureChanged(WPARAM, LPARAM);
+    [[nodiscard]] bool TakeFocus();
+    [[nodiscard]] bool BeginPress(const Hit& hit, CPoint at, bool right);
+    [[nodiscard]] bool CancelPress(); // and gives the capture back
+    void BeginDrag();
+
+    // Keys and focus.
+    LRESULT OnSetFocus(WPARAM, LPARAM);
+    LRESULT OnKillFocus(WPARAM, LPARAM);
+    LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
+    LRESULT OnKeyUp(WPARAM wParam, LPARAM lParam);
+    LRESULT OnChar(WPARAM wParam, LPARAM);
+    [[nodiscard]] bool DoKey(UINT vkey, bool& handled);
+    [[nodiscard]] bool ScrollByKey(UINT vkey, bool& handled);
+    [[nodiscard]] bool MoveTo(ItemIndex item)
+    {
+        return item == kNoItem || Select(m_items.HandleOf(item), TVC_BYKEYBOARD);
+    }
+    int RowByKey(UINT vkey) const;
+    bool IsOpen(ItemIndex item) const;
+    [[nodiscard]] bool SearchFor(const std::string& letter);
+    [[nodiscard]] bool FindLabel(std::string prefix, bool afterCaret, HTREEITEM& hFound);
+
+    // Notifications. All give false when the window is gone.
+    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const;
+    [[nodiscard]] bool TellPlain(UINT code, LRESULT* pAnswer = nullptr) const;
+    [[nodiscard]] bool TellSelection(UINT code, HTREEITEM hOld, HTREEITEM hNew, UINT cause, LRESULT* pAnswer) const;
+    [[nodiscard]] bool TellItem(UINT code, HTREEITEM hItem, UINT action, LRESULT* pAnswer = nullptr) const;
+    [[nodiscard]] bool TellKey(UINT vkey, LPARAM lParam, LRESULT* pAnswer) const;
+    // Fills in the parts asked for (TVIF_*); none of them when the item is gone.
+    [[nodiscard]] bool AskFace(HTREEITEM hItem, UINT parts, Face& face);
+    [[nodiscard]] bool AskOwner(HTREEITEM hItem, UINT parts, Face& face);
+    UINT PartsToAsk(const TreeItem& item, UINT parts) const;
+    TVITEM Describe(HTREEITEM hItem) const;
+
+    TreeItems m_items;
+    TreeLayout m_layout;
+    HIMAGELIST m_hImages = nullptr; // the owner's
+    HTREEITEM m_hCaret = nullptr;
+    HTREEITEM m_hDropTarget = nullptr;
+    HTREEITEM m_hTop = nullptr; // in the top row
+    int m_nDropMarks = 0;       // items with TVIS_DROPHILITED
+    int m_nSelecting = 0;       // changes of the selection under way
+    int m_nDeleting = 0;        // deletions under way
+    int m_nRelayouts = 0;       // under way, and of scroll bars
+    std::optional<Press> m_press;
+    Search m_search;
+    int m_nWheelRest = 0;        // of the wheel's turn, in rows times WHEEL_DELTA
+    bool m_bWidthStale = false;  // what made the content as wide as it is may be gone
+    bool m_bCharIsTaken = false; // the key that is down was a command, or its owner kept it from the search
+};
+
+} // namespace toolkit

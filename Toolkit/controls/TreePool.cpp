@@ -1,0 +1,66 @@
+#include "Toolkit/controls/TreePool.h"
+
+namespace toolkit
+{
+
+TreePool::TreePool()
+{
+    m_blocks.push_back(std::make_unique<TreeItem[]>(kBlock));
+    m_nUsed = kRootItem + 1;
+    TreeItem& root = (*this)[kRootItem];
+    root.live = root.placed = true;
+    root.state = TVIS_EXPANDED;
+}
+
+ItemIndex TreePool::Take()
+{
+    ItemIndex i = m_firstFree;
+    if (i != kNoItem) {
+        m_firstFree = (*this)[i].up;
+        if (m_firstFree == kNoItem)
+            m_lastFree = kNoItem;
+        (*this)[i].up = kNoItem;
+    } else {
+        if (m_nUsed >> kIndexBits != 0)
+            return kNoItem;
+        if (m_nUsed / kBlock == m_blocks.size())
+            m_blocks.push_back(std::make_unique<TreeItem[]>(kBlock));
+        i = m_nUsed++;
+    }
+    (*this)[i].live = true;
+    ++m_nLive;
+    return i;
+}
+
+void TreePool::GiveBack(ItemIndex i)
+{
+    TreeItem& item = (*this)[i];
+    const WORD generation = item.generation;
+    item = TreeItem();
+    item.generation = generation == kMaxGeneration ? 1 : generation + 1;
+    if (m_lastFree != kNoItem)
+        (*this)[m_lastFree].up = i;
+    else
+        m_firstFree = i;
+    m_lastFree = i;
+    --m_nLive;
+}
+
+HTREEITEM TreePool::HandleOf(ItemIndex i) const
+{
+    if (i == kNoItem || i == kRootItem)
+        return nullptr;
+    return reinterpret_cast<HTREEITEM>(static_cast<UINT_PTR>((*this)[i].generation) << kIndexBits | i);
+}
+
+ItemIndex TreePool::Find(HTREEITEM hItem) const
+{
+    constexpr UINT_PTR kIndexMask = (UINT_PTR{1} << kIndexBits) - 1;
+    const UINT_PTR i = reinterpret_cast<UINT_PTR>(hItem) & kIndexMask;
+    if (i >= m_nUsed || i <= kRootItem)
+        return kNoItem;
+    const auto index = static_cast<ItemIndex>(i);
+    return (*this)[index].live && HandleOf(index) == hItem ? index : kNoItem;
+}
+
+} // namespace toolkit

@@ -1,0 +1,276 @@
+#include "tests/toolkit/TreeControlFixture.h"
+
+using namespace toolkit;
+
+namespace
+{
+constexpr int kControlID = 7;
+constexpr int kRowHeight = 20;
+} // namespace
+
+BEGIN_MESSAGE_MAP(LedgerTree, CTreeCtrl)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGING, OnSelChanging)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGED, OnSelChanged)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnExpanding)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDED, OnExpanded)
+    ON_NOTIFY_REFLECT(TVN_DELETEITEM, OnDelete)
+    ON_NOTIFY_REFLECT(TVN_BEGINDRAG, OnBeginDrag)
+    ON_NOTIFY_REFLECT(TVN_BEGINRDRAG, OnBeginRDrag)
+    ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnDispInfo)
+    ON_NOTIFY_REFLECT(TVN_KEYDOWN, OnTreeKey)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
+    ON_NOTIFY_REFLECT(NM_RCLICK, OnRClick)
+    ON_NOTIFY_REFLECT(NM_DBLCLK, OnDblClk)
+    ON_NOTIFY_REFLECT(NM_RETURN, OnReturn)
+    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnGotFocus)
+    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnLostFocus)
+    ON_WM_CONTEXTMENU()
+END_MESSAGE_MAP()
+
+HTREEITEM LedgerTree::Add(const std::string& name, HTREEITEM hParent, HTREEITEM hInsertAfter)
+{
+    m_names.push_back(name);
+    TVINSERTSTRUCT insert{};
+    insert.hParent = hParent;
+    insert.hInsertAfter = hInsertAfter;
+    insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN | TVIF_PARAM;
+    insert.item.pszText = LPSTR_TEXTCALLBACK;
+    insert.item.iImage = insert.item.iSelectedImage = I_IMAGECALLBACK;
+    insert.item.cChildren = I_CHILDRENCALLBACK;
+    insert.item.lParam = reinterpret_cast<LPARAM>(&m_names.back());
+    return InsertItem(&insert);
+}
+
+std::string& LedgerTree::NameOf(HTREEITEM hItem) const
+{
+    static std::string none;
+    none = "-";
+    return hItem ? *reinterpret_cast<std::string*>(GetItemData(hItem)) : none;
+}
+
+HTREEITEM LedgerTree::Find(const std::string& name) const
+{
+    HTREEITEM hItem = GetRootItem();
+    while (hItem && NameOf(hItem) != name) {
+        HTREEITEM hNext = GetChildItem(hItem);
+        for (; !hNext && hItem; hItem = GetParentItem(hItem))
+            hNext = GetNextSiblingItem(hItem);
+        hItem = hNext;
+    }
+    return hItem;
+}
+
+void LedgerTree::Write(const std::string& line, LRESULT* pResult)
+{
+    book.Write(line);
+    if (pResult)
+        *pResult = refuses(line);
+    meanwhile(line);
+}
+
+void LedgerTree::WriteChange(const char* verb, const NMTREEVIEW& change, LRESULT* pResult)
+{
+    const char* const causes[] = {"", " by mouse", " by key"};
+    Write(verb + (" " + NameOf(change.itemOld.hItem)) + " -> " + NameOf(change.itemNew.hItem) + causes[change.action],
+          pResult);
+}
+
+void LedgerTree::WriteItem(const char* verb, const TVITEM& item, LRESULT* pResult)
+{
+    Write(std::string(verb) + " " + *reinterpret_cast<const std::string*>(item.lParam), pResult);
+}
+
+void LedgerTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    WriteChange("selecting", *pChange, pResult);
+}
+
+void LedgerTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    WriteChange("selected", *pChange, pResult);
+}
+
+void LedgerTree::OnExpanding(NMTREEVIEW* pNews, LRESULT* pResult)
+{
+    WriteItem(pNews->action == TVE_EXPAND ? "expanding" : "collapsing", pNews->itemNew, pResult);
+}
+
+void LedgerTree::OnExpanded(NMTREEVIEW* pNews, LRESULT*)
+{
+    WriteItem(pNews->action == TVE_EXPAND ? "expanded" : "collapsed", pNews->itemNew);
+}
+
+void LedgerTree::OnDelete(NMTREEVIEW* pNews, LRESULT*)
+{
+    WriteItem("deleted", pNews->itemOld);
+}
+
+void LedgerTree::OnBeginDrag(NMTREEVIEW* pDrag, LRESULT*)
+{
+    WriteItem("drag", pDrag->itemNew);
+}
+
+void LedgerTree::OnBeginRDrag(NMTREEVIEW* pDrag, LRESULT*)
+{
+    WriteItem("right drag", pDrag->itemNew);
+}
+
+void LedgerTree::OnDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
+{
+    static std::string shown; // the owner lends a text of its own
+    TVITEM& item = pInfo->item;
+    requested |= item.mask;
+    if (item.mask & TVIF_TEXT) {
+        ++labelRequests;
+        shown = *reinterpret_cast<const std::string*>(item.lParam);
+        item.pszText = shown.data();
+    }
+    item.iImage = 0;
+    item.iSelectedImage = 1;
+    item.cChildren = GetChildItem(item.hItem) != nullptr;
+    item.mask |= keeps;
+    asked(shown);
+}
+
+void LedgerTree::OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult)
+{
+    *pResult = refuses("key " + std::string(1, static_cast<char>(pKey->wVKey)));
+}
+
+void LedgerTree::OnClick(NMHDR*, LRESULT* pResult)
+{
+    Write("click", pResult);
+}
+
+void LedgerTree::OnRClick(NMHDR*, LRESULT* pResult)
+{
+    Write("right click", pResult);
+}
+
+void LedgerTree::OnDblClk(NMHDR*, LRESULT* pResult)
+{
+    Write("double click", pResult);
+}
+
+void LedgerTree::OnReturn(NMHDR*, LRESULT*)
+{
+    Write("return");
+}
+
+void LedgerTree::OnGotFocus(NMHDR*, LRESULT*)
+{
+    Write("focus comes");
+}
+
+void LedgerTree::OnLostFocus(NMHDR*, LRESULT*)
+{
+    Write("focus goes");
+}
+
+void LedgerTree::OnContextMenu(CWnd*, CPoint)
+{
+    Write("menu");
+}
+
+void TreeControlTest::SetUp()
+{
+    DesktopTest::SetUp();
+    ASSERT_TRUE(top.CreateEx(0, "", "", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 600, 320), nullptr, 0));
+    ASSERT_TRUE(tree.Create(WS_CHILD | WS_VISIBLE | TVS_SHOWSELALWAYS | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT,
+                            CRect(0, 0, 300, 10 * kRowHeight), &top, kControlID));
+    ASSERT_TRUE(other.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(400, 0, 500, 100), &top, kControlID + 1));
+
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32, 0, 4));
+    for (const COLORREF color : {RGB(255, 0, 0), RGB(0, 255, 0)}) {
+        const HBITMAP hPicture = CreateBitmapFromSurface(Surface({16, 16}, ToPixel(color)));
+        ImageList_Add(images.GetSafeHandle(), hPicture, nullptr);
+        DeleteBitmap(hPicture);
+    }
+    tree.SetImageList(&images, TVSIL_NORMAL);
+}
+
+void TreeControlTest::TearDown()
+{
+    desktop.Hold({});
+    images.DeleteImageList();
+    top.DestroyWindow();
+    DesktopTest::TearDown();
+}
+
+void TreeControlTest::Fill(const std::string& text)
+{
+    tree.DeleteAllItems();
+    std::vector<HTREEITEM> parents{TVI_ROOT};
+    std::vector<std::pair<HTREEITEM, char>> brackets;
+    HTREEITEM hLast = nullptr;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const char c = text[i];
+        if (c == '[' || c == '(') {
+            parents.push_back(hLast);
+        } else if (c == ']' || c == ')') {
+            if (c == ']')
+                tree.Expand(parents.back(), TVE_EXPAND);
+            parents.pop_back();
+        } else if (c != ' ') {
+            const std::size_t end = std::min(text.find_first_of(" []()", i), text.size());
+            hLast = tree.Add(text.substr(i, end - i), parents.back());
+            i = end - 1;
+        }
+    }
+    desktop.Run();
+    TakeLedger();
+}
+
+void TreeControlTest::Describe(HTREEITEM hItem, std::string& text) const
+{
+    for (; hItem; hItem = tree.GetNextSiblingItem(hItem)) {
+        if (!text.empty() && text.back() != '[' && text.back() != '(')
+            text += ' ';
+        text += (tree.GetItemState(hItem, TVIS_SELECTED) ? "*" : "") + tree.NameOf(hItem);
+        const HTREEITEM hChild = tree.GetChildItem(hItem);
+        if (!hChild)
+            continue;
+        const bool expanded = tree.GetItemState(hItem, TVIS_EXPANDED) != 0;
+        text += expanded ? " [" : " (";
+        Describe(hChild, text);
+        text += expanded ? ']' : ')';
+    }
+}
+
+std::string TreeControlTest::State() const
+{
+    std::string text;
+    Describe(tree.GetRootItem(), text);
+    return text;
+}
+
+CRect TreeControlTest::LabelOf(const std::string& name) const
+{
+    CRect rect;
+    EXPECT_TRUE(tree.GetItemRect(tree.Find(name), &rect, TRUE)) << name;
+    return rect;
+}
+
+CPoint TreeControlTest::IconOf(const std::string& name) const
+{
+    const CRect label = LabelOf(name);
+    return {label.left - 10, label.CenterPoint().y};
+}
+
+CPoint TreeControlTest::ButtonOf(const std::string& name) const
+{
+    return IconOf(name) - CPoint(20, 0);
+}
+
+std::string TreeControlTest::InRow(int row) const
+{
+    const HTREEITEM hItem = tree.HitTest(CPoint(2, row * kRowHeight + 1));
+    return tree.NameOf(hItem);
+}
+
+void TreeControlTest::Key(UINT vkey, Modifiers modifiers)
+{
+    desktop.Hold(modifiers);
+    desktop.Key(vkey);
+    desktop.Hold({});
+}

@@ -1,0 +1,175 @@
+// Where a tree puts its items: sorted insertion, how little it asks for it, and sorting what is there.
+#include "tests/support/AllocationFailures.h"
+#include "tests/toolkit/TreeControlFixture.h"
+
+using namespace toolkit;
+
+namespace
+{
+
+std::string Number(int n)
+{
+    const std::string digits = std::to_string(n);
+    return std::string(6 - digits.size(), '0') + digits;
+}
+
+int CompareBackwards(LPARAM one, LPARAM other, LPARAM)
+{
+    return reinterpret_cast<const std::string*>(other)->compare(*reinterpret_cast<const std::string*>(one));
+}
+
+int CompareFirstLetters(LPARAM one, LPARAM other, LPARAM)
+{
+    return *reinterpret_cast<const std::string*>(one)->data() - *reinterpret_cast<const std::string*>(other)->data();
+}
+
+TEST_F(TreeControlTest, AnItemIsPutWhereItsOwnerWantsIt)
+{
+    Fill("b [x] d");
+    tree.Add("a", TVI_ROOT, TVI_FIRST);
+    tree.Add("c", TVI_ROOT, (*this)["b"]);
+    tree.Add("y", (*this)["b"], (*this)["d"]); // no sibling: at the end
+    EXPECT_EQ("a b [x y] c d", State());
+    EXPECT_EQ(nullptr, tree.Add("z", reinterpret_cast<HTREEITEM>(-1)));
+    const HTREEITEM hGone = tree.Add("gone");
+    tree.DeleteItem(hGone);
+    EXPECT_EQ(nullptr, tree.Add("z", hGone));
+    EXPECT_EQ(6u, tree.GetCount());
+}
+
+TEST_F(TreeControlTest, SortedInsertionGoesBeforeTheFirstGreaterLabelIgnoringCase)
+{
+    Fill("");
+    for (const char* name : {"m", "B", "a", "Z", "b2", "A"})
+        tree.Add(name, TVI_ROOT, TVI_SORT);
+    EXPECT_EQ("a A B b2 m Z", State()); // an equal label stays behind its like
+
+    Fill("c a d"); // not in order: as it is
+    tree.Add("b", TVI_ROOT, TVI_SORT);
+    EXPECT_EQ("b c a d", State());
+    tree.Add("c5", TVI_ROOT, TVI_SORT);
+    EXPECT_EQ("b c a c5 d", State());
+    tree.NameOf((*this)["a"]) = "y"; // what was renamed counts by its new name
+    tree.Add("x", TVI_ROOT, TVI_SORT);
+    EXPECT_EQ("b c x y c5 d", State());
+}
+
+TEST_F(TreeControlTest, AHundredThousandSortedInsertionsAskLogarithmically)
+{
+    constexpr int kMany = 100'000, kPerInsertion = 18; // its own label, and 17 = log2 of their number
+    Fill("root");
+    const HTREEITEM hRoot = (*this)["root"];
+    for (int i = 0; i < kMany; ++i) {
+        tree.labelRequests = 0;
+        tree.Add(Number(i * 7919 % kMany), hRoot, TVI_SORT);
+        ASSERT_LE(tree.labelRequests, kPerInsertion);
+    }
+    HTREEITEM hItem = tree.GetChildItem(hRoot);
+    for (int i = 0; i < kMany; ++i, hItem = tree.GetNextSiblingItem(hItem))
+        ASSERT_EQ(Number(i), tree.NameOf(hItem));
+
+    tree.labelRequests = 0;
+    tree.Expand(hRoot, TVE_EXPAND);
+    tree.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
+    desktop.Run();
+    EXPECT_LE(tree.labelRequests, 10); // what is in sight
+    EXPECT_EQ(Number(8), InRow(0));
+    tree.SelectItem(tree.GetNextItem(nullptr, TVGN_LASTVISIBLE));
+    desktop.Run();
+    EXPECT_LE(tree.labelRequests, 25);
+    EXPECT_EQ(Number(kMany - 1), InRow(9));
+}
+
+TEST_F(TreeControlTest, AfterASortByTheOwnerOneLookShowsWhetherLabelsAreInOrder)
+{
+    Fill("");
+    for (int i = 0; i < 1000; ++i)
+        tree.Add(Number(i));
+    const auto insert = [this](const char* name) {
+        tree.labelRequests = 0;
+        const HTREEITEM hItem = tree.Add(name, TVI_ROOT, TVI_SORT);
+        EXPECT_EQ(name, tree.NameOf(hItem));
+        return tree.labelRequests;
+    };
+    EXPECT_EQ(1001, insert("0005x"));
+    EXPECT_LE(insert("0007x"), 12); // they are
+
+    TVSORTCB sort{TVI_ROOT, &CompareBackwards, 0};
+    EXPECT_TRUE(tree.SortChildrenCB(&sort));
+    EXPECT_EQ(Number(999), tree.NameOf(tree.GetRootItem()));
+    insert("000500x"); // they are not: before the first greater one
+    EXPECT_EQ("000500x", tree.NameOf(tree.GetRootItem()));
+    EXPECT_EQ(tree.GetRootItem(), tree.GetPrevSiblingItem((*this)[Number(999)]));
+    insert("zz");
+    EXPECT_EQ("zz", tree.NameOf(tree.GetNextItem(nullptr, TVGN_LASTVISIBLE)));
+
+    EXPECT_TRUE(tree.SortChildren(TVI_ROOT));
+    EXPECT_LE(insert("0009x"), 12);
+    EXPECT_EQ("zz", tree.NameOf(tree.GetNextSiblingItem((*this)["0009x"])));
+}
+
+TEST_F(TreeControlTest, SortingKeepsEqualsBranchesAndSelection)
+{
+    Fill("b1 [x] a1 b2 c a2 b3");
+    tree.SelectItem((*this)["b2"]);
+    TakeLedger();
+    TVSORTCB sort{TVI_ROOT, &CompareFirstLetters, 0};
+    EXPECT_TRUE(tree.SortChildrenCB(&sort));
+    EXPECT_EQ("a1 a2 b1 [x] *b2 b3 c", State());
+    EXPECT_EQ(Ledger(), TakeLedger());
+    sort.hParent = (*this)["c"];
+    EXPECT_TRUE(tree.SortChildrenCB(&sort)); // nothing to sort
+    sort.hParent = reinterpret_cast<HTREEITEM>(-1);
+    EXPECT_FALSE(tree.SortChildrenCB(&sort));
+}
+
+TEST_F(TreeControlTest, AnAnswerMayBeKeptForGood)
+{
+    Fill("a b");
+    tree.keeps = TVIF_DI_SETITEM;
+    tree.Invalidate();
+    desktop.Run();
+    tree.labelRequests = 0;
+    EXPECT_EQ(static_cast<UINT>(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN), tree.requested);
+    tree.Invalidate();
+    desktop.Run();
+    EXPECT_EQ("a", tree.GetItemText((*this)["a"]));
+    EXPECT_EQ(0, tree.labelRequests);
+
+    tree.keeps = 0;
+    tree.SetItemText((*this)["a"], LPSTR_TEXTCALLBACK);
+    tree.NameOf((*this)["a"]) = "new";
+    EXPECT_EQ("new", tree.GetItemText((*this)["new"]));
+    char buffer[4];
+    TVITEM item{};
+    item.mask = TVIF_TEXT;
+    item.hItem = (*this)["new"];
+    item.pszText = buffer;
+    item.cchTextMax = sizeof(buffer);
+    tree.NameOf(item.hItem) = "ab\xC3\xA9";
+    EXPECT_TRUE(tree.GetItem(&item));
+    EXPECT_STREQ("ab", buffer); // no half of a letter
+}
+
+TEST_F(TreeControlTest, AnInsertionWithoutMemoryIsRefusedAndLeavesNothing)
+{
+    Fill("a [b c]");
+    const HTREEITEM hParent = (*this)["a"];
+    const std::string name = "bb";
+    TVINSERTSTRUCT insert{hParent, TVI_SORT, {}};
+    insert.item.mask = TVIF_TEXT | TVIF_PARAM;
+    insert.item.pszText = const_cast<LPSTR>("a text that is too long to need no memory of its own");
+    insert.item.lParam = reinterpret_cast<LPARAM>(&name);
+    int inserted = 0;
+    const int failures = FailEveryAllocation([&] {
+        const UINT count = tree.GetCount();
+        const HTREEITEM hItem = tree.InsertItem(&insert);
+        inserted += hItem != nullptr;
+        ASSERT_EQ(count + (hItem ? 1u : 0u), tree.GetCount());
+    });
+    EXPECT_GT(failures, 2);
+    EXPECT_GE(inserted, 1);
+    EXPECT_LE(inserted, failures);
+}
+
+} // namespace
