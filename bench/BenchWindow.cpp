@@ -1,0 +1,91 @@
+#include "bench/BenchWindow.h"
+
+#include "Toolkit/graphics/Resources.h"
+#include "Toolkit/window/Desktop.h"
+
+#ifdef VIEWS_BENCH_QT
+#include "QtDesktop/QtDesktop.h"
+
+#include <QApplication>
+#include <QFont>
+#else
+#include "Toolkit/window/HeadlessDesktop.h"
+#endif
+
+namespace bench
+{
+namespace
+{
+
+constexpr CRect kFrame(0, 0, 1024, 768);
+
+#ifdef VIEWS_BENCH_QT
+struct TheDesktop
+{
+    TheDesktop()
+    {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        static int s_argc = 1;
+        static char s_name[] = "views_bench";
+        static char* s_argv[] = {s_name, nullptr};
+        application = std::make_unique<QApplication>(s_argc, s_argv);
+        application->setFont(QFont("DejaVu Sans", 9));
+        desktop = std::make_unique<qtdesktop::QtDesktop>();
+    }
+    static void Present() { QApplication::processEvents(); }
+
+    std::unique_ptr<QApplication> application;
+    std::unique_ptr<qtdesktop::QtDesktop> desktop;
+};
+#else
+struct TheDesktop
+{
+    static void Present() {}
+
+    toolkit::HeadlessDesktop desktop;
+};
+#endif
+
+struct Process
+{
+    Process()
+    {
+        resources.AddBitmap(1006, toolkit::Surface({48, 48}, 0xFF336699));
+        resources.AddString(1008, "Icons");
+        resources.Join();
+    }
+
+    TheDesktop desktop;
+    CResourceModule resources;
+};
+
+} // namespace
+
+void PrepareDesktop()
+{
+    static Process s_process;
+}
+
+ListWindow::ListWindow(int nPassive) : m_list(nPassive)
+{
+    PrepareDesktop();
+    m_frame.CreateEx(0, "", "bench", WS_OVERLAPPED | WS_CLIPCHILDREN, kFrame, nullptr, 0);
+    m_list.Create(&m_frame);
+    m_list.MoveWindow(kFrame);
+    m_list.ShowWindow(SW_SHOW);
+    m_frame.ShowWindow(SW_SHOW);
+    Settle();
+}
+
+ListWindow::~ListWindow()
+{
+    m_frame.DestroyWindow();
+}
+
+void ListWindow::Settle()
+{
+    toolkit::RunPendingMessages();
+    TheDesktop::Present();
+}
+
+} // namespace bench

@@ -1,0 +1,82 @@
+// What the editor adds to reading a directory when it opens a folder of 100,000 pictures.
+#include "Editor/EditorApp.h"
+#include "Toolkit/window/Desktop.h"
+#include "bench/BenchWindow.h"
+
+#include <benchmark/benchmark.h>
+#include <dirent.h>
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+constexpr int kPictures = 100'000;
+
+// Empty files are pictures that cannot be decoded; what decoding costs is not what is measured here.
+class NoPictures : public editor::PictureReader
+{
+public:
+    std::vector<std::string> Extensions() const override { return {"png"}; }
+    editor::DecodedPicture Read(const std::string&, CSize) const override { return {{}, {}, "an empty file"}; }
+};
+
+class PictureFolder
+{
+public:
+    PictureFolder() : m_path(fs::temp_directory_path() / "views-bench-XXXXXX")
+    {
+        std::string name = m_path.string();
+        if (!mkdtemp(name.data()))
+            throw std::runtime_error("no temporary folder");
+        m_path = name;
+        for (int i = 0; i < kPictures; ++i)
+            std::ofstream(m_path / ("picture " + std::to_string(i * 7919 % kPictures) + ".png"));
+    }
+    ~PictureFolder() { fs::remove_all(m_path); }
+
+    std::string Path() const { return m_path.string(); }
+
+private:
+    fs::path m_path;
+};
+
+const PictureFolder& Folder()
+{
+    static const PictureFolder s_folder;
+    return s_folder;
+}
+
+void ReadTheDirectory(benchmark::State& state)
+{
+    for (auto _ : state) {
+        DIR* directory = opendir(Folder().Path().c_str());
+        long nNames = 0;
+        while (const dirent* entry = readdir(directory))
+            nNames += entry->d_name[0] != '.';
+        closedir(directory);
+        if (nNames != kPictures)
+            state.SkipWithError("the folder does not hold what was put into it");
+    }
+}
+
+// From the folder's name to the first complete frame, the window's making included.
+void OpenTheFolder(benchmark::State& state)
+{
+    bench::PrepareDesktop();
+    const NoPictures reader;
+    for (auto _ : state) {
+        editor::EditorApp app(reader, {{1024, 768}, {}});
+        const std::string error = app.OpenFolder(Folder().Path());
+        toolkit::RunPendingMessages();
+        if (!error.empty())
+            state.SkipWithError(error.c_str());
+    }
+}
+
+BENCHMARK(ReadTheDirectory)->Unit(benchmark::kMillisecond);
+BENCHMARK(OpenTheFolder)->Unit(benchmark::kMillisecond);
+
+} // namespace

@@ -1,0 +1,151 @@
+// What an icon list costs: opening a container, frames in the middle of it, selecting, one atom more or changed.
+#include "bench/BenchHost.h"
+#include "bench/BenchWindow.h"
+#include "bench/Memory.h"
+
+#include <benchmark/benchmark.h>
+
+namespace
+{
+
+using namespace bench;
+
+// A list that shows a container, with an editor between.
+struct ShownList
+{
+    explicit ShownList(benchmark::State& state) : container(static_cast<unsigned>(state.range(0)))
+    {
+        window.List().SetRootAtom(&container);
+        window.Settle();
+    }
+
+    int Middle() const { return static_cast<int>(container.MemberCount() / 2); }
+    void ScrollTo(int nRow)
+    {
+        window.List().SendMessage(LVM_ENSUREVISIBLE, static_cast<WPARAM>(nRow), FALSE);
+        window.Settle();
+    }
+
+    EditorService service;
+    Container container;
+    ListWindow window;
+};
+
+// From the host's call to the first complete frame on the screen.
+void OpenContainer(benchmark::State& state)
+{
+    const EditorService service;
+    Container container(static_cast<unsigned>(state.range(0)));
+    ListWindow window;
+    for (auto _ : state) {
+        window.List().OnAtomEntered(&container, nullptr);
+        window.Settle();
+
+        state.PauseTiming();
+        window.List().OnAtomEntered(nullptr, nullptr);
+        window.Settle();
+        state.ResumeTiming();
+    }
+    state.counters["rows"] = static_cast<double>(container.GetCount());
+}
+
+// One notch of the wheel, somewhere in the middle: the rows that came into sight are hinted, read and painted.
+void ScrollANotch(benchmark::State& state)
+{
+    ShownList shown(state);
+    shown.ScrollTo(shown.Middle());
+    int nPixels = 96;
+    int nNotches = 0;
+    for (auto _ : state) {
+        shown.window.List().SendMessage(LVM_SCROLL, 0, nPixels);
+        shown.window.Settle();
+        if (++nNotches % 100 == 0)
+            nPixels = -nPixels;
+    }
+}
+
+// A jump by a page and more: everything in sight is new.
+void JumpAndPaintAFrame(benchmark::State& state)
+{
+    ShownList shown(state);
+    shown.ScrollTo(shown.Middle());
+    int nPixels = 96 * 10;
+    int nJumps = 0;
+    for (auto _ : state) {
+        shown.window.List().SendMessage(LVM_SCROLL, 0, nPixels);
+        shown.window.Settle();
+        if (++nJumps % 50 == 0)
+            nPixels = -nPixels;
+    }
+}
+
+void SelectAllAndClear(benchmark::State& state)
+{
+    ShownList shown(state);
+    shown.ScrollTo(shown.Middle());
+    LVITEM select{};
+    select.stateMask = LVIS_SELECTED;
+    for (auto _ : state) {
+        for (const UINT nState : {LVIS_SELECTED, 0u}) {
+            select.state = nState;
+            shown.window.List().SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(-1),
+                                            reinterpret_cast<LPARAM>(&select));
+            shown.window.Settle();
+        }
+    }
+}
+
+// The editor tells of an atom that changed and is in sight: one row is read and painted again.
+void ChangeAnAtomInSight(benchmark::State& state)
+{
+    ShownList shown(state);
+    Atom& atom = shown.container.Member(shown.container.GetCount() - 1);
+    shown.window.List().OnAtomSelected(&atom, &shown.container);
+    shown.window.Settle();
+    for (auto _ : state) {
+        shown.window.List().OnChangeAtom(&atom, &shown.container);
+        shown.window.Settle();
+    }
+}
+
+// An atom more, appended, selected and scrolled to.
+void AppendAnAtom(benchmark::State& state)
+{
+    ShownList shown(state);
+    for (auto _ : state) {
+        shown.container.Append();
+        shown.window.List().OnCreateAtom(&shown.container.Member(shown.container.GetCount() - 1), &shown.container);
+    }
+}
+
+// What the heap grows by when a container is opened and painted, the host's objects apart.
+void MemoryPerRow(benchmark::State& state)
+{
+    const EditorService service;
+    Container container(static_cast<unsigned>(state.range(0)));
+    ListWindow window;
+    double nBytes = 0;
+    for (auto _ : state) {
+        const std::size_t before = AllocatedBytes();
+        window.List().OnAtomEntered(&container, nullptr);
+        window.Settle();
+        nBytes = static_cast<double>(AllocatedBytes()) - static_cast<double>(before);
+        window.List().OnAtomEntered(nullptr, nullptr);
+    }
+    state.counters["bytes/row"] = nBytes / static_cast<double>(container.GetCount());
+}
+
+void Sizes(benchmark::internal::Benchmark* bench)
+{
+    bench->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(OpenContainer)->Apply(Sizes);
+BENCHMARK(JumpAndPaintAFrame)->Apply(Sizes);
+BENCHMARK(ScrollANotch)->Apply(Sizes);
+BENCHMARK(SelectAllAndClear)->Apply(Sizes);
+BENCHMARK(ChangeAnAtomInSight)->Apply(Sizes);
+BENCHMARK(AppendAnAtom)->Arg(1000)->Iterations(2000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(MemoryPerRow)->Apply(Sizes)->Iterations(3);
+
+} // namespace
