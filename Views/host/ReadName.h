@@ -10,24 +10,36 @@
 namespace views
 {
 
-// Lends strName's buffer to the source. FALSE when the name is not available: strName is then what it held before,
-// cut to the announced length. Raises CMemoryException.
+// The size of buffer that the name needs. Raises CMemoryException for one that no string can have.
 template <class Source>
-BOOL ReadName(Source* pSource, BOOL (Source::*pfnGet)(char*, DWORD*), CString& strName)
+int AskNameLength(Source* pSource, BOOL (Source::*pfnGet)(char*, DWORD*))
 {
     DWORD dwLength = 0;
     (pSource->*pfnGet)(nullptr, &dwLength);
     if (dwLength > INT_MAX)
         AfxThrowMemoryException();
+    return static_cast<int>(dwLength);
+}
 
+// Lends strName's buffer, made that long, to the source. FALSE when the name is not available: strName is then what it
+// held before, cut to the length. Raises CMemoryException.
+template <class Source>
+BOOL FillName(Source* pSource, BOOL (Source::*pfnGet)(char*, DWORD*), int nLength, CString& strName)
+{
     const int nFormer = strName.GetLength();
-    const int nLength = static_cast<int>(dwLength);
     LPSTR pszBuffer = strName.GetBufferSetLength(nLength);
     if (nLength > nFormer)
         std::memset(pszBuffer + nFormer, 0, static_cast<std::size_t>(nLength - nFormer));
+    DWORD dwLength = static_cast<DWORD>(nLength);
     const BOOL bRead = (pSource->*pfnGet)(pszBuffer, &dwLength);
     strName.ReleaseBuffer();
     return bRead;
+}
+
+template <class Source>
+BOOL ReadName(Source* pSource, BOOL (Source::*pfnGet)(char*, DWORD*), CString& strName)
+{
+    return FillName(pSource, pfnGet, AskNameLength(pSource, pfnGet), strName);
 }
 
 } // namespace views

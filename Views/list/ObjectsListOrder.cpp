@@ -50,8 +50,10 @@ int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
     try {
         if (const std::optional<int> order = CompareLinks(a, b))
             return *order;
-        views::ReadName(a, &IAtom::GetName, strA);
-        views::ReadName(b, &IAtom::GetName, strB);
+        const int nLengthA = views::AskNameLength(a, &IAtom::GetName);
+        const int nLengthB = views::AskNameLength(b, &IAtom::GetName);
+        views::FillName(a, &IAtom::GetName, nLengthA, strA);
+        views::FillName(b, &IAtom::GetName, nLengthB, strB);
         return _mbsicmp(strA, strB);
     } catch (CMemoryException& e) {
         e.ReportError();

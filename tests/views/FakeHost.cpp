@@ -119,7 +119,6 @@ FakeAtom* FakeContainer::Named(const std::string& strName) const
 
 void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
 {
-    ++nGetAtoms;
     for (UINT i = 0; i < nCount; ++i) {
         ppOut[i] = nullptr;
         if (nFirst + i < members.size())
@@ -141,9 +140,8 @@ BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
 
 int FakeContainer::GetPosition(IImageLink* pLink)
 {
-    const auto* pAtom = static_cast<FakeAtom*>(pLink);
-    const auto found = std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p.Get() == pAtom; });
-    return -static_cast<int>(found - members.begin());
+    const int nPosition = static_cast<FakeAtom*>(pLink)->position;
+    return isBackward ? -nPosition : nPosition;
 }
 
 void* FakeContainer::Find(DWORD id)
@@ -230,7 +228,7 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
     if (const auto hook = onNotify) // a copy: it may take itself away
         hook(operation, atom);
 
-    BOOL bAgreed = !m_vetoes.contains(strOperation);
+    BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
     for (const Handler& handler : std::vector<Handler>(m_handlers)) {
         if (handler.pHandler != sender || !skipsSender)
             bAgreed &= (handler.pHandler->*operation)(atom, container) != FALSE;

@@ -36,6 +36,7 @@ public:
     bool hasIcon = false; // offers IAtomIcon
     bool iconFails = false;
     bool isLink = false;    // offers IImageLink
+    int position = 0;       // in its phase
     bool isLibrary = false; // offers ICharacterLibrary
     bool isModified = false;
     FakeContainer* parent = nullptr;
@@ -67,7 +68,7 @@ private:
 
 using AtomRef = CStubRef<FakeAtom>;
 
-// A container, and a phase when it is told so: its members' positions are then those of `members`, last first.
+// A container, and a phase when it is told so.
 class FakeContainer : public FakeAtom, public IAtomContainer, public IPhase
 {
 public:
@@ -75,8 +76,8 @@ public:
 
     std::vector<AtomRef> members;
     bool isPhase = false;
-    int nMissing = 0; // members announced beyond those there are
-    int nGetAtoms = 0;
+    bool isBackward = false; // gives positions with the other sign
+    int nMissing = 0;        // members announced beyond those there are
 
     FakeAtom* Add(FakeAtom* pNew); // takes the one reference of a new atom
     FakeAtom* Add(const std::string& strName) { return Add(new FakeAtom(strName)); }
@@ -108,8 +109,11 @@ public:
     ~FakeEditor();
 
     Ledger TakeLedger() { return std::exchange(ledger, {}); }
-    // Refuse an asking operation, for every atom.
-    void Veto(AEStateOperation operation) { m_vetoes.insert(NameOf(operation)); }
+    // Refuse an asking operation, for every atom or for those of a name.
+    void Veto(AEStateOperation operation, const std::string& strName = "")
+    {
+        m_vetoes.insert(NameOf(operation) + strName);
+    }
     void Allow() { m_vetoes.clear(); }
     // The name under which a handler appears in the ledger.
     void Call(IAEStateHandler* pHandler, std::string strName) { m_names.emplace_back(pHandler, std::move(strName)); }

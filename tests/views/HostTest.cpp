@@ -33,86 +33,54 @@ TEST_F(HostTest, LoadingTheLibraryAsksTheKernelForElevenNumbersAndOneServiceInOr
     EXPECT_EQ(INT_GetUniqueInterfaceID("IAtomThumbnail"), IID_IAtomThumbnail);
 }
 
-// Where an operation stands in its interface's table: a pointer to a virtual member function carries the offset of
-// its entry plus one. The entries of the bases come first: four of CStubBaseInterface, then, where an interface
-// stands on another, that one's; own operations follow, counted from 1.
-template <class Function>
-int PositionOf(Function operation, int nInherited)
+// Where operations stand in their interface's table: a pointer to a virtual member function carries the offset of its
+// entry plus one. The entries of the bases come first: four of CStubBaseInterface, then, where an interface stands on
+// another, that one's; own operations follow, counted from 1.
+template <class... Functions>
+std::vector<int> Positions(int nInherited, Functions... operations)
 {
-    std::intptr_t offset;
-    std::memcpy(&offset, &operation, sizeof offset);
-    return static_cast<int>((offset - 1) / static_cast<std::intptr_t>(sizeof(void*))) - nInherited + 1;
+    const auto position = [nInherited](auto operation) {
+        std::intptr_t offset;
+        std::memcpy(&offset, &operation, sizeof offset);
+        return static_cast<int>((offset - 1) / static_cast<std::intptr_t>(sizeof(void*))) - nInherited + 1;
+    };
+    return {position(operations)...};
 }
 
 TEST_F(HostTest, EveryOperationStandsAtItsPositionInTheTable)
 {
+    using Expected = std::vector<int>;
+    using Stub = CStubBaseInterface;
+    using Container = IAtomContainer;
+    using Handler = IAEStateHandler;
+    using Editor = IAtomEditor;
     constexpr int kStub = 4, kAtom = kStub + 8, kStream = kStub + 7;
-    const std::vector<int> positions{
-        PositionOf(&CStubBaseInterface::AddRef, 0),
-        PositionOf(&CStubBaseInterface::Release, 0),
-        PositionOf(&CStubBaseInterface::GetInterface, 0),
-        PositionOf(&CStubBaseInterface::StubReserved4, 0),
-        PositionOf(&IKernel::CreateObject, kStub),
-        PositionOf(&IAtom::GetID, kStub),
-        PositionOf(&IAtom::GetName, kStub),
-        PositionOf(&IAtom::GetContainer, kStub),
-        PositionOf(&IAtom::IsModified, kStub),
-        PositionOf(&IAtomIcon::GetIcon, kStub),
-        PositionOf(&IAtomIcon::AddToImageList, kStub),
-        PositionOf(&IAtomThumbnail::GetFrameCount, kStub),
-        PositionOf(&IAtomThumbnail::Draw, kStub),
-        PositionOf(&IDispAtom::GetDisplayName, kStub),
-        PositionOf(&IPhase::GetPosition, kStub),
-        PositionOf(&IByteStream::Seek, kStub),
-        PositionOf(&IByteStream::GetLength, kStub),
-        PositionOf(&IByteStream::SetEnd, kStub),
-        PositionOf(&IByteStream::GetData, kStub),
-        PositionOf(&IArchive::SetStream, kStream),
-    };
-    EXPECT_EQ((std::vector<int>{1, 2, 3, 4, 9, 2, 4, 6, 8, 2, 3, 1, 2, 1, 8, 3, 4, 6, 7, 1}), positions);
 
-    const std::vector<int> container{
-        PositionOf(&IAtomContainer::GetCount, kAtom),     PositionOf(&IAtomContainer::GetAtoms, kAtom),
-        PositionOf(&IAtomContainer::FindAtomByID, kAtom), PositionOf(&IAtomContainer::FindAtom, kAtom),
-        PositionOf(&IAtomContainer::AddAtom, kAtom),      PositionOf(&IAtomContainer::RenameAtom, kAtom),
-        PositionOf(&IAtomContainer::RemoveAtom, kAtom),   PositionOf(&IAtomContainer::GetPermissions, kAtom),
-        PositionOf(&IAtomContainer::ValidateName, kAtom),
-    };
-    EXPECT_EQ((std::vector<int>{1, 2, 3, 4, 6, 7, 8, 9, 10}), container);
-
-    const std::vector<int> editorPositions{
-        PositionOf(&IAtomEditor::RegisterHandler, kStub),    PositionOf(&IAtomEditor::UnregisterHandler, kStub),
-        PositionOf(&IAtomEditor::NotifyHandlers, kStub),     PositionOf(&IAtomEditor::AddPane, kStub),
-        PositionOf(&IAtomEditor::RemovePane, kStub),         PositionOf(&IAtomEditor::CreateContextMenu, kStub),
-        PositionOf(&IAtomEditor::GetMainWindow, kStub),      PositionOf(&IAtomEditor::EnumActivePairs, kStub),
-        PositionOf(&IAtomEditor::DoDragDrop, kStub),         PositionOf(&IAtomEditor::ReadArchive, kStub),
-        PositionOf(&IAtomEditor::WriteActiveObjects, kStub), PositionOf(&IAtomEditor::GetClipboardFormat, kStub),
-        PositionOf(&IAtomEditor::GetActiveAtom, kStub),
-    };
-    EXPECT_EQ((std::vector<int>{2, 3, 4, 5, 6, 13, 16, 18, 19, 21, 23, 24, 26}), editorPositions);
-
-    const AEStateOperation operations[] = {
-        &IAEStateHandler::PreRenameAtom,    &IAEStateHandler::PreSaveAtom,     &IAEStateHandler::OnCreateAtom,
-        &IAEStateHandler::OnDeleteAtom,     &IAEStateHandler::OnChangeAtom,    &IAEStateHandler::OnAtomSelected,
-        &IAEStateHandler::OnAtomDeselected, &IAEStateHandler::OnAtomSelecting, &IAEStateHandler::OnAtomDeselecting,
-        &IAEStateHandler::OnAtomEntered,    &IAEStateHandler::OnAtomRename};
-    int nExpected = 0;
-    for (const AEStateOperation operation : operations)
-        EXPECT_EQ(++nExpected, PositionOf(operation, kStub));
-    EXPECT_EQ(12, PositionOf(&IAEStateHandler::OnGetActivePairs, kStub));
-}
-
-// The same count, taken from the table of a living object.
-TEST_F(HostTest, AnObjectsTableHoldsItsOperationsAfterThoseOfItsBases)
-{
-    const auto pBox = ContainerRef::Adopt(new FakeContainer("box"));
-    pBox->Add("a");
-    IAtomContainer* const pContainer = pBox.Get();
-    using Operation = UINT (*)(IAtomContainer*);
-    const auto* pTable = *reinterpret_cast<const Operation* const*>(pContainer);
-    EXPECT_EQ(1u, pTable[4 + 8](pContainer)); // GetCount: behind the stub's four and the atom's eight
-    EXPECT_EQ(pBox->GetID(), pTable[4 + 1](pContainer));
-    EXPECT_EQ(static_cast<IAtom*>(pContainer), static_cast<IAtom*>(CStubRef<IAtom>::From(pContainer).Get()));
+    EXPECT_EQ(Expected({1, 2, 3, 4}),
+              Positions(0, &Stub::AddRef, &Stub::Release, &Stub::GetInterface, &Stub::StubReserved4));
+    EXPECT_EQ(Expected({2, 4, 6, 8}),
+              Positions(kStub, &IAtom::GetID, &IAtom::GetName, &IAtom::GetContainer, &IAtom::IsModified));
+    EXPECT_EQ(Expected({1, 2, 3, 4, 6, 7, 8, 9, 10}),
+              Positions(kAtom, &Container::GetCount, &Container::GetAtoms, &Container::FindAtomByID,
+                        &Container::FindAtom, &Container::AddAtom, &Container::RenameAtom, &Container::RemoveAtom,
+                        &Container::GetPermissions, &Container::ValidateName));
+    EXPECT_EQ(Expected({2, 3, 1, 2, 1, 8, 9}),
+              Positions(kStub, &IAtomIcon::GetIcon, &IAtomIcon::AddToImageList, &IAtomThumbnail::GetFrameCount,
+                        &IAtomThumbnail::Draw, &IDispAtom::GetDisplayName, &IPhase::GetPosition,
+                        &IKernel::CreateObject));
+    EXPECT_EQ(Expected({3, 4, 6, 7}), Positions(kStub, &IByteStream::Seek, &IByteStream::GetLength,
+                                                &IByteStream::SetEnd, &IByteStream::GetData));
+    EXPECT_EQ(Expected({1}), Positions(kStream, &IArchive::SetStream));
+    EXPECT_EQ(Expected({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}),
+              Positions(kStub, &Handler::PreRenameAtom, &Handler::PreSaveAtom, &Handler::OnCreateAtom,
+                        &Handler::OnDeleteAtom, &Handler::OnChangeAtom, &Handler::OnAtomSelected,
+                        &Handler::OnAtomDeselected, &Handler::OnAtomSelecting, &Handler::OnAtomDeselecting,
+                        &Handler::OnAtomEntered, &Handler::OnAtomRename, &Handler::OnGetActivePairs));
+    EXPECT_EQ(Expected({2, 3, 4, 5, 6, 13, 16, 18, 19, 21, 23, 24, 26}),
+              Positions(kStub, &Editor::RegisterHandler, &Editor::UnregisterHandler, &Editor::NotifyHandlers,
+                        &Editor::AddPane, &Editor::RemovePane, &Editor::CreateContextMenu, &Editor::GetMainWindow,
+                        &Editor::EnumActivePairs, &Editor::DoDragDrop, &Editor::ReadArchive,
+                        &Editor::WriteActiveObjects, &Editor::GetClipboardFormat, &Editor::GetActiveAtom));
 }
 
 struct Provider : SERVICEPROVIDER
@@ -219,27 +187,6 @@ TEST_F(HostTest, TheTopOfAHierarchyIsTheLastContainerOrALibraryByItself)
     EXPECT_EQ("-", topOf(nullptr, IID_IAtom));
     EXPECT_FALSE(GetTopLevelAtom(pLeaf, nullptr, IID_IAtom));
     EXPECT_EQ(1, pBox->CountReferences());
-}
-
-TEST_F(HostTest, AHolderGivesBackWhatItHoldsWhereverItGoes)
-{
-    static_assert(sizeof(CStubRef<IAtom>) == sizeof(void*));
-    const auto pAtom = AtomRef::Adopt(new FakeAtom("a"));
-    {
-        auto pFirst = CStubRef<IAtom>::Share(pAtom.Get());
-        CStubRef<IAtom> pSecond = std::move(pFirst);
-        EXPECT_FALSE(pFirst);
-        EXPECT_EQ(2, pAtom->CountReferences());
-        pSecond = CStubRef<IAtom>::From(pAtom.Get());
-        pSecond.QueryFrom(pAtom.Get());
-        EXPECT_EQ(2, pAtom->CountReferences());
-        EXPECT_FALSE(CStubRef<IAtomIcon>::From(pAtom.Get()));
-        pAtom->GetInterface(IID_IAtom, pSecond.Receive());
-        EXPECT_EQ(2, pAtom->CountReferences());
-        pSecond.QueryFrom(static_cast<IAtom*>(nullptr));
-        EXPECT_FALSE(pSecond);
-    }
-    EXPECT_EQ(1, pAtom->CountReferences());
 }
 
 } // namespace

@@ -84,11 +84,4 @@ TEST_F(IconListTest, WithoutTheHostsBitmapRowsHaveNoPicture)
     resources.Join();
 }
 
-TEST_F(IconListTest, EventsAnswerOneWhateverTheyDid)
-{
-    ProbeList& list = ShowHidden();
-    EXPECT_EQ(1, list.OnChangeAtom(box->Named("a"), box));
-    EXPECT_EQ(1, list.OnDeleteAtom(box->Named("a"), world.Get()));
-}
-
 } // namespace

@@ -54,10 +54,12 @@ TEST_F(ListOrderTest, NamesAreOrderedWithoutRegardToCaseAndDisplayNamesDoNotCoun
 
 TEST_F(ListOrderTest, LinksOfOnePhaseAreOrderedByPositionAndAmongOthersByName)
 {
-    FakeContainer* const pPhase = MakeBox({"a", "b", "c"}); // its positions run backwards
+    FakeContainer* const pPhase = MakeBox({"a", "b", "c"});
     pPhase->isPhase = true;
-    for (const AtomRef& pMember : pPhase->members)
+    for (const AtomRef& pMember : pPhase->members) {
         pMember->isLink = true;
+        pMember->position = -pMember->name[0];
+    }
     EXPECT_EQ("c b a", ShowList(pPhase).Names());
     EXPECT_LT(0, Compare(pPhase->Named("a"), pPhase->Named("c")));
     EXPECT_EQ(1, Compare1(pPhase->Named("a"), pPhase->Named("c")));
@@ -91,15 +93,19 @@ TEST_F(ListOrderTest, AnyNamesComeInTheOrderOfTheComparator)
     }
 }
 
-TEST_F(ListOrderTest, LinksAmongOtherAtomsAndNamesThatFailAreComparedPairByPair)
+TEST_F(ListOrderTest, LinksAmongOtherAtomsOrOfTwoPhasesAndNamesThatFailAreComparedPairByPair)
 {
     std::mt19937 random(11);
     for (int nRound = 0; nRound < 20; ++nRound) {
         FakeContainer* const pBox = MakeBox({});
-        pBox->isPhase = true;
+        FakeContainer* const pOther = MakeBox({});
+        pBox->isPhase = pOther->isPhase = pOther->isBackward = true;
         for (int i = 0; i < 30; ++i) {
             FakeAtom* const pAtom = pBox->Add(std::string(1 + random() % 4, static_cast<char>('a' + random() % 3)));
-            pAtom->isLink = nRound % 2 && random() % 4 == 0;
+            pAtom->isLink = nRound % 4 == 1 || (nRound % 4 == 2 && random() % 4 == 0);
+            if (nRound % 4 == 1 && random() % 2)
+                pAtom->parent = pOther;
+            pAtom->position = static_cast<int>(random() % 20);
             pAtom->nameFails = nRound % 2 == 0 && random() % 10 == 0;
         }
         // A name that fails is what its string held before, so both sorts must begin with the same.

@@ -117,6 +117,8 @@ TEST_F(ListSelectionTest, GainingTheFocusOffersASaveAndTellsTheSelectionAgain)
 TEST_F(ListSelectionTest, ASelectionChangedFromOutsideIsNotToldAgainAtTheNextFocus)
 {
     ProbeList& list = ShowList(box);
+    list.SetFocus();
+    field.SetFocus();
     list.OnAtomSelected(box->Named("b"), box);
     editor.TakeLedger();
     list.SetFocus();
