@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/Ticks.h"
 #include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/window/InputQueue.h"
 #include "Toolkit/window/MessageBox.h"
 #include "Toolkit/window/Queue.h"
 
@@ -42,6 +43,7 @@ void toolkit::InstallDesktop(Desktop* pDesktop)
 {
     AcceptTasks(pDesktop);
     DropTasks();
+    ResetInput();
     s_pDesktop = pDesktop ? pDesktop : &s_none;
     SetTickSource(pDesktop ? &DesktopTicks : nullptr);
     InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);

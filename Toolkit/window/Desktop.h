@@ -14,7 +14,13 @@
 namespace toolkit
 {
 
-enum class Cursor { Arrow, Wait, Text, Hand };
+enum class Cursor
+{
+    Arrow,
+    Wait,
+    Text,
+    Hand
+};
 
 class TOOLKIT_API Desktop
 {

@@ -87,6 +87,7 @@ void toolkit::SetActive(HWND hTop, bool bActive)
         SetFocus(nullptr);
         return;
     }
+    RaiseRecord(*pTop);
     const HWND hLast = std::exchange(pTop->hLastFocus, nullptr);
     SetFocus(CanHaveFocus(hLast) && IsWindowVisible(hLast) ? hLast : hTop);
 }

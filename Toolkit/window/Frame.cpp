@@ -113,7 +113,7 @@ int SetScrollInfo(HWND hWnd, int nBar, const SCROLLINFO& info)
         toolkit::SendSize(hWnd);
     } else if (bShow && (former.nMin != taken.nMin || former.nMax != taken.nMax || former.nPage != taken.nPage ||
                          former.nPos != taken.nPos)) {
-        toolkit::NoteFrame(*pWindow);
+        toolkit::NoteFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
     }
     return taken.nPos;
 }

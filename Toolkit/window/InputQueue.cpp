@@ -87,6 +87,13 @@ bool toolkit::RunOneInput()
     return true;
 }
 
+void toolkit::ResetInput()
+{
+    s_input = {};
+    ReleaseAllKeys();
+    ResetMouse();
+}
+
 void toolkit::InputMouseMove(HWND hTop, CPoint at, Modifiers modifiers)
 {
     const InputEvent move{.kind = InputKind::MouseMove, .hTop = hTop, .at = at, .modifiers = modifiers};

@@ -35,5 +35,6 @@ struct InputEvent
 
 bool HasInput();
 bool RunOneInput();
+void ResetInput(); // nothing waits, no key is down, the mouse is nowhere: another desktop begins
 
 } // namespace toolkit

@@ -41,7 +41,7 @@ constexpr std::uint64_t MessageBits(const MessageEntry* entries)
 struct MessageMap
 {
     const MessageMap* (*base)(); // NULL at the root
-    const MessageEntry* entries; // ends with an entry without a handler
+    const MessageEntry* entries; // ends with an entry for message 0
     std::uint64_t bits;          // MessageBits(entries)
 };
 

@@ -115,6 +115,13 @@ void toolkit::ForgetMouse(HWND hWnd)
     ForgetScrollBars(hWnd);
 }
 
+void toolkit::ResetMouse()
+{
+    s_cursor = {};
+    s_hOver = nullptr;
+    ForgetLastPress();
+}
+
 void toolkit::ForgetLastPress()
 {
     s_doubleClick.Forget();

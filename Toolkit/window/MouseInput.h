@@ -7,5 +7,6 @@ namespace toolkit
 {
 void HandleMouse(const InputEvent& event);
 void ForgetMouse(HWND hWnd); // the window is gone
-void ForgetLastPress();      // the next press is not the second of a double click
+void ResetMouse();
+void ForgetLastPress(); // the next press is not the second of a double click
 } // namespace toolkit

@@ -21,7 +21,7 @@ bool s_bNoted = false;
 
 bool NeedsPaint(const WindowRecord& window)
 {
-    return window.bFrameNoted || !window.update.IsEmpty();
+    return !window.frameUpdate.IsEmpty() || !window.update.IsEmpty();
 }
 
 // The first shown window with something noted, parents before their children, lower siblings first: what is not
@@ -49,11 +49,13 @@ WindowRecord* FindNoted()
 void PaintFrameOf(WindowRecord& window)
 {
     const HWND hWnd = window.hWnd;
-    window.bFrameNoted = false;
-    const Region clip = VisibleFrame(window);
+    const CPoint origin = toolkit::WindowArea(window).TopLeft();
+    Region clip = std::exchange(window.frameUpdate, {});
+    clip.Offset(origin);
+    clip = Intersection(clip, VisibleFrame(window));
     if (clip.IsEmpty())
         return;
-    const HDC hdc = toolkit::OpenWindowDC(window, toolkit::WindowArea(window).TopLeft(), clip);
+    const HDC hdc = toolkit::OpenWindowDC(window, origin, clip);
     SendMessage(hWnd, WM_NCPAINT, reinterpret_cast<WPARAM>(hdc), 0);
     toolkit::CloseWindowDC(hWnd, hdc);
 }
@@ -61,11 +63,9 @@ void PaintFrameOf(WindowRecord& window)
 // A parent that does not cut its children out draws over them: they draw again.
 void NoteChildrenUnder(WindowRecord& window, const Region& clip, CPoint clientOrigin)
 {
-    if (!window.Is(WS_CLIPCHILDREN) && !window.children.empty())
+    if (!window.Is(WS_CLIPCHILDREN))
         for (const CRect& rect : clip.Rects())
-            for (WindowRecord* pChild : window.children)
-                if (!((rect - clientOrigin) & pChild->rect).IsRectEmpty())
-                    toolkit::NoteWindow(*pChild);
+            toolkit::NoteChildren(window, rect - clientOrigin);
 }
 } // namespace
 
@@ -96,7 +96,7 @@ bool toolkit::RunOnePaint()
 void toolkit::PaintWindow(HWND hWnd)
 {
     WindowRecord* pWindow = FindRecord(hWnd);
-    if (pWindow && pWindow->bFrameNoted)
+    if (pWindow && !pWindow->frameUpdate.IsEmpty())
         PaintFrameOf(*pWindow);
     pWindow = FindRecord(hWnd);
     if (!pWindow || pWindow->update.IsEmpty())

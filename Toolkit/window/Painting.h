@@ -10,7 +10,8 @@ namespace toolkit
 void NoteWindow(WindowRecord& window);                     // all of it, frame and children included
 void NoteExposed(WindowRecord& parent, const CRect& area); // client: the parent and all children under the area
 void NoteArea(WindowRecord& window, const CRect& area, bool bErase); // client
-void NoteFrame(WindowRecord& window);
+void NoteFrame(WindowRecord& window, const CRect& area);             // from the window's top left corner
+void NoteChildren(WindowRecord& window, const CRect& area);          // client: the children under the area
 void NotePainted(WindowRecord& top, const CRect& area); // pixels of the surface that the desktop has not seen yet
 
 void NoteSomething(); // the queue looks for what was noted

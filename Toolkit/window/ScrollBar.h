@@ -17,7 +17,7 @@ enum class ScrollPart
     After
 };
 
-class ScrollBar
+class TOOLKIT_API ScrollBar
 {
 public:
     ScrollBar(const CRect& box, int nBar, const SCROLLINFO& info); // SB_HORZ or SB_VERT

@@ -47,10 +47,10 @@ CPoint ToWindow(const WindowRecord& window, CPoint screen)
     return screen - toolkit::SurfaceToScreen(window) - toolkit::WindowArea(window).TopLeft();
 }
 
-void Redraw(HWND hWnd)
+void Redraw(HWND hWnd, int nBar)
 {
     if (WindowRecord* pWindow = toolkit::FindRecord(hWnd))
-        toolkit::NoteFrame(*pWindow);
+        toolkit::NoteFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
 }
 
 void SendScroll(UINT code, int nPos = 0)
@@ -71,7 +71,7 @@ void EndTracking()
         ReleaseCapture();
     SendScroll(SB_ENDSCROLL);
     s_held.hWnd = nullptr;
-    Redraw(hWnd);
+    Redraw(hWnd, s_held.nBar);
 }
 
 // Pages once towards the mouse; nothing when the thumb has arrived there or the mouse has left the track.
@@ -100,7 +100,7 @@ void DragThumb(const WindowRecord& window)
     s_held.nOffset = std::clamp(s_held.nFirstOffset + nMoved, 0, bar.GetFreeLength());
     // Where it was taken the thumb stands for the position it had, not for the nearest one of that pixel.
     const int nPos = s_held.nOffset == s_held.nFirstOffset ? s_held.nFirstPos : bar.PositionAt(s_held.nOffset);
-    Redraw(s_held.hWnd);
+    Redraw(s_held.hWnd, s_held.nBar);
     if (std::exchange(s_held.nPos, nPos) != nPos)
         SendScroll(SB_THUMBTRACK, nPos);
 }
@@ -112,9 +112,9 @@ void BeginTracking(const WindowRecord& window, int nBar, CPoint screen)
     const int nPos = window.bars[static_cast<std::size_t>(nBar)].info.nPos;
     const int nOffset = bar.GetThumbOffset();
     s_held = {window.hWnd, nBar, bar.HitTest(at), screen, bar.Along(at), nOffset, nPos, nOffset, nPos};
-    Redraw(window.hWnd);
+    Redraw(window.hWnd, nBar);
     SetCapture(s_held.hWnd);
-    if (s_held.part == ScrollPart::Thumb)
+    if (!s_held.hWnd || s_held.part == ScrollPart::Thumb) // the former holder may have destroyed the window
         return;
     toolkit::StartTimer(s_held.hWnd, &RepeatPage, kFirstRepeat);
     PageTowardsMouse();
@@ -164,9 +164,9 @@ void toolkit::HoverScrollBars(HWND hWnd, CPoint screen)
     const HWND hHot = nBar >= 0 ? hWnd : nullptr;
     if (s_hot.hWnd == hHot && (!hHot || (s_hot.nBar == nBar && s_hot.bOnThumb == bOnThumb)))
         return;
-    Redraw(s_hot.hWnd);
-    s_hot = {hHot, nBar, bOnThumb};
-    Redraw(s_hot.hWnd);
+    Redraw(s_hot.hWnd, s_hot.nBar);
+    s_hot = {hHot, nBar == SB_HORZ ? SB_HORZ : SB_VERT, bOnThumb};
+    Redraw(s_hot.hWnd, s_hot.nBar);
 }
 
 void toolkit::ForgetScrollBars(HWND hWnd)

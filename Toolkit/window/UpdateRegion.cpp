@@ -16,27 +16,26 @@ CRect ClientRect(const WindowRecord& window)
     return {CPoint(), toolkit::ClientBox(window).Size()};
 }
 
-// The window itself is shown; `area` is relative to its own top left corner.
-void NoteTree(WindowRecord& window, const CRect& area);
-
-void NoteClientTree(WindowRecord& window, const CRect& area)
+// The window and all its children; it is shown, and `area` is relative to its own top left corner.
+void NoteTree(WindowRecord& window, const CRect& area)
 {
-    toolkit::NoteArea(window, area, true);
+    const CRect client = toolkit::ClientBox(window);
+    const CRect inClient = (area & client) - client.TopLeft();
+    if (!((area & client) == area))
+        toolkit::NoteFrame(window, area);
+    toolkit::NoteArea(window, inClient, true);
+    toolkit::NoteChildren(window, inClient);
+}
+} // namespace
+
+void toolkit::NoteChildren(WindowRecord& window, const CRect& area)
+{
     for (WindowRecord* pChild : window.children) {
         const CRect common = area & pChild->rect;
         if (pChild->Is(WS_VISIBLE) && !common.IsRectEmpty())
             NoteTree(*pChild, common - pChild->rect.TopLeft());
     }
 }
-
-void NoteTree(WindowRecord& window, const CRect& area)
-{
-    const CRect client = toolkit::ClientBox(window);
-    if (!((area & client) == area))
-        toolkit::NoteFrame(window);
-    NoteClientTree(window, (area & client) - client.TopLeft());
-}
-} // namespace
 
 void toolkit::NoteArea(WindowRecord& window, const CRect& area, bool bErase)
 {
@@ -48,12 +47,11 @@ void toolkit::NoteArea(WindowRecord& window, const CRect& area, bool bErase)
     NoteSomething();
 }
 
-void toolkit::NoteFrame(WindowRecord& window)
+void toolkit::NoteFrame(WindowRecord& window, const CRect& area)
 {
-    const bool bHasFrame = !(ClientBox(window) == CRect(CPoint(), window.rect.Size()));
-    if (!bHasFrame || window.bFrameNoted || !IsShown(window))
+    if (area.IsRectEmpty() || !IsShown(window))
         return;
-    window.bFrameNoted = true;
+    window.frameUpdate.Add(area);
     NoteSomething();
 }
 
@@ -65,8 +63,10 @@ void toolkit::NoteWindow(WindowRecord& window)
 
 void toolkit::NoteExposed(WindowRecord& parent, const CRect& area)
 {
-    if (IsShown(parent))
-        NoteClientTree(parent, area & ClientRect(parent));
+    if (!IsShown(parent))
+        return;
+    NoteArea(parent, area, true);
+    NoteChildren(parent, area & ClientRect(parent));
 }
 
 BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)

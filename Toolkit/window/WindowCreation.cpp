@@ -16,8 +16,9 @@ HWND AddWindow(const CREATESTRUCT& cs, CWnd* pOwner)
 {
     WindowRecord* pParent = toolkit::FindRecord(cs.hwndParent);
     const toolkit::NativeWindowFactory* pFactory = nullptr;
-    const bool bHasParent = !cs.hwndParent || (pParent && toolkit::IsAlive(*pParent));
-    if (!bHasParent || !toolkit::FindWindowClass(cs.lpszClass, &pFactory))
+    const bool bTop = !cs.hwndParent && !(cs.style & WS_CHILD);
+    const bool bHasPlace = bTop || (pParent && toolkit::IsAlive(*pParent));
+    if (!bHasPlace || !toolkit::FindWindowClass(cs.lpszClass, &pFactory))
         return nullptr;
 
     const HWND hWnd = toolkit::AddRecord(std::make_unique<WindowRecord>(cs), pParent);

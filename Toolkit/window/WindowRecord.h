@@ -47,10 +47,10 @@ struct WindowRecord
     bool bDestroying = false;
 
     // What is to be painted, and whether the background is to be erased there; the frame is border and scroll bars.
-    Region update; // client
+    Region update;      // client
+    Region frameUpdate; // from the window's top left corner
     bool bErase = false;
     bool bPaintBegun = false; // by the WM_PAINT being handled
-    bool bFrameNoted = false;
 
     // Top-level windows only.
     Surface surface;

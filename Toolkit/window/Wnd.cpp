@@ -21,7 +21,7 @@ CWnd::~CWnd()
 BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, const RECT& rect, CWnd* pParent,
                     UINT nID)
 {
-    if (m_hWnd)
+    if (m_hWnd || (pParent && !pParent->m_hWnd))
         return FALSE;
     const CRect place(rect);
     CREATESTRUCT cs{nullptr,

@@ -29,7 +29,7 @@ const toolkit::MessageEntry* toolkit::FindMessageEntry(const MessageMap* pMap, U
     for (; pMap; pMap = pMap->base ? pMap->base() : nullptr) {
         if ((pMap->bits & bit) == 0)
             continue;
-        for (const MessageEntry* p = pMap->entries; p->handler; ++p)
+        for (const MessageEntry* p = pMap->entries; p->message != 0; ++p)
             if (p->message == message && p->code == code && id >= p->id && id <= p->lastID)
                 return p;
     }

@@ -1,0 +1,215 @@
+#include "tests/support/DesktopTest.h"
+#include "tests/toolkit/SpyWnd.h"
+
+namespace
+{
+
+using toolkit::MouseButton;
+
+class InputTest : public DesktopTest, public LedgerBook
+{
+protected:
+    InputTest()
+    {
+        frame.Show(nullptr, {100, 50, 300, 150}); // screen
+        a.Show(&frame, {10, 10, 60, 60}, WS_BORDER);
+        b.Show(&frame, {70, 10, 120, 60});
+        inner.Show(&a, {5, 5, 25, 25});
+    }
+
+    static const std::set<UINT> kInput;
+    SpyWnd frame{"frame", *this, kInput}, a{"a", *this, kInput}, b{"b", *this, kInput}, inner{"inner", *this, kInput};
+};
+const std::set<UINT> InputTest::kInput = {
+    WM_MOUSEMOVE,   WM_MOUSELEAVE, WM_LBUTTONDOWN, WM_LBUTTONUP, WM_LBUTTONDBLCLK, WM_RBUTTONDOWN, WM_RBUTTONUP,
+    WM_CONTEXTMENU, WM_MOUSEWHEEL, WM_KEYDOWN,     WM_KEYUP,     WM_SYSKEYDOWN,    WM_CHAR,        WM_CLOSE};
+
+TEST_F(InputTest, TheMouseGoesToTheInnermostWindowUnderItAndLeavesTheOther)
+{
+    desktop.MoveTo(inner.m_hWnd, {1, 2});
+    POINT cursor{};
+    GetCursorPos(&cursor);
+    EXPECT_EQ(CPoint(117, 68), CPoint(cursor)); // frame, child, border, inner
+    EXPECT_EQ(inner.m_hWnd, WindowFromPoint(cursor));
+    desktop.MoveTo(a.m_hWnd, {40, 40});
+    desktop.MoveTo(a.m_hWnd, {-1, 20}); // its border
+    desktop.MoveTo(b.m_hWnd, {3, 3});
+    EXPECT_EQ(
+        Ledger({"inner MOUSEMOVE 1,2", "inner MOUSELEAVE", "a MOUSEMOVE 40,40", "a MOUSELEAVE", "b MOUSEMOVE 3,3"}),
+        TakeLedger());
+
+    SetCapture(b.m_hWnd);
+    desktop.MoveTo(inner.m_hWnd, {0, 0});
+    ReleaseCapture();
+    toolkit::InputMouseLeave(frame.m_hWnd);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"b MOUSEMOVE -54,6", "b MOUSELEAVE"}), TakeLedger());
+
+    inner.EnableWindow(FALSE); // its clicks are its parent's
+    desktop.Press(inner.m_hWnd, {0, 0});
+    EXPECT_EQ(Ledger({"a LBUTTONDOWN 5,5"}), TakeLedger());
+    EXPECT_GT(0, GetKeyState(VK_LBUTTON));
+    frame.EnableWindow(FALSE);
+    desktop.Release(inner.m_hWnd, {0, 0});
+    EXPECT_EQ(Ledger({"a MOUSELEAVE"}), TakeLedger());
+    EXPECT_EQ(0, GetKeyState(VK_LBUTTON));
+}
+
+TEST_F(InputTest, MovementsInARowAreTheLastOne)
+{
+    toolkit::InputMouseMove(frame.m_hWnd, {1, 1}, {});
+    toolkit::InputMouseMove(frame.m_hWnd, {2, 2}, {});
+    toolkit::InputMouseButton(frame.m_hWnd, {3, 3}, MouseButton::Left, true, {});
+    toolkit::InputMouseMove(frame.m_hWnd, {4, 4}, {});
+    desktop.Run();
+    EXPECT_EQ(Ledger({"frame MOUSEMOVE 2,2", "frame LBUTTONDOWN 3,3", "frame MOUSEMOVE 4,4"}), TakeLedger());
+}
+
+TEST_F(InputTest, TwoQuickPressesInOnePlaceAreADoubleClick)
+{
+    const auto press = [&](CWnd& wnd, CPoint at, MouseButton button = MouseButton::Left) {
+        desktop.Press(wnd.m_hWnd, at, button);
+        desktop.Release(wnd.m_hWnd, at, button);
+        Ledger lines = TakeLedger();
+        std::erase_if(lines, [](const std::string& line) {
+            return line.find("DOWN") == line.npos && line.find("DBL") == line.npos;
+        });
+        return lines.empty() ? std::string() : lines.front();
+    };
+    EXPECT_EQ("b LBUTTONDOWN 10,10", press(b, {10, 10}));
+    desktop.Advance(499);
+    EXPECT_EQ("b LBUTTONDBLCLK 14,6", press(b, {14, 6}));
+    EXPECT_EQ("b LBUTTONDOWN 14,6", press(b, {14, 6})); // the third one begins anew
+    desktop.Advance(500);
+    EXPECT_EQ("b LBUTTONDOWN 14,6", press(b, {14, 6})); // too late
+    EXPECT_EQ("b LBUTTONDOWN 19,6", press(b, {19, 6})); // too far
+    EXPECT_EQ("b RBUTTONDOWN 19,6", press(b, {19, 6}, MouseButton::Right));
+    EXPECT_EQ("b LBUTTONDOWN 19,6", press(b, {19, 6}));
+    EXPECT_EQ("frame LBUTTONDOWN 69,30", press(frame, {69, 30})); // another window
+    desktop.Click(frame.m_hWnd, {69, 30});
+    desktop.DoubleClick(b.m_hWnd, {2, 2});
+    EXPECT_EQ(Ledger({"frame LBUTTONDOWN 69,30", "frame LBUTTONUP 69,30", "frame MOUSELEAVE", "b MOUSEMOVE 2,2",
+                      "b LBUTTONDOWN 2,2", "b LBUTTONUP 2,2", "b LBUTTONDBLCLK 2,2", "b LBUTTONUP 2,2"}),
+              TakeLedger());
+}
+
+TEST_F(InputTest, TheContextMenuIsAskedForByTheRightButtonAndTwoKeysAndGoesUpToWhoeverTakesIt)
+{
+    desktop.MoveTo(inner.m_hWnd, {1, 1});
+    SetFocus(inner.m_hWnd);
+    frame.Answer(WM_CONTEXTMENU, 0);
+    TakeLedger();
+    desktop.Click(inner.m_hWnd, {1, 1}, MouseButton::Right);
+    EXPECT_EQ(Ledger({"inner RBUTTONDOWN 1,1", "inner RBUTTONUP 1,1", "inner CONTEXTMENU inner 117,67",
+                      "a CONTEXTMENU inner 117,67", "frame CONTEXTMENU inner 117,67"}),
+              TakeLedger());
+
+    a.Answer(WM_CONTEXTMENU, 0);
+    const Ledger byKey = {"inner CONTEXTMENU inner -1,-1", "a CONTEXTMENU inner -1,-1"};
+    const auto key = [&](UINT vkey) {
+        desktop.Key(vkey);
+        Ledger lines = TakeLedger();
+        std::erase_if(lines, [](const std::string& line) { return line.find("CONTEXT") == line.npos; });
+        return lines;
+    };
+    EXPECT_EQ(byKey, key(VK_APPS));
+    EXPECT_EQ(Ledger(), key(VK_F10));
+    desktop.Hold({.shift = true});
+    EXPECT_EQ(byKey, key(VK_F10));
+    desktop.Hold({});
+}
+
+TEST_F(InputTest, TheWheelGoesToTheFocusAndFromThereUp)
+{
+    SetFocus(inner.m_hWnd);
+    frame.Answer(WM_MOUSEWHEEL, 0);
+    a.Answer(WM_MOUSEWHEEL, 0);
+    desktop.Wheel(b.m_hWnd, {0, 0}, -2);
+    EXPECT_EQ(Ledger({"b MOUSEMOVE 0,0", "inner MOUSEWHEEL -240 at 170,60", "a MOUSEWHEEL -240 at 170,60"}),
+              TakeLedger());
+}
+
+class SwallowingWnd : public SpyWnd
+{
+public:
+    using SpyWnd::SpyWnd;
+    UINT swallowed = 0;
+
+protected:
+    BOOL PreTranslateMessage(MSG* pMsg) override
+    {
+        SpyWnd::PreTranslateMessage(pMsg);
+        return pMsg->message == WM_KEYDOWN && pMsg->wParam == swallowed;
+    }
+};
+
+TEST_F(InputTest, KeysAreOfferedToTheFocusAndItsAncestorsBeforeTheyAreHandled)
+{
+    SwallowingWnd pane("pane", *this, {WM_KEYDOWN, WM_CHAR});
+    pane.Show(&frame, {0, 70, 100, 100});
+    SpyWnd field("field", *this, {WM_KEYDOWN, WM_KEYUP, WM_CHAR, WM_SYSKEYDOWN});
+    field.Show(&pane, {0, 0, 10, 10});
+    desktop.Key(VK_RETURN); // no focus, nobody
+    EXPECT_EQ(Ledger(), TakeLedger());
+
+    SetFocus(field.m_hWnd);
+    pane.swallowed = VK_RETURN;
+    desktop.Key(VK_RETURN);
+    EXPECT_EQ(Ledger({"field is asked of KEYDOWN", "pane is asked of KEYDOWN", "field is asked of KEYUP",
+                      "frame is asked of KEYUP", "field KEYUP 13"}),
+              TakeLedger());
+    pane.swallowed = 0;
+    desktop.Key(VK_BACK);
+    EXPECT_EQ(Ledger({"field is asked of KEYDOWN", "pane is asked of KEYDOWN", "frame is asked of KEYDOWN",
+                      "field KEYDOWN 8", "field is asked of CHAR", "pane is asked of CHAR", "frame is asked of CHAR",
+                      "field CHAR 8", "field is asked of KEYUP", "frame is asked of KEYUP", "field KEYUP 8"}),
+              TakeLedger());
+}
+
+TEST_F(InputTest, KeysBecomeTheCharactersTheyType)
+{
+    std::vector<WPARAM> typed;
+    class Listener : public CWnd
+    {
+    public:
+        explicit Listener(std::vector<WPARAM>& chars) : m_chars(chars) {}
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_CHAR)
+                m_chars.push_back(wParam);
+            return CWnd::WindowProc(message, wParam, lParam);
+        }
+        std::vector<WPARAM>& m_chars;
+    } listener(typed);
+    listener.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &frame, 2);
+    listener.SetFocus();
+
+    desktop.Type("aé\U0001F600\n\xFF");
+    desktop.Key(VK_ESCAPE);
+    desktop.Key(VK_LEFT);
+    desktop.Hold({.control = true});
+    desktop.Key('C');
+    EXPECT_GT(0, GetKeyState(VK_CONTROL));
+    desktop.Hold({});
+    EXPECT_EQ(std::vector<WPARAM>({'a', 0xE9, 0x1F600, VK_ESCAPE, 3}), typed);
+}
+
+TEST_F(InputTest, ADesktopMovesSizesAndClosesATopLevelWindow)
+{
+    toolkit::InputMoved(frame.m_hWnd, {7, 8});
+    toolkit::InputResize(frame.m_hWnd, {40, 30});
+    desktop.Run();
+    RECT rect{};
+    frame.GetWindowRect(&rect);
+    EXPECT_EQ(CRect(7, 8, 47, 38), CRect(rect));
+    frame.Answer(WM_CLOSE, 0); // not yet
+    toolkit::InputClose(frame.m_hWnd);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"frame CLOSE"}), TakeLedger());
+    SendMessage(a.m_hWnd, WM_CLOSE, 0, 0);
+    EXPECT_EQ(nullptr, a.m_hWnd);
+}
+
+} // namespace

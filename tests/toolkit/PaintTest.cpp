@@ -1,0 +1,294 @@
+// Painting, looked at pixel by pixel: each window fills itself with a letter's colour, a picture is rows of letters.
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/SysColors.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/toolkit/SpyWnd.h"
+
+namespace
+{
+
+COLORREF ColorOf(char letter)
+{
+    return RGB(letter, 0, 0);
+}
+
+std::string Picture(const toolkit::Surface& surface)
+{
+    std::string rows;
+    for (int y = 0; y < surface.Height(); ++y) {
+        for (int x = 0; x < surface.Width(); ++x) {
+            const COLORREF color = toolkit::ToColor(surface.At(x, y));
+            rows += color == GetSysColor(COLOR_BTNSHADOW) ? '#' : static_cast<char>(GetRValue(color));
+        }
+        rows += '\n';
+    }
+    return rows;
+}
+
+std::string Describe(const CRect& rect)
+{
+    const auto number = [](int n) { return std::to_string(n); };
+    return number(rect.left) + "," + number(rect.top) + "-" + number(rect.right) + "," + number(rect.bottom);
+}
+
+// Fills itself with its letter and writes down what it was asked to paint.
+class PaintWnd : public CWnd
+{
+public:
+    PaintWnd(char letter, LedgerBook& book) : m_letter(letter), m_book(book) {}
+
+    bool Show(CWnd* pParent, const CRect& rect, DWORD style = 0)
+    {
+        return CreateEx(0, "", "", WS_VISIBLE | style | (pParent ? WS_CHILD : 0), rect, pParent, 1);
+    }
+    void SetLetter(char letter) { m_letter = letter; }
+
+protected:
+    void OnPaint()
+    {
+        const CPaintDC dc(this);
+        m_book.Write(std::string(1, m_letter) + " " + Describe(dc.GetPaintRect()));
+        FillSolidRect(dc, CRect(-99, -99, 99, 99), ColorOf(m_letter));
+    }
+    BOOL OnEraseBkgnd(HDC) { return TRUE; }
+
+private:
+    char m_letter;
+    LedgerBook& m_book;
+    DECLARE_MESSAGE_MAP()
+};
+
+BEGIN_MESSAGE_MAP(PaintWnd, CWnd)
+    ON_WM_PAINT()
+    ON_WM_ERASEBKGND()
+END_MESSAGE_MAP()
+
+class PaintTest : public DesktopTest, public LedgerBook
+{
+protected:
+    std::string Show() { return "\n" + Picture(desktop.Dump(frame.m_hWnd)); }
+
+    PaintWnd frame{'.', *this}, a{'a', *this}, b{'b', *this};
+};
+
+TEST_F(PaintTest, AWindowDrawsOnlyWhereItCanBeSeen)
+{
+    frame.Show(nullptr, {0, 0, 10, 6}, WS_CLIPCHILDREN);
+    a.Show(&frame, {1, 1, 6, 5}, WS_CLIPSIBLINGS | WS_CLIPCHILDREN | WS_BORDER);
+    b.Show(&frame, {4, 3, 12, 5}, WS_CLIPSIBLINGS);
+    PaintWnd inner('i', *this);
+    inner.Show(&a, {-1, 1, 2, 9}); // sticks out of its parent
+    const std::string all = R"(
+..........
+.#####....
+.#aaa#....
+.#iibbbbbb
+.###bbbbbb
+..........
+)";
+    EXPECT_EQ(all, Show());
+
+    TakeLedger();
+    frame.Invalidate();
+    a.Invalidate();
+    EXPECT_EQ(all, Show()); // nobody drew over another
+    EXPECT_EQ(Ledger({". 0,0-10,6", "a 0,0-3,1"}), TakeLedger());
+
+    a.ShowWindow(SW_HIDE);
+    EXPECT_EQ(R"(
+..........
+..........
+..........
+....bbbbbb
+....bbbbbb
+..........
+)",
+              Show());
+    EXPECT_EQ(Ledger({". 1,1-6,5", "b 0,0-2,2"}), TakeLedger());
+    a.ShowWindow(SW_SHOW);
+    BringWindowToTop(a.m_hWnd);
+    EXPECT_EQ(R"(
+..........
+.#####....
+.#aaa#....
+.#iia#bbbb
+.#####bbbb
+..........
+)",
+              Show());
+    b.DestroyWindow();
+    a.MoveWindow(CRect(0, 0, 4, 3));
+    EXPECT_EQ(R"(
+####......
+#aa#......
+####......
+..........
+..........
+..........
+)",
+              Show());
+}
+
+TEST_F(PaintTest, AParentThatDrawsOverItsChildrenHasThemDrawAgain)
+{
+    frame.Show(nullptr, {0, 0, 6, 3});
+    a.Show(&frame, {1, 1, 3, 3});
+    b.Show(&frame, {4, 0, 6, 2});
+    desktop.Run();
+    TakeLedger();
+    const CRect part(0, 0, 2, 3);
+    frame.InvalidateRect(&part);
+    UpdateWindow(frame.m_hWnd);
+    EXPECT_EQ(Ledger({". 0,0-2,3", "a 0,0-1,2"}), TakeLedger());
+    EXPECT_EQ(R"(
+....bb
+.aa.bb
+.aa...
+)",
+              Show());
+}
+
+TEST_F(PaintTest, InvalidatingOnlyNotesAndPaintsAreMerged)
+{
+    frame.Show(nullptr, {0, 0, 20, 10});
+    desktop.Run();
+    TakeLedger();
+    frame.SetLetter('x');
+    const CRect one(1, 1, 3, 3), two(5, 5, 8, 8), gone(6, 5, 9, 9);
+    frame.InvalidateRect(&one);
+    frame.InvalidateRect(&two);
+    ValidateRect(frame.m_hWnd, &gone);
+    RECT noted{};
+    EXPECT_TRUE(GetUpdateRect(frame.m_hWnd, &noted));
+    EXPECT_EQ(CRect(1, 1, 6, 8), CRect(noted));
+    EXPECT_EQ(Ledger(), TakeLedger());
+    EXPECT_EQ('.', static_cast<char>(toolkit::WindowSurface(frame.m_hWnd)->At(1, 1) >> 16));
+
+    frame.UpdateWindow();
+    EXPECT_EQ(Ledger({"x 1,1-6,8"}), TakeLedger());
+    EXPECT_FALSE(GetUpdateRect(frame.m_hWnd, nullptr));
+    const toolkit::Surface shown = desktop.Dump(frame.m_hWnd);
+    const auto at = [&](int x, int y) { return static_cast<char>(shown.At(x, y) >> 16 & 0xFF); };
+    EXPECT_EQ("x.x..", std::string({at(2, 2), at(3, 3), at(5, 7), at(6, 6), at(0, 0)}));
+    frame.UpdateWindow(); // nothing is noted
+    EXPECT_EQ(Ledger(), TakeLedger());
+
+    frame.ShowWindow(SW_HIDE);
+    frame.Invalidate();
+    desktop.Run();
+    EXPECT_EQ(Ledger(), TakeLedger());
+}
+
+TEST_F(PaintTest, ALockedWindowIsPaintedWhenItIsLetGo)
+{
+    frame.Show(nullptr, {0, 0, 8, 2}, WS_CLIPCHILDREN);
+    a.Show(&frame, {0, 0, 3, 1});
+    b.Show(&frame, {4, 0, 7, 1});
+    desktop.Run();
+    TakeLedger();
+    EXPECT_TRUE(LockWindowUpdate(a.m_hWnd));
+    EXPECT_FALSE(LockWindowUpdate(b.m_hWnd)); // one at a time
+    const CRect part(1, 0, 2, 1);
+    a.InvalidateRect(&part);
+    a.UpdateWindow();
+    b.Invalidate();
+    desktop.Run();
+    EXPECT_EQ(Ledger({"b 0,0-3,1"}), TakeLedger());
+    LockWindowUpdate(nullptr);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"a 1,0-2,1"}), TakeLedger());
+
+    LockWindowUpdate(a.m_hWnd);
+    const HDC hdc = GetDC(a.m_hWnd);
+    FillSolidRect(hdc, CRect(0, 0, 9, 9), ColorOf('!'));
+    ReleaseDC(a.m_hWnd, hdc);
+    EXPECT_EQ("\naaa.bbb.\n........\n", Show());
+    LockWindowUpdate(nullptr);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"a 0,0-3,1"}), TakeLedger()); // it would have been drawn on
+}
+
+TEST_F(PaintTest, ADrawingContextOutlivesNothingItDrawsOn)
+{
+    frame.Show(nullptr, {0, 0, 6, 2}, WS_CLIPCHILDREN);
+    a.Show(&frame, {1, 0, 3, 2});
+    desktop.Run();
+    HDC hdc = GetDC(a.m_hWnd);
+    EXPECT_TRUE(FillSolidRect(hdc, CRect(0, 0, 1, 1), ColorOf('!')));
+    EXPECT_EQ(1, ReleaseDC(a.m_hWnd, hdc));
+    EXPECT_EQ("\n.!a...\n.aa...\n", Show());
+
+    hdc = GetDC(a.m_hWnd);
+    a.DestroyWindow();
+    EXPECT_FALSE(FillSolidRect(hdc, CRect(0, 0, 1, 1), ColorOf('!')));
+    hdc = GetDC(frame.m_hWnd);
+    frame.MoveWindow(CRect(0, 0, 3, 3));
+    EXPECT_EQ("\n...\n...\n...\n", Show());
+    EXPECT_FALSE(FillSolidRect(hdc, CRect(0, 0, 1, 1), ColorOf('!')));
+    EXPECT_EQ(0, ReleaseDC(frame.m_hWnd, hdc));
+}
+
+TEST_F(PaintTest, ScrollingMovesWhatIsSeenAndNotesTheRest)
+{
+    frame.Show(nullptr, {0, 0, 8, 6}, WS_CLIPCHILDREN);
+    a.Show(&frame, {1, 1, 7, 5}, WS_CLIPSIBLINGS);
+    b.Show(&frame, {5, 3, 8, 6}, WS_CLIPSIBLINGS); // hides a corner
+    desktop.Run();
+    const HDC hdc = GetDC(a.m_hWnd);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 6; ++x)
+            FillSolidRect(hdc, CRect(x, y, x + 1, y + 1), ColorOf(static_cast<char>('A' + 6 * y + x)));
+    ReleaseDC(a.m_hWnd, hdc);
+    EXPECT_EQ("\n........\n.ABCDEF.\n.GHIJKL.\n.MNOPbbb\n.STUVbbb\n.....bbb\n", Show());
+    TakeLedger();
+
+    const CRect noted(0, 3, 1, 4);
+    a.InvalidateRect(&noted);
+    ScrollWindow(a.m_hWnd, -1, -1);
+    a.SetLetter('-');
+    EXPECT_EQ("\n........\n.HIJKL-.\n.NOP---.\n.TUV-bbb\n.----bbb\n.....bbb\n", Show());
+    ScrollWindow(a.m_hWnd, 2, 0);
+    a.SetLetter('+');
+    EXPECT_EQ("\n........\n.++HIJK.\n.++NOP-.\n.++TUbbb\n.++--bbb\n.....bbb\n", Show());
+
+    TakeLedger();
+    a.InvalidateRect(&noted); // moves along
+    ScrollWindow(a.m_hWnd, 0, -1);
+    ScrollWindow(a.m_hWnd, 0, 1);
+    RECT bounds{};
+    GetUpdateRect(a.m_hWnd, &bounds);
+    EXPECT_EQ(CRect(0, 0, 6, 4), CRect(bounds));
+    ScrollWindow(a.m_hWnd, 0, 99); // all of it
+    a.SetLetter('*');
+    EXPECT_EQ("\n........\n.******.\n.******.\n.****bbb\n.****bbb\n.....bbb\n", Show());
+}
+
+// What a real desktop is handed.
+class PresentDesktop : public toolkit::HeadlessDesktop, public LedgerBook
+{
+public:
+    void Present(HWND, const toolkit::Surface&, const CRect& dirty) override { Write(Describe(dirty)); }
+};
+
+TEST(PresentTest, TheDesktopIsHandedOneMergedRectangleAfterThePaints)
+{
+    PresentDesktop desktop;
+    LedgerBook paints;
+    PaintWnd frame('.', paints), a('a', paints), b('b', paints);
+    frame.Show(nullptr, {5, 5, 105, 105}, WS_CLIPCHILDREN);
+    a.Show(&frame, {10, 10, 20, 20});
+    b.Show(&frame, {30, 30, 40, 40});
+    desktop.Run();
+    EXPECT_EQ(Ledger({"0,0-100,100"}), desktop.TakeLedger());
+    a.Invalidate();
+    b.Invalidate();
+    desktop.Run();
+    EXPECT_EQ(Ledger({"10,10-40,40"}), desktop.TakeLedger());
+    desktop.Run();
+    EXPECT_EQ(Ledger(), desktop.TakeLedger());
+    ReleaseDC(a.m_hWnd, GetDC(a.m_hWnd));
+    desktop.Run();
+    EXPECT_EQ(Ledger({"10,10-20,20"}), desktop.TakeLedger());
+}
+
+} // namespace

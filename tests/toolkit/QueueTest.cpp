@@ -1,0 +1,198 @@
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/window/MessageBox.h"
+#include "tests/support/AllocationFailures.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/toolkit/SpyWnd.h"
+
+#include <atomic>
+#include <thread>
+
+namespace
+{
+
+const std::set<UINT> kQueued = {WM_USER, WM_APP, WM_LBUTTONDOWN, WM_PAINT, WM_TIMER};
+
+class QueueTest : public DesktopTest, public LedgerBook
+{
+protected:
+    QueueTest()
+    {
+        frame.Show(nullptr, {0, 0, 100, 100});
+        desktop.Run();
+        TakeLedger();
+    }
+
+    SpyWnd frame{"frame", *this, kQueued};
+};
+
+TEST_F(QueueTest, PostedMessagesComeBeforeInputThenPaintsThenTimers)
+{
+    SetTimer(frame.m_hWnd, 4, 10);
+    desktop.SetTicks(desktop.Ticks() + 10);
+    frame.Invalidate();
+    frame.Invalidate();
+    toolkit::InputMouseButton(frame.m_hWnd, {3, 3}, toolkit::MouseButton::Left, true, {});
+    frame.PostMessage(WM_USER, 1);
+    toolkit::PostTask([this] { Write("task"); });
+    frame.PostMessage(WM_USER, 2);
+    frame.At(WM_LBUTTONDOWN, [&] { frame.PostMessage(WM_APP, 3); });
+    frame.At(WM_TIMER, [&] { KillTimer(frame.m_hWnd, 4); });
+    desktop.Run();
+    EXPECT_EQ(Ledger({"frame USER 1", "task", "frame USER 2", "frame LBUTTONDOWN 3,3", "frame APP 3", "frame PAINT",
+                      "frame TIMER 4"}),
+              TakeLedger());
+    EXPECT_FALSE(toolkit::RunOneMessage());
+}
+
+TEST_F(QueueTest, WhatWasPostedToADestroyedWindowIsDropped)
+{
+    const int nBefore = toolkit::CountWindows().posted;
+    SpyWnd child("child", *this, kQueued);
+    child.Show(&frame, {0, 0, 10, 10});
+    child.PostMessage(WM_USER, 1);
+    frame.PostMessage(WM_USER, 2);
+    SetTimer(child.m_hWnd, 1, 10);
+    EXPECT_EQ(nBefore + 2, toolkit::CountWindows().posted);
+    child.DestroyWindow();
+    EXPECT_EQ(nBefore + 1, toolkit::CountWindows().posted);
+    EXPECT_EQ(0, toolkit::CountWindows().timers);
+    TakeLedger();
+    desktop.Advance(20);
+    EXPECT_EQ(Ledger({"frame USER 2", "frame PAINT"}), TakeLedger());
+}
+
+TEST_F(QueueTest, TimersKeepTheirPeriodAndAreOwedOneMessageAtMost)
+{
+    desktop.SetTicks(0xFFFFFFF0); // the clock wraps around meanwhile
+    EXPECT_EQ(7u, SetTimer(frame.m_hWnd, 7, 30));
+    SetTimer(frame.m_hWnd, 8, 1); // 10 at least
+    desktop.Advance(29);
+    EXPECT_EQ(Ledger({"frame TIMER 8", "frame TIMER 8"}), TakeLedger());
+    KillTimer(frame.m_hWnd, 8);
+    SetTimer(frame.m_hWnd, 7, 30); // anew
+    desktop.Advance(29);
+    EXPECT_EQ(Ledger(), TakeLedger());
+    desktop.Advance(1);
+    EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
+    desktop.SetTicks(desktop.Ticks() + 1000); // the machine was busy
+    desktop.Run();
+    EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
+    desktop.Advance(30);
+    EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
+    EXPECT_TRUE(KillTimer(frame.m_hWnd, 7));
+    EXPECT_FALSE(KillTimer(frame.m_hWnd, 7));
+    EXPECT_EQ(desktop.Ticks(), GetTickCount());
+}
+
+TEST_F(QueueTest, TasksOfOtherThreadsRunHereInTheirOrder)
+{
+    const std::thread::id ui = std::this_thread::get_id();
+    int nNext = 0;
+    std::thread worker([&] {
+        for (int i = 0; i < 1000; ++i)
+            toolkit::PostTask([&, i] { nNext += i == nNext && std::this_thread::get_id() == ui; });
+    });
+    EXPECT_TRUE(desktop.RunUntil([&] { return nNext == 1000; }));
+    worker.join();
+
+    toolkit::PostTask([] { AfxMessageBox("nested"); });
+    toolkit::PostTask([] {
+        FailAllocation failure(1);
+        std::vector<int> numbers(3);
+    });
+    desktop.Run();
+    EXPECT_EQ(std::vector<std::string>({": nested", ": Out of memory."}), desktop.TakeMessageBoxes());
+}
+
+TEST_F(QueueTest, RunningForATimeGivesUpOnWorkWithoutEnd)
+{
+    frame.At(WM_USER, [&] { frame.PostMessage(WM_USER, 0); });
+    frame.PostMessage(WM_USER);
+    EXPECT_FALSE(toolkit::RunPendingMessagesFor(2));
+    EXPECT_LT(10u, TakeLedger().size());
+    frame.At(WM_USER, [] {});
+    EXPECT_TRUE(toolkit::RunPendingMessagesFor(1000));
+}
+
+// Does what a real desktop does: runs the queue when it was asked to, and only then.
+class WakingDesktop : public toolkit::HeadlessDesktop, public LedgerBook
+{
+public:
+    void Wake(std::optional<DWORD> inMilliseconds) override
+    {
+        Write(inMilliseconds ? "in " + std::to_string(*inMilliseconds) : "not at all");
+        m_dueAt = inMilliseconds ? std::optional<DWORD>(Ticks() + *inMilliseconds) : std::nullopt;
+    }
+    int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT) override // a loop of its own
+    {
+        Write("box");
+        while (RunWhatIsDue()) {
+        }
+        Write("box closes");
+        return IDOK;
+    }
+    bool RunWhatIsDue()
+    {
+        if (!m_dueAt || *m_dueAt != Ticks())
+            return false;
+        m_dueAt.reset();
+        toolkit::RunPendingMessages();
+        return true;
+    }
+    bool RunNextTimer()
+    {
+        SetTicks(m_dueAt.value_or(Ticks() - 1));
+        return RunWhatIsDue();
+    }
+
+private:
+    std::optional<DWORD> m_dueAt;
+};
+
+TEST(WakeTest, TheDesktopIsAskedOnceForEachNeed)
+{
+    WakingDesktop desktop;
+    SpyWnd frame("frame", desktop, kQueued);
+    frame.Show(nullptr, {0, 0, 100, 100});
+    desktop.RunWhatIsDue();
+    desktop.TakeLedger();
+
+    frame.PostMessage(WM_USER, 1);
+    frame.PostMessage(WM_USER, 2);
+    frame.Invalidate();
+    EXPECT_EQ(Ledger({"in 0"}), desktop.TakeLedger());
+    desktop.RunWhatIsDue();
+    EXPECT_EQ(Ledger({"in 0", "frame USER 1", "frame USER 2", "frame PAINT", "not at all"}), desktop.TakeLedger());
+
+    SetTimer(frame.m_hWnd, 5, 500);
+    SetTimer(frame.m_hWnd, 6, 300);
+    SetTimer(frame.m_hWnd, 7, 900);
+    EXPECT_EQ(Ledger({"in 500", "in 300"}), desktop.TakeLedger());
+    KillTimer(frame.m_hWnd, 7);
+    EXPECT_TRUE(desktop.RunNextTimer());
+    EXPECT_EQ(Ledger({"in 200", "frame TIMER 6"}), desktop.TakeLedger());
+}
+
+TEST(WakeTest, ALoopOfTheDesktopsOwnStillGetsTheQueueRun)
+{
+    WakingDesktop desktop;
+    SpyWnd frame("frame", desktop, {WM_USER, WM_APP, WM_TIMER});
+    frame.Show(nullptr, {0, 0, 100, 100});
+    frame.At(WM_USER, [&] { AfxMessageBox("?"); });
+    SetTimer(frame.m_hWnd, 1, 10);
+    desktop.RunWhatIsDue();
+    desktop.SetTicks(desktop.Ticks() + 10);
+    frame.PostMessage(WM_USER);
+    frame.PostMessage(WM_APP);
+    desktop.RunWhatIsDue();
+    desktop.TakeLedger(); // what was asked is the other test's
+    frame.At(WM_APP, [&] { KillTimer(frame.m_hWnd, 1); });
+    frame.PostMessage(WM_USER);
+    frame.PostMessage(WM_APP);
+    desktop.RunWhatIsDue();
+    Ledger lines = desktop.TakeLedger();
+    std::erase_if(lines, [](const std::string& line) { return line.starts_with("in ") || line == "not at all"; });
+    EXPECT_EQ(Ledger({"frame USER 0", "box", "frame APP 0", "box closes"}), lines);
+}
+
+} // namespace
