@@ -149,13 +149,15 @@ TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheirAlpha)
 
 TEST_F(GraphicsTest, AWidePictureBlendsEachPixelByItsOwnAlpha)
 {
-    Begin({53, 1});
-    const std::string row = std::string(17, 'R') + std::string(20, ' ') + "r" + std::string(15, 'B');
-    const HBITMAP hPicture = CreateBitmapFromSurface(MakePicture({row}));
+    Begin({82, 1});
+    const std::string red(17, 'R'), blue(15, 'B');
+    const HBITMAP hPicture =
+        CreateBitmapFromSurface(MakePicture({red + std::string(20, ' ') + std::string(30, 'r') + blue}));
     AlphaBlt(hdc, 0, 0, hPicture);
     DeleteBitmap(hPicture);
-    EXPECT_EQ((Rows{std::string(17, 'R') + std::string(20, '.') + "?" + std::string(15, 'B')}), ShowPicture(surface));
-    EXPECT_EQ(0xFFFF7F7F, surface.At(37, 0));
+    EXPECT_EQ((Rows{red + std::string(20, '.') + std::string(30, '?') + blue}), ShowPicture(surface));
+    for (int x = 37; x < 67; ++x)
+        EXPECT_EQ(0xFFFF7F7F, surface.At(x, 0));
 }
 
 TEST_F(GraphicsTest, ABumpIsRaisedOutsideAndSunkenInside)
