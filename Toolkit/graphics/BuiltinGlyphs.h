@@ -18,7 +18,12 @@ struct GlyphBand
     std::array<std::string_view, kDrawnRows> rows;
 };
 
-enum class MarkPlace { Above, Below, BelowRight };
+enum class MarkPlace
+{
+    Above,
+    Below,
+    BelowRight
+};
 
 // A mark that a letter carries; its combining character names it.
 struct MarkDrawing

@@ -11,7 +11,7 @@
 // Bitmaps.
 TOOLKIT_API HBITMAP CreateBitmapFromSurface(toolkit::Surface surface);
 TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy); // black; NULL when an extent is not positive
-TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap); // FALSE, too, while it is selected into a device context
+TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap);   // FALSE, too, while it is selected into a device context
 TOOLKIT_API CSize GetBitmapSize(HBITMAP hBitmap); // 0 by 0 for no bitmap
 
 // Brushes: one colour.
@@ -33,7 +33,9 @@ struct ICONINFO
 // New bitmaps of the icon, for the caller to delete; FALSE, and no change, when refused.
 TOOLKIT_API BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo);
 
-// Memory device contexts. A new one has a 1 by 1 bitmap of its own until another is selected into it.
+// Memory device contexts. A new one has a 1 by 1 bitmap of its own until another is selected into it. Selecting
+// makes the whole bitmap the clip. A bitmap is selected into one device context at a time; deleting that lets go
+// of it. A device context on a window or a surface takes no bitmap.
 TOOLKIT_API HDC CreateCompatibleDC(HDC hdc); // NULL as argument is right, too
 TOOLKIT_API BOOL DeleteDC(HDC hdc);
 TOOLKIT_API HBITMAP SelectBitmap(HDC hdc, HBITMAP hBitmap); // the former one; NULL when refused
@@ -69,7 +71,7 @@ TOOLKIT_API BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha
 TOOLKIT_API BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush);              // one pixel wide, inside
 TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverting: drawn twice it is gone
 TOOLKIT_API BOOL DrawEdge(HDC hdc, const RECT& rect, UINT edge, UINT flags); // BDR_* or EDGE_*, BF_*
-TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text); // top left of the line; background kept
+TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text);      // top left of the line; background kept
 TOOLKIT_API CSize GetTextExtent(HDC hdc, std::string_view text);
 TOOLKIT_API BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource); // copies
 TOOLKIT_API BOOL AlphaBlt(HDC hdc, int x, int y, HBITMAP hSource); // the whole bitmap, by its alpha

@@ -40,6 +40,9 @@ constexpr Pixel ToPixel(COLORREF color)
     return 0xFF000000u | static_cast<Pixel>(GetRValue(color)) << 16 | static_cast<Pixel>(GetGValue(color)) << 8 |
            GetBValue(color);
 }
-constexpr COLORREF ToColor(Pixel pixel) { return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF); }
+constexpr COLORREF ToColor(Pixel pixel)
+{
+    return RGB(pixel >> 16 & 0xFF, pixel >> 8 & 0xFF, pixel & 0xFF);
+}
 
 } // namespace toolkit

@@ -9,7 +9,11 @@
 namespace toolkit
 {
 
-enum class FontStyle { Regular, Bold };
+enum class FontStyle
+{
+    Regular,
+    Bold
+};
 
 // Texts are single lines in UTF-8; whatever bytes come, an engine draws something for each.
 class TOOLKIT_API TextEngine
