@@ -15,7 +15,7 @@ namespace toolkit
 class TOOLKIT_API ListLayout
 {
 public:
-    static constexpr int kTopPadding = 4; // above the picture
+    static constexpr int kTopPadding = 6; // above the picture
     static constexpr int kLabelGap = 3;   // between picture and label
 
     // Each keeps the scroll position in range.

@@ -38,8 +38,8 @@ TEST(ListLayoutTest, ColumnsShareTheWidthAndEveryPixelBelongsToOneCell)
     EXPECT_EQ(3, layout.Columns());
     EXPECT_EQ(3, layout.Lines());
     EXPECT_EQ("110,96 220,192", Text(layout.CellRect(4)));
-    EXPECT_EQ("141,100 189,148", Text(layout.IconRect(4)));
-    EXPECT_EQ("113,151 217,192", Text(layout.LabelRoom(4)));
+    EXPECT_EQ("141,102 189,150", Text(layout.IconRect(4)));
+    EXPECT_EQ("113,153 217,192", Text(layout.LabelRoom(4)));
     for (int row = 0; row < 8; ++row) {
         const CRect cell = layout.CellRect(row);
         EXPECT_EQ(row, layout.CellAt(cell.TopLeft()));
