@@ -67,6 +67,14 @@ void CEditorList::Restore(const State& state)
     SendMessage(LVM_SCROLL, 0, state.nScrolled);
 }
 
+BOOL CEditorList::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (!CIconList::PreCreateWindow(cs))
+        return FALSE;
+    cs.dwExStyle &= ~WS_EX_CLIENTEDGE;
+    return TRUE;
+}
+
 void CEditorList::OnPaint()
 {
     CIconList::OnPaint();

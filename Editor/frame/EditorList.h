@@ -36,6 +36,8 @@ public:
     void Restore(const State& state);
 
 protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
+
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 

@@ -28,7 +28,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),
       m_list([this] { return DescribeEmptyList(); }),
       m_picture(pictures),
-      m_statusBar([this] { return IsPictureShown() ? DescribePicture() : DescribeList(); })
+      m_statusBar([this] { return GetStatus(); })
 {}
 
 CMainFrame::~CMainFrame()

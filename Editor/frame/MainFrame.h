@@ -26,6 +26,9 @@ public:
     BOOL Create(CSize client); // a top-level window with the list in it, not shown yet
     void ShowLibrary(CLibrary* pLibrary);
     CEditorList& GetList() { return m_list; }
+    CPathBar& GetPathBar() { return m_pathBar; }
+    CPictureView& GetPictureView() { return m_picture; }
+    Status GetStatus() const; // what the status bar says
 
     void GoUp();        // nothing at the top
     void OpenFocused(); // the list's focused row

@@ -28,6 +28,11 @@ Status Describe(std::string text, const CMember& member, const PictureStore& pic
 
 } // namespace
 
+Status CMainFrame::GetStatus() const
+{
+    return IsPictureShown() ? DescribePicture() : DescribeList();
+}
+
 Status CMainFrame::DescribePicture() const
 {
     return Describe({}, *Shown(), m_pictures);

@@ -42,6 +42,7 @@ BOOL CPane::OnEraseBkgnd(HDC hdc)
     CRect client;
     GetClientRect(&client);
     FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
+    FillSolidRect(hdc, {client.left, kPaneCaptionHeight - 1, client.right, kPaneCaptionHeight}, LineColor());
     return TRUE;
 }
 
@@ -74,9 +75,7 @@ void CPane::PlaceView()
 {
     CRect client;
     GetClientRect(&client);
-    // The edges of a view that has some lie outside, but for the one below the caption.
-    ::MoveWindow(m_hView, -kClientEdge, kPaneCaptionHeight, client.Width() + 2 * kClientEdge,
-                 std::max(0, client.Height() - kPaneCaptionHeight + kClientEdge));
+    ::MoveWindow(m_hView, 0, kPaneCaptionHeight, client.Width(), std::max(0, client.Height() - kPaneCaptionHeight));
 }
 
 } // namespace editor

@@ -17,6 +17,7 @@ public:
     ~CPathBar() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
+    const std::vector<std::string>& GetPath() const { return m_parts; }
     void SetPath(std::vector<std::string> parts); // valid UTF-8; from the top
 
 protected:

@@ -1,0 +1,171 @@
+#include "Editor/services/AtomEditor.h"
+
+#include "Editor/services/StateHandler.h"
+#include "Toolkit/window/Wnd.h"
+#include "tests/editor/LibraryFixture.h"
+
+namespace
+{
+
+// Writes down what it hears, and answers and acts as it is told.
+class Listener final : public editor::CStateHandler
+{
+public:
+    Listener(std::string name, LedgerBook& book) : m_name(std::move(name)), m_book(book) {}
+
+    BOOL OnAtomSelecting(IAtom*, IAtomContainer*) override { return Hear("selecting"); }
+    BOOL OnAtomSelected(IAtom*, IAtomContainer*) override { return Hear("selected"); }
+    BOOL OnAtomEntered(IAtom*, IAtomContainer*) override { return Hear("entered"); }
+    BOOL OnAtomRename(IAtom*, IAtomContainer*) override { return Hear("rename"); }
+    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override
+    {
+        if (!pairs)
+            *pCount = static_cast<DWORD>(active.size()) + 1; // one slot stays empty
+        for (std::size_t i = 0; pairs && i < active.size(); ++i) {
+            pairs[i].pAtom = CStubRef<IAtom>::Share(active[i]).Detach();
+            CStubRef<IAtomContainer> pContainer;
+            active[i]->GetContainer(pContainer.Receive(), IID_IAtomContainer);
+            pairs[i].pContainer = pContainer.Detach();
+        }
+        return pairs != nullptr;
+    }
+
+    BOOL answer = TRUE;
+    std::function<void()> onHear; // once
+    std::vector<IAtom*> active;
+
+private:
+    BOOL Hear(const char* pszWhat)
+    {
+        m_book.Write(m_name + ' ' + pszWhat);
+        if (const auto act = std::exchange(onHear, nullptr))
+            act();
+        return answer;
+    }
+
+    const std::string m_name;
+    LedgerBook& m_book;
+};
+
+class AtomEditorTest : public LibraryTest
+{
+protected:
+    AtomEditorTest()
+    {
+        for (const char* name : {"a.bmp", "b.bmp"})
+            folder.WriteBmp(name);
+        Open();
+        pA = Find(Library(), "a.bmp");
+        pB = Find(Library(), "b.bmp");
+    }
+    ~AtomEditorTest() override { EXPECT_EQ(0, editor.CountReferences()); }
+
+    BOOL Tell(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom)
+    {
+        return editor.NotifyHandlers(pSender, operation, pAtom, Library(), 0);
+    }
+    std::string ActiveAtom()
+    {
+        CStubRef<IAtom> pActive;
+        editor.GetActiveAtom(pActive.Receive(), IID_IAtom);
+        return !pActive ? "none" : pActive.Get() == Library() ? "library" : Name(pActive.Get());
+    }
+    std::string ActivePairs(const char* pszRefused = "")
+    {
+        struct Context
+        {
+            std::string names;
+            std::string refused;
+        } context{{}, pszRefused};
+        const BOOL bResult = editor.EnumActivePairs(
+            [](IAtom* pAtom, IAtomContainer*, void* p) -> BOOL {
+                auto& c = *static_cast<Context*>(p);
+                c.names += Name(pAtom) + ' ';
+                return Name(pAtom) != c.refused;
+            },
+            &context);
+        return context.names + (bResult ? "yes" : "no");
+    }
+
+    editor::CAtomEditor editor;
+    LedgerBook book;
+    Listener one{"one", book}, two{"two", book}, three{"three", book};
+    CStubRef<IAtom> pA, pB;
+};
+
+TEST_F(AtomEditorTest, EveryHandlerButTheSenderHearsAndAnyOneMayVeto)
+{
+    editor.RegisterHandler(nullptr, &one);
+    editor.RegisterHandler(nullptr, &two);
+    one.answer = FALSE;
+
+    EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomSelecting, pA.Get()));
+    EXPECT_EQ(Ledger({"one selecting", "two selecting"}), book.TakeLedger());
+    EXPECT_TRUE(Tell(&one, &IAEStateHandler::OnAtomSelecting, pA.Get())) << "its own answer does not count";
+    EXPECT_EQ(Ledger({"two selecting"}), book.TakeLedger());
+    EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get())) << "told, not asked";
+    book.TakeLedger();
+    EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr)) << "the second one renames";
+    two.answer = FALSE;
+    EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr));
+}
+
+TEST_F(AtomEditorTest, HandlersComeAndGoWhileTheyAreCalled)
+{
+    const DWORD cookie = editor.RegisterHandler(nullptr, &one);
+    const DWORD second = editor.RegisterHandler(nullptr, &two);
+    one.onHear = [&] {
+        editor.UnregisterHandler(cookie);
+        editor.UnregisterHandler(second);
+        editor.RegisterHandler(nullptr, &three);
+        Tell(nullptr, &IAEStateHandler::OnAtomEntered, pA.Get());
+    };
+
+    Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get());
+    EXPECT_EQ(Ledger({"one selected", "three entered"}), book.TakeLedger());
+    Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get());
+    EXPECT_EQ(Ledger({"three selected"}), book.TakeLedger());
+    editor.UnregisterHandler(12345);
+}
+
+TEST_F(AtomEditorTest, TheActiveAtomFollowsTheNews)
+{
+    EXPECT_EQ("none", ActiveAtom());
+    Tell(nullptr, &IAEStateHandler::OnAtomEntered, Library());
+    EXPECT_EQ("library", ActiveAtom());
+    Tell(&one, &IAEStateHandler::OnAtomSelected, pA.Get());
+    EXPECT_EQ("a.bmp", ActiveAtom());
+    Tell(&one, &IAEStateHandler::OnAtomSelected, pB.Get());
+    Tell(&one, &IAEStateHandler::OnAtomDeselected, pA.Get());
+    EXPECT_EQ("b.bmp", ActiveAtom());
+    Tell(&one, &IAEStateHandler::OnAtomSelecting, pA.Get());
+    EXPECT_EQ("b.bmp", ActiveAtom()) << "only asked";
+    Tell(nullptr, &IAEStateHandler::OnDeleteAtom, pB.Get());
+    EXPECT_EQ("library", ActiveAtom());
+    Tell(&one, &IAEStateHandler::OnAtomSelected, pA.Get());
+    Tell(&one, &IAEStateHandler::OnAtomDeselected, nullptr);
+    EXPECT_EQ("library", ActiveAtom());
+}
+
+TEST_F(AtomEditorTest, TheSelectionIsThatOfTheFocusedViewElseOfTheLastToAnnounceOne)
+{
+    CWnd view;
+    view.CreateEx(0, "", "", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 50, 50), nullptr, 0);
+    EXPECT_EQ("yes", ActivePairs()) << "nobody to ask";
+    editor.RegisterHandler(view.GetSafeHwnd(), &one);
+    const DWORD cookie = editor.RegisterHandler(nullptr, &two);
+    one.active = {pA.Get()};
+    two.active = {pB.Get(), pA.Get()};
+
+    SetFocus(nullptr);
+    Tell(&two, &IAEStateHandler::OnAtomSelected, pB.Get());
+    EXPECT_EQ("b.bmp a.bmp yes", ActivePairs());
+    EXPECT_EQ("b.bmp no", ActivePairs("b.bmp")) << "stops at a refusal";
+    view.SetFocus();
+    EXPECT_EQ("a.bmp yes", ActivePairs());
+    SetFocus(nullptr);
+    editor.UnregisterHandler(cookie);
+    EXPECT_EQ("yes", ActivePairs());
+}
+
+} // namespace

@@ -1,0 +1,117 @@
+#include "tests/editor/EditorFixture.h"
+
+#include "Editor/frame/Look.h"
+#include "Editor/model/LiveObjects.h"
+
+EditorTest::EditorTest() : m_nLive(editor::g_nLiveObjects)
+{
+    editor::EditorApp::Options options;
+    options.size = {640, 480};
+    options.onClosed = [this] { ++nClosed; };
+    m_pApp = std::make_unique<editor::EditorApp>(reader, options);
+}
+
+EditorTest::~EditorTest()
+{
+    reader.AllowAll();
+    CloseApp();
+    EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
+}
+
+std::string EditorTest::Open(const std::string& path)
+{
+    const std::string error = m_pApp->OpenFolder(path);
+    if (error.empty())
+        Settle();
+    return error;
+}
+
+editor::CMainFrame& EditorTest::Frame()
+{
+    return dynamic_cast<editor::CMainFrame&>(*AfxGetMainWnd());
+}
+
+std::string EditorTest::Screen()
+{
+    std::string path;
+    for (const std::string& part : Frame().GetPathBar().GetPath())
+        path += path.empty() ? "/" : part + '/';
+    const bool isPicture = Frame().GetPictureView().IsWindowVisible();
+    EXPECT_NE(isPicture, IsWindowVisible(List()) != FALSE);
+    const editor::Status status = Frame().GetStatus();
+    std::string text = path + " | " + (isPicture ? "picture" : Rows()) + " | " + status.text;
+    if (!status.detail.empty())
+        text += (status.isError ? " | ! " : " | ") + status.detail;
+    return text;
+}
+
+std::string EditorTest::Rows()
+{
+    editor::CEditorList& list = Frame().GetList();
+    std::string text;
+    for (int i = 0; i < list.GetItemCount(); ++i) {
+        const UINT state = list.GetItemState(i, LVIS_SELECTED | LVIS_FOCUSED);
+        std::string name = editor::CMember::Of(list.GetAtom(i).Get())->ShownName();
+        if (state & LVIS_FOCUSED)
+            name = '*' + name;
+        if (state & LVIS_SELECTED)
+            name = '(' + name + ')';
+        text += (text.empty() ? "" : " ") + name;
+    }
+    return '[' + text + ']';
+}
+
+void EditorTest::Click(const char* pszName)
+{
+    desktop.Advance(1000);
+    desktop.Click(List(), PlaceOf(pszName));
+    Settle();
+}
+
+void EditorTest::DoubleClick(const char* pszName)
+{
+    desktop.Advance(1000);
+    desktop.DoubleClick(List(), PlaceOf(pszName));
+    Settle();
+}
+
+// Each part has its text's width and a margin on both sides, and an arrow before it.
+void EditorTest::ClickPath(int nPart)
+{
+    CPoint at(3 * editor::kSpace, editor::kPathBarHeight / 2);
+    if (nPart >= 0)
+        at.x = 6 * editor::kSpace + editor::kSpace;
+    for (int i = 0; i < nPart; ++i)
+        at.x += editor::TextWidth(Frame().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) + 4 * editor::kSpace;
+    desktop.Advance(1000);
+    desktop.Click(Frame().GetPathBar().GetSafeHwnd(), at);
+    Settle();
+}
+
+void EditorTest::AltUp()
+{
+    desktop.Hold({.alt = true});
+    desktop.Key(VK_UP);
+    desktop.Hold({});
+    Settle();
+}
+
+toolkit::Pixel EditorTest::MiddleOf(HWND hWnd)
+{
+    const toolkit::Surface shown = desktop.Dump(hWnd);
+    return shown.At(shown.Width() / 2, shown.Height() / 2);
+}
+
+CPoint EditorTest::PlaceOf(const char* pszName)
+{
+    editor::CEditorList& list = Frame().GetList();
+    for (int i = 0; i < list.GetItemCount(); ++i) {
+        if (editor::CMember::Of(list.GetAtom(i).Get())->ShownName() != pszName)
+            continue;
+        CRect icon;
+        EXPECT_TRUE(list.GetItemRect(i, &icon, LVIR_ICON));
+        return icon.CenterPoint();
+    }
+    ADD_FAILURE() << "no row " << pszName;
+    return {};
+}

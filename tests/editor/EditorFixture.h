@@ -1,0 +1,45 @@
+// The whole editor on a library in a temporary folder, driven by mouse and keys.
+#pragma once
+
+#include "Editor/EditorApp.h"
+#include "Editor/frame/MainFrame.h"
+#include "tests/editor/BmpReader.h"
+#include "tests/editor/TempFolder.h"
+#include "tests/support/DesktopTest.h"
+
+// At its end the editor is closed, and none of its objects may be alive.
+class EditorTest : public DesktopTest
+{
+protected:
+    EditorTest();
+    ~EditorTest() override;
+
+    std::string Open() { return Open(folder.Path()); }
+    std::string Open(const std::string& path); // and waits until all is drawn; the error's line
+    void Settle() { m_pApp->WaitUntilSettled(); }
+    void CloseApp() { m_pApp.reset(); }
+    editor::EditorApp& App() { return *m_pApp; }
+    editor::CMainFrame& Frame();
+    HWND List() { return Frame().GetList().GetSafeHwnd(); }
+
+    // The path below the library, what is shown, and the status: "/Ada | [a (*b)] | 2 objects, 1 selected | detail".
+    // Rows that are selected stand in brackets, the focused one bears a star.
+    std::string Screen();
+    std::string Rows();
+
+    void Click(const char* pszName);
+    void DoubleClick(const char* pszName);
+    void ClickPath(int nPart); // -1: the button that leads up
+    void AltUp();
+    toolkit::Pixel MiddleOf(HWND hWnd);
+
+    TempFolder folder;
+    BmpReader reader;
+    int nClosed = 0;
+
+private:
+    CPoint PlaceOf(const char* pszName);
+
+    const int m_nLive;
+    std::unique_ptr<editor::EditorApp> m_pApp;
+};
