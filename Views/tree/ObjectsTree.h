@@ -129,6 +129,7 @@ private:
     HELDPAIR HoldPair(HTREEITEM hItem) const;
     std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
 
+    bool IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const; // an item is within its own branch
     bool TakesMember(HTREEITEM hParent, IAtom* pAtom) const;
     HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent);
     HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
@@ -137,8 +138,9 @@ private:
     bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
 
     RecordHolder TakeRecord(HTREEITEM hItem);
-    void RemoveMembers(IAtom* pAtom);
+    void RemoveMembers(HTREEITEM hItem, IAtom* pAtom);
     void RemoveItem(HTREEITEM hItem);
+    void RemoveChildren(HTREEITEM hItem);
     void DropItem(HTREEITEM hItem, IAtom* pAtom);
 
     void OrderMembers(HTREEITEM hItem);

@@ -46,6 +46,13 @@ std::vector<HTREEITEM> CObjectsTree::ChildrenOf(HTREEITEM hItem) const
     return children;
 }
 
+bool CObjectsTree::IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const
+{
+    while (hItem && hItem != hBranch)
+        hItem = GetParentItem(hItem);
+    return hItem != nullptr;
+}
+
 BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
     if (!pAtom || m_bClosing)
@@ -165,7 +172,7 @@ BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!hItem || (pContainer && !GetItem(CStubRef<IAtom>::From(pContainer).Get())))
         return TRUE;
     if (const auto pRecord = TakeRecord(hItem)) {
-        RemoveMembers(pAtom);
+        RemoveMembers(hItem, pAtom);
         DropItem(hItem, pAtom);
     }
     return TRUE;
@@ -182,7 +189,8 @@ CObjectsTree::RecordHolder CObjectsTree::TakeRecord(HTREEITEM hItem)
     return RecordHolder(pRecord);
 }
 
-void CObjectsTree::RemoveMembers(IAtom* pAtom)
+// A member that is shown above its own container stays: it is not below it.
+void CObjectsTree::RemoveMembers(HTREEITEM hItem, IAtom* pAtom)
 {
     const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
     if (!pMembers)
@@ -190,21 +198,22 @@ void CObjectsTree::RemoveMembers(IAtom* pAtom)
     for (UINT i = 0; i < pMembers->GetCount(); ++i) {
         CStubRef<IAtom> pMember;
         pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
-        if (pMember)
+        if (pMember && !IsWithin(GetItem(pMember.Get()), hItem))
             OnDeleteAtom(pMember.Get(), pMembers.Get());
     }
 }
 
-// Without asking OnDeleteAtom: for items that it does not reach.
+// Without asking OnDeleteAtom: for items that it does not reach. One that is going already loses what is below it.
 void CObjectsTree::RemoveItem(HTREEITEM hItem)
 {
     if (const auto pRecord = TakeRecord(hItem))
         DropItem(hItem, pRecord->pAtom.Get());
+    else
+        RemoveChildren(hItem);
 }
 
-// The caller holds the record until the item is gone: the control still tells of the item when the selection leaves it.
-// Below it are only items whose atoms are members no longer, or have another item.
-void CObjectsTree::DropItem(HTREEITEM hItem, IAtom* pAtom)
+// But for those that an outer call is bringing or removing just now.
+void CObjectsTree::RemoveChildren(HTREEITEM hItem)
 {
     HTREEITEM hPassed = nullptr;
     while (const HTREEITEM hChild = hPassed ? GetNextSiblingItem(hPassed) : GetChildItem(hItem)) {
@@ -212,7 +221,17 @@ void CObjectsTree::DropItem(HTREEITEM hItem, IAtom* pAtom)
         if (RecordOf(hChild))
             hPassed = hChild;
     }
+}
+
+// The caller holds the record until the item is gone: the control still tells of the item when the selection leaves it.
+// Below it are only items whose atoms are members no longer, or have another item.
+void CObjectsTree::DropItem(HTREEITEM hItem, IAtom* pAtom)
+{
+    RemoveChildren(hItem);
+    const HTREEITEM hParent = GetParentItem(hItem);
     DeleteItem(hItem);
+    if (!GetSelectedItem())
+        SetBoldRoot(hParent, FALSE); // the selection went with the item: no one would take it, or be left by it
     if (GetItem(pAtom) == hItem)
         m_itemMap.erase(pAtom);
     m_iconSlots.GiveUp(hItem);

@@ -43,8 +43,12 @@ BOOL CObjectsTree::GetSelectedAtom(void** ppOut, DWORD dwInterfaceId)
     return *ppOut != nullptr;
 }
 
+// A tree that has taken its leave of the editor asks and tells nothing: as its items go, the selection wanders over
+// those that are left, and is no news to anyone.
 BOOL CObjectsTree::Notify(AEStateOperation operation, HTREEITEM hItem)
 {
+    if (m_bClosing)
+        return TRUE;
     const HELDPAIR pair = HoldPair(hItem);
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
     if (!pair.pAtom || !pEditor)
@@ -59,18 +63,19 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
         *pResult = -1;
         return;
     }
-    SetBoldRoot(pChange->itemOld.hItem, FALSE);
+    SetBoldRoot(GetSelectedItem(), FALSE); // whoever was asked may have selected another item than the outgoing one
     *pResult = 0;
 }
 
-// Whoever is asked may move the focus, so it is taken twice.
+// Whoever is asked may move the focus, so it is taken twice; and may remove the incoming item.
 bool CObjectsTree::MayChangeSelection(const NMTREEVIEW& change)
 {
+    const HTREEITEM hNew = change.itemNew.hItem;
     SetFocus();
     if (!Notify(&IAEStateHandler::OnAtomDeselecting, change.itemOld.hItem))
         return false;
     SetFocus();
-    return Notify(&IAEStateHandler::OnAtomSelecting, change.itemNew.hItem) != FALSE;
+    return Notify(&IAEStateHandler::OnAtomSelecting, hNew) && (!hNew || RecordOf(hNew));
 }
 
 BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)

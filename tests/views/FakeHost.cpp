@@ -119,6 +119,8 @@ FakeAtom* FakeContainer::Named(const std::string& strName) const
 
 void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
 {
+    if (onGetAtoms)
+        onGetAtoms(nFirst);
     for (UINT i = 0; i < nCount; ++i) {
         ppOut[i] = nullptr;
         if (nFirst + i < members.size())

@@ -76,8 +76,9 @@ public:
 
     std::vector<AtomRef> members;
     bool isPhase = false;
-    bool isBackward = false; // gives positions with the other sign
-    int nMissing = 0;        // members announced beyond those there are
+    bool isBackward = false;                     // gives positions with the other sign
+    int nMissing = 0;                            // members announced beyond those there are
+    std::function<void(UINT nFirst)> onGetAtoms; // runs before members are handed out
 
     FakeAtom* Add(FakeAtom* pNew); // takes the one reference of a new atom
     FakeAtom* Add(const std::string& strName) { return Add(new FakeAtom(strName)); }
