@@ -141,10 +141,16 @@ void CMainFrame::OnClose()
 void CMainFrame::OnSize(UINT nType, int cx, int cy)
 {
     CWnd::OnSize(nType, cx, cy);
+    Arrange(cx, cy);
+}
+
+// Between path and status the panes; the picture takes the list's place.
+void CMainFrame::Arrange(int cx, int cy)
+{
     const int bottom = std::max(kPathBarHeight, cy - kStatusBarHeight);
     m_pathBar.MoveWindow(CRect(0, 0, cx, kPathBarHeight));
-    m_listPane.MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
-    m_picturePane.MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
+    for (CPane* const pPane : {&m_listPane, &m_picturePane})
+        pPane->MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
     m_statusBar.MoveWindow(CRect(0, bottom, cx, bottom + kStatusBarHeight));
 }
 

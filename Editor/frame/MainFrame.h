@@ -62,6 +62,7 @@ private:
     void GoBackTo(CContainer* pContainer);
     void GoToPart(int nPart);             // of the path
     bool HandleKey(UINT vkey, bool bAlt); // false: it means nothing here
+    void Arrange(int cx, int cy);
     void ShowPicture(CMember* pMember);
     void HidePicture();
     void UpdatePath();

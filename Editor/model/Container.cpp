@@ -17,7 +17,9 @@ std::vector<UINT> ByName(const MemberTable& table, Wanted wanted)
     for (UINT i = 0; i < table.GetCount(); ++i)
         if (wanted(i))
             indexes.push_back(i);
-    std::stable_sort(indexes.begin(), indexes.end(), [&](UINT a, UINT b) { return table.NameOf(a) < table.NameOf(b); });
+    const auto before = [&](UINT a, UINT b) { return table.NameOf(a) < table.NameOf(b); };
+    if (!std::is_sorted(indexes.begin(), indexes.end(), before))
+        std::stable_sort(indexes.begin(), indexes.end(), before);
     return indexes;
 }
 
