@@ -1,6 +1,7 @@
 #include "Views/list/NameKeys.h"
 
 #include "Toolkit/base/Text.h"
+#include "Views/host/ReadName.h"
 
 #include <algorithm>
 #include <cstring>
@@ -56,8 +57,7 @@ views::NameKeys::NameKeys(std::size_t nExpected) : m_buffer(256)
 
 bool views::NameKeys::Add(IAtom* pAtom)
 {
-    DWORD dwLength = 0;
-    pAtom->GetName(nullptr, &dwLength);
+    auto dwLength = static_cast<DWORD>(AskNameLength(pAtom, &IAtom::GetName));
     if (m_buffer.size() <= dwLength)
         m_buffer.resize(std::size_t{dwLength} + 1);
     m_buffer[0] = '\0';

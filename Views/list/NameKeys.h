@@ -26,7 +26,7 @@ public:
 
     explicit NameKeys(std::size_t nExpected);
 
-    bool Add(IAtom* pAtom); // false when its name cannot be read
+    bool Add(IAtom* pAtom); // false when its name cannot be read; raises CMemoryException
     // The keys in order, each with the number of the Add that made it; equal names in the order of their Adds.
     const std::vector<KEY>& Sort();
 

@@ -1,6 +1,7 @@
 #include "tests/views/FakeHost.h"
 
 #include "Kernel/Kernel.h"
+#include "Toolkit/base/Exception.h"
 
 #include <algorithm>
 #include <cstring>
@@ -65,6 +66,10 @@ void FakeAtom::GetInterface(DWORD id, void** out)
 
 BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
 {
+    if (!pBuffer && nameIsEndless) {
+        *pLength = 0xFFFFFFFF;
+        return TRUE;
+    }
     nNameReads += pBuffer != nullptr;
     return CopyName(name, nameFails, pBuffer, pLength);
 }
@@ -86,6 +91,8 @@ int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
 {
     if (pLedger)
         pLedger->push_back("icon " + name + " at " + std::to_string(nReplace));
+    if (iconNeedsTooMuch)
+        AfxThrowMemoryException();
     if (iconFails)
         return -1;
     const HICON hIcon = CreateIconFromSurface(toolkit::Surface(CSize(48, 48), 0xFF00FF00));

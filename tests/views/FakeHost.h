@@ -31,13 +31,15 @@ public:
 
     std::string name;
     bool nameFails = false;
+    bool nameIsEndless = false;             // announces a length that no name has
     std::optional<std::string> displayName; // offers IDispAtom
     bool displayNameFails = false;
     bool hasIcon = false; // offers IAtomIcon
     bool iconFails = false;
-    bool isLink = false;    // offers IImageLink
-    int position = 0;       // in its phase
-    bool isLibrary = false; // offers ICharacterLibrary
+    bool iconNeedsTooMuch = false; // memory runs out while it is made
+    bool isLink = false;           // offers IImageLink
+    int position = 0;              // in its phase
+    bool isLibrary = false;        // offers ICharacterLibrary
     bool isModified = false;
     FakeContainer* parent = nullptr;
     int nNameReads = 0;        // names filled in, lengths asked for not counted

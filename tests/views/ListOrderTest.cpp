@@ -116,6 +116,17 @@ TEST_F(ListOrderTest, LinksAmongOtherAtomsOrOfTwoPhasesAndNamesThatFailAreCompar
     }
 }
 
+TEST_F(ListOrderTest, ANameOfAnImpossibleLengthIsReportedAndEqualToAnyOther)
+{
+    FakeContainer* const pBox = MakeBox({"b", "a"});
+    pBox->Named("a")->nameIsEndless = true;
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pBox);
+    EXPECT_EQ("b a", list.Names());
+    EXPECT_EQ(std::vector<std::string>{": Out of memory."}, desktop.TakeMessageBoxes());
+}
+
 TEST_F(ListOrderTest, ALoadReadsEachNameOnce)
 {
     FakeContainer* const pBox = MakeBox({});
