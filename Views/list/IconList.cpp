@@ -31,7 +31,12 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CObjectsList::OnCreate(lpCreateStruct) == -1)
         return -1;
-    m_images.Create(kDefaultImages, kImageWidth, kImagesToGrow, kTransparent);
+    try {
+        m_images.Create(kDefaultImages, kImageWidth, kImagesToGrow, kTransparent);
+    } catch (const CMemoryException&) {
+        // As without the bitmap.
+    }
+    m_freeImages.clear(); // a former window's
     m_nDefaultImage = 0;
     SetImageList(&m_images, LVSIL_NORMAL);
     return 0;
@@ -42,7 +47,12 @@ void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData
 {
     const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
     const int nFree = TakeFreeImage();
-    const int nImage = pIcon ? pIcon->AddToImageList(m_images.GetSafeHandle(), nFree) : -1;
+    int nImage = -1;
+    try {
+        nImage = pIcon ? pIcon->AddToImageList(m_images.GetSafeHandle(), nFree) : -1;
+    } catch (const CMemoryException&) {
+        // As for an icon that fails.
+    }
     pData->nImage = nImage != -1 ? nImage : m_nDefaultImage;
 }
 
@@ -52,8 +62,8 @@ void CIconList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
         return;
     try {
         m_freeImages.push_back(pData->nImage);
-    } catch (CMemoryException& e) {
-        e.ReportError(); // the image is not used again
+    } catch (const CMemoryException&) {
+        // The image is not used again.
     }
 }
 

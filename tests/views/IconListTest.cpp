@@ -38,10 +38,11 @@ TEST_F(IconListTest, IconsFollowTheDefaultPictureAndAtomsWithoutOneShareIt)
     ProbeList& list = ShowHidden();
     EXPECT_EQ(1, CountImages(list));
     box->Named("c")->iconFails = true;
+    box->Named("d")->hasIcon = box->Named("d")->iconNeedsTooMuch = true;
     Hint(list, 0, 3);
     EXPECT_EQ("a 1, b 2, c 0, d 0",
               Shown(list, 0) + ", " + Shown(list, 1) + ", " + Shown(list, 2) + ", " + Shown(list, 3));
-    EXPECT_EQ(Ledger({"icon a at -1", "icon b at -1", "icon c at -1"}), icons);
+    EXPECT_EQ(Ledger({"icon a at -1", "icon b at -1", "icon c at -1", "icon d at -1"}), icons);
     EXPECT_EQ(3, CountImages(list));
 }
 
@@ -72,6 +73,17 @@ TEST_F(IconListTest, AnotherContainersRowsUseThePicturesAgain)
     Hint(list, 0, 2);
     EXPECT_EQ(4, CountImages(list));
     EXPECT_EQ("a 3", Shown(list, 0)); // the rows left c first
+}
+
+TEST_F(IconListTest, ANewWindowBeginsWithoutTheFormersPictures)
+{
+    ProbeList& list = ShowHidden();
+    Hint(list, 0, 2);
+    list.DestroyWindow();
+    ASSERT_TRUE(list.Create(&frame));
+    list.SetRootAtom(box);
+    Hint(list, 0, 1);
+    EXPECT_EQ("a 1, b 2", Shown(list, 0) + ", " + Shown(list, 1));
 }
 
 TEST_F(IconListTest, WithoutTheHostsBitmapRowsHaveNoPicture)
