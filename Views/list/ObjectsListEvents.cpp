@@ -90,9 +90,10 @@ void CObjectsList::RemoveRow(int nItem)
 // Only a cached row can show what is out of date; others are read when they are next hinted.
 BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
+    if (pAtom)
+        CheckOrder(pAtom); // also when nothing else is done: rows must be found afterwards
     if (!m_bSync || !pAtom)
         return TRUE;
-    CheckOrder(pAtom);
     const int nRow = FindCachedRow(pAtom);
     if (nRow < 0)
         return TRUE;

@@ -124,6 +124,20 @@ TEST_F(ListEventsTest, AnAtomIsFoundWhereverItsNameHasLedIt)
     EXPECT_EQ("[b2 c d e f G *0 y]", selected("0"));
 }
 
+TEST_F(ListEventsTest, ANameChangedWhileTheListWasTellingIsMinded)
+{
+    FakeContainer* const pBox = MakeBox({"a", "b", "c", "d", "e"});
+    ProbeList& list = ShowList(pBox);
+    editor.onNotify = [&](AEStateOperation, IAtom*) {
+        FakeAtom* const pAtom = std::exchange(editor.onNotify, nullptr) ? pBox->Named("a") : nullptr;
+        pAtom->name = "D";
+        list.OnChangeAtom(pAtom, pBox);
+    };
+    Select(list, 2);
+    list.OnAtomSelected(pBox->Named("d"), pBox);
+    EXPECT_EQ("[*D b *c d e]", list.State()); // the first of the name
+}
+
 TEST_F(ListEventsTest, ARenameIsANewAtomAndTheOldOnesEnd)
 {
     FakeContainer* const pBox = MakeBox({"a", "b", "c"});
