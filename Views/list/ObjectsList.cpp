@@ -83,14 +83,18 @@ void CObjectsList::GetInterface(DWORD id, void** out)
         AddRef();
 }
 
+CStubRef<IAtomEditor> CObjectsList::EditorToTell() const
+{
+    return CStubRef<IAtomEditor>::Adopt(m_bPassive ? nullptr : GetAtomEditor());
+}
+
 int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CListCtrl::OnCreate(lpCreateStruct) == -1)
         return -1;
 
     m_bSync = TRUE;
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (pEditor && !m_bPassive)
+    if (const auto pEditor = EditorToTell())
         m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
     UpdateIndexes();
     return 0;
@@ -98,10 +102,8 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CObjectsList::OnDestroy()
 {
-    if (!m_bPassive) {
-        if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
-            pEditor->UnregisterHandler(m_dwHandlerCookie);
-    }
+    if (const auto pEditor = EditorToTell())
+        pEditor->UnregisterHandler(m_dwHandlerCookie);
     CListCtrl::OnDestroy();
     ClearContext();
 }
@@ -156,28 +158,29 @@ void CObjectsList::LoadMembers()
 
 void CObjectsList::ShowPane()
 {
-    if (m_bPassive || m_bPaneShown)
+    if (m_bPaneShown)
         return;
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto pEditor = EditorToTell();
     if (!pEditor)
         return;
 
     CString strCaption;
+    IconHolder hIcon;
     try {
         strCaption.LoadString(m_nResourceID);
+        hIcon.reset(::LoadIcon(LOWORD(m_nResourceID)));
     } catch (CMemoryException& e) {
-        e.ReportError();
+        e.ReportError(); // the pane comes without what is missing
     }
-    const IconHolder hIcon(::LoadIcon(LOWORD(m_nResourceID)));
     pEditor->AddPane(m_nPaneKind, m_hWnd, strCaption, hIcon.get());
     m_bPaneShown = TRUE;
 }
 
 void CObjectsList::RemovePane()
 {
-    if (m_bPassive || !m_bPaneShown)
+    if (!m_bPaneShown)
         return;
-    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor())) {
+    if (const auto pEditor = EditorToTell()) {
         pEditor->RemovePane(m_nPaneKind, m_hWnd);
         m_bPaneShown = FALSE;
     }
@@ -202,7 +205,7 @@ void CObjectsList::GoToItem(UINT nItem)
     const HELDPAIR pair = HoldPair(static_cast<int>(nItem));
     if (!pair)
         return;
-    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
+    if (const auto pEditor = EditorToTell())
         pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnAtomEntered, pair.pAtom.Get(), pair.pContainer.Get(), 0);
 }
 

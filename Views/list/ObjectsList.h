@@ -17,7 +17,7 @@ class IAtomEditor;
 // The control knows only how many rows there are; the view has one atom for each, in display order. Names and
 // pictures are read when the control announces the rows it is about to draw, and kept for the rows announced
 // last; drawing asks no atom anything. A view registers with the editor while its window lives, unless it is passive: a
-// passive view loads and shows rows, but is told nothing, shows no pane and tells nothing when it gains the focus.
+// passive view loads and shows rows, but is told nothing, tells and asks nothing, and shows no pane.
 //
 // A derived class destroys its window in its own destructor, so that its hooks are there when the rows go.
 class VIEWS_API CObjectsList : public CListCtrl, public IAEStateHandler
@@ -110,6 +110,8 @@ private:
     OBJPAIR* PairAt(int nItem) const; // what GetItemData gives, NULL for 0
     HELDPAIR HoldPair(int nItem) const;
     bool IsShown(IAtomContainer* pContainer) const { return pContainer && pContainer == m_pContainer.Get(); }
+
+    CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor and for a passive view
 
     void UpdateIndexes();
     void ClearContext();

@@ -2,7 +2,6 @@
 // ObjectsListSelection.cpp, OnAtomEntered is in ObjectsList.cpp.
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/Services.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/UpdateLock.h"
 
@@ -69,7 +68,7 @@ void CObjectsList::ReloadContainer(IAtomContainer* pContainer)
 {
     const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // reloading gives up the view's own reference
     const views::UpdateLock lock(this);
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto pEditor = EditorToTell();
     OnAtomEntered(pContainer, nullptr);
     if (pEditor)
         pEditor->NotifyHandlers(this, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);

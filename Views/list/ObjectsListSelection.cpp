@@ -36,7 +36,7 @@ void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
 
     m_bFocusFromSelChange = !m_bHasFocus;
     const HELDPAIR pair = HoldPair(pChange->iItem);
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto pEditor = EditorToTell();
     if (!pair || !pEditor)
         return;
 
@@ -55,7 +55,7 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!m_bSync || !IsWindowVisible() || !(pChange->uChanged & LVIF_STATE))
         return;
     const bool bSelected = Gains(*pChange, LVIS_SELECTED);
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto pEditor = EditorToTell();
     if (!pEditor || (!bSelected && !Loses(*pChange, LVIS_SELECTED)))
         return;
 

@@ -67,6 +67,30 @@ TEST_F(ListModelTest, EnteringAContainerShowsItsMembersAndThePaneOnce)
     EXPECT_EQ(Ledger({"pane 1 \"Icons\" with icon"}), editor.TakeLedger());
 }
 
+TEST_F(ListModelTest, WithoutMemoryForItsIconThePaneComesWithoutIt)
+{
+    FakeContainer* const pBox = MakeBox({});
+    ProbeList& list = MakeList({});
+    const auto load = [&] { list.SetRootAtom(pBox); };
+    hooks.reserve(100);
+    editor.Uninstall();
+    load();
+    const int nWithoutPane = CountAllocations(load);
+    const int nForIcon = CountAllocations([] { DestroyIcon(LoadIcon(1008)); });
+    editor.Install();
+    EXPECT_LT(0, nForIcon);
+    for (int nth = 1; nth <= nForIcon; ++nth) {
+        list.OnAtomEntered(nullptr, nullptr);
+        editor.TakeLedger();
+        {
+            const FailAllocation failure(nWithoutPane + nth);
+            load();
+        }
+        EXPECT_EQ(Ledger({"pane 1 \"Icons\""}), editor.TakeLedger());
+        EXPECT_EQ(std::vector<std::string>{": Out of memory."}, desktop.TakeMessageBoxes());
+    }
+}
+
 TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
 {
     ProbeList& list = ShowList(MakeBox({"a", "b"}), {.passive = true});
@@ -74,7 +98,13 @@ TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
     editor.active = CStubRef<IAtom>::Share(world->members[0].Get());
     Hint(list, 0, 1);
     EXPECT_EQ("a 0", Shown(list, 0));
-    list.SetFocus();
+    editor.Veto(&IAEStateHandler::OnAtomSelecting); // is not asked
+    Click(list, 1);
+    EXPECT_EQ("[a (*b)]", list.State());
+    list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    desktop.DoubleClick(list.m_hWnd, PointOf(list, 1));
+    list.OnDeleteAtom(nullptr, static_cast<FakeContainer*>(world->members[0].Get()));
+    EXPECT_EQ("[a b]", list.State());
     list.OnAtomEntered(nullptr, nullptr);
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 }
