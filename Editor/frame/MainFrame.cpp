@@ -43,7 +43,6 @@ BOOL CMainFrame::Create(CSize client)
 
 void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 {
-    SetWindowText((pLibrary->ShownName() + " - Views").c_str());
     GoTo(pLibrary);
 }
 
@@ -106,6 +105,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
         HidePicture();
     else
         ShowPicture(pMember);
+    SetWindowText((pMember->ShownName() + " - Views").c_str());
     UpdatePath();
     UpdateStatus();
     return TRUE;
