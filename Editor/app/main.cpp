@@ -5,6 +5,7 @@
 #include "Editor/CommandLine.h"
 #include "Editor/EditorApp.h"
 #include "Editor/app/Display.h"
+#include "Editor/app/ProgramIcon.h"
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
 #include "Editor/model/FileText.h"
@@ -33,6 +34,7 @@ void ShowOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& m
 
 int Show(QApplication& application, const editor::CommandLine& line)
 {
+    application.setWindowIcon(editor::MakeProgramIcon());
     const editor::QtPictureReader reader;
     qtdesktop::QtDesktop desktop;
     editor::EditorApp editor(reader, {.size = line.size, .onClosed = [&] { application.quit(); }});

@@ -1,0 +1,22 @@
+#include "Editor/app/ProgramIcon.h"
+
+#include "Editor/resources/Pictograms.h"
+
+#include <QPixmap>
+
+namespace editor
+{
+
+QIcon MakeProgramIcon()
+{
+    QIcon icon;
+    for (const int nPixels : {16, 24, 32, 48, 64, 128}) {
+        const toolkit::Surface drawn = DrawPictogram(Pictogram::IconPane, nPixels);
+        const QImage picture(reinterpret_cast<const uchar*>(drawn.Row(0)), nPixels, nPixels,
+                             QImage::Format_ARGB32_Premultiplied);
+        icon.addPixmap(QPixmap::fromImage(picture.copy()));
+    }
+    return icon;
+}
+
+} // namespace editor
