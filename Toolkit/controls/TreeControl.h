@@ -116,7 +116,7 @@ private:
     LRESULT OnDeleteItem(WPARAM, LPARAM lParam);
     [[nodiscard]] bool DeleteBranch(HTREEITEM hTop);
     [[nodiscard]] bool DeleteChildren(ItemIndex parent);
-    [[nodiscard]] bool MoveSelectionOutOf(HTREEITEM hItem);
+    [[nodiscard]] bool MoveSelectionOutOf(ItemIndex item);
     [[nodiscard]] bool Remove(HTREEITEM hItem); // a leaf that was announced
     bool IsGoing(ItemIndex item) const { return m_nDeleting > 0 && m_items.Goes(item); }
 

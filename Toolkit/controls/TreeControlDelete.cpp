@@ -10,18 +10,15 @@ LRESULT TreeControl::OnDeleteItem(WPARAM, LPARAM lParam)
     const ItemIndex item = hItem == TVI_ROOT ? kRootItem : m_items.Find(hItem);
     if (item == kNoItem)
         return FALSE;
-    if (IsGoing(item))
-        return TRUE; // as it was told before
-    if (!MoveSelectionOutOf(hItem))
+    if (!MoveSelectionOutOf(item))
         return TRUE;
     static_cast<void>(item == kRootItem ? DeleteChildren(kRootItem) : DeleteBranch(hItem));
     return TRUE;
 }
 
-// Where the selection may not leave, it is given up without a word.
-bool TreeControl::MoveSelectionOutOf(HTREEITEM hItem)
+// Where the selection may not leave, it goes with its item, without a word.
+bool TreeControl::MoveSelectionOutOf(ItemIndex item)
 {
-    const ItemIndex item = m_items.FindParent(hItem);
     if (!m_hCaret || !m_items.IsWithin(item, m_items.Find(m_hCaret)))
         return true;
     ItemIndex heir = kNoItem;
@@ -32,12 +29,7 @@ bool TreeControl::MoveSelectionOutOf(HTREEITEM hItem)
         if (heir == kNoItem)
             heir = m_items.Previous(item);
     }
-    if (!Select(m_items.HandleOf(heir), TVC_UNKNOWN))
-        return false;
-    const ItemIndex itemNow = m_items.FindParent(hItem);
-    if (itemNow != kNoItem && m_hCaret && m_items.IsWithin(itemNow, m_items.Find(m_hCaret)))
-        SetCaret(nullptr);
-    return true;
+    return Select(m_items.HandleOf(heir), TVC_UNKNOWN);
 }
 
 bool TreeControl::DeleteChildren(ItemIndex parent)
@@ -60,8 +52,9 @@ bool TreeControl::DeleteChildren(ItemIndex parent)
     }
 }
 
-// Down to a leaf, which goes, and on from its parent. No recursion: a branch may be deep. Of what goes nothing else
-// is deleted, inserted into or selected by a handler.
+// Down to a leaf, which goes, and on from its parent. No recursion: a branch may be deep. Nothing is inserted into
+// what goes, and nothing of it selected. A handler may delete the rest of it, or what it is a branch of: each item is
+// announced once.
 bool TreeControl::DeleteBranch(HTREEITEM hTop)
 {
     const UnderWay deleting(m_hWnd, m_nDeleting);
@@ -76,7 +69,6 @@ bool TreeControl::DeleteBranch(HTREEITEM hTop)
             continue;
         }
         const HTREEITEM hParent = m_items.HandleOf(m_items.Parent(item));
-        // A handler that deletes what this is a branch of removes the item meanwhile.
         const bool announced = m_items[item].announced;
         m_items[item].announced = true;
         if ((!announced && !TellItem(TVN_DELETEITEM, hItem, 0)) || !Remove(hItem))
@@ -89,8 +81,6 @@ bool TreeControl::DeleteBranch(HTREEITEM hTop)
 
 bool TreeControl::Remove(HTREEITEM hItem)
 {
-    if (m_press && m_press->hit.hItem == hItem && !CancelPress())
-        return false;
     const ItemIndex item = m_items.Find(hItem);
     if (item == kNoItem)
         return true;
@@ -100,8 +90,6 @@ bool TreeControl::Remove(HTREEITEM hItem)
     if (m_hCaret == hItem)
         m_hCaret = nullptr;
     SetState(item, 0, TVIS_DROPHILITED);
-    if (m_hTop == hItem)
-        m_hTop = m_items.HandleOf(m_items.AtRow(row + 1 < m_items.RowCount() ? row + 1 : row - 1));
     m_items.Delete(item);
 
     if (row < 0) {

@@ -73,7 +73,7 @@ LRESULT TreeControl::OnInsertItem(WPARAM, LPARAM lParam)
 bool TreeControl::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
 {
     const ItemIndex parent = m_items.FindParent(insert.hParent);
-    if (parent == kNoItem || !m_items[parent].placed || IsGoing(parent))
+    if (parent == kNoItem || !m_items[parent].placed)
         return true;
     const HTREEITEM hParent = m_items.HandleOf(parent);
     const NewItem made(*this);
@@ -86,7 +86,7 @@ bool TreeControl::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
         return false;
     const ItemIndex item = m_items.Find(made.Handle()), parentNow = m_items.FindParent(hParent);
     if (item == kNoItem || parentNow == kNoItem || IsGoing(parentNow))
-        return true; // a handler took it away
+        return true; // it was taken away, or is to go
     if (insert.hInsertAfter != TVI_SORT && m_items.ChildCount(parentNow) > 0)
         DoubtOrder(parentNow);
     m_items.Place(item, parentNow, std::min(place, m_items.ChildCount(parentNow)));

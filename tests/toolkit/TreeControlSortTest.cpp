@@ -93,6 +93,7 @@ TEST_F(TreeControlTest, AfterASortByTheOwnerOneLookShowsWhetherLabelsAreInOrder)
     };
     EXPECT_EQ(1001, insert("0005x"));
     EXPECT_LE(insert("0007x"), 12); // they are
+    EXPECT_EQ(Number(8), tree.NameOf(tree.GetPrevSiblingItem(tree.Add(Number(8), TVI_ROOT, TVI_SORT))));
 
     TVSORTCB sort{TVI_ROOT, &CompareBackwards, 0};
     EXPECT_TRUE(tree.SortChildrenCB(&sort));

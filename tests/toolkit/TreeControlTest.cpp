@@ -155,6 +155,16 @@ TEST_F(TreeControlTest, AnOwnerThatSelectsWhileItIsAskedOrToldWins)
     EXPECT_EQ(Ledger({"selecting a -> b", "selecting a -> c", "selected a -> c", "selected c -> b", "selecting b -> d",
                       "selected b -> d"}),
               TakeLedger());
+
+    Fill("a (b) c");
+    tree.meanwhile = [this](const std::string& line) {
+        if (line == "expanding a")
+            tree.SelectItem((*this)["c"]);
+    };
+    tree.SelectItem((*this)["b"]);
+    EXPECT_EQ("a [b] *c", State());
+    EXPECT_EQ(Ledger({"selecting - -> b", "expanding a", "selecting b -> c", "selected b -> c", "expanded a"}),
+              TakeLedger());
 }
 
 TEST_F(TreeControlTest, TheSelectionLeavesWhatIsDeletedAndChildrenGoFirst)
@@ -301,6 +311,7 @@ TEST_F(TreeControlTest, TheWindowOrAllItemsMayGoInAnyNotification)
                     break; // all were tried
                 ASSERT_EQ(destroys, tree.m_hWnd == nullptr);
                 ASSERT_LE(tree.m_hWnd ? tree.GetCount() : 0u, 1u);
+                ASSERT_TRUE(!tree.m_hWnd || !tree.GetSelectedItem() || State().front() == '*');
             }
         }
     }

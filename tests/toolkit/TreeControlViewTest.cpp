@@ -140,6 +140,21 @@ TEST_F(TreeControlTest, WheelAndBarScrollByRowsAndTheTopRowStaysInPlace)
     EXPECT_EQ(5, info.nPos);
     tree.DeleteAllItems();
     EXPECT_EQ(0u, tree.GetStyle() & WS_VSCROLL);
+
+    Fill("0 1 2 a [b c d e f g h i j k l m n] o p q r s t u v w x");
+    tree.SelectSetFirstVisible((*this)["d"]);
+    EXPECT_EQ("d", InRow(0));
+    tree.Expand((*this)["a"], TVE_COLLAPSE); // stays in sight, in the place of what it held
+    EXPECT_EQ("a", InRow(0));
+}
+
+TEST_F(TreeControlTest, WhatWasSelectedBeforeThereWasRoomIsInSightWhenThereIs)
+{
+    tree.MoveWindow(CRect(0, 0, 0, 0));
+    Fill("a b c d e f g h i j k l m n o p");
+    tree.SelectItem((*this)["m"]);
+    tree.MoveWindow(CRect(0, 0, 300, 100));
+    EXPECT_EQ("m", InRow(4));
 }
 
 TEST_F(TreeControlTest, LongLabelsScrollSidewaysAndTheBarGoesWithThem)
