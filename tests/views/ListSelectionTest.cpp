@@ -161,6 +161,52 @@ TEST_F(ListSelectionTest, InAFocusBlockTheFocusChangesWithoutAWord)
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 }
 
+// An icon list that writes down what it posts to itself.
+class PostingList : public CIconList
+{
+public:
+    ~PostingList() override { DestroyWindow(); }
+    Ledger posted;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == LVM_SORTITEMS)
+            posted.push_back("sort");
+        if (message == WM_LBUTTONUP)
+            posted.push_back("up " + std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam)) +
+                             " keys " + std::to_string(wParam));
+        return CIconList::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(ListSelectionTest, LosingTheFocusOrGainingItInABlockReleasesTheButtonAtTheCursor)
+{
+    PostingList list;
+    ASSERT_TRUE(list.Create(&frame));
+    list.MoveWindow(CRect(100, 0, 390, 400));
+    list.ShowWindow(SW_SHOW);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"sort"}), list.posted);
+    desktop.MoveTo(frame.m_hWnd, {90, 50}); // left of the list
+    CPoint cursor = desktop.CursorPos();
+    list.ScreenToClient(&cursor);
+    EXPECT_GT(0, cursor.x);
+    const std::string strUp = "up " + std::to_string(cursor.x) + "," + std::to_string(cursor.y) + " keys 0";
+
+    list.posted.clear();
+    list.SetFocus();
+    desktop.Run();
+    EXPECT_EQ(Ledger(), list.posted);
+    field.SetFocus();
+    desktop.Run();
+    EXPECT_EQ(Ledger({strUp}), list.posted);
+    const FocusBlock block;
+    list.SetFocus();
+    desktop.Run();
+    EXPECT_EQ(Ledger({strUp, strUp}), list.posted);
+}
+
 TEST_F(ListSelectionTest, ARefusedSaveBetweenTwoListsAsksOnce)
 {
     ProbeList& list = ShowList(box);
