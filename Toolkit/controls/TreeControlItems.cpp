@@ -216,7 +216,10 @@ LRESULT TreeControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
 ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
 {
     const ItemIndex item = m_items.Find(hItem);
-    const int row = item == kNoItem ? -1 : m_items.RowOf(item);
+    const auto atRow = [&](int offset) {
+        const int row = item == kNoItem ? -1 : m_items.RowOf(item);
+        return row < 0 ? kNoItem : m_items.AtRow(row + offset);
+    };
     switch (code) {
     case TVGN_ROOT:
         return m_items.FirstChild(kRootItem);
@@ -233,9 +236,9 @@ ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
     case TVGN_LASTVISIBLE:
         return m_items.AtRow(m_items.RowCount() - 1);
     case TVGN_NEXTVISIBLE:
-        return row < 0 ? kNoItem : m_items.AtRow(row + 1);
+        return atRow(1);
     case TVGN_PREVIOUSVISIBLE:
-        return row < 0 ? kNoItem : m_items.AtRow(row - 1);
+        return atRow(-1);
     default:
         return kNoItem;
     }
