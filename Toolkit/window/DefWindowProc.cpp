@@ -39,7 +39,7 @@ void Paint(HWND hWnd)
 
 LRESULT Erase(const WindowRecord& window, HDC hdc)
 {
-    return FillSolidRect(hdc, CRect(CPoint(), toolkit::ClientBox(window).Size()), GetSysColor(COLOR_BTNFACE));
+    return FillSolidRect(hdc, toolkit::ClientRect(window), GetSysColor(COLOR_BTNFACE));
 }
 
 LRESULT AskForContextMenu(HWND hWnd, CPoint screen)

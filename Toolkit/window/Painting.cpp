@@ -50,7 +50,7 @@ void PaintFrameOf(WindowRecord& window)
 {
     const HWND hWnd = window.hWnd;
     const CPoint origin = toolkit::WindowArea(window).TopLeft();
-    Region clip = std::exchange(window.frameUpdate, {});
+    Region clip = window.frameUpdate.Take({CPoint(), window.rect.Size()});
     clip.Offset(origin);
     clip = Intersection(clip, VisibleFrame(window));
     if (clip.IsEmpty())
@@ -160,7 +160,7 @@ toolkit::PaintTarget toolkit::BeginPaint(HWND hWnd)
     if (IsUpdateLocked(*pWindow)) // what is noted stays noted
         return {OpenWindowDC(*pWindow, origin, {}), {}};
 
-    Region clip = std::exchange(pWindow->update, {});
+    Region clip = pWindow->update.Take(ClientRect(*pWindow));
     clip.Offset(origin);
     clip = Intersection(clip, VisibleClient(*pWindow, Children::AsTheStyleSays));
     NoteChildrenUnder(*pWindow, clip, origin);

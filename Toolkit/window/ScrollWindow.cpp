@@ -37,8 +37,7 @@ void MovePixels(Surface& surface, std::vector<CRect> rects, int dx, int dy)
 // What was noted moves along, and what came into sight joins it; both in client coordinates.
 void NoteScrolled(WindowRecord& window, const Region& exposed, CPoint by)
 {
-    window.update.Offset(by);
-    window.update.Intersect(CRect(CPoint(), toolkit::ClientBox(window).Size()));
+    window.update.Move(by, toolkit::ClientRect(window));
     for (const CRect& rect : exposed.Rects())
         toolkit::NoteArea(window, rect, true);
 }
@@ -58,15 +57,14 @@ BOOL ScrollWindow(HWND hWnd, int dx, int dy)
     Region moved(visible);
     moved.Offset({dx, dy});
     moved = Intersection(visible, moved);
-    WindowRecord& top = toolkit::TopOf(*pWindow);
-    MovePixels(toolkit::SurfaceOf(top), moved.Rects(), dx, dy);
-    toolkit::NotePainted(top, moved.Bounds());
-
     Region exposed(visible);
     for (const CRect& rect : moved.Rects())
         exposed.Subtract(rect);
-    const CPoint origin = toolkit::ClientArea(*pWindow).TopLeft();
-    exposed.Offset(CPoint() - origin);
+    exposed.Offset(CPoint() - toolkit::ClientArea(*pWindow).TopLeft());
+
+    WindowRecord& top = toolkit::TopOf(*pWindow);
+    MovePixels(toolkit::SurfaceOf(top), moved.Rects(), dx, dy);
+    toolkit::NotePainted(top, moved.Bounds());
     NoteScrolled(*pWindow, exposed, {dx, dy});
     return TRUE;
 }

@@ -11,11 +11,6 @@ namespace
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
 
-CRect ClientRect(const WindowRecord& window)
-{
-    return {CPoint(), toolkit::ClientBox(window).Size()};
-}
-
 // The window and all its children; it is shown, and `area` is relative to its own top left corner.
 void NoteTree(WindowRecord& window, const CRect& area)
 {
@@ -39,7 +34,7 @@ void toolkit::NoteChildren(WindowRecord& window, const CRect& area)
 
 void toolkit::NoteArea(WindowRecord& window, const CRect& area, bool bErase)
 {
-    const CRect part = area & ClientRect(window);
+    const CRect part = area & toolkit::ClientRect(window);
     if (part.IsRectEmpty())
         return;
     window.update.Add(part);
@@ -66,7 +61,7 @@ void toolkit::NoteExposed(WindowRecord& parent, const CRect& area)
     if (!IsShown(parent))
         return;
     NoteArea(parent, area, true);
-    NoteChildren(parent, area & ClientRect(parent));
+    NoteChildren(parent, area & toolkit::ClientRect(parent));
 }
 
 BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
@@ -75,7 +70,7 @@ BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
     if (!pWindow)
         return FALSE;
     if (toolkit::IsShown(*pWindow))
-        toolkit::NoteArea(*pWindow, pRect ? CRect(*pRect) : ClientRect(*pWindow), bErase != FALSE);
+        toolkit::NoteArea(*pWindow, pRect ? CRect(*pRect) : toolkit::ClientRect(*pWindow), bErase != FALSE);
     return TRUE;
 }
 
@@ -85,7 +80,7 @@ BOOL ValidateRect(HWND hWnd, const RECT* pRect)
     if (!pWindow)
         return FALSE;
     if (pRect)
-        pWindow->update.Subtract(*pRect);
+        pWindow->update.Remove(*pRect, toolkit::ClientRect(*pWindow));
     else
         pWindow->update.Clear();
     if (pWindow->update.IsEmpty())
@@ -96,7 +91,7 @@ BOOL ValidateRect(HWND hWnd, const RECT* pRect)
 BOOL GetUpdateRect(HWND hWnd, RECT* pRect)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);
-    const CRect bounds = pWindow ? pWindow->update.Bounds() : CRect();
+    const CRect bounds = pWindow ? pWindow->update.Bounds(toolkit::ClientRect(*pWindow)) : CRect();
     if (pRect)
         *pRect = bounds;
     return !bounds.IsRectEmpty();

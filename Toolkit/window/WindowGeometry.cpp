@@ -37,6 +37,11 @@ CRect toolkit::ClientBox(const WindowRecord& window)
     return box;
 }
 
+CRect toolkit::ClientRect(const WindowRecord& window)
+{
+    return {CPoint(), ClientBox(window).Size()};
+}
+
 CRect toolkit::ScrollBarBox(const WindowRecord& window, int nBar)
 {
     if (BarExtent(window, nBar) == 0)
@@ -159,7 +164,7 @@ BOOL GetClientRect(HWND hWnd, RECT* pRect)
     const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
     if (!pWindow)
         return FALSE;
-    *pRect = CRect(CPoint(), toolkit::ClientBox(*pWindow).Size());
+    *pRect = toolkit::ClientRect(*pWindow);
     return TRUE;
 }
 

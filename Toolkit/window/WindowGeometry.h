@@ -10,6 +10,7 @@ inline constexpr int kScrollBarExtent = 14; // pixels across
 
 // Relative to the window's own top left corner.
 CRect ClientBox(const WindowRecord& window);
+CRect ClientRect(const WindowRecord& window);             // the same size, in client coordinates
 CRect ScrollBarBox(const WindowRecord& window, int nBar); // empty while the bar is hidden
 
 // On the top-level window's surface, not clipped by anything.

@@ -3,9 +3,9 @@
 
 #include "Toolkit/base/HandleTable.h"
 #include "Toolkit/base/String.h"
-#include "Toolkit/graphics/Region.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/window/Messages.h"
+#include "Toolkit/window/NotedRegion.h"
 
 #include <array>
 #include <memory>
@@ -47,8 +47,8 @@ struct WindowRecord
     bool bDestroying = false;
 
     // What is to be painted, and whether the background is to be erased there; the frame is border and scroll bars.
-    Region update;      // client
-    Region frameUpdate; // from the window's top left corner
+    NotedRegion update;      // client
+    NotedRegion frameUpdate; // from the window's top left corner
     bool bErase = false;
     bool bPaintBegun = false; // by the WM_PAINT being handled
 

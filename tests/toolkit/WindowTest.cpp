@@ -140,6 +140,32 @@ TEST_F(WindowTest, AnExceptionInAHandlerIsReportedOnceAndEndsThere)
     EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
 }
 
+TEST_F(WindowTest, RunningOutOfMemoryLeavesNoHalfWindow)
+{
+    CWnd frame;
+    frame.CreateEx(0, "", "", WS_VISIBLE, CRect(0, 0, 60, 60), nullptr, 0);
+    desktop.Run();
+    const int nFailures = FailEveryAllocation([&] {
+        CWnd child;
+        try {
+            child.CreateEx(0, "", "child", WS_CHILD | WS_VISIBLE | WS_BORDER, CRect(5, 5, 40, 40), &frame, 1);
+            child.SetFocus();
+            child.PostMessage(WM_USER);
+            child.SetTimer(1, 10);
+            SetScrollInfo(child.m_hWnd, SB_VERT, {0, 99, 10, 0, 0});
+            desktop.Click(child.m_hWnd, {3, 3});
+            child.UpdateWindow();
+            ScrollWindow(child.m_hWnd, 0, 3);
+        } catch (const CMemoryException&) {
+        }
+        child.DestroyWindow();
+    });
+    EXPECT_LT(10, nFailures);
+    EXPECT_EQ(1, toolkit::CountWindows().windows);
+    EXPECT_EQ(frame.m_hWnd, GetFocus());
+    desktop.TakeMessageBoxes();
+}
+
 // A control that notifies its parent, as list and tree do.
 class Bell : public toolkit::NativeWindow
 {

@@ -1,0 +1,27 @@
+// What of a window is noted to be painted. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/graphics/Region.h"
+
+namespace toolkit
+{
+
+// Noting never fails: without memory for a part, all of the window is noted. What "all" is, the caller knows.
+class NotedRegion
+{
+public:
+    bool IsEmpty() const { return !m_bAll && m_region.IsEmpty(); }
+    CRect Bounds(const CRect& all) const { return m_bAll ? all : m_region.Bounds(); }
+
+    void Add(const CRect& part) noexcept;
+    void Remove(const CRect& part, const CRect& all);
+    void Clear() noexcept;
+    Region Take(const CRect& all);          // and notes it no longer
+    void Move(CPoint by, const CRect& all); // what leaves all of it is noted no longer
+
+private:
+    Region m_region;
+    bool m_bAll = false;
+};
+
+} // namespace toolkit
