@@ -114,7 +114,7 @@ void BeginTracking(const WindowRecord& window, int nBar, CPoint screen)
     s_held = {window.hWnd, nBar, bar.HitTest(at), screen, bar.Along(at), nOffset, nPos, nOffset, nPos};
     Redraw(window.hWnd, nBar);
     SetCapture(s_held.hWnd);
-    if (!s_held.hWnd || s_held.part == ScrollPart::Thumb) // the former holder may have destroyed the window
+    if (s_held.part == ScrollPart::Thumb)
         return;
     toolkit::StartTimer(s_held.hWnd, &RepeatPage, kFirstRepeat);
     PageTowardsMouse();

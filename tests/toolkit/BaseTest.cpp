@@ -1,3 +1,4 @@
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/base/HandleTable.h"
 #include "Toolkit/base/String.h"
 #include "Toolkit/base/Text.h"
@@ -53,6 +54,29 @@ TEST(TextTest, ComparesWithoutRegardToCaseBeyondAscii)
     EXPECT_GT(0, _mbsicmp("\U0010FFFF", "\x80")); // what is not UTF-8 comes last, byte by byte
     EXPECT_NE(0, _mbsicmp("\xC3", "\xC4"));
     EXPECT_EQ(0, _mbsicmp("a\xFF", "A\xFF"));
+}
+
+TEST(TextTest, WhatTwoNamesBeginWithDoesNotMatter)
+{
+    const std::string ends[] = {"", "a", "B", "Ä", "ä", "\xC3", "0001.png", "0002.PNG", "ſ", "s"};
+    std::string start;
+    for (const char* pszPart : {"", "x", "yz", "Ö", "abcde", "\xFF", "1234567890", "€"}) {
+        start += pszPart;
+        for (const std::string& a : ends)
+            for (const std::string& b : ends)
+                EXPECT_EQ(toolkit::CompareNoCase(a, b), toolkit::CompareNoCase(start + a, start + b))
+                    << start << a << b;
+    }
+    EXPECT_EQ(0, toolkit::CompareNoCase("holiday PICTURE", "HOLIDAY picture"));
+}
+
+TEST(StringTest, ATextTooLongForItsLengthFindsNoMemory)
+{
+    CString text("before");
+    const std::string_view huge(text.GetString(), std::size_t{1} << 30);
+    EXPECT_THROW(CString{huge}, CMemoryException);
+    EXPECT_THROW(text += huge, CMemoryException);
+    EXPECT_STREQ("before", text);
 }
 
 struct Thing

@@ -80,20 +80,22 @@ TEST_F(FocusTest, ADisabledWindowLetsGoOfTheFocusAndTakesNone)
 TEST_F(FocusTest, ComingBackToATopLevelWindowRestoresItsFocus)
 {
     SpyWnd other("other", *this, kFocus);
-    other.Show(nullptr, {300, 0, 400, 100});
+    other.Show(nullptr, {100, 0, 400, 100}); // lies over the frame
     TakeLedger();
     const auto activate = [&](const CWnd& wnd, bool bActive) {
         toolkit::InputActivate(wnd.m_hWnd, bActive);
         desktop.Run();
     };
 
-    activate(frame, false);
-    EXPECT_EQ(Ledger({"a KILLFOCUS - ()"}), TakeLedger());
     activate(other, true);
-    EXPECT_EQ(other.m_hWnd, GetFocus());
-    activate(frame, true); // before the other was told that it is not active any more
+    activate(frame, false); // late news
+    EXPECT_EQ(Ledger({"a KILLFOCUS other (other)", "other SETFOCUS a (other)"}), TakeLedger());
+    EXPECT_EQ(other.m_hWnd, WindowFromPoint({150, 50}));
     activate(other, false);
+    EXPECT_EQ(nullptr, GetFocus());
+    activate(frame, true);
     EXPECT_EQ(a.m_hWnd, GetFocus());
+    EXPECT_EQ(frame.m_hWnd, WindowFromPoint({150, 50}));
 
     activate(frame, false);
     a.DestroyWindow();
