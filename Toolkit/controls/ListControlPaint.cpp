@@ -1,6 +1,7 @@
 // How the list control draws: only the cells that touch what is to be painted.
 #include "Toolkit/controls/ListControl.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/window/Wnd.h"
 
 namespace toolkit
 {
@@ -21,22 +22,6 @@ void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
     FillSolidRect(hdc, {rect.left + 2, rect.bottom - 1, rect.right - 2, rect.bottom}, color);
 }
 
-// A device context for WM_PAINT, given back also when the window is gone meanwhile.
-class PaintScope
-{
-public:
-    explicit PaintScope(HWND hWnd) : m_hWnd(hWnd), m_target(BeginPaint(hWnd)) {}
-    ~PaintScope() { EndPaint(m_hWnd, m_target.hdc); }
-    PaintScope(const PaintScope&) = delete;
-    PaintScope& operator=(const PaintScope&) = delete;
-
-    const PaintTarget& Target() const { return m_target; }
-
-private:
-    const HWND m_hWnd;
-    const PaintTarget m_target;
-};
-
 } // namespace
 
 LRESULT ListControl::OnEraseBackground(WPARAM wParam, LPARAM)
@@ -47,8 +32,9 @@ LRESULT ListControl::OnEraseBackground(WPARAM wParam, LPARAM)
 
 LRESULT ListControl::OnPaint(WPARAM, LPARAM)
 {
-    const PaintScope paint(m_hWnd);
-    const auto [hdc, rcPaint] = paint.Target();
+    const CPaintDC paint(m_hWnd);
+    const HDC hdc = paint;
+    const CRect rcPaint = paint.GetPaintRect();
     if (DrawRows(hdc, rcPaint))
         DrawBand(hdc);
     return 0;

@@ -1,6 +1,7 @@
 // How the tree control draws: only the rows that touch what is to be painted.
 #include "Toolkit/controls/TreeControl.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/window/Wnd.h"
 
 namespace toolkit
 {
@@ -26,22 +27,6 @@ void DrawLine(HDC hdc, const CRect& rect)
     BlendRect(hdc, rect, GetSysColor(COLOR_BTNSHADOW), kLine);
 }
 
-// A device context for WM_PAINT, given back also when the window is gone meanwhile.
-class PaintScope
-{
-public:
-    explicit PaintScope(HWND hWnd) : m_hWnd(hWnd), m_target(BeginPaint(hWnd)) {}
-    ~PaintScope() { EndPaint(m_hWnd, m_target.hdc); }
-    PaintScope(const PaintScope&) = delete;
-    PaintScope& operator=(const PaintScope&) = delete;
-
-    const PaintTarget& Target() const { return m_target; }
-
-private:
-    const HWND m_hWnd;
-    const PaintTarget m_target;
-};
-
 } // namespace
 
 LRESULT TreeControl::OnEraseBackground(WPARAM wParam, LPARAM)
@@ -54,8 +39,9 @@ LRESULT TreeControl::OnPaint(WPARAM, LPARAM)
     int width = 0;
     bool complete = false;
     {
-        const PaintScope paint(m_hWnd);
-        const auto [hdc, rcPaint] = paint.Target();
+        const CPaintDC paint(m_hWnd);
+        const HDC hdc = paint;
+        const CRect rcPaint = paint.GetPaintRect();
         if (!DrawRows(hdc, rcPaint, width, complete))
             return 0;
     }

@@ -1,6 +1,6 @@
 #include "Toolkit/window/Wnd.h"
 
-CPaintDC::CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->GetSafeHwnd()), m_target(toolkit::BeginPaint(m_hWnd)) {}
+CPaintDC::CPaintDC(HWND hWnd) : m_hWnd(hWnd), m_target(toolkit::BeginPaint(hWnd)) {}
 
 CPaintDC::~CPaintDC()
 {

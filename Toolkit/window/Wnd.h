@@ -109,11 +109,12 @@ private:
 TOOLKIT_API CWnd* AfxGetMainWnd();
 TOOLKIT_API void AfxSetMainWnd(CWnd* pWnd);
 
-// A device context for WM_PAINT, for as long as the object lives.
+// A device context for WM_PAINT, for as long as the object lives; given back also when the window is gone meanwhile.
 class TOOLKIT_API CPaintDC
 {
 public:
-    explicit CPaintDC(CWnd* pWnd);
+    explicit CPaintDC(HWND hWnd);
+    explicit CPaintDC(const CWnd* pWnd) : CPaintDC(pWnd->m_hWnd) {}
     ~CPaintDC();
     CPaintDC(const CPaintDC&) = delete;
     CPaintDC& operator=(const CPaintDC&) = delete;

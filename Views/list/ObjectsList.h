@@ -138,7 +138,6 @@ private:
     void SetAllSelected(bool bSelected);
     void ClearSelection();
     void SelectRow(int nItem); // and give it the focus; nothing for -1
-    bool OfferSave();
     void AnnounceSelection();
     void PostButtonUp();
     bool TakeFocus(); // false when it was refused

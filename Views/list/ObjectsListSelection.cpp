@@ -1,8 +1,8 @@
 // Selection and focus: what the list view tells the editor of them, and what it takes from it.
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/OfferSave.h"
 #include "Views/host/Services.h"
-#include "Views/host/TopLevelAtom.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/SyncPause.h"
 #include "Views/list/UpdateLock.h"
@@ -148,7 +148,7 @@ void CObjectsList::OnSetFocus(CWnd* pOldWnd)
     }
     if (!m_bPassive) {
         const BOOL bFromSelChange = m_bFocusFromSelChange;
-        if (!OfferSave()) {
+        if (!views::OfferSave()) {
             if (pOldWnd)
                 pOldWnd->SetFocus();
             m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
@@ -159,19 +159,6 @@ void CObjectsList::OnSetFocus(CWnd* pOldWnd)
     m_bFocusFromSelChange = FALSE;
     m_bHasFocus = TRUE;
     CListCtrl::OnSetFocus(pOldWnd);
-}
-
-// Has what the user was working on saved before the work goes on here. False: someone refused.
-bool CObjectsList::OfferSave()
-{
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pEditor)
-        return true;
-    CStubRef<IAtom> pActive, pTop;
-    pEditor->GetActiveAtom(pActive.Receive(), IID_IAtom);
-    if (!GetTopLevelAtom(pActive.Get(), pTop.Receive(), IID_IAtom))
-        return true;
-    return pEditor->NotifyHandlers(nullptr, &IAEStateHandler::PreSaveAtom, pTop.Get(), nullptr, 0) != FALSE;
 }
 
 // The view that has the focus is the one whose selection counts. Nothing to tell when the selection was made from

@@ -1,27 +1,9 @@
 // Selection and focus: what the tree asks and tells the editor of them.
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/OfferSave.h"
 #include "Views/host/Services.h"
-#include "Views/host/TopLevelAtom.h"
 #include "Views/tree/ObjectsTree.h"
-
-namespace
-{
-
-// Has what the user was working on saved before the work goes on here. False: someone refused.
-bool OfferSave()
-{
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pEditor)
-        return true;
-    CStubRef<IAtom> pActive, pTop;
-    pEditor->GetActiveAtom(pActive.Receive(), IID_IAtom);
-    if (!GetTopLevelAtom(pActive.Get(), pTop.Receive(), IID_IAtom))
-        return true;
-    return pEditor->NotifyHandlers(nullptr, &IAEStateHandler::PreSaveAtom, pTop.Get(), nullptr, 0) != FALSE;
-}
-
-} // namespace
 
 // Nothing is sent for the item that is selected already: an announcement of the tree's own that comes back ends here.
 BOOL CObjectsTree::SelectAtom(IAtom* pAtom)
@@ -120,7 +102,7 @@ bool CObjectsTree::WelcomesFocus(CWnd* pOldWnd)
 {
     const HWND hOldWnd = pOldWnd ? pOldWnd->m_hWnd : nullptr;
     const BOOL bFromSelChange = m_bFocusFromSelChange;
-    if (OfferSave() && (AnnounceSelection() || !hOldWnd))
+    if (views::OfferSave() && (AnnounceSelection() || !hOldWnd))
         return true;
     if (hOldWnd)
         ::SetFocus(hOldWnd);
