@@ -49,6 +49,12 @@ std::optional<DecodeJob> DecodeQueue::DropOldest(std::size_t limit)
     return oldest;
 }
 
+void DecodeQueue::Drop(const std::string& path, CSize size)
+{
+    const std::lock_guard lock(m_mutex);
+    std::erase_if(m_jobs, [&](const DecodeJob& job) { return job.size == size && job.path == path; });
+}
+
 std::vector<DecodeResult> DecodeQueue::TakeResults()
 {
     const std::lock_guard lock(m_mutex);

@@ -52,6 +52,7 @@ public:
     void Add(DecodeJob job);
     // The job that waits longest, when more than `limit` wait.
     std::optional<DecodeJob> DropOldest(std::size_t limit);
+    void Drop(const std::string& path, CSize size); // unless it has begun
     std::vector<DecodeResult> TakeResults();
     void WaitForResult(); // until there is one, or nothing is left to do
     void Stop();          // jobs that wait are dropped; those begun are finished

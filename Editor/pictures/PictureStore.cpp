@@ -102,12 +102,38 @@ void PictureStore::Queue(const std::string& path, CSize size, const Entry* pKnow
 {
     if (!*m_pSelf)
         return;
+    Atoms former = TakeFormerWish(path, size);
     const auto [at, isNew] = m_waiting.try_emplace(WaitingKey(path, size));
-    at->second.push_back(CStubRef<IAtom>::Share(pAtom));
+    Atoms& atoms = at->second;
+    std::move(former.begin(), former.end(), std::back_inserter(atoms));
+    if (std::none_of(atoms.begin(), atoms.end(), [pAtom](const auto& p) { return p.Get() == pAtom; }))
+        atoms.push_back(CStubRef<IAtom>::Share(pAtom));
     if (!isNew)
         return;
     m_queue.Add({path, size, pKnown ? pKnown->stamp : FileStamp()});
     SendAwayTheOldest();
+}
+
+// Of one picture only the latest large size is worth reading: while a window is sized, one is wished for after the
+// other. Answers those who waited for the former size; its result, when it is being read already, finds nobody.
+PictureStore::Atoms PictureStore::TakeFormerWish(const std::string& path, CSize size)
+{
+    if (!IsLarge(size))
+        return {};
+    const auto [at, isNew] = m_largeWishes.try_emplace(path, size);
+    const CSize former = std::exchange(at->second, size);
+    if (isNew || former == size)
+        return {};
+    m_queue.Drop(path, former);
+    auto waited = m_waiting.extract(WaitingKey(path, former));
+    return waited ? std::move(waited.mapped()) : Atoms();
+}
+
+void PictureStore::ForgetLargeWish(const std::string& path, CSize size)
+{
+    const auto at = m_largeWishes.find(path);
+    if (at != m_largeWishes.end() && at->second == size)
+        m_largeWishes.erase(at);
 }
 
 void PictureStore::SendAwayTheOldest()
@@ -120,6 +146,7 @@ void PictureStore::SendAwayTheOldest()
         PostCollect();
     std::move(at->second.begin(), at->second.end(), std::back_inserter(m_sentAway));
     m_waiting.erase(at);
+    ForgetLargeWish(oldest->path, oldest->size);
 }
 
 // Any thread.
@@ -138,7 +165,10 @@ void PictureStore::Collect()
     std::vector<Atoms> changed;
     for (DecodeResult& result : m_queue.TakeResults()) {
         auto waited = m_waiting.extract(WaitingKey(result.job.path, result.job.size));
-        if (Keep(result) && waited)
+        if (!waited)
+            continue; // another size is wanted by now
+        ForgetLargeWish(result.job.path, result.job.size);
+        if (Keep(result))
             changed.push_back(std::move(waited.mapped()));
     }
     Trim();

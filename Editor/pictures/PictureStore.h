@@ -71,6 +71,8 @@ private:
     static const Variant* FindVariant(const Entry& entry, CSize size);
     static std::size_t CostOf(const std::string& path, const Entry& entry);
     void Queue(const std::string& path, CSize size, const Entry* pKnown, IAtom* pAtom);
+    Atoms TakeFormerWish(const std::string& path, CSize size);
+    void ForgetLargeWish(const std::string& path, CSize size);
     void SendAwayTheOldest();
     void PostCollect();
     void Collect();
@@ -84,7 +86,8 @@ private:
     std::unordered_map<std::string, Entry> m_entries; // by path
     std::list<std::string> m_recent;                  // paths, the last wanted first
     std::size_t m_nBytes = 0;
-    std::unordered_map<std::string, Atoms> m_waiting; // by path and size, see WaitingKey
+    std::unordered_map<std::string, Atoms> m_waiting;     // by path and size, see WaitingKey
+    std::unordered_map<std::string, CSize> m_largeWishes; // by path: the one large size that waits
     Atoms m_sentAway;
     std::shared_ptr<PictureStore*> m_pSelf; // NULL inside once the store has stopped: tasks under way look there
     DecodeQueue m_queue;

@@ -146,6 +146,28 @@ TEST_F(PictureStoreTest, OneFileIsReadAgainForALargerSizeOnlyWhenThatShowsMore)
     EXPECT_EQ(CSize(400, 200), pPictures->FullSizeOf(folder.At("large.bmp")));
 }
 
+TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
+{
+    folder.WriteBmp("large.bmp", 900, 900);
+    Open();
+    const auto pAtom = Atom("large.bmp");
+    const auto isThere = [&](CSize size) {
+        return pPictures->Find(folder.At("large.bmp"), size, pAtom.Get()).pPicture != nullptr;
+    };
+    reader.Hold();
+    EXPECT_FALSE(isThere({500, 500}));
+    reader.WaitForReads(1);
+    for (const int extent : {510, 520, 530, 600, 600})
+        EXPECT_FALSE(isThere({extent, extent}));
+
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ(2u, reader.TakeReads().size()) << "the one that had begun, and the last";
+    EXPECT_EQ(Ledger({"large.bmp"}), TakeArrivals());
+    EXPECT_TRUE(isThere({600, 600}));
+    EXPECT_FALSE(isThere({500, 500}));
+}
+
 TEST_F(PictureStoreTest, AnIconGoesToTheSlotItIsGivenOrToANewOne)
 {
     folder.MakeFolder("Ada");
