@@ -106,10 +106,9 @@ DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize) con
         return Decode(reader, max);
     reader.setDecideFormatFromContent(false);
     reader.setFormat(QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower().toLatin1());
-    DecodedPicture decoded = Decode(reader, max);
-    if (!decoded.error.empty())
-        decoded.error = "not a picture of a known format";
-    return decoded;
+    if (!reader.canRead()) // asked first, for some decoders complain aloud of what is not theirs
+        return {{}, {}, "not a picture of a known format"};
+    return Decode(reader, max);
 }
 
 } // namespace editor
