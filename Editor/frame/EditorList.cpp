@@ -75,15 +75,19 @@ BOOL CEditorList::PreCreateWindow(CREATESTRUCT& cs)
     return TRUE;
 }
 
+// Only where the ground is new: text drawn twice would come out bolder.
 void CEditorList::OnPaint()
 {
+    CRect dirty;
+    const BOOL bDirty = ::GetUpdateRect(m_hWnd, &dirty);
     CIconList::OnPaint();
-    if (GetItemCount() > 0)
+    if (!bDirty || GetItemCount() > 0)
         return;
     CRect client;
     GetClientRect(&client);
     client.DeflateRect(2 * kSpace, 0);
     const HDC hdc = ::GetDC(m_hWnd);
+    IntersectClipRect(hdc, dirty);
     DrawTextLine(hdc, client, m_ask(), GetSysColor(COLOR_GRAYTEXT), Align::Center);
     ::ReleaseDC(m_hWnd, hdc);
 }

@@ -66,6 +66,10 @@ TEST_F(EditorTest, APictureIsShownLargeInTheListsPlace)
     EXPECT_EQ(Ledger({"large.bmp"}), reader.TakeReads()) << "at the pane's size";
     EXPECT_EQ(0xFF102030, MiddleOf(hPicture));
     EXPECT_EQ(hPicture, GetFocus());
+    folder.WriteBmp("large.bmp", 2000, 1000, 0xFF708090);
+    desktop.Key(VK_F5);
+    Settle();
+    EXPECT_EQ(0xFF708090, MiddleOf(hPicture)) << "read anew";
     desktop.Key(VK_ESCAPE);
     EXPECT_EQ("/ | [(*large.bmp) tiny.bmp] | 2 objects, 1 selected | large.bmp: 2000 x 1000 pixels", Screen());
     EXPECT_EQ(List(), GetFocus());
