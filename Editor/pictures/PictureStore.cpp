@@ -168,6 +168,7 @@ void PictureStore::Collect()
         if (!waited)
             continue; // another size is wanted by now
         ForgetLargeWish(result.job.path, result.job.size);
+        m_queue.Drop(result.job.path, result.job.size); // wished for again meanwhile: nobody waits for that any more
         if (Keep(result))
             changed.push_back(std::move(waited.mapped()));
     }

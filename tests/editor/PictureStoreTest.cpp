@@ -149,6 +149,7 @@ TEST_F(PictureStoreTest, OneFileIsReadAgainForALargerSizeOnlyWhenThatShowsMore)
 TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
 {
     folder.WriteBmp("large.bmp", 900, 900);
+    folder.WriteBmp("other.bmp");
     Open();
     const auto pAtom = Atom("large.bmp");
     const auto isThere = [&](CSize size) {
@@ -165,7 +166,20 @@ TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
     EXPECT_EQ(2u, reader.TakeReads().size()) << "the one that had begun, and the last";
     EXPECT_EQ(Ledger({"large.bmp"}), TakeArrivals());
     EXPECT_TRUE(isThere({600, 600}));
-    EXPECT_FALSE(isThere({500, 500}));
+
+    reader.Hold();
+    EXPECT_FALSE(isThere({700, 700}));
+    reader.WaitForReads(3);
+    EXPECT_FALSE(isThere({710, 710}));
+    EXPECT_FALSE(isThere({700, 700}));
+    Icon(Atom("other.bmp").Get()); // goes before what is wished for again
+    reader.Allow(1);
+    reader.WaitForReads(4);
+    desktop.Run();
+    EXPECT_TRUE(isThere({700, 700})) << "what had begun serves";
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ(Ledger({"large.bmp", "other.bmp"}), reader.TakeReads());
 }
 
 TEST_F(PictureStoreTest, AnIconGoesToTheSlotItIsGivenOrToANewOne)
