@@ -2,7 +2,7 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IPhase.h"
-#include "Views/list/NameKeys.h"
+#include "Views/host/NameKeys.h"
 
 #include <algorithm>
 #include <cstdlib>

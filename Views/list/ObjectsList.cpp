@@ -3,10 +3,9 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/IconHolder.h"
 #include "Views/host/Services.h"
 #include "Views/list/MemberOrder.h"
-
-#include <memory>
 
 namespace
 {
@@ -15,12 +14,6 @@ constexpr UINT kControlID = 0xE900;
 constexpr DWORD kStyle =
     WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | LVS_ICON | LVS_OWNERDATA | LVS_EDITLABELS | LVS_SHOWSELALWAYS;
 static_assert(kStyle == 0x46001208);
-
-struct DestroyIconHandle
-{
-    void operator()(HICON hIcon) const { ::DestroyIcon(hIcon); }
-};
-using IconHolder = std::unique_ptr<HICON__, DestroyIconHandle>;
 
 } // namespace
 
@@ -165,7 +158,7 @@ void CObjectsList::ShowPane()
         return;
 
     CString strCaption;
-    IconHolder hIcon;
+    views::IconHolder hIcon;
     try {
         strCaption.LoadString(m_nResourceID);
         hIcon.reset(::LoadIcon(LOWORD(m_nResourceID)));
@@ -230,5 +223,5 @@ CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
     const OBJPAIR* pPair = PairAt(nItem);
     if (!pPair)
         return {};
-    return {CStubRef<IAtom>::Share(pPair->pAtom), CStubRef<IAtomContainer>::Share(pPair->pContainer)};
+    return HELDPAIR::Share(pPair->pAtom, pPair->pContainer);
 }

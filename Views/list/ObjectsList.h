@@ -2,10 +2,8 @@
 #pragma once
 
 #include "Toolkit/controls/ListCtrl.h"
-#include "Views/host/IAEStateHandler.h"
+#include "Views/host/HeldPair.h"
 #include "Views/host/IAtom.h"
-#include "Views/host/IAtomContainer.h"
-#include "Views/host/StubRef.h"
 #include "Views/list/ObjectsListCache.h"
 
 #include <vector>
@@ -99,13 +97,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    // A row's atom and container, kept alive while the editor is told about them. Both empty without such a row.
-    struct HELDPAIR
-    {
-        CStubRef<IAtom> pAtom;
-        CStubRef<IAtomContainer> pContainer;
-        explicit operator bool() const { return static_cast<bool>(pAtom); }
-    };
+    using HELDPAIR = views::HeldPair;
 
     OBJPAIR* PairAt(int nItem) const; // what GetItemData gives, NULL for 0
     HELDPAIR HoldPair(int nItem) const;

@@ -127,9 +127,7 @@ BOOL CObjectsList::OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount)
         HELDPAIR pair = HoldPair(nRow);
         if (!pair)
             continue;
-        const auto pFormerAtom = CStubRef<IAtom>::Adopt(std::exchange(pairs->pAtom, pair.pAtom.Detach()));
-        const auto pFormer =
-            CStubRef<IAtomContainer>::Adopt(std::exchange(pairs->pContainer, pair.pContainer.Detach()));
+        pair.MoveTo(*pairs);
         ++pairs;
     }
     return TRUE;

@@ -1,14 +1,12 @@
 // The list view's order, which is also its test of sameness.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
-#include "Views/host/IPhase.h"
+#include "Views/host/LinkOrder.h"
 #include "Views/host/ReadName.h"
 #include "Views/list/ObjectsList.h"
 
 #include <algorithm>
 #include <cstring>
-#include <limits>
-#include <optional>
 
 namespace
 {
@@ -20,27 +18,6 @@ IAtom* AtomAt(const void* pElement)
     return static_cast<IAtom*>(pAtom);
 }
 
-int Difference(int a, int b)
-{
-    constexpr std::int64_t kMax = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(std::int64_t{a} - b, -kMax, kMax));
-}
-
-// Two image links by their positions in the phase of the second; nothing when they must be compared by name.
-std::optional<int> CompareLinks(IAtom* a, IAtom* b)
-{
-    const auto pLinkA = CStubRef<IImageLink>::From(a);
-    if (!pLinkA)
-        return std::nullopt;
-    const auto pLinkB = CStubRef<IImageLink>::From(b);
-    CStubRef<IPhase> pPhase;
-    if (const auto pAtomB = CStubRef<IAtom>::From(pLinkB.Get()))
-        pAtomB->GetContainer(pPhase.Receive(), IID_IPhase);
-    if (!pPhase)
-        return std::nullopt;
-    return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
-}
-
 // A missing atom comes after every other. strA and strB keep the names read last: a name that cannot be read now is
 // what its string held before, cut to the length announced.
 int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
@@ -48,7 +25,7 @@ int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
     if (!a || !b)
         return static_cast<int>(!a) - static_cast<int>(!b);
     try {
-        if (const std::optional<int> order = CompareLinks(a, b))
+        if (const std::optional<int> order = views::CompareLinks(a, b))
             return *order;
         const int nLengthA = views::AskNameLength(a, &IAtom::GetName);
         const int nLengthB = views::AskNameLength(b, &IAtom::GetName);

@@ -4,9 +4,8 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/IconHolder.h"
 #include "Views/host/Services.h"
-
-#include <memory>
 
 namespace
 {
@@ -25,12 +24,6 @@ constexpr UINT kImages = 1013;
 constexpr int kImageWidth = 16;
 constexpr int kImagesToGrow = 4;
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
-
-struct DestroyIconHandle
-{
-    void operator()(HICON hIcon) const { ::DestroyIcon(hIcon); }
-};
-using IconHolder = std::unique_ptr<HICON__, DestroyIconHandle>;
 
 } // namespace
 
@@ -106,7 +99,7 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CObjectsTree::ShowPane(IAtomEditor* pEditor)
 {
-    IconHolder hIcon;
+    views::IconHolder hIcon;
     try {
         hIcon.reset(::LoadIcon(kPaneIcon));
         CString strCaption;

@@ -3,10 +3,7 @@
 
 #include "Toolkit/controls/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/host/IAEStateHandler.h"
-#include "Views/host/IAtom.h"
-#include "Views/host/IAtomContainer.h"
-#include "Views/host/StubRef.h"
+#include "Views/host/HeldPair.h"
 #include "Views/tree/TreeIconSlots.h"
 
 #include <memory>
@@ -109,12 +106,7 @@ protected:
 
 private:
     using RecordHolder = std::unique_ptr<TREEITEMDATA>;
-    // An atom and its container, kept alive while the editor is told about them. Both empty without a record.
-    struct HELDPAIR
-    {
-        CStubRef<IAtom> pAtom;
-        CStubRef<IAtomContainer> pContainer;
-    };
+    using HELDPAIR = views::HeldPair;
 
     BOOL SelectAtom(IAtom* pAtom); // FALSE when it has no item or was refused
     void SyncItems(HTREEITEM hParent, IAtomContainer* pContainer);

@@ -1,8 +1,6 @@
 // What the tree does when the editor asks or tells it of atoms. Atoms that come and go are in ObjectsTreeItems.cpp.
 #include "Views/tree/ObjectsTree.h"
 
-#include <utility>
-
 BOOL CObjectsTree::PreRenameAtom(IAtom*, IAtomContainer*)
 {
     return TRUE;
@@ -66,10 +64,7 @@ BOOL CObjectsTree::OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount)
         *pCount = 1;
         if (!pPairs)
             return FALSE;
-        HELDPAIR pair = HoldPair(hItem);
-        const auto pFormerAtom = CStubRef<IAtom>::Adopt(std::exchange(pPairs->pAtom, pair.pAtom.Detach()));
-        const auto pFormer =
-            CStubRef<IAtomContainer>::Adopt(std::exchange(pPairs->pContainer, pair.pContainer.Detach()));
+        HoldPair(hItem).MoveTo(*pPairs);
     }
     return pPairs != nullptr;
 }

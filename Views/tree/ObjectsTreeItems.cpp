@@ -35,7 +35,7 @@ CObjectsTree::HELDPAIR CObjectsTree::HoldPair(HTREEITEM hItem) const
     const TREEITEMDATA* pRecord = RecordOf(hItem);
     if (!pRecord)
         return {};
-    return {CStubRef<IAtom>::Share(pRecord->pAtom.Get()), CStubRef<IAtomContainer>::Share(pRecord->pContainer.Get())};
+    return HELDPAIR::Share(pRecord->pAtom.Get(), pRecord->pContainer.Get());
 }
 
 std::vector<HTREEITEM> CObjectsTree::ChildrenOf(HTREEITEM hItem) const

@@ -2,34 +2,13 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
 #include "Views/host/IPhase.h"
+#include "Views/host/LinkOrder.h"
+#include "Views/host/NameKeys.h"
 #include "Views/host/ReadName.h"
-#include "Views/list/NameKeys.h"
 #include "Views/tree/ObjectsTree.h"
-
-#include <algorithm>
-#include <limits>
-#include <optional>
 
 namespace
 {
-
-int Difference(int a, int b)
-{
-    constexpr std::int64_t kMax = std::numeric_limits<int>::max();
-    return static_cast<int>(std::clamp(std::int64_t{a} - b, -kMax, kMax));
-}
-
-// Two image links by their positions in the phase of the second; nothing when they must be compared by name.
-std::optional<int> CompareLinks(IAtom* a, IAtom* b)
-{
-    const auto pLinkA = CStubRef<IImageLink>::From(a);
-    const auto pLinkB = CStubRef<IImageLink>::From(pLinkA ? b : nullptr);
-    const auto pAtomB = CStubRef<IAtom>::From(pLinkB.Get());
-    CStubRef<IPhase> pPhase;
-    if (!pAtomB || !pAtomB->GetContainer(pPhase.Receive(), IID_IPhase) || !pPhase)
-        return std::nullopt;
-    return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
-}
 
 // A name that cannot be read counts as empty.
 int CompareNames(IAtom* a, IAtom* b)
@@ -47,7 +26,7 @@ int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
     IAtom* const a = reinterpret_cast<const TREEITEMDATA*>(lParam1)->pAtom.Get();
     IAtom* const b = reinterpret_cast<const TREEITEMDATA*>(lParam2)->pAtom.Get();
     try {
-        if (const std::optional<int> order = CompareLinks(a, b))
+        if (const std::optional<int> order = views::CompareLinks(a, b))
             return *order;
         return CompareNames(a, b);
     } catch (CMemoryException& e) {

@@ -1,4 +1,4 @@
-#include "Views/list/NameKeys.h"
+#include "Views/host/NameKeys.h"
 
 #include "Toolkit/base/Text.h"
 #include "Views/host/ReadName.h"
