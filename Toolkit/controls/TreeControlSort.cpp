@@ -7,6 +7,8 @@
 #include "Toolkit/base/Text.h"
 #include "Toolkit/controls/TreeControl.h"
 
+#include <utility>
+
 namespace toolkit
 {
 
@@ -61,26 +63,33 @@ bool TreeControl::FindSortedPlace(HTREEITEM hNew, HTREEITEM hParent, int& place)
     return bisects ? Bisect(face.text, hParent, place) : LookThrough(face.text, hParent, place);
 }
 
-// A handler may take siblings away or add some: the place is clipped where it is used.
+// The place lies behind hNotGreater and not behind hGreater; NULL stands for either end. So it is found, too, when a
+// handler adds siblings or takes some away meanwhile.
 bool TreeControl::Bisect(const std::string& label, HTREEITEM hParent, int& place)
 {
-    int end = m_items.ChildCount(m_items.FindParent(hParent));
-    while (place < end) {
-        const int middle = place + (end - place) / 2;
-        const ItemIndex child = m_items.ChildAt(m_items.FindParent(hParent), middle);
-        if (child == kNoItem) {
-            end = middle;
-            continue;
+    HTREEITEM hNotGreater = nullptr, hGreater = nullptr;
+    TreeSiblings::Part part{};
+    int end = 0;
+    for (unsigned version = ~m_items.Version();;) {
+        if (std::exchange(version, m_items.Version()) != m_items.Version()) {
+            const ItemIndex parent = m_items.FindParent(hParent);
+            const ItemIndex notGreater = m_items.Find(hNotGreater), greater = m_items.Find(hGreater);
+            part = m_items.ChildrenOf(parent);
+            place = notGreater == kNoItem ? 0 : m_items.PlaceOf(notGreater) + 1;
+            end = greater == kNoItem ? m_items.ChildCount(parent) : m_items.PlaceOf(greater);
         }
+        if (place >= end)
+            return true;
+        const int middle = place + (end - place) / 2;
+        part = m_items.Narrow(part, place, end);
+        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(part, middle));
         Face face;
-        if (!AskFace(m_items.HandleOf(child), TVIF_TEXT, face))
+        if (!AskFace(hChild, TVIF_TEXT, face))
             return false;
-        if (CompareNoCase(face.text, label) > 0)
-            end = middle;
-        else
-            place = middle + 1;
+        const bool greater = CompareNoCase(face.text, label) > 0;
+        (greater ? hGreater : hNotGreater) = hChild;
+        (greater ? end : place) = greater ? middle : middle + 1;
     }
-    return true;
 }
 
 bool TreeControl::LookThrough(const std::string& label, HTREEITEM hParent, int& place)

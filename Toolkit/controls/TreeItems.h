@@ -29,6 +29,14 @@ public:
     ItemIndex Parent(ItemIndex item) const; // kNoItem for a top-level item
     int ChildCount(ItemIndex parent) const { return m_siblings.Count(parent); }
     ItemIndex ChildAt(ItemIndex parent, int place) const { return m_siblings.At(parent, place); }
+    TreeSiblings::Part ChildrenOf(ItemIndex parent) const { return m_siblings.All(parent); }
+    // Of these, what has all places from first on, without end. A part holds until the structure changes; finding
+    // places in ever smaller parts costs as much as finding one.
+    TreeSiblings::Part Narrow(TreeSiblings::Part part, int first, int end) const
+    {
+        return m_siblings.Narrow(part, first, end);
+    }
+    ItemIndex ChildAt(TreeSiblings::Part part, int place) const { return m_siblings.At(part, place); }
     int PlaceOf(ItemIndex item) const { return m_siblings.PlaceOf(item); }
     ItemIndex FirstChild(ItemIndex parent) const { return m_siblings.First(parent); }
     ItemIndex LastChild(ItemIndex parent) const { return m_siblings.Last(parent); }

@@ -24,21 +24,24 @@ int TreeSiblings::OwnRows(ItemIndex item) const
     return node.rows - m_pool[node.left].rows - m_pool[node.right].rows;
 }
 
-ItemIndex TreeSiblings::At(ItemIndex parent, int place) const
+TreeSiblings::Part TreeSiblings::Narrow(Part part, int first, int end) const
 {
-    ItemIndex node = m_pool[parent].children;
-    while (node != kNoItem) {
-        const int before = m_pool[m_pool[node].left].siblings;
-        if (place == before)
-            return node;
-        if (place < before) {
-            node = m_pool[node].left;
-        } else {
-            place -= before + 1;
-            node = m_pool[node].right;
-        }
+    while (part.top != kNoItem) {
+        const TreeItem& node = m_pool[part.top];
+        const int place = part.first + m_pool[node.left].siblings;
+        if (end <= place)
+            part.top = node.left;
+        else if (first > place)
+            part = {node.right, place + 1};
+        else
+            break;
     }
-    return kNoItem;
+    return part;
+}
+
+ItemIndex TreeSiblings::At(Part part, int place) const
+{
+    return place < part.first ? kNoItem : Narrow(part, place, place + 1).top;
 }
 
 int TreeSiblings::PlaceOf(ItemIndex item) const

@@ -20,8 +20,18 @@ public:
     int Rows(ItemIndex parent) const { return m_pool[m_pool[parent].children].rows; } // of all children
     int OwnRows(ItemIndex item) const;                                                // of the item with its subtree
 
+    // A part of the search tree, and the place of the first child in it.
+    struct Part
+    {
+        ItemIndex top;
+        int first;
+    };
+    Part All(ItemIndex parent) const { return {m_pool[parent].children, 0}; }
+    Part Narrow(Part part, int first, int end) const; // the least part with all places from first on, without end
+
     // kNoItem where there is none.
-    ItemIndex At(ItemIndex parent, int place) const;
+    ItemIndex At(ItemIndex parent, int place) const { return At(All(parent), place); }
+    ItemIndex At(Part part, int place) const;
     int PlaceOf(ItemIndex item) const;
     ItemIndex First(ItemIndex parent) const { return Leftmost(m_pool[parent].children); }
     ItemIndex Last(ItemIndex parent) const { return Rightmost(m_pool[parent].children); }

@@ -109,6 +109,25 @@ TEST_F(TreeControlTest, AfterASortByTheOwnerOneLookShowsWhetherLabelsAreInOrder)
     EXPECT_EQ("zz", tree.NameOf(tree.GetNextSiblingItem((*this)["0009x"])));
 }
 
+TEST_F(TreeControlTest, SiblingsMayGoWhileAPlaceAmongThemIsSought)
+{
+    for (const bool all : {false, true}) {
+        Fill("");
+        for (int i = 0; i < 100; ++i)
+            tree.Add(Number(i), TVI_ROOT, TVI_SORT);
+        tree.asked = [&](const std::string&) {
+            if (all)
+                tree.DeleteAllItems();
+            else
+                tree.DeleteItem(tree.GetRootItem());
+        };
+        const HTREEITEM hNew = tree.Add("000050x", TVI_ROOT, TVI_SORT);
+        tree.asked = [](const std::string&) {};
+        EXPECT_EQ(all ? "-" : Number(50), tree.NameOf(tree.GetPrevSiblingItem(hNew)));
+        EXPECT_EQ(all ? "-" : Number(51), tree.NameOf(tree.GetNextSiblingItem(hNew)));
+    }
+}
+
 TEST_F(TreeControlTest, SortingKeepsEqualsBranchesAndSelection)
 {
     Fill("b1 [x] a1 b2 c a2 b3");
