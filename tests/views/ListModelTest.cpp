@@ -76,7 +76,9 @@ TEST_F(ListModelTest, WithoutMemoryForItsIconThePaneComesWithoutIt)
     editor.Uninstall();
     load();
     const int nWithoutPane = CountAllocations(load);
-    const int nForIcon = CountAllocations([] { DestroyIcon(LoadIcon(1008)); });
+    const auto makeIcon = [] { DestroyIcon(LoadIcon(1008)); };
+    makeIcon(); // the first icon of a process makes room for others, too
+    const int nForIcon = CountAllocations(makeIcon);
     editor.Install();
     EXPECT_LT(0, nForIcon);
     for (int nth = 1; nth <= nForIcon; ++nth) {
