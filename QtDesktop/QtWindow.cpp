@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -127,10 +128,6 @@ bool QtWindow::event(QEvent* pEvent)
     case QEvent::WindowDeactivate:
         toolkit::InputActivate(m_hTop, false);
         break;
-    case QEvent::WindowBlocked: // a message box takes the input; the releases will go to it
-    case QEvent::Hide:
-        ReleaseHeldButtons();
-        break;
     default:
         break;
     }
@@ -155,33 +152,20 @@ void QtWindow::closeEvent(QCloseEvent* pEvent)
 
 void QtWindow::mousePressEvent(QMouseEvent* pEvent)
 {
-    for (const auto& [qtButton, button] : kButtons) {
-        if (qtButton != pEvent->button())
-            continue;
-        m_held |= qtButton;
-        m_lastMouse = ToPoint(pEvent->position());
-        toolkit::InputMouseButton(m_hTop, m_lastMouse, button, true, ToModifiers(pEvent->modifiers()));
-    }
+    TellButton(*pEvent, true);
 }
 
 void QtWindow::mouseReleaseEvent(QMouseEvent* pEvent)
 {
-    for (const auto& [qtButton, button] : kButtons) {
-        if (qtButton != pEvent->button() || !m_held.testFlag(qtButton))
-            continue;
-        m_held &= ~qtButton;
-        m_lastMouse = ToPoint(pEvent->position());
-        toolkit::InputMouseButton(m_hTop, m_lastMouse, button, false, ToModifiers(pEvent->modifiers()));
-    }
+    TellButton(*pEvent, false);
 }
 
-void QtWindow::ReleaseHeldButtons()
+void QtWindow::TellButton(const QMouseEvent& event, bool bDown)
 {
-    for (const auto& [qtButton, button] : kButtons) {
-        if (m_held.testFlag(qtButton))
-            toolkit::InputMouseButton(m_hTop, m_lastMouse, button, false, {});
-    }
-    m_held = {};
+    const auto it = std::find_if(std::begin(kButtons), std::end(kButtons),
+                                 [&event](const auto& pair) { return pair.first == event.button(); });
+    if (it != std::end(kButtons))
+        toolkit::InputMouseButton(m_hTop, ToPoint(event.position()), it->second, bDown, ToModifiers(event.modifiers()));
 }
 
 // The toolkit makes double clicks of presses itself.
@@ -192,8 +176,7 @@ void QtWindow::mouseDoubleClickEvent(QMouseEvent* pEvent)
 
 void QtWindow::mouseMoveEvent(QMouseEvent* pEvent)
 {
-    m_lastMouse = ToPoint(pEvent->position());
-    toolkit::InputMouseMove(m_hTop, m_lastMouse, ToModifiers(pEvent->modifiers()));
+    toolkit::InputMouseMove(m_hTop, ToPoint(pEvent->position()), ToModifiers(pEvent->modifiers()));
 }
 
 void QtWindow::wheelEvent(QWheelEvent* pEvent)
@@ -227,11 +210,6 @@ void QtWindow::keyReleaseEvent(QKeyEvent* pEvent)
         return;
     if (const UINT vkey = ToVirtualKey(*pEvent))
         toolkit::InputKey(vkey, false, ModifiersAfter(*pEvent));
-}
-
-bool QtWindow::focusNextPrevChild(bool)
-{
-    return false;
 }
 
 } // namespace qtdesktop

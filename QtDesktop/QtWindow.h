@@ -36,15 +36,12 @@ protected:
     void leaveEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
-    bool focusNextPrevChild(bool bNext) override; // FALSE: Tab is the toolkit's
 
 private:
     CPoint Corner() const; // on the screen
-    void ReleaseHeldButtons();
+    void TellButton(const QMouseEvent& event, bool bDown);
 
     const HWND m_hTop;
-    Qt::MouseButtons m_held; // pressed in the toolkit's eyes
-    CPoint m_lastMouse;
     int m_nWheelRest = 0; // turned, but too little yet to be told
 };
 
