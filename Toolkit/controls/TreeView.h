@@ -149,8 +149,10 @@ struct TVSORTCB
 };
 using LPTVSORTCB = TVSORTCB*;
 
-// Notifications. A SELCHANGING or ITEMEXPANDING answered with non-zero is refused. An item is still there
-// while TVN_DELETEITEM announces it, its children are not.
+// Notifications. A SELCHANGING or ITEMEXPANDING answered with non-zero is refused. An item is still there while
+// TVN_DELETEITEM announces it, its children are not. NM_CLICK comes before the selection it makes, which waits for the
+// button's release; NM_DBLCLK before the item opens or closes; NM_RCLICK before the context menu. Answered with
+// non-zero, each keeps that from happening.
 inline constexpr UINT TVN_FIRST = NotifyCode(-400);
 inline constexpr UINT TVN_SELCHANGING = TVN_FIRST - 1;     // NMTREEVIEW: itemOld, itemNew, action TVC_*
 inline constexpr UINT TVN_SELCHANGED = TVN_FIRST - 2;      // the same
