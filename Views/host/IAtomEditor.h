@@ -10,7 +10,8 @@ using CLIPFORMAT = WORD;
 
 // Called with each active atom and the container it is in; FALSE refuses.
 using ACTIVEPAIRPROC = BOOL (*)(IAtom* pAtom, IAtomContainer* pContainer, void* pContext);
-// Called with each object read from an archive; FALSE refuses.
+// Called with each object read from an archive; FALSE refuses, and nothing more is read. Whose reference it is, see
+// IAtomEditor::ReadArchive.
 using ARCHIVEATOMPROC = BOOL (*)(IAtom* pAtom, void* pContext);
 
 // The host's atom editor: it knows what the user is working on, and everyone who wants to hear of it.
@@ -48,10 +49,18 @@ public:
     // Drags the active atoms until they are dropped; the effect that was performed. reserved is 0.
     virtual DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) = 0;
     virtual void EditorReserved20() {}
+    // Reads the objects of an archive one after another, always from its first byte on, and hands each to the callback.
+    // FALSE when the bytes are no archive of atoms or the callback refused: what it was handed before stays handed.
+    //
+    // Objects are new ones, in no container. With a context, an object is lent for the call: the editor releases it
+    // when the callback has returned, whatever it returned, and a callback that keeps it adds a reference. Without
+    // a context (NULL) the object's one reference is the callback's, which releases it once, also when it refuses.
     virtual BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) = 0;
     virtual void EditorReserved22() {}
-    virtual BOOL WriteActiveObjects(IArchive* archive) = 0; // FALSE when nothing could be stored
-    virtual CLIPFORMAT GetClipboardFormat() = 0;            // under which atoms travel on the clipboard and in drags
+    // Replaces the archive's bytes by the active atoms, in the order in which EnumActivePairs names them. FALSE when
+    // nothing could be stored.
+    virtual BOOL WriteActiveObjects(IArchive* archive) = 0;
+    virtual CLIPFORMAT GetClipboardFormat() = 0; // under which atoms travel on the clipboard and in drags
     virtual void EditorReserved25() {}
     // The atom the editor is working on, as the asked interface with a reference; NULL when there is none.
     virtual void GetActiveAtom(void** out, DWORD interfaceId) = 0;
