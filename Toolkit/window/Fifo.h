@@ -15,10 +15,18 @@ public:
     bool IsEmpty() const { return m_first == m_items.size(); }
     Item& Last() { return m_items.back(); } // not of an empty queue
 
-    void Put(Item item)
+    // Makes sure that the next Put needs no memory.
+    void MakeRoom()
     {
         if (m_first > 64 && m_first > m_items.size() / 2)
             Compact();
+        if (m_items.size() == m_items.capacity())
+            m_items.reserve(2 * m_items.size() + 16);
+    }
+
+    void Put(Item item)
+    {
+        MakeRoom();
         m_items.push_back(std::move(item));
     }
 

@@ -2,9 +2,7 @@
 
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/Painting.h"
 #include "Toolkit/window/ScrollTracker.h"
-#include "Toolkit/window/WindowApi.h"
 #include "Toolkit/window/WindowGeometry.h"
 
 namespace
@@ -94,36 +92,4 @@ void toolkit::PaintFrame(const WindowRecord& window, HDC hdc)
     PaintScrollBar(window, hdc, SB_HORZ);
     PaintScrollBar(window, hdc, SB_VERT);
     PaintCorner(window, hdc);
-}
-
-int SetScrollInfo(HWND hWnd, int nBar, const SCROLLINFO& info)
-{
-    WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow || (nBar != SB_HORZ && nBar != SB_VERT))
-        return 0;
-    toolkit::ScrollBarState& state = pWindow->bars[static_cast<std::size_t>(nBar)];
-    const SCROLLINFO taken = ScrollBar::Normalized(info);
-    const bool bShow = ScrollBar::IsNeeded(taken);
-    const bool bShown = state.bShown;
-    const SCROLLINFO former = std::exchange(state.info, taken);
-    if (bShow != bShown) {
-        state.bShown = bShow;
-        pWindow->style ^= nBar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
-        toolkit::NoteWindow(*pWindow);
-        toolkit::SendSize(hWnd);
-    } else if (bShow && (former.nMin != taken.nMin || former.nMax != taken.nMax || former.nPage != taken.nPage ||
-                         former.nPos != taken.nPos)) {
-        toolkit::NoteFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
-    }
-    return taken.nPos;
-}
-
-BOOL GetScrollInfo(HWND hWnd, int nBar, SCROLLINFO* pInfo)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow || (nBar != SB_HORZ && nBar != SB_VERT))
-        return FALSE;
-    *pInfo = pWindow->bars[static_cast<std::size_t>(nBar)].info;
-    pInfo->nTrackPos = toolkit::GetTrackPosition(hWnd, nBar, pInfo->nPos);
-    return TRUE;
 }

@@ -18,10 +18,15 @@ using toolkit::InputKind;
 
 toolkit::Fifo<InputEvent> s_input;
 
+// A desktop has nobody to tell that there is no memory: the event is dropped.
 void Put(InputEvent event)
 {
     event.time = toolkit::CurrentDesktop().Ticks();
-    s_input.Put(event);
+    try {
+        s_input.Put(event);
+    } catch (const std::bad_alloc&) {
+        return;
+    }
     toolkit::RequestRun();
 }
 

@@ -9,7 +9,8 @@
 namespace toolkit
 {
 
-// One object for each window of the class. It is made before WM_NCCREATE and deleted after WM_NCDESTROY. A
+// One object for each window of the class. It is made before WM_NCCREATE and deleted after WM_NCDESTROY, once none
+// of its window's messages is being handled any more: a handler may go on after its window has been destroyed. A
 // window's CWnd sees every message first; what it leaves, or hands on with Default(), comes here.
 class TOOLKIT_API NativeWindow
 {

@@ -1,7 +1,6 @@
 #include "Toolkit/window/Painting.h"
 
-#include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/window/Queue.h"
 #include "Toolkit/window/VisibleRegion.h"
 #include "Toolkit/window/WindowApi.h"
@@ -24,16 +23,17 @@ bool NeedsPaint(const WindowRecord& window)
     return !window.frameUpdate.IsEmpty() || !window.update.IsEmpty();
 }
 
-// The first shown window with something noted, parents before their children, lower siblings first: what is not
-// clipped away is painted over in the right order.
-WindowRecord* FindNoted(WindowRecord& window)
+// The first shown window that is wanted, parents before their children, lower siblings first: what is not clipped
+// away is painted over in the right order.
+template <class Wanted>
+WindowRecord* FindShown(WindowRecord& window, Wanted wanted)
 {
     if (!window.Is(WS_VISIBLE) || IsUpdateLocked(window))
         return nullptr;
-    if (NeedsPaint(window))
+    if (wanted(window))
         return &window;
     for (WindowRecord* pChild : window.children)
-        if (WindowRecord* pFound = FindNoted(*pChild))
+        if (WindowRecord* pFound = FindShown(*pChild, wanted))
             return pFound;
     return nullptr;
 }
@@ -41,9 +41,26 @@ WindowRecord* FindNoted(WindowRecord& window)
 WindowRecord* FindNoted()
 {
     for (WindowRecord* pTop : toolkit::TopLevelRecords())
-        if (WindowRecord* pFound = FindNoted(*pTop))
+        if (WindowRecord* pFound = FindShown(*pTop, NeedsPaint))
             return pFound;
     return nullptr;
+}
+
+// Paints the window and its children. Handlers may destroy any of them, and note more: once is enough.
+void PaintTreeOnce(HWND hWnd)
+{
+    static unsigned s_nPass = 0;
+    const unsigned nPass = ++s_nPass;
+    const auto wanted = [nPass](const WindowRecord& window) {
+        return window.nPaintPass != nPass && NeedsPaint(window);
+    };
+    while (WindowRecord* pWindow = FindRecord(hWnd)) {
+        WindowRecord* pNoted = FindShown(*pWindow, wanted);
+        if (!pNoted)
+            return;
+        pNoted->nPaintPass = nPass;
+        toolkit::PaintWindow(pNoted->hWnd);
+    }
 }
 
 void PaintFrameOf(WindowRecord& window)
@@ -60,12 +77,13 @@ void PaintFrameOf(WindowRecord& window)
     toolkit::CloseWindowDC(hWnd, hdc);
 }
 
-// A parent that does not cut its children out draws over them: they draw again.
-void NoteChildrenUnder(WindowRecord& window, const Region& clip, CPoint clientOrigin)
+// A frame that finds no memory is left as it is, as a client area is.
+void TryToPaintFrame(WindowRecord& window)
 {
-    if (!window.Is(WS_CLIPCHILDREN))
-        for (const CRect& rect : clip.Rects())
-            toolkit::NoteChildren(window, rect - clientOrigin);
+    try {
+        PaintFrameOf(window);
+    } catch (const CException&) {
+    }
 }
 } // namespace
 
@@ -97,7 +115,7 @@ void toolkit::PaintWindow(HWND hWnd)
 {
     WindowRecord* pWindow = FindRecord(hWnd);
     if (pWindow && !pWindow->frameUpdate.IsEmpty())
-        PaintFrameOf(*pWindow);
+        TryToPaintFrame(*pWindow);
     pWindow = FindRecord(hWnd);
     if (!pWindow || pWindow->update.IsEmpty())
         return;
@@ -109,39 +127,6 @@ void toolkit::PaintWindow(HWND hWnd)
         ValidateRect(hWnd, nullptr);
 }
 
-toolkit::Surface& toolkit::SurfaceOf(WindowRecord& top)
-{
-    const CSize size = top.rect.Size();
-    if (!(top.surface.Bounds().Size() == size)) {
-        CloseSurfaceDCs(top.hWnd);
-        top.surface = Surface(size, ToPixel(GetSysColor(COLOR_BTNFACE)));
-    }
-    return top.surface;
-}
-
-void toolkit::NotePainted(WindowRecord& top, const CRect& area)
-{
-    if (area.IsRectEmpty())
-        return;
-    top.dirty = top.dirty | area;
-    NoteSomething();
-}
-
-void toolkit::PresentPainted()
-{
-    for (WindowRecord* pTop : TopLevelRecords()) {
-        const CRect dirty = std::exchange(pTop->dirty, CRect()) & pTop->surface.Bounds();
-        if (!dirty.IsRectEmpty() && pTop->bKnownToDesktop)
-            CurrentDesktop().Present(pTop->hWnd, pTop->surface, dirty);
-    }
-}
-
-const toolkit::Surface* toolkit::WindowSurface(HWND hTop)
-{
-    const WindowRecord* pTop = FindRecord(hTop);
-    return pTop && pTop->IsTop() ? &pTop->surface : nullptr;
-}
-
 void toolkit::ForgetPainting(WindowRecord& window)
 {
     ForgetUpdateLock(window.hWnd);
@@ -150,52 +135,13 @@ void toolkit::ForgetPainting(WindowRecord& window)
         CloseSurfaceDCs(window.hWnd);
 }
 
-toolkit::PaintTarget toolkit::BeginPaint(HWND hWnd)
-{
-    WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return {nullptr, {}};
-    const CPoint origin = ClientArea(*pWindow).TopLeft();
-    pWindow->bPaintBegun = true;
-    if (IsUpdateLocked(*pWindow)) // what is noted stays noted
-        return {OpenWindowDC(*pWindow, origin, {}), {}};
-
-    Region clip = pWindow->update.Take(ClientRect(*pWindow));
-    clip.Offset(origin);
-    clip = Intersection(clip, VisibleClient(*pWindow, Children::AsTheStyleSays));
-    NoteChildrenUnder(*pWindow, clip, origin);
-    const PaintTarget target{OpenWindowDC(*pWindow, origin, clip), clip.Bounds() - origin};
-    if (std::exchange(pWindow->bErase, false) && !clip.IsEmpty())
-        SendMessage(hWnd, WM_ERASEBKGND, reinterpret_cast<WPARAM>(target.hdc), 0);
-    return target;
-}
-
-void toolkit::EndPaint(HWND hWnd, HDC hdc)
-{
-    CloseWindowDC(hWnd, hdc);
-}
-
-namespace
-{
-// Paints the window and its children, lower siblings first. Handlers may destroy any of them.
-void PaintTree(HWND hWnd)
-{
-    while (WindowRecord* pWindow = FindRecord(hWnd)) {
-        WindowRecord* pNoted = FindNoted(*pWindow);
-        if (!pNoted)
-            return;
-        toolkit::PaintWindow(pNoted->hWnd);
-    }
-}
-} // namespace
-
 BOOL UpdateWindow(HWND hWnd)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);
     if (!pWindow)
         return FALSE;
     if (toolkit::IsShown(*pWindow)) {
-        PaintTree(hWnd);
+        PaintTreeOnce(hWnd);
         toolkit::PresentPainted();
     }
     return TRUE;

@@ -33,7 +33,10 @@ std::optional<DWORD> s_wakeAt;
 void TakeTasksIn()
 {
     if (toolkit::HasTasks())
-        toolkit::TakeTasks([](Task task) { s_posted.Put({{}, std::move(task)}); });
+        toolkit::TakeTasks([](Task& task) {
+            s_posted.MakeRoom();
+            s_posted.Put({{}, std::move(task)});
+        });
 }
 
 bool HasWork()
@@ -61,17 +64,14 @@ void BeginRun()
         s_wakeAt.reset();
 }
 
+// What fails on the way to a handler is reported as what fails in one, and the queue goes on.
 bool RunNext()
 {
-    return toolkit::RunOnePosted() || toolkit::RunOneInput() || toolkit::RunOnePaint() || toolkit::RunOneTimer();
-}
-
-void RunTask(const Task& task)
-{
     try {
-        task();
+        return toolkit::RunOnePosted() || toolkit::RunOneInput() || toolkit::RunOnePaint() || toolkit::RunOneTimer();
     } catch (CException& exception) {
         exception.ReportError();
+        return true;
     }
 }
 
@@ -107,7 +107,7 @@ bool toolkit::RunOnePosted()
             continue;
         UpdateWake();
         if (posted.task)
-            RunTask(posted.task);
+            posted.task();
         else
             DispatchPosted(posted.msg);
         return true;

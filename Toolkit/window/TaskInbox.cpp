@@ -47,16 +47,17 @@ bool toolkit::HasTasks()
     return s_bHasTasks.load(std::memory_order_acquire);
 }
 
-void toolkit::TakeTasks(const std::function<void(Task)>& take)
+void toolkit::TakeTasks(const std::function<void(Task&)>& take)
 {
-    if (!HasTasks())
-        return;
-    std::vector<Task> tasks;
-    {
-        const std::lock_guard lock(s_mutex);
-        tasks.swap(s_tasks);
-        s_bHasTasks = false;
+    const std::lock_guard lock(s_mutex);
+    auto it = s_tasks.begin();
+    try {
+        for (; it != s_tasks.end(); ++it)
+            take(*it);
+    } catch (...) {
+        s_tasks.erase(s_tasks.begin(), it);
+        throw;
     }
-    for (Task& task : tasks)
-        take(std::move(task));
+    s_tasks.clear();
+    s_bHasTasks = false;
 }

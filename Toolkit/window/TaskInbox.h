@@ -9,6 +9,7 @@ namespace toolkit
 using Task = std::function<void()>;
 
 bool HasTasks();
-void TakeTasks(const std::function<void(Task)>& take); // in the order of their posting
+// In the order of their posting. A task that `take` fails on, with an exception, stays, and so do those after it.
+void TakeTasks(const std::function<void(Task&)>& take);
 
 } // namespace toolkit

@@ -37,12 +37,14 @@ TOOLKIT_API BOOL SetWindowText(HWND hWnd, LPCSTR pszText);
 TOOLKIT_API CString GetWindowText(HWND hWnd);
 TOOLKIT_API HWND WindowFromPoint(POINT screen); // the innermost visible and enabled one
 
-// Messages.
+// Messages. A toolkit exception that leaves a handler ends there: it fails a creation, leaves a paint as it is, and is
+// reported for any other message, whose answer is then 0.
 TOOLKIT_API LRESULT SendMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 TOOLKIT_API BOOL PostMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 TOOLKIT_API LRESULT DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Focus, capture, input. SetFocus gives the former focus.
+// Focus, capture, input. SetFocus gives the former focus; NULL, and no change, when the window or an ancestor is
+// disabled or being destroyed.
 TOOLKIT_API HWND SetFocus(HWND hWnd); // NULL: no window has the focus
 TOOLKIT_API HWND GetFocus();
 TOOLKIT_API HWND SetCapture(HWND hWnd);

@@ -51,6 +51,7 @@ struct WindowRecord
     NotedRegion frameUpdate; // from the window's top left corner
     bool bErase = false;
     bool bPaintBegun = false; // by the WM_PAINT being handled
+    unsigned nPaintPass = 0;  // the last UpdateWindow that painted it
 
     // Top-level windows only.
     Surface surface;

@@ -44,12 +44,16 @@ public:
     }
     void SetLetter(char letter) { m_letter = letter; }
 
+    std::function<void()> painting; // called by every paint
+
 protected:
     void OnPaint()
     {
         const CPaintDC dc(this);
         m_book.Write(std::string(1, m_letter) + " " + Describe(dc.GetPaintRect()));
         FillSolidRect(dc, CRect(-99, -99, 99, 99), ColorOf(m_letter));
+        if (painting)
+            painting();
     }
     BOOL OnEraseBkgnd(HDC) { return TRUE; }
 
@@ -186,6 +190,20 @@ TEST_F(PaintTest, InvalidatingOnlyNotesAndPaintsAreMerged)
     frame.Invalidate();
     desktop.Run();
     EXPECT_EQ(Ledger(), TakeLedger());
+}
+
+TEST_F(PaintTest, AWindowThatWantsToBePaintedWhileItPaintsIsUpdatedOnce)
+{
+    frame.Show(nullptr, {0, 0, 8, 2});
+    desktop.Run();
+    TakeLedger();
+    frame.painting = [&] { frame.Invalidate(); };
+    frame.Invalidate();
+    frame.UpdateWindow();
+    EXPECT_EQ(Ledger({". 0,0-8,2"}), TakeLedger());
+    EXPECT_TRUE(toolkit::RunOneMessage()); // again, in its turn
+    EXPECT_EQ(Ledger({". 0,0-8,2"}), TakeLedger());
+    frame.painting = nullptr;
 }
 
 TEST_F(PaintTest, ALockedWindowIsPaintedWhenItIsLetGo)
