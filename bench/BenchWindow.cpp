@@ -59,16 +59,22 @@ struct Process
     CResourceModule resources;
 };
 
+std::unique_ptr<Process> s_pProcess;
+
 } // namespace
 
-void PrepareDesktop()
+DesktopScope::DesktopScope()
 {
-    static Process s_process;
+    s_pProcess = std::make_unique<Process>();
+}
+
+DesktopScope::~DesktopScope()
+{
+    s_pProcess.reset();
 }
 
 ListWindow::ListWindow(int nPassive) : m_list(nPassive)
 {
-    PrepareDesktop();
     m_frame.CreateEx(0, "", "bench", WS_OVERLAPPED | WS_CLIPCHILDREN, kFrame, nullptr, 0);
     m_list.Create(&m_frame);
     m_list.MoveWindow(kFrame);

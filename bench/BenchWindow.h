@@ -10,8 +10,16 @@
 namespace bench
 {
 
-// Installs the desktop and the host's resources once for the process.
-void PrepareDesktop();
+// The desktop and the host's resources, for as long as the object lives. main() has the one there is: what Qt itself
+// needs is gone by the time that a static object ends.
+class DesktopScope
+{
+public:
+    DesktopScope();
+    ~DesktopScope();
+    DesktopScope(const DesktopScope&) = delete;
+    DesktopScope& operator=(const DesktopScope&) = delete;
+};
 
 class ListWindow
 {

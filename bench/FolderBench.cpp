@@ -1,7 +1,6 @@
 // What the editor adds to reading a directory when it opens a folder of 100,000 pictures.
 #include "Editor/EditorApp.h"
 #include "Toolkit/window/Desktop.h"
-#include "bench/BenchWindow.h"
 
 #include <benchmark/benchmark.h>
 #include <dirent.h>
@@ -51,8 +50,9 @@ const PictureFolder& Folder()
 
 void ReadTheDirectory(benchmark::State& state)
 {
+    const std::string path = Folder().Path();
     for (auto _ : state) {
-        DIR* directory = opendir(Folder().Path().c_str());
+        DIR* directory = opendir(path.c_str());
         long nNames = 0;
         while (const dirent* entry = readdir(directory))
             nNames += entry->d_name[0] != '.';
@@ -65,11 +65,11 @@ void ReadTheDirectory(benchmark::State& state)
 // From the folder's name to the first complete frame, the window's making included.
 void OpenTheFolder(benchmark::State& state)
 {
-    bench::PrepareDesktop();
+    const std::string path = Folder().Path();
     const NoPictures reader;
     for (auto _ : state) {
         editor::EditorApp app(reader, {{1024, 768}, {}});
-        const std::string error = app.OpenFolder(Folder().Path());
+        const std::string error = app.OpenFolder(path);
         toolkit::RunPendingMessages();
         if (!error.empty())
             state.SkipWithError(error.c_str());
