@@ -203,13 +203,17 @@ void CObjectsTree::RemoveMembers(HTREEITEM hItem, IAtom* pAtom)
     }
 }
 
-// Without asking OnDeleteAtom: for items that it does not reach. One that is going already loses what is below it.
+// Without asking OnDeleteAtom: for items that it does not reach, a derived class's own among them. One that is going
+// already only loses what is below it.
 void CObjectsTree::RemoveItem(HTREEITEM hItem)
 {
-    if (const auto pRecord = TakeRecord(hItem))
+    if (const auto pRecord = TakeRecord(hItem)) {
         DropItem(hItem, pRecord->pAtom.Get());
-    else
-        RemoveChildren(hItem);
+        return;
+    }
+    RemoveChildren(hItem);
+    if (!RecordOf(hItem))
+        DeleteItem(hItem);
 }
 
 // But for those that an outer call is bringing or removing just now.

@@ -23,6 +23,8 @@ int CompareNames(IAtom* a, IAtom* b)
 
 int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
 {
+    if (!lParam1 || !lParam2) // a derived class's own items come last
+        return static_cast<int>(!lParam1) - static_cast<int>(!lParam2);
     IAtom* const a = reinterpret_cast<const TREEITEMDATA*>(lParam1)->pAtom.Get();
     IAtom* const b = reinterpret_cast<const TREEITEMDATA*>(lParam2)->pAtom.Get();
     try {
