@@ -84,12 +84,14 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
 
     m_bClosing = false;
+    m_bHasFocus = m_bFocusFromSelChange = FALSE;
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
     if (pEditor && !m_bPassive)
         ShowPane(pEditor.Get());
     m_nOpenImage = m_nDefaultImage = -1;
     if (pEditor)
         m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    m_iconSlots.Clear();
     m_images.Create(kImages, kImageWidth, kImagesToGrow, kTransparent);
     m_nDefaultImage = 0;
     m_nOpenImage = 1;

@@ -59,7 +59,8 @@ public:
 
     BOOL PreRenameAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL PreSaveAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    // TRUE when the atom is shown now. Costs n log n for n members, however many of them there are already.
+    // TRUE when the atom is shown now. Costs n log n for an atom with n members, log n for one more among n siblings
+    // in the order of their labels.
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override; // TRUE when the atom is shown
@@ -117,7 +118,8 @@ private:
 
     void ShowPane(IAtomEditor* pEditor);
 
-    TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL when there is no such item
+    bool IsItem(HTREEITEM hItem) const;            // false for one that is gone
+    TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
     HELDPAIR HoldPair(HTREEITEM hItem) const;
     std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
 

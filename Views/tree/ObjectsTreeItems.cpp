@@ -25,6 +25,14 @@ HTREEITEM CObjectsTree::GetItem(IAtom* pAtom) const
     return found == m_itemMap.end() ? nullptr : found->second;
 }
 
+bool CObjectsTree::IsItem(HTREEITEM hItem) const
+{
+    TVITEM item{};
+    item.mask = TVIF_HANDLE;
+    item.hItem = hItem;
+    return CTreeCtrl::GetItem(&item) != FALSE;
+}
+
 CObjectsTree::TREEITEMDATA* CObjectsTree::RecordOf(HTREEITEM hItem) const
 {
     return hItem ? reinterpret_cast<TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
@@ -95,7 +103,8 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEI
         pRecord->pContainer = CStubRef<IAtomContainer>::Share(pContainer);
         const HTREEITEM hItem = HandToControl(pRecord.get(), hParent);
         if (!hItem) {
-            ReportInsertFailed();
+            if (hParent == TVI_ROOT || RecordOf(hParent))
+                ReportInsertFailed();
             return nullptr;
         }
         pRecord.release()->state = TREEITEMDATA::State::Settled;
@@ -108,7 +117,7 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEI
 }
 
 // In a container that is being filled the order is made once, when all members are there. NULL when the control
-// refuses, or the item went with its parent while the host was asked for labels.
+// refuses, or the parent went while the host was asked for labels.
 HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
 {
     const TREEITEMDATA* pParent = hParent == TVI_ROOT ? nullptr : RecordOf(hParent);
@@ -123,7 +132,7 @@ HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
     insert.item.cChildren = I_CHILDRENCALLBACK;
     insert.item.lParam = reinterpret_cast<LPARAM>(pRecord);
     const HTREEITEM hItem = InsertItem(&insert);
-    return RecordOf(hItem) ? hItem : nullptr;
+    return IsItem(hItem) ? hItem : nullptr;
 }
 
 void CObjectsTree::MapItem(IAtom* pAtom, HTREEITEM hItem)

@@ -53,11 +53,11 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
 bool CObjectsTree::MayChangeSelection(const NMTREEVIEW& change)
 {
     const HTREEITEM hNew = change.itemNew.hItem;
-    SetFocus();
+    TakeFocus();
     if (!Notify(&IAEStateHandler::OnAtomDeselecting, change.itemOld.hItem))
         return false;
-    SetFocus();
-    return Notify(&IAEStateHandler::OnAtomSelecting, hNew) && (!hNew || RecordOf(hNew));
+    TakeFocus();
+    return Notify(&IAEStateHandler::OnAtomSelecting, hNew) && (!hNew || IsItem(hNew));
 }
 
 BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
@@ -137,7 +137,7 @@ void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
 
 bool CObjectsTree::TakeFocus()
 {
-    if (::GetFocus() != m_hWnd)
+    if (m_hWnd && ::GetFocus() != m_hWnd)
         SetFocus();
     return ::GetFocus() == m_hWnd;
 }

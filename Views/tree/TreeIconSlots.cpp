@@ -30,6 +30,13 @@ void views::TreeIconSlots::GiveUp(HTREEITEM hItem)
     m_next = m_slots.begin();
 }
 
+void views::TreeIconSlots::Clear()
+{
+    m_lent.clear();
+    m_slots.clear();
+    m_next = m_slots.begin();
+}
+
 int views::TreeIconSlots::Remove(Slots::iterator slot)
 {
     const int nImage = slot->nImage;

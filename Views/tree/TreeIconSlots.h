@@ -44,6 +44,7 @@ public:
     // The newest slot, and the item's only one. Raises CMemoryException: no slot is lent to the item then.
     void Lend(HTREEITEM hItem, int nImage);
     void GiveUp(HTREEITEM hItem); // nothing when none is lent to the item
+    void Clear();
     void ItemsHidden() { m_next = m_slots.begin(); }
 
 private:

@@ -9,16 +9,7 @@ namespace
 class ListSelectionTest : public ListTest
 {
 protected:
-    ListSelectionTest()
-    {
-        box = MakeBox({"a", "b", "c"});
-        field.CreateEx(0, "", "field", WS_CHILD | WS_VISIBLE, CRect(0, 390, 10, 400), &frame, 1);
-    }
-
-    bool HasFocus(const CWnd& wnd) const { return ::GetFocus() == wnd.m_hWnd; }
-
-    FakeContainer* box;
-    CWnd field; // something else that can have the focus
+    FakeContainer* const box = MakeBox({"a", "b", "c"});
 };
 
 TEST_F(ListSelectionTest, AClickIsAskedForAndThenTold)

@@ -1,7 +1,5 @@
 #include "tests/views/ListTest.h"
 
-#include "Kernel/Kernel.h"
-
 std::string ProbeList::State() const
 {
     std::string strState;
@@ -45,32 +43,11 @@ void ProbeList::OnClearContext()
     CIconList::OnClearContext();
 }
 
-ListTest::ListTest() : world(ContainerRef::Adopt(new FakeContainer("world")))
+ListTest::ListTest()
 {
-    resources.AddString(0xE00A, "Unreadable");
     resources.AddString(1008, "Icons");
     resources.AddIcon(1008, toolkit::Surface(CSize(16, 16), 0xFF0000FF));
     resources.AddBitmap(1006, toolkit::Surface(CSize(48, 48), 0xFFFFFF00));
-    resources.Join();
-    frame.CreateEx(0, "", "frame", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 800, 400), nullptr, 0);
-    AfxSetMainWnd(&frame);
-    desktop.Run();
-}
-
-ListTest::~ListTest()
-{
-    m_lists.clear();
-    EXPECT_EQ(0, editor.CountHandlers());
-    AfxSetMainWnd(nullptr);
-    frame.DestroyWindow();
-    world.Release();
-    editor.active.Release();
-    desktop.Run();
-
-    EXPECT_EQ(0, FakeAtom::CountLive());
-    EXPECT_EQ(0, editor.CountReferences());
-    EXPECT_EQ(0, KRNL_CountReferences());
-    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
 }
 
 ProbeList& ListTest::MakeList(const Shape& shape)
@@ -92,15 +69,6 @@ ProbeList& ListTest::ShowList(FakeContainer* pContainer, const Shape& shape)
     editor.TakeLedger();
     TakeHooks();
     return list;
-}
-
-FakeContainer* ListTest::MakeBox(const std::vector<std::string>& names)
-{
-    auto* const pBox = new FakeContainer("box");
-    world->Add(pBox);
-    for (const std::string& strName : names)
-        pBox->Add(strName);
-    return pBox;
 }
 
 void ListTest::Click(ProbeList& list, int nRow, toolkit::MouseButton button)

@@ -1,10 +1,8 @@
-// A desk for list views: a frame window on a headless desktop, a host, and lists that write down their hooks.
+// A desk for list views, which write down their hooks.
 #pragma once
 
-#include "Toolkit/graphics/Resources.h"
 #include "Views/list/list.h"
-#include "tests/support/DesktopTest.h"
-#include "tests/views/FakeHost.h"
+#include "tests/views/ViewTest.h"
 
 // An icon list that writes down what its cache hooks are called with.
 class ProbeList : public CIconList
@@ -29,11 +27,10 @@ private:
     Ledger& m_hooks;
 };
 
-class ListTest : public DesktopTest
+class ListTest : public ViewTest
 {
 protected:
     ListTest();
-    ~ListTest() override;
 
     struct Shape
     {
@@ -45,9 +42,6 @@ protected:
     ProbeList& ShowList(FakeContainer* pContainer, const Shape& shape); // showing it, all news taken
     ProbeList& ShowList(FakeContainer* pContainer) { return ShowList(pContainer, Shape()); }
 
-    // A box in the world with members of these names, in this order. The box and the world live as long as the test.
-    FakeContainer* MakeBox(const std::vector<std::string>& names);
-
     void Click(ProbeList& list, int nRow, toolkit::MouseButton button = toolkit::MouseButton::Left);
     CPoint PointOf(ProbeList& list, int nRow) const; // the middle of its picture
     CPoint EmptyPoint(ProbeList& list) const;        // in no row
@@ -57,11 +51,7 @@ protected:
     std::string Shown(ProbeList& list, int nRow);
     Ledger TakeHooks() { return std::exchange(hooks, {}); }
 
-    CResourceModule resources;
-    FakeEditor editor;
     Ledger hooks;
-    CWnd frame;
-    ContainerRef world;
 
 private:
     std::vector<std::unique_ptr<ProbeList>> m_lists;

@@ -1,136 +1,86 @@
 // Items that come and go as the editor announces.
-#include "Kernel/Kernel.h"
+#include "tests/support/AllocationFailures.h"
 #include "tests/views/TreeTest.h"
+
+#include <set>
 
 namespace
 {
 
 using TreeItemsTest = TreeTest;
 
-// A container that will not say which atom it is.
-class NobodysContainer : public FakeContainer
-{
-public:
-    using FakeContainer::FakeContainer;
-
-protected:
-    void* Find(DWORD id) override { return id == IID_IAtom ? nullptr : FakeContainer::Find(id); }
-};
-
 TEST_F(TreeItemsTest, ATreeShowsItsPaneAndRegistersUntilItGoes)
 {
-    ProbeTree& tree = MakeTree({});
+    ProbeTree& tree = MakeTree();
     EXPECT_EQ(Ledger({"pane 0 \"Libraries\" with icon", "tree registers"}), editor.TakeLedger());
     EXPECT_EQ(0x4600002Fu, tree.GetStyle() & ~WS_VISIBLE);
-    EXPECT_TRUE(tree.GetExStyle() & WS_EX_CLIENTEDGE);
     EXPECT_EQ(0xE900u, tree.GetDlgCtrlID());
     tree.DestroyWindow();
-    EXPECT_EQ(Ledger({"tree unregisters"}), editor.TakeLedger());
-
-    MakeTree({.passive = true, .name = "passive"}).DestroyWindow();
-    EXPECT_EQ(Ledger({"passive registers", "passive unregisters"}), editor.TakeLedger());
+    MakeTree(true).DestroyWindow();
+    EXPECT_EQ(Ledger({"tree unregisters", "tree registers", "tree unregisters"}), editor.TakeLedger());
 }
 
-TEST_F(TreeItemsTest, ATreeIsAHandlerAndAComponentAndIsNotCounted)
-{
-    ProbeTree& tree = MakeTree({});
-    void* pOut = &tree;
-    tree.GetInterface(IID_IAtom, &pOut);
-    EXPECT_EQ(nullptr, pOut);
-    tree.GetInterface(IID_IAEStateHandler, &pOut);
-    EXPECT_EQ(static_cast<IAEStateHandler*>(&tree), pOut);
-    for (int i = 0; i < 3; ++i)
-        static_cast<IAEStateHandler*>(pOut)->Release();
-    tree.GetInterface(STUB_BASE_INTERFACE_ID, &pOut);
-    EXPECT_EQ(static_cast<CStubBaseInterface*>(&tree), pOut);
-    EXPECT_EQ("", tree.State());
-}
-
-TEST_F(TreeItemsTest, AnAnnouncedAtomBringsItsWholeSubtree)
+TEST_F(TreeItemsTest, AnAnnouncedAtomBringsItsSubtreeToWhereItsContainerIsShown)
 {
     MakeBox("second", {"c", "A", "b"})->Add(new FakeContainer("empty"));
     MakeBox("First", {"x"});
     ProbeTree& tree = ShowTree();
     EXPECT_EQ("world [First [x] second [A b c empty]]", tree.State());
-}
 
-TEST_F(TreeItemsTest, AnAtomIsShownWhereItsContainerIsAndElseNotAtAll)
-{
-    ProbeTree& tree = ShowTree();
     const auto pHidden = ContainerRef::Adopt(new FakeContainer("hidden"));
     FakeAtom* const pMember = pHidden->Add("member");
     EXPECT_FALSE(tree.OnCreateAtom(pMember, pHidden.Get()));
     EXPECT_FALSE(tree.OnCreateAtom(nullptr, world.Get()));
-    EXPECT_EQ("world", tree.State());
     EXPECT_EQ(nullptr, tree.GetItem(pMember));
     EXPECT_EQ(1, pMember->CountReferences());
-
     EXPECT_TRUE(tree.OnCreateAtom(pMember, nullptr));
-    EXPECT_TRUE(tree.OnCreateAtom(MakeBox("box", {}), world.Get()));
-    EXPECT_EQ("member world [box]", tree.State());
+    EXPECT_EQ("member world [First [x] second [A b c empty]]", tree.State());
 }
 
-TEST_F(TreeItemsTest, RemovingAContainerRemovesWhatIsBelowIt)
+TEST_F(TreeItemsTest, RemovingTakesWhatIsBelowAndSynchronisingOnlyWhatIsNoMember)
 {
     FakeContainer* const pBox = MakeBox("box", {"a", "b"});
-    MakeBox("other", {"c"});
+    FakeContainer* const pOther = MakeBox("other", {"c", "d"});
     ProbeTree& tree = ShowTree();
-    FakeAtom* const pMember = pBox->Named("a");
-
     const auto pHidden = ContainerRef::Adopt(new FakeContainer("hidden"));
-    EXPECT_TRUE(tree.OnDeleteAtom(pBox, pHidden.Get()));
-    EXPECT_TRUE(tree.OnDeleteAtom(pHidden.Get(), world.Get()));
-    EXPECT_TRUE(tree.OnDeleteAtom(nullptr, nullptr));
-    EXPECT_EQ("world [box [a b] other [c]]", tree.State());
+    tree.OnDeleteAtom(pBox, pHidden.Get());
+    tree.OnDeleteAtom(pHidden.Get(), world.Get());
+    tree.OnDeleteAtom(nullptr, pHidden.Get());
+    tree.OnDeleteAtom(nullptr, nullptr);
+    EXPECT_EQ("world [box [a b] other [c d]]", tree.State());
 
-    EXPECT_TRUE(tree.OnDeleteAtom(pBox, world.Get()));
-    EXPECT_EQ("world [other [c]]", tree.State());
-    EXPECT_EQ(nullptr, tree.GetItem(pMember));
-    EXPECT_EQ(1, pMember->CountReferences());
+    const AtomRef pRemoved = pOther->Remove(pOther->Named("c"));
+    pOther->Add("new");
+    tree.OnDeleteAtom(nullptr, pOther);
+    EXPECT_EQ("world [box [a b] other [d]]", tree.State());
+    Remove(tree, pBox);
+    EXPECT_EQ("world [other [d]]", tree.State());
+    EXPECT_EQ(nullptr, tree.GetItem(pBox->Named("a")));
+    EXPECT_EQ(1, pBox->Named("a")->CountReferences());
     EXPECT_EQ(1, pBox->CountReferences());
-    EXPECT_TRUE(tree.OnDeleteAtom(world.Get(), nullptr));
-    EXPECT_EQ("", tree.State());
-}
-
-TEST_F(TreeItemsTest, SynchronisingDropsJustTheItemsWhoseAtomsAreMembersNoLonger)
-{
-    FakeContainer* const pBox = MakeBox("box", {"a", "b", "c"});
-    FakeContainer* const pInner = new FakeContainer("inner");
-    pBox->Add(pInner);
-    pInner->Add("x");
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ("world [box [a b c inner [x]]]", tree.State());
-
-    pBox->Remove(pBox->Named("a"));
-    pBox->Remove(pInner);
-    pBox->Add("new");
-    EXPECT_TRUE(tree.OnDeleteAtom(nullptr, pBox));
-    EXPECT_EQ("world [box [b c]]", tree.State());
-    const auto pHidden = ContainerRef::Adopt(new FakeContainer("hidden"));
-    EXPECT_TRUE(tree.OnDeleteAtom(nullptr, pHidden.Get()));
+    world->Remove(pOther);
+    tree.OnDeleteAtom(nullptr, world.Get());
+    EXPECT_EQ("world", tree.State());
 }
 
 TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCounts)
 {
     FakeContainer* const pBox = MakeBox("box", {"a", "b"});
     ProbeTree& tree = ShowTree();
-    FakeAtom* const pAtom = pBox->Named("a");
-    const HTREEITEM hFirst = tree.GetItem(pAtom);
-    EXPECT_TRUE(tree.OnCreateAtom(pAtom, pBox));
+    FakeAtom* const a = pBox->Named("a");
+    const HTREEITEM hFirst = tree.GetItem(a);
+    EXPECT_TRUE(tree.OnCreateAtom(a, pBox));
     EXPECT_EQ("world [box [a a b]]", tree.State());
-    EXPECT_NE(hFirst, tree.GetItem(pAtom));
-    EXPECT_EQ(hFirst, tree.GetPrevSiblingItem(tree.GetItem(pAtom)));
-
-    EXPECT_TRUE(tree.OnDeleteAtom(pAtom, pBox));
-    EXPECT_EQ("world [box [a b]]", tree.State());
-    EXPECT_EQ(nullptr, tree.GetItem(pAtom));
-    EXPECT_TRUE(tree.OnDeleteAtom(pAtom, pBox));
-    EXPECT_EQ("world [box [a b]]", tree.State());
-
-    const AtomRef pRemoved = pBox->Remove(pAtom);
+    EXPECT_EQ(hFirst, tree.GetPrevSiblingItem(tree.GetItem(a)));
+    for (int i = 0; i < 2; ++i) {
+        Remove(tree, a);
+        EXPECT_EQ("world [box [a b]]", tree.State());
+        EXPECT_EQ(nullptr, tree.GetItem(a));
+    }
+    const AtomRef pRemoved = pBox->Remove(a);
     tree.OnDeleteAtom(nullptr, pBox);
     EXPECT_EQ("world [box [b]]", tree.State());
-    EXPECT_EQ(1, pAtom->CountReferences());
+    EXPECT_EQ(1, a->CountReferences());
 }
 
 TEST_F(TreeItemsTest, AnItemThatTheControlRefusesIsReportedAndNothingIsKept)
@@ -143,28 +93,60 @@ TEST_F(TreeItemsTest, AnItemThatTheControlRefusesIsReportedAndNothingIsKept)
     EXPECT_EQ(nullptr, tree.GetItem(pAtom.Get()));
 }
 
-// What the editor says later has no effect, and all is given back, whatever is among the items.
-TEST_F(TreeItemsTest, TheWindowsEndGivesEverythingBack)
+// A container that will not say which atom it is.
+class NobodysContainer : public FakeContainer
+{
+public:
+    using FakeContainer::FakeContainer;
+
+protected:
+    void* Find(DWORD id) override { return id == IID_IAtom ? nullptr : FakeContainer::Find(id); }
+};
+
+TEST_F(TreeItemsTest, TheWindowsEndGivesEverythingBackAndIsNoNewsToAnyone)
 {
     FakeContainer* const pBox = MakeBox("box", {"a", "b"});
+    FakeAtom* const a = pBox->Named("a");
     ProbeTree& tree = ShowTree();
-    auto* const pNobody = new NobodysContainer("nobody");
-    world->Add(pNobody); // which does not show, having no atom
+    const auto pNobody = ContainerRef::Adopt(new NobodysContainer("nobody"));
     const auto pOrphan = AtomRef::Adopt(new FakeAtom("orphan"));
-    EXPECT_TRUE(tree.OnCreateAtom(pOrphan.Get(), pNobody)); // a top-level item that is never removed by its container
-    EXPECT_TRUE(tree.OnCreateAtom(world.Get(), nullptr));
-    EXPECT_TRUE(tree.OnCreateAtom(pBox->Named("a"), pBox));
-    EXPECT_EQ("orphan world [box [a b]] world [box [a a b]]", tree.State());
-    tree.OnAtomEntered(pOrphan.Get(), nullptr);
-    editor.TakeLedger();
+    tree.OnCreateAtom(pOrphan.Get(), pNobody.Get()); // which will never agree to its removal
+    tree.OnCreateAtom(world.Get(), nullptr);
+    tree.OnCreateAtom(a, pBox);
+    EXPECT_TRUE(tree.SelectItem(tree.InsertItem("own", tree.GetItem(pBox))));
+    EXPECT_EQ("orphan world [box [a b]] world! [box! [a a b *-!]]", tree.State());
+    Select(tree, pOrphan.Get());
 
     tree.DestroyWindow();
     EXPECT_EQ(Ledger({"tree unregisters"}), editor.TakeLedger());
     EXPECT_EQ(1, pOrphan->CountReferences());
     EXPECT_EQ(1, world->CountReferences());
-    EXPECT_EQ(1, pBox->Named("a")->CountReferences());
+    EXPECT_EQ(1, a->CountReferences());
     EXPECT_EQ(nullptr, tree.GetItem(world.Get()));
-    EXPECT_TRUE(tree.OnDeleteAtom(world.Get(), nullptr));
+}
+
+// Each allocation fails in its turn. What is shown then is whole, and all is given back.
+TEST_F(TreeItemsTest, WithoutMemoryLessIsShownButNothingWrong)
+{
+    FakeContainer* const pBox = MakeBox("box", {"c", "b", "a"});
+    ProbeTree& tree = MakeTree();
+    std::set<std::string> states;
+    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
+        {
+            const FailAllocation failure(nth);
+            tree.OnCreateAtom(pBox, nullptr);
+        }
+        const std::string strState = tree.State();
+        for (const AtomRef& pMember : pBox->members)
+            EXPECT_EQ(tree.GetItem(pMember.Get()) != nullptr, strState.find(pMember->name, 4) != std::string::npos);
+        states.insert(strState);
+        tree.OnDeleteAtom(pBox, nullptr);
+        EXPECT_EQ("", tree.State());
+        EXPECT_EQ(1, pBox->CountReferences());
+        EXPECT_EQ(1, pBox->Named("a")->CountReferences());
+    }
+    EXPECT_EQ((std::set<std::string>{"", "box [a b c]", "box [a b]", "box [a c]", "box [b c]"}), states);
+    desktop.TakeMessageBoxes();
 }
 
 } // namespace

@@ -7,108 +7,97 @@ namespace
 class TreeMisbehaviourTest : public TreeTest
 {
 protected:
-    TreeMisbehaviourTest() { box = MakeBox("box", {"a", "b", "c"}); }
-    ~TreeMisbehaviourTest() override
+    static constexpr AEStateOperation kOperations[] = {
+        &IAEStateHandler::OnAtomDeselecting, &IAEStateHandler::OnAtomSelecting, &IAEStateHandler::OnAtomDeselected,
+        &IAEStateHandler::OnAtomEntered, &IAEStateHandler::OnAtomSelected};
+
+    FakeAtom* Find(const std::string& strName) const { return strName == "box" ? box : box->Named(strName); }
+    // The next time that the operation is asked or told.
+    void Do(AEStateOperation operation, std::function<void()> deed)
     {
-        world->members.clear(); // a container among its own members holds itself
+        editor.onNotify = [this, operation, deed](AEStateOperation told, IAtom*) {
+            if (told == operation) {
+                editor.onNotify = nullptr;
+                deed();
+            }
+        };
     }
 
-    FakeContainer* box;
+    FakeContainer* const box = MakeBox({"a", "b", "c"});
 };
 
-TEST_F(TreeMisbehaviourTest, MembersThatVanishBetweenCountAndFetchArePassedBy)
+TEST_F(TreeMisbehaviourTest, AContainerBelowItselfIsNotShownAgainAndMembersThatVanishArePassedBy)
 {
     box->nMissing = 3;
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ("world [box [a b c]]", tree.State());
-    tree.OnDeleteAtom(box, world.Get());
-    EXPECT_EQ("world", tree.State());
-}
-
-TEST_F(TreeMisbehaviourTest, AContainerBelowItselfIsNotShownAgain)
-{
     auto* const pInner = new FakeContainer("inner");
     box->Add(pInner);
     pInner->members.push_back(AtomRef::Share(box));
     pInner->members.push_back(AtomRef::Share(pInner));
     pInner->Add("x");
     ProbeTree& tree = ShowTree();
-    EXPECT_EQ("world [box [a b c inner [x]]]", tree.State());
     EXPECT_FALSE(tree.OnCreateAtom(box, box));
     EXPECT_FALSE(tree.OnCreateAtom(world.Get(), pInner));
     EXPECT_EQ("world [box [a b c inner [x]]]", tree.State());
 
-    EXPECT_TRUE(tree.OnDeleteAtom(pInner, box));
+    Remove(tree, pInner);
     EXPECT_EQ("world [box [a b c]]", tree.State());
-    EXPECT_TRUE(tree.OnDeleteAtom(box, world.Get()));
+    Remove(tree, box);
     EXPECT_EQ("world", tree.State());
-    pInner->members.clear();
+    pInner->members.clear(); // it holds itself
 }
 
 TEST_F(TreeMisbehaviourTest, AnAtomInTwoContainersIsRemovedWithEach)
 {
-    auto* const pOther = MakeBox("other", {});
-    FakeAtom* const pShared = box->Named("b");
-    pOther->members.push_back(AtomRef::Share(pShared));
+    FakeContainer* const pOther = MakeBox("other", {});
+    FakeAtom* const b = Find("b");
+    pOther->members.push_back(AtomRef::Share(b));
     ProbeTree& tree = ShowTree();
     EXPECT_EQ("world [box [a b c] other [b]]", tree.State());
-    const auto pKept = box->Remove(pShared);
+    AtomRef pKept = box->Remove(b);
     tree.OnDeleteAtom(nullptr, box);
     EXPECT_EQ("world [box [a c] other [b]]", tree.State());
 
-    box->members.push_back(AtomRef::Share(pShared));
-    EXPECT_TRUE(tree.OnCreateAtom(pShared, box));
-    tree.OnDeleteAtom(pOther, world.Get()); // which names b a member, whose item is the one in the box
+    box->members.push_back(std::move(pKept));
+    tree.OnCreateAtom(b, box);
+    Remove(tree, pOther); // whose member is the one in the box by now
     EXPECT_EQ("world [box [a c]]", tree.State());
-    EXPECT_EQ(3, pShared->CountReferences()); // the test's and the two containers'
+    EXPECT_EQ(2, b->CountReferences());
 }
 
-// Whatever is told or asked, someone removes the atom in question, or the one that is left.
 TEST_F(TreeMisbehaviourTest, AHandlerMayRemoveTheAtomItIsToldAbout)
 {
-    const AEStateOperation operations[] = {&IAEStateHandler::OnAtomDeselecting, &IAEStateHandler::OnAtomSelecting,
-                                           &IAEStateHandler::OnAtomDeselected, &IAEStateHandler::OnAtomEntered,
-                                           &IAEStateHandler::OnAtomSelected};
-    for (const AEStateOperation operation : operations) {
+    for (const AEStateOperation operation : kOperations) {
         for (const char* pszVictim : {"a", "b", "box"}) {
             ProbeTree& tree = ShowTree();
-            Select(tree, box->Named("a"));
-            editor.onNotify = [&](AEStateOperation told, IAtom*) {
-                if (told == operation) {
-                    editor.onNotify = nullptr;
-                    FakeAtom* const pVictim = box->name == pszVictim ? box : box->Named(pszVictim);
-                    tree.OnDeleteAtom(pVictim, pVictim->parent);
-                }
-            };
-            Click(tree, box->Named("b"));
-            desktop.Run();
-            EXPECT_EQ(nullptr, editor.onNotify);
+            Select(tree, Find("a"));
+            Do(operation, [&] { Remove(tree, Find(pszVictim)); });
+            Click(tree, Find("b"));
+            EXPECT_FALSE(editor.onNotify);
+            EXPECT_EQ(nullptr, tree.GetItem(Find(pszVictim)));
             const std::string strState = tree.State();
-            EXPECT_EQ(std::string::npos, strState.find(std::string(pszVictim) + "!")) << strState;
+            EXPECT_NE(std::string::npos, strState.find('*')) << strState;
+            EXPECT_EQ(1, std::count(strState.begin(), strState.end(), '!') -
+                             std::count(strState.begin(), strState.begin() + strState.find('*'), '!'))
+                << strState;
             tree.DestroyWindow();
-            EXPECT_EQ(1, box->Named("a")->CountReferences()) << pszVictim;
-            EXPECT_EQ(1, box->Named("b")->CountReferences()) << pszVictim;
+            EXPECT_EQ(1, Find("a")->CountReferences()) << pszVictim;
+            EXPECT_EQ(1, Find("b")->CountReferences()) << pszVictim;
         }
     }
 }
 
 TEST_F(TreeMisbehaviourTest, AHandlerMaySelectSomethingElse)
 {
-    const AEStateOperation operations[] = {&IAEStateHandler::OnAtomDeselecting, &IAEStateHandler::OnAtomSelecting,
-                                           &IAEStateHandler::OnAtomDeselected, &IAEStateHandler::OnAtomEntered,
-                                           &IAEStateHandler::OnAtomSelected};
-    for (const AEStateOperation operation : operations) {
+    for (const AEStateOperation operation : kOperations) {
         ProbeTree& tree = ShowTree();
-        Select(tree, box->Named("a"));
-        editor.onNotify = [&](AEStateOperation told, IAtom*) {
-            if (told == operation) {
-                editor.onNotify = nullptr;
-                tree.OnAtomEntered(box->Named("c"), box);
-            }
-        };
-        Click(tree, box->Named("b"));
-        const std::string strState = tree.State();
-        EXPECT_TRUE(strState == "world! [box! [a *b! c]]" || strState == "world! [box! [a b *c!]]") << strState;
+        Select(tree, Find("a"));
+        Do(operation, [&] { tree.OnAtomEntered(Find("c"), box); });
+        Click(tree, Find("b"));
+        const bool bAsked =
+            operation == &IAEStateHandler::OnAtomDeselecting || operation == &IAEStateHandler::OnAtomSelecting;
+        EXPECT_EQ(bAsked ? "world! [box! [a *b! c]]" : "world! [box! [a b *c!]]", tree.State());
+        EXPECT_EQ(bAsked ? "tree tells OnAtomSelected(b in box)" : "tree tells OnAtomSelected(c in box)",
+                  editor.TakeLedger().back());
         tree.DestroyWindow();
     }
 }
@@ -117,18 +106,15 @@ TEST_F(TreeMisbehaviourTest, AHandlerMayDestroyTheWindow)
 {
     for (const char* pszRemoved : {"", "a", "box"}) {
         ProbeTree& tree = ShowTree();
-        Select(tree, box->Named("a"));
-        editor.onNotify = [&](AEStateOperation, IAtom*) {
-            editor.onNotify = nullptr;
-            tree.DestroyWindow();
-        };
-        if (!*pszRemoved)
-            Click(tree, box->Named("b"));
+        Select(tree, Find("a"));
+        Do(&IAEStateHandler::OnAtomSelecting, [&] { tree.DestroyWindow(); });
+        if (*pszRemoved)
+            Remove(tree, Find(pszRemoved));
         else
-            tree.OnDeleteAtom(box->name == pszRemoved ? box : box->Named(pszRemoved), nullptr);
+            Click(tree, Find("b"));
         EXPECT_EQ(nullptr, tree.m_hWnd);
-        EXPECT_EQ(1, box->Named("a")->CountReferences()) << pszRemoved;
         EXPECT_EQ(1, box->CountReferences()) << pszRemoved;
+        EXPECT_EQ(1, Find("b")->CountReferences()) << pszRemoved;
         EXPECT_EQ(nullptr, tree.GetItem(box)) << pszRemoved;
     }
 }
@@ -136,10 +122,10 @@ TEST_F(TreeMisbehaviourTest, AHandlerMayDestroyTheWindow)
 TEST_F(TreeMisbehaviourTest, AContainerMayGoWhileItsMembersAreFetched)
 {
     ProbeTree& tree = ShowTree();
-    auto* const pLate = MakeBox("late", {"x", "y", "z"});
+    FakeContainer* const pLate = MakeBox("late", {"x", "y", "z"});
     pLate->onGetAtoms = [&](UINT nFirst) {
         if (nFirst == 1)
-            tree.OnDeleteAtom(pLate, world.Get());
+            Remove(tree, pLate);
     };
     tree.OnCreateAtom(pLate, world.Get());
     EXPECT_EQ("world [box [a b c]]", tree.State());
@@ -150,9 +136,9 @@ TEST_F(TreeMisbehaviourTest, AContainerMayGoWhileItsMembersAreFetched)
 TEST_F(TreeMisbehaviourTest, WithTheSelectedItemGoneAndItsHeirRefusedNothingIsSelectedOrBold)
 {
     ProbeTree& tree = ShowTree();
-    Select(tree, box->Named("b"));
+    Select(tree, Find("b"));
     editor.Veto(&IAEStateHandler::OnAtomSelecting);
-    tree.OnDeleteAtom(box->Named("b"), box);
+    Remove(tree, Find("b"));
     EXPECT_EQ("world [box [a c]]", tree.State());
 }
 

@@ -14,70 +14,36 @@ HTREEITEM Item(int n)
     return reinterpret_cast<HTREEITEM>(static_cast<INT_PTR>(n));
 }
 
-class TreeIconSlotsTest : public testing::Test
+TEST(TreeIconSlotsTest, TheOldestSlotThatIsGivenUpOrHiddenIsTakenOver)
 {
-protected:
-    int TakeOver()
-    {
-        return slots.TakeOver([this](HTREEITEM hItem) {
-            ++nAsked;
-            return !hidden.contains(hItem);
-        });
-    }
-
     views::TreeIconSlots slots;
     std::set<HTREEITEM> hidden;
-    int nAsked = 0;
-};
-
-TEST_F(TreeIconSlotsTest, TheOldestSlotThatIsGivenUpOrHiddenIsTakenOver)
-{
+    const auto takeOver = [&] { return slots.TakeOver([&](HTREEITEM hItem) { return !hidden.contains(hItem); }); };
     for (int i = 1; i <= 5; ++i)
-        slots.Lend(Item(i), 10 * i);
-    EXPECT_EQ(-1, TakeOver());
+        slots.Lend(Item(i), i == 3 ? -1 : 10 * i); // the third icon could not be made
+    slots.Lend(Item(1), 60);                       // the youngest now; its former slot is free
+    EXPECT_EQ(10, takeOver());
+    EXPECT_EQ(-1, takeOver());
 
     hidden = {Item(4), Item(2)};
     slots.ItemsHidden();
     slots.GiveUp(Item(3));
     EXPECT_EQ(nullptr, slots.Find(Item(3)));
-    EXPECT_EQ(20, TakeOver());
+    EXPECT_EQ(20, takeOver());
     EXPECT_EQ(nullptr, slots.Find(Item(2)));
-    EXPECT_EQ(30, TakeOver());
-    EXPECT_EQ(40, TakeOver());
-    EXPECT_EQ(-1, TakeOver());
+    EXPECT_EQ(-1, takeOver());
+    EXPECT_EQ(3, slots.GetCount());
+    EXPECT_EQ(40, takeOver());
     EXPECT_EQ(2, slots.GetCount());
-    EXPECT_EQ(50, slots.Find(Item(5))->nImage);
+    EXPECT_EQ(60, slots.Find(Item(1))->nImage);
 }
 
-TEST_F(TreeIconSlotsTest, AnImageThatCouldNotBeMadeKeepsItsPlaceInTheLine)
+TEST(TreeIconSlotsTest, DrawingManyItemsAsksAboutEachOfThemOnce)
 {
-    slots.Lend(Item(1), -1);
-    slots.Lend(Item(2), 7);
-    EXPECT_EQ(-1, slots.Find(Item(1))->nImage);
-    slots.GiveUp(Item(1));
-    slots.GiveUp(Item(2));
-    EXPECT_EQ(-1, TakeOver());
-    EXPECT_EQ(1, slots.GetCount());
-    EXPECT_EQ(7, TakeOver());
-}
-
-TEST_F(TreeIconSlotsTest, AnItemHasOneSlotAndANewOneIsTheYoungest)
-{
-    slots.Lend(Item(1), 1);
-    slots.Lend(Item(2), 2);
-    slots.Lend(Item(1), 3);
-    EXPECT_EQ(3, slots.Find(Item(1))->nImage);
-    hidden = {Item(1), Item(2)};
-    EXPECT_EQ(1, TakeOver());
-    EXPECT_EQ(2, TakeOver());
-    EXPECT_EQ(3, TakeOver());
-    EXPECT_EQ(0, slots.GetCount());
-}
-
-TEST_F(TreeIconSlotsTest, DrawingManyItemsAsksAboutEachOfThemOnce)
-{
+    views::TreeIconSlots slots;
+    int nAsked = 0;
     for (int i = 1; i <= 1000; ++i) {
-        EXPECT_EQ(-1, TakeOver());
+        EXPECT_EQ(-1, slots.TakeOver([&](HTREEITEM) { return ++nAsked != 0; }));
         slots.Lend(Item(i), i);
     }
     EXPECT_LE(nAsked, 1000);
@@ -100,34 +66,22 @@ struct NameSource
     }
 };
 
-TEST(TreeLabelTest, TheMarkIsAppendedInTheOneBuffer)
+TEST(TreeLabelTest, TheMarkIsAppendedInTheOneBufferWhateverTheSourceDoes)
 {
-    CString strLabel;
-    NameSource longer{"a name with many letters", 25};
-    const char* const pszFirst = views::BuildLabel(&longer, &NameSource::GetName, true, strLabel);
-    EXPECT_STREQ("a name with many letters *", pszFirst);
-    EXPECT_EQ(pszFirst, strLabel.GetString());
-
-    NameSource shorter{"b", 2};
-    EXPECT_EQ(pszFirst, views::BuildLabel(&shorter, &NameSource::GetName, true, strLabel));
-    EXPECT_STREQ("b *", pszFirst);
-    EXPECT_EQ(pszFirst, views::BuildLabel(&shorter, &NameSource::GetName, false, strLabel));
-    EXPECT_STREQ("b", pszFirst);
+    CString strLabel("what was here before, longer than any label");
+    const char* const pszBuffer = strLabel.GetString();
+    const auto build = [&](NameSource source, bool bModified = true) {
+        const char* pszLabel = views::BuildLabel(&source, &NameSource::GetName, bModified, strLabel);
+        EXPECT_EQ(pszBuffer, strLabel.GetString());
+        return std::string(pszLabel ? pszLabel : "none");
+    };
+    EXPECT_EQ("name *", build({"name", 5}));
+    EXPECT_EQ("b", build({"b", 2}, false));
     EXPECT_EQ(1, strLabel.GetLength());
-}
-
-TEST(TreeLabelTest, ASourceThatBreaksTheProtocolGivesNothingWorseThanAnotherLabel)
-{
-    CString strLabel("what was here before");
-    NameSource unended{"abcdef", 4}; // four letters and no zero
-    EXPECT_STREQ("abcd *", views::BuildLabel(&unended, &NameSource::GetName, true, strLabel));
-    NameSource silent{"", 6};
-    EXPECT_STREQ("", views::BuildLabel(&silent, &NameSource::GetName, false, strLabel));
-    NameSource empty{"abc", 0};
-    EXPECT_STREQ(" *", views::BuildLabel(&empty, &NameSource::GetName, true, strLabel));
-    NameSource failing{"abc", 4, FALSE};
-    EXPECT_EQ(nullptr, views::BuildLabel(&failing, &NameSource::GetName, true, strLabel));
-    EXPECT_TRUE(strLabel.IsEmpty());
+    EXPECT_EQ("abcd *", build({"abcdef", 4})); // no terminating zero
+    EXPECT_EQ(" *", build({"", 6}));           // nothing written
+    EXPECT_EQ(" *", build({"abc", 0}));
+    EXPECT_EQ("none", build({"abc", 4, FALSE}));
 }
 
 } // namespace

@@ -1,0 +1,28 @@
+// A desk for views: a frame window on a headless desktop, and a host with a world of atoms.
+#pragma once
+
+#include "Toolkit/graphics/Resources.h"
+#include "Toolkit/window/Wnd.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/views/FakeHost.h"
+
+// At its end the derived fixture's views must be gone; the test fails for every reference, handler and message box
+// left over.
+class ViewTest : public DesktopTest
+{
+protected:
+    ViewTest();
+    ~ViewTest() override;
+
+    // A box in the world with members of these names, in this order. The box and the world live as long as the test.
+    FakeContainer* MakeBox(const std::string& strName, const std::vector<std::string>& names);
+    FakeContainer* MakeBox(const std::vector<std::string>& names) { return MakeBox("box", names); }
+
+    static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
+
+    CResourceModule resources;
+    FakeEditor editor;
+    CWnd frame;
+    CWnd field; // something else in the frame that can have the focus
+    ContainerRef world;
+};
