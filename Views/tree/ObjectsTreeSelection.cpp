@@ -45,7 +45,9 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
         *pResult = -1;
         return;
     }
-    SetBoldRoot(GetSelectedItem(), FALSE); // whoever was asked may have selected another item than the outgoing one
+    // Whoever was asked may have selected another item than the outgoing one, the incoming one even.
+    if (const HTREEITEM hSelected = GetSelectedItem(); hSelected != pChange->itemNew.hItem)
+        SetBoldRoot(hSelected, FALSE);
     *pResult = 0;
 }
 
