@@ -147,6 +147,69 @@ BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
     return found != members.end();
 }
 
+bool FakeContainer::Does(const std::string& strCall)
+{
+    if (pLedger)
+        pLedger->push_back(name + " " + strCall);
+    if (const auto hook = onCall)
+        hook(strCall);
+    return !refused.contains(strCall);
+}
+
+BOOL FakeContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
+{
+    *ppOut = nullptr;
+    FakeAtom* const pFound = Does(std::string("finds ") + pszName) ? Named(pszName) : nullptr;
+    if (pFound)
+        pFound->GetInterface(dwInterfaceId, ppOut);
+    return pFound != nullptr;
+}
+
+BOOL FakeContainer::AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId)
+{
+    EXPECT_EQ(0u, dwReserved);
+    *ppOut = nullptr;
+    if (!Does("adds " + ::NameOf(pSource) + " as " + pszName))
+        return FALSE;
+    Add(pszName)->GetInterface(dwInterfaceId, ppOut);
+    return TRUE;
+}
+
+BOOL FakeContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId)
+{
+    *ppOut = nullptr;
+    if (!Does("renames " + ::NameOf(pAtom) + " to " + pszNewName))
+        return FALSE;
+    const AtomRef pFormer = Remove(AsFake(pAtom));
+    Add(pszNewName)->GetInterface(dwInterfaceId, ppOut);
+    return TRUE;
+}
+
+BOOL FakeContainer::RemoveAtom(IAtom* pAtom)
+{
+    if (!Does("removes " + ::NameOf(pAtom)))
+        return FALSE;
+    Remove(AsFake(pAtom));
+    return TRUE;
+}
+
+DWORD FakeContainer::GetPermissions(IAtom* pAtom)
+{
+    Does("permits " + ::NameOf(pAtom));
+    const auto found = permissionsFor.find(::NameOf(pAtom));
+    return found == permissionsFor.end() ? permissions : found->second;
+}
+
+BOOL FakeContainer::ValidateName(CString& strName, DWORD dwReserved)
+{
+    EXPECT_EQ(0u, dwReserved);
+    if (!Does(std::string("validates ") + strName.GetString()))
+        return FALSE;
+    if (Named(strName.GetString()))
+        strName += " (2)";
+    return TRUE;
+}
+
 int FakeContainer::GetPosition(IImageLink* pLink)
 {
     const int nPosition = static_cast<FakeAtom*>(pLink)->position;
@@ -159,6 +222,8 @@ void* FakeContainer::Find(DWORD id)
         return static_cast<IAtomContainer*>(this);
     if (id == IID_IPhase && isPhase)
         return static_cast<IPhase*>(this);
+    if (id == IID_IMyErrorInfo && !refused.empty())
+        return static_cast<IMyErrorInfo*>(this);
     return FakeAtom::Find(id);
 }
 

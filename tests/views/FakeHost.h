@@ -9,6 +9,7 @@
 #include "tests/support/Ledger.h"
 
 #include <functional>
+#include <map>
 #include <optional>
 #include <set>
 #include <string>
@@ -43,7 +44,7 @@ public:
     bool isModified = false;
     FakeContainer* parent = nullptr;
     int nNameReads = 0;        // names filled in, lengths asked for not counted
-    Ledger* pLedger = nullptr; // where icons are written down
+    Ledger* pLedger = nullptr; // where icons, and what a container is asked to do, are written down
 
     int CountReferences() const { return m_nReferences; }
     static int CountLive() { return s_nLive; }
@@ -70,7 +71,8 @@ private:
 
 using AtomRef = CStubRef<FakeAtom>;
 
-// A container, and a phase when it is told so.
+// A container, and a phase when it is told so. What it is asked to do with members is written down, in words: "box
+// removes b".
 class FakeContainer : public FakeAtom, public IAtomContainer, public IPhase
 {
 public:
@@ -78,9 +80,13 @@ public:
 
     std::vector<AtomRef> members;
     bool isPhase = false;
-    bool isBackward = false;                     // gives positions with the other sign
-    int nMissing = 0;                            // members announced beyond those there are
-    std::function<void(UINT nFirst)> onGetAtoms; // runs before members are handed out
+    bool isBackward = false; // gives positions with the other sign
+    int nMissing = 0;        // members announced beyond those there are
+    DWORD permissions = 0;   // for every atom but those named below
+    std::map<std::string, DWORD> permissionsFor;
+    std::set<std::string> refused;                  // "removes b": what it will not do, in the ledger's words
+    std::function<void(const std::string&)> onCall; // runs before it does what the words say
+    std::function<void(UINT nFirst)> onGetAtoms;    // runs before members are handed out
 
     FakeAtom* Add(FakeAtom* pNew); // takes the one reference of a new atom
     FakeAtom* Add(const std::string& strName) { return Add(new FakeAtom(strName)); }
@@ -90,16 +96,19 @@ public:
     UINT GetCount() override { return static_cast<UINT>(members.size()) + static_cast<UINT>(nMissing); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId) override;
-    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
-    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RemoveAtom(IAtom*) override { return FALSE; }
-    DWORD GetPermissions(IAtom*) override { return 0; }
-    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
+    BOOL FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
+    BOOL AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
+    BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId) override;
+    BOOL RemoveAtom(IAtom* pAtom) override;
+    DWORD GetPermissions(IAtom* pAtom) override;
+    BOOL ValidateName(CString& strName, DWORD dwReserved) override; // "b" becomes "b (2)" where there is a b
     int GetPosition(IImageLink* pLink) override;
 
 protected:
-    void* Find(DWORD id) override;
+    void* Find(DWORD id) override; // offers IMyErrorInfo when it refuses something
+
+private:
+    bool Does(const std::string& strCall); // writes it down; false when it is refused
 };
 
 using ContainerRef = CStubRef<FakeContainer>;
