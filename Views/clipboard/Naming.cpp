@@ -84,6 +84,7 @@ int RenameObject(IAtom* pAtom, IAtomContainer* pContainer, const char* lpszNewNa
     if (!(pHolder->GetPermissions(pAtom) & APF_RENAME))
         return FALSE;
 
+    const auto pFormer = CStubRef<IAtom>::Share(pAtom); // the container lets go of it
     CStubRef<IAtom> pRenamed;
     if (!pHolder->RenameAtom(pAtom, lpszNewName, pRenamed.Receive(), IID_IAtom)) {
         ShowRenameError(pHolder.Get());

@@ -2,6 +2,7 @@
 
 #include "Kernel/Kernel.h"
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/base/String.h"
 
 #include <algorithm>
 #include <cstring>

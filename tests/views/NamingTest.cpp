@@ -1,5 +1,5 @@
 // Names: what atoms may be called, and who hears of a new name.
-#include "Views/clipboard/Naming.h"
+#include "Views/clipboard/clipboard.h"
 
 #include "Toolkit/graphics/Resources.h"
 #include "tests/support/AllocationFailures.h"
