@@ -27,7 +27,7 @@ inline constexpr UINT LVM_ENSUREVISIBLE = LVM_FIRST + 19; // wParam: row, lParam
 inline constexpr UINT LVM_SCROLL = LVM_FIRST + 20;        // wParam, lParam: pixels
 inline constexpr UINT LVM_REDRAWITEMS = LVM_FIRST + 21;   // wParam, lParam: first and last row
 inline constexpr UINT LVM_ARRANGE = LVM_FIRST + 22;
-inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23; // wParam: row; the edit field or NULL
+inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23; // wParam: row, -1 cancels; the edit field or NULL
 inline constexpr UINT LVM_GETEDITCONTROL = LVM_FIRST + 24;
 inline constexpr UINT LVM_GETTOPINDEX = LVM_FIRST + 39;
 inline constexpr UINT LVM_GETCOUNTPERPAGE = LVM_FIRST + 40;
@@ -38,6 +38,11 @@ inline constexpr UINT LVM_SETITEMCOUNT = LVM_FIRST + 47; // wParam: count, lPara
 inline constexpr UINT LVM_SORTITEMS = LVM_FIRST + 48;    // an owner-data control has nothing to sort: FALSE
 inline constexpr UINT LVM_GETSELECTEDCOUNT = LVM_FIRST + 50;
 inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width and height; the former ones
+
+inline constexpr UINT LVM_CANCELEDITLABEL = LVM_FIRST + 179;
+// The toolkit's own: the row whose label is being edited is now row wParam, or gone (-1), which ends the editing like
+// Escape. An owner that moves rows while LVM_GETEDITCONTROL answers says so: the control knows rows by number only.
+inline constexpr UINT LVM_MOVEEDITLABEL = LVM_FIRST + 250;
 
 inline constexpr int LVSIL_NORMAL = 0;
 inline constexpr UINT LVA_DEFAULT = 0;
@@ -89,8 +94,8 @@ struct LVHITTESTINFO
 inline constexpr UINT LVN_FIRST = NotifyCode(-100);
 inline constexpr UINT LVN_ITEMCHANGING = LVN_FIRST - 0; // NMLISTVIEW
 inline constexpr UINT LVN_ITEMCHANGED = LVN_FIRST - 1;  // NMLISTVIEW
-inline constexpr UINT LVN_BEGINLABELEDIT = LVN_FIRST - 5;
-inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;
+inline constexpr UINT LVN_BEGINLABELEDIT = LVN_FIRST - 5; // NMLVDISPINFO: the row and its label; non-zero refuses
+inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;   // NMLVDISPINFO: pszText is NULL when cancelled
 inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;    // NMLISTVIEW: the row pressed and where
 inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11;  // the same with the right button
 inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13; // NMLVCACHEHINT: rows about to be drawn

@@ -57,6 +57,7 @@ public:
     BOOL SortChildrenCB(TVSORTCB* pSort);
     HWND EditLabel(HTREEITEM hItem); // the edit field; NULL when the editing was refused
     HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL)); }
+    BOOL EndEditLabelNow(BOOL bCancel) { return SendMessage(TVM_ENDEDITLABELNOW, static_cast<WPARAM>(bCancel)) != 0; }
 
     HIMAGELIST GetImageList(UINT nImageList = TVSIL_NORMAL) const;
     HIMAGELIST SetImageList(CImageList* pImageList, UINT nImageList); // borrowed; the former one

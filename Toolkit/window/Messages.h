@@ -18,6 +18,7 @@ inline constexpr UINT WM_PAINT = 0x000F;
 inline constexpr UINT WM_CLOSE = 0x0010;
 inline constexpr UINT WM_ERASEBKGND = 0x0014; // wParam: the HDC
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
+inline constexpr UINT WM_SETCURSOR = 0x0020; // the mouse moved over the client area of wParam, the window itself
 inline constexpr UINT WM_NOTIFY = 0x004E;
 inline constexpr UINT WM_CONTEXTMENU = 0x007B; // wParam: the window, lParam: screen point, -1, -1 from the keyboard
 inline constexpr UINT WM_STYLECHANGED = 0x007D;
@@ -47,6 +48,11 @@ inline constexpr UINT WM_MBUTTONDBLCLK = 0x0209;
 inline constexpr UINT WM_MOUSEWHEEL = 0x020A; // high word of wParam: the turn, WHEEL_DELTA a notch, up is positive
 inline constexpr UINT WM_CAPTURECHANGED = 0x0215;
 inline constexpr UINT WM_MOUSELEAVE = 0x02A3; // the mouse left the window it was over
+inline constexpr UINT WM_CUT = 0x0300;
+inline constexpr UINT WM_COPY = 0x0301;
+inline constexpr UINT WM_PASTE = 0x0302;
+inline constexpr UINT WM_CLEAR = 0x0303;
+inline constexpr UINT WM_UNDO = 0x0304;
 inline constexpr UINT WM_USER = 0x0400;
 inline constexpr UINT WM_APP = 0x8000;
 
@@ -77,6 +83,13 @@ inline constexpr UINT MK_SHIFT = 0x0004;
 inline constexpr UINT MK_CONTROL = 0x0008;
 inline constexpr UINT MK_MBUTTON = 0x0010;
 inline constexpr UINT MK_ALT = 0x0020;
+
+// What a window answers to WM_GETDLGCODE: the keys it wants for itself. A window that takes text answers
+// DLGC_HASSETSEL; a host asks it before it makes a command of a key.
+inline constexpr UINT DLGC_WANTARROWS = 0x0001;
+inline constexpr UINT DLGC_WANTALLKEYS = 0x0004;
+inline constexpr UINT DLGC_HASSETSEL = 0x0008;
+inline constexpr UINT DLGC_WANTCHARS = 0x0080;
 
 // ShowWindow.
 inline constexpr int SW_HIDE = 0;

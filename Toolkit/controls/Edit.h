@@ -1,0 +1,34 @@
+// CEdit: the edit control as an object. Each operation is one message to the control.
+#pragma once
+
+#include "Toolkit/controls/EditMessages.h"
+#include "Toolkit/window/Wnd.h"
+
+class TOOLKIT_API CEdit : public CWnd
+{
+public:
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID);
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override; // names the control's class
+
+    // Positions count bytes of UTF-8.
+    void GetSel(int& nStart, int& nEnd) const;
+    void SetSel(int nStart, int nEnd, BOOL bNoScroll = FALSE); // 0, -1: all of it; unless told not to, shows the caret
+    void ScrollCaret() { SendMessage(EM_SCROLLCARET); }
+    void ReplaceSel(LPCSTR pszNew, BOOL bCanUndo = FALSE);
+    CPoint PosFromChar(UINT nChar) const { return CPoint(SendMessage(EM_POSFROMCHAR, nChar)); } // client
+    int CharFromPos(CPoint pt) const;
+
+    void LimitText(int nBytes = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nBytes)); }
+    UINT GetLimitText() const { return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT)); }
+    BOOL GetModify() const { return SendMessage(EM_GETMODIFY) != 0; } // since the text was last set
+    void SetModify(BOOL bModified = TRUE) { SendMessage(EM_SETMODIFY, static_cast<WPARAM>(bModified)); }
+    BOOL SetReadOnly(BOOL bReadOnly = TRUE) { return SendMessage(EM_SETREADONLY, static_cast<WPARAM>(bReadOnly)) != 0; }
+
+    BOOL CanUndo() const { return SendMessage(EM_CANUNDO) != 0; }
+    BOOL Undo() { return SendMessage(EM_UNDO) != 0; }
+    void EmptyUndoBuffer() { SendMessage(EM_EMPTYUNDOBUFFER); }
+    void Cut() { SendMessage(WM_CUT); }
+    void Copy() { SendMessage(WM_COPY); }
+    void Paste() { SendMessage(WM_PASTE); }
+    void Clear() { SendMessage(WM_CLEAR); } // the selection
+};
