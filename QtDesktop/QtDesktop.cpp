@@ -1,5 +1,6 @@
 #include "QtDesktop/QtDesktop.h"
 
+#include "QtDesktop/QtClipboard.h"
 #include "QtDesktop/QtMessageBox.h"
 #include "QtDesktop/QtTextEngine.h"
 #include "QtDesktop/QtWindow.h"
@@ -25,6 +26,7 @@ std::unique_ptr<QtTextEngine> MakeTextEngine()
 struct QtDesktop::Parts
 {
     QueuePump pump;
+    std::unique_ptr<QtClipboard> pClipboard = std::make_unique<QtClipboard>();
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
     std::map<HWND, std::unique_ptr<QtWindow>> windows;
     toolkit::Cursor cursor = toolkit::Cursor::Arrow;
@@ -43,6 +45,7 @@ QtDesktop::QtDesktop() : m_parts(std::make_unique<Parts>())
 
 QtDesktop::~QtDesktop()
 {
+    m_parts->pClipboard.reset(); // its data may look at the desktop when it goes
     toolkit::InstallDesktop(nullptr);
 }
 
@@ -112,6 +115,17 @@ void QtDesktop::ShowCursor(toolkit::Cursor cursor)
     m_parts->cursor = cursor;
     for (const auto& [hTop, pWindow] : m_parts->windows)
         pWindow->ShowShape(cursor);
+}
+
+void QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)
+{
+    if (m_parts->pClipboard)
+        m_parts->pClipboard->Publish(std::move(data));
+}
+
+std::shared_ptr<toolkit::OfferedData> QtDesktop::FetchClipboard()
+{
+    return m_parts->pClipboard ? m_parts->pClipboard->Fetch() : nullptr;
 }
 
 } // namespace qtdesktop

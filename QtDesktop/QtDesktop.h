@@ -37,6 +37,8 @@ public:
     void WakeFromThread() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(toolkit::Cursor cursor) override;
+    void PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;
+    std::shared_ptr<toolkit::OfferedData> FetchClipboard() override;
 
 private:
     struct Parts;

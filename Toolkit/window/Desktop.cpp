@@ -22,6 +22,8 @@ public:
     void WakeFromThread() override {}
     int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT) override { return IDCANCEL; }
     void ShowCursor(toolkit::Cursor) override {}
+    void PublishClipboard(std::shared_ptr<toolkit::OfferedData>) override {}
+    std::shared_ptr<toolkit::OfferedData> FetchClipboard() override { return nullptr; }
 };
 
 NoDesktop s_none;

@@ -7,8 +7,10 @@
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/graphics/TextEngine.h"
 #include "Toolkit/window/Messages.h"
+#include "Toolkit/window/OfferedData.h"
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace toolkit
@@ -46,6 +48,13 @@ public:
 
     virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
     virtual void ShowCursor(Cursor cursor) = 0;
+
+    // The clipboard. Publishing takes it from whoever has it, the program's own former data included, which is not
+    // told. The desktop holds the data as long as it is there, renders of it what others ask for, and calls its OnLost
+    // when another program takes the clipboard, or when the desktop itself goes.
+    virtual void PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
+    // What another program has there; NULL when it is empty or the program's own.
+    virtual std::shared_ptr<OfferedData> FetchClipboard() = 0;
 };
 
 TOOLKIT_API void InstallDesktop(Desktop* pDesktop); // borrowed; NULL takes it away, after the last window

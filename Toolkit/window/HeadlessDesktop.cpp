@@ -34,6 +34,7 @@ toolkit::HeadlessDesktop::HeadlessDesktop()
 
 toolkit::HeadlessDesktop::~HeadlessDesktop()
 {
+    LosePublished();
     InstallDesktop(nullptr);
 }
 

@@ -17,6 +17,8 @@
 namespace toolkit
 {
 
+using KindsAndBytes = std::vector<std::pair<std::string, std::string>>; // MIME types and what is rendered as them
+
 class TOOLKIT_API HeadlessDesktop : public Desktop
 {
 public:
@@ -51,6 +53,12 @@ public:
     void Answer(int nButton) { m_answers.push_back(nButton); }
     std::vector<std::string> TakeMessageBoxes();
 
+    // The clipboard as another program sees it: it takes it with data of its own, or leaves it empty, or asks for
+    // what the program under test has published.
+    void TakeClipboard(KindsAndBytes data);
+    std::string PublishedKinds(); // separated by spaces; "" when nothing is published
+    std::optional<std::string> ReadPublished(std::string_view kind);
+
     // The pixels of a window, border included, cut out of its top-level window after all painting is done.
     Surface Dump(HWND hWnd);
     CPoint CursorPos() const { return m_cursorPos; }
@@ -66,8 +74,11 @@ public:
     void WakeFromThread() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
+    void PublishClipboard(std::shared_ptr<OfferedData> data) override;
+    std::shared_ptr<OfferedData> FetchClipboard() override { return m_foreign; }
 
 private:
+    void LosePublished();
     void PutButton(HWND hWnd, CPoint at, MouseButton button, bool down);
 
     std::mutex m_mutex; // of m_bTaskPosted
@@ -82,6 +93,7 @@ private:
     Cursor m_cursor = Cursor::Arrow;
     std::deque<int> m_answers;
     std::vector<std::string> m_boxes;
+    std::shared_ptr<OfferedData> m_published, m_foreign; // one of them at most
 };
 
 } // namespace toolkit

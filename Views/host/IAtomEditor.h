@@ -1,12 +1,11 @@
 #pragma once
 
+#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/ole/DropEffect.h"
 #include "Views/host/IAEStateHandler.h"
 
 class CMenu;
 class IArchive;
-
-using DROPEFFECT = DWORD;
-using CLIPFORMAT = WORD;
 
 // Called with each active atom and the container it is in; FALSE refuses.
 using ACTIVEPAIRPROC = BOOL (*)(IAtom* pAtom, IAtomContainer* pContainer, void* pContext);

@@ -1,0 +1,30 @@
+// Data on its way between the toolkit and Qt: MIME types on both sides.
+#pragma once
+
+#include "Toolkit/window/OfferedData.h"
+
+#include <QMimeData>
+#include <memory>
+
+namespace qtdesktop
+{
+
+// The toolkit's data as Qt asks for it: rendered on request, each time anew.
+class OfferedMime : public QMimeData
+{
+public:
+    explicit OfferedMime(std::shared_ptr<toolkit::OfferedData> data) : m_data(std::move(data)) {}
+
+    const std::shared_ptr<toolkit::OfferedData>& GetData() const { return m_data; }
+
+    QStringList formats() const override;
+    bool hasFormat(const QString& mimeType) const override;
+
+protected:
+    QVariant retrieveData(const QString& mimeType, QMetaType type) const override;
+
+private:
+    const std::shared_ptr<toolkit::OfferedData> m_data;
+};
+
+} // namespace qtdesktop

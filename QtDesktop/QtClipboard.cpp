@@ -1,0 +1,76 @@
+#include "QtDesktop/QtClipboard.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <utility>
+
+namespace qtdesktop
+{
+namespace
+{
+
+// Asks the clipboard anew each time: what it hands out may be gone when Qt's event loop has run.
+class ClipboardOffer : public toolkit::OfferedData
+{
+public:
+    std::vector<std::string> GetKinds() override
+    {
+        std::vector<std::string> kinds;
+        if (const QMimeData* pMime = QGuiApplication::clipboard()->mimeData())
+            for (const QString& format : pMime->formats())
+                kinds.push_back(format.toStdString());
+        return kinds;
+    }
+
+    std::optional<std::string> Render(std::string_view kind) override
+    {
+        const QString format = QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
+        const QMimeData* pMime = QGuiApplication::clipboard()->mimeData();
+        if (!pMime || !pMime->hasFormat(format))
+            return std::nullopt;
+        return pMime->data(format).toStdString();
+    }
+};
+
+} // namespace
+
+QtClipboard::QtClipboard()
+{
+    connect(QGuiApplication::clipboard(), &QClipboard::dataChanged, this, &QtClipboard::OnChanged);
+}
+
+QtClipboard::~QtClipboard()
+{
+    if (m_mime && QGuiApplication::clipboard()->mimeData() == m_mime)
+        QGuiApplication::clipboard()->clear();
+    LosePublished();
+}
+
+void QtClipboard::Publish(std::shared_ptr<toolkit::OfferedData> data)
+{
+    const auto pMime = new OfferedMime(data);
+    m_mime = pMime;
+    m_published = std::move(data); // before the clipboard tells that it has changed
+    QGuiApplication::clipboard()->setMimeData(pMime);
+}
+
+std::shared_ptr<toolkit::OfferedData> QtClipboard::Fetch()
+{
+    auto offer = std::make_shared<ClipboardOffer>();
+    return m_published || offer->GetKinds().empty() ? nullptr : offer;
+}
+
+// The one sign of a new owner that every desktop gives.
+void QtClipboard::OnChanged()
+{
+    if (!m_mime || QGuiApplication::clipboard()->mimeData() != m_mime)
+        LosePublished();
+}
+
+void QtClipboard::LosePublished()
+{
+    if (const auto lost = std::exchange(m_published, nullptr))
+        lost->OnLost();
+}
+
+} // namespace qtdesktop

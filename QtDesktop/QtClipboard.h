@@ -1,0 +1,30 @@
+// The desktop's clipboard.
+#pragma once
+
+#include "QtDesktop/OfferedMime.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace qtdesktop
+{
+
+// What is published is lost when another program takes the clipboard, and when this object goes.
+class QtClipboard : public QObject
+{
+public:
+    QtClipboard();
+    ~QtClipboard() override;
+
+    void Publish(std::shared_ptr<toolkit::OfferedData> data);
+    std::shared_ptr<toolkit::OfferedData> Fetch(); // NULL when the clipboard is empty or holds what was published
+
+private:
+    void OnChanged();
+    void LosePublished();
+
+    std::shared_ptr<toolkit::OfferedData> m_published;
+    QPointer<OfferedMime> m_mime; // owned by the clipboard
+};
+
+} // namespace qtdesktop

@@ -1,0 +1,48 @@
+#include "Toolkit/ole/DataSource.h"
+
+#include "Toolkit/ole/Clipboard.h"
+#include "Toolkit/ole/DataCache.h"
+
+#include <utility>
+
+COleDataSource::COleDataSource() : m_cache(std::make_shared<toolkit::DataCache>()) {}
+
+COleDataSource::~COleDataSource()
+{
+    m_cache->Close();
+}
+
+COleDataSource* COleDataSource::GetClipboardOwner()
+{
+    return toolkit::ClipboardOwner();
+}
+
+void COleDataSource::CacheData(CLIPFORMAT cfFormat, STGMEDIUM* pMedium, FORMATETC* pFormat)
+{
+    m_cache->Put(pFormat && !cfFormat ? pFormat->cfFormat : cfFormat, *pMedium);
+    *pMedium = {};
+}
+
+void COleDataSource::CacheGlobalData(CLIPFORMAT cfFormat, HGLOBAL hGlobal, FORMATETC* pFormat)
+{
+    STGMEDIUM medium{};
+    medium.tymed = TYMED_HGLOBAL;
+    medium.hGlobal = hGlobal;
+    CacheData(cfFormat, &medium, pFormat);
+}
+
+void COleDataSource::Empty()
+{
+    m_cache->Empty();
+}
+
+void COleDataSource::SetClipboard()
+{
+    if (toolkit::ClipboardOwner() != this)
+        toolkit::OwnClipboard(std::unique_ptr<COleDataSource>(this), m_cache);
+}
+
+void COleDataSource::FlushClipboard()
+{
+    toolkit::FlushClipboard();
+}
