@@ -4,6 +4,7 @@
 #include "Editor/model/DisplayName.h"
 #include "Editor/model/ErrorInfo.h"
 #include "Editor/model/FileText.h"
+#include "Editor/model/LibraryContext.h"
 #include "Editor/model/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
 
@@ -47,6 +48,13 @@ std::string CMember::ShownName() const
 std::string CMember::Path() const
 {
     return Join(m_pContainer->Path(), Name());
+}
+
+std::string CMember::PathInLibrary() const
+{
+    const std::string path = Path();
+    const std::string inside = Join(Context().rootPath, {});
+    return path.starts_with(inside) ? path.substr(inside.size()) : std::string();
 }
 
 std::string CMember::ErrorLine() const

@@ -30,8 +30,9 @@ public:
     virtual std::string_view Name() const;                       // any bytes; valid until the container is read anew
     std::string ShownName() const;                               // valid UTF-8 in one line
     virtual std::string Path() const;                            // on disk
-    virtual std::string ErrorReason() const { return {}; }       // what is wrong with it; empty when nothing is known
-    std::string ErrorLine() const;                               // the name to it; empty without a reason
+    std::string PathInLibrary() const; // from the library on; empty for the library, and for what lies outside
+    virtual std::string ErrorReason() const { return {}; } // what is wrong with it; empty when nothing is known
+    std::string ErrorLine() const;                         // the name to it; empty without a reason
 
     void AddRef() override { ++m_nRefs; }
     void Release() override;

@@ -1,5 +1,6 @@
 #include "Editor/services/AtomEditor.h"
 
+#include "Editor/model/ErrorInfo.h"
 #include "Toolkit/window/WindowApi.h"
 
 namespace editor
@@ -42,6 +43,8 @@ void CAtomEditor::GetInterface(DWORD id, void** out)
     *out = id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
     if (*out)
         AddRef();
+    else if (id == IID_IMyErrorInfo && !m_archiveError.empty())
+        *out = CErrorInfo::Make(m_archiveError).Detach();
 }
 
 DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)

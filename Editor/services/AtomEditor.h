@@ -23,6 +23,9 @@ protected:
 //
 // What is selected is asked of one view: the one that has the focus, else the one that announced a selection
 // last. Owned by the application, which outlives every reference.
+//
+// The editor's own IMyErrorInfo tells what the last reading or writing of an archive came to grief over, also when
+// a container did not take an object that was read; there is none when all went well.
 class CAtomEditor final : public IAtomEditor
 {
 public:
@@ -37,6 +40,7 @@ public:
     void AddRef() override { ++m_nRefs; }
     void Release() override { --m_nRefs; }
     void GetInterface(DWORD id, void** out) override;
+    const std::string& GetArchiveError() const { return m_archiveError; } // the line of that error; empty without one
 
     DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
     void UnregisterHandler(DWORD cookie) override;
@@ -48,19 +52,23 @@ public:
     HWND GetMainWindow() override { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override; // stops at the first refusal
     DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
-    BOOL ReadArchive(ARCHIVEATOMPROC, IArchive*, void*) override { return FALSE; }
-    BOOL WriteActiveObjects(IArchive*) override { return FALSE; }
+    // All of the archive is checked before its first object is handed out.
+    BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
+    // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why.
+    BOOL WriteActiveObjects(IArchive* archive) override;
     CLIPFORMAT GetClipboardFormat() override { return 0; }
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:
     void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
     IAEStateHandler* FindSelectionSource() const;
+    BOOL NoteArchiveError(std::string line); // FALSE when there is one
 
     HandlerRegistry m_handlers;
     PaneFrame* m_pFrame = nullptr;
     CStubRef<IAtom> m_pActive;
     IAEStateHandler* m_pLastSender = nullptr; // of a selection; may have unregistered since
+    std::string m_archiveError;
     int m_nRefs = 0;
 };
 

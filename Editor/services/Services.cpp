@@ -1,7 +1,11 @@
 #include "Editor/services/Services.h"
 
+#include "Editor/archive/Archive.h"
+#include "Editor/archive/MemoryStream.h"
 #include "Editor/model/ErrorInfo.h"
 #include "Toolkit/window/MessageBox.h"
+
+#include <new>
 
 namespace editor
 {
@@ -10,6 +14,8 @@ namespace
 
 constexpr const char* kEditorService = "GetAtomEditorSv";
 constexpr const char* kErrorService = "ShowErrorSv";
+constexpr const char* kStreamService = "ConstructMemoryStream";
+constexpr const char* kArchiveClass = "CArchiveImp";
 
 } // namespace
 
@@ -17,17 +23,23 @@ Services::Services(CAtomEditor& editor)
 {
     static const SERVICETABLE editorTable{&GiveEditor};
     static const SERVICETABLE errorTable{&ShowError};
+    static const SERVICETABLE streamTable{&GiveMemoryStream};
     m_editor.pTable = &editorTable;
     m_editor.pEditor = &editor;
     m_errors.pTable = &errorTable;
     SRVN_InstallProvider(kEditorService, &m_editor);
     SRVN_InstallProvider(kErrorService, &m_errors);
+    m_streams.pTable = &streamTable;
+    SRVN_InstallProvider(kStreamService, &m_streams);
+    KRNL_RegisterClass(kArchiveClass, []() -> CStubBaseInterface* { return new (std::nothrow) CArchive; });
 }
 
 Services::~Services()
 {
     SRVN_InstallProvider(kEditorService, nullptr);
     SRVN_InstallProvider(kErrorService, nullptr);
+    SRVN_InstallProvider(kStreamService, nullptr);
+    KRNL_RegisterClass(kArchiveClass, nullptr);
 }
 
 BOOL Services::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD)
@@ -38,6 +50,14 @@ BOOL Services::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSiz
     pEditor->AddRef();
     *static_cast<IAtomEditor**>(pBuffer) = pEditor;
     return TRUE;
+}
+
+BOOL Services::GiveMemoryStream(SERVICEPROVIDER*, void* pBuffer, DWORD dwSize, DWORD)
+{
+    IMemoryStream* const pStream = dwSize == sizeof(IMemoryStream*) ? new (std::nothrow) CMemoryStream : nullptr;
+    if (pStream)
+        *static_cast<IMemoryStream**>(pBuffer) = pStream;
+    return pStream != nullptr;
 }
 
 BOOL Services::ShowError(SERVICEPROVIDER*, void* pBuffer, DWORD dwSize, DWORD)

@@ -7,7 +7,8 @@
 namespace editor
 {
 
-// Errors are shown in a message box: the caption, and the error's line.
+// Besides, "ConstructMemoryStream" and the class "CArchiveImp". Errors are shown in a message box: the caption, and the
+// error's line.
 class Services
 {
 public:
@@ -22,10 +23,12 @@ private:
         CAtomEditor* pEditor;
     };
     static BOOL GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    static BOOL GiveMemoryStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
     static BOOL ShowError(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
 
     EditorProvider m_editor;
     SERVICEPROVIDER m_errors;
+    SERVICEPROVIDER m_streams;
 };
 
 } // namespace editor

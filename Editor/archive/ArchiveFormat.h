@@ -1,0 +1,82 @@
+// What an archive's bytes mean, version 1.
+//
+// A header, then the objects, one record behind the other. Numbers are little-endian.
+//
+//   header   8  "AtomArch"
+//            4  version, 1
+//            4  number of objects
+//            8  length of all records, exactly what follows the header
+//            8  checksum of the 24 bytes before it and of all records
+//
+//   record   1  kind: 1 a file, 2 a folder, 3 a line of a phase
+//            1  0
+//            2  length of the name
+//            2  length of the origin
+//            2  0
+//            8  time of the last change, in nanoseconds since 1970
+//            8  device and
+//            8  inode of the original: is it still there, and is something inside it?
+//            4  length of the content
+//               name, origin, content
+//
+// A file's content is its bytes (a phase's: its lines), a folder's content is the records of what is in it, a line has
+// none. Names are single names, never paths, and an archive holds no symbolic links: what they lead to is carried
+// by content. The origin is the path of the object (of a line: of its picture) below its library; it is empty for what
+// is inside a folder. It is only ever looked up in the library that is pasted into, nothing is made at it.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+
+namespace editor
+{
+
+enum class RecordKind : std::uint8_t
+{
+    File = 1,
+    Folder = 2,
+    Link = 3
+};
+
+// Tells files and folders apart, whatever the paths that lead to them.
+struct FileIdentity
+{
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+};
+
+struct ArchiveRecord
+{
+    RecordKind kind = RecordKind::File;
+    std::int64_t changed = 0; // nanoseconds since 1970
+    FileIdentity identity;
+    std::string_view name, origin, content; // in the archive's bytes
+};
+
+inline constexpr std::string_view kArchiveMark = "AtomArch";
+inline constexpr std::uint32_t kArchiveVersion = 1;
+inline constexpr std::size_t kHeaderSize = 32;
+inline constexpr std::size_t kSummedHeader = 24; // its part that counts for the checksum
+inline constexpr std::size_t kRecordSize = 36;
+inline constexpr int kDeepestFolder = 200; // folders inside each other
+
+static_assert(std::endian::native == std::endian::little, "numbers are stored as they are in memory");
+
+// A number in a block of bytes, aligned or not.
+template <class Number>
+Number NumberAt(const char* pBytes)
+{
+    Number number;
+    std::memcpy(&number, pBytes, sizeof number);
+    return number;
+}
+template <class Number>
+void PutNumber(char* pBytes, Number number)
+{
+    std::memcpy(pBytes, &number, sizeof number);
+}
+
+} // namespace editor

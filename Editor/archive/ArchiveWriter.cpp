@@ -1,0 +1,202 @@
+#include "Editor/archive/ArchiveWriter.h"
+
+#include "Editor/archive/ArchiveReader.h"
+#include "Editor/model/DiskFile.h"
+#include "Editor/model/FileNames.h"
+#include "Editor/model/FileText.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <limits>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace editor
+{
+namespace
+{
+
+constexpr std::size_t kLargest = std::numeric_limits<DWORD>::max();
+
+std::int64_t Nanoseconds(const timespec& time)
+{
+    return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
+}
+
+std::string Because(std::string_view shown, const std::string& reason)
+{
+    return ToShown(shown) + ": " + reason;
+}
+
+} // namespace
+
+// A file or folder, opened for reading.
+class ArchiveWriter::Entry
+{
+public:
+    // What lies at `path` below the folder (AT_FDCWD: anywhere), and how a message names it.
+    Entry(int nFolder, const std::string& path, std::string shown) : m_shown(std::move(shown)), m_name(BaseName(path))
+    {
+        if (fstatat(nFolder, path.c_str(), &m_status, 0) != 0)
+            m_trouble = SystemErrorText(errno);
+        else if (!S_ISREG(m_status.st_mode) && !S_ISDIR(m_status.st_mode))
+            m_trouble = "neither a file nor a folder";
+        else if (m_fd = FileHandle(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+                 !m_fd || fstat(m_fd.Get(), &m_status) != 0)
+            m_trouble = SystemErrorText(errno);
+    }
+
+    std::string Trouble() const { return m_trouble.empty() ? NameTrouble(m_name) : m_trouble; }
+    const std::string& Shown() const { return m_shown; }
+    const std::string& Name() const { return m_name; }
+    bool IsFolder() const { return S_ISDIR(m_status.st_mode); }
+    FileIdentity Identity() const { return {m_status.st_dev, m_status.st_ino}; }
+    std::int64_t Changed() const { return Nanoseconds(m_status.st_mtim); }
+    std::uint64_t Size() const { return static_cast<std::uint64_t>(m_status.st_size); }
+    int Handle() const { return m_fd.Get(); }
+
+private:
+    const std::string m_shown;
+    const std::string m_name;
+    struct stat m_status = {};
+    FileHandle m_fd;
+    std::string m_trouble;
+};
+
+ArchiveWriter::ArchiveWriter(IByteStream& stream) : m_stream(stream)
+{
+    m_stream.Seek(0, 0);
+    m_stream.SetEnd();
+}
+
+std::string ArchiveWriter::AddPath(const std::string& path, std::string_view origin)
+{
+    ++m_nObjects;
+    return AddEntry(Entry(AT_FDCWD, path, std::string(BaseName(path))), origin);
+}
+
+std::string ArchiveWriter::AddLink(std::string_view name, const std::string& path, std::string_view origin)
+{
+    ++m_nObjects;
+    const Entry picture(AT_FDCWD, path, std::string(name));
+    if (const std::string trouble = picture.Trouble(); !trouble.empty())
+        return Fail(Because(name, trouble));
+    return AddHeader(RecordKind::Link, name, picture, origin);
+}
+
+std::string ArchiveWriter::Finish()
+{
+    if (m_nLength == 0)
+        if (std::string error = Grow(kHeaderSize); !error.empty())
+            return error;
+    char* const pHeader = Data();
+    std::copy(kArchiveMark.begin(), kArchiveMark.end(), pHeader);
+    PutNumber<std::uint32_t>(pHeader + 8, kArchiveVersion);
+    PutNumber<std::uint32_t>(pHeader + 12, m_nObjects);
+    PutNumber<std::uint64_t>(pHeader + 16, m_nLength - kHeaderSize);
+    PutNumber<std::uint64_t>(pHeader + kSummedHeader, ChecksumOfArchive({pHeader, m_nLength}));
+    return {};
+}
+
+std::string ArchiveWriter::AddEntry(const Entry& entry, std::string_view origin)
+{
+    if (const std::string trouble = entry.Trouble(); !trouble.empty())
+        return Fail(Because(entry.Shown(), trouble));
+    return entry.IsFolder() ? AddFolder(entry, origin) : AddFile(entry, origin);
+}
+
+// A file that is being written to meanwhile is carried as far as it went when it was opened.
+std::string ArchiveWriter::AddFile(const Entry& entry, std::string_view origin)
+{
+    if (entry.Size() > kLargest)
+        return Fail(Because(entry.Shown(), "too large to be carried"));
+    std::string error = AddHeader(RecordKind::File, entry.Name(), entry, origin);
+    const std::size_t at = m_nLength;
+    if (error.empty())
+        error = Grow(entry.Size());
+    if (!error.empty())
+        return error;
+    std::size_t done = 0;
+    while (done < entry.Size()) {
+        const ssize_t got = read(entry.Handle(), Data() + at + done, entry.Size() - done);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return Fail(Because(entry.Shown(), SystemErrorText(errno)));
+        if (got == 0)
+            return Fail(Because(entry.Shown(), "became shorter while it was read"));
+        done += static_cast<std::size_t>(got);
+    }
+    PutNumber<std::uint32_t>(Data() + at - entry.Name().size() - origin.size() - 4, static_cast<std::uint32_t>(done));
+    return {};
+}
+
+std::string ArchiveWriter::AddFolder(const Entry& entry, std::string_view origin)
+{
+    if (std::find(m_within.begin(), m_within.end(), entry.Identity()) != m_within.end())
+        return Fail(Because(entry.Shown(), "a link to a folder that holds it"));
+    if (m_within.size() + 1 >= kDeepestFolder)
+        return Fail(Because(entry.Shown(), "too many folders inside each other"));
+    std::string error = AddHeader(RecordKind::Folder, entry.Name(), entry, origin);
+    const std::size_t at = m_nLength;
+    m_within.push_back(entry.Identity());
+    if (error.empty())
+        error = AddMembers(entry);
+    m_within.pop_back();
+    if (error.empty())
+        PutNumber<std::uint32_t>(Data() + at - entry.Name().size() - origin.size() - 4,
+                                 static_cast<std::uint32_t>(m_nLength - at));
+    return error;
+}
+
+std::string ArchiveWriter::AddMembers(const Entry& folder)
+{
+    std::vector<std::string> names;
+    if (const int error = ReadNames(folder.Handle(), names); error != 0)
+        return Fail(Because(folder.Shown(), SystemErrorText(error)));
+    std::sort(names.begin(), names.end());
+    for (const std::string& name : names)
+        if (std::string error = AddEntry(Entry(folder.Handle(), name, folder.Shown() + '/' + name), {}); !error.empty())
+            return error;
+    return {};
+}
+
+std::string ArchiveWriter::AddHeader(RecordKind kind, std::string_view name, const Entry& entry,
+                                     std::string_view origin)
+{
+    const std::size_t at = m_nLength == 0 ? kHeaderSize : m_nLength;
+    if (std::string error = Grow(at - m_nLength + kRecordSize + name.size() + origin.size()); !error.empty())
+        return error;
+    char* const p = Data() + at;
+    std::memset(p, 0, kRecordSize);
+    PutNumber<std::uint8_t>(p, static_cast<std::uint8_t>(kind));
+    PutNumber<std::uint16_t>(p + 2, static_cast<std::uint16_t>(name.size()));
+    PutNumber<std::uint16_t>(p + 4, static_cast<std::uint16_t>(origin.size()));
+    PutNumber<std::int64_t>(p + 8, entry.Changed());
+    PutNumber<std::uint64_t>(p + 16, entry.Identity().device);
+    PutNumber<std::uint64_t>(p + 24, entry.Identity().inode);
+    std::copy(origin.begin(), origin.end(), std::copy(name.begin(), name.end(), p + kRecordSize));
+    return {};
+}
+
+std::string ArchiveWriter::Grow(std::size_t bytes)
+{
+    if (bytes > kLargest - m_nLength)
+        return Fail("More than 4 GB cannot be carried at once.");
+    m_nLength += bytes;
+    m_stream.Seek(static_cast<DWORD>(m_nLength), 0);
+    m_stream.SetEnd();
+    return Data() && m_stream.GetLength() == m_nLength ? std::string()
+                                                       : Fail("There is not enough memory for that much at once.");
+}
+
+std::string ArchiveWriter::Fail(std::string line)
+{
+    m_nLength = 0;
+    m_stream.Seek(0, 0);
+    m_stream.SetEnd();
+    return line;
+}
+
+} // namespace editor

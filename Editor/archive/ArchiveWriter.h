@@ -1,0 +1,49 @@
+// Writing archives: files and folders as they are on the disk at this moment.
+#pragma once
+
+#include "Editor/archive/ArchiveFormat.h"
+#include "Views/host/host.h"
+
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+// Replaces what the stream holds. The objects come one after the other; Finish makes the whole an archive. Every
+// operation answers with nothing when it went well, and else with one line that names the file and the reason: then
+// nothing can be added any more and the stream is empty.
+//
+// Files are read straight into the stream; besides it, memory is taken for the names of one folder at a time and of
+// those it is in.
+class ArchiveWriter
+{
+public:
+    explicit ArchiveWriter(IByteStream& stream); // borrowed
+
+    // A file or a folder with everything in it, hidden files too; links are followed. A folder in which something
+    // cannot be carried (a pipe, a link that leads nowhere or to a folder that holds it) is not carried at all.
+    std::string AddPath(const std::string& path, std::string_view origin);
+    // A line of a phase, for the picture at that path.
+    std::string AddLink(std::string_view name, const std::string& path, std::string_view origin);
+    std::string Finish();
+
+private:
+    class Entry;
+
+    std::string AddEntry(const Entry& entry, std::string_view origin);
+    std::string AddFile(const Entry& entry, std::string_view origin);
+    std::string AddFolder(const Entry& entry, std::string_view origin);
+    std::string AddMembers(const Entry& folder);
+    std::string AddHeader(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin);
+    std::string Grow(std::size_t bytes); // and see to it that they can be written to
+    std::string Fail(std::string line);
+    char* Data() { return static_cast<char*>(m_stream.GetData()); }
+
+    IByteStream& m_stream;
+    std::size_t m_nLength = 0; // of the stream
+    std::uint32_t m_nObjects = 0;
+    std::vector<FileIdentity> m_within; // the folders that are being written, the outermost first
+};
+
+} // namespace editor

@@ -1,0 +1,44 @@
+// An object that has been read from an archive: what a container is asked to take.
+#pragma once
+
+#include "Editor/archive/ArchiveFormat.h"
+#include "Views/host/host.h"
+
+#include <string>
+
+namespace editor
+{
+
+// In no container, with nothing but a name. It keeps its archive alive, and is good for as long as the archive's bytes
+// stay as they are.
+class CArchivedAtom final : public IAtom
+{
+public:
+    CArchivedAtom(IArchive* pArchive, const ArchiveRecord& record); // with one reference
+
+    // The object behind an atom, borrowed; NULL for one that was not read from an archive.
+    static CArchivedAtom* Of(IAtom* pAtom) { return dynamic_cast<CArchivedAtom*>(pAtom); }
+
+    const ArchiveRecord& Record() const { return m_record; }
+    const std::string& Failure() const { return m_failure; } // why no container took it; empty when one did
+    void SetFailure(std::string line) { m_failure = std::move(line); }
+
+    void AddRef() override { ++m_nRefs; }
+    void Release() override;
+    void GetInterface(DWORD id, void** out) override;
+
+    DWORD GetID() override { return 0; }
+    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
+    BOOL IsModified() override { return FALSE; }
+
+private:
+    ~CArchivedAtom();
+
+    const CStubRef<IArchive> m_pArchive;
+    const ArchiveRecord m_record;
+    std::string m_failure;
+    int m_nRefs = 1;
+};
+
+} // namespace editor

@@ -1,0 +1,67 @@
+#include "Editor/model/DiskFile.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <dirent.h>
+#include <fcntl.h>
+#include <memory>
+#include <sys/stat.h>
+
+namespace editor
+{
+namespace
+{
+
+// For file systems that cannot rename without replacing. A second name for a file never replaces one; a folder has
+// no second name: there, somebody else's may appear between the look and the renaming, and only an empty one goes.
+int RenameWithCare(int nFrom, const char* pszFrom, int nTo, const char* pszTo)
+{
+    struct stat status;
+    if (fstatat(nTo, pszTo, &status, AT_SYMLINK_NOFOLLOW) == 0)
+        return EEXIST;
+    if (linkat(nFrom, pszFrom, nTo, pszTo, 0) == 0)
+        return unlinkat(nFrom, pszFrom, 0) == 0 ? 0 : errno;
+    if (errno == EEXIST)
+        return EEXIST;
+    return renameat(nFrom, pszFrom, nTo, pszTo) == 0 ? 0 : errno;
+}
+
+} // namespace
+
+int ReadNames(int nFolder, std::vector<std::string>& names)
+{
+    const int fd = openat(nFolder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); // with a position of its own
+    const std::unique_ptr<DIR, int (*)(DIR*)> pDir(fd < 0 ? nullptr : fdopendir(fd), &closedir);
+    if (!pDir)
+        return errno;
+    for (errno = 0; const dirent* const pEntry = readdir(pDir.get()); errno = 0) {
+        const std::string_view name = pEntry->d_name;
+        if (name != "." && name != "..")
+            names.emplace_back(name);
+    }
+    return errno;
+}
+
+int WriteAll(int fd, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t done = write(fd, bytes.data(), bytes.size());
+        if (done < 0 && errno != EINTR)
+            return errno;
+        if (done == 0)
+            return ENOSPC;
+        bytes.remove_prefix(done < 0 ? 0 : static_cast<std::size_t>(done));
+    }
+    return 0;
+}
+
+int RenameWithoutReplacing(int nFrom, const std::string& from, int nTo, const std::string& to)
+{
+    if (renameat2(nFrom, from.c_str(), nTo, to.c_str(), RENAME_NOREPLACE) == 0)
+        return 0;
+    if (errno != EINVAL && errno != ENOSYS)
+        return errno;
+    return RenameWithCare(nFrom, from.c_str(), nTo, to.c_str());
+}
+
+} // namespace editor

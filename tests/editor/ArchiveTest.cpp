@@ -1,0 +1,198 @@
+#include "Editor/archive/ArchiveReader.h"
+#include "Kernel/Kernel.h"
+#include "tests/editor/ArchiveFixture.h"
+
+#include <sys/stat.h>
+
+namespace
+{
+
+using editor::RecordKind;
+
+std::string Record(RecordKind kind, const std::string& name, const std::string& content = {},
+                   const std::string& origin = {})
+{
+    std::string bytes(editor::kRecordSize, '\0');
+    editor::PutNumber(bytes.data(), static_cast<std::uint8_t>(kind));
+    editor::PutNumber(bytes.data() + 2, static_cast<std::uint16_t>(name.size()));
+    editor::PutNumber(bytes.data() + 4, static_cast<std::uint16_t>(origin.size()));
+    editor::PutNumber(bytes.data() + 32, static_cast<std::uint32_t>(content.size()));
+    return bytes + name + origin + content;
+}
+
+// A whole archive with a checksum that fits.
+std::string Sealed(const std::string& records, std::uint32_t nObjects = 1)
+{
+    std::string bytes(editor::kHeaderSize, '\0');
+    bytes.replace(0, 8, editor::kArchiveMark);
+    editor::PutNumber(bytes.data() + 8, editor::kArchiveVersion);
+    editor::PutNumber(bytes.data() + 12, nObjects);
+    editor::PutNumber(bytes.data() + 16, static_cast<std::uint64_t>(records.size()));
+    bytes += records;
+    editor::PutNumber(bytes.data() + 24, editor::ChecksumOfArchive(bytes));
+    return bytes;
+}
+
+TEST_F(ArchiveTest, WhatTheHostIsAskedForByNameIsAnArchiveOverAStream)
+{
+    const auto pKernel = CStubRef<IKernel>::Adopt(KRNL_GetKernel());
+    CStubRef<IArchive> pArchive;
+    ASSERT_TRUE(pKernel->CreateObject("CArchiveImp", pArchive.Receive(), IID_IArchive));
+    EXPECT_EQ(nullptr, pArchive->GetData()) << "without a stream";
+    CStubRef<IMemoryStream> pStream;
+    ASSERT_TRUE(CallService(SRVN_GetUniqueServiceID("ConstructMemoryStream"), pStream.Receive(), sizeof(void*), 0));
+    pArchive->SetStream(pStream.Get());
+
+    EXPECT_NE(nullptr, pArchive->GetData()) << "an empty stream has a block";
+    EXPECT_EQ(0u, pArchive->GetLength());
+    pArchive->Seek(200'000, 0);
+    pArchive->SetEnd();
+    auto* pBytes = static_cast<char*>(pStream->GetData());
+    pBytes[199'999] = 'x';
+    for (const DWORD length : {10'000'000u, 100u, 200'000u}) {
+        pArchive->Seek(length, 0);
+        pArchive->SetEnd();
+        EXPECT_EQ(length, pStream->GetLength());
+    }
+    EXPECT_EQ('\0', static_cast<char*>(pArchive->GetData())[199'999]) << "what was cut off does not come back";
+    pStream.Release();
+    EXPECT_EQ(200'000u, pArchive->GetLength()) << "the archive holds its stream";
+}
+
+TEST_F(ArchiveTest, SelectedObjectsAreReadBackInTheirOrder)
+{
+    folder.WriteBmp("b.bmp");
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.Write("walk.phase", "b.bmp\n");
+    folder.Write("empty.bmp", "");
+    folder.WriteBmp("Zo\xC3\xAB \xEB\n.bmp");
+    Open();
+
+    const auto pArchive = Copy(Library(), {"walk.phase", "Zo\xC3\xAB \xEB\n.bmp", "Ada", "empty.bmp", "b.bmp"});
+    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive.Get()));
+    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive.Get())) << "again from the start";
+    EXPECT_EQ("Nothing is selected.", CopyError(Library(), {}));
+}
+
+TEST_F(ArchiveTest, EveryCutAndEveryChangedBitIsRefused)
+{
+    folder.Write("a.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");
+    Open();
+    const std::string whole = BytesOf(Copy(Library(), {"a.bmp"}).Get());
+    ASSERT_EQ("[a.bmp]", Read(whole));
+
+    for (std::size_t length = 0; length < whole.size(); ++length)
+        EXPECT_EQ('!', Read(std::string_view(whole).substr(0, length))[0]) << "cut after " << length;
+    for (std::size_t bit = 0; bit < whole.size() * 8; ++bit) {
+        std::string damaged = whole;
+        damaged[bit / 8] = static_cast<char>(damaged[bit / 8] ^ 1 << bit % 8);
+        EXPECT_EQ('!', Read(damaged)[0]) << "bit " << bit;
+    }
+    EXPECT_EQ("! The objects cannot be read: the archive is not complete.", Read(whole + '\0'));
+    std::string damaged = whole;
+    damaged.back() = '!';
+    EXPECT_EQ("! The objects cannot be read: the archive is damaged.", Read(damaged));
+    EXPECT_EQ("! The objects cannot be read: not an archive of objects.", Read("GIF89a"));
+}
+
+TEST_F(ArchiveTest, NoNameOfAnArchiveLeadsOutOfTheFolder)
+{
+    ASSERT_EQ("[a]", Read(Sealed(Record(RecordKind::File, "a", "content", "Ada/a"))));
+    ASSERT_EQ("[Ada]", Read(Sealed(Record(RecordKind::Folder, "Ada", Record(RecordKind::File, "a")))));
+
+    const std::string names[] = {"",
+                                 ".",
+                                 "..",
+                                 "../a",
+                                 "/etc/passwd",
+                                 "a/b",
+                                 "a/",
+                                 "a\\b",
+                                 "C:\\x",
+                                 "con",
+                                 "NUL.bmp",
+                                 "Com1 .x.y",
+                                 "aux",
+                                 "LPT9",
+                                 std::string("a\0b", 3),
+                                 std::string(256, 'a')};
+    for (const std::string& name : names) {
+        const std::string record = Record(RecordKind::File, name);
+        EXPECT_EQ("! The objects cannot be read: the archive holds what no archive holds.", Read(Sealed(record)))
+            << name;
+        EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Folder, "Ada", record)))[0]) << name;
+    }
+    for (const char* const pszOrigin : {"/etc/passwd", "../a", "a/../../b", "a//b", "a/", "./a"})
+        EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Link, "a", {}, pszOrigin)))[0]) << pszOrigin;
+}
+
+TEST_F(ArchiveTest, RecordsThatDoNotFitTheirArchiveAreRefused)
+{
+    const std::string file = Record(RecordKind::File, "a", "content");
+    EXPECT_EQ("[]", Read(Sealed({}, 0)));
+    EXPECT_EQ('!', Read(Sealed(file, 2))[0]) << "one is missing";
+    EXPECT_EQ('!', Read(Sealed(file + file, 1))[0]) << "one too many";
+    EXPECT_EQ('!', Read(Sealed(file + "x", 1))[0]);
+    EXPECT_EQ('!', Read(Sealed(Record(static_cast<RecordKind>(4), "a")))[0]);
+    EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Link, "a", "content")))[0]);
+    EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Folder, "Ada", Record(RecordKind::Link, "a"))))[0]);
+    std::string huge = file;
+    editor::PutNumber<std::uint32_t>(huge.data() + 32, 0xFFFFFFFF);
+    EXPECT_EQ('!', Read(Sealed(huge))[0]);
+
+    std::string deep = file;
+    for (int i = 0; i < editor::kDeepestFolder; ++i)
+        deep = Record(RecordKind::Folder, "d", deep);
+    EXPECT_EQ('!', Read(Sealed(deep))[0]);
+}
+
+TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarried)
+{
+    folder.WriteBmp("a.bmp");
+    folder.WriteBmp("gone.bmp");
+    folder.WriteBmp("con.bmp");
+    folder.MakeFolder("Ada/Poses");
+    folder.MakeFolder("Bo");
+    folder.Link("Bo/self", ".");
+    mkfifo(folder.At("Ada/Poses/pipe").c_str(), 0600);
+    Open();
+
+    EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder", CopyError(Library(), {"a.bmp", "Ada"}));
+    EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError(Library(), {"Bo"}));
+    EXPECT_EQ("con.bmp: the name stands for a device on other systems", CopyError(Library(), {"con.bmp"}));
+    const auto pGone = Find(Library(), "gone.bmp");
+    folder.Remove("gone.bmp");
+    Copy({pGone.Get()});
+    EXPECT_EQ("gone.bmp: no such file or directory", editor.GetArchiveError());
+    EXPECT_EQ("", CopyError(Library(), {"a.bmp"}));
+    EXPECT_FALSE(CStubRef<IMyErrorInfo>::From(&editor));
+}
+
+TEST_F(ArchiveTest, AnObjectIsLentToACallbackWithAContextAndGivenToOneWithout)
+{
+    folder.WriteBmp("a.bmp");
+    folder.WriteBmp("b.bmp");
+    Open();
+    const auto pArchive = Copy(Library(), {"a.bmp", "b.bmp"});
+    std::vector<CStubRef<IAtom>> kept;
+
+    EXPECT_TRUE(editor.ReadArchive(
+        [](IAtom* pAtom, void* pKept) -> BOOL {
+            static_cast<std::vector<CStubRef<IAtom>>*>(pKept)->push_back(CStubRef<IAtom>::Share(pAtom));
+            return TRUE;
+        },
+        pArchive.Get(), &kept));
+    EXPECT_EQ("b.bmp", Name(kept.at(1).Get()));
+    EXPECT_TRUE(editor.ReadArchive(
+        [](IAtom* pAtom, void*) -> BOOL {
+            CStubRef<IAtom>::Adopt(pAtom).Release();
+            return TRUE;
+        },
+        pArchive.Get(), nullptr));
+    int nCalls = 0;
+    EXPECT_FALSE(editor.ReadArchive([](IAtom*, void* p) -> BOOL { return ++*static_cast<int*>(p) < 1; }, pArchive.Get(),
+                                    &nCalls));
+    EXPECT_EQ(1, nCalls) << "nothing is read after a refusal";
+}
+
+} // namespace
