@@ -10,6 +10,7 @@
 #include "Toolkit/controls/RowStates.h"
 #include "Toolkit/controls/RubberBand.h"
 #include "Toolkit/graphics/ImageList.h"
+#include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/NativeWindow.h"
 
 #include <optional>
@@ -24,6 +25,7 @@ public:
     explicit ListControl(HWND hWnd) : NativeWindow(hWnd) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
     // From the tracker, which holds the capture while a button is down. Client coordinates.
     void TrackMove(CPoint at);

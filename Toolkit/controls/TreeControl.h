@@ -8,6 +8,7 @@
 #include "Toolkit/controls/TreeItems.h"
 #include "Toolkit/controls/TreeLayout.h"
 #include "Toolkit/graphics/ImageList.h"
+#include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/NativeWindow.h"
 
 #include <optional>
@@ -22,6 +23,7 @@ public:
     explicit TreeControl(HWND hWnd) : NativeWindow(hWnd) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
 private:
     using Handler = LRESULT (TreeControl::*)(WPARAM, LPARAM);

@@ -5,6 +5,7 @@
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/graphics/TextEngine.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace toolkit
@@ -42,14 +43,29 @@ public:
     void VisitVisible(const CRect& rect, Draw draw) const
     {
         for (const CRect& clip : m_state.clip.Rects()) {
-            const CRect part = ((clip & m_pTarget->Bounds()) - m_state.origin) & rect;
-            if (!part.IsRectEmpty())
-                draw(part + m_state.origin);
+            const CRect part = VisiblePart(clip, rect);
+            if (part.IsRectEmpty())
+                continue;
+            m_bDrawnOn = true;
+            draw(part + m_state.origin);
         }
     }
+    bool IsVisible(const CRect& rect) const // would VisitVisible call draw?
+    {
+        const std::vector<CRect>& clips = m_state.clip.Rects();
+        return std::any_of(clips.begin(), clips.end(),
+                           [&](const CRect& clip) { return !VisiblePart(clip, rect).IsRectEmpty(); });
+    }
+    bool IsDrawnOn() const { return m_bDrawnOn; } // has anything been drawn through this device context?
 
 private:
+    CRect VisiblePart(const CRect& clip, const CRect& rect) const
+    {
+        return ((clip & m_pTarget->Bounds()) - m_state.origin) & rect;
+    }
+
     Surface* m_pTarget;
+    mutable bool m_bDrawnOn = false;
     HBITMAP m_hSelected = nullptr;
     HBITMAP m_hOwn = nullptr;
     DrawState m_state;

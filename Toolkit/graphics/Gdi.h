@@ -14,7 +14,7 @@ TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy); // black; N
 TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap);   // FALSE, too, while it is selected into a device context
 TOOLKIT_API CSize GetBitmapSize(HBITMAP hBitmap); // 0 by 0 for no bitmap
 
-// Brushes: one colour.
+// Brushes: one colour. Drawing takes for a brush also a system colour's index plus 1.
 TOOLKIT_API HBRUSH CreateSolidBrush(COLORREF color);
 TOOLKIT_API BOOL DeleteBrush(HBRUSH hBrush);
 
@@ -82,6 +82,7 @@ namespace toolkit
 // A device context that draws into a surface someone else keeps, shifted to `origin` and only inside `clip`
 // (both in the surface's coordinates). The surface must outlive it. DeleteDC ends it.
 TOOLKIT_API HDC CreateSurfaceDC(Surface& target, CPoint origin, Region clip);
+TOOLKIT_API bool IsDrawnOn(HDC hdc); // has anything come through its clip since it was made?
 
 // Draws a part of a picture by its alpha, the part's top left corner at `at`.
 TOOLKIT_API BOOL DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part);

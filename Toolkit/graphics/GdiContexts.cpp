@@ -14,6 +14,12 @@ HDC toolkit::CreateSurfaceDC(Surface& target, CPoint origin, Region clip)
     return AllGdiObjects().contexts.Add(std::make_unique<DeviceContext>(target, origin, std::move(clip)));
 }
 
+bool toolkit::IsDrawnOn(HDC hdc)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    return pContext && pContext->IsDrawnOn();
+}
+
 HDC CreateCompatibleDC(HDC hdc)
 {
     if (hdc && !FindContext(hdc))
@@ -96,11 +102,7 @@ BOOL ExcludeClipRect(HDC hdc, const RECT& rect)
 BOOL RectVisible(HDC hdc, const RECT& rect)
 {
     const DeviceContext* pContext = FindContext(hdc);
-    if (!pContext)
-        return FALSE;
-    bool bVisible = false;
-    pContext->VisitVisible(rect, [&bVisible](const CRect&) { bVisible = true; });
-    return bVisible;
+    return pContext && pContext->IsVisible(rect);
 }
 
 int SaveDC(HDC hdc)

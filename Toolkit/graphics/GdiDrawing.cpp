@@ -2,6 +2,9 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/GdiObjects.h"
 #include "Toolkit/graphics/Pixels.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <optional>
 
 using toolkit::AllGdiObjects;
 using toolkit::DeviceContext;
@@ -52,6 +55,17 @@ void VisitPictureRows(const DeviceContext& context, CPoint at, const Surface& pi
     });
 }
 
+// A handle is never so small as a system colour's index.
+std::optional<COLORREF> ColorOf(HBRUSH hBrush)
+{
+    constexpr UINT_PTR kMostColors = 256;
+    const auto index = reinterpret_cast<UINT_PTR>(hBrush);
+    if (index > 0 && index <= kMostColors)
+        return GetSysColor(static_cast<int>(index) - 1);
+    const toolkit::Brush* pBrush = AllGdiObjects().brushes.Find(hBrush);
+    return pBrush ? std::optional(pBrush->color) : std::nullopt;
+}
+
 // The outermost pixels of a rectangle, none of them twice.
 std::vector<CRect> EdgeOf(const CRect& rect)
 {
@@ -83,8 +97,8 @@ BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color)
 
 BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush)
 {
-    const toolkit::Brush* pBrush = AllGdiObjects().brushes.Find(hBrush);
-    return pBrush && FillSolidRect(hdc, rect, pBrush->color);
+    const std::optional<COLORREF> color = ColorOf(hBrush);
+    return color && FillSolidRect(hdc, rect, *color);
 }
 
 BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha)
@@ -99,11 +113,11 @@ BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha)
 
 BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush)
 {
-    const toolkit::Brush* pBrush = AllGdiObjects().brushes.Find(hBrush);
-    if (!pBrush || !FindContext(hdc))
+    const std::optional<COLORREF> color = ColorOf(hBrush);
+    if (!color || !FindContext(hdc))
         return FALSE;
     for (const CRect& side : EdgeOf(rect))
-        FillSolidRect(hdc, side, pBrush->color);
+        FillSolidRect(hdc, side, *color);
     return TRUE;
 }
 

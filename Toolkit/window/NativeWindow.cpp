@@ -47,3 +47,12 @@ LRESULT toolkit::NativeWindow::Notify(UINT code, NMHDR& header) const
     header = {m_hWnd, pWindow->nID, code};
     return CallWindow(*pWindow->pParent, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
+
+// A handle has 32 bits, whatever the width of a pointer.
+DWORD GetClassLong(HWND hWnd, int nIndex)
+{
+    const toolkit::NativeWindow* pNative = toolkit::FindNativeWindow(hWnd);
+    if (!pNative || nIndex != GCL_HBRBACKGROUND)
+        return 0;
+    return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(pNative->ClassBackground()));
+}

@@ -21,6 +21,7 @@ public:
     NativeWindow& operator=(const NativeWindow&) = delete;
 
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0; // ends in ::DefWindowProc
+    virtual HBRUSH ClassBackground() const { return nullptr; } // what GetClassLong tells; nobody's to delete
 
 protected:
     // Sends WM_NOTIFY to the parent, which reflects it; fills in the header's window and identifier. The

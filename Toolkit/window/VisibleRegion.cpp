@@ -28,19 +28,30 @@ void CutToSurroundings(const WindowRecord& window, Region& region)
     }
     region.Intersect(toolkit::WindowArea(*p));
 }
+
+// What is seen of an area of the window, client or whole.
+Region VisibleArea(const WindowRecord& window, const CRect& area, toolkit::Children children)
+{
+    if (!toolkit::IsShown(window))
+        return {};
+    Region region(area);
+    CutToSurroundings(window, region);
+    if (children == toolkit::Children::CutOut || window.Is(WS_CLIPCHILDREN))
+        for (const WindowRecord* pChild : window.children)
+            if (pChild->Is(WS_VISIBLE))
+                region.Subtract(toolkit::WindowArea(*pChild));
+    return region;
+}
 } // namespace
 
 toolkit::Region toolkit::VisibleClient(const WindowRecord& window, Children children)
 {
-    if (!IsShown(window))
-        return {};
-    Region region(ClientArea(window));
-    CutToSurroundings(window, region);
-    if (children == Children::CutOut || window.Is(WS_CLIPCHILDREN))
-        for (const WindowRecord* pChild : window.children)
-            if (pChild->Is(WS_VISIBLE))
-                region.Subtract(WindowArea(*pChild));
-    return region;
+    return VisibleArea(window, ClientArea(window), children);
+}
+
+toolkit::Region toolkit::VisibleWindow(const WindowRecord& window, Children children)
+{
+    return VisibleArea(window, WindowArea(window), children);
 }
 
 toolkit::Region toolkit::VisibleFrame(const WindowRecord& window)

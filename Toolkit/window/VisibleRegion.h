@@ -12,6 +12,7 @@ enum class Children
 };
 
 Region VisibleClient(const WindowRecord& window, Children children);
+Region VisibleWindow(const WindowRecord& window, Children children); // client and border
 Region VisibleFrame(const WindowRecord& window);
 
 // The common part, exact: regions of any number of rectangles.

@@ -22,6 +22,8 @@ TOOLKIT_API HWND GetTopLevel(HWND hWnd); // the window itself when it has no par
 TOOLKIT_API UINT GetDlgCtrlID(HWND hWnd);
 TOOLKIT_API DWORD GetWindowStyle(HWND hWnd);
 TOOLKIT_API DWORD GetWindowExStyle(HWND hWnd);
+inline constexpr int GCL_HBRBACKGROUND = -10;          // the background's brush; 0 for a class without one
+TOOLKIT_API DWORD GetClassLong(HWND hWnd, int nIndex); // of the window's class; 0 for an index not known here
 TOOLKIT_API BOOL ModifyStyle(HWND hWnd, DWORD remove, DWORD add); // WM_STYLECHANGED when it changes
 TOOLKIT_API BOOL GetWindowRect(HWND hWnd, RECT* pRect);           // screen
 TOOLKIT_API BOOL GetClientRect(HWND hWnd, RECT* pRect);           // left and top are 0
@@ -66,7 +68,8 @@ TOOLKIT_API BOOL UpdateWindow(HWND hWnd);
 TOOLKIT_API BOOL LockWindowUpdate(HWND hWnd); // one window at a time, FALSE when another holds it; NULL lets go
 // Moves the client area's pixels by dx, dy and invalidates what came into sight. What was noted moves along.
 TOOLKIT_API BOOL ScrollWindow(HWND hWnd, int dx, int dy);
-TOOLKIT_API HDC GetDC(HWND hWnd); // draws on the client area at once; give it back
+TOOLKIT_API HDC GetDC(HWND hWnd);       // draws on the client area at once; give it back
+TOOLKIT_API HDC GetWindowDC(HWND hWnd); // the same on the whole window, its border included
 TOOLKIT_API int ReleaseDC(HWND hWnd, HDC hdc);
 
 // Scroll bars, shown on the window's edge while page is smaller than the range. The position is kept in range.

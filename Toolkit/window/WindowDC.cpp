@@ -46,9 +46,11 @@ bool toolkit::CloseWindowDC(HWND hWnd, HDC hdc)
     if (it == s_open.end())
         return false;
     const OpenDC open = *it;
+    const bool bDrawnOn = IsDrawnOn(hdc);
     s_open.erase(it);
     DeleteDC(hdc);
-    if (WindowRecord* pTop = FindRecord(open.hTop))
+    WindowRecord* pTop = FindRecord(open.hTop);
+    if (pTop && bDrawnOn)
         NotePainted(*pTop, open.bounds);
     return true;
 }
@@ -74,6 +76,19 @@ HDC GetDC(HWND hWnd)
     const toolkit::Region clip =
         bLocked ? toolkit::Region() : VisibleClient(*pWindow, toolkit::Children::AsTheStyleSays);
     return toolkit::OpenWindowDC(*pWindow, toolkit::ClientArea(*pWindow).TopLeft(), clip);
+}
+
+HDC GetWindowDC(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return nullptr;
+    const bool bLocked = toolkit::IsUpdateLocked(*pWindow);
+    if (bLocked)
+        toolkit::NoteDrawnWhileLocked();
+    const toolkit::Region clip =
+        bLocked ? toolkit::Region() : VisibleWindow(*pWindow, toolkit::Children::AsTheStyleSays);
+    return toolkit::OpenWindowDC(*pWindow, toolkit::WindowArea(*pWindow).TopLeft(), clip);
 }
 
 int ReleaseDC(HWND hWnd, HDC hdc)

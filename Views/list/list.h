@@ -8,3 +8,4 @@
 
 #include "Views/list/IconList.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/ThumbList.h"

@@ -306,7 +306,12 @@ TEST(PresentTest, TheDesktopIsHandedOneMergedRectangleAfterThePaints)
     EXPECT_EQ(Ledger({"10,10-40,40"}), desktop.TakeLedger());
     desktop.Run();
     EXPECT_EQ(Ledger(), desktop.TakeLedger());
-    ReleaseDC(a.m_hWnd, GetDC(a.m_hWnd));
+    ReleaseDC(a.m_hWnd, GetWindowDC(a.m_hWnd)); // nothing was drawn
+    desktop.Run();
+    EXPECT_EQ(Ledger(), desktop.TakeLedger());
+    const HDC hdc = GetWindowDC(a.m_hWnd);
+    FillSolidRect(hdc, CRect(0, 0, 1, 1), 0);
+    ReleaseDC(a.m_hWnd, hdc);
     desktop.Run();
     EXPECT_EQ(Ledger({"10,10-20,20"}), desktop.TakeLedger());
 }

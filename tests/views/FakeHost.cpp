@@ -49,6 +49,8 @@ void* FakeAtom::Find(DWORD id)
         return static_cast<IDispAtom*>(this);
     if (id == IID_IAtomIcon && hasIcon)
         return static_cast<IAtomIcon*>(this);
+    if (id == IID_IAtomThumbnail && nFrames > 0)
+        return static_cast<IAtomThumbnail*>(this);
     if (id == IID_IImageLink && isLink)
         return static_cast<IImageLink*>(this);
     if (id == IID_ICharacterLibrary && isLibrary)
@@ -86,6 +88,27 @@ BOOL FakeAtom::GetContainer(void** ppOut, DWORD dwInterfaceId)
     if (parent)
         parent->GetInterface(dwInterfaceId, ppOut);
     return *ppOut != nullptr;
+}
+
+BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
+{
+    if (pLedger)
+        pLedger->push_back("icon " + name + " " + std::to_string(pRequest->cx) + "x" + std::to_string(pRequest->cy));
+    if (iconFails)
+        return FALSE;
+    pRequest->hIcon = CreateIconFromSurface(toolkit::Surface(CSize(pRequest->cx, pRequest->cy), 0xFF00FF00));
+    return TRUE;
+}
+
+BOOL FakeAtom::Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame)
+{
+    if (pLedger)
+        pLedger->push_back("draw " + name + " at " + std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" +
+                           std::to_string(rect.right) + "," + std::to_string(rect.bottom) + " (" +
+                           std::to_string(dwReserved) + ", " + std::to_string(dwMode) + ", " + std::to_string(nFrame) +
+                           ")");
+    FillSolidRect(hdc, CRect(rect.left, rect.top, rect.CenterPoint().x, rect.bottom), RGB(0, 0, 255));
+    return !thumbFails;
 }
 
 int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)

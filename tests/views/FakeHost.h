@@ -21,6 +21,7 @@ class FakeContainer;
 class FakeAtom : public virtual IAtom,
                  public IDispAtom,
                  public IAtomIcon,
+                 public IAtomThumbnail,
                  public IImageLink,
                  public IMyErrorInfo,
                  public ICharacterLibrary
@@ -38,13 +39,15 @@ public:
     bool hasIcon = false; // offers IAtomIcon
     bool iconFails = false;
     bool iconNeedsTooMuch = false; // memory runs out while it is made
-    bool isLink = false;           // offers IImageLink
-    int position = 0;              // in its phase
-    bool isLibrary = false;        // offers ICharacterLibrary
+    int nFrames = 0;               // offers IAtomThumbnail when not 0: the left half of the rectangle in blue
+    bool thumbFails = false;
+    bool isLink = false;    // offers IImageLink
+    int position = 0;       // in its phase
+    bool isLibrary = false; // offers ICharacterLibrary
     bool isModified = false;
     FakeContainer* parent = nullptr;
     int nNameReads = 0;        // names filled in, lengths asked for not counted
-    Ledger* pLedger = nullptr; // where icons, and what a container is asked to do, are written down
+    Ledger* pLedger = nullptr; // where icons, thumbnails and what a container is asked to do, are written down
 
     int CountReferences() const { return m_nReferences; }
     static int CountLive() { return s_nLive; }
@@ -57,8 +60,10 @@ public:
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
     BOOL IsModified() override { return isModified; }
     BOOL GetDisplayName(char* pBuffer, DWORD* pLength) override;
-    BOOL GetIcon(ICONREQUEST*) override { return FALSE; }
+    BOOL GetIcon(ICONREQUEST* pRequest) override;
     int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
+    UINT GetFrameCount() override { return static_cast<UINT>(nFrames); }
+    BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
 protected:
     virtual ~FakeAtom() { --s_nLive; }

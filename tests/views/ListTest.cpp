@@ -90,13 +90,13 @@ CPoint ListTest::EmptyPoint(ProbeList& list) const
     return {rect.right - 3, rect.bottom - 3};
 }
 
-void ListTest::Hint(ProbeList& list, int nFrom, int nTo)
+void ListTest::Hint(CListCtrl& list, int nFrom, int nTo)
 {
     NMLVCACHEHINT hint{{list.m_hWnd, list.GetDlgCtrlID(), LVN_ODCACHEHINT}, nFrom, nTo};
     EXPECT_EQ(0, frame.SendMessage(WM_NOTIFY, hint.hdr.idFrom, reinterpret_cast<LPARAM>(&hint)));
 }
 
-std::string ListTest::Shown(ProbeList& list, int nRow)
+std::string ListTest::Shown(CListCtrl& list, int nRow)
 {
     NMLVDISPINFO info{{list.m_hWnd, list.GetDlgCtrlID(), LVN_GETDISPINFO}, {}};
     info.item.mask = LVIF_TEXT | LVIF_IMAGE;

@@ -46,9 +46,9 @@ protected:
     CPoint PointOf(ProbeList& list, int nRow) const; // the middle of its picture
     CPoint EmptyPoint(ProbeList& list) const;        // in no row
     // The rows' picture is asked for, as the control does when it draws.
-    void Hint(ProbeList& list, int nFrom, int nTo);
+    void Hint(CListCtrl& list, int nFrom, int nTo);
     // "a 2": the text and the picture that the list gives for a row; "" when it gives nothing.
-    std::string Shown(ProbeList& list, int nRow);
+    std::string Shown(CListCtrl& list, int nRow);
     Ledger TakeHooks() { return std::exchange(hooks, {}); }
 
     Ledger hooks;

@@ -1,0 +1,55 @@
+// The animated thumbnails that the mouse has passed over.
+//
+// Nothing moves them on: the timer only ticks, and the table holds them until the view is emptied.
+#include "Views/list/ThumbList.h"
+
+namespace
+{
+
+constexpr UINT_PTR kAnimationTimer = 1234;
+constexpr UINT kAnimationPeriod = 80; // milliseconds
+
+} // namespace
+
+void CThumbList::OnMouseMove(UINT, CPoint point)
+{
+    const int nItem = HitTest(point);
+    if (nItem < 0 || nItem >= GetItemCount() || m_animations.contains(nItem))
+        return;
+    const auto* const pPair = reinterpret_cast<const OBJPAIR*>(GetItemData(nItem));
+    if (!pPair)
+        return;
+    auto pThumb = CStubRef<IAtomThumbnail>::From(pPair->pAtom);
+    if (!pThumb || pThumb->GetFrameCount() <= 1)
+        return;
+    m_animations.emplace(nItem, ANIMDATA{0, std::move(pThumb)});
+    StartTimer();
+}
+
+void CThumbList::OnTimer(UINT_PTR) {}
+
+void CThumbList::OnShowWindow(BOOL bShow, UINT nStatus)
+{
+    CObjectsList::OnShowWindow(bShow, nStatus);
+    if (bShow)
+        StartTimer();
+    else
+        KillTimer(kAnimationTimer);
+}
+
+void CThumbList::OnDestroy()
+{
+    KillTimer(kAnimationTimer);
+    CObjectsList::OnDestroy();
+}
+
+void CThumbList::StartTimer()
+{
+    SetTimer(kAnimationTimer, kAnimationPeriod);
+}
+
+// A thumbnail's end may come back here: the table is empty by then.
+void CThumbList::ClearAnimation()
+{
+    std::exchange(m_animations, {}).clear();
+}
