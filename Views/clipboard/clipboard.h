@@ -6,4 +6,6 @@
 // functions without a state of their own; user-interface thread only.
 #pragma once
 
+#include "Views/clipboard/Archives.h"
+#include "Views/clipboard/Commands.h"
 #include "Views/clipboard/Naming.h"

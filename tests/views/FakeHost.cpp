@@ -3,10 +3,12 @@
 #include "Kernel/Kernel.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
+#include "tests/views/FakeArchive.h"
 
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
+#include <sstream>
 
 namespace
 {
@@ -343,6 +345,42 @@ void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
 void FakeEditor::RemovePane(DWORD kind, HWND)
 {
     ledger.push_back("no pane " + std::to_string(kind));
+}
+
+BOOL FakeEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
+{
+    ledger.push_back("enumerates");
+    BOOL bAgreed = TRUE;
+    for (const views::HeldPair& pair : pairs) {
+        bAgreed &= callback(pair.pAtom.Get(), pair.pContainer.Get(), context);
+        if (!bAgreed && !goesOnAfterRefusal)
+            break;
+    }
+    return bAgreed;
+}
+
+BOOL FakeEditor::WriteActiveObjects(IArchive* archive)
+{
+    std::string strNames;
+    for (const views::HeldPair& pair : pairs)
+        strNames += ::NameOf(pair.pAtom.Get()) + "\n";
+    ledger.push_back("writes " + std::to_string(pairs.size()));
+    SetBytes(archive, strNames);
+    return !pairs.empty();
+}
+
+BOOL FakeEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
+{
+    ledger.push_back("reads");
+    std::istringstream names(BytesOf(archive));
+    for (std::string strName; std::getline(names, strName);) {
+        auto pAtom = AtomRef::Adopt(new FakeAtom(strName));
+        FakeAtom* const pObject = context ? pAtom.Get() : pAtom.Detach(); // the callback's without a context
+        pObject->nameFails = strName == "nameless";
+        if (!callback(pObject, context))
+            return FALSE;
+    }
+    return TRUE;
 }
 
 void FakeEditor::GetActiveAtom(void** out, DWORD interfaceId)

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "Toolkit/graphics/ImageList.h"
+#include "Views/host/HeldPair.h"
 #include "Views/host/host.h"
 #include "tests/support/Ledger.h"
 
@@ -141,6 +142,9 @@ public:
 
     Ledger ledger;
     CStubRef<IAtom> active;
+    std::vector<views::HeldPair> pairs; // active, as EnumActivePairs and WriteActiveObjects take them
+    bool goesOnAfterRefusal = false;    // EnumActivePairs
+    CLIPFORMAT format = 0;
     bool skipsSender = false;
     std::function<void(AEStateOperation, IAtom*)> onNotify; // runs before the handlers are called
 
@@ -155,11 +159,12 @@ public:
     void RemovePane(DWORD kind, HWND hWnd) override;
     CMenu* CreateContextMenu() override { return nullptr; }
     HWND GetMainWindow() override { return nullptr; }
-    BOOL EnumActivePairs(ACTIVEPAIRPROC, void*) override { return FALSE; }
+    BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override;
     DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
-    BOOL ReadArchive(ARCHIVEATOMPROC, IArchive*, void*) override { return FALSE; }
-    BOOL WriteActiveObjects(IArchive*) override { return FALSE; }
-    CLIPFORMAT GetClipboardFormat() override { return 0; }
+    // An archive is the names of its atoms, each with a line end.
+    BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
+    BOOL WriteActiveObjects(IArchive* archive) override;
+    CLIPFORMAT GetClipboardFormat() override { return format; }
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:

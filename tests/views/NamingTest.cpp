@@ -1,7 +1,6 @@
 // Names: what atoms may be called, and who hears of a new name.
-#include "Views/clipboard/clipboard.h"
-
 #include "Toolkit/graphics/Resources.h"
+#include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/views/FakeHost.h"

@@ -1,0 +1,127 @@
+// Archives over memory streams, new or with a file's content. The way out to a file is in TransferFile.cpp.
+#include "Views/clipboard/Archives.h"
+
+#include "Kernel/Kernel.h"
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/GlobalMemory.h"
+#include "Toolkit/ole/StgMedium.h"
+#include "Views/clipboard/FileHandle.h"
+#include "Views/host/IArchive.h"
+#include "Views/host/IMemoryStream.h"
+#include "Views/host/LoadedServices.h"
+#include "Views/host/Services.h"
+#include "Views/host/StubRef.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace
+{
+
+// The two objects of an archive, before the stream is attached.
+struct Parts
+{
+    CStubRef<IByteStream> pStream;
+    CStubRef<IArchive> pArchive;
+
+    explicit operator bool() const { return pStream && pArchive; }
+    IArchive* Join()
+    {
+        pArchive->SetStream(pStream.Get());
+        return pArchive.Detach();
+    }
+};
+
+CStubRef<IByteStream> MakeStream()
+{
+    IMemoryStream* pStream = nullptr;
+    CallService(g_pMemoryStreamService, &pStream, sizeof pStream, 0);
+    return CStubRef<IByteStream>::Adopt(pStream);
+}
+
+CStubRef<IArchive> MakeArchive()
+{
+    const auto pKernel = CStubRef<IKernel>::Adopt(KRNL_GetKernel());
+    CStubRef<IArchive> pArchive;
+    if (!pKernel->CreateObject("CArchiveImp", pArchive.Receive(), IID_IArchive))
+        return nullptr;
+    return pArchive;
+}
+
+Parts MakeParts()
+{
+    auto pStream = MakeStream(); // comes first
+    return {std::move(pStream), MakeArchive()};
+}
+
+// A block of that many bytes inside the stream, whose position is its start; NULL when the stream cannot grow so far.
+void* SizeStream(IByteStream* pStream, DWORD dwSize)
+{
+    pStream->Seek(dwSize, 0);
+    pStream->SetEnd();
+    pStream->Seek(0, 0);
+    return pStream->GetData();
+}
+
+// An archive that ended early would be another archive: a file that yields less than its size gives none.
+bool ReadWhole(HANDLE hFile, IByteStream* pStream)
+{
+    DWORD dwHigh = 0, dwRead = 0;
+    const DWORD dwSize = ::GetFileSize(hFile, &dwHigh);
+    if (dwSize == 0 || dwHigh != 0)
+        return false;
+    void* const pData = SizeStream(pStream, dwSize);
+    return pData && ::ReadFile(hFile, pData, dwSize, &dwRead, nullptr) && dwRead == dwSize;
+}
+
+// Nothing for a handle that cannot be locked. A block without a terminating zero is used to its end.
+std::optional<CString> PathIn(void* hGlobal)
+{
+    const toolkit::GlobalLocker<const char> block(hGlobal);
+    if (!block.Get())
+        return std::nullopt;
+    const char* const pEnd = block.Get() + ::GlobalSize(hGlobal);
+    return CString(std::string_view(block.Get(), std::find(block.Get(), pEnd, '\0')));
+}
+
+} // namespace
+
+IArchive* ConstructMemoryArchive()
+{
+    Parts parts = MakeParts();
+    return parts ? parts.Join() : nullptr;
+}
+
+IArchive* ArchiveFromFile(const char* lpszPath)
+{
+    Parts parts = MakeParts();
+    if (!parts)
+        return nullptr;
+    const views::FileHandle file(::CreateFile(lpszPath, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (!file || !ReadWhole(file.Get(), parts.pStream.Get()))
+        return nullptr;
+    return parts.Join();
+}
+
+// Without memory for the path there is no archive either.
+IArchive* ArchiveFromHGLOBAL(void* hGlobal)
+try {
+    const std::optional<CString> path = PathIn(hGlobal);
+    return path ? ArchiveFromFile(*path) : nullptr;
+} catch (const CMemoryException&) {
+    return nullptr;
+}
+
+IArchive* ArchiveFromStgMedium(const STGMEDIUM& medium)
+try {
+    switch (medium.tymed) {
+    case TYMED_HGLOBAL:
+        return ArchiveFromHGLOBAL(medium.hGlobal);
+    case TYMED_FILE:
+        return medium.lpszFileName ? ArchiveFromFile(toolkit::Narrow(medium.lpszFileName).c_str()) : nullptr;
+    default:
+        return nullptr;
+    }
+} catch (const CMemoryException&) {
+    return nullptr;
+}

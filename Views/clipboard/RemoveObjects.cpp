@@ -1,0 +1,46 @@
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/String.h"
+#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/window/WaitCursor.h"
+#include "Toolkit/window/WindowApi.h"
+#include "Views/clipboard/Commands.h"
+#include "Views/clipboard/RemovedAtoms.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+
+namespace
+{
+
+constexpr UINT kRemoveQuestion = 0xE013;
+
+// A question that cannot be asked has not been answered with yes.
+bool UserAgrees()
+try {
+    CString strQuestion;
+    strQuestion.LoadString(kRemoveQuestion);
+    const HWND hFocus = ::GetFocus();
+    const int nAnswer = AfxMessageBox(strQuestion, MB_YESNO);
+    if (hFocus)
+        ::SetFocus(hFocus);
+    return nAnswer == IDYES;
+} catch (CMemoryException& e) {
+    e.ReportError();
+    return false;
+}
+
+} // namespace
+
+int RemoveObjects(int bConfirm)
+{
+    const CWaitCursor wait;
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pEditor)
+        return FALSE;
+    if (bConfirm && !UserAgrees())
+        return TRUE;
+
+    views::RemovedAtoms removed;
+    removed.RemoveActive(pEditor.Get());
+    removed.Announce(pEditor.Get());
+    return TRUE;
+}

@@ -1,0 +1,68 @@
+#include "Views/clipboard/TransferFileOwner.h"
+
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/Files.h"
+#include "Views/clipboard/Archives.h"
+#include "Views/host/IArchive.h"
+#include "Views/host/IAtom.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+#include "Views/host/StubRef.h"
+
+namespace
+{
+
+BOOL ReleaseObjectFn(IAtom* pAtom, void*)
+{
+    CStubRef<IAtom>::Adopt(pAtom).Release();
+    return TRUE;
+}
+
+// Whatever happens here, the file goes.
+void ReleaseObjects(IAtomEditor* pEditor, HGLOBAL hPath)
+try {
+    if (const auto pArchive = CStubRef<IArchive>::Adopt(ArchiveFromHGLOBAL(hPath)))
+        pEditor->ReadArchive(&ReleaseObjectFn, pArchive.Get(), nullptr);
+} catch (CMemoryException& e) {
+    e.ReportError();
+}
+
+} // namespace
+
+HRESULT CTransferFileOwner::QueryInterface(REFIID riid, void** ppvObject)
+{
+    *ppvObject = nullptr;
+    if (riid != IID_IUnknown)
+        return E_NOINTERFACE;
+    AddRef();
+    *ppvObject = static_cast<IUnknown*>(this);
+    return S_OK;
+}
+
+ULONG CTransferFileOwner::AddRef()
+{
+    return static_cast<ULONG>(++m_nReferences);
+}
+
+ULONG CTransferFileOwner::Release()
+{
+    const std::int32_t nLeft = --m_nReferences;
+    if (nLeft > 0)
+        return static_cast<ULONG>(nLeft);
+    Dispose();
+    delete this;
+    return 0;
+}
+
+void CTransferFileOwner::Dispose() const
+{
+    const auto* const pszPath = static_cast<const char*>(::GlobalLock(m_hPath));
+    if (!pszPath)
+        return;
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (pEditor)
+        ReleaseObjects(pEditor.Get(), m_hPath);
+    ::DeleteFile(pszPath);
+    ::GlobalUnlock(m_hPath);
+    ::GlobalFree(m_hPath);
+}

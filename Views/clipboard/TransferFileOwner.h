@@ -1,0 +1,27 @@
+// Inside the library.
+#pragma once
+
+#include "Toolkit/base/GlobalMemory.h"
+#include "Toolkit/ole/Unknown.h"
+#include "Views/host/Api.h"
+
+// The releaser of clipboard data: it owns a path handle and its transfer file, and disposes of both when its last
+// reference goes. The editor, if there is one, is handed the file's atoms once more before, each with its reference,
+// which is released.
+class VIEWS_API CTransferFileOwner final : public IUnknown
+{
+public:
+    explicit CTransferFileOwner(HGLOBAL hPath) : m_hPath(hPath) {} // takes both over, with one reference
+
+    HRESULT QueryInterface(REFIID riid, void** ppvObject) override; // IID_IUnknown alone
+    ULONG AddRef() override;
+    ULONG Release() override;
+
+private:
+    ~CTransferFileOwner() = default;
+    void Dispose() const;
+
+    std::int32_t m_nReferences = 1;
+    const HGLOBAL m_hPath;
+};
+static_assert(sizeof(void*) != 4 || sizeof(CTransferFileOwner) == 12);

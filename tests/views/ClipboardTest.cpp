@@ -1,0 +1,300 @@
+// The commands on atoms: what they do to containers, to the clipboard and to the disk, and whom they tell.
+#include "Views/clipboard/clipboard.h"
+
+#include "Toolkit/base/Files.h"
+#include "Toolkit/base/GlobalMemory.h"
+#include "Toolkit/ole/DataObject.h"
+#include "Toolkit/ole/DataSource.h"
+#include "Views/clipboard/TransferFileOwner.h"
+#include "tests/editor/TempFolder.h"
+#include "tests/support/AllocationFailures.h"
+#include "tests/views/FakeArchive.h"
+#include "tests/views/ViewTest.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+using ArchiveRef = CStubRef<IArchive>;
+
+class ClipboardTest : public ViewTest
+{
+protected:
+    ClipboardTest() : pBox(MakeBox({"a", "b", "c"})), pBag(MakeBox("bag", {"d", "e"}))
+    {
+        setenv("TEMP", folder.Path().c_str(), 1);
+        resources.AddString(0xE013, "Remove?");
+        editor.format = RegisterClipboardFormat("Atoms of the fake");
+        for (FakeContainer* p : {pBox, pBag}) {
+            p->permissions = APF_ACCEPT | APF_REMOVE;
+            p->pLedger = &editor.ledger;
+        }
+    }
+    ~ClipboardTest() override
+    {
+        EmptyClipboard();
+        unsetenv("TEMP");
+        editor.pairs.clear();
+        EXPECT_EQ(Ledger(), Files());
+        EXPECT_EQ(0, toolkit::CountGlobalBlocks());
+    }
+
+    void Activate(const std::vector<std::pair<FakeContainer*, const char*>>& pairs)
+    {
+        editor.pairs.clear();
+        for (const auto& [pIn, pszName] : pairs)
+            editor.pairs.push_back(views::HeldPair::Share(pIn->Named(pszName), pIn));
+    }
+    static void EmptyClipboard()
+    {
+        COleDataSource::FlushClipboard();
+        (new COleDataSource)->SetClipboard();
+    }
+    static ArchiveRef Holding(const std::string& bytes)
+    {
+        auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
+        SetBytes(pArchive.Get(), bytes);
+        return pArchive;
+    }
+    Ledger Files() const
+    {
+        Ledger files;
+        for (const fs::path& path : fs::directory_iterator(folder.Path()))
+            files.push_back(path.filename());
+        return files;
+    }
+    // What a paste would find; "-" when there is nothing of ours.
+    std::string OnClipboard() const
+    {
+        COleDataObject data;
+        STGMEDIUM medium{};
+        if (!data.AttachClipboard() || !data.GetData(editor.format, &medium))
+            return "-";
+        const auto pArchive = ArchiveRef::Adopt(ArchiveFromStgMedium(medium));
+        ReleaseStgMedium(&medium);
+        return pArchive ? BytesOf(pArchive.Get()) : "gone";
+    }
+    static std::string Members(const FakeContainer* pIn)
+    {
+        std::string strNames;
+        for (const AtomRef& p : pIn->members)
+            strNames += (strNames.empty() ? "" : " ") + p->name;
+        return strNames;
+    }
+
+    TempFolder folder;
+    FakeArchives archives;
+    FakeContainer* const pBox;
+    FakeContainer* const pBag;
+};
+
+TEST_F(ClipboardTest, ACopyLivesOnDiskUntilTheClipboardLetsGoOfIt)
+{
+    Activate({{pBox, "a"}, {pBox, "b"}});
+    EXPECT_TRUE(CopyObjects(FALSE));
+    EXPECT_EQ(Ledger({"writes 2"}), editor.TakeLedger());
+    EXPECT_EQ("a\nb\n", OnClipboard());
+    const Ledger first = Files();
+    EXPECT_EQ(1u, first.size());
+
+    Activate({{pBox, "c"}});
+    EXPECT_TRUE(CopyObjects(FALSE)); // the first one's atoms are read back, released and gone
+    EXPECT_EQ(Ledger({"writes 1", "reads"}), editor.TakeLedger());
+    EXPECT_EQ("c\n", OnClipboard());
+    EXPECT_EQ(1u, Files().size());
+    EXPECT_NE(first, Files());
+
+    editor.Uninstall(); // an editor that has gone is no reason to leave a file behind
+    EmptyClipboard();
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+}
+
+TEST_F(ClipboardTest, ACutTellsOnceOfWhatIsGone)
+{
+    Activate({{pBox, "a"}, {pBag, "d"}});
+    EXPECT_TRUE(CopyObjects(TRUE));
+    EXPECT_EQ(Ledger({"writes 2", "enumerates", "box permits a", "box removes a", "bag permits d", "bag removes d",
+                      "nobody tells OnDeleteAtom(- in box)"}),
+              editor.TakeLedger());
+    EXPECT_EQ("a\nd\n", OnClipboard());
+    EXPECT_EQ("b c / e", Members(pBox) + " / " + Members(pBag));
+}
+
+TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
+{
+    Activate({{pBox, "c"}});
+    EXPECT_TRUE(CopyObjects(FALSE));
+    const Ledger kept = Files();
+    Activate({{pBox, "a"}, {pBag, "d"}, {pBox, "b"}});
+    pBag->permissionsFor["d"] = APF_ACCEPT;
+    editor.TakeLedger();
+
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_EQ(
+        Ledger({"writes 3", "enumerates", "box permits a", "box removes a", "bag permits d", "reads", "box finds a",
+                "box adds a as a", "nobody tells OnCreateAtom(a in box)", "nobody tells OnDeleteAtom(- in box)"}),
+        editor.TakeLedger());
+    EXPECT_EQ("b c a / d e", Members(pBox) + " / " + Members(pBag));
+    EXPECT_EQ("c\n", OnClipboard());
+    EXPECT_EQ(kept, Files());
+
+    Activate({{pBox, "a"}, {pBag, "d"}, {pBox, "b"}});
+    editor.goesOnAfterRefusal = true;
+    pBox->refused = {"removes a", "adds b as b"};
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_EQ("c a / d e", Members(pBox) + " / " + Members(pBag));
+    EXPECT_EQ(kept, Files());
+
+    pBag->permissionsFor["d"] = APF_ACCEPT;
+    Activate({{pBag, "d"}});
+    editor.TakeLedger();
+    EXPECT_FALSE(CopyObjects(TRUE)); // nothing went, so nothing is told
+    EXPECT_EQ(Ledger({"writes 1", "enumerates", "bag permits d"}), editor.TakeLedger());
+}
+
+TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAsItWas)
+{
+    Activate({{pBox, "a"}});
+    EXPECT_TRUE(CopyObjects(FALSE));
+    editor.pairs.clear();
+    EXPECT_FALSE(CopyObjects(TRUE)); // nothing is active
+    Activate({{pBox, "b"}});
+    archives.refusesStreams = true;
+    EXPECT_FALSE(CopyObjects(TRUE));
+    archives.refusesStreams = false;
+    setenv("TEMP", "/proc", 1);
+    EXPECT_FALSE(CopyObjects(TRUE));
+    setenv("TEMP", folder.Path().c_str(), 1);
+    EXPECT_EQ("a\n", OnClipboard());
+    EXPECT_EQ("a b c", Members(pBox));
+}
+
+TEST_F(ClipboardTest, WithoutMemoryNothingIsLost)
+{
+    Activate({{pBox, "a"}});
+    pBox->pLedger = nullptr;
+    FailEveryAllocation([&] {
+        try {
+            EXPECT_EQ(!FailAllocation::HasFailed(), CopyObjects(FALSE));
+        } catch (const CMemoryException&) {
+        }
+        EXPECT_GE(1u, Files().size());
+        desktop.TakeMessageBoxes();
+    });
+    EXPECT_EQ("a\n", OnClipboard());
+}
+
+TEST_F(ClipboardTest, RemovingAsksAndGivesTheFocusBack)
+{
+    Activate({{pBox, "a"}, {pBox, "b"}, {pBag, "d"}});
+    field.SetFocus();
+    desktop.Answer(IDNO);
+    EXPECT_TRUE(RemoveObjects(TRUE));
+    EXPECT_EQ(Ledger({": Remove?"}), desktop.TakeMessageBoxes());
+    EXPECT_TRUE(HasFocus(field));
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+
+    pBox->permissionsFor["a"] = ~APF_REMOVE;
+    pBox->refused = {"removes b"};
+    editor.goesOnAfterRefusal = true;
+    desktop.Answer(IDYES);
+    EXPECT_TRUE(RemoveObjects(TRUE));
+    desktop.TakeMessageBoxes();
+    EXPECT_EQ(Ledger({"enumerates", "box permits a", "box permits b", "box removes b", "bag permits d", "bag removes d",
+                      "nobody tells OnDeleteAtom(- in bag)"}),
+              editor.TakeLedger());
+    EXPECT_TRUE(HasFocus(field));
+
+    Activate({{pBox, "a"}});
+    EXPECT_TRUE(RemoveObjects(FALSE)); // nothing went, so nothing is told
+    EXPECT_EQ(Ledger({"enumerates", "box permits a"}), editor.TakeLedger());
+}
+
+TEST_F(ClipboardTest, PastedAtomsKeepTheirNamesOnlyWhenTheyMove)
+{
+    const auto pArchive = Holding("a\nx\n");
+    EXPECT_TRUE(PasteObjects(pArchive.Get(), pBox, FALSE));
+    EXPECT_EQ(Ledger({"reads", "box permits a", "box validates a", "box adds a as a (2)",
+                      "nobody tells OnCreateAtom(a (2) in box)", "box permits x", "box validates x", "box adds x as x",
+                      "nobody tells OnCreateAtom(x in box)"}),
+              editor.TakeLedger());
+
+    pBag->refused = {"adds a as a"}; // passed over in silence
+    EXPECT_TRUE(PasteObjects(pArchive.Get(), pBag, TRUE));
+    EXPECT_EQ(Ledger({"reads", "bag permits a", "bag adds a as a", "bag permits x", "bag adds x as x",
+                      "nobody tells OnCreateAtom(x in bag)"}),
+              editor.TakeLedger());
+
+    pBox->permissionsFor["a"] = 0; // what is not let in ends the paste
+    EXPECT_FALSE(PasteObjects(pArchive.Get(), pBox, TRUE));
+    EXPECT_EQ(Ledger({"reads", "box permits a"}), editor.TakeLedger());
+    pBag->refused = {"validates a"};
+    EXPECT_FALSE(PasteObjects(pArchive.Get(), pBag, FALSE));
+    EXPECT_FALSE(PasteObjects(Holding("nameless\n").Get(), pBag, TRUE));
+    EXPECT_FALSE(PasteObjects(pArchive.Get(), nullptr, FALSE));
+}
+
+TEST_F(ClipboardTest, TheVerdictIsThatOfTheLastAtomLookedAt)
+{
+    const auto check = [&](const char* pszNames, BOOL bMove) {
+        return CheckPaste(Holding(pszNames).Get(), pBox, bMove);
+    };
+    EXPECT_EQ(0xFFFFFFFF, check("x\n", TRUE));
+    EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x"}), editor.TakeLedger());
+    EXPECT_EQ(0xFFFFFFFF, check("x\na\n", FALSE));
+    EXPECT_EQ(Ledger({"reads", "box permits x", "box permits a"}), editor.TakeLedger());
+    EXPECT_EQ(0u, check("x\na\ny\n", TRUE)); // there is an a already
+    EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x", "box permits a", "box finds a"}), editor.TakeLedger());
+    EXPECT_EQ(0u, check("", FALSE));
+    EXPECT_EQ(0xFFFFFFFF, check("nameless\nx\n", TRUE)); // no name to look for, and no further
+
+    pBox->permissions = APF_ACCEPTCOPY;
+    pBox->permissionsFor = {{"both", APF_ACCEPT | APF_ACCEPTCOPY}, {"neither", ~(APF_ACCEPT | APF_ACCEPTCOPY)}};
+    EXPECT_EQ(1u, check("both\nx\n", FALSE));
+    EXPECT_EQ(0xFFFFFFFF, check("x\nboth\n", FALSE));
+    editor.TakeLedger();
+    EXPECT_EQ(0u, check("neither\nx\n", FALSE));
+    EXPECT_EQ(Ledger({"reads", "box permits neither"}), editor.TakeLedger());
+    EXPECT_EQ(0u, CheckPaste(Holding("x\n").Get(), nullptr, FALSE));
+}
+
+TEST_F(ClipboardTest, NothingHappensWithoutAnEditor)
+{
+    Activate({{pBox, "a"}});
+    const auto pArchive = Holding("x\n");
+    editor.Uninstall();
+    EXPECT_FALSE(CopyObjects(FALSE));
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_FALSE(RemoveObjects(TRUE)); // nor is anything asked
+    EXPECT_FALSE(PasteObjects(pArchive.Get(), pBox, FALSE));
+    EXPECT_EQ(0u, CheckPaste(pArchive.Get(), pBox, FALSE));
+    EXPECT_EQ("a b c", Members(pBox));
+}
+
+TEST_F(ClipboardTest, ATransferFileGoesWithItsOwnersLastReference)
+{
+    auto* const pOwner = new CTransferFileOwner(HGLOBALFromArchive(Holding("a\nb\n").Get()));
+    void* p = &p;
+    EXPECT_EQ(E_NOINTERFACE, pOwner->QueryInterface(IID{1, 2, 3, {}}, &p));
+    EXPECT_EQ(nullptr, p);
+    EXPECT_EQ(S_OK, pOwner->QueryInterface(IID_IUnknown, &p));
+    EXPECT_EQ(static_cast<IUnknown*>(pOwner), p);
+    EXPECT_EQ(1u, pOwner->Release());
+    EXPECT_EQ(1u, Files().size());
+    EXPECT_EQ(0u, pOwner->Release());
+    EXPECT_EQ(Ledger({"reads"}), editor.TakeLedger());
+
+    // A file that is gone already, and a handle that cannot be locked.
+    void* const hPath = HGLOBALFromArchive(Holding("a\n").Get());
+    DeleteFile(static_cast<const char*>(GlobalLock(hPath)));
+    GlobalUnlock(hPath);
+    (new CTransferFileOwner(hPath))->Release();
+    (new CTransferFileOwner(hPath))->Release();
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+}
+
+} // namespace

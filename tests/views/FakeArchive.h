@@ -1,0 +1,83 @@
+// Archives and memory streams of the fake host, and the services that make them.
+#pragma once
+
+#include "Kernel/Kernel.h"
+#include "Views/host/host.h"
+
+#include <string>
+#include <vector>
+
+// What counted objects of the fake have in common.
+class FakeCounted : public virtual CStubBaseInterface
+{
+public:
+    FakeCounted() { ++s_nLive; }
+    FakeCounted(const FakeCounted&) = delete;
+    FakeCounted& operator=(const FakeCounted&) = delete;
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override
+    {
+        if (--m_nReferences == 0)
+            delete this;
+    }
+    static int CountLive() { return s_nLive; }
+
+protected:
+    virtual ~FakeCounted() { --s_nLive; }
+
+private:
+    static inline int s_nLive = 0;
+    int m_nReferences = 1;
+};
+
+class FakeStream final : public FakeCounted, public IMemoryStream
+{
+public:
+    explicit FakeStream(bool bHasBlock) : m_bHasBlock(bHasBlock) {}
+
+    void GetInterface(DWORD, void** out) override { *out = nullptr; }
+    void Seek(DWORD dwOffset, DWORD dwOrigin) override;
+    DWORD GetLength() override { return static_cast<DWORD>(m_bytes.size()) - 1; }
+    void SetEnd() override { m_bytes.resize(m_nPosition + 1); }
+    void* GetData() override { return m_bHasBlock ? m_bytes.data() : nullptr; }
+
+private:
+    std::vector<char> m_bytes = std::vector<char>(1); // and one more, so that there is a block without bytes, too
+    std::size_t m_nPosition = 0;
+    const bool m_bHasBlock;
+};
+
+class FakeArchive final : public FakeCounted, public IArchive
+{
+public:
+    void GetInterface(DWORD id, void** out) override;
+    void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
+    void Seek(DWORD dwOffset, DWORD dwOrigin) override { m_pStream->Seek(dwOffset, dwOrigin); }
+    DWORD GetLength() override { return m_pStream->GetLength(); }
+    void SetEnd() override { m_pStream->SetEnd(); }
+    void* GetData() override { return m_pStream->GetData(); }
+
+private:
+    CStubRef<IByteStream> m_pStream;
+};
+
+// The services, installed for as long as this lives.
+class FakeArchives : public SERVICEPROVIDER
+{
+public:
+    FakeArchives();
+    ~FakeArchives();
+    FakeArchives(const FakeArchives&) = delete;
+    FakeArchives& operator=(const FakeArchives&) = delete;
+
+    bool refusesStreams = false;
+    bool refusesArchives = false;
+    bool streamsHaveNoBlock = false;
+
+private:
+    static BOOL MakeStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+};
+
+std::string BytesOf(IByteStream* pStream);
+void SetBytes(IByteStream* pStream, const std::string& bytes);

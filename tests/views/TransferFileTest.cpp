@@ -1,0 +1,257 @@
+// Archives on their way through transfer files, path handles and media, with all that can befall them there.
+#include "Toolkit/base/Files.h"
+#include "Toolkit/base/GlobalMemory.h"
+#include "Toolkit/base/WideText.h"
+#include "Toolkit/ole/StgMedium.h"
+#include "Views/clipboard/clipboard.h"
+#include "tests/editor/TempFolder.h"
+#include "tests/support/AllocationFailures.h"
+#include "tests/support/DesktopTest.h"
+#include "tests/views/FakeArchive.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace fs = std::filesystem;
+
+namespace
+{
+
+using ArchiveRef = CStubRef<IArchive>;
+
+class TransferFileTest : public DesktopTest
+{
+protected:
+    TransferFileTest() { SetTemp(folder.Path()); }
+    ~TransferFileTest() override
+    {
+        unsetenv("TEMP");
+        EXPECT_EQ(0, KRNL_CountReferences());
+        EXPECT_EQ(0, toolkit::CountOpenFiles());
+        EXPECT_EQ(0, toolkit::CountGlobalBlocks());
+    }
+
+    static void SetTemp(const std::string& strFolder) { setenv("TEMP", strFolder.c_str(), 1); }
+    static ArchiveRef Holding(const std::string& bytes)
+    {
+        auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
+        SetBytes(pArchive.Get(), bytes);
+        return pArchive;
+    }
+    static std::string Read(const std::string& path)
+    {
+        std::ifstream file(path, std::ios::binary);
+        return {std::istreambuf_iterator<char>(file), {}};
+    }
+    // What an archive of that file holds; "-" without one.
+    static std::string Fetched(const std::string& path)
+    {
+        const auto pArchive = ArchiveRef::Adopt(ArchiveFromFile(path.c_str()));
+        return pArchive ? BytesOf(pArchive.Get()) : "-";
+    }
+    std::size_t CountFiles() const
+    {
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder.Path()), {}));
+    }
+    // The exit status of a child process that does it.
+    template <class Work>
+    static int InChild(Work work)
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(work());
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+
+    TempFolder folder;
+    FakeArchives archives;
+    const std::string bytes = std::string("any\0bytes\n\xFF", 11) + std::string(100000, 'x');
+};
+
+TEST_F(TransferFileTest, BytesComeBackFromAFileOfTheirOwnThatIsForItsOwnersEyesOnly)
+{
+    const mode_t former = umask(0);
+    const CString strPath = FileFromArchive(Holding(bytes).Get());
+    umask(former);
+    EXPECT_EQ(bytes, Read(strPath.GetString()));
+    EXPECT_EQ(bytes, Fetched(strPath.GetString()));
+    struct stat status;
+    ASSERT_EQ(0, lstat(strPath, &status));
+    EXPECT_EQ(0600u, status.st_mode & 07777);
+
+    const CString strNext = FileFromArchive(Holding("").Get()); // nothing at all: a file, but no archive of it
+    EXPECT_NE(strPath, strNext);
+    EXPECT_EQ(0u, fs::file_size(strNext.GetString()));
+    EXPECT_EQ("-", Fetched(strNext.GetString()));
+}
+
+TEST_F(TransferFileTest, TheFileLiesWhereTheEnvironmentSays)
+{
+    const auto pArchive = Holding("bytes");
+    const auto write = [&] { return fs::path(FileFromArchive(pArchive.Get()).GetString()); };
+    for (const char* pszEnd : {"", "/"}) {
+        SetTemp(folder.Path() + pszEnd);
+        const fs::path path = write();
+        EXPECT_EQ(folder.Path(), path.parent_path());
+        EXPECT_TRUE(path.filename().string().starts_with("AE")) << path;
+    }
+    EXPECT_EQ(2u, CountFiles());
+
+    // The machine's own folder takes the place of one that is not there.
+    const TempFolder machines;
+    setenv("TMPDIR", machines.Path().c_str(), 1);
+    unsetenv("TEMP");
+    EXPECT_EQ(machines.Path(), write().parent_path());
+    folder.Write("file", "no folder");
+    const std::string strEndless = "/" + std::string(5000, 'x');
+    for (const std::string& strFolder : {std::string(), folder.At("missing"), folder.At("file"), strEndless}) {
+        SetTemp(strFolder);
+        EXPECT_EQ(machines.Path(), write().parent_path()) << strFolder;
+    }
+    unsetenv("TMPDIR");
+
+    SetTemp("/proc"); // a folder in which nobody may write, not even root
+    EXPECT_EQ("", write());
+    EXPECT_EQ(nullptr, HGLOBALFromArchive(pArchive.Get()));
+}
+
+TEST_F(TransferFileTest, ADiskThatFillsUpLeavesNoFileBehind)
+{
+    const auto pArchive = Holding(bytes);
+    EXPECT_EQ(0, InChild([&] {
+                  std::signal(SIGXFSZ, SIG_IGN);
+                  const rlimit limit{4096, 4096};
+                  setrlimit(RLIMIT_FSIZE, &limit);
+                  const bool bNothing = FileFromArchive(pArchive.Get()).IsEmpty();
+                  return bNothing && !HGLOBALFromArchive(pArchive.Get()) && CountFiles() == 0 ? 0 : 1;
+              }));
+}
+
+TEST_F(TransferFileTest, AHandleHoldsThePathAndNothingElse)
+{
+    void* const hPath = HGLOBALFromArchive(Holding(bytes).Get());
+    std::string strPath;
+    {
+        const toolkit::GlobalLocker<const char> block(hPath);
+        strPath = block.Get();
+        EXPECT_EQ(strPath.size() + 1, GlobalSize(hPath));
+    }
+    EXPECT_EQ(bytes, Read(strPath));
+
+    STGMEDIUM medium{};
+    medium.tymed = TYMED_HGLOBAL;
+    medium.hGlobal = hPath;
+    EXPECT_EQ(bytes, BytesOf(ArchiveRef::Adopt(ArchiveFromStgMedium(medium)).Get()));
+    medium.tymed = TYMED_ISTREAM;
+    EXPECT_EQ(nullptr, ArchiveFromStgMedium(medium));
+
+    fs::rename(strPath, folder.At("Spaziergänger \xFE"));
+    EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(hPath));
+    std::wstring name = toolkit::Widen(folder.At("Spaziergänger \xFE"));
+    medium.tymed = TYMED_FILE;
+    medium.lpszFileName = name.data();
+    EXPECT_EQ(bytes, BytesOf(ArchiveRef::Adopt(ArchiveFromStgMedium(medium)).Get()));
+    medium.lpszFileName = nullptr;
+    EXPECT_EQ(nullptr, ArchiveFromStgMedium(medium));
+
+    GlobalFree(hPath);
+    EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(hPath));
+    EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(nullptr));
+}
+
+TEST_F(TransferFileTest, APathWithoutAnEndIsReadNoFurtherThanItsBlock)
+{
+    folder.Write("file", "bytes");
+    const std::string strPath = folder.At("file");
+    void* const hPath = GlobalAlloc(GMEM_MOVEABLE, strPath.size());
+    strPath.copy(static_cast<char*>(GlobalLock(hPath)), strPath.size());
+    GlobalUnlock(hPath);
+    EXPECT_EQ("bytes", BytesOf(ArchiveRef::Adopt(ArchiveFromHGLOBAL(hPath)).Get()));
+    GlobalFree(hPath);
+}
+
+TEST_F(TransferFileTest, WhatHasBecomeOfAFileMeanwhileGivesNoArchive)
+{
+    folder.Write("kept", "bytes");
+    folder.Write("emptied", "");
+    folder.MakeFolder("folder");
+    folder.Link("link", folder.At("kept"));
+    mkfifo(folder.At("pipe").c_str(), 0600);
+    for (const char* pszName : {"deleted", "emptied", "folder", "link", "pipe"})
+        EXPECT_EQ("-", Fetched(folder.At(pszName))) << pszName;
+
+    fs::resize_file(folder.At("kept"), 3); // what is left is for the editor to judge
+    EXPECT_EQ("byt", Fetched(folder.At("kept")));
+
+    // Another process has it open.
+    int ready[2], done[2];
+    ASSERT_TRUE(pipe(ready) == 0 && pipe(done) == 0);
+    const pid_t child = fork();
+    if (child == 0) {
+        char byte = 'x';
+        close(done[1]);
+        const bool bOpen = CreateFile(folder.At("kept").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr) !=
+                           INVALID_HANDLE_VALUE;
+        _exit(bOpen && write(ready[1], &byte, 1) == 1 && read(done[0], &byte, 1) == 0 ? 0 : 1);
+    }
+    char byte;
+    close(ready[1]);
+    EXPECT_EQ(1, read(ready[0], &byte, 1));
+    EXPECT_EQ("-", Fetched(folder.At("kept")));
+    close(done[1]);
+    int status = -1;
+    waitpid(child, &status, 0);
+    EXPECT_EQ(0, status);
+    EXPECT_EQ("byt", Fetched(folder.At("kept")));
+    for (const int fd : {ready[0], done[0]})
+        close(fd);
+}
+
+TEST_F(TransferFileTest, WithoutAStreamOrAnArchiveThereIsNothing)
+{
+    folder.Write("file", "bytes");
+    const auto pEmpty = Holding("");
+    const auto hasNone = [&] { return !ConstructMemoryArchive() && !ArchiveFromFile(folder.At("file").c_str()); };
+    archives.refusesStreams = true;
+    EXPECT_TRUE(hasNone());
+    archives.refusesStreams = false;
+    archives.refusesArchives = true;
+    EXPECT_TRUE(hasNone());
+    archives.refusesArchives = false;
+    SRVN_InstallProvider("ConstructMemoryStream", nullptr);
+    EXPECT_TRUE(hasNone());
+    SRVN_InstallProvider("ConstructMemoryStream", &archives);
+
+    archives.streamsHaveNoBlock = true;
+    EXPECT_EQ("-", Fetched(folder.At("file")));
+    EXPECT_EQ("", FileFromArchive(ArchiveRef::Adopt(ConstructMemoryArchive()).Get()));
+    EXPECT_EQ("", FileFromArchive(nullptr));
+    EXPECT_EQ(nullptr, HGLOBALFromArchive(nullptr));
+    EXPECT_EQ(1u, CountFiles());
+}
+
+TEST_F(TransferFileTest, WithoutMemoryThereIsNoFileAndTheUserIsToldOnce)
+{
+    const auto pArchive = Holding(bytes);
+    const int nFailures = FailEveryAllocation([&] {
+        void* const hPath = HGLOBALFromArchive(pArchive.Get());
+        EXPECT_EQ(hPath ? 1u : 0u, CountFiles());
+        EXPECT_GE(hPath ? 0u : 1u, desktop.TakeMessageBoxes().size());
+        if (const auto pRead = ArchiveRef::Adopt(ArchiveFromHGLOBAL(hPath)))
+            EXPECT_EQ(bytes, BytesOf(pRead.Get()));
+        GlobalFree(hPath);
+        for (const fs::path& path : fs::directory_iterator(folder.Path()))
+            fs::remove(path);
+    });
+    EXPECT_LT(0, nFailures);
+}
+
+} // namespace
