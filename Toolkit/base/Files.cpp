@@ -25,8 +25,11 @@ public:
     }
     FileDescriptor(FileDescriptor&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
     FileDescriptor(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(const FileDescriptor&) = delete;
-    FileDescriptor& operator=(FileDescriptor&&) = delete;
+    FileDescriptor& operator=(FileDescriptor other) noexcept
+    {
+        std::swap(m_fd, other.m_fd);
+        return *this;
+    }
 
     explicit operator bool() const { return m_fd >= 0; }
     int Get() const { return m_fd; }
@@ -121,17 +124,30 @@ FileDescriptor OpenRegularFile(LPCSTR pszName, DWORD dwAccess, DWORD dwShareMode
     return error == 0 ? std::move(file) : FileDescriptor(Fail(error));
 }
 
-HANDLE AddFile(FileDescriptor file)
+// A handle for a file that is yet to come.
+HANDLE ReserveHandle()
 try {
-    auto entry = std::make_unique<FileDescriptor>(std::move(file));
+    auto entry = std::make_unique<FileDescriptor>(-1);
     const std::lock_guard lock(s_mutex);
     const HANDLE hFile = s_files.Add(std::move(entry));
     if (!hFile)
         SetLastError(ERROR_TOO_MANY_OPEN_FILES);
-    return hFile ? hFile : INVALID_HANDLE_VALUE;
+    return hFile;
 } catch (const std::bad_alloc&) {
     SetLastError(ERROR_NOT_ENOUGH_MEMORY);
-    return INVALID_HANDLE_VALUE;
+    return nullptr;
+}
+
+void PutFile(HANDLE hFile, FileDescriptor file)
+{
+    const std::lock_guard lock(s_mutex);
+    *s_files.Find(hFile) = std::move(file);
+}
+
+std::unique_ptr<FileDescriptor> TakeFile(HANDLE hFile)
+{
+    const std::lock_guard lock(s_mutex);
+    return s_files.Remove(hFile);
 }
 
 // Calls read or write until all is done, nothing more comes, or it fails (-1).
@@ -182,8 +198,17 @@ HANDLE CreateFile(LPCSTR pszName, DWORD dwAccess, DWORD dwShareMode, SECURITY_AT
         SetLastError(ERROR_INVALID_PARAMETER);
         return INVALID_HANDLE_VALUE;
     }
+    // The handle comes first: no file is made, or emptied, for which there is none.
+    const HANDLE hFile = ReserveHandle();
+    if (!hFile)
+        return INVALID_HANDLE_VALUE;
     FileDescriptor file = OpenRegularFile(pszName, dwAccess, dwShareMode, dwDisposition);
-    return file ? AddFile(std::move(file)) : INVALID_HANDLE_VALUE;
+    if (!file) {
+        TakeFile(hFile);
+        return INVALID_HANDLE_VALUE;
+    }
+    PutFile(hFile, std::move(file));
+    return hFile;
 }
 
 BOOL ReadFile(HANDLE hFile, void* pBuffer, DWORD nBytes, DWORD* pnRead, OVERLAPPED* pOverlapped)
@@ -237,14 +262,10 @@ DWORD SetFilePointer(HANDLE hFile, LONG nDistance, LONG* pHigh, DWORD dwMethod)
 
 BOOL CloseHandle(HANDLE hFile)
 {
-    std::unique_ptr<FileDescriptor> file;
-    {
-        const std::lock_guard lock(s_mutex);
-        file = s_files.Remove(hFile);
-    }
-    if (!file)
+    const bool bClosed = TakeFile(hFile) != nullptr;
+    if (!bClosed)
         SetLastError(ERROR_INVALID_HANDLE);
-    return file != nullptr;
+    return bClosed;
 }
 
 BOOL DeleteFile(LPCSTR pszName)

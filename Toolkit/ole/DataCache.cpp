@@ -28,6 +28,7 @@ void toolkit::DataCache::Close()
 std::shared_ptr<toolkit::DataCache> toolkit::DataCache::CopyPlain() const
 {
     auto copies = std::make_shared<DataCache>();
+    copies->m_entries.reserve(m_entries.size()); // so that no copy is lost on its way there
     for (const Entry& entry : m_entries)
         if (entry.medium.tymed == TYMED_HGLOBAL)
             copies->Put(entry.format, CopyMedium(entry.medium));

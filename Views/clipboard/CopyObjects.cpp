@@ -9,6 +9,7 @@
 #include "Views/host/IArchive.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/StubRef.h"
 
 #include <memory>
 #include <utility>
@@ -78,8 +79,7 @@ void PutOnClipboard(CLIPFORMAT cfAtoms, TransferHandle& handle)
     pSource->CacheData(cfAtoms, &medium);
     pOwner.release(); // the data source's now
     COleDataSource::FlushClipboard();
-    pSource->SetClipboard();
-    pSource.release(); // the clipboard's now
+    pSource.release()->SetClipboard(); // the clipboard's now, also if this raises something
 }
 
 } // namespace

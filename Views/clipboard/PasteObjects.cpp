@@ -7,6 +7,7 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
+#include "Views/host/StubRef.h"
 
 namespace
 {

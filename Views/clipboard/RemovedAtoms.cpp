@@ -41,17 +41,23 @@ BOOL RemovedAtoms::RemoveObjectFn(IAtom* pAtom, IAtomContainer* pContainer, void
     return FALSE;
 }
 
-void RemovedAtoms::Announce(IAtomEditor* pEditor) const
+IAtomContainer* RemovedAtoms::FirstContainer() const
 {
     const auto first = std::find_if(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); });
-    if (first != m_containers.end())
-        pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, first->Get(), 0);
+    return first == m_containers.end() ? nullptr : first->Get();
+}
+
+void RemovedAtoms::Announce(IAtomEditor* pEditor) const
+{
+    if (IAtomContainer* const pContainer = FirstContainer())
+        pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer, 0);
 }
 
 void RemovedAtoms::PutBack(IAtomEditor* pEditor, IArchive* pArchive)
 {
     m_nRead = 0;
-    pEditor->ReadArchive(&PutBackFn, pArchive, this);
+    if (FirstContainer())
+        pEditor->ReadArchive(&PutBackFn, pArchive, this);
 }
 
 // An atom that is there did not go, whatever its place says.

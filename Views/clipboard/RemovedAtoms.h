@@ -32,6 +32,7 @@ private:
     static BOOL RemoveObjectFn(IAtom* pAtom, IAtomContainer* pContainer, void* pContext);
     static BOOL PutBackFn(IAtom* pAtom, void* pContext);
     bool Note(IAtomContainer* pContainer);
+    IAtomContainer* FirstContainer() const; // that lost an atom; NULL when none did
 
     // For each active atom in turn the container that it was removed from; empty for one that stayed.
     std::vector<CStubRef<IAtomContainer>> m_containers;
