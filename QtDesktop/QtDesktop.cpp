@@ -10,6 +10,7 @@
 
 #include <QFontDatabase>
 #include <map>
+#include <utility>
 
 namespace qtdesktop
 {
@@ -112,7 +113,8 @@ int QtDesktop::ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UI
 
 void QtDesktop::ShowCursor(toolkit::Cursor cursor)
 {
-    m_parts->cursor = cursor;
+    if (std::exchange(m_parts->cursor, cursor) == cursor)
+        return;
     for (const auto& [hTop, pWindow] : m_parts->windows)
         pWindow->ShowShape(cursor);
 }

@@ -55,6 +55,9 @@ public:
     virtual void PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
     // What another program has there; NULL when it is empty or the program's own.
     virtual std::shared_ptr<OfferedData> FetchClipboard() = 0;
+
+    // Another field has the focus, or none, or the field's text or caret is new: ask FocusedTextInput.
+    virtual void TextInputChanged() {}
 };
 
 TOOLKIT_API void InstallDesktop(Desktop* pDesktop); // borrowed; NULL takes it away, after the last window

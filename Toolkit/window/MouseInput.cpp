@@ -1,5 +1,6 @@
 #include "Toolkit/window/MouseInput.h"
 
+#include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/DoubleClick.h"
 #include "Toolkit/window/HitTest.h"
 #include "Toolkit/window/KeyStates.h"
@@ -76,6 +77,15 @@ void TakeNote(const InputEvent& event)
         s_cursor = event.at + toolkit::SurfaceToScreen(*pTop);
 }
 
+// While the mouse is captured the shape stays as it is.
+void ShowShapeOver(const toolkit::MouseTarget& target)
+{
+    if (target.bClient)
+        SendMessage(target.hWnd, WM_SETCURSOR, reinterpret_cast<WPARAM>(target.hWnd), 0);
+    else
+        toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow);
+}
+
 void LeaveTop(HWND hTop)
 {
     if (GetCapture())
@@ -102,6 +112,8 @@ void toolkit::HandleMouse(const InputEvent& event)
     const MouseTarget target = hCapture ? MouseTarget{hCapture, true} : FindMouseTarget(event.hTop, s_cursor);
     HoverScrollBars(target.bClient ? nullptr : target.hWnd, s_cursor);
     SetOver(target.bClient ? target.hWnd : nullptr);
+    if (event.kind == InputKind::MouseMove && !hCapture)
+        ShowShapeOver(target);
     if (target.bClient)
         SendToWindow(target.hWnd, event);
     else if (target.hWnd)
