@@ -1,0 +1,40 @@
+// A field in a window, and what its user and its parent see of it.
+#pragma once
+
+#include "Toolkit/controls/Edit.h"
+#include "tests/support/DesktopTest.h"
+
+// Writes what its fields notify: "change", "focus comes" ...
+class FieldParent : public CWnd
+{
+public:
+    LedgerBook book;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+};
+
+// "ab[cd]e": the text with the selection in brackets, or with the caret as a bar.
+std::string FieldState(HWND hField);
+
+class EditTest : public DesktopTest
+{
+protected:
+    void SetUp() override;
+
+    std::string State() const { return FieldState(edit.m_hWnd); }
+    void Set(LPCSTR pszText); // and the caret at its end; the ledger is empty then
+    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+    Ledger TakeLedger() { return top.book.TakeLedger(); }
+    CPoint At(int position) const; // the position's own pixel column, in the line's middle
+    // What the clipboard holds as text, as another program reads it; "-" for none.
+    std::string Clipboard();
+    void TakeClipboard(const std::string& text); // another program puts a text there
+
+    static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false},
+        kBoth{true, true, false}, kAlt{false, false, true};
+
+    FieldParent top;
+    CEdit edit;
+    CEdit other;
+};

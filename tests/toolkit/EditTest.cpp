@@ -1,0 +1,309 @@
+// The edit control as its user and its parent see it.
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/window/TextInput.h"
+#include "tests/toolkit/EditFixture.h"
+
+using namespace toolkit;
+
+TEST_F(EditTest, TypedTextGoesInPlaceOfTheSelectionAndTheParentHearsOfEachLetter)
+{
+    desktop.Type("aä");
+    EXPECT_EQ("aä|", State());
+    EXPECT_EQ(Ledger({"update", "change", "update", "change"}), TakeLedger());
+
+    Key('A', kControl);
+    desktop.Type("x");
+    EXPECT_EQ("x|", State());
+    TakeLedger();
+    Key(VK_RETURN);
+    Key(VK_TAB);
+    Key(VK_ESCAPE);
+    EXPECT_EQ("x|", State());
+    EXPECT_EQ(Ledger(), TakeLedger());
+}
+
+TEST_F(EditTest, SettingTheTextCountsAsAChangeEvenToWhatItWasAndPutsTheCaretAtItsStart)
+{
+    desktop.Type("ab");
+    EXPECT_TRUE(edit.GetModify());
+    TakeLedger();
+    edit.SetWindowText("ab");
+    EXPECT_EQ("|ab", State());
+    EXPECT_EQ(Ledger({"update", "change"}), TakeLedger());
+    EXPECT_FALSE(edit.GetModify());
+    EXPECT_FALSE(edit.Undo()) << "nothing is left of what was typed";
+    edit.SetWindowText("");
+    EXPECT_EQ(Ledger({"update", "change"}), TakeLedger());
+
+    other.DestroyWindow();
+    ASSERT_TRUE(other.CreateEx(0, "EDIT", "born", WS_CHILD, CRect(0, 0, 9, 9), &top, 1));
+    EXPECT_EQ("born", other.GetWindowText());
+    EXPECT_EQ(Ledger(), TakeLedger()) << "the text it is born with is no change";
+}
+
+TEST_F(EditTest, KeysMoveTheCaretByCharactersAndWordsAndSelectWithShift)
+{
+    Set("walk le\u0301ft");
+    Key(VK_LEFT);
+    Key(VK_LEFT);
+    Key(VK_LEFT);
+    EXPECT_EQ("walk l|e\u0301ft", State()) << "never between a letter and its mark";
+    Key(VK_LEFT, kBoth);
+    Key(VK_LEFT, kBoth);
+    EXPECT_EQ("[walk l]e\u0301ft", State());
+    Key(VK_RIGHT);
+    EXPECT_EQ("walk l|e\u0301ft", State()) << "an arrow leaves the selection at its end";
+    Key(VK_END, kShift);
+    EXPECT_EQ("walk l[e\u0301ft]", State());
+    Key(VK_RIGHT, kShift);
+    Key(VK_HOME, kShift);
+    EXPECT_EQ("[walk l]e\u0301ft", State());
+    Key(VK_HOME);
+    Key(VK_RIGHT, kControl);
+    EXPECT_EQ("walk |le\u0301ft", State());
+    EXPECT_EQ(Ledger(), TakeLedger()) << "moving is no change";
+}
+
+TEST_F(EditTest, DeletingTakesWholeCharactersWordsOrTheSelection)
+{
+    Set("a be\u0301 cd");
+    Key(VK_BACK);
+    EXPECT_EQ("a be\u0301 c|", State());
+    Key(VK_BACK, kControl);
+    EXPECT_EQ("a be\u0301 |", State());
+    Key(VK_LEFT);
+    Key(VK_BACK);
+    EXPECT_EQ("a b| ", State());
+    Key(VK_HOME);
+    Key(VK_DELETE);
+    EXPECT_EQ("| b ", State());
+    Key(VK_DELETE, kControl);
+    EXPECT_EQ("|b ", State());
+    TakeLedger();
+    Key(VK_BACK);
+    EXPECT_EQ(Ledger(), TakeLedger()) << "nothing before the start";
+    Key('A', kControl);
+    Key(VK_DELETE);
+    EXPECT_EQ("|", State());
+}
+
+TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)
+{
+    Set("walk left");
+    Key('C', kControl);
+    EXPECT_EQ("-", Clipboard()) << "nothing is selected";
+    edit.SetSel(5, -1);
+    Key('X', kControl);
+    EXPECT_EQ("walk |", State());
+    EXPECT_EQ("left", Clipboard());
+    Key('V', kControl);
+    Key(VK_INSERT, kShift);
+    EXPECT_EQ("walk leftleft|", State());
+    Key('Z', kControl);
+    EXPECT_EQ("walk left|", State());
+    Key(VK_BACK, kAlt);
+    EXPECT_EQ("walk leftleft|", State()) << "undone twice is done again";
+
+    edit.SetSel(0, 4);
+    Key(VK_INSERT, kControl);
+    EXPECT_EQ("walk", Clipboard());
+    Key(VK_DELETE, kShift);
+    EXPECT_EQ("| leftleft", State());
+
+    TakeClipboard("\r\nfirst \tline\nsecond");
+    Key('A', kControl);
+    TakeLedger();
+    Key('V', kControl);
+    EXPECT_EQ("first \tline|", State()) << "a single line takes one line";
+    EXPECT_EQ(Ledger({"update", "change"}), TakeLedger());
+}
+
+TEST_F(EditTest, TheLimitCutsWhatIsTypedOrPastedBetweenCharactersAndSaysSo)
+{
+    edit.LimitText(4);
+    Set("abc");
+    TakeClipboard("€");
+    Key('V', kControl);
+    EXPECT_EQ("abc|", State());
+    EXPECT_EQ(Ledger({"too long"}), TakeLedger());
+    TakeClipboard("xyz");
+    Key('V', kControl);
+    EXPECT_EQ("abcx|", State());
+    EXPECT_EQ(Ledger({"update", "change", "too long"}), TakeLedger());
+    edit.SetSel(0, 2);
+    desktop.Type("ä");
+    EXPECT_EQ("ä|cx", State()) << "what it replaces makes room";
+
+    edit.SetReadOnly();
+    desktop.Type("z");
+    Key(VK_BACK);
+    Key('V', kControl);
+    Key('Z', kControl);
+    EXPECT_EQ("ä|cx", State());
+    edit.SetSel(0, -1);
+    Key('X', kControl);
+    EXPECT_EQ("äcx", Clipboard()) << "a read-only field can be copied from";
+}
+
+TEST_F(EditTest, PositionsAreBytesAndOnesInsideACharacterCountAsItsStart)
+{
+    Set("a€e\u0301x");
+    edit.SetSel(2, 6);
+    EXPECT_EQ("a[€]e\u0301x", State());
+    edit.SetSel(0, -1);
+    EXPECT_EQ("[a€e\u0301x]", State());
+    EXPECT_EQ(MAKELONG(0, 8), edit.SendMessage(EM_GETSEL));
+    edit.SetSel(-1, 0);
+    EXPECT_EQ("a€e\u0301x|", State()) << "the caret was at the end";
+    edit.SetSel(4, 1);
+    EXPECT_EQ("a[€]e\u0301x", State());
+    Key(VK_LEFT, kShift);
+    EXPECT_EQ("[a€]e\u0301x", State()) << "the second position is the caret's";
+    edit.ReplaceSel("b", TRUE);
+    EXPECT_EQ("b|e\u0301x", State());
+    EXPECT_TRUE(edit.Undo());
+    EXPECT_EQ("[a€]e\u0301x", State());
+}
+
+TEST_F(EditTest, TheMousePlacesTheCaretAndSelectsByDraggingByWordsAndWithShift)
+{
+    Set("walk left.png");
+    desktop.Click(edit.m_hWnd, At(2));
+    EXPECT_EQ("wa|lk left.png", State());
+    desktop.Hold(kShift);
+    desktop.Click(edit.m_hWnd, At(6));
+    desktop.Hold({});
+    EXPECT_EQ("wa[lk l]eft.png", State());
+
+    desktop.Press(edit.m_hWnd, At(7));
+    desktop.MoveTo(edit.m_hWnd, At(1));
+    EXPECT_EQ("w[alk le]ft.png", State());
+    desktop.MoveTo(other.m_hWnd, {-30, 5});
+    EXPECT_EQ("[walk le]ft.png", State()) << "the mouse is captured";
+    desktop.Release(edit.m_hWnd, At(1));
+    EXPECT_EQ(nullptr, ::GetCapture());
+
+    desktop.DoubleClick(edit.m_hWnd, At(9) - CPoint(2, 0)); // the right half of the last letter
+    EXPECT_EQ("walk [left].png", State());
+    desktop.Click(edit.m_hWnd, At(0));
+    desktop.Press(edit.m_hWnd, At(0)); // the second press of a double click
+    desktop.MoveTo(edit.m_hWnd, At(6));
+    EXPECT_EQ("[walk left].png", State()) << "a drag after a double click takes words";
+    desktop.Release(edit.m_hWnd, At(6));
+
+    desktop.Click(other.m_hWnd, {5, 5});
+    EXPECT_EQ(other.m_hWnd, ::GetFocus());
+    EXPECT_EQ(Ledger({"focus goes"}), TakeLedger());
+}
+
+TEST_F(EditTest, LongTextScrollsWithTheCaretAndUnderTheMouseHeldOutside)
+{
+    Set("a long text that does not fit the field at all");
+    const int right = 98;
+    const int nEnd = edit.GetWindowText().GetLength();
+    EXPECT_GE(right - 3, edit.PosFromChar(static_cast<UINT>(nEnd)).x);
+    EXPECT_LT(right - 10, edit.PosFromChar(static_cast<UINT>(nEnd)).x) << "no farther than needed";
+    Key(VK_HOME);
+    EXPECT_EQ(3, edit.PosFromChar(0).x);
+    edit.SetSel(0, -1, TRUE);
+    EXPECT_EQ(3, edit.PosFromChar(0).x) << "selecting does not scroll when told not to";
+
+    desktop.Press(edit.m_hWnd, At(2));
+    desktop.MoveTo(edit.m_hWnd, {150, 5});
+    desktop.Advance(3000);
+    EXPECT_EQ("a [long text that does not fit the field at all]", State());
+    desktop.Release(edit.m_hWnd, {150, 5});
+    Key(VK_END);
+    for (int i = 0; i < 40; ++i)
+        Key(VK_BACK);
+    EXPECT_EQ(3, edit.PosFromChar(0).x) << "no empty room is left at the right";
+}
+
+TEST_F(EditTest, TheCaretBlinksWhileTheFieldHasTheFocusAndStaysOnWhileItIsUsed)
+{
+    const auto isCaretSeen = [this](const CEdit& field, UINT at) {
+        const CPoint place = field.PosFromChar(at) + CPoint(field.GetStyle() & WS_BORDER ? 1 : 0, 4);
+        return desktop.Dump(field.m_hWnd).At(place.x, place.y) == ToPixel(GetSysColor(COLOR_WINDOWTEXT));
+    };
+    Set("");
+    EXPECT_TRUE(isCaretSeen(edit, 0));
+    desktop.Advance(530);
+    EXPECT_FALSE(isCaretSeen(edit, 0));
+    desktop.Advance(530);
+    EXPECT_TRUE(isCaretSeen(edit, 0));
+    desktop.Advance(400);
+    desktop.Type(" ");
+    desktop.Advance(400);
+    EXPECT_TRUE(isCaretSeen(edit, 1)) << "typing starts it anew";
+    other.SetFocus();
+    EXPECT_FALSE(isCaretSeen(edit, 1));
+    EXPECT_TRUE(isCaretSeen(other, 0));
+}
+
+TEST_F(EditTest, TheMouseIsABeamOverTheFieldAndAnArrowBesideIt)
+{
+    desktop.MoveTo(edit.m_hWnd, {5, 5});
+    EXPECT_EQ(Cursor::Text, desktop.CurrentCursor());
+    desktop.MoveTo(top.m_hWnd, {5, 5});
+    EXPECT_EQ(Cursor::Arrow, desktop.CurrentCursor());
+    desktop.MoveTo(other.m_hWnd, {5, 5});
+    desktop.MoveTo(edit.m_hWnd, {-1, -1}); // on its border
+    EXPECT_EQ(Cursor::Arrow, desktop.CurrentCursor());
+}
+
+TEST_F(EditTest, WhatAnInputMethodComposesIsSeenButNoPartOfTheText)
+{
+    Set("ab");
+    const CPoint before = edit.PosFromChar(2);
+    TextInput* pInput = FocusedTextInput();
+    ASSERT_NE(nullptr, pInput);
+    pInput->Compose("´x", 2);
+    EXPECT_EQ("ab|", State());
+    EXPECT_EQ(Ledger(), TakeLedger());
+    const TextInputState state = pInput->GetTextInput();
+    EXPECT_EQ(edit.m_hWnd, state.hWnd);
+    EXPECT_EQ("ab", state.text);
+    EXPECT_EQ(2u, state.cursor);
+    EXPECT_LT(before.x, state.caret.left);
+    const CPoint underline(before.x + 4, before.y + CurrentTextEngine().LineHeight()); // the border is a pixel wide
+    EXPECT_EQ(ToPixel(GetSysColor(COLOR_WINDOWTEXT)), desktop.Dump(edit.m_hWnd).At(underline.x, underline.y));
+    pInput->Compose("", 0);
+    EXPECT_EQ(ToPixel(GetSysColor(COLOR_WINDOW)), desktop.Dump(edit.m_hWnd).At(underline.x, underline.y));
+
+    edit.SetSel(2, 0);
+    EXPECT_EQ(0u, pInput->GetTextInput().cursor);
+    EXPECT_EQ(2u, pInput->GetTextInput().anchor);
+    top.SetFocus();
+    EXPECT_EQ(nullptr, FocusedTextInput());
+}
+
+// What a handler does to the field meanwhile is what counts.
+TEST_F(EditTest, AFieldThatIsDestroyedOrSetAnewByWhoHearsOfItsChangeIsSafe)
+{
+    class Parent : public CWnd
+    {
+    public:
+        CEdit* pEdit = nullptr;
+
+    protected:
+        BOOL OnCommand(WPARAM wParam, LPARAM) override
+        {
+            if (HIWORD(wParam) == EN_UPDATE && pEdit->GetWindowText() == "ab")
+                pEdit->SetWindowText("anew");
+            if (HIWORD(wParam) == EN_CHANGE && pEdit->GetWindowText().GetLength() > 5)
+                pEdit->DestroyWindow();
+            return TRUE;
+        }
+    } parent;
+    ASSERT_TRUE(parent.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(200, 0, 300, 50), &top, 3));
+    CEdit field;
+    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
+    parent.pEdit = &field;
+    field.SetFocus();
+    desktop.Type("ab");
+    EXPECT_EQ("|anew", FieldState(field.m_hWnd));
+    desktop.Type("xyz");
+    EXPECT_EQ(nullptr, field.m_hWnd);
+    EXPECT_EQ(parent.m_hWnd, ::GetFocus());
+}
