@@ -47,7 +47,7 @@ int CObjectsTree::ImageOf(IAtom* pAtom, const TVITEM& item)
     return bOpen ? m_nOpenImage : m_nDefaultImage;
 }
 
-// -1 when the icon could not be added, now or when it was tried first.
+// -1 when the icon could not be added, be it for lack of memory, now or when it was tried first.
 int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
 {
     if (const views::ICONSLOT* pSlot = m_iconSlots.Find(hItem))
@@ -56,7 +56,12 @@ int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
         CRect rect;
         return GetItemRect(hShown, &rect, FALSE) != FALSE;
     });
-    const int nImage = pIcon->AddToImageList(m_images.GetSafeHandle(), nFree);
+    int nImage = -1;
+    try {
+        nImage = pIcon->AddToImageList(m_images.GetSafeHandle(), nFree);
+    } catch (const CMemoryException&) {
+        // As for an icon that fails.
+    }
     try {
         m_iconSlots.Lend(hItem, nImage);
     } catch (CMemoryException& e) {
@@ -66,9 +71,10 @@ int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
 }
 
 // An item that is collapsed hides those below it.
-BOOL CObjectsTree::OnItemExpanded(NMTREEVIEW*, LRESULT* pResult)
+BOOL CObjectsTree::OnItemExpanded(NMTREEVIEW* pChange, LRESULT* pResult)
 {
-    m_iconSlots.ItemsHidden();
+    if (pChange->action == TVE_COLLAPSE)
+        m_iconSlots.ItemsHidden();
     *pResult = 0;
     return FALSE; // the parent window hears of it, too
 }
@@ -80,8 +86,10 @@ bool CObjectsTree::AnswerLabel(IAtom* pAtom, TVITEM& item)
     try {
         const bool bModified = pAtom->IsModified() != FALSE;
         const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
-        item.pszText = pDispAtom ? views::BuildLabel(pDispAtom.Get(), &IDispAtom::GetDisplayName, bModified, m_strLabel)
-                                 : views::BuildLabel(pAtom, &IAtom::GetName, bModified, m_strLabel);
+        CString strLabel = std::move(m_strLabel); // lent: should the atom have the tree draw now, that takes another
+        item.pszText = pDispAtom ? views::BuildLabel(pDispAtom.Get(), &IDispAtom::GetDisplayName, bModified, strLabel)
+                                 : views::BuildLabel(pAtom, &IAtom::GetName, bModified, strLabel);
+        m_strLabel = std::move(strLabel);
         if (item.pszText)
             return true;
         item.pszText = const_cast<LPSTR>(kUnnamed); // read, never written

@@ -9,7 +9,7 @@ const views::ICONSLOT* views::TreeIconSlots::Find(HTREEITEM hItem) const
 void views::TreeIconSlots::Lend(HTREEITEM hItem, int nImage)
 {
     GiveUp(hItem);
-    const auto slot = m_slots.insert(m_slots.end(), {hItem, nImage});
+    const auto slot = m_slots.insert(m_slots.end(), {{hItem, nImage}, ++m_nLast});
     if (m_next == m_slots.end())
         m_next = slot;
     try {
@@ -25,14 +25,20 @@ void views::TreeIconSlots::GiveUp(HTREEITEM hItem)
     const auto found = m_lent.find(hItem);
     if (found == m_lent.end())
         return;
-    found->second->hItem = nullptr;
+    const Slots::iterator slot = found->second;
+    slot->hItem = nullptr;
     m_lent.erase(found);
-    m_next = m_slots.begin();
+    try {
+        m_givenUp.emplace(slot->nNumber, slot);
+    } catch (const std::bad_alloc&) {
+        m_next = m_slots.begin(); // finds it, too
+    }
 }
 
 void views::TreeIconSlots::Clear()
 {
     m_lent.clear();
+    m_givenUp.clear();
     m_slots.clear();
     m_next = m_slots.begin();
 }
@@ -40,7 +46,10 @@ void views::TreeIconSlots::Clear()
 int views::TreeIconSlots::Remove(Slots::iterator slot)
 {
     const int nImage = slot->nImage;
-    m_lent.erase(slot->hItem);
+    if (slot->hItem)
+        m_lent.erase(slot->hItem);
+    else
+        m_givenUp.erase(slot->nNumber);
     m_slots.erase(slot);
     return nImage;
 }

@@ -4,7 +4,9 @@
 #include "Toolkit/controls/TreeView.h"
 #include "Views/host/Api.h"
 
+#include <cstdint>
 #include <list>
+#include <map>
 #include <unordered_map>
 
 namespace views
@@ -20,8 +22,9 @@ struct ICONSLOT
 // hidden in a collapsed branch, the one lent longest ago first; so there are about as many images as items with icons
 // are shown at a time.
 //
-// Looking for a slot goes on where the last search ended, so that drawing one item after another costs the same for
-// each; it begins anew after a slot was given up or items were hidden.
+// Looking for a slot goes on where the last search ended, and knows which of those before were given up since, so that
+// drawing one item after another costs the same for each, however many have an image; it begins anew after items were
+// hidden.
 class VIEWS_API TreeIconSlots
 {
 public:
@@ -37,6 +40,8 @@ public:
     template <class IsShown>
     int TakeOver(const IsShown& isShown)
     {
+        if (!m_givenUp.empty() && (m_next == m_slots.end() || m_givenUp.begin()->first < m_next->nNumber))
+            return Remove(m_givenUp.begin()->second);
         while (m_next != m_slots.end() && m_next->hItem && isShown(m_next->hItem))
             ++m_next;
         return m_next == m_slots.end() ? -1 : Remove(m_next++);
@@ -48,13 +53,19 @@ public:
     void ItemsHidden() { m_next = m_slots.begin(); }
 
 private:
-    using Slots = std::list<ICONSLOT>; // the oldest first
+    struct Slot : ICONSLOT
+    {
+        std::uint64_t nNumber; // the older, the smaller
+    };
+    using Slots = std::list<Slot>; // the oldest first
 
     int Remove(Slots::iterator slot);
 
     Slots m_slots;
-    Slots::iterator m_next = m_slots.begin(); // those before it were in use when last asked about
+    Slots::iterator m_next = m_slots.begin(); // those before it are in use, or among those given up
     std::unordered_map<HTREEITEM, Slots::iterator> m_lent;
+    std::map<std::uint64_t, Slots::iterator> m_givenUp; // by their numbers
+    std::uint64_t m_nLast = 0;
 };
 
 } // namespace views

@@ -98,6 +98,7 @@ TEST_F(TreeDisplayTest, AtomsWithoutAnIconShowAFolderThatIsOpenWhileItsItemIs)
 {
     FakeAtom* const pBad = AddIcon(box, "bad");
     pBad->iconFails = true;
+    AddIcon(box, "big")->iconNeedsTooMuch = true;
     ProbeTree& tree = ShowTree();
     const auto images = [&](FakeAtom* pAtom, UINT state) {
         const TVITEM item = Ask(tree, pAtom, TVIF_IMAGE, state);
@@ -107,7 +108,8 @@ TEST_F(TreeDisplayTest, AtomsWithoutAnIconShowAFolderThatIsOpenWhileItsItemIs)
     EXPECT_EQ(std::pair(1, 1), images(box, TVIS_EXPANDED));
     EXPECT_EQ(std::pair(0, 0), images(a, TVIS_EXPANDED));
     EXPECT_EQ(std::pair(0, 0), images(pBad, 0));
-    EXPECT_EQ(Ledger({"icon bad at -1"}), TakeIcons()); // and is not tried again
+    EXPECT_EQ(std::pair(0, 0), images(box->Named("big"), 0));
+    EXPECT_EQ(Ledger({"icon bad at -1", "icon big at -1"}), TakeIcons()); // and are not tried again
     EXPECT_EQ(-7, Ask(tree, box, TVIF_SELECTEDIMAGE).iSelectedImage);
 }
 

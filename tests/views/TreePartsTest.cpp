@@ -42,11 +42,17 @@ TEST(TreeIconSlotsTest, DrawingManyItemsAsksAboutEachOfThemOnce)
 {
     views::TreeIconSlots slots;
     int nAsked = 0;
+    const auto takeOver = [&] { return slots.TakeOver([&](HTREEITEM) { return ++nAsked != 0; }); };
     for (int i = 1; i <= 1000; ++i) {
-        EXPECT_EQ(-1, slots.TakeOver([&](HTREEITEM) { return ++nAsked != 0; }));
+        EXPECT_EQ(-1, takeOver());
         slots.Lend(Item(i), i);
     }
-    EXPECT_LE(nAsked, 1000);
+    for (int i = 1000; i > 0; i -= 3) { // their icons have changed
+        slots.GiveUp(Item(i));
+        EXPECT_EQ(i, takeOver());
+        slots.Lend(Item(i), i);
+    }
+    EXPECT_LE(nAsked, 2000);
 }
 
 // A source of names that fills what it likes.
