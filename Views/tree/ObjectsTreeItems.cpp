@@ -103,7 +103,7 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEI
         pRecord->pContainer = CStubRef<IAtomContainer>::Share(pContainer);
         const HTREEITEM hItem = HandToControl(pRecord.get(), hParent);
         if (!hItem) {
-            if (hParent == TVI_ROOT || RecordOf(hParent))
+            if (!m_bClosing && (hParent == TVI_ROOT || RecordOf(hParent)))
                 ReportInsertFailed();
             return nullptr;
         }

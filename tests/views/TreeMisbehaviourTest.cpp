@@ -132,6 +132,40 @@ TEST_F(TreeMisbehaviourTest, AContainerMayGoWhileItsMembersAreFetched)
     EXPECT_EQ(1, pLate->Named("x")->CountReferences());
 }
 
+// An atom that does something else while it says its name.
+class RestlessAtom : public FakeAtom
+{
+public:
+    using FakeAtom::FakeAtom;
+
+    std::function<void()> onName; // once
+
+    BOOL GetName(char* pBuffer, DWORD* pLength) override
+    {
+        const BOOL bRead = FakeAtom::GetName(pBuffer, pLength);
+        if (const auto deed = pBuffer ? std::exchange(onName, nullptr) : nullptr)
+            deed();
+        return bRead;
+    }
+};
+
+TEST_F(TreeMisbehaviourTest, AnAtomMayHaveTheTreeDrawOrDestroyItWhileItIsAskedForItsName)
+{
+    auto* const pRestless = new RestlessAtom("a restless one");
+    box->Add(pRestless);
+    ProbeTree& tree = ShowTree();
+    Find("a")->name.assign(1000, 'a'); // more than the buffer has held so far
+    pRestless->onName = [&] { tree.OnChangeAtom(box, world.Get()); };
+    tree.nLabels = 0;
+    EXPECT_EQ("a restless one", std::string(tree.GetItemText(tree.GetItem(pRestless))));
+    EXPECT_GT(tree.nLabels, 5);
+
+    pRestless->onName = [&] { tree.DestroyWindow(); };
+    EXPECT_FALSE(tree.OnCreateAtom(pRestless, nullptr));
+    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
+    EXPECT_EQ(1, pRestless->CountReferences());
+}
+
 TEST_F(TreeMisbehaviourTest, WithTheSelectedItemGoneAndItsHeirRefusedNothingIsSelectedOrBold)
 {
     ProbeTree& tree = ShowTree();
