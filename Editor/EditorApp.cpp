@@ -26,7 +26,7 @@ struct EditorApp::Parts
     ~Parts()
     {
         pFrame.reset();
-        atomEditor.ForgetActiveAtom();
+        atomEditor.ForgetAtoms();
         pPictures->Stop();
     }
 

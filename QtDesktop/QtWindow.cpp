@@ -43,6 +43,8 @@ Qt::CursorShape ToQt(toolkit::Cursor cursor)
         return Qt::IBeamCursor;
     case toolkit::Cursor::Hand:
         return Qt::PointingHandCursor;
+    case toolkit::Cursor::SizeWE:
+        return Qt::SplitHCursor;
     default:
         return Qt::ArrowCursor;
     }

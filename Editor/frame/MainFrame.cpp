@@ -1,17 +1,11 @@
 #include "Editor/frame/MainFrame.h"
 
 #include "Editor/frame/Look.h"
-#include "Editor/resources/EditorResources.h"
-#include "Editor/resources/Pictograms.h"
+
+#include <utility>
 
 namespace editor
 {
-namespace
-{
-
-constexpr DWORD kListPane = 1;
-
-} // namespace
 
 BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_CREATE()
@@ -26,6 +20,8 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_pictures(pictures),
       m_closed(std::move(closed)),
       m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),
+      m_treePane(kSpace / 2),
+      m_splitter([this](int x) { MoveSplitter(x); }),
       m_list([this] { return DescribeEmptyList(); }),
       m_picture(pictures),
       m_statusBar([this] { return GetStatus(); })
@@ -41,25 +37,15 @@ BOOL CMainFrame::Create(CSize client)
     return CreateEx(0, "", "Views", WS_OVERLAPPED | WS_CLIPCHILDREN, CRect(CPoint(), client), nullptr, 0);
 }
 
+// The former library goes when nothing of it is selected any more.
 void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 {
+    const auto pFormer = std::exchange(m_pLibrary, CStubRef<CLibrary>::Share(pLibrary));
+    m_editor.AddTop(pLibrary);
+    m_tree.ExpandAtom(pLibrary);
     GoTo(pLibrary);
-}
-
-void CMainFrame::AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon)
-{
-    if (kind != kListPane)
-        return;
-    const toolkit::Surface* const pIcon = toolkit::IconSurface(hIcon);
-    m_listPane.ShowView(hWnd, pszCaption ? pszCaption : "", pIcon ? *pIcon : toolkit::Surface());
-    if (::GetFocus() == nullptr || ::GetFocus() == m_hWnd)
-        ::SetFocus(hWnd);
-}
-
-void CMainFrame::RemovePane(DWORD kind, HWND hWnd)
-{
-    if (kind == kListPane && hWnd == m_listPane.GetView())
-        m_listPane.HideView();
+    if (pFormer)
+        m_editor.RemoveTop(pFormer.Get());
 }
 
 BOOL CMainFrame::OnCreateAtom(IAtom*, IAtomContainer*)
@@ -115,11 +101,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
-    // Registered before the list, the frame hears of everything first.
+    // The frame hears of everything first; the list, when it is registered before the tree, shows what was entered
+    // by the time that the tree selects it.
     m_editor.SetFrame(this);
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
-    const bool bMade = m_pathBar.Create(this) && m_listPane.Create(this) && m_picturePane.Create(this) &&
-                       m_statusBar.Create(this) && m_list.Create(&m_listPane) && m_picture.Create(&m_picturePane);
+    const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
+                       m_listPane.Create(this) && m_picturePane.Create(this) && m_statusBar.Create(this) &&
+                       m_list.Create(&m_listPane) && m_tree.Create(&m_treePane) && m_picture.Create(&m_picturePane);
     return bMade ? 0 : -1;
 }
 
@@ -141,43 +129,14 @@ void CMainFrame::OnClose()
 void CMainFrame::OnSize(UINT nType, int cx, int cy)
 {
     CWnd::OnSize(nType, cx, cy);
-    Arrange(cx, cy);
-}
-
-// Between path and status the panes; the picture takes the list's place.
-void CMainFrame::Arrange(int cx, int cy)
-{
-    const int bottom = std::max(kPathBarHeight, cy - kStatusBarHeight);
-    m_pathBar.MoveWindow(CRect(0, 0, cx, kPathBarHeight));
-    for (CPane* const pPane : {&m_listPane, &m_picturePane})
-        pPane->MoveWindow(CRect(0, kPathBarHeight, cx, bottom));
-    m_statusBar.MoveWindow(CRect(0, bottom, cx, bottom + kStatusBarHeight));
+    Arrange();
 }
 
 // The focus is the views' own; the frame passes on what falls to it when one is hidden.
 void CMainFrame::OnSetFocus(CWnd* pOldWnd)
 {
     CWnd::OnSetFocus(pOldWnd);
-    if (IsPictureShown())
-        m_picture.SetFocus();
-    else if (m_list.IsWindowVisible())
-        m_list.SetFocus();
-}
-
-void CMainFrame::ShowPicture(CMember* pMember)
-{
-    m_picture.SetAtom(pMember);
-    m_picturePane.ShowView(m_picture.GetSafeHwnd(), pMember->ShownName(),
-                           GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent));
-    m_picture.SetFocus();
-}
-
-void CMainFrame::HidePicture()
-{
-    if (!IsPictureShown())
-        return;
-    m_picture.SetAtom(nullptr);
-    m_picturePane.HideView();
+    FocusContent();
 }
 
 void CMainFrame::UpdatePath()

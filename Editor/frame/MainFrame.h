@@ -1,10 +1,13 @@
-// The editor's window: the path at the top, the panes, the status at the bottom.
+// The editor's window: the path at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
 #include "Editor/frame/EditorList.h"
+#include "Editor/frame/EditorTree.h"
 #include "Editor/frame/Pane.h"
+#include "Editor/frame/PaneLayout.h"
 #include "Editor/frame/PathBar.h"
 #include "Editor/frame/PictureView.h"
+#include "Editor/frame/Splitter.h"
 #include "Editor/frame/StatusBar.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
@@ -23,8 +26,10 @@ public:
     CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed);
     ~CMainFrame() override;
 
-    BOOL Create(CSize client); // a top-level window with the list in it, not shown yet
-    void ShowLibrary(CLibrary* pLibrary);
+    BOOL Create(CSize client);            // a top-level window with the views in it, not shown yet
+    void ShowLibrary(CLibrary* pLibrary); // in place of the one before
+    CEditorTree& GetTree() { return m_tree; }
+    CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_list; }
     CPathBar& GetPathBar() { return m_pathBar; }
     CPictureView& GetPictureView() { return m_picture; }
@@ -33,6 +38,7 @@ public:
     void GoUp();        // nothing at the top
     void OpenFocused(); // the list's focused row
     void Refresh();     // reads what is shown anew
+    void FocusNextPane();
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
@@ -60,9 +66,15 @@ private:
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
     void GoTo(CMember* pMember); // opens it, whatever it is
     void GoBackTo(CContainer* pContainer);
-    void GoToPart(int nPart);             // of the path
-    bool HandleKey(UINT vkey, bool bAlt); // false: it means nothing here
-    void Arrange(int cx, int cy);
+    void GoToPart(int nPart);                        // of the path
+    bool HandleKey(HWND hWnd, UINT vkey, bool bAlt); // the window has the focus; false: the key means nothing here
+    bool HandleFrameKey(UINT vkey);                  // in any pane
+    bool HandleContentKey(UINT vkey);
+    bool HandleTreeKey(UINT vkey);
+    CPane* PaneOfKind(DWORD kind); // NULL: none
+    void Arrange();
+    void MoveSplitter(int x);
+    void FocusContent(); // the pane at the right
     void ShowPicture(CMember* pMember);
     void HidePicture();
     void UpdatePath();
@@ -75,10 +87,14 @@ private:
     PictureStore& m_pictures;
     const std::function<void()> m_closed;
     DWORD m_dwHandlerCookie = 0;
+    CStubRef<CLibrary> m_pLibrary;
     CStubRef<CMember> m_pShown;
     CPathBar m_pathBar;
-    CPane m_listPane, m_picturePane;
+    CPane m_treePane, m_listPane, m_picturePane;
+    CSplitter m_splitter;
+    int m_nTreeWidth = PaneLayout::kUsualTree; // what the user wants, if there is room
     CEditorList m_list;
+    CEditorTree m_tree;
     CPictureView m_picture;
     CStatusBar m_statusBar;
 };

@@ -34,24 +34,52 @@ void CMainFrame::Refresh()
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 {
-    const bool bKey = pMsg->message == WM_KEYDOWN || pMsg->message == WM_SYSKEYDOWN;
-    const bool bOurs = pMsg->hwnd == m_hWnd || pMsg->hwnd == m_list.m_hWnd || pMsg->hwnd == m_picture.m_hWnd;
-    if (bKey && bOurs && HandleKey(static_cast<UINT>(pMsg->wParam), pMsg->message == WM_SYSKEYDOWN))
+    const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
+    if ((bAlt || pMsg->message == WM_KEYDOWN) && HandleKey(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
 }
 
-bool CMainFrame::HandleKey(UINT vkey, bool bAlt)
+bool CMainFrame::HandleKey(HWND hWnd, UINT vkey, bool bAlt)
 {
-    if (bAlt ? vkey == VK_UP : vkey == VK_BACK || (IsPictureShown() && (vkey == VK_ESCAPE || vkey == VK_RETURN)))
-        GoUp();
-    else if (!bAlt && vkey == VK_RETURN)
-        OpenFocused();
-    else if (!bAlt && vkey == VK_F5)
+    const bool bTree = hWnd == m_tree.m_hWnd;
+    const bool bContent = hWnd == m_hWnd || hWnd == m_list.m_hWnd || hWnd == m_picture.m_hWnd;
+    if (vkey == VK_ESCAPE && m_splitter.IsDragged())
+        return m_splitter.CancelDrag(), true;
+    if (bAlt)
+        return vkey == VK_UP && (bTree || bContent) && (GoUp(), true);
+    return (bTree && HandleTreeKey(vkey)) || (bContent && HandleContentKey(vkey)) ||
+           ((bTree || bContent) && HandleFrameKey(vkey));
+}
+
+bool CMainFrame::HandleFrameKey(UINT vkey)
+{
+    if (vkey == VK_F6 || vkey == VK_TAB)
+        FocusNextPane();
+    else if (vkey == VK_F5)
         Refresh();
     else
         return false;
     return true;
+}
+
+bool CMainFrame::HandleContentKey(UINT vkey)
+{
+    if (vkey == VK_BACK || (IsPictureShown() && (vkey == VK_ESCAPE || vkey == VK_RETURN)))
+        GoUp();
+    else if (vkey == VK_RETURN)
+        OpenFocused();
+    else
+        return false;
+    return true;
+}
+
+// What is selected in the tree is open already: the user goes on with what it holds.
+bool CMainFrame::HandleTreeKey(UINT vkey)
+{
+    if (vkey == VK_RETURN)
+        FocusContent();
+    return vkey == VK_RETURN;
 }
 
 void CMainFrame::GoTo(CMember* pMember)

@@ -75,7 +75,8 @@ void CPane::PlaceView()
 {
     CRect client;
     GetClientRect(&client);
-    ::MoveWindow(m_hView, 0, kPaneCaptionHeight, client.Width(), std::max(0, client.Height() - kPaneCaptionHeight));
+    const int top = kPaneCaptionHeight + m_nMargin;
+    ::MoveWindow(m_hView, m_nMargin, top, std::max(0, client.Width() - m_nMargin), std::max(0, client.Height() - top));
 }
 
 } // namespace editor

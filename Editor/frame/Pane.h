@@ -13,6 +13,7 @@ namespace editor
 class CPane : public CWnd
 {
 public:
+    explicit CPane(int margin = 0) : m_nMargin(margin) {} // pixels left of and above the view
     ~CPane() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
@@ -31,6 +32,7 @@ protected:
 private:
     void PlaceView();
 
+    const int m_nMargin;
     HWND m_hView = nullptr;
     std::string m_caption;
     toolkit::Surface m_icon;

@@ -36,6 +36,15 @@ void CContainer::ReadAgain()
     m_bRefused = false;
 }
 
+bool CContainer::HoldsAny()
+{
+    if (m_pContents)
+        return GetCount() > 0;
+    if (!m_holdsAny)
+        m_holdsAny = FindAny();
+    return *m_holdsAny;
+}
+
 std::string CContainer::ErrorReason() const
 {
     return m_pContents ? m_pContents->error : std::string();
@@ -141,6 +150,8 @@ void CContainer::MoveMembers(Contents& former, Contents& contents)
         while (next != present.end() && now.NameOf(*next) < name)
             ++next;
         CMember& member = *former.table.LiveAt(i);
+        if (auto* const pContainer = dynamic_cast<CContainer*>(&member))
+            pContainer->m_holdsAny.reset();
         if (next != present.end() && now.NameOf(*next) == name && now.KindOf(*next) == former.table.KindOf(i)) {
             now.Identify(*next, former.table.IdOf(i), &member);
             member.m_nIndex = *next++;

@@ -5,6 +5,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <utility>
 
 namespace editor
@@ -17,6 +18,9 @@ class CContainer : public CMember, public IAtomContainer
 public:
     // Members that are still there keep their atoms and identifiers.
     void ReadAgain();
+    // Whether there are members, found out without reading more than need be; known until the container it is in is
+    // read anew.
+    bool HoldsAny();
     std::string ErrorReason() const override; // why the members could not be read, once they were to be
 
     UINT GetCount() override;
@@ -41,6 +45,7 @@ protected:
     void* FindInterface(DWORD id) override;
     std::string LastError() const override;
     virtual Listing Read() = 0;
+    virtual bool FindAny() { return GetCount() > 0; }
     virtual UINT FindName(const MemberTable& table, std::string_view name) const = 0;
     virtual CMember* MakeMember(UINT nIndex, MemberKind kind) = 0; // with one reference
 
@@ -68,6 +73,7 @@ private:
     void Forget(const CMember& member);
 
     std::unique_ptr<Contents> m_pContents; // NULL until the members are asked for
+    std::optional<bool> m_holdsAny;        // as far as it was asked for before they were
     bool m_bRefused = false;               // a change, since the members were read
 };
 

@@ -29,7 +29,7 @@ Directory::~Directory()
         closedir(m_pDir);
 }
 
-void Directory::ForEach(const std::function<void(const char* pszName, bool isDirectory)>& entry)
+void Directory::ForEach(const std::function<bool(const char* pszName, bool isDirectory)>& entry)
 {
     if (!m_pDir)
         return;
@@ -40,8 +40,9 @@ void Directory::ForEach(const std::function<void(const char* pszName, bool isDir
             break;
         if (next->d_name[0] == '.')
             continue;
-        if (const Kind kind = KindOf(*next); kind != Kind::Other)
-            entry(next->d_name, kind == Kind::Directory);
+        const Kind kind = KindOf(*next);
+        if (kind != Kind::Other && !entry(next->d_name, kind == Kind::Directory))
+            return;
     }
     m_error = errno;
 }

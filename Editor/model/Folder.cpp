@@ -39,11 +39,26 @@ CContainer::Listing CFolder::Read()
         MemberKind kind = MemberKind::Folder;
         if (isDirectory || KindOfFile(pszName, Context(), kind))
             listing.table.Add(pszName, kind);
+        return true;
     });
     listing.table.Sort();
     if (directory.GetError() != 0)
         listing.error = SystemErrorText(directory.GetError());
     return listing;
+}
+
+bool CFolder::FindAny()
+{
+    Directory directory(Path());
+    bool bAny = false;
+    if (directory.GetError() == 0 && !IsInside(directory.GetIdentity())) {
+        directory.ForEach([&](const char* pszName, bool isDirectory) {
+            MemberKind kind;
+            bAny = isDirectory || KindOfFile(pszName, Context(), kind);
+            return !bAny;
+        });
+    }
+    return bAny;
 }
 
 CMember* CFolder::MakeMember(UINT nIndex, MemberKind kind)

@@ -16,6 +16,7 @@ public:
 
 protected:
     Listing Read() override;
+    bool FindAny() override;
     UINT FindName(const MemberTable& table, std::string_view name) const override { return table.FindSorted(name); }
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;
     toolkit::Surface DrawIcon(CSize size) override;

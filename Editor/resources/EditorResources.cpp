@@ -2,6 +2,8 @@
 
 #include "Editor/resources/Pictograms.h"
 
+#include <algorithm>
+
 namespace editor
 {
 namespace
@@ -17,6 +19,16 @@ toolkit::Surface WithTransparentColor(toolkit::Surface picture)
             if (picture.At(x, y) >> 24 == 0)
                 picture.Row(y)[x] = toolkit::ToPixel(kTransparent);
     return picture;
+}
+
+toolkit::Surface SideBySide(const toolkit::Surface& left, const toolkit::Surface& right)
+{
+    toolkit::Surface both({left.Width() + right.Width(), left.Height()});
+    for (int y = 0; y < left.Height(); ++y) {
+        std::copy_n(left.Row(y), left.Width(), both.Row(y));
+        std::copy_n(right.Row(y), right.Width(), both.Row(y) + left.Width());
+    }
+    return both;
 }
 
 void AddPane(CResourceModule& module, UINT nID, LPCSTR pszCaption, Pictogram icon)
@@ -35,6 +47,9 @@ void AddEditorResources(CResourceModule& module)
     module.AddString(IDS_RENAME_FAILED, "The name was not changed");
     module.AddString(IDS_CONFIRM_REMOVE, "Remove the selected objects?");
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
+    module.AddBitmap(IDB_TREE_ITEMS,
+                     WithTransparentColor(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),
+                                                     DrawPictogram(Pictogram::Folder, kTreeIconExtent))));
     AddPane(module, IDR_TREE_PANE, "Library", Pictogram::TreePane);
     AddPane(module, IDR_ICON_PANE, "Icons", Pictogram::IconPane);
     AddPane(module, IDR_THUMBNAIL_PANE, "Pictures", Pictogram::ThumbnailPane);

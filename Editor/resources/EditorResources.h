@@ -12,13 +12,15 @@ inline constexpr UINT IDS_NOT_INSERTED = 0xE00B; // the tree could not take an a
 inline constexpr UINT IDS_TREE_PANE = 0xE00D;
 inline constexpr UINT IDS_RENAME_FAILED = 0xE012;
 inline constexpr UINT IDS_CONFIRM_REMOVE = 0xE013;
-inline constexpr UINT IDB_FOLDER = 1006; // transparent where it is pure red
+inline constexpr UINT IDB_FOLDER = 1006;     // transparent where it is pure red
+inline constexpr UINT IDB_TREE_ITEMS = 1013; // for atoms without an icon: any, and one that is expanded
 inline constexpr UINT IDR_TREE_PANE = 1007;
 inline constexpr UINT IDR_ICON_PANE = 1008; // icon and caption, this one and the next
 inline constexpr UINT IDR_THUMBNAIL_PANE = 1009;
 
 inline constexpr int kIconExtent = 48;     // of a row's picture
 inline constexpr int kPaneIconExtent = 16; // of a pane's icon
+inline constexpr int kTreeIconExtent = 16; // of a tree item's
 
 // Fills the module with all of them.
 void AddEditorResources(CResourceModule& module);

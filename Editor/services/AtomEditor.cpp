@@ -3,6 +3,8 @@
 #include "Editor/model/ErrorInfo.h"
 #include "Toolkit/window/WindowApi.h"
 
+#include <utility>
+
 namespace editor
 {
 namespace
@@ -47,9 +49,31 @@ void CAtomEditor::GetInterface(DWORD id, void** out)
         *out = CErrorInfo::Make(m_archiveError).Detach();
 }
 
+void CAtomEditor::AddTop(IAtom* pTop)
+{
+    m_tops.push_back(CStubRef<IAtom>::Share(pTop));
+    NotifyHandlers(nullptr, &IAEStateHandler::OnCreateAtom, pTop, nullptr, 0);
+}
+
+void CAtomEditor::RemoveTop(IAtom* pTop)
+{
+    const auto pHeld = CStubRef<IAtom>::Share(pTop);
+    std::erase_if(m_tops, [pTop](const CStubRef<IAtom>& one) { return one.Get() == pTop; });
+    NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, pTop, nullptr, 0);
+}
+
+void CAtomEditor::ForgetAtoms()
+{
+    m_tops.clear();
+    m_pActive.Release();
+}
+
 DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
 {
-    return m_handlers.Register(hWnd, handler);
+    const DWORD dwCookie = m_handlers.Register(hWnd, handler);
+    for (std::size_t i = 0; i < m_tops.size(); ++i)
+        handler->OnCreateAtom(CStubRef<IAtom>::Share(m_tops[i].Get()).Get(), nullptr);
+    return dwCookie;
 }
 
 void CAtomEditor::UnregisterHandler(DWORD cookie)
@@ -60,11 +84,19 @@ void CAtomEditor::UnregisterHandler(DWORD cookie)
 BOOL CAtomEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
                                  IAtomContainer* container, DWORD)
 {
-    // A view may let go of both in the middle.
+    // A view may let go of both in the middle; and the tree, when it follows what was entered elsewhere, says that it
+    // was entered: everyone has heard of it or is about to.
     const auto pAtom = CStubRef<IAtom>::Share(atom);
     const auto pContainer = CStubRef<IAtomContainer>::Share(container);
     Note(sender, operation, atom, container);
-    return m_handlers.Call(sender, operation, atom, container);
+    if (operation != &IAEStateHandler::OnAtomEntered)
+        return m_handlers.Call(sender, operation, atom, container);
+    if (atom == m_pEntering)
+        return TRUE;
+    IAtom* const pOuter = std::exchange(m_pEntering, atom);
+    const BOOL bResult = m_handlers.Call(sender, operation, atom, container);
+    m_pEntering = pOuter;
+    return bResult;
 }
 
 void CAtomEditor::AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon)

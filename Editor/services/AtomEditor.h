@@ -21,6 +21,9 @@ protected:
 // The active atom follows the broadcasts: the one selected last; the one entered; the container when the active
 // atom is deselected or removed, or when all members are meant.
 //
+// Tops of hierarchies are announced to all handlers, and to each that registers later; what is below them is read by
+// those who show it.
+//
 // What is selected is asked of one view: the one that has the focus, else the one that announced a selection
 // last. Owned by the application, which outlives every reference.
 //
@@ -34,7 +37,9 @@ public:
     CAtomEditor& operator=(const CAtomEditor&) = delete;
 
     void SetFrame(PaneFrame* pFrame) { m_pFrame = pFrame; } // borrowed; NULL: none
-    void ForgetActiveAtom() { m_pActive.Release(); }
+    void AddTop(IAtom* pTop);                               // told as created
+    void RemoveTop(IAtom* pTop);                            // told as deleted
+    void ForgetAtoms();                             // tells nobody
     int CountReferences() const { return m_nRefs; } // beside the owner's
 
     void AddRef() override { ++m_nRefs; }
@@ -66,7 +71,9 @@ private:
 
     HandlerRegistry m_handlers;
     PaneFrame* m_pFrame = nullptr;
+    std::vector<CStubRef<IAtom>> m_tops;
     CStubRef<IAtom> m_pActive;
+    IAtom* m_pEntering = nullptr;             // what handlers are being told of as entered
     IAEStateHandler* m_pLastSender = nullptr; // of a selection; may have unregistered since
     std::string m_archiveError;
     int m_nRefs = 0;

@@ -21,7 +21,8 @@ enum class Cursor
     Arrow,
     Wait,
     Text,
-    Hand
+    Hand,
+    SizeWE // moves something to the left or right
 };
 
 class TOOLKIT_API Desktop

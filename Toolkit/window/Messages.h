@@ -124,6 +124,7 @@ inline constexpr UINT VK_SUBTRACT = 0x6D;
 inline constexpr UINT VK_F1 = 0x70;
 inline constexpr UINT VK_F2 = 0x71;
 inline constexpr UINT VK_F5 = 0x74;
+inline constexpr UINT VK_F6 = 0x75;
 inline constexpr UINT VK_F10 = 0x79;
 
 // Scroll bars: which one, and what WM_VSCROLL and WM_HSCROLL carry in the low word of wParam.

@@ -89,7 +89,17 @@ protected:
         CStubRef<IAtomContainer> pContainer; // as announced; may be empty
         int nRank = 0;                       // among its siblings, while they are put in order
         State state = State::Arriving;
+        bool bMembersShown = false; // the atom's members have become items, or are becoming items
     };
+
+    // For a derived class whose host has more than it wants read at once; before anything is announced. From then on a
+    // container is asked for its members only when ShowMembers says so, those announced below one that was not
+    // asked are ignored, and whether it has a button is left to OnGetDispInfo.
+    void ShowMembersOnDemand() { m_bOnDemand = true; }
+    // Members that have no item below the atom's own get one, and all stand in order. FALSE when the atom is not shown
+    // or no container. Costs n log n.
+    BOOL ShowMembers(IAtom* pAtom);
+    bool AreMembersShown(HTREEITEM hItem) const;
 
     // The item that shows the atom, the last one if there are several; NULL when none does.
     HTREEITEM GetItem(IAtom* pAtom) const;
@@ -128,7 +138,7 @@ private:
     HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent);
     HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
     void MapItem(IAtom* pAtom, HTREEITEM hItem);
-    void AddMembers(HTREEITEM hItem, IAtom* pAtom);
+    BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom);
     bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
 
     RecordHolder TakeRecord(HTREEITEM hItem);
@@ -162,5 +172,6 @@ private:
     const BOOL m_bPassive;
     BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
     BOOL m_bFocusFromSelChange = FALSE; // the selection is changing, or has changed, without the focus
+    bool m_bOnDemand = false;           // members become items only when they are asked for
     bool m_bClosing = false;            // the window is being destroyed: nothing new is shown
 };

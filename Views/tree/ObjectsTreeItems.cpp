@@ -4,6 +4,7 @@
 #include "Views/tree/ObjectsTree.h"
 
 #include <memory>
+#include <utility>
 
 namespace
 {
@@ -75,15 +76,28 @@ BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     const HTREEITEM hItem = AddItem(pAtom, pContainer, hParent);
     if (!hItem)
         return FALSE;
-    AddMembers(hItem, pAtom);
+    if (!m_bOnDemand)
+        AddMembers(hItem, pAtom);
     return TRUE;
+}
+
+BOOL CObjectsTree::ShowMembers(IAtom* pAtom)
+{
+    const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
+    return hItem && AddMembers(hItem, pAtom);
+}
+
+bool CObjectsTree::AreMembersShown(HTREEITEM hItem) const
+{
+    const TREEITEMDATA* pRecord = RecordOf(hItem);
+    return pRecord && pRecord->bMembersShown;
 }
 
 // Not an item that is going, and not one that shows the atom itself or stands below it.
 bool CObjectsTree::TakesMember(HTREEITEM hParent, IAtom* pAtom) const
 {
     const TREEITEMDATA* pRecord = RecordOf(hParent);
-    if (!pRecord || pRecord->state == TREEITEMDATA::State::Leaving)
+    if (!pRecord || pRecord->state == TREEITEMDATA::State::Leaving || (m_bOnDemand && !pRecord->bMembersShown))
         return false;
     if (!GetItem(pAtom))
         return true;
@@ -145,19 +159,23 @@ void CObjectsTree::MapItem(IAtom* pAtom, HTREEITEM hItem)
     }
 }
 
-void CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom)
+// Whoever asks for them again keeps the items that are there.
+BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom)
 {
     const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
     if (!pMembers || !Advance(hItem, TREEITEMDATA::State::Settled, TREEITEMDATA::State::Filling))
-        return;
+        return FALSE;
+    const bool bAgain = std::exchange(RecordOf(hItem)->bMembersShown, true);
     for (UINT i = 0; i < pMembers->GetCount(); ++i) {
         CStubRef<IAtom> pMember;
         pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
-        if (pMember)
+        const HTREEITEM hKnown = bAgain ? GetItem(pMember.Get()) : nullptr;
+        if (pMember && (!hKnown || GetParentItem(hKnown) != hItem))
             OnCreateAtom(pMember.Get(), pMembers.Get());
     }
     if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled))
         OrderMembers(hItem);
+    return TRUE;
 }
 
 // False when the item is gone, or going.
@@ -181,7 +199,8 @@ BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!hItem || (pContainer && !GetItem(CStubRef<IAtom>::From(pContainer).Get())))
         return TRUE;
     if (const auto pRecord = TakeRecord(hItem)) {
-        RemoveMembers(hItem, pAtom);
+        if (!m_bOnDemand || pRecord->bMembersShown)
+            RemoveMembers(hItem, pAtom);
         DropItem(hItem, pAtom);
     }
     return TRUE;

@@ -99,7 +99,9 @@ TEST_F(EditorTest, WhileAPictureIsSizedTheOneThatIsThereIsShown)
     reader.AllowAll();
     Settle();
     EXPECT_EQ(0xFF102030, MiddleOf(hPicture));
-    EXPECT_EQ(400, desktop.Dump(hPicture).Width());
+    CRect window;
+    GetWindowRect(hPicture, &window);
+    EXPECT_EQ(400, window.right) << "to the new edge";
 }
 
 TEST_F(EditorTest, APictureThatCannotBeReadSaysWhy)

@@ -1,0 +1,98 @@
+#include "Editor/frame/EditorTree.h"
+
+#include "Editor/model/Container.h"
+
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+constexpr UINT kMostAtOnce = 10'000; // items that expanding a whole branch may bring before it reads no more
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnItemExpanding)
+    ON_WM_KEYDOWN()
+END_MESSAGE_MAP()
+
+void CEditorTree::ExpandAtom(IAtom* pAtom)
+{
+    if (const HTREEITEM hItem = GetItem(pAtom))
+        Expand(hItem, TVE_EXPAND);
+}
+
+BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    CObjectsTree::OnDeleteAtom(pAtom, pContainer);
+    if (!pAtom && pContainer && AreMembersShown(GetItem(pContainer)))
+        ShowMembers(pContainer);
+    return TRUE;
+}
+
+BOOL CEditorTree::OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    const HWND hFocus = ::GetFocus();
+    ShowItemOf(CMember::Of(pAtom));
+    CObjectsTree::OnAtomEntered(pAtom, pContainer);
+    if (hFocus && hFocus != m_hWnd && ::GetFocus() == m_hWnd)
+        ::SetFocus(hFocus);
+    return TRUE;
+}
+
+BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (!CObjectsTree::PreCreateWindow(cs))
+        return FALSE;
+    cs.dwExStyle &= ~WS_EX_CLIENTEDGE;
+    return TRUE;
+}
+
+void CEditorTree::OnGetDispInfo(TVDISPINFO* pInfo)
+{
+    TVITEM& item = pInfo->item;
+    const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(item.lParam);
+    if (!(item.mask & TVIF_CHILDREN) || !pRecord || pRecord->bMembersShown)
+        return;
+    if (auto* const pContainer = dynamic_cast<CContainer*>(pRecord->pAtom.Get()))
+        item.cChildren = pContainer->HoldsAny() ? 1 : 0;
+}
+
+void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    *pResult = 0;
+    const HTREEITEM hItem = pChange->itemNew.hItem;
+    if (pChange->action != TVE_EXPAND || AreMembersShown(hItem))
+        return;
+    if (GetCount() >= m_nMostItems) {
+        *pResult = TRUE;
+        return;
+    }
+    const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
+    const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
+    ShowMembers(pAtom.Get());
+    Invalidate(); // without members the button goes
+}
+
+void CEditorTree::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    const UINT nMost = nChar == VK_MULTIPLY ? GetCount() + kMostAtOnce : ~0u;
+    const UINT nFormer = std::exchange(m_nMostItems, nMost);
+    CObjectsTree::OnKeyDown(nChar, nRepCnt, nFlags);
+    m_nMostItems = nFormer;
+}
+
+// From the top down as far as need be.
+void CEditorTree::ShowItemOf(CMember* pMember)
+{
+    if (!pMember || !pMember->Container() || GetItem(pMember))
+        return;
+    CContainer* const pContainer = pMember->Container();
+    ShowItemOf(pContainer);
+    if (!AreMembersShown(GetItem(pContainer)))
+        ShowMembers(pContainer);
+}
+
+} // namespace editor

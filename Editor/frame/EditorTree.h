@@ -1,0 +1,41 @@
+// The tree as the frame uses it.
+#pragma once
+
+#include "Views/tree/ObjectsTree.h"
+
+namespace editor
+{
+
+class CMember;
+
+// A library on disk may be of any size, or a ring of links. So a folder is read when its item is first expanded, or
+// when something in it is opened; until then a look into it, no longer than it takes to find the first member, tells
+// whether it can be expanded.
+class CEditorTree : public CObjectsTree
+{
+public:
+    CEditorTree() { ShowMembersOnDemand(); }
+    ~CEditorTree() override { DestroyWindow(); }
+
+    void ExpandAtom(IAtom* pAtom); // nothing when it is not shown or has no members
+
+    // Members that are new on the disk come, too.
+    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    // The focus stays where the user has opened something.
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
+    void OnGetDispInfo(TVDISPINFO* pInfo) override;
+
+    afx_msg void OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void ShowItemOf(CMember* pMember);
+
+    UINT m_nMostItems = ~0u; // with so many items nothing more is read
+};
+
+} // namespace editor

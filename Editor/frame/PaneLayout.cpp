@@ -1,0 +1,34 @@
+#include "Editor/frame/PaneLayout.h"
+
+#include "Editor/frame/Look.h"
+#include "Editor/frame/Splitter.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+constexpr int kLeastUsual = 176, kMostUsual = 280;
+
+} // namespace
+
+PaneLayout::PaneLayout(CSize client, int treeWidth)
+{
+    const int bottom = std::max<int>(kPathBarHeight, client.cy - kStatusBarHeight);
+    path = {0, 0, client.cx, kPathBarHeight};
+    status = {0, bottom, client.cx, bottom + kStatusBarHeight};
+    content = {0, kPathBarHeight, client.cx, bottom};
+
+    const int most = client.cx - CSplitter::kWidth - kLeastContent;
+    if (most < kLeastTree)
+        return;
+    const int wanted = treeWidth == kUsualTree ? std::clamp<int>(client.cx / 4, kLeastUsual, kMostUsual) : treeWidth;
+    const int width = std::clamp(wanted, kLeastTree, most);
+    tree = {0, content.top, width, bottom};
+    splitter = {width, content.top, width + CSplitter::kWidth, bottom};
+    content.left = splitter.right;
+}
+
+} // namespace editor
