@@ -84,17 +84,23 @@ void CAtomEditor::UnregisterHandler(DWORD cookie)
 BOOL CAtomEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
                                  IAtomContainer* container, DWORD)
 {
-    // A view may let go of both in the middle; and the tree, when it follows what was entered elsewhere, says that it
-    // was entered: everyone has heard of it or is about to.
+    // A view may let go of both in the middle.
     const auto pAtom = CStubRef<IAtom>::Share(atom);
     const auto pContainer = CStubRef<IAtomContainer>::Share(container);
     Note(sender, operation, atom, container);
-    if (operation != &IAEStateHandler::OnAtomEntered)
-        return m_handlers.Call(sender, operation, atom, container);
-    if (atom == m_pEntering)
+    if (operation == &IAEStateHandler::OnAtomEntered)
+        return TellEntered(sender, atom, container);
+    return m_handlers.Call(sender, operation, atom, container);
+}
+
+// The tree, when it follows what was entered elsewhere, says that it was entered: everyone has heard of it, or is about
+// to.
+BOOL CAtomEditor::TellEntered(IAEStateHandler* pSender, IAtom* pAtom, IAtomContainer* pContainer)
+{
+    if (pAtom && pAtom == m_pEntering)
         return TRUE;
-    IAtom* const pOuter = std::exchange(m_pEntering, atom);
-    const BOOL bResult = m_handlers.Call(sender, operation, atom, container);
+    IAtom* const pOuter = std::exchange(m_pEntering, pAtom);
+    const BOOL bResult = m_handlers.Call(pSender, &IAEStateHandler::OnAtomEntered, pAtom, pContainer);
     m_pEntering = pOuter;
     return bResult;
 }

@@ -39,8 +39,8 @@ public:
     void SetFrame(PaneFrame* pFrame) { m_pFrame = pFrame; } // borrowed; NULL: none
     void AddTop(IAtom* pTop);                               // told as created
     void RemoveTop(IAtom* pTop);                            // told as deleted
-    void ForgetAtoms();                             // tells nobody
-    int CountReferences() const { return m_nRefs; } // beside the owner's
+    void ForgetAtoms();                                     // tells nobody
+    int CountReferences() const { return m_nRefs; }         // beside the owner's
 
     void AddRef() override { ++m_nRefs; }
     void Release() override { --m_nRefs; }
@@ -66,6 +66,7 @@ public:
 
 private:
     void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
+    BOOL TellEntered(IAEStateHandler* pSender, IAtom* pAtom, IAtomContainer* pContainer);
     IAEStateHandler* FindSelectionSource() const;
     BOOL NoteArchiveError(std::string line); // FALSE when there is one
 

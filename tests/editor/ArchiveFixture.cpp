@@ -14,7 +14,7 @@ ArchiveTest::ArchiveTest()
 
 ArchiveTest::~ArchiveTest()
 {
-    editor.ForgetActiveAtom();
+    editor.ForgetAtoms();
     EXPECT_EQ(0, editor.CountReferences());
 }
 
