@@ -1,6 +1,8 @@
 #include "QtDesktop/QtDesktop.h"
 
 #include "QtDesktop/QtClipboard.h"
+#include "QtDesktop/QtDrag.h"
+#include "QtDesktop/QtMenu.h"
 #include "QtDesktop/QtMessageBox.h"
 #include "QtDesktop/QtTextEngine.h"
 #include "QtDesktop/QtWindow.h"
@@ -128,6 +130,16 @@ void QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)
 std::shared_ptr<toolkit::OfferedData> QtDesktop::FetchClipboard()
 {
     return m_parts->pClipboard ? m_parts->pClipboard->Fetch() : nullptr;
+}
+
+DROPEFFECT QtDesktop::RunDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed)
+{
+    return RunQtDrag(std::move(data), allowed);
+}
+
+UINT QtDesktop::TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen)
+{
+    return TrackPopup(m_parts->Find(GetTopLevel(hOwner)), items, screen);
 }
 
 } // namespace qtdesktop

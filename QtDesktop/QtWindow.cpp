@@ -57,12 +57,13 @@ Qt::WindowFlags FlagsOf(HWND hTop)
 
 } // namespace
 
-QtWindow::QtWindow(HWND hTop) : QWidget(nullptr, FlagsOf(hTop)), m_hTop(hTop)
+QtWindow::QtWindow(HWND hTop) : QWidget(nullptr, FlagsOf(hTop)), m_hTop(hTop), m_dropArea(hTop)
 {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAttribute(Qt::WA_NoSystemBackground);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
+    setAcceptDrops(true);
     FollowPlace();
     FollowState();
 }
@@ -212,6 +213,26 @@ void QtWindow::keyReleaseEvent(QKeyEvent* pEvent)
         return;
     if (const UINT vkey = ToVirtualKey(*pEvent))
         toolkit::InputKey(vkey, false, ModifiersAfter(*pEvent));
+}
+
+void QtWindow::dragEnterEvent(QDragEnterEvent* pEvent)
+{
+    m_dropArea.Enter(*pEvent);
+}
+
+void QtWindow::dragMoveEvent(QDragMoveEvent* pEvent)
+{
+    m_dropArea.Move(*pEvent);
+}
+
+void QtWindow::dragLeaveEvent(QDragLeaveEvent*)
+{
+    m_dropArea.Leave();
+}
+
+void QtWindow::dropEvent(QDropEvent* pEvent)
+{
+    m_dropArea.Drop(*pEvent);
 }
 
 } // namespace qtdesktop

@@ -4,6 +4,7 @@
 // toolkit's queue. Nothing here calls into the toolkit's windows but to ask for their state.
 #pragma once
 
+#include "QtDesktop/DropArea.h"
 #include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/Input.h"
 
@@ -36,12 +37,17 @@ protected:
     void leaveEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
+    void dragEnterEvent(QDragEnterEvent* pEvent) override;
+    void dragMoveEvent(QDragMoveEvent* pEvent) override;
+    void dragLeaveEvent(QDragLeaveEvent* pEvent) override;
+    void dropEvent(QDropEvent* pEvent) override;
 
 private:
     CPoint Corner() const; // on the screen
     void TellButton(const QMouseEvent& event, bool bDown);
 
     const HWND m_hTop;
+    DropArea m_dropArea;
     int m_nWheelRest = 0; // turned, but too little yet to be told
 };
 

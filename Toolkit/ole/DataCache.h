@@ -30,7 +30,7 @@ public:
     void Empty();
     void Close();                                 // empty for good: the source is gone
     std::shared_ptr<DataCache> CopyPlain() const; // what is in global memory, without releasers
-    bool IsClosed() const { return m_bClosed; }
+    bool IsGone() const override { return m_bClosed; }
 
     bool Offers(CLIPFORMAT format, DWORD tymed) override;
     STGMEDIUM Get(CLIPFORMAT format, DWORD tymed) override;

@@ -1,8 +1,8 @@
 // COleDataSource: data that this program offers, on the clipboard or in a drag.
 #pragma once
 
-#include "Toolkit/ole/DropEffect.h"
 #include "Toolkit/ole/StgMedium.h"
+#include "Toolkit/window/DropEffect.h"
 
 #include <memory>
 
@@ -38,8 +38,13 @@ public:
     // kept and their releasers. Nothing happens when the clipboard has no data source of this program's.
     static void FlushClipboard();
 
-private:
-    friend class COleDataObject;
+    // Lets the user drag the data, from the mouse's present place and with the button held that is down, until it is
+    // dropped or cancelled; what has become of it: one of the allowed effects, or none. A move is answered only when
+    // whoever took the data has confirmed it; doubt means copy. None at once when no button is down or another drag
+    // is under way. Messages run meanwhile: the views, the dragged objects and this data source (which ends the drag)
+    // may be gone afterwards.
+    DROPEFFECT DoDragDrop(DWORD dwEffects = DROPEFFECT_COPY | DROPEFFECT_MOVE | DROPEFFECT_LINK);
 
+private:
     const std::shared_ptr<toolkit::DataCache> m_cache;
 };

@@ -6,6 +6,8 @@
 
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/graphics/TextEngine.h"
+#include "Toolkit/window/DropEffect.h"
+#include "Toolkit/window/MenuItems.h"
 #include "Toolkit/window/Messages.h"
 #include "Toolkit/window/OfferedData.h"
 
@@ -22,7 +24,10 @@ enum class Cursor
     Wait,
     Text,
     Hand,
-    SizeWE // moves something to the left or right
+    SizeWE, // moves something to the left or right
+    NoDrop, // what a drag would do here
+    DropCopy,
+    DropMove
 };
 
 class TOOLKIT_API Desktop
@@ -48,6 +53,8 @@ public:
     virtual void WakeFromThread() = 0; // a task was posted by another thread, which calls this: have the queue run
 
     virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
+    // The command chosen, 0 for none. Messages run meanwhile.
+    virtual UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) = 0;
     virtual void ShowCursor(Cursor cursor) = 0;
 
     // The clipboard. Publishing takes it from whoever has it, the program's own former data included, which is not
@@ -56,6 +63,10 @@ public:
     virtual void PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
     // What another program has there; NULL when it is empty or the program's own.
     virtual std::shared_ptr<OfferedData> FetchClipboard() = 0;
+
+    // Drags the data until the user has dropped or cancelled it, or it is gone; one of the allowed effects, or none.
+    // While it is over the program's own windows, a DragTracker tells them. Messages run meanwhile.
+    virtual DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) = 0;
 
     // Another field has the focus, or none, or the field's text or caret is new: ask FocusedTextInput.
     virtual void TextInputChanged() {}

@@ -1,5 +1,6 @@
 // The headless desktop's clipboard, and the other program that a test plays on it.
 #include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/window/HeadlessDrag.h"
 
 #include <algorithm>
 #include <utility>
@@ -31,6 +32,19 @@ private:
 };
 } // namespace
 
+std::shared_ptr<toolkit::OfferedData> toolkit::MakeOffer(KindsAndBytes data)
+{
+    return std::make_shared<ForeignOffer>(std::move(data));
+}
+
+std::string toolkit::JoinKinds(OfferedData& data)
+{
+    std::string all;
+    for (const std::string& kind : data.GetKinds())
+        all += (all.empty() ? "" : " ") + kind;
+    return all;
+}
+
 void toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
 {
     m_published = std::move(data);
@@ -45,16 +59,13 @@ void toolkit::HeadlessDesktop::LosePublished()
 
 void toolkit::HeadlessDesktop::TakeClipboard(KindsAndBytes data)
 {
-    m_foreign = data.empty() ? nullptr : std::make_shared<ForeignOffer>(std::move(data));
+    m_foreign = data.empty() ? nullptr : MakeOffer(std::move(data));
     LosePublished();
 }
 
 std::string toolkit::HeadlessDesktop::PublishedKinds()
 {
-    std::string all;
-    for (const std::string& kind : m_published ? m_published->GetKinds() : std::vector<std::string>())
-        all += (all.empty() ? "" : " ") + kind;
-    return all;
+    return m_published ? JoinKinds(*m_published) : "";
 }
 
 std::optional<std::string> toolkit::HeadlessDesktop::ReadPublished(std::string_view kind)

@@ -1,6 +1,7 @@
 #include "Toolkit/window/HeadlessDesktop.h"
 
 #include "Toolkit/base/Text.h"
+#include "Toolkit/window/HeadlessDrag.h"
 #include "Toolkit/window/MessageBox.h"
 #include "Toolkit/window/MouseInput.h"
 #include "Toolkit/window/WindowApi.h"
@@ -41,11 +42,13 @@ toolkit::HeadlessDesktop::~HeadlessDesktop()
 void toolkit::HeadlessDesktop::MoveTo(HWND hWnd, CPoint at)
 {
     const HWND hTop = GetTopLevel(hWnd);
-    if (m_hUnderMouse != hTop)
+    if (m_hUnderMouse != hTop && !IsDragging())
         InputMouseLeave(m_hUnderMouse);
     m_hUnderMouse = hTop;
     m_cursorPos = at;
     ClientToScreen(hWnd, &m_cursorPos);
+    if (IsDragging())
+        return StepDrag();
     InputMouseMove(hTop, ToSurface(hWnd, at), m_modifiers);
     Run();
 }
@@ -57,6 +60,8 @@ void toolkit::HeadlessDesktop::PutButton(HWND hWnd, CPoint at, MouseButton butto
     ClientToScreen(hWnd, &screen);
     if (!(screen == m_cursorPos) || m_hUnderMouse != GetTopLevel(hWnd))
         MoveTo(hWnd, at);
+    if (IsDragging())
+        return DropOrCancel(button, down);
     InputMouseButton(GetTopLevel(hWnd), ToSurface(hWnd, at), button, down, m_modifiers);
     Run();
 }
@@ -94,6 +99,8 @@ void toolkit::HeadlessDesktop::Wheel(HWND hWnd, CPoint at, int notches)
 
 void toolkit::HeadlessDesktop::Key(UINT vkey)
 {
+    if (IsDragging())
+        return vkey == VK_ESCAPE ? EndDrag(DROPEFFECT_NONE) : Run();
     InputKey(vkey, true, m_modifiers);
     InputKey(vkey, false, m_modifiers);
     Run();
@@ -173,6 +180,17 @@ int toolkit::HeadlessDesktop::ShowMessageBox(HWND, LPCSTR pszText, LPCSTR pszCap
     const int nAnswer = m_answers.front();
     m_answers.pop_front();
     return nAnswer;
+}
+
+UINT toolkit::HeadlessDesktop::TrackMenu(HWND, const std::vector<MenuItem>& items, CPoint screen)
+{
+    m_menus.push_back(DescribeMenu(items));
+    m_menuPlace = screen;
+    if (m_choices.empty())
+        return 0;
+    const std::string choice = std::move(m_choices.front());
+    m_choices.pop_front();
+    return FindMenuCommand(items, choice);
 }
 
 toolkit::Surface toolkit::HeadlessDesktop::Dump(HWND hWnd)

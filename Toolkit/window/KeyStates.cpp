@@ -7,7 +7,13 @@
 namespace
 {
 std::bitset<256> s_down;
-}
+
+constexpr struct
+{
+    UINT vkey, flag;
+} kFlags[] = {{VK_LBUTTON, MK_LBUTTON}, {VK_RBUTTON, MK_RBUTTON}, {VK_MBUTTON, MK_MBUTTON},
+              {VK_SHIFT, MK_SHIFT},     {VK_CONTROL, MK_CONTROL}, {VK_MENU, MK_ALT}};
+} // namespace
 
 bool toolkit::IsKeyDown(UINT vkey)
 {
@@ -36,15 +42,16 @@ void toolkit::ReleaseAllKeys()
 
 UINT toolkit::MouseKeyFlags()
 {
-    constexpr struct
-    {
-        UINT vkey, flag;
-    } kFlags[] = {{VK_LBUTTON, MK_LBUTTON}, {VK_RBUTTON, MK_RBUTTON}, {VK_MBUTTON, MK_MBUTTON},
-                  {VK_SHIFT, MK_SHIFT},     {VK_CONTROL, MK_CONTROL}, {VK_MENU, MK_ALT}};
     UINT flags = 0;
     for (const auto& [vkey, flag] : kFlags)
         flags |= s_down[vkey] ? flag : 0;
     return flags;
+}
+
+void toolkit::SetMouseKeyFlags(UINT flags)
+{
+    for (const auto& [vkey, flag] : kFlags)
+        s_down[vkey] = flags & flag;
 }
 
 UINT toolkit::KeyOfButton(MouseButton button)

@@ -10,6 +10,7 @@ bool SetKeyDown(UINT vkey, bool bDown); // was it down before?
 void SetModifiersDown(Modifiers modifiers);
 void ReleaseAllKeys();
 UINT MouseKeyFlags(); // MK_*
+void SetMouseKeyFlags(UINT flags);
 
 UINT KeyOfButton(MouseButton button);
 } // namespace toolkit

@@ -134,6 +134,12 @@ void toolkit::ResetMouse()
     ForgetLastPress();
 }
 
+void toolkit::NoteMouse(CPoint screen, DWORD dwKeyState)
+{
+    s_cursor = screen;
+    SetMouseKeyFlags(dwKeyState);
+}
+
 void toolkit::ForgetLastPress()
 {
     s_doubleClick.Forget();

@@ -20,6 +20,7 @@ public:
     virtual bool Has(std::string_view kind); // the kind is among GetKinds
     // The bytes, rendered anew each time; nothing when there is no such kind or its owner does not answer.
     virtual std::optional<std::string> Render(std::string_view kind) = 0;
+    virtual bool IsGone() const { return false; } // whoever offered it has taken it back for good
     // Nobody will ask for it any more: another program has taken the clipboard, or the desktop goes. Called by the
     // desktop, once at most, after it has let go of the object.
     virtual void OnLost() {}

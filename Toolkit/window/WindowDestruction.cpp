@@ -3,6 +3,7 @@
 
 #include "Toolkit/window/Capture.h"
 #include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/window/DropSite.h"
 #include "Toolkit/window/Focus.h"
 #include "Toolkit/window/MouseInput.h"
 #include "Toolkit/window/Painting.h"
@@ -64,6 +65,7 @@ CWnd* Forget(WindowRecord& window)
     toolkit::ForgetCapture(hWnd);
     toolkit::ForgetMouse(hWnd);
     toolkit::DropTimers(hWnd);
+    toolkit::RevokeDropSite(hWnd);
     toolkit::ForgetPainting(window);
     if (window.IsTop())
         toolkit::TellDesktopOfDestruction(window);

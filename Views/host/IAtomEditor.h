@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Toolkit/ole/ClipboardFormat.h"
-#include "Toolkit/ole/DropEffect.h"
+#include "Toolkit/window/DropEffect.h"
 #include "Views/host/IAEStateHandler.h"
 
 class CMenu;

@@ -1,0 +1,130 @@
+#include "QtDesktop/DropArea.h"
+
+#include "QtDesktop/OfferedMime.h"
+#include "QtDesktop/QtDrag.h"
+#include "Toolkit/window/Messages.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QPointer>
+
+namespace qtdesktop
+{
+namespace
+{
+
+// Another program's data, or that of a program like this one, for as long as the drag is over a window.
+class DraggedOffer : public toolkit::OfferedData
+{
+public:
+    explicit DraggedOffer(const QMimeData* pMime) : m_pMime(pMime) {}
+
+    std::vector<std::string> GetKinds() override
+    {
+        std::vector<std::string> kinds;
+        for (const QString& format : m_pMime ? m_pMime->formats() : QStringList())
+            kinds.push_back(format.toStdString());
+        return kinds;
+    }
+
+    std::optional<std::string> Render(std::string_view kind) override
+    {
+        const QString format = QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
+        if (!m_pMime || !m_pMime->hasFormat(format))
+            return std::nullopt;
+        return m_pMime->data(format).toStdString();
+    }
+
+private:
+    const QPointer<const QMimeData> m_pMime;
+};
+
+std::shared_ptr<toolkit::OfferedData> OfferOf(const QMimeData* pMime)
+{
+    if (const auto* pOwn = dynamic_cast<const OfferedMime*>(pMime))
+        return pOwn->GetData();
+    return std::make_shared<DraggedOffer>(pMime);
+}
+
+constexpr DWORD Flag(bool bSet, DWORD flag)
+{
+    return bSet ? flag : 0;
+}
+
+// Where the keys cannot be read during a drag, what the desktop proposes tells whether Ctrl is held.
+DWORD KeyState(const QDropEvent& event)
+{
+    const bool bCopyOfBoth = event.proposedAction() == Qt::CopyAction &&
+                             event.possibleActions().testFlag(Qt::MoveAction) && IsProposalTrusted();
+    return Flag(event.buttons().testFlag(Qt::LeftButton), MK_LBUTTON) |
+           Flag(event.buttons().testFlag(Qt::RightButton), MK_RBUTTON) |
+           Flag(event.modifiers().testFlag(Qt::ShiftModifier), MK_SHIFT) |
+           Flag(event.modifiers().testFlag(Qt::ControlModifier) || bCopyOfBoth, MK_CONTROL) |
+           Flag(event.modifiers().testFlag(Qt::AltModifier), MK_ALT);
+}
+
+} // namespace
+
+Qt::DropAction ToAction(DROPEFFECT effect)
+{
+    return effect & DROPEFFECT_MOVE   ? Qt::MoveAction
+           : effect & DROPEFFECT_COPY ? Qt::CopyAction
+           : effect & DROPEFFECT_LINK ? Qt::LinkAction
+                                      : Qt::IgnoreAction;
+}
+
+Qt::DropActions ToActions(DROPEFFECT effects)
+{
+    Qt::DropActions actions;
+    for (const DROPEFFECT effect : {DROPEFFECT_COPY, DROPEFFECT_MOVE, DROPEFFECT_LINK})
+        if (effects & effect)
+            actions |= ToAction(effect);
+    return actions;
+}
+
+DROPEFFECT ToEffects(Qt::DropActions actions)
+{
+    DROPEFFECT effects = DROPEFFECT_NONE;
+    for (const DROPEFFECT effect : {DROPEFFECT_COPY, DROPEFFECT_MOVE, DROPEFFECT_LINK})
+        effects |= actions & ToAction(effect) ? effect : DROPEFFECT_NONE;
+    return effects;
+}
+
+// Accepted whatever the effect is: else Qt would tell of no movement that follows.
+void DropArea::Enter(QDragEnterEvent& event)
+{
+    m_tracker.emplace(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
+    event.setDropAction(ToAction(Follow(event)));
+    event.accept();
+}
+
+void DropArea::Move(QDragMoveEvent& event)
+{
+    const DROPEFFECT effect = Follow(event);
+    event.setDropAction(ToAction(effect));
+    event.setAccepted(effect != DROPEFFECT_NONE);
+}
+
+// A refusal needs both, the action and the ignored event.
+void DropArea::Drop(QDropEvent& event)
+{
+    if (!m_tracker)
+        return event.ignore();
+    Follow(event);
+    const DROPEFFECT effect = m_tracker->Drop();
+    m_tracker.reset();
+    if (dynamic_cast<const OfferedMime*>(event.mimeData()))
+        NoteOwnDrop(effect);
+    event.setDropAction(ToAction(effect));
+    event.setAccepted(effect != DROPEFFECT_NONE);
+}
+
+DROPEFFECT DropArea::Follow(const QDropEvent& event)
+{
+    if (!m_tracker)
+        return DROPEFFECT_NONE;
+    const QPoint at = event.position().toPoint();
+    return m_tracker->MoveTo(m_hTop, {at.x(), at.y()}, KeyState(event));
+}
+
+} // namespace qtdesktop

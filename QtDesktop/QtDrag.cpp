@@ -1,0 +1,72 @@
+#include "QtDesktop/QtDrag.h"
+
+#include "QtDesktop/DropArea.h"
+#include "QtDesktop/OfferedMime.h"
+
+#include <QBasicTimer>
+#include <QDrag>
+#include <QGuiApplication>
+#include <QTimerEvent>
+#include <optional>
+#include <utility>
+
+namespace qtdesktop
+{
+namespace
+{
+
+constexpr int kLookMilliseconds = 50;
+
+std::optional<DROPEFFECT> s_ownDrop;
+
+// What the drag belongs to: no window, which might go under way. Ends the drag when its data is gone.
+class DragOwner : public QObject
+{
+public:
+    explicit DragOwner(std::shared_ptr<toolkit::OfferedData> data) : m_data(std::move(data))
+    {
+        m_timer.start(kLookMilliseconds, this);
+    }
+
+protected:
+    void timerEvent(QTimerEvent*) override
+    {
+        if (m_data->IsGone())
+            QDrag::cancel();
+    }
+
+private:
+    const std::shared_ptr<toolkit::OfferedData> m_data;
+    QBasicTimer m_timer;
+};
+
+DROPEFFECT Believable(DROPEFFECT told)
+{
+    return told == DROPEFFECT_NONE ? DROPEFFECT_NONE : DROPEFFECT_COPY;
+}
+
+} // namespace
+
+DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed)
+{
+    DragOwner owner(data);
+    const auto pDrag = new QDrag(&owner);
+    pDrag->setMimeData(new OfferedMime(data));
+    s_ownDrop.reset();
+    const Qt::DropAction told =
+        pDrag->exec(ToActions(allowed), allowed & DROPEFFECT_MOVE ? Qt::MoveAction : Qt::IgnoreAction);
+    const auto own = std::exchange(s_ownDrop, std::nullopt);
+    return own ? *own : Believable(ToEffects(told));
+}
+
+void NoteOwnDrop(DROPEFFECT effect)
+{
+    s_ownDrop = effect;
+}
+
+bool IsProposalTrusted()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+} // namespace qtdesktop

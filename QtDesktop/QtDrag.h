@@ -1,0 +1,21 @@
+// Drags that begin in this program.
+#pragma once
+
+#include "Toolkit/window/DropEffect.h"
+#include "Toolkit/window/OfferedData.h"
+
+#include <memory>
+
+namespace qtdesktop
+{
+
+// Runs the drag to its end. What Qt says of a drop in another program is not to be trusted: it counts as a copy.
+DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed);
+
+// The program's own drag was dropped in one of its own windows: what has become of it.
+void NoteOwnDrop(DROPEFFECT effect);
+
+// Is the action that the desktop proposes the only way to know whether Ctrl is held?
+bool IsProposalTrusted();
+
+} // namespace qtdesktop

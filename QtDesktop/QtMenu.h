@@ -1,0 +1,15 @@
+// Popup menus of the desktop.
+#pragma once
+
+#include "Toolkit/base/Geometry.h"
+#include "Toolkit/window/MenuItems.h"
+
+class QWidget;
+
+namespace qtdesktop
+{
+
+// Waits for the user; the chosen command, 0 when nothing was chosen or the owner went meanwhile.
+UINT TrackPopup(QWidget* pOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen);
+
+} // namespace qtdesktop
