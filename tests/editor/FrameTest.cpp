@@ -1,0 +1,365 @@
+// Tree and list side by side, each following the other.
+#include "Editor/services/StateHandler.h"
+#include "tests/editor/EditorFixture.h"
+
+#include <algorithm>
+
+namespace
+{
+
+using editor::CEditorTree;
+using editor::CMember;
+
+std::string NameOf(IAtom* pAtom)
+{
+    const CMember* const pMember = CMember::Of(pAtom);
+    return !pMember ? "-" : pMember->Container() ? pMember->ShownName() : "/";
+}
+
+// Writes down what the editor tells it, and may refuse every selection.
+class Spy final : public editor::CStateHandler
+{
+public:
+    explicit Spy(LedgerBook& book) : m_book(book) { m_dwCookie = Editor()->RegisterHandler(nullptr, this); }
+    ~Spy() { Editor()->UnregisterHandler(m_dwCookie); }
+
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer*) override { return Note("created", pAtom); }
+    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer*) override { return Note("deleted", pAtom); }
+    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer*) override { return Note("selected", pAtom); }
+    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer*) override { return Note("deselected", pAtom); }
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer*) override { return Note("entered", pAtom); }
+    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer*) override
+    {
+        Note("selecting", pAtom);
+        return !bRefuses;
+    }
+
+    bool bRefuses = false;
+
+private:
+    static CStubRef<IAtomEditor> Editor() { return CStubRef<IAtomEditor>::Adopt(GetAtomEditor()); }
+    BOOL Note(const char* pszWhat, IAtom* pAtom)
+    {
+        m_book.Write(pszWhat + (' ' + NameOf(pAtom)));
+        return TRUE;
+    }
+
+    LedgerBook& m_book;
+    DWORD m_dwCookie;
+};
+
+class FrameTest : public EditorTest
+{
+protected:
+    CEditorTree& Tree() { return Frame().GetTree(); }
+
+    // Items with what they hold when they are expanded; a plus at those that can be, and brackets around the
+    // selected one: "/[Ada[a.bmp] (Bo)+]".
+    std::string Shown() { return Shown(Tree().GetRootItem()); }
+    std::string Shown(HTREEITEM hItem)
+    {
+        std::string text;
+        for (; hItem; hItem = Tree().GetNextSiblingItem(hItem)) {
+            std::string name = Tree().GetParentItem(hItem) ? Tree().GetItemText(hItem).GetString() : "/";
+            if (hItem == Tree().GetSelectedItem())
+                name = '(' + name + ')';
+            text += (text.empty() ? "" : " ") + name;
+            if (Tree().GetItemState(hItem, TVIS_EXPANDED))
+                text += '[' + Shown(Tree().GetChildItem(hItem)) + ']';
+            else if (Tree().ItemHasChildren(hItem))
+                text += '+';
+        }
+        return text;
+    }
+    HTREEITEM Find(const std::string& name)
+    {
+        HTREEITEM hItem = Tree().GetRootItem();
+        while (hItem && Tree().GetItemText(hItem).GetString() != name)
+            hItem = Tree().GetNextVisibleItem(hItem);
+        EXPECT_TRUE(hItem) << "no item " << name;
+        return hItem;
+    }
+    void ClickItem(const std::string& name)
+    {
+        CRect label;
+        EXPECT_TRUE(Tree().GetItemRect(Find(name), &label, TRUE));
+        ClickTree(label.CenterPoint());
+    }
+    void ClickButton(const std::string& name)
+    {
+        CRect label;
+        EXPECT_TRUE(Tree().GetItemRect(Find(name), &label, TRUE));
+        ClickTree(CPoint(label.left - 16 - 2 * 2 - 10, label.CenterPoint().y)); // left of the picture
+    }
+    void ClickTree(CPoint at)
+    {
+        desktop.Advance(1000);
+        desktop.Click(Tree().m_hWnd, at);
+        Settle();
+    }
+    void Press(UINT vkey)
+    {
+        desktop.Key(vkey);
+        Settle();
+    }
+    std::string Focus()
+    {
+        const HWND hFocus = GetFocus();
+        return hFocus == Tree().m_hWnd                     ? "tree"
+               : hFocus == List()                          ? "list"
+               : hFocus == Frame().GetPictureView().m_hWnd ? "picture"
+                                                           : "elsewhere";
+    }
+    int TreeWidth()
+    {
+        CRect rect;
+        GetWindowRect(Frame().GetSplitter().m_hWnd, &rect);
+        return rect.left;
+    }
+    void DragSplitter(int to, bool bRelease = true)
+    {
+        const HWND hBar = Frame().GetSplitter().m_hWnd;
+        desktop.Advance(1000);
+        desktop.Press(hBar, {3, 200});
+        desktop.MoveTo(App().GetMainWindow(), {to + 3, 240});
+        if (bRelease)
+            desktop.Release(App().GetMainWindow(), {to + 3, 240});
+    }
+};
+
+TEST_F(FrameTest, TheTreeFollowsTheListAndTheFocusStays)
+{
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.WriteBmp("Ada/a.bmp");
+    folder.MakeFolder("Bo");
+    folder.Write("walk.phase", "Ada/a.bmp\nAda/Poses/one.bmp\nAda/a.bmp\n");
+    Open();
+    EXPECT_EQ("(/)[Ada+ Bo walk.phase+]", Shown()) << "an empty folder has no button";
+    EXPECT_EQ("list", Focus());
+
+    DoubleClick("Ada");
+    EXPECT_EQ("/[(Ada)+ Bo walk.phase+]", Shown());
+    EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
+    DoubleClick("Poses");
+    EXPECT_EQ("/[Ada[a.bmp (Poses)+] Bo walk.phase+]", Shown());
+    DoubleClick("one.bmp");
+    EXPECT_EQ("/[Ada[a.bmp Poses[(one.bmp)]] Bo walk.phase+]", Shown());
+    EXPECT_EQ("picture", Focus());
+    Press(VK_BACK);
+    Press(VK_BACK);
+    EXPECT_EQ("/[(Ada)[a.bmp Poses[one.bmp]] Bo walk.phase+]", Shown());
+    EXPECT_EQ("/Ada/ | [a.bmp (*Poses)] | 2 objects, 1 selected | Poses", Screen());
+    EXPECT_EQ("list", Focus());
+    ClickPath(0);
+    DoubleClick("walk.phase");
+    EXPECT_EQ("/[Ada[a.bmp Poses[one.bmp]] Bo (walk.phase)+]", Shown());
+    ClickButton("walk.phase");
+    EXPECT_EQ("/[Ada[a.bmp Poses[one.bmp]] Bo (walk.phase)[a.bmp one.bmp a.bmp]]", Shown()) << "in the phase's order";
+}
+
+TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
+{
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.WriteBmp("Ada/a.bmp", 8, 8, 0xFF405060);
+    folder.WriteBmp("b.bmp", 8, 8, 0xFF102030);
+    Open();
+
+    ClickItem("Ada");
+    EXPECT_EQ("/[(Ada)+ b.bmp]", Shown()) << "selected, not expanded";
+    EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
+    EXPECT_EQ("tree", Focus());
+    Press(VK_RIGHT);
+    Press(VK_DOWN);
+    EXPECT_EQ("/[Ada[(a.bmp) Poses+] b.bmp]", Shown());
+    EXPECT_EQ("/Ada/a.bmp/ | picture |  | a.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ(0xFF405060, MiddleOf(Frame().GetPictureView().m_hWnd));
+    Press(VK_END);
+    EXPECT_EQ(0xFF102030, MiddleOf(Frame().GetPictureView().m_hWnd)) << "from picture to picture by the arrows";
+    EXPECT_EQ("tree", Focus());
+
+    Press(VK_BACK);
+    EXPECT_EQ("/ | [Ada b.bmp] | 2 objects", Screen());
+    ClickItem("b.bmp");
+    AltUp();
+    EXPECT_EQ("/ | [Ada (*b.bmp)] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("tree", Focus()) << "whoever walks in the tree goes on in the tree";
+    ClickItem("Ada");
+    Press(VK_RETURN);
+    EXPECT_EQ("list", Focus());
+    EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
+}
+
+TEST_F(FrameTest, KeysChangeThePaneAndTheListKeepsItsSelection)
+{
+    for (const char* name : {"a.bmp", "b.bmp", "c.bmp"})
+        folder.WriteBmp(name);
+    Open();
+    Click("a.bmp");
+    desktop.Hold({.control = true});
+    Click("c.bmp");
+    desktop.Hold({});
+    const std::string before = Screen();
+
+    for (const UINT vkey : {VK_F6, VK_TAB}) {
+        Press(vkey);
+        EXPECT_EQ("tree", Focus());
+        Press(vkey);
+        EXPECT_EQ("list", Focus());
+    }
+    ClickTree({100, 300});
+    EXPECT_EQ("tree", Focus());
+    Press(VK_HOME);
+    ClickTree({60, 8});
+    EXPECT_EQ("(/)[a.bmp b.bmp c.bmp]", Shown());
+    EXPECT_EQ(before, Screen());
+    DoubleClick("b.bmp");
+    Press(VK_F6);
+    Press(VK_F6);
+    EXPECT_EQ("picture", Focus());
+}
+
+TEST_F(FrameTest, WhatIsOpenedIsToldOnceAndASelectionInTheTreeInItsOrder)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.WriteBmp("Bo/b.bmp");
+    Open();
+    LedgerBook book;
+    Spy spy(book);
+    EXPECT_EQ(Ledger({"created /"}), book.TakeLedger()) << "who comes later hears of what is there";
+
+    DoubleClick("Ada");
+    Ledger told = book.TakeLedger();
+    EXPECT_EQ(1, std::count(told.begin(), told.end(), "entered Ada"));
+    EXPECT_EQ(0, std::count(told.begin(), told.end(), "entered /"));
+
+    ClickItem("Ada");
+    book.TakeLedger();
+    ClickItem("Bo");
+    EXPECT_EQ(Ledger({"selecting Bo", "deselected Ada", "entered Bo", "selected Bo"}), book.TakeLedger());
+    spy.bRefuses = true;
+    ClickItem("Ada");
+    EXPECT_EQ(Ledger({"selecting Ada"}), book.TakeLedger());
+    EXPECT_EQ("/[Ada+ (Bo)+]", Shown());
+    EXPECT_EQ("/Bo/ | [b.bmp] | 1 object", Screen());
+}
+
+TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.MakeFolder("Bo");
+    folder.Link("Bo/ring", "../Bo");
+    Open();
+    EXPECT_EQ("(/)[Ada+ Bo+]", Shown());
+
+    folder.WriteBmp("Ada/b.bmp");
+    ClickButton("Ada");
+    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo+]", Shown()) << "not read before";
+    EXPECT_EQ("/ | [Ada Bo] | 2 objects", Screen()) << "expanding selects nothing";
+    folder.Remove("Bo/ring");
+    ClickButton("Bo");
+    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo]", Shown()) << "nothing is left to expand";
+
+    folder.WriteBmp("Ada/c.bmp");
+    folder.Remove("Ada/a.bmp");
+    folder.WriteBmp("Bo/d.bmp");
+    ClickItem("Ada");
+    Press(VK_F5);
+    EXPECT_EQ("/[(Ada)[b.bmp c.bmp] Bo]", Shown());
+    ClickItem("Bo");
+    Press(VK_F5);
+    EXPECT_EQ("/[Ada[b.bmp c.bmp] (Bo)+]", Shown());
+}
+
+TEST_F(FrameTest, ExpandingEverythingEndsAtARingOfLinksAndAtTooMuch)
+{
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.Link("Ada/Poses/ring", "../../Ada");
+    folder.MakeFolder("Huge");
+    folder.WriteBmp("Zoe/a.bmp");
+    Open();
+    Press(VK_F6);
+    Press(VK_MULTIPLY);
+    EXPECT_EQ("(/)[Ada[Poses[one.bmp ring]] Huge Zoe[a.bmp]]", Shown());
+
+    folder.MakeEmptyFiles(10'000, "Huge/%05d.bmp");
+    Open();
+    Press(VK_F6);
+    Press(VK_MULTIPLY);
+    EXPECT_EQ(Find("Zoe"), Tree().GetNextSiblingItem(Find("Huge")));
+    EXPECT_NE(std::string::npos, Shown().find("09999.bmp] Zoe+]"));
+}
+
+TEST_F(FrameTest, AnotherLibraryTakesThePlaceOfTheFirst)
+{
+    folder.WriteBmp("Ada/Poses/a.bmp");
+    folder.WriteBmp("Bo/b.bmp");
+    Open(folder.At("Ada"));
+    DoubleClick("Poses");
+    EXPECT_EQ("/[(Poses)+]", Shown());
+    LedgerBook book;
+    Spy spy(book);
+    book.TakeLedger();
+    Open(folder.At("Bo"));
+    EXPECT_EQ("(/)[b.bmp]", Shown());
+    EXPECT_EQ("/ | [b.bmp] | 1 object", Screen());
+    const Ledger told = book.TakeLedger();
+    EXPECT_EQ(1, std::count(told.begin(), told.end(), "entered /")) << "none of the former on the way";
+}
+
+TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
+{
+    folder.WriteBmp("a.bmp");
+    Open();
+    const HWND hBar = Frame().GetSplitter().m_hWnd;
+    const int usual = TreeWidth();
+    desktop.MoveTo(hBar, {3, 100});
+    EXPECT_EQ(toolkit::Cursor::SizeWE, desktop.CurrentCursor());
+    desktop.MoveTo(List(), {50, 50});
+    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
+
+    DragSplitter(250);
+    EXPECT_EQ(250, TreeWidth());
+    CRect list;
+    GetWindowRect(List(), &list);
+    EXPECT_EQ(257, list.left);
+    EXPECT_EQ(640, list.right);
+    DragSplitter(0);
+    EXPECT_EQ(120, TreeWidth());
+    DragSplitter(2000);
+    EXPECT_EQ(640 - 240 - 7, TreeWidth());
+    DragSplitter(200);
+    DragSplitter(300, false);
+    EXPECT_EQ(300, TreeWidth());
+    Press(VK_ESCAPE);
+    EXPECT_EQ(200, TreeWidth());
+    desktop.Release(hBar, {3, 200});
+    desktop.MoveTo(App().GetMainWindow(), {400, 240});
+    EXPECT_EQ(200, TreeWidth()) << "not dragged any more";
+
+    toolkit::InputResize(App().GetMainWindow(), {300, 400});
+    desktop.Run();
+    GetWindowRect(List(), &list);
+    EXPECT_EQ(0, list.left) << "no room for two";
+    Press(VK_F6);
+    EXPECT_EQ("list", Focus());
+    toolkit::InputResize(App().GetMainWindow(), {640, 480});
+    desktop.Run();
+    EXPECT_EQ(200, TreeWidth());
+    desktop.Advance(1000);
+    desktop.DoubleClick(hBar, {3, 200});
+    EXPECT_EQ(usual, TreeWidth());
+}
+
+TEST_F(FrameTest, OfAHundredThousandPicturesInTheTreeOnlyThoseInSightAreRead)
+{
+    folder.MakeEmptyFiles(100'000, "frame %06d.bmp");
+    Open();
+    EXPECT_LT(reader.TakeReads().size(), 100u);
+    EXPECT_EQ(100'001u, Tree().GetCount());
+    Press(VK_F6);
+    Press(VK_END);
+    EXPECT_EQ("frame 099999.bmp", Frame().GetPathBar().GetPath().back());
+    EXPECT_LT(reader.TakeReads().size(), 100u);
+}
+
+} // namespace
