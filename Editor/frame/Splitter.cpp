@@ -29,18 +29,18 @@ void CSplitter::CancelDrag()
     EndDrag(false);
 }
 
-// The captions' lower edge goes on across the bar.
+// The captions' lower edge goes on across the bar; the line between the panes stands at its right, where the tree's
+// ground ends.
 BOOL CSplitter::OnEraseBkgnd(HDC hdc)
 {
     CRect client;
     GetClientRect(&client);
+    const bool bShining = m_bHot || m_bDragged;
     CRect line = client;
-    line.DeflateRect(kWidth / 2, 0);
+    line.left = line.right - (bShining ? 3 : 1);
     FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
     FillSolidRect(hdc, {client.left, kPaneCaptionHeight - 1, client.right, kPaneCaptionHeight}, LineColor());
-    if (m_bHot || m_bDragged)
-        line.InflateRect(1, 0);
-    FillSolidRect(hdc, line, m_bHot || m_bDragged ? GetSysColor(COLOR_HIGHLIGHT) : LineColor());
+    FillSolidRect(hdc, line, bShining ? GetSysColor(COLOR_HIGHLIGHT) : LineColor());
     return TRUE;
 }
 
