@@ -170,10 +170,13 @@ LRESULT TreeControl::OnSortChildrenCB(WPARAM, LPARAM lParam)
     const HWND hWnd = m_hWnd;
     const unsigned version = m_items.Version();
     const TVSORTCB sort = *pSort;
-    SortStably(entries,
-               [&](const Entry& a, const Entry& b) { return sort.lpfnCompare(a.lParam, b.lParam, sort.lParam) > 0; });
-    if (!IsWindow(hWnd) || m_items.Version() != version)
-        return FALSE; // the comparison changed the tree
+    // A comparison may change the tree. What an item's lParam names may be gone then: nothing more is compared.
+    const auto isUnchanged = [&] { return IsWindow(hWnd) && m_items.Version() == version; };
+    SortStably(entries, [&](const Entry& a, const Entry& b) {
+        return isUnchanged() && sort.lpfnCompare(a.lParam, b.lParam, sort.lParam) > 0;
+    });
+    if (!isUnchanged())
+        return FALSE;
     m_items[parent].order = ChildOrder::Unknown;
     return Rearrange(parent, ItemsOf(entries));
 }

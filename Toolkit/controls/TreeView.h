@@ -144,7 +144,7 @@ using PFNTVCOMPARE = int (*)(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 struct TVSORTCB
 {
     HTREEITEM hParent;
-    PFNTVCOMPARE lpfnCompare; // must not change the tree
+    PFNTVCOMPARE lpfnCompare; // once it has changed the tree it is called no more, and nothing is sorted
     LPARAM lParam;
 };
 using LPTVSORTCB = TVSORTCB*;

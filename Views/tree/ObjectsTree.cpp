@@ -119,6 +119,7 @@ void CObjectsTree::OnDestroy()
     m_bClosing = true;
     if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
         pEditor->UnregisterHandler(m_dwHandlerCookie);
+    SelectItem(nullptr); // or it would move on with each item that goes
 
     HTREEITEM hPassed = nullptr;
     while (const HTREEITEM hItem = hPassed ? GetNextSiblingItem(hPassed) : GetRootItem()) {

@@ -62,14 +62,16 @@ public:
     // TRUE when the atom is shown now. Costs n log n for an atom with n members, log n for one more among n siblings
     // in the order of their labels.
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    // Always TRUE. Removes the atom with all below it, unless it comes with a container that is not shown. For atom
+    // NULL, removes those of the container's items whose atoms it no longer holds; costs one question for each.
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override; // TRUE when the atom is shown
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselecting(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override; // for atom NULL only
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override; // always TRUE; selects its item, if any
+    BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override;  // for atom NULL only
     // The tree has one pair or none; with none *pCount stays as it was.
     BOOL OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount) override;
 

@@ -25,12 +25,13 @@ int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
 {
     if (!lParam1 || !lParam2) // a derived class's own items come last
         return static_cast<int>(!lParam1) - static_cast<int>(!lParam2);
-    IAtom* const a = reinterpret_cast<const TREEITEMDATA*>(lParam1)->pAtom.Get();
-    IAtom* const b = reinterpret_cast<const TREEITEMDATA*>(lParam2)->pAtom.Get();
+    // Held: whoever is asked may remove one of the items.
+    const auto a = CStubRef<IAtom>::Share(reinterpret_cast<const TREEITEMDATA*>(lParam1)->pAtom.Get());
+    const auto b = CStubRef<IAtom>::Share(reinterpret_cast<const TREEITEMDATA*>(lParam2)->pAtom.Get());
     try {
-        if (const std::optional<int> order = views::CompareLinks(a, b))
+        if (const std::optional<int> order = views::CompareLinks(a.Get(), b.Get()))
             return *order;
-        return CompareNames(a, b);
+        return CompareNames(a.Get(), b.Get());
     } catch (CMemoryException& e) {
         e.ReportError();
         return 0;

@@ -141,5 +141,5 @@ bool CObjectsTree::TakeFocus()
 {
     if (m_hWnd && ::GetFocus() != m_hWnd)
         SetFocus();
-    return ::GetFocus() == m_hWnd;
+    return m_hWnd && ::GetFocus() == m_hWnd;
 }

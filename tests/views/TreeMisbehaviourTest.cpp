@@ -138,13 +138,23 @@ class RestlessAtom : public FakeAtom
 public:
     using FakeAtom::FakeAtom;
 
-    std::function<void()> onName; // once
+    std::function<void()> onName;
 
+    // Has it done when it says its name for the nth time from now on.
+    void Do(int nth, std::function<void()> deed)
+    {
+        onName = [this, nth, deed]() mutable {
+            if (--nth > 0)
+                return;
+            const auto last = std::exchange(onName, nullptr);
+            deed();
+        };
+    }
     BOOL GetName(char* pBuffer, DWORD* pLength) override
     {
         const BOOL bRead = FakeAtom::GetName(pBuffer, pLength);
-        if (const auto deed = pBuffer ? std::exchange(onName, nullptr) : nullptr)
-            deed();
+        if (pBuffer && onName)
+            onName();
         return bRead;
     }
 };
@@ -155,15 +165,35 @@ TEST_F(TreeMisbehaviourTest, AnAtomMayHaveTheTreeDrawOrDestroyItWhileItIsAskedFo
     box->Add(pRestless);
     ProbeTree& tree = ShowTree();
     Find("a")->name.assign(1000, 'a'); // more than the buffer has held so far
-    pRestless->onName = [&] { tree.OnChangeAtom(box, world.Get()); };
+    pRestless->Do(1, [&] { tree.OnChangeAtom(box, world.Get()); });
     tree.nLabels = 0;
     EXPECT_EQ("a restless one", std::string(tree.GetItemText(tree.GetItem(pRestless))));
     EXPECT_GT(tree.nLabels, 5);
 
-    pRestless->onName = [&] { tree.DestroyWindow(); };
+    pRestless->Do(1, [&] { tree.DestroyWindow(); });
     EXPECT_FALSE(tree.OnCreateAtom(pRestless, nullptr));
     EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
     EXPECT_EQ(1, pRestless->CountReferences());
+}
+
+TEST_F(TreeMisbehaviourTest, MembersMayGoWhileTheyArePutInOrder)
+{
+    auto* const pRestless = new RestlessAtom("a restless one");
+    box->Add(pRestless);
+    Find("b")->isLink = true; // so that pairs are compared
+    ProbeTree& tree = MakeTree();
+    int nth = 0;
+    do {
+        pRestless->Do(++nth, [&] {
+            for (const char* pszName : {"a", "b", "c"})
+                Remove(tree, Find(pszName));
+        });
+        tree.OnCreateAtom(box, nullptr);
+        EXPECT_EQ(pRestless->onName ? "box [a a restless one b c]" : "box [a restless one]", tree.State());
+        tree.OnDeleteAtom(box, nullptr);
+        EXPECT_EQ(1, Find("b")->CountReferences());
+    } while (!pRestless->onName);
+    EXPECT_GT(nth, 3); // labels are read, then names, then names in pairs
 }
 
 TEST_F(TreeMisbehaviourTest, WithTheSelectedItemGoneAndItsHeirRefusedNothingIsSelectedOrBold)
