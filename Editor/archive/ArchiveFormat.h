@@ -25,6 +25,8 @@
 // is inside a folder. It is only ever looked up in the library that is pasted into, nothing is made at it.
 #pragma once
 
+#include "Editor/model/DiskFile.h"
+
 #include <bit>
 #include <cstdint>
 #include <cstring>
@@ -38,14 +40,6 @@ enum class RecordKind : std::uint8_t
     File = 1,
     Folder = 2,
     Link = 3
-};
-
-// Tells files and folders apart, whatever the paths that lead to them.
-struct FileIdentity
-{
-    std::uint64_t device = 0;
-    std::uint64_t inode = 0;
-    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
 };
 
 struct ArchiveRecord

@@ -33,7 +33,7 @@ void CContainer::ReadAgain()
         MoveMembers(*m_pContents, *pNow);
     pNow->table.NumberTheRest(Context().nextId);
     m_pContents = std::move(pNow);
-    m_bRefused = false;
+    m_failure.clear();
 }
 
 bool CContainer::HoldsAny()
@@ -75,44 +75,22 @@ BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId
     return GiveMember(pszName ? FindName(Members().table, pszName) : MemberTable::kNone, ppOut, dwInterfaceId);
 }
 
-BOOL CContainer::AddAtom(IAtom*, DWORD, const char*, void** ppOut, DWORD)
-{
-    if (ppOut)
-        *ppOut = nullptr;
-    return Refuse();
-}
-
-BOOL CContainer::RenameAtom(IAtom*, const char*, void** ppOut, DWORD)
-{
-    if (ppOut)
-        *ppOut = nullptr;
-    return Refuse();
-}
-
-BOOL CContainer::RemoveAtom(IAtom*)
-{
-    return Refuse();
-}
-
-BOOL CContainer::ValidateName(CString&, DWORD)
-{
-    return Refuse();
-}
-
 void* CContainer::FindInterface(DWORD id)
 {
     return id == IID_IAtomContainer ? static_cast<IAtomContainer*>(this) : CMember::FindInterface(id);
 }
 
-std::string CContainer::LastError() const
+std::string CContainer::LastErrorLine() const
 {
-    return m_bRefused ? "its members cannot be changed here" : ErrorReason();
+    return m_failure.empty() ? ErrorLine() : m_failure;
 }
 
 CContainer::Contents& CContainer::Members()
 {
     if (!m_pContents)
         ReadAgain();
+    else if (!m_pContents->table.IsTidy())
+        Tidy();
     return *m_pContents;
 }
 
@@ -160,12 +138,6 @@ void CContainer::MoveMembers(Contents& former, Contents& contents)
             member.m_nIndex = MemberTable::kNone;
         }
     }
-}
-
-BOOL CContainer::Refuse()
-{
-    m_bRefused = true;
-    return FALSE;
 }
 
 std::string_view CContainer::NameOf(const CMember& member) const

@@ -1,6 +1,7 @@
 // A container of the library: what folders and phases have in common.
 #pragma once
 
+#include "Editor/archive/ArchiveFormat.h"
 #include "Editor/model/Member.h"
 
 #include <map>
@@ -11,8 +12,9 @@
 namespace editor
 {
 
-// The members are read when they are first asked for. Nothing on the disk is changed: whoever wants to add, remove
-// or rename a member is refused with a reason.
+// The members are read when they are first asked for. Adding, renaming and removing them acts on the disk at once. What
+// fails changes nothing, and the container's IMyErrorInfo names the object and the reason until a change succeeds or
+// the members are read anew.
 class CContainer : public CMember, public IAtomContainer
 {
 public:
@@ -30,7 +32,8 @@ public:
     BOOL AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RemoveAtom(IAtom* pAtom) override;
-    DWORD GetPermissions(IAtom*) override { return 0; }
+    // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason.
+    DWORD GetPermissions(IAtom* pAtom) override;
     BOOL ValidateName(CString& strName, DWORD dwReserved) override;
 
 protected:
@@ -43,13 +46,29 @@ protected:
     };
 
     void* FindInterface(DWORD id) override;
-    std::string LastError() const override;
+    std::string LastErrorLine() const override;
     virtual Listing Read() = 0;
     virtual bool FindAny() { return GetCount() > 0; }
     virtual UINT FindName(const MemberTable& table, std::string_view name) const = 0;
     virtual CMember* MakeMember(UINT nIndex, MemberKind kind) = 0; // with one reference
 
+    // On the disk, about present members. What can fail answers with one line that names the file and the reason;
+    // empty: it is done.
+    struct Entry
+    {
+        std::string name; // as it is listed
+        MemberKind kind = MemberKind::Picture;
+    };
+    virtual DWORD MemberPermissions() const = 0;
+    virtual DWORD PermissionsFor(const ArchiveRecord& record) = 0;
+    virtual std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) = 0;
+    virtual std::string Rename(const CMember& member, const std::string& name, Entry& renamed) = 0;
+    virtual std::string Remove(const CMember& member) = 0;
+    virtual std::string ValidNameFor(std::string_view name) = 0; // empty when there is none
+
     std::string_view NameOf(const CMember& member) const; // as it was listed
+    MemberKind KindOf(const CMember& present) const { return m_pContents->table.KindOf(present.Index()); }
+    const MemberTable& Table() { return Members().table; }
 
 private:
     friend class CMember;
@@ -68,13 +87,17 @@ private:
     CStubRef<CMember> MemberAt(UINT nIndex);
     BOOL GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId);
     void MoveMembers(Contents& former, Contents& contents);
-    BOOL Refuse();
+    bool IsPresent(const CMember* pMember) const;
+    BOOL Note(std::string failure); // FALSE when there is one
+    UINT Append(const Entry& entry);
+    void Drop(UINT nIndex);
+    void Tidy();
     DWORD IdOf(const CMember& member) const;
     void Forget(const CMember& member);
 
     std::unique_ptr<Contents> m_pContents; // NULL until the members are asked for
     std::optional<bool> m_holdsAny;        // as far as it was asked for before they were
-    bool m_bRefused = false;               // a change, since the members were read
+    std::string m_failure;                 // of the last change; empty when it succeeded
 };
 
 } // namespace editor

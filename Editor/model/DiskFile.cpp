@@ -28,6 +28,12 @@ int RenameWithCare(int nFrom, const char* pszFrom, int nTo, const char* pszTo)
 
 } // namespace
 
+bool IsFile(const std::string& path, const FileIdentity& identity)
+{
+    struct stat status;
+    return stat(path.c_str(), &status) == 0 && FileIdentity{status.st_dev, status.st_ino} == identity;
+}
+
 int ReadNames(int nFolder, std::vector<std::string>& names)
 {
     const int fd = openat(nFolder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); // with a position of its own

@@ -1,6 +1,7 @@
 // Files on the disk, as the system hands them out.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unistd.h>
@@ -30,6 +31,15 @@ public:
 private:
     int m_fd;
 };
+
+// Tells files and folders apart, whatever the paths that lead to them.
+struct FileIdentity
+{
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+};
+bool IsFile(const std::string& path, const FileIdentity& identity); // does the path lead there?
 
 // The names of all that is in an open folder, in no particular order. The error number; 0: none.
 int ReadNames(int nFolder, std::vector<std::string>& names);

@@ -25,19 +25,6 @@ bool IsDevice(std::string_view name)
                        [&](std::string_view device) { return toolkit::CompareNoCase(stem, device) == 0; });
 }
 
-// As many whole characters as fit into so many bytes.
-std::string_view Shortened(std::string_view text, std::size_t most)
-{
-    std::size_t end = 0;
-    while (end < text.size()) {
-        const auto bytes = static_cast<std::size_t>(toolkit::DecodeUtf8(text.substr(end)).bytes);
-        if (end + bytes > most)
-            break;
-        end += bytes;
-    }
-    return text.substr(0, end);
-}
-
 // Takes a number as in " (2)" off the end of the stem; 1 when there is none.
 int TakeNumber(std::string_view& stem)
 {
@@ -61,6 +48,18 @@ std::string Numbered(std::string_view stem, int number, std::string_view extensi
 }
 
 } // namespace
+
+std::string_view Shortened(std::string_view text, std::size_t most)
+{
+    std::size_t end = 0;
+    while (end < text.size()) {
+        const auto bytes = static_cast<std::size_t>(toolkit::DecodeUtf8(text.substr(end)).bytes);
+        if (end + bytes > most)
+            break;
+        end += bytes;
+    }
+    return text.substr(0, end);
+}
 
 std::string NameTrouble(std::string_view name)
 {

@@ -20,6 +20,9 @@ std::string NameTrouble(std::string_view name);
 // Empty when nothing is left of it.
 std::string MakeValid(std::string_view name);
 
+// As many of the text's characters as fit into so many bytes.
+std::string_view Shortened(std::string_view text, std::size_t most);
+
 // The name itself when it is not taken; else with a number, as in "Walk (2)", "walk (2).png": the first that is not
 // taken, counted on from a number that is there already. What stands behind the number (the extension, with its dot)
 // is kept; what stands before it is shortened to let the whole fit, never inside a character.

@@ -1,30 +1,12 @@
 #include "Editor/model/Folder.h"
 
 #include "Editor/model/FileText.h"
-#include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/Picture.h"
 #include "Editor/pictures/IconPainter.h"
 
-#include <algorithm>
-
 namespace editor
 {
-namespace
-{
-
-constexpr const char* kPhaseExtension = "phase";
-
-bool KindOfFile(const char* pszName, const LibraryContext& context, MemberKind& kind)
-{
-    const std::string extension = ExtensionOf(pszName);
-    kind = extension == kPhaseExtension ? MemberKind::Phase : MemberKind::Picture;
-    return kind == MemberKind::Phase ||
-           std::binary_search(context.pictureExtensions.begin(), context.pictureExtensions.end(), extension);
-}
-
-} // namespace
-
 CContainer::Listing CFolder::Read()
 {
     Listing listing;
@@ -36,9 +18,9 @@ CContainer::Listing CFolder::Read()
     }
     m_identity = directory.GetIdentity();
     directory.ForEach([&](const char* pszName, bool isDirectory) {
-        MemberKind kind = MemberKind::Folder;
-        if (isDirectory || KindOfFile(pszName, Context(), kind))
-            listing.table.Add(pszName, kind);
+        const auto kind = isDirectory ? MemberKind::Folder : KindOfName(pszName);
+        if (kind)
+            listing.table.Add(pszName, *kind);
         return true;
     });
     listing.table.Sort();
@@ -53,8 +35,7 @@ bool CFolder::FindAny()
     bool bAny = false;
     if (directory.GetError() == 0 && !IsInside(directory.GetIdentity())) {
         directory.ForEach([&](const char* pszName, bool isDirectory) {
-            MemberKind kind;
-            bAny = isDirectory || KindOfFile(pszName, Context(), kind);
+            bAny = isDirectory || KindOfName(pszName);
             return !bAny;
         });
     }

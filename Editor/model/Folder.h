@@ -3,12 +3,16 @@
 
 #include "Editor/model/Container.h"
 #include "Editor/model/Directory.h"
+#include "Editor/model/TakenNames.h"
 
 namespace editor
 {
 
 // Its members are the sub-folders, the pictures that the library can read, and the phases; other files and those
 // whose names begin with a dot are not shown. The directory is read once, when the members are first asked for.
+//
+// What is removed goes to the user's trash (Trash.h). Nothing is ever replaced: what is added or renamed to a name that
+// is there already is refused. A phase that is added keeps leading to the pictures of this library that it led to.
 class CFolder : public CContainer
 {
 public:
@@ -21,10 +25,21 @@ protected:
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;
     toolkit::Surface DrawIcon(CSize size) override;
 
+    DWORD MemberPermissions() const override { return APF_RENAME | APF_REMOVE; }
+    // Whatever it can show; a folder does not take itself, nor what holds it, but as a copy.
+    DWORD PermissionsFor(const ArchiveRecord& record) override;
+    std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) override;
+    std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
+    std::string Remove(const CMember& member) override;
+    std::string ValidNameFor(std::string_view name) override;
+
 private:
+    bool CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const;
+    std::string TroubleOfNewName(MemberKind former, const std::string& name, MemberKind& kind) const;
     bool IsInside(const DirectoryIdentity& identity) const; // is one of the folders that hold this one that directory?
 
     DirectoryIdentity m_identity; // once it has been read
+    TakenNames m_taken;
 };
 
 } // namespace editor

@@ -3,23 +3,11 @@
 #include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
+#include "Editor/model/PhaseText.h"
 #include "Editor/pictures/IconPainter.h"
-
-#include <filesystem>
-#include <unistd.h>
 
 namespace editor
 {
-namespace
-{
-
-bool IsInside(const std::string& path, const std::string& root)
-{
-    return path.size() > root.size() && path.starts_with(root) && (root.ends_with('/') || path[root.size()] == '/');
-}
-
-} // namespace
-
 CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : CMember(pPhase, nIndex) {}
 
 std::string_view CImageLink::Name() const
@@ -30,18 +18,7 @@ std::string_view CImageLink::Name() const
 // Where no picture is found, the one beside the phase is the one that is missed.
 std::string CImageLink::Path() const
 {
-    const std::string& root = Context().rootPath;
-    std::string missed;
-    for (const std::string& folder : {Container()->Container()->Path(), root}) {
-        const std::string path = (std::filesystem::path(folder) / Line()).lexically_normal();
-        if (!IsInside(path, root))
-            continue;
-        if (access(path.c_str(), F_OK) == 0)
-            return path;
-        if (missed.empty())
-            missed = path;
-    }
-    return missed;
+    return FindPicture(Line(), Container()->Container()->Path(), Context().rootPath).path;
 }
 
 std::string CImageLink::ErrorReason() const

@@ -8,6 +8,8 @@
 #include "Editor/model/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
 
+#include <algorithm>
+
 namespace editor
 {
 namespace
@@ -77,8 +79,8 @@ void CMember::GetInterface(DWORD id, void** out)
     else if (id == IID_IDispAtom && !IsShownAsItIs(Name()))
         *out = static_cast<IDispAtom*>(new CDisplayName(this, ShownName()));
     else if (id == IID_IMyErrorInfo)
-        if (const std::string reason = LastError(); !reason.empty())
-            *out = CErrorInfo::Make(ShownName() + ": " + reason).Detach();
+        if (std::string line = LastErrorLine(); !line.empty())
+            *out = CErrorInfo::Make(std::move(line)).Detach();
 }
 
 void* CMember::FindInterface(DWORD id)
@@ -95,6 +97,16 @@ void* CMember::FindInterface(DWORD id)
 LibraryContext& CMember::Context() const
 {
     return static_cast<const CMember*>(m_pContainer.Get())->Context();
+}
+
+std::optional<MemberKind> CMember::KindOfName(std::string_view name) const
+{
+    const std::string extension = ExtensionOf(name);
+    const std::vector<std::string>& pictures = Context().pictureExtensions;
+    if (extension == "phase")
+        return MemberKind::Phase;
+    return std::binary_search(pictures.begin(), pictures.end(), extension) ? std::optional(MemberKind::Picture)
+                                                                           : std::nullopt;
 }
 
 DWORD CMember::GetID()

@@ -5,6 +5,7 @@
 #include "Toolkit/graphics/Surface.h"
 #include "Views/host/host.h"
 
+#include <optional>
 #include <string>
 
 namespace editor
@@ -51,9 +52,11 @@ protected:
     virtual ~CMember();
 
     virtual void* FindInterface(DWORD id); // without a reference; NULL when the object has none
-    virtual std::string LastError() const { return ErrorReason(); } // what IMyErrorInfo tells
+    virtual std::string LastErrorLine() const { return ErrorLine(); } // what IMyErrorInfo tells
     virtual toolkit::Surface DrawIcon(CSize size) = 0;
     virtual LibraryContext& Context() const;
+    std::optional<MemberKind>
+    KindOfName(std::string_view name) const; // as what a file of that name is shown, if at all
     UINT Index() const { return m_nIndex; }
 
 private:

@@ -8,6 +8,8 @@ namespace editor
 namespace
 {
 
+constexpr std::size_t kLongestTail = 64; // of members that came since the last tidying
+
 // How many bytes both begin with, at most `most`.
 std::size_t CommonStart(std::string_view a, std::string_view b, std::size_t most)
 {
@@ -43,9 +45,18 @@ UINT MemberTable::FindID(DWORD dwID) const
 
 UINT MemberTable::FindSorted(std::string_view name) const
 {
-    const auto at = std::lower_bound(m_entries.begin(), m_entries.end(), name,
-                                     [this](const Entry& entry, std::string_view n) { return NameOf(entry) < n; });
-    return at != m_entries.end() && NameOf(*at) == name ? static_cast<UINT>(at - m_entries.begin()) : kNone;
+    const auto tail = m_entries.begin() + static_cast<std::ptrdiff_t>(m_nSorted);
+    auto at = std::lower_bound(m_entries.begin(), tail, name,
+                               [this](const Entry& entry, std::string_view n) { return NameOf(entry) < n; });
+    const auto isIt = [&](const Entry& entry) { return entry.id != 0 && NameOf(entry) == name; };
+    if (at == tail || !isIt(*at))
+        at = std::find_if(tail, m_entries.end(), isIt);
+    return at != m_entries.end() ? static_cast<UINT>(at - m_entries.begin()) : kNone;
+}
+
+bool MemberTable::IsTidy() const
+{
+    return m_nDropped == 0 && (!m_bSorted || m_entries.size() - m_nSorted <= kLongestTail);
 }
 
 void MemberTable::Add(std::string_view name, MemberKind kind)
@@ -68,6 +79,8 @@ void MemberTable::Sort()
         return a.first != b.first ? a.first < b.first : NameOf(a.second) < NameOf(b.second);
     });
     std::transform(keyed.begin(), keyed.end(), m_entries.begin(), [](const auto& one) { return one.second; });
+    m_nSorted = m_entries.size();
+    m_bSorted = true;
 }
 
 void MemberTable::Identify(UINT nIndex, DWORD dwID, CMember* pLive)
@@ -83,6 +96,41 @@ void MemberTable::NumberTheRest(DWORD& nextId)
             entry.id = nextId++;
     m_entries.shrink_to_fit();
     m_names.shrink_to_fit();
+}
+
+UINT MemberTable::Append(std::string_view name, MemberKind kind, DWORD dwID)
+{
+    Add(name, kind);
+    const UINT nIndex = GetCount() - 1;
+    m_entries[nIndex].id = dwID;
+    if (!m_idOrder.empty())
+        m_idOrder.push_back(nIndex);
+    return nIndex;
+}
+
+void MemberTable::Drop(UINT nIndex)
+{
+    m_entries[nIndex].id = 0;
+    m_entries[nIndex].pLive = nullptr;
+    ++m_nDropped;
+    m_idOrder.clear();
+}
+
+void MemberTable::Tidy()
+{
+    const auto isDropped = [](const Entry& entry) { return entry.id == 0; };
+    const auto byName = [this](const Entry& a, const Entry& b) { return NameOf(a) < NameOf(b); };
+    const auto tail = m_entries.begin() + static_cast<std::ptrdiff_t>(m_nSorted);
+    m_nSorted -= static_cast<std::size_t>(std::count_if(m_entries.begin(), tail, isDropped));
+    std::erase_if(m_entries, isDropped);
+    m_nDropped = 0;
+    m_idOrder.clear();
+    if (!m_bSorted)
+        return;
+    const auto rest = m_entries.begin() + static_cast<std::ptrdiff_t>(m_nSorted);
+    std::sort(rest, m_entries.end(), byName);
+    std::inplace_merge(m_entries.begin(), rest, m_entries.end(), byName);
+    m_nSorted = m_entries.size();
 }
 
 } // namespace editor

@@ -1,63 +1,15 @@
 #include "Editor/model/Phase.h"
 
 #include "Editor/model/FileText.h"
+#include "Editor/model/Folder.h"
 #include "Editor/model/ImageLink.h"
+#include "Editor/model/LibraryContext.h"
+#include "Editor/model/PhaseText.h"
+#include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
-
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace editor
 {
-namespace
-{
-
-constexpr off_t kLargest = 4 << 20; // bytes; far more than any phase needs
-
-class File
-{
-public:
-    explicit File(const std::string& path) : m_fd(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {}
-    ~File()
-    {
-        if (m_fd >= 0)
-            close(m_fd);
-    }
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-
-    // Empty when all of it has been read.
-    std::string ReadAll(std::string& text)
-    {
-        struct stat status;
-        if (m_fd < 0 || fstat(m_fd, &status) != 0)
-            return SystemErrorText(errno);
-        if (!S_ISREG(status.st_mode))
-            return "not a file";
-        if (status.st_size > kLargest)
-            return "too large for a phase";
-        text.resize(static_cast<std::size_t>(status.st_size));
-        const ssize_t got = read(m_fd, text.data(), text.size());
-        if (got < 0)
-            return SystemErrorText(errno);
-        text.resize(static_cast<std::size_t>(got));
-        return {};
-    }
-
-private:
-    const int m_fd;
-};
-
-std::string_view Trimmed(std::string_view line)
-{
-    constexpr const char* kBlank = " \t\r";
-    const std::size_t first = line.find_first_not_of(kBlank);
-    return first == line.npos ? std::string_view() : line.substr(first, line.find_last_not_of(kBlank) - first + 1);
-}
-
-} // namespace
 
 int CPhase::GetPosition(IImageLink* pLink)
 {
@@ -74,18 +26,10 @@ CContainer::Listing CPhase::Read()
 {
     Listing listing;
     std::string text;
-    listing.error = File(Path()).ReadAll(text);
-    if (text.find('\0') != text.npos)
-        listing.error = "not a text";
-    if (!listing.error.empty())
-        return listing;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t end = std::min(text.find('\n', at), text.size());
-        const std::string_view line = Trimmed(std::string_view(text).substr(at, end - at));
-        if (!line.empty() && line[0] != '#')
-            listing.table.Add(line, MemberKind::Link);
-        at = end + 1;
-    }
+    listing.error = ReadPhaseText(Path(), text);
+    if (listing.error.empty())
+        for (const PictureLine& line : PictureLines(text))
+            listing.table.Add(line.picture, MemberKind::Link);
     return listing;
 }
 
@@ -105,6 +49,69 @@ CMember* CPhase::MakeMember(UINT nIndex, MemberKind)
 toolkit::Surface CPhase::DrawIcon(CSize size)
 {
     return PaintPictogram(Pictogram::Phase, size);
+}
+
+DWORD CPhase::PermissionsFor(const ArchiveRecord& record)
+{
+    if (LineOf(record).empty())
+        return 0;
+    return record.kind == RecordKind::Link ? APF_ACCEPT | APF_ACCEPTCOPY : APF_ACCEPTCOPY;
+}
+
+std::string CPhase::Add(const ArchiveRecord& record, const std::string& name, Entry& added)
+{
+    added = {LineOf(record), MemberKind::Link};
+    if (added.name.empty())
+        return ToShown(name) + ": only pictures of the same library can be put into a phase";
+    std::string text;
+    std::string reason = ReadUnchanged(text);
+    return !reason.empty() ? ShownName() + ": " + reason : Save(WithLine(std::move(text), added.name));
+}
+
+std::string CPhase::Rename(const CMember& member, const std::string&, Entry&)
+{
+    return member.ShownName() + ": a line of a phase bears the name of its picture";
+}
+
+std::string CPhase::Remove(const CMember& member)
+{
+    std::string text;
+    if (const std::string reason = ReadUnchanged(text); !reason.empty())
+        return ShownName() + ": " + reason;
+    const auto nLine = static_cast<std::size_t>(static_cast<const CImageLink&>(member).Position());
+    const PictureLine line = PictureLines(text)[nLine];
+    return Save(text.erase(line.at, line.size));
+}
+
+// The line for what a record holds: empty unless it is a picture of this very library that is still there.
+std::string CPhase::LineOf(const ArchiveRecord& record) const
+{
+    const std::string path = Context().rootPath + '/' + std::string(record.origin);
+    const bool isPicture =
+        record.kind == RecordKind::Link || (record.kind == RecordKind::File && KindOfName(path) == MemberKind::Picture);
+    if (record.origin.empty() || !isPicture || !IsFile(path, record.identity))
+        return {};
+    return LineFor(path, Container()->Path(), Context().rootPath);
+}
+
+// What stands in the file between its lines is not to be lost, and what another program wrote there neither.
+std::string CPhase::ReadUnchanged(std::string& text)
+{
+    const MemberTable& table = Table();
+    std::string reason = ReadPhaseText(Path(), text);
+    if (!reason.empty())
+        return reason;
+    const std::vector<PictureLine> lines = PictureLines(text);
+    bool isSame = lines.size() == table.GetCount();
+    for (UINT i = 0; isSame && i < table.GetCount(); ++i)
+        isSame = lines[i].picture == table.NameOf(i);
+    return isSame ? std::string() : "was changed by another program; read it again first";
+}
+
+std::string CPhase::Save(const std::string& text)
+{
+    const int error = ReplaceFile(Path(), text);
+    return error == 0 ? std::string() : ShownName() + ": " + SystemErrorText(error);
 }
 
 } // namespace editor

@@ -9,6 +9,9 @@ namespace editor
 // A line names a picture by its path from the phase's own folder or, failing that, from the library's. Empty lines
 // and those that begin with # do not count; a picture may be named any number of times. The members bear the last
 // part of the path as their name.
+//
+// Pictures of the same library that are added become lines at the end; removing a link takes its line away, and its
+// picture stays. Each change is saved at once, the file as a whole. Lines cannot be renamed.
 class CPhase : public CContainer, public IPhase
 {
 public:
@@ -24,6 +27,18 @@ protected:
     UINT FindName(const MemberTable& table, std::string_view name) const override;
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;
     toolkit::Surface DrawIcon(CSize size) override;
+
+    DWORD MemberPermissions() const override { return APF_REMOVE; }
+    DWORD PermissionsFor(const ArchiveRecord& record) override; // for a picture, a copy only: it becomes a line
+    std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) override;
+    std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
+    std::string Remove(const CMember& member) override;
+    std::string ValidNameFor(std::string_view name) override { return std::string(name); } // as often as one likes
+
+private:
+    std::string LineOf(const ArchiveRecord& record) const;
+    std::string ReadUnchanged(std::string& text);
+    std::string Save(const std::string& text);
 };
 
 } // namespace editor

@@ -61,7 +61,7 @@ public:
     BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
     // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why.
     BOOL WriteActiveObjects(IArchive* archive) override;
-    CLIPFORMAT GetClipboardFormat() override { return 0; }
+    CLIPFORMAT GetClipboardFormat() override;
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:

@@ -6,6 +6,7 @@
 #include "Editor/model/Member.h"
 #include "Editor/services/AtomEditor.h"
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/ole/ClipboardFormat.h"
 
 namespace editor
 {
@@ -105,6 +106,11 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
     } catch (CMemoryException& exception) {
         return NoteArchiveError(exception.GetErrorMessage());
     }
+}
+
+CLIPFORMAT CAtomEditor::GetClipboardFormat()
+{
+    return RegisterClipboardFormat("application/x-views-atoms");
 }
 
 BOOL CAtomEditor::NoteArchiveError(std::string line)

@@ -84,3 +84,65 @@ std::string ArchiveTest::Read(IArchive* pArchive)
     EXPECT_EQ("", names) << "handed out before the whole was checked";
     return "! " + editor.GetArchiveError();
 }
+
+std::string ArchiveTest::Paste(IArchive* pArchive, IAtomContainer* pInto, bool bMove)
+{
+    struct Context
+    {
+        IAtomContainer* pInto;
+        bool bMove;
+        std::string failures;
+    } context{pInto, bMove, {}};
+    const ARCHIVEATOMPROC paste = [](IAtom* pAtom, void* p) -> BOOL {
+        auto& c = *static_cast<Context*>(p);
+        const std::string name = c.bMove ? Name(pAtom) : ValidName(c.pInto, Name(pAtom));
+        CStubRef<IAtom> pNew;
+        if (!c.pInto->GetPermissions(pAtom))
+            c.failures += Name(pAtom) + ": not permitted\n";
+        else if (!c.pInto->AddAtom(pAtom, 0, name.c_str(), pNew.Receive(), IID_IAtom))
+            c.failures += Error(c.pInto) + '\n';
+        EXPECT_EQ(static_cast<bool>(pNew), Error(pAtom).empty());
+        return TRUE;
+    };
+    EXPECT_TRUE(editor.ReadArchive(paste, pArchive, &context)) << editor.GetArchiveError();
+    return context.failures;
+}
+
+std::string ArchiveTest::Permissions(IArchive* pArchive, IAtomContainer* pInto)
+{
+    std::pair<IAtomContainer*, DWORD> asked(pInto, 0xFFFFFFFF);
+    const ARCHIVEATOMPROC ask = [](IAtom* pAtom, void* p) -> BOOL {
+        auto& [pContainer, dwAnswer] = *static_cast<decltype(asked)*>(p);
+        dwAnswer = pContainer->GetPermissions(pAtom);
+        return FALSE;
+    };
+    EXPECT_FALSE(editor.ReadArchive(ask, pArchive, &asked));
+    return asked.second == (APF_ACCEPT | APF_ACCEPTCOPY) ? "accept copy"
+           : asked.second == APF_ACCEPTCOPY              ? "copy"
+           : asked.second == 0                           ? "none"
+                                                         : "?";
+}
+
+std::string ArchiveTest::ValidName(IAtomContainer* pIn, const std::string& name)
+{
+    CString valid(name.c_str());
+    return pIn->ValidateName(valid, 0) ? std::string(valid.View()) : "?";
+}
+
+std::string ArchiveTest::Remove(IAtomContainer* pIn, const char* pszName)
+{
+    const auto pAtom = Find(pIn, pszName);
+    return pIn->RemoveAtom(pAtom.Get()) ? std::string() : Error(pIn);
+}
+
+std::string ArchiveTest::Rename(IAtomContainer* pIn, const char* pszName, const std::string& newName)
+{
+    const auto pAtom = Find(pIn, pszName);
+    CStubRef<IAtom> pNew;
+    if (!pIn->RenameAtom(pAtom.Get(), newName.c_str(), pNew.Receive(), IID_IAtom))
+        return Error(pIn);
+    EXPECT_NE(pAtom.Get(), pNew.Get());
+    EXPECT_EQ(newName, Name(pNew.Get()));
+    EXPECT_EQ(pszName, Name(pAtom.Get())) << "the former atom is still what it was";
+    return {};
+}

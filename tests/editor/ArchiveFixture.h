@@ -23,6 +23,15 @@ protected:
     std::string Read(IArchive* pArchive);
     std::string Read(std::string_view bytes) { return Read(MakeArchive(bytes).Get()); }
 
+    // As PasteObjects does: under valid names or, when it is a move, under their own. The lines of what failed.
+    std::string Paste(IArchive* pArchive, IAtomContainer* pInto, bool bMove = false);
+    // What a container answers for the first object: "accept copy", "none".
+    std::string Permissions(IArchive* pArchive, IAtomContainer* pInto);
+    static std::string ValidName(IAtomContainer* pIn, const std::string& name); // "?" without one
+    // Of a change that is refused, the container's error; else "".
+    static std::string Remove(IAtomContainer* pIn, const char* pszName);
+    static std::string Rename(IAtomContainer* pIn, const char* pszName, const std::string& newName);
+
     editor::CAtomEditor editor;
 
 private:

@@ -5,6 +5,7 @@
 #include "Editor/frame/MainFrame.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/editor/TempFolder.h"
+#include "tests/editor/TrashHome.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end the editor is closed, and none of its objects may be alive.
@@ -33,6 +34,7 @@ protected:
     void AltUp();
     toolkit::Pixel MiddleOf(HWND hWnd);
 
+    TrashHome trash;
     TempFolder folder;
     BmpReader reader;
     int nClosed = 0;

@@ -4,6 +4,7 @@
 #include "Editor/model/Library.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/editor/TempFolder.h"
+#include "tests/editor/TrashHome.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end no object of the model may be alive.
@@ -30,6 +31,7 @@ protected:
     Ledger TakeArrivals() { return m_arrivals.TakeLedger(); }
     void Settle(); // all pictures wanted so far have arrived
 
+    TrashHome trash;
     TempFolder folder;
     BmpReader reader;
     std::shared_ptr<editor::PictureStore> pPictures;

@@ -1,8 +1,8 @@
 #include "Editor/model/LiveObjects.h"
+#include "tests/editor/AsNobody.h"
 #include "tests/editor/LibraryFixture.h"
 #include "tests/support/AllocationFailures.h"
 
-#include <cstdlib>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -201,23 +201,6 @@ TEST_F(LibraryTest, ALinkToAFolderThatHoldsItIsShownAndNotOpened)
     EXPECT_EQ("", Error(pAda.Get()));
 }
 
-// The superuser may read everything: for a while the test is nobody.
-class AsNobody
-{
-public:
-    AsNobody() : m_bChanged(geteuid() == 0 && seteuid(65534) == 0) {}
-    ~AsNobody()
-    {
-        if (m_bChanged && seteuid(0) != 0)
-            std::abort();
-    }
-    AsNobody(const AsNobody&) = delete;
-    AsNobody& operator=(const AsNobody&) = delete;
-
-private:
-    const bool m_bChanged;
-};
-
 TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
 {
     folder.MakeFolder("secret");
@@ -232,21 +215,6 @@ TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
     EXPECT_EQ("[]", Members(pSecret.Get()));
     EXPECT_EQ("secret: permission denied", Error(pSecret.Get()));
     EXPECT_EQ("! " + folder.At("secret") + ": permission denied", Open(folder.At("secret")));
-}
-
-TEST_F(LibraryTest, NothingOnTheDiskIsChangedAndTheReasonIsGiven)
-{
-    folder.WriteBmp("a.bmp");
-    Open();
-    const auto pAtom = Find(Library(), "a.bmp");
-    CStubRef<IAtom> pNew;
-
-    EXPECT_EQ(0u, Library()->GetPermissions(pAtom.Get()));
-    EXPECT_EQ("", Error(Library()));
-    EXPECT_FALSE(Library()->RenameAtom(pAtom.Get(), "b.bmp", pNew.Receive(), IID_IAtom));
-    EXPECT_EQ(Name(Library()) + ": its members cannot be changed here", Error(Library()));
-    EXPECT_FALSE(Library()->RemoveAtom(pAtom.Get()));
-    EXPECT_EQ("[a.bmp]", Members(Library()));
 }
 
 TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)

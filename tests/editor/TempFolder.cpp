@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <fstream>
+#include <iterator>
+#include <set>
 #include <stdexcept>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -44,6 +46,24 @@ void TempFolder::WriteBmp(const std::string& name, int width, int height, unsign
 {
     const auto bytes = toolkit::EncodeBmp(toolkit::Surface({width, height}, color));
     Write(name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+std::string TempFolder::ReadFile(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return file ? std::string(std::istreambuf_iterator<char>(file), {}) : "?";
+}
+
+std::string TempFolder::Everything() const
+{
+    std::set<std::string> paths;
+    for (const auto& entry : fs::recursive_directory_iterator(m_path))
+        paths.insert(entry.path().string().substr(m_path.size() + 1) +
+                     (fs::is_directory(entry.symlink_status()) ? "/" : ""));
+    std::string text;
+    for (const std::string& path : paths)
+        text += (text.empty() ? "" : " ") + path;
+    return text;
 }
 
 void TempFolder::MakeEmptyFiles(int count, const char* pszPattern) const

@@ -18,6 +18,10 @@ public:
     void MakeFolder(const std::string& name) const;
     void Write(const std::string& name, const std::string& bytes) const;
     void WriteBmp(const std::string& name, int width = 8, int height = 8, unsigned color = 0xFF3080C0) const;
+    std::string Read(const std::string& name) const { return ReadFile(At(name)); }
+    static std::string ReadFile(const std::string& path); // "?" when it cannot be read
+    // All there is, hidden files too, in the order of the names: "Ada/ Ada/a.bmp b.bmp".
+    std::string Everything() const;
     void MakeEmptyFiles(int count, const char* pszPattern) const; // a printf pattern with one number
     void Link(const std::string& name, const std::string& target) const;
     void Remove(const std::string& name) const;

@@ -1,0 +1,85 @@
+#include "Editor/archive/Unpack.h"
+
+#include "Editor/archive/ArchiveReader.h"
+#include "Editor/model/FileText.h"
+#include "Editor/model/TempEntry.h"
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace editor
+{
+namespace
+{
+
+std::string Line(const std::string& shown, int error)
+{
+    return ToShown(shown) + ": " + SystemErrorText(error);
+}
+
+void SetChanged(int fd, std::int64_t changed)
+{
+    constexpr std::int64_t kSecond = 1'000'000'000;
+    const std::int64_t rest = ((changed % kSecond) + kSecond) % kSecond;
+    timespec times[2] = {};
+    times[0].tv_nsec = UTIME_OMIT;
+    times[1].tv_sec = static_cast<time_t>((changed - rest) / kSecond);
+    times[1].tv_nsec = static_cast<long>(rest);
+    if (futimens(fd, times) != 0)
+        return; // a file system may not keep times: the file is none the worse
+}
+
+int MakeFile(int nFolder, const std::string& name, const ArchiveRecord& record)
+{
+    FileHandle handle(
+        openat(nFolder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR | 066));
+    if (!handle)
+        return errno;
+    if (const int error = WriteAll(handle.Get(), record.content); error != 0)
+        return error;
+    SetChanged(handle.Get(), record.changed);
+    return handle.Close() ? 0 : errno;
+}
+
+std::string Make(int nFolder, const std::string& name, const std::string& shown, const ArchiveRecord& record);
+
+std::string MakeFolder(int nFolder, const std::string& name, const std::string& shown, const ArchiveRecord& record)
+{
+    if (mkdirat(nFolder, name.c_str(), 0777) != 0)
+        return Line(shown, errno);
+    const FileHandle handle(openat(nFolder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!handle)
+        return Line(shown, errno);
+    RecordReader members(record.content);
+    for (ArchiveRecord member; members.Next(member);) {
+        const std::string memberName(member.name);
+        if (std::string error = Make(handle.Get(), memberName, shown + '/' + memberName, member); !error.empty())
+            return error;
+    }
+    SetChanged(handle.Get(), record.changed);
+    return {};
+}
+
+std::string Make(int nFolder, const std::string& name, const std::string& shown, const ArchiveRecord& record)
+{
+    if (record.kind == RecordKind::Folder)
+        return MakeFolder(nFolder, name, shown, record);
+    const int error = MakeFile(nFolder, name, record);
+    return error == 0 ? std::string() : Line(shown, error);
+}
+
+} // namespace
+
+std::string Unpack(const std::string& folder, const std::string& name, const ArchiveRecord& record)
+{
+    TempEntry temp(folder);
+    if (temp.GetError() != 0)
+        return Line(std::string(BaseName(folder)), temp.GetError());
+    if (std::string error = Make(temp.Folder(), temp.Name(), name, record); !error.empty())
+        return error;
+    const int error = temp.PutAt(name);
+    return error == 0 ? std::string() : Line(name, error);
+}
+
+} // namespace editor

@@ -1,0 +1,16 @@
+// Objects from an archive, made on the disk.
+#pragma once
+
+#include "Editor/archive/ArchiveFormat.h"
+
+#include <string>
+
+namespace editor
+{
+
+// Makes the file or folder that the record holds, under that name in the folder: whole, or not at all. The name and
+// all in the record have been checked. It has the time of the original, and the permissions of a new file. Empty when
+// it is there; else one line that names the file and the reason, for instance that there is something of that name.
+std::string Unpack(const std::string& folder, const std::string& name, const ArchiveRecord& record);
+
+} // namespace editor

@@ -1,0 +1,106 @@
+// A container's members added, renamed and removed.
+#include "Editor/archive/ArchivedAtom.h"
+#include "Editor/model/Container.h"
+#include "Editor/model/LibraryContext.h"
+
+namespace editor
+{
+
+BOOL CContainer::AddAtom(IAtom* pSource, DWORD, const char* pszName, void** ppOut, DWORD dwInterfaceId)
+{
+    if (ppOut)
+        *ppOut = nullptr;
+    CArchivedAtom* const pArchived = CArchivedAtom::Of(pSource);
+    if (!pArchived || !pszName)
+        return Note(ShownName() + ": only what was read from an archive can be added");
+    Members();
+    Entry added;
+    std::string failure = Add(pArchived->Record(), pszName, added);
+    pArchived->SetFailure(failure);
+    if (!Note(std::move(failure)))
+        return FALSE;
+    return GiveMember(Append(added), ppOut, dwInterfaceId);
+}
+
+BOOL CContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId)
+{
+    if (ppOut)
+        *ppOut = nullptr;
+    const CMember* const pMember = CMember::Of(pAtom);
+    if (!IsPresent(pMember) || !pszNewName)
+        return Note(ShownName() + ": the object to be renamed is not there any more");
+    Entry renamed;
+    if (!Note(Rename(*pMember, pszNewName, renamed)))
+        return FALSE;
+    Drop(pMember->Index());
+    return GiveMember(Append(renamed), ppOut, dwInterfaceId);
+}
+
+BOOL CContainer::RemoveAtom(IAtom* pAtom)
+{
+    const CMember* const pMember = CMember::Of(pAtom);
+    if (!IsPresent(pMember))
+        return Note(ShownName() + ": the object to be removed is not there any more");
+    if (!Note(Remove(*pMember)))
+        return FALSE;
+    Drop(pMember->Index());
+    return TRUE;
+}
+
+DWORD CContainer::GetPermissions(IAtom* pAtom)
+{
+    if (const CArchivedAtom* const pArchived = CArchivedAtom::Of(pAtom))
+        return PermissionsFor(pArchived->Record());
+    return IsPresent(CMember::Of(pAtom)) ? MemberPermissions() : 0;
+}
+
+BOOL CContainer::ValidateName(CString& strName, DWORD)
+{
+    const std::string valid = ValidNameFor(strName.View());
+    if (valid.empty())
+        return Note(ShownName() + ": no name can be found in it");
+    strName = valid.c_str();
+    return TRUE;
+}
+
+bool CContainer::IsPresent(const CMember* pMember) const
+{
+    return pMember && pMember->Container() == this && pMember->Index() != MemberTable::kNone;
+}
+
+BOOL CContainer::Note(std::string failure)
+{
+    m_failure = std::move(failure);
+    return m_failure.empty();
+}
+
+// What is listed under the name of the new member is a file that has gone without the library's doing.
+UINT CContainer::Append(const Entry& entry)
+{
+    MemberTable& table = m_pContents->table;
+    if (entry.kind != MemberKind::Link)
+        if (const UINT nStale = FindName(table, entry.name); nStale != MemberTable::kNone)
+            Drop(nStale);
+    return table.Append(entry.name, entry.kind, Context().nextId++);
+}
+
+void CContainer::Drop(UINT nIndex)
+{
+    MemberTable& table = m_pContents->table;
+    if (CMember* const pLive = table.LiveAt(nIndex)) {
+        m_pContents->gone[pLive] = {std::string(table.NameOf(nIndex)), table.IdOf(nIndex)};
+        pLive->m_nIndex = MemberTable::kNone;
+    }
+    table.Drop(nIndex);
+}
+
+void CContainer::Tidy()
+{
+    MemberTable& table = m_pContents->table;
+    table.Tidy();
+    for (UINT i = 0; i < table.GetCount(); ++i)
+        if (CMember* const pLive = table.LiveAt(i))
+            pLive->m_nIndex = i;
+}
+
+} // namespace editor

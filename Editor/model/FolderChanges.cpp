@@ -1,0 +1,149 @@
+// A folder's members added, renamed and removed on the disk.
+#include "Editor/archive/Unpack.h"
+#include "Editor/model/FileNames.h"
+#include "Editor/model/FileText.h"
+#include "Editor/model/Folder.h"
+#include "Editor/model/LibraryContext.h"
+#include "Editor/model/PhaseText.h"
+#include "Editor/model/Trash.h"
+#include "Toolkit/base/Text.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace editor
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+std::string FailureOf(std::string_view name, const std::string& reason)
+{
+    return ToShown(name) + ": " + reason;
+}
+
+// Is it the folder, or does it hold it?
+bool HoldsOrIs(const FileIdentity& identity, const fs::path& folder)
+{
+    if (IsFile(folder.string(), identity))
+        return true;
+    return folder.has_relative_path() && HoldsOrIs(identity, folder.parent_path());
+}
+
+// One file under two spellings, as a file system has it that does not tell upper from lower case.
+bool IsOtherSpelling(int nFolder, const std::string& a, const std::string& b)
+{
+    struct stat first, second;
+    return toolkit::CompareNoCase(a, b) == 0 && fstatat(nFolder, a.c_str(), &first, AT_SYMLINK_NOFOLLOW) == 0 &&
+           fstatat(nFolder, b.c_str(), &second, AT_SYMLINK_NOFOLLOW) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
+}
+
+int RenameIn(const std::string& folder, const std::string& from, const std::string& to)
+{
+    const FileHandle handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!handle)
+        return errno;
+    const int error = RenameWithoutReplacing(handle.Get(), from, handle.Get(), to);
+    if (error != EEXIST || !IsOtherSpelling(handle.Get(), from, to))
+        return error;
+    return renameat(handle.Get(), from.c_str(), handle.Get(), to.c_str()) == 0 ? 0 : errno;
+}
+
+std::string FormerFolder(const std::string& root, std::string_view origin)
+{
+    return (fs::path(root) / origin).parent_path().string();
+}
+
+} // namespace
+
+DWORD CFolder::PermissionsFor(const ArchiveRecord& record)
+{
+    MemberKind kind;
+    const std::string path = Path();
+    if (!CanShow(record, record.name, kind) || eaccess(path.c_str(), W_OK | X_OK) != 0)
+        return 0;
+    const bool isOwnHolder = record.kind == RecordKind::Folder && HoldsOrIs(record.identity, path);
+    return isOwnHolder ? APF_ACCEPTCOPY : APF_ACCEPT | APF_ACCEPTCOPY;
+}
+
+std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, Entry& added)
+{
+    added.name = name;
+    if (record.kind == RecordKind::Link)
+        return FailureOf(name, "a line of a phase can only be put into a phase");
+    if (std::string trouble = NameTrouble(name); !trouble.empty())
+        return FailureOf(name, trouble);
+    if (!CanShow(record, name, added.kind))
+        return FailureOf(name, "not a file that the library shows");
+    const std::string path = Path();
+    ArchiveRecord adapted = record;
+    std::string text;
+    if (added.kind == MemberKind::Phase && !record.origin.empty() && IsPhaseText(record.content)) {
+        const std::string& root = Context().rootPath;
+        text = Relocated(record.content, FormerFolder(root, record.origin), path, root);
+        adapted.content = text;
+    }
+    const bool bCurrent = m_taken.IsCurrent(path);
+    std::string failure = Unpack(path, name, adapted);
+    if (failure.empty() && bCurrent)
+        m_taken.Added(path, name);
+    return failure;
+}
+
+std::string CFolder::Rename(const CMember& member, const std::string& name, Entry& renamed)
+{
+    const std::string former(member.Name());
+    renamed = {name, MemberKind::Folder};
+    if (std::string trouble = TroubleOfNewName(KindOf(member), name, renamed.kind); !trouble.empty())
+        return FailureOf(former, trouble);
+    const int error = RenameIn(Path(), former, name);
+    if (error == EEXIST)
+        return FailureOf(former, "there is a \"" + ToShown(name) + "\" already");
+    return error == 0 ? std::string() : FailureOf(former, SystemErrorText(error));
+}
+
+std::string CFolder::Remove(const CMember& member)
+{
+    const std::string reason = RemoveFromDisk(member.Path());
+    return reason.empty() ? reason : FailureOf(member.Name(), reason);
+}
+
+std::string CFolder::ValidNameFor(std::string_view name)
+{
+    const std::string valid = MakeValid(name);
+    if (valid.empty())
+        return valid;
+    m_taken.Update(Path());
+    const std::size_t dot = KindOfName(valid) ? valid.rfind('.') : valid.size();
+    return NameForCopy(valid, std::string_view(valid).substr(dot),
+                       [this](std::string_view candidate) { return m_taken.Contains(candidate); });
+}
+
+bool CFolder::CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const
+{
+    const auto shown = record.kind == RecordKind::Folder ? MemberKind::Folder
+                       : record.kind == RecordKind::File ? KindOfName(name)
+                                                         : std::nullopt;
+    kind = shown.value_or(MemberKind::Link);
+    return shown && !name.starts_with('.');
+}
+
+std::string CFolder::TroubleOfNewName(MemberKind former, const std::string& name, MemberKind& kind) const
+{
+    if (std::string trouble = NameTrouble(name); !trouble.empty())
+        return trouble;
+    if (name.starts_with('.'))
+        return "a name that begins with a dot would hide it";
+    kind = former;
+    if (former == MemberKind::Folder || KindOfName(name) == former)
+        return {};
+    return "under the name \"" + ToShown(name) + "\" it would be no " +
+           (former == MemberKind::Phase ? "phase" : "picture") + " any more";
+}
+
+} // namespace editor

@@ -1,0 +1,134 @@
+#include "Editor/model/PhaseText.h"
+
+#include "Editor/model/DiskFile.h"
+#include "Editor/model/FileText.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+
+namespace editor
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+constexpr std::size_t kLargest = 4 << 20; // bytes; far more than any phase needs
+
+std::string_view Trimmed(std::string_view line)
+{
+    constexpr const char* kBlank = " \t\r";
+    const std::size_t first = line.find_first_not_of(kBlank);
+    return first == line.npos ? std::string_view() : line.substr(first, line.find_last_not_of(kBlank) - first + 1);
+}
+
+bool IsInside(const std::string& path, const std::string& root)
+{
+    return path.size() > root.size() && path.starts_with(root) && (root.ends_with('/') || path[root.size()] == '/');
+}
+
+// As a line that is read back as just this path; empty when there is none.
+std::string Written(std::string line)
+{
+    if (line.empty() || line.find('\n') != line.npos)
+        return {};
+    if (line[0] == '#' || Trimmed(line).data() != line.data())
+        line.insert(0, "./");
+    return Trimmed(line) == line ? line : std::string();
+}
+
+} // namespace
+
+std::vector<PictureLine> PictureLines(std::string_view text)
+{
+    std::vector<PictureLine> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t end = std::min(text.find('\n', at), text.size());
+        const std::string_view picture = Trimmed(text.substr(at, end - at));
+        const std::size_t next = std::min(end + 1, text.size());
+        if (!picture.empty() && picture[0] != '#')
+            lines.push_back({at, next - at, picture});
+        at = end + 1;
+    }
+    return lines;
+}
+
+std::string ReadPhaseText(const std::string& path, std::string& text)
+{
+    const FileHandle file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    struct stat status;
+    if (!file || fstat(file.Get(), &status) != 0)
+        return SystemErrorText(errno);
+    if (!S_ISREG(status.st_mode))
+        return "not a file";
+    if (static_cast<std::uint64_t>(status.st_size) > kLargest)
+        return "too large for a phase";
+    text.resize(static_cast<std::size_t>(status.st_size));
+    const ssize_t got = read(file.Get(), text.data(), text.size());
+    if (got < 0)
+        return SystemErrorText(errno);
+    text.resize(static_cast<std::size_t>(got));
+    return IsPhaseText(text) ? std::string() : "not a text";
+}
+
+bool IsPhaseText(std::string_view text)
+{
+    return text.size() <= kLargest && text.find('\0') == text.npos;
+}
+
+PicturePlace FindPicture(std::string_view picture, const std::string& folder, const std::string& root)
+{
+    PicturePlace missed;
+    for (const std::string& from : {folder, root}) {
+        const std::string path = (fs::path(from) / picture).lexically_normal();
+        if (!IsInside(path, root))
+            continue;
+        if (access(path.c_str(), F_OK) == 0)
+            return {path, true};
+        if (missed.path.empty())
+            missed.path = path;
+    }
+    return missed;
+}
+
+std::string LineFor(const std::string& path, const std::string& folder, const std::string& root)
+{
+    if (!IsInside(path, root))
+        return {};
+    const std::string fromRoot = Written(fs::path(path).lexically_relative(root));
+    if (!IsInside(path, folder) && FindPicture(fromRoot, folder, root).path == path)
+        return fromRoot;
+    return Written(fs::path(path).lexically_relative(folder));
+}
+
+std::string Relocated(std::string_view text, const std::string& formerFolder, const std::string& folder,
+                      const std::string& root)
+{
+    std::string moved;
+    std::size_t done = 0;
+    for (const PictureLine& line : PictureLines(text)) {
+        if (FindPicture(line.picture, folder, root).isThere)
+            continue;
+        const PicturePlace former = FindPicture(line.picture, formerFolder, root);
+        const std::string now = former.isThere ? LineFor(former.path, folder, root) : std::string();
+        if (now.empty())
+            continue;
+        const auto at = static_cast<std::size_t>(line.picture.data() - text.data());
+        moved.append(text, done, at - done).append(now);
+        done = at + line.picture.size();
+    }
+    return moved.append(text, done, text.npos);
+}
+
+std::string WithLine(std::string text, std::string_view line)
+{
+    const std::string_view end = text.find("\r\n") != text.npos ? "\r\n" : "\n";
+    if (!text.empty() && !text.ends_with('\n'))
+        text += end;
+    return text.append(line).append(end);
+}
+
+} // namespace editor

@@ -1,0 +1,47 @@
+// The text of a phase, line by line.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace editor
+{
+
+// A line that names a picture.
+struct PictureLine
+{
+    std::size_t at, size;     // in the text, with the line's end
+    std::string_view picture; // the path, without blanks around it; in the text
+};
+
+// The lines that name pictures, in order: all but empty ones and those that begin with #.
+std::vector<PictureLine> PictureLines(std::string_view text);
+
+// The whole file. Empty when it has been read; else the reason, also when it can be no phase.
+std::string ReadPhaseText(const std::string& path, std::string& text);
+bool IsPhaseText(std::string_view text); // could it be one?
+
+// Where the picture is that a line of a phase in `folder` names, in the library with this root: beside the phase or,
+// failing that, from the root on. Where there is none, the path beside the phase, or from the root on, that is inside
+// the library; empty when the line leads out of it.
+struct PicturePlace
+{
+    std::string path;
+    bool isThere = false;
+};
+PicturePlace FindPicture(std::string_view picture, const std::string& folder, const std::string& root);
+
+// What names the picture at `path` in a phase in `folder`: the shortest way that leads there. Empty when no line can
+// name it: it lies outside the library, or its name holds the end of a line.
+std::string LineFor(const std::string& path, const std::string& folder, const std::string& root);
+
+// The text of a phase that comes to `folder` from `formerFolder`, in the same library. Lines that lead to no
+// picture any more are rewritten to lead to where they led to; all else stays byte for byte.
+std::string Relocated(std::string_view text, const std::string& formerFolder, const std::string& folder,
+                      const std::string& root);
+
+// With the line behind the last one; the text ends as its lines do.
+std::string WithLine(std::string text, std::string_view line);
+
+} // namespace editor

@@ -1,0 +1,37 @@
+// The user's trash: what is removed can be fetched back with the desktop's own means.
+#pragma once
+
+#include <string>
+
+namespace editor
+{
+
+// Moves a file or folder (a link itself, not what it leads to) to the trash of its file system: the user's own
+// ($XDG_DATA_HOME/Trash) when it lies there, else the one at the top of the file system (.Trash/UID or .Trash-UID).
+// Nothing is ever copied. Empty when it is there. Else nothing has changed, `reason` tells why, and `isNoTrash`
+// whether it is only that this file system has no trash that could be used.
+struct TrashResult
+{
+    std::string reason;
+    bool isNoTrash = false;
+};
+TrashResult MoveToTrash(const std::string& path);
+
+// What cannot be moved to a trash is refused, unless the user has agreed to lose it: while one of these lives, such
+// things are removed for good. A command that has asked the user makes one; cutting and dragging do not.
+class PermanentRemoval
+{
+public:
+    PermanentRemoval();
+    ~PermanentRemoval();
+    PermanentRemoval(const PermanentRemoval&) = delete;
+    PermanentRemoval& operator=(const PermanentRemoval&) = delete;
+
+    static bool IsAllowed();
+};
+
+// Moves it to the trash or, when that is allowed, removes it for good. Empty when it is gone from its place, also
+// when it was not there any more; else the reason.
+std::string RemoveFromDisk(const std::string& path);
+
+} // namespace editor

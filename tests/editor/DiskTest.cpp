@@ -1,0 +1,312 @@
+#include "tests/editor/ArchiveFixture.h"
+#include "tests/editor/AsNobody.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+
+namespace
+{
+
+class DiskTest : public ArchiveTest
+{
+protected:
+    // A copy of what is in one folder of the library, pasted into another.
+    std::string CopyTo(const char* pszFrom, const std::vector<const char*>& names, const char* pszInto,
+                       bool bMove = false)
+    {
+        return Paste(Copy(Container(Library(), pszFrom).Get(), names).Get(), Container(Library(), pszInto).Get(),
+                     bMove);
+    }
+};
+
+TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
+{
+    const std::string odd = "Zo\xC3\xAB \xEB\n #.bmp";
+    std::string bytes(300'000, '\0');
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i * i >> 3);
+    folder.Write("Ada/Poses/" + odd, bytes);
+    folder.Write("Ada/Poses/empty.bmp", "");
+    folder.Write("Ada/Poses/.notes", "hidden");
+    folder.Write("Ada/Poses/walk.phase", "# a walk\r\nlost.bmp\r\n/etc/x.bmp\r\n");
+    folder.MakeFolder("Ada/Poses/Nothing");
+    folder.Write("Ada/a.bmp", "target");
+    folder.Link("Ada/Poses/link.bmp", "../a.bmp");
+    folder.MakeFolder("Bo");
+    const timespec times[2] = {{1'000'000'000, 5}, {1'000'000'000, 5}};
+    utimensat(AT_FDCWD, folder.At("Ada/a.bmp").c_str(), times, 0);
+    Open();
+
+    EXPECT_EQ("", CopyTo("Ada", {"Poses", "a.bmp"}, "Bo"));
+    EXPECT_EQ("[Poses/ a.bmp]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ(bytes, folder.Read("Bo/Poses/" + odd));
+    for (const char* const pszFile : {"empty.bmp", ".notes", "walk.phase"})
+        EXPECT_EQ(folder.Read(std::string("Ada/Poses/") + pszFile), folder.Read(std::string("Bo/Poses/") + pszFile));
+    EXPECT_EQ("target", folder.Read("Bo/Poses/link.bmp"));
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.At("Bo/Poses/link.bmp"))) << "what it leads to is carried";
+    EXPECT_TRUE(std::filesystem::is_empty(folder.At("Bo/Poses/Nothing")));
+    struct stat status;
+    stat(folder.At("Bo/a.bmp").c_str(), &status);
+    EXPECT_EQ(1'000'000'000, status.st_mtim.tv_sec);
+}
+
+TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
+{
+    folder.WriteBmp("Walk.bmp");
+    folder.WriteBmp("Walk (7).bmp");
+    folder.WriteBmp("v1.2 (1)/x.bmp");
+    folder.Write("readme", "not shown, yet there");
+    Open();
+    const auto pArchive = Copy(Library(), {"Walk.bmp"});
+
+    EXPECT_EQ("", Paste(pArchive.Get(), Library()));
+    EXPECT_EQ("", Paste(pArchive.Get(), Library()));
+    EXPECT_TRUE(Find(Library(), "Walk (2).bmp"));
+    EXPECT_EQ(folder.Read("Walk.bmp"), folder.Read("Walk (3).bmp"));
+    EXPECT_EQ("wALK (4).BMP", ValidName(Library(), "wALK.BMP")) << "but for the case";
+    EXPECT_EQ("Walk (8).bmp", ValidName(Library(), "Walk (7).bmp"));
+    EXPECT_EQ("v1.2 (1) (2)", ValidName(Library(), "v1.2 (1)"));
+    EXPECT_EQ("README (2)", ValidName(Library(), "README"));
+    EXPECT_EQ("free.bmp", ValidName(Library(), "free.bmp"));
+    EXPECT_EQ("a-b-c", ValidName(Library(), "a/b\\c"));
+    EXPECT_EQ("_con.bmp", ValidName(Library(), "con.bmp"));
+    EXPECT_EQ("hidden", ValidName(Library(), "..hidden"));
+    EXPECT_EQ("?", ValidName(Library(), ".."));
+}
+
+TEST_F(DiskTest, ALongNameIsShortenedBetweenCharacters)
+{
+    std::string longest;
+    while (longest.size() + 2 + 4 <= 255)
+        longest += "\xC3\xAB";
+    longest += ".bmp";
+    folder.WriteBmp(longest);
+    Open();
+
+    EXPECT_EQ("", Paste(Copy(Library(), {longest.c_str()}).Get(), Library()));
+    const std::string copy = longest.substr(0, longest.size() - 4 - 4) + " (2).bmp";
+    EXPECT_TRUE(Find(Library(), copy.c_str()));
+    EXPECT_TRUE(Find(Library(), longest.c_str()));
+}
+
+TEST_F(DiskTest, AMoveKeepsTheNameAndNeverReplacesWhatIsThere)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.WriteBmp("Ada/b.bmp");
+    folder.Write("Bo/a.bmp", "Bo's own");
+    Open();
+    const auto pBo = Container(Library(), "Bo");
+    EXPECT_EQ("[a.bmp]", Members(pBo.Get()));
+    folder.Write("Bo/b.bmp", "came while nobody looked");
+
+    EXPECT_EQ("a.bmp: file exists\nb.bmp: file exists\n", CopyTo("Ada", {"a.bmp", "b.bmp"}, "Bo", true));
+    EXPECT_EQ("a.bmp: file exists", editor.GetArchiveError()) << "the first";
+    EXPECT_EQ("Bo's own", folder.Read("Bo/a.bmp"));
+    EXPECT_EQ("came while nobody looked", folder.Read("Bo/b.bmp"));
+    folder.Remove("Bo/a.bmp");
+    EXPECT_EQ("", CopyTo("Ada", {"a.bmp"}, "Bo", true));
+    EXPECT_EQ("", Error(pBo.Get())) << "the last change succeeded";
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
+    EXPECT_EQ("[a.bmp]", Members(pBo.Get())) << "once, and what it has not heard of is not in it";
+}
+
+TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
+{
+    folder.Write("Ada/small.bmp", "small");
+    folder.Write("Ada/large.bmp", std::string(200'000, 'x'));
+    folder.Write("Ada/Poses/deep/large.bmp", std::string(200'000, 'x'));
+    folder.MakeFolder("Bo");
+    Open();
+    const auto pArchive = Copy(Container(Library(), "Ada").Get(), {"Poses", "large.bmp", "small.bmp"});
+    rlimit former;
+    getrlimit(RLIMIT_FSIZE, &former);
+    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limit{100'000, former.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+
+    const std::string failures = Paste(pArchive.Get(), Container(Library(), "Bo").Get());
+    setrlimit(RLIMIT_FSIZE, &former);
+    std::signal(SIGXFSZ, formerHandler);
+    EXPECT_EQ("Poses/deep/large.bmp: file too large\nlarge.bmp: file too large\n", failures);
+    EXPECT_EQ("[small.bmp]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/deep/ Ada/Poses/deep/large.bmp Ada/large.bmp Ada/small.bmp Bo/ Bo/small.bmp",
+              folder.Everything());
+}
+
+TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.WriteBmp("Ada/secret.bmp");
+    folder.Write("Ada/walk.phase", "a.bmp\n");
+    folder.MakeFolder("Bo");
+    Open();
+    const auto pAda = Container(Library(), "Ada");
+    const auto pPhase = Container(pAda.Get(), "walk.phase");
+    const auto pArchive = Copy(pAda.Get(), {"a.bmp"});
+    chmod(folder.Path().c_str(), 0755);
+    chmod(folder.At("Ada/secret.bmp").c_str(), 0);
+    const std::string before = folder.Everything();
+    const AsNobody nobody;
+    if (eaccess(folder.At("Ada").c_str(), W_OK) == 0)
+        GTEST_SKIP() << "this user may change everything";
+
+    EXPECT_EQ("secret.bmp: permission denied", CopyError(pAda.Get(), {"secret.bmp"}));
+    EXPECT_EQ("none", Permissions(pArchive.Get(), Container(Library(), "Bo").Get()));
+    EXPECT_EQ("a.bmp: permission denied", Remove(pAda.Get(), "a.bmp"));
+    EXPECT_EQ("a.bmp: permission denied", Rename(pAda.Get(), "a.bmp", "b.bmp"));
+    EXPECT_EQ("walk.phase: permission denied", Remove(pPhase.Get(), "a.bmp"));
+    EXPECT_EQ("[a.bmp secret.bmp walk.phase>]", Members(pAda.Get()));
+    EXPECT_EQ("[a.bmp]", Members(pPhase.Get()));
+    EXPECT_EQ(before, folder.Everything());
+}
+
+TEST_F(DiskTest, RenamingMakesAnotherAtomAndRefusesWhatWouldHideOrReplaceAFile)
+{
+    folder.Write("a.bmp", "a");
+    folder.Write("b.bmp", "b");
+    folder.Write("walk.phase", "a.bmp\n");
+    folder.Write("Ada/x.bmp", "x");
+    folder.WriteBmp("gone.bmp");
+    Open();
+    const DWORD id = Find(Library(), "a.bmp")->GetID();
+
+    EXPECT_EQ("", Rename(Library(), "a.bmp", "c.dib"));
+    EXPECT_EQ("a", folder.Read("c.dib"));
+    EXPECT_NE(id, Find(Library(), "c.dib")->GetID());
+    EXPECT_EQ("", Rename(Library(), "Ada", "Bo.png"));
+    EXPECT_EQ("[x.bmp]", Members(Container(Library(), "Bo.png").Get()));
+    EXPECT_EQ("", Rename(Library(), "c.dib", "C.dib")) << "another spelling";
+
+    folder.Remove("gone.bmp");
+    const std::string before = folder.Everything();
+    EXPECT_EQ("b.bmp: there is a \"C.dib\" already", Rename(Library(), "b.bmp", "C.dib"));
+    EXPECT_EQ("b.bmp: a name must not be empty", Rename(Library(), "b.bmp", ""));
+    EXPECT_EQ("b.bmp: a name must not hold \"/\"", Rename(Library(), "b.bmp", "../b.bmp"));
+    EXPECT_EQ("b.bmp: a name that begins with a dot would hide it", Rename(Library(), "b.bmp", ".b.bmp"));
+    EXPECT_EQ("b.bmp: under the name \"b\" it would be no picture any more", Rename(Library(), "b.bmp", "b"));
+    EXPECT_EQ("b.bmp: the name is too long (304 of at most 255 bytes)",
+              Rename(Library(), "b.bmp", std::string(300, 'b') + ".bmp"));
+    EXPECT_EQ("gone.bmp: no such file or directory", Rename(Library(), "gone.bmp", "there.bmp"));
+    EXPECT_EQ("a.bmp: a line of a phase bears the name of its picture",
+              Rename(Container(Library(), "walk.phase").Get(), "a.bmp", "b.bmp"));
+    EXPECT_EQ(before, folder.Everything());
+    EXPECT_EQ("[Bo.png/ C.dib b.bmp gone.bmp walk.phase>]", Members(Library()));
+}
+
+TEST_F(DiskTest, WhatIsRemovedIsInTheTrashAndItsAtomGoes)
+{
+    folder.WriteBmp("a.bmp");
+    folder.Write("Ada/x.bmp", "x");
+    folder.WriteBmp("gone.bmp");
+    Open();
+    const auto pA = Find(Library(), "a.bmp");
+    const DWORD id = pA->GetID();
+
+    EXPECT_EQ("", Remove(Library(), "a.bmp"));
+    EXPECT_EQ("", Remove(Library(), "Ada"));
+    folder.Remove("gone.bmp");
+    EXPECT_EQ("", Remove(Library(), "gone.bmp")) << "what has vanished may go";
+    EXPECT_EQ("[]", Members(Library()));
+    EXPECT_FALSE(Library()->FindAtomByID(id, nullptr, 0));
+    EXPECT_FALSE(Library()->RemoveAtom(pA.Get()));
+    EXPECT_EQ(0u, Library()->GetPermissions(pA.Get()));
+    EXPECT_EQ("a.bmp", Name(pA.Get()));
+    EXPECT_EQ("x", trash.folder.Read("Trash/files/Ada/x.bmp"));
+}
+
+TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
+{
+    folder.WriteBmp("Ada/Poses/one.bmp");
+    folder.MakeFolder("Bo");
+    folder.Link("friend", "Ada");
+    Open();
+    const auto pAda = Container(Library(), "Ada");
+    const auto pArchive = Copy(Library(), {"Ada"});
+
+    EXPECT_EQ("accept copy", Permissions(pArchive.Get(), Container(Library(), "Bo").Get()));
+    for (const auto& pInside : {Container(Library(), "Ada"), Container(pAda.Get(), "Poses"),
+                                Container(Container(Library(), "friend").Get(), "Poses")})
+        EXPECT_EQ("copy", Permissions(pArchive.Get(), pInside.Get()));
+    EXPECT_EQ("", Paste(pArchive.Get(), Container(pAda.Get(), "Poses").Get()));
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/Ada/ Ada/Poses/Ada/Poses/ Ada/Poses/Ada/Poses/one.bmp Ada/Poses/one.bmp Bo/ "
+              "friend",
+              folder.Everything());
+}
+
+TEST_F(DiskTest, APhaseThatIsCopiedStillLeadsToItsPictures)
+{
+    for (const char* const pszPicture :
+         {"Ada/walk 1.bmp", "Props/ball.bmp", "Bo/own.bmp", "Bo/twin.bmp", "Ada/twin.bmp"})
+        folder.WriteBmp(pszPicture);
+    folder.Write("Ada/walk.phase", "# a walk\r\n  walk 1.bmp \r\nProps/ball.bmp\r\ntwin.bmp\r\nlost.bmp");
+    Open();
+
+    EXPECT_EQ("", CopyTo("Ada", {"walk.phase"}, "Bo"));
+    EXPECT_EQ("# a walk\r\n  Ada/walk 1.bmp \r\nProps/ball.bmp\r\ntwin.bmp\r\nlost.bmp", folder.Read("Bo/walk.phase"));
+    EXPECT_EQ("", CopyTo("Ada", {"walk.phase"}, "Ada"));
+    EXPECT_EQ(folder.Read("Ada/walk.phase"), folder.Read("Ada/walk (2).phase"));
+}
+
+TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
+{
+    folder.WriteBmp("Ada/a.bmp");
+    folder.WriteBmp("#b.bmp");
+    folder.WriteBmp("Ada/b.bmp");
+    folder.WriteBmp("end \n.bmp");
+    folder.Write("Ada/walk.phase", "# a walk\na.bmp\n\nlost.bmp\na.bmp");
+    folder.Write("Ada/run.phase", "");
+    Open();
+    const auto pAda = Container(Library(), "Ada");
+    const auto pWalk = Container(pAda.Get(), "walk.phase"), pRun = Container(pAda.Get(), "run.phase");
+    const auto pTop = Copy(Library(), {"#b.bmp"});
+
+    EXPECT_EQ("copy", Permissions(pTop.Get(), pWalk.Get())) << "the picture stays where it is";
+    EXPECT_EQ("none", Permissions(Copy(Library(), {"Ada"}).Get(), pWalk.Get()));
+    EXPECT_EQ("none", Permissions(Copy(Library(), {"end \n.bmp"}).Get(), pWalk.Get()));
+    EXPECT_EQ("", Paste(pTop.Get(), pWalk.Get()));
+    EXPECT_EQ("", Paste(Copy(pAda.Get(), {"b.bmp"}).Get(), pWalk.Get()));
+    EXPECT_EQ("", Remove(pWalk.Get(), "a.bmp"));
+    EXPECT_EQ("# a walk\n\nlost.bmp\na.bmp\n./#b.bmp\nb.bmp\n", folder.Read("Ada/walk.phase"));
+    EXPECT_EQ("[lost.bmp a.bmp #b.bmp b.bmp]", Members(pWalk.Get()));
+    EXPECT_EQ("", Error(Find(pWalk.Get(), "#b.bmp").Get()));
+
+    const auto pLinks = Copy(pWalk.Get(), {"#b.bmp", "a.bmp"});
+    EXPECT_EQ("accept copy", Permissions(pLinks.Get(), pRun.Get()));
+    EXPECT_EQ("none", Permissions(pLinks.Get(), pAda.Get()));
+    EXPECT_EQ("", Paste(pLinks.Get(), pRun.Get(), true));
+    EXPECT_EQ("[#b.bmp a.bmp]", Members(pRun.Get()));
+    EXPECT_EQ("lost.bmp: no such file or directory", CopyError(pWalk.Get(), {"lost.bmp"}));
+    folder.Write("Ada/run.phase", "b.bmp\n");
+    EXPECT_EQ("run.phase: was changed by another program; read it again first", Remove(pRun.Get(), "a.bmp"));
+    EXPECT_EQ("b.bmp\n", folder.Read("Ada/run.phase"));
+}
+
+TEST_F(DiskTest, ManyMembersComeAndGoAndAllAreFoundUnderTheirNames)
+{
+    for (int i = 0; i < 100; ++i)
+        folder.WriteBmp("Ada/" + std::to_string(i) + ".bmp");
+    folder.MakeFolder("Bo");
+    Open();
+    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
+    std::vector<CStubRef<IAtom>> held;
+    std::vector<IAtom*> atoms;
+    for (int i = 99; i >= 0; --i)
+        atoms.push_back(held.emplace_back(Find(pAda.Get(), (std::to_string(i) + ".bmp").c_str())).Get());
+
+    EXPECT_EQ("", Paste(Copy(atoms).Get(), pBo.Get(), true));
+    for (const CStubRef<IAtom>& pAtom : held)
+        EXPECT_TRUE(pAtom->GetID() % 2 == 0 || pAda->RemoveAtom(pAtom.Get()));
+    EXPECT_EQ(50u, pAda->GetCount());
+    EXPECT_EQ(100u, pBo->GetCount());
+    for (const CStubRef<IAtom>& pAtom : held) {
+        const std::string name = Name(pAtom.Get());
+        const bool bGone = pAtom->GetID() % 2;
+        EXPECT_EQ(bGone ? nullptr : pAtom.Get(), Find(pAda.Get(), name.c_str()).Get()) << name;
+        EXPECT_EQ(!bGone, pAda->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE);
+        EXPECT_EQ(name, Name(Find(pBo.Get(), name.c_str()).Get()));
+    }
+}
+
+} // namespace

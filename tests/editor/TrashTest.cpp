@@ -1,0 +1,93 @@
+#include "Editor/model/Trash.h"
+
+#include "tests/editor/AsNobody.h"
+#include "tests/editor/TrashHome.h"
+
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <regex>
+#include <sys/stat.h>
+
+namespace
+{
+
+class TrashTest : public testing::Test
+{
+protected:
+    std::string Remove(const std::string& name) { return editor::RemoveFromDisk(folder.At(name)); }
+
+    TrashHome trash;
+    TempFolder folder;
+};
+
+TEST_F(TrashTest, WhatIsRemovedLiesInTheTrashWithItsFormerPlaceAndTime)
+{
+    folder.Write("Ada \xC3\xAB/a%.bmp", "bytes");
+
+    EXPECT_EQ("", Remove("Ada \xC3\xAB/a%.bmp"));
+    EXPECT_EQ("Ada \xC3\xAB/", folder.Everything());
+    EXPECT_EQ("bytes", trash.folder.Read("Trash/files/a%.bmp"));
+    const std::string info = trash.folder.Read("Trash/info/a%.bmp.trashinfo");
+    const std::regex expected("\\[Trash Info\\]\nPath=(.*)\nDeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n");
+    std::smatch match;
+    ASSERT_TRUE(std::regex_match(info, match, expected)) << info;
+    EXPECT_EQ(folder.Path() + "/Ada%20%C3%AB/a%25.bmp", match[1]);
+    struct stat status;
+    stat(trash.folder.At("Trash").c_str(), &status);
+    EXPECT_EQ(0700u, status.st_mode & 07777);
+}
+
+TEST_F(TrashTest, NamesThatAreInTheTrashAlreadyAreCountedUp)
+{
+    for (int i = 0; i < 2; ++i) {
+        folder.Write("walk.bmp", std::to_string(i));
+        folder.Write("Ada/a.bmp", std::to_string(i));
+        EXPECT_EQ("", Remove("walk.bmp"));
+        EXPECT_EQ("", Remove("Ada"));
+    }
+    folder.Link("link.bmp", "nowhere");
+    folder.Write(std::string(251, 'w') + ".bmp", "long");
+    EXPECT_EQ("", Remove("link.bmp")) << "the link itself";
+    EXPECT_EQ("", Remove(std::string(251, 'w') + ".bmp"));
+    EXPECT_EQ("", Remove("was never there"));
+
+    EXPECT_EQ("", folder.Everything());
+    EXPECT_EQ("0", trash.folder.Read("Trash/files/walk.bmp"));
+    EXPECT_EQ("1", trash.folder.Read("Trash/files/walk (2).bmp"));
+    EXPECT_EQ("1", trash.folder.Read("Trash/files/Ada (2)/a.bmp"));
+    EXPECT_TRUE(std::filesystem::is_symlink(trash.folder.At("Trash/files/link.bmp")));
+    EXPECT_EQ(6, std::distance(std::filesystem::directory_iterator(trash.folder.At("Trash/info")), {}));
+}
+
+// The trash at the top of a file system is each user's own: this test is a user of its own for a while.
+TEST_F(TrashTest, WithoutTheUsersOwnTrashTheFileSystemsServesAndWithoutBothNothingIsLost)
+{
+    folder.Write("Ada/a.bmp", "bytes");
+    folder.Write("b.bmp", "other bytes");
+    folder.Write("blocked", "");
+    trash.Point(folder.At("blocked"));
+    chmod(folder.Path().c_str(), 0777);
+    chmod(folder.At("Ada").c_str(), 0777);
+    const auto id = static_cast<uid_t>(100'000 + getpid());
+    const std::string top = "/dev/shm/.Trash-" + std::to_string(id);
+    const AsNobody somebody(id);
+    if (geteuid() != id || !folder.Path().starts_with("/dev/shm/"))
+        GTEST_SKIP() << "needs the superuser and a file system in memory";
+
+    std::filesystem::create_symlink("/tmp", top);
+    EXPECT_EQ("not removed, there is no trash on its file system", Remove("Ada")) << "a link is no trash";
+    EXPECT_EQ("bytes", folder.Read("Ada/a.bmp"));
+    {
+        const editor::PermanentRemoval allowed;
+        EXPECT_EQ("", Remove("Ada"));
+    }
+    EXPECT_EQ("b.bmp blocked", folder.Everything());
+    std::filesystem::remove(top);
+
+    EXPECT_EQ("", Remove("b.bmp"));
+    EXPECT_TRUE(std::filesystem::exists(top + "/files/b.bmp"));
+    EXPECT_NE(std::string::npos, TempFolder::ReadFile(top + "/info/b.bmp.trashinfo").find("\nPath=views-library-"));
+    std::filesystem::remove_all(top);
+}
+
+} // namespace
