@@ -25,6 +25,9 @@ public:
     TextInputState GetTextInput() const override;
     void Compose(std::string_view text, std::size_t caret) override;
 
+protected:
+    virtual void TextIsNew() {} // before anybody is told; must not notify
+
 private:
     using Handler = LRESULT (EditControl::*)(WPARAM, LPARAM);
 

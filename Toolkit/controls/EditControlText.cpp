@@ -197,6 +197,7 @@ bool EditControl::EraseOr(TextSpan other, EditKind kind)
 
 bool EditControl::TellChange()
 {
+    TextIsNew();
     if (!Tell(EN_UPDATE))
         return false;
     ShowCaret();

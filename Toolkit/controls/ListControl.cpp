@@ -17,13 +17,13 @@ constexpr int kMinCellLines = 7; // and at least so many line heights wide, for 
 const bool s_registered = [] {
     RegisterWindowClass(WC_LISTVIEW, [](HWND hWnd) { return std::make_unique<ListControl>(hWnd); });
     RegisterListTracker();
+    RegisterLabelField();
     return true;
 }();
 
 } // namespace
 
-// LVM_SORTITEMS, LVM_EDITLABEL and LVM_GETEDITCONTROL are left to the default, which answers 0: there is nothing
-// to sort, and no label is edited.
+// LVM_SORTITEMS is left to the default, which answers 0: there is nothing to sort.
 ListControl::Handler ListControl::FindHandler(UINT message)
 {
     static const std::unordered_map<UINT, Handler> handlers{
@@ -60,6 +60,10 @@ ListControl::Handler ListControl::FindHandler(UINT message)
         {LVM_UPDATE, &ListControl::OnUpdate},
         {LVM_ARRANGE, &ListControl::OnArrange},
         {LVM_SETICONSPACING, &ListControl::OnSetIconSpacing},
+        {LVM_EDITLABEL, &ListControl::OnEditLabel},
+        {LVM_GETEDITCONTROL, &ListControl::OnGetEditControl},
+        {LVM_CANCELEDITLABEL, &ListControl::OnCancelEditLabel},
+        {LVM_MOVEEDITLABEL, &ListControl::OnMoveEditLabel},
     };
     const auto it = handlers.find(message);
     return it == handlers.end() ? nullptr : it->second;
@@ -92,7 +96,7 @@ LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
     if (m_press && m_press->row >= count)
         EndTracking();
     RedrawAll();
-    return Relayout();
+    return Relayout() && (!m_label || m_label->row < count || FinishLabel(false));
 }
 
 LRESULT ListControl::OnGetImageList(WPARAM wParam, LPARAM)

@@ -5,6 +5,7 @@
 // notification nothing is taken for granted that was known before it.
 #pragma once
 
+#include "Toolkit/controls/LabelField.h"
 #include "Toolkit/controls/ListLabel.h"
 #include "Toolkit/controls/ListLayout.h"
 #include "Toolkit/controls/RowStates.h"
@@ -19,7 +20,7 @@
 namespace toolkit
 {
 
-class ListControl : public NativeWindow
+class ListControl : public NativeWindow, public LabelOwner
 {
 public:
     explicit ListControl(HWND hWnd) : NativeWindow(hWnd) {}
@@ -31,6 +32,10 @@ public:
     void TrackMove(CPoint at);
     void AutoScroll();
     void TrackingLost(HWND hTracker);
+
+    void LabelTyped() override { PlaceLabelField(); }
+    void LabelDone(bool taken) override;
+    void LabelClickDue() override;
 
 private:
     using Handler = LRESULT (ListControl::*)(WPARAM, LPARAM);
@@ -72,6 +77,13 @@ private:
         bool right;
         Keys keys;
         OnRelease onRelease;
+        bool meansLabel = false; // unless a double click or a drag follows, its release begins the editing
+    };
+    // A row and the field or clock that stands for it.
+    struct LabelEdit
+    {
+        int row;
+        HWND hField;
     };
 
     static Handler FindHandler(UINT message);
@@ -160,6 +172,20 @@ private:
     CRect BandRect() const; // client, cut near the client area's edges
     ContentPoint ToContent(CPoint client) const { return {client.x, client.y + m_layout.ScrollPosition()}; }
 
+    // Editing a label in place.
+    LRESULT OnEditLabel(WPARAM wParam, LPARAM);
+    LRESULT OnGetEditControl(WPARAM, LPARAM);
+    LRESULT OnCancelEditLabel(WPARAM, LPARAM);
+    LRESULT OnMoveEditLabel(WPARAM wParam, LPARAM);
+    [[nodiscard]] bool BeginLabel(int row); // m_label tells whether it did
+    [[nodiscard]] bool AskLabelEdit(int row, std::string& text, bool* pAllowed);
+    [[nodiscard]] bool OpenLabelField(int row, const std::string& text);
+    [[nodiscard]] bool FinishLabel(bool taken);
+    void PlaceLabelField();
+    bool MeansLabel(const Press& press, UINT hitFlags) const;
+    void StartLabelClockFor(int row);
+    void StopLabelClock();
+
     // Keys and focus.
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFocus(WPARAM, LPARAM);
@@ -184,7 +210,11 @@ private:
     std::optional<RubberBand> m_band;
     HWND m_hTracker = nullptr; // while a button is down
     CPoint m_trackedAt;
-    int m_nWheelRest = 0; // of the wheel's turn, in pixels times WHEEL_DELTA
+    std::optional<LabelEdit> m_label;      // being edited
+    std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
+    std::string m_labelShown;              // what the row showed when its editing began
+    unsigned m_focusedAt = 0;              // the input that brought the focus, as GetInputCount counts
+    int m_nWheelRest = 0;                  // of the wheel's turn, in pixels times WHEEL_DELTA
     bool m_bAutoScrolls = false;
     bool m_bInRelayout = false;
 };

@@ -1,5 +1,6 @@
 // The list control under the keyboard, and how it gains and loses the focus.
 #include "Toolkit/controls/ListControl.h"
+#include "Toolkit/window/Input.h"
 
 namespace toolkit
 {
@@ -13,6 +14,7 @@ LRESULT ListControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
     const int row = RowByKey(vkey);
+    StopLabelClock();
     if (row >= 0)
         static_cast<void>(MoveFocus(row, vkey == VK_HOME || vkey == VK_END));
     else if (vkey == VK_SPACE)
@@ -88,8 +90,12 @@ bool ListControl::PressSpace()
     return keys.shift && !IsSingle() ? ExtendTo(row, false) : SelectOnly(row);
 }
 
+// A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
 {
+    m_focusedAt = GetInputCount();
+    if (!FinishLabel(true))
+        return 0;
     RedrawStates(LVIS_SELECTED | LVIS_FOCUSED);
     static_cast<void>(TellPlain(NM_SETFOCUS));
     return 0;
@@ -98,6 +104,7 @@ LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
 LRESULT ListControl::OnKillFocus(WPARAM, LPARAM)
 {
     EndTracking();
+    StopLabelClock();
     RedrawStates(LVIS_SELECTED | LVIS_FOCUSED);
     static_cast<void>(TellPlain(NM_KILLFOCUS));
     return 0;

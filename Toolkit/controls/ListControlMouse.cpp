@@ -74,6 +74,7 @@ bool ListControl::TakeFocus()
 bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
 {
     EndTracking();
+    StopLabelClock();
     if (!TakeFocus())
         return false;
 
@@ -84,6 +85,7 @@ bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
     const bool single = IsSingle();
     const Keys keys{(wParam & MK_SHIFT) != 0 && !single, (wParam & MK_CONTROL) != 0 && !single};
     Press press{hit->row, at, ToContent(at), right, keys, Press::OnRelease::Nothing};
+    press.meansLabel = MeansLabel(press, hit->flags);
     if (!(press.row >= 0 ? PressRow(press) : PressEmpty(press)))
         return false;
     if (press.row >= m_rows.Count())
@@ -143,7 +145,11 @@ bool ListControl::EndPress(bool right)
         alive = Toggle(press.row);
     else if (press.onRelease == Press::OnRelease::Extend)
         alive = ExtendTo(press.row, press.keys.control);
-    return alive && TellClick(right ? NM_RCLICK : NM_CLICK, press.row, press.at);
+    if (!alive || !TellClick(right ? NM_RCLICK : NM_CLICK, press.row, press.at))
+        return false;
+    if (press.meansLabel)
+        StartLabelClockFor(press.row);
+    return true;
 }
 
 bool ListControl::StartTracking()

@@ -74,6 +74,8 @@ void ListControl::DrawRow(HDC hdc, int row, const Face& face)
 
     const Label label = PlaceLabel(row, face.text);
     DrawPicture(hdc, row, face.image, state);
+    if (m_label && m_label->row == row)
+        return; // the field stands there
     DrawLabel(hdc, label, state);
     if (focused && (state & LVIS_FOCUSED))
         DrawFocusRect(hdc, label.lines.empty() ? m_layout.IconRect(row) : label.box);

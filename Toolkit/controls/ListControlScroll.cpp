@@ -75,6 +75,7 @@ bool ListControl::Relayout()
     } while (!(ClientSize(hWnd) == client));
     if (m_layout.Columns() != columns && m_band)
         EndTracking(); // its cells are no longer where they were
+    PlaceLabelField();
     return true;
 }
 
@@ -120,6 +121,8 @@ bool ListControl::ScrollTo(std::int64_t position)
         ScrollWindow(m_hWnd, 0, static_cast<int>(-up));
     else
         RedrawAll();
+    StopLabelClock();
+    PlaceLabelField();
     if (!UpdateScrollBar())
         return false;
     return !m_band || MoveBand(); // its corner stays under the mouse

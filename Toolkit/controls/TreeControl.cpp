@@ -11,13 +11,12 @@ namespace
 
 const bool s_registered = [] {
     RegisterWindowClass(WC_TREEVIEW, [](HWND hWnd) { return std::make_unique<TreeControl>(hWnd); });
+    RegisterLabelField();
     return true;
 }();
 
 } // namespace
 
-// TVM_EDITLABEL, TVM_GETEDITCONTROL and TVM_ENDEDITLABELNOW are left to the default, which answers 0: no label is
-// edited.
 TreeControl::Handler TreeControl::FindHandler(UINT message)
 {
     static const std::unordered_map<UINT, Handler> handlers{
@@ -62,6 +61,9 @@ TreeControl::Handler TreeControl::FindHandler(UINT message)
         {TVM_ENSUREVISIBLE, &TreeControl::OnEnsureVisible},
         {TVM_GETITEMHEIGHT, &TreeControl::OnGetItemHeight},
         {TVM_GETITEMSTATE, &TreeControl::OnGetItemState},
+        {TVM_EDITLABEL, &TreeControl::OnEditLabel},
+        {TVM_GETEDITCONTROL, &TreeControl::OnGetEditControl},
+        {TVM_ENDEDITLABELNOW, &TreeControl::OnEndEditLabelNow},
     };
     const auto it = handlers.find(message);
     return it == handlers.end() ? nullptr : it->second;

@@ -5,6 +5,7 @@
 // handle and looked up again, and nothing is taken for granted that was known before it.
 #pragma once
 
+#include "Toolkit/controls/LabelField.h"
 #include "Toolkit/controls/TreeItems.h"
 #include "Toolkit/controls/TreeLayout.h"
 #include "Toolkit/graphics/ImageList.h"
@@ -17,13 +18,17 @@
 namespace toolkit
 {
 
-class TreeControl : public NativeWindow
+class TreeControl : public NativeWindow, public LabelOwner
 {
 public:
     explicit TreeControl(HWND hWnd) : NativeWindow(hWnd) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
     HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
+
+    void LabelTyped() override { PlaceLabelField(); }
+    void LabelDone(bool taken) override;
+    void LabelClickDue() override;
 
 private:
     using Handler = LRESULT (TreeControl::*)(WPARAM, LPARAM);
@@ -47,6 +52,13 @@ private:
         Hit hit;
         CPoint at;
         bool right;
+        bool meansLabel = false; // unless a double click or a drag follows, its release begins the editing
+    };
+    // An item and the field or clock that stands for its label.
+    struct LabelEdit
+    {
+        HTREEITEM hItem;
+        HWND hField;
     };
     // The labels typed for, and when the last letter came.
     struct Search
@@ -202,6 +214,21 @@ private:
     [[nodiscard]] bool CancelPress(); // and gives the capture back
     void BeginDrag();
 
+    // Editing a label in place.
+    LRESULT OnEditLabel(WPARAM, LPARAM lParam);
+    LRESULT OnGetEditControl(WPARAM, LPARAM);
+    LRESULT OnEndEditLabelNow(WPARAM wParam, LPARAM);
+    [[nodiscard]] bool BeginLabel(HTREEITEM hItem); // m_label tells whether it did
+    [[nodiscard]] bool AskLabelEdit(HTREEITEM hItem, std::string& text, bool& allowed);
+    [[nodiscard]] bool OpenLabelField(HTREEITEM hItem, const std::string& text);
+    [[nodiscard]] bool FinishLabel(bool taken);
+    [[nodiscard]] bool TakeLabel(HTREEITEM hItem, std::string& text);
+    [[nodiscard]] bool CancelLabelWithin(HTREEITEM hTop); // which is about to be deleted
+    void PlaceLabelField();
+    bool MeansLabel(const Hit& hit) const;
+    void StartLabelClockFor(HTREEITEM hItem);
+    void StopLabelClock();
+
     // Keys and focus.
     LRESULT OnSetFocus(WPARAM, LPARAM);
     LRESULT OnKillFocus(WPARAM, LPARAM);
@@ -242,6 +269,9 @@ private:
     int m_nDeleting = 0;        // deletions under way
     int m_nRelayouts = 0;       // under way, and of scroll bars
     std::optional<Press> m_press;
+    std::optional<LabelEdit> m_label;      // being edited
+    std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
+    unsigned m_focusedAt = 0;              // the input that brought the focus, as GetInputCount counts
     Search m_search;
     int m_nWheelRest = 0;        // of the wheel's turn, in rows times WHEEL_DELTA
     bool m_bWidthStale = false;  // what made the content as wide as it is may be gone

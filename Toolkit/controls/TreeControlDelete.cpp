@@ -58,6 +58,8 @@ bool TreeControl::DeleteChildren(ItemIndex parent)
 bool TreeControl::DeleteBranch(HTREEITEM hTop)
 {
     const UnderWay deleting(m_hWnd, m_nDeleting);
+    if (!CancelLabelWithin(hTop))
+        return false;
     for (HTREEITEM hItem = hTop;;) {
         const ItemIndex item = m_items.Find(hItem);
         if (item == kNoItem)

@@ -1,11 +1,16 @@
 // The tree control under the keyboard, and how it gains and loses the focus.
 #include "Toolkit/controls/TreeControl.h"
+#include "Toolkit/window/Input.h"
 
 namespace toolkit
 {
 
+// A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
 {
+    m_focusedAt = GetInputCount();
+    if (!FinishLabel(true))
+        return 0;
     Redraw(m_hCaret);
     // A change of the selection that moves the focus on its way finds the item itself.
     if (!m_hCaret && m_nSelecting == 0) {
@@ -20,6 +25,7 @@ LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
 LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
 {
     m_search.text.clear();
+    StopLabelClock();
     if (!CancelPress())
         return 0;
     Redraw(m_hCaret);
@@ -31,6 +37,7 @@ LRESULT TreeControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
     LRESULT refused = 0;
+    StopLabelClock();
     if (!TellKey(vkey, lParam, &refused))
         return 0;
     m_bCharIsTaken = refused != 0 || vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;

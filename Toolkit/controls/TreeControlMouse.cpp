@@ -23,18 +23,20 @@ bool IsFar(CPoint from, CPoint to)
 LRESULT TreeControl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
+    StopLabelClock();
     if (!CancelPress() || !TakeFocus() || !HitTest(CPoint(lParam), hit))
         return 0;
     if (hit.flags & TVHT_ONITEMBUTTON)
         static_cast<void>(Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE));
-    else
-        static_cast<void>(BeginPress(hit, CPoint(lParam), false));
+    else if (BeginPress(hit, CPoint(lParam), false) && m_press)
+        m_press->meansLabel = MeansLabel(hit);
     return 0;
 }
 
 LRESULT TreeControl::OnRButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
+    StopLabelClock();
     if (CancelPress() && TakeFocus() && HitTest(CPoint(lParam), hit))
         static_cast<void>(BeginPress(hit, CPoint(lParam), true));
     return 0;
@@ -45,9 +47,12 @@ LRESULT TreeControl::OnLButtonUp(WPARAM, LPARAM)
     if (!m_press || m_press->right)
         return 0;
     const Hit hit = m_press->hit;
+    const bool meansLabel = m_press->meansLabel;
     LRESULT taken = 0;
-    if (CancelPress() && TellPlain(NM_CLICK, &taken) && taken == 0 && (hit.flags & TVHT_ONITEM))
-        static_cast<void>(m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE));
+    if (!CancelPress() || !TellPlain(NM_CLICK, &taken) || taken != 0 || !(hit.flags & TVHT_ONITEM))
+        return 0;
+    if ((m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE)) && meansLabel)
+        StartLabelClockFor(hit.hItem);
     return 0;
 }
 
@@ -64,6 +69,7 @@ LRESULT TreeControl::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 LRESULT TreeControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 {
     Hit hit;
+    StopLabelClock();
     if (!CancelPress() || !TakeFocus() || !HitTest(CPoint(lParam), hit))
         return 0;
     LRESULT taken = 0;

@@ -87,7 +87,8 @@ int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) con
     if (face.hasChildren && HasButtonAt(level))
         DrawButton(hdc, m_layout.ButtonSlot(row, level), m_items.IsExpanded(item) && m_items.ChildCount(item) > 0);
     DrawPicture(hdc, m_layout.IconAt(row, level), item, face);
-    DrawLabel(hdc, m_layout.LabelBox(row, level, textWidth), item, face.text);
+    if (!m_label || m_items.Find(m_label->hItem) != item) // else the field stands there
+        DrawLabel(hdc, m_layout.LabelBox(row, level, textWidth), item, face.text);
     return m_layout.RightOf(level, textWidth);
 }
 

@@ -94,6 +94,7 @@ bool TreeControl::Relayout()
     if (m_layout.TopRow() != top || m_layout.X() != x)
         RedrawAll();
     KeepTopRow();
+    PlaceLabelField();
     return true;
 }
 
@@ -153,6 +154,8 @@ bool TreeControl::ScrollToRow(int row)
     else
         RedrawAll();
     KeepTopRow();
+    StopLabelClock();
+    PlaceLabelField();
     return UpdateBarAtSide(m_layout.Client().cy);
 }
 
@@ -167,6 +170,7 @@ bool TreeControl::ScrollToX(int x)
         ScrollWindow(m_hWnd, -pixels, 0);
     else
         RedrawAll();
+    PlaceLabelField();
     return UpdateBarBelow();
 }
 

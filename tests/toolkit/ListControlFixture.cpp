@@ -34,6 +34,8 @@ BEGIN_MESSAGE_MAP(LedgerList, CListCtrl)
     ON_NOTIFY_REFLECT(LVN_GETDISPINFO, OnDispInfo)
     ON_NOTIFY_REFLECT(LVN_BEGINDRAG, OnDrag)
     ON_NOTIFY_REFLECT(LVN_BEGINRDRAG, OnDrag)
+    ON_NOTIFY_REFLECT(LVN_BEGINLABELEDIT, OnBeginEdit)
+    ON_NOTIFY_REFLECT(LVN_ENDLABELEDIT, OnEndEdit)
     ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnClick)
@@ -100,6 +102,19 @@ void LedgerList::OnClick(NMITEMACTIVATE* pClick, LRESULT*)
     const UINT code = pClick->hdr.code;
     const std::string kind = code == NM_CLICK ? "click " : code == NM_RCLICK ? "right click " : "double click ";
     Write(kind + (pClick->iItem < 0 ? "nothing" : NameOf(pClick->iItem)));
+}
+
+void LedgerList::OnBeginEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
+{
+    const std::string line = "edit " + NameOf(pInfo->item.iItem) + " '" + pInfo->item.pszText + "'?";
+    *pResult = refuses(line);
+    Write(line);
+}
+
+void LedgerList::OnEndEdit(NMLVDISPINFO* pInfo, LRESULT*)
+{
+    const LPCSTR pszText = pInfo->item.pszText;
+    Write("edited " + NameOf(pInfo->item.iItem) + (pszText ? " '" + std::string(pszText) + "'" : " not"));
 }
 
 void LedgerList::OnEvent(NMHDR* pHeader, LRESULT*)

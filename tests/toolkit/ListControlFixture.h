@@ -32,6 +32,8 @@ protected:
     afx_msg void OnDispInfo(NMLVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDrag(NMLISTVIEW* pDrag, LRESULT* pResult);
     afx_msg void OnClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
+    afx_msg void OnBeginEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnEndEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
     afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()

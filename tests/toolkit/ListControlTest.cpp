@@ -271,7 +271,7 @@ TEST_F(ListControlTest, StatesSetByMessageAreToldOnceEachAndOnlyWhenTheyChange)
     EXPECT_EQ(-1, list.GetNextItem(-1, LVNI_DROPHILITED));
     EXPECT_EQ(Ledger(), TakeLedger());
     EXPECT_FALSE(list.SendMessage(LVM_SORTITEMS, 0, 0));
-    EXPECT_EQ(nullptr, list.EditLabel(0));
+    EXPECT_EQ(nullptr, list.EditLabel(0)) << "its style does not let labels be edited";
 }
 
 TEST_F(ListControlTest, ASingleSelectionListNeverHasTwoSelected)

@@ -16,6 +16,9 @@ BEGIN_MESSAGE_MAP(LedgerTree, CTreeCtrl)
     ON_NOTIFY_REFLECT(TVN_DELETEITEM, OnDelete)
     ON_NOTIFY_REFLECT(TVN_BEGINDRAG, OnBeginDrag)
     ON_NOTIFY_REFLECT(TVN_BEGINRDRAG, OnBeginRDrag)
+    ON_NOTIFY_REFLECT(TVN_BEGINLABELEDIT, OnBeginEdit)
+    ON_NOTIFY_REFLECT(TVN_ENDLABELEDIT, OnEndEdit)
+    ON_NOTIFY_REFLECT(TVN_SETDISPINFO, OnSetDispInfo)
     ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnDispInfo)
     ON_NOTIFY_REFLECT(TVN_KEYDOWN, OnTreeKey)
     ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
@@ -113,6 +116,23 @@ void LedgerTree::OnBeginDrag(NMTREEVIEW* pDrag, LRESULT*)
 void LedgerTree::OnBeginRDrag(NMTREEVIEW* pDrag, LRESULT*)
 {
     WriteItem("right drag", pDrag->itemNew);
+}
+
+void LedgerTree::OnBeginEdit(NMTVDISPINFO* pInfo, LRESULT* pResult)
+{
+    WriteItem("edit?", pInfo->item, pResult);
+}
+
+void LedgerTree::OnEndEdit(NMTVDISPINFO* pInfo, LRESULT* pResult)
+{
+    const LPCSTR pszText = pInfo->item.pszText;
+    Write("edited " + NameOf(pInfo->item.hItem) + (pszText ? " '" + std::string(pszText) + "'" : " not"), pResult);
+}
+
+void LedgerTree::OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
+{
+    Write("set '" + std::string(pInfo->item.pszText) + "'");
+    NameOf(pInfo->item.hItem) = pInfo->item.pszText;
 }
 
 void LedgerTree::OnDispInfo(NMTVDISPINFO* pInfo, LRESULT*)

@@ -35,6 +35,9 @@ protected:
     afx_msg void OnDelete(NMTREEVIEW* pNews, LRESULT* pResult);
     afx_msg void OnBeginDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
     afx_msg void OnBeginRDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
+    afx_msg void OnBeginEdit(NMTVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnEndEdit(NMTVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult);
     afx_msg void OnClick(NMHDR* pHeader, LRESULT* pResult);

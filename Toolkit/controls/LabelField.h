@@ -1,0 +1,41 @@
+// What the list control and the tree control need to have a label edited in place: the field, and the wait of the slow
+// second click.
+//
+// The field is an edit control and a child of its owner. It lives until its owner destroys it. Switching to another
+// window, or a message box, takes the focus from it, too, but ends nothing: the editing goes on when the user comes
+// back.
+#pragma once
+
+#include "Toolkit/window/NativeWindow.h"
+
+#include <string>
+
+namespace toolkit
+{
+
+// The native window of a control whose labels are edited. The window may be gone when a call returns.
+class LabelOwner
+{
+public:
+    virtual void LabelTyped() = 0;           // the text is new: the field may need other room. Must not notify
+    virtual void LabelDone(bool bTaken) = 0; // Enter, or the focus is elsewhere in the window; else Escape
+    virtual void LabelClickDue() = 0;        // the double-click time has passed since StartLabelClock
+
+protected:
+    ~LabelOwner() = default;
+};
+
+void RegisterLabelField();
+
+// A hidden field with the text, all of it selected; NULL when it failed.
+HWND CreateLabelField(HWND hOwner, const std::string& text);
+// What the field wants: its text and room for a letter more, with a border; the height of one line.
+CSize LabelFieldSize(HWND hField);
+// From the field's left or top edge to the text's.
+inline constexpr int kLabelFieldEdge = 4, kLabelFieldTop = 2;
+
+// A hidden child that tells its owner once, and is then to be destroyed. A timer of the owner's own would be in the way
+// of a derived class that keeps timers to itself.
+HWND StartLabelClock(HWND hOwner);
+
+} // namespace toolkit

@@ -1,0 +1,176 @@
+// How the list control has a label edited in place.
+//
+// The control knows rows by number only. An owner that moves rows meanwhile says where the edited one is now; where it
+// does not and another label stands in the row at the end, the editing counts as cancelled: no row is ever given a
+// name that was meant for another.
+#include "Toolkit/controls/ListControl.h"
+#include "Toolkit/window/Input.h"
+
+namespace toolkit
+{
+
+LRESULT ListControl::OnEditLabel(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    if (!FinishLabel(row >= 0) || !BeginLabel(row))
+        return 0;
+    return OnGetEditControl(0, 0);
+}
+
+LRESULT ListControl::OnGetEditControl(WPARAM, LPARAM)
+{
+    return m_label ? reinterpret_cast<LRESULT>(m_label->hField) : 0;
+}
+
+LRESULT ListControl::OnCancelEditLabel(WPARAM, LPARAM)
+{
+    static_cast<void>(FinishLabel(false));
+    return TRUE;
+}
+
+LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    if (!m_label)
+        return FALSE;
+    if (!m_rows.Has(row))
+        return FinishLabel(false);
+    Redraw(std::exchange(m_label->row, row));
+    Redraw(row);
+    PlaceLabelField();
+    return TRUE;
+}
+
+bool ListControl::BeginLabel(int row)
+{
+    const HWND hWnd = m_hWnd;
+    StopLabelClock();
+    if (!(GetWindowStyle(hWnd) & LVS_EDITLABELS) || !m_rows.Has(row))
+        return true;
+    EndTracking();
+    if (!TakeFocus())
+        return false;
+    if (GetFocus() != hWnd || !m_rows.Has(row))
+        return true; // refused
+    if (!ScrollTo(m_layout.ScrollToShow(row, false)))
+        return false;
+    std::string text;
+    bool allowed = false;
+    if (!AskLabelEdit(row, text, &allowed))
+        return false;
+    return !allowed || m_label || !m_rows.Has(row) || OpenLabelField(row, text);
+}
+
+// The owner may give another text than the label to begin with.
+bool ListControl::AskLabelEdit(int row, std::string& text, bool* pAllowed)
+{
+    const std::optional<Face> face = HintAndAsk(row);
+    if (!face)
+        return false;
+    m_labelShown = text = face->text;
+    NMLVDISPINFO info{};
+    info.item.mask = LVIF_TEXT;
+    info.item.iItem = row;
+    info.item.pszText = text.data();
+    info.item.cchTextMax = static_cast<int>(text.size()) + 1;
+    LRESULT refused = 0;
+    if (!Tell(LVN_BEGINLABELEDIT, info.hdr, &refused))
+        return false;
+    if (info.item.pszText && info.item.pszText != text.data())
+        text = info.item.pszText;
+    *pAllowed = refused == 0;
+    return true;
+}
+
+bool ListControl::OpenLabelField(int row, const std::string& text)
+{
+    const HWND hWnd = m_hWnd;
+    const HWND hField = CreateLabelField(hWnd, text);
+    if (!IsWindow(hWnd) || !hField)
+        return IsWindow(hWnd);
+    m_label = LabelEdit{row, hField};
+    Redraw(row);
+    PlaceLabelField();
+    ShowWindow(hField, SW_SHOW);
+    SetFocus(hField);
+    return IsWindow(hWnd);
+}
+
+// In the middle below the picture, as wide as its text needs, inside the client area as far as that goes.
+void ListControl::PlaceLabelField()
+{
+    if (!m_label)
+        return;
+    const CRect room = m_layout.LabelRoom(m_label->row);
+    const CSize wanted = LabelFieldSize(m_label->hField);
+    const int width = std::min<int>(std::max<int>(wanted.cx, m_layout.Cell().cx / 2), m_layout.Client().cx);
+    const int left = std::clamp<int>(room.CenterPoint().x - width / 2, 0, m_layout.Client().cx - width);
+    MoveWindow(m_label->hField, left, room.top - kLabelFieldTop + 1, width, wanted.cy);
+}
+
+bool ListControl::FinishLabel(bool taken)
+{
+    if (!m_label)
+        return true;
+    const HWND hWnd = m_hWnd;
+    const LabelEdit done = *std::exchange(m_label, std::nullopt);
+    std::string text(GetWindowText(done.hField).View());
+    Redraw(done.row);
+    DestroyWindow(done.hField); // the focus comes back, unless it is elsewhere already
+    if (!IsWindow(hWnd))
+        return false;
+
+    if (taken && m_rows.Has(done.row)) {
+        const std::optional<Face> face = HintAndAsk(done.row);
+        if (!face)
+            return false;
+        taken = face->text == m_labelShown;
+    }
+    NMLVDISPINFO info{};
+    info.item.mask = LVIF_TEXT;
+    info.item.iItem = done.row;
+    info.item.pszText = taken && m_rows.Has(done.row) ? text.data() : nullptr;
+    info.item.cchTextMax = static_cast<int>(text.size()) + 1;
+    return Tell(LVN_ENDLABELEDIT, info.hdr);
+}
+
+void ListControl::LabelDone(bool taken)
+{
+    static_cast<void>(FinishLabel(taken));
+}
+
+// A press on a label means its row alone, and means it for editing, when the row was so before and the press has not
+// just brought the user here.
+bool ListControl::MeansLabel(const Press& press, UINT hitFlags) const
+{
+    constexpr UINT kOwn = LVIS_SELECTED | LVIS_FOCUSED;
+    return !press.right && !press.keys.shift && !press.keys.control && (hitFlags & LVHT_ONITEMLABEL) &&
+           (GetWindowStyle(m_hWnd) & LVS_EDITLABELS) && m_focusedAt != GetInputCount() &&
+           (m_rows.State(press.row) & kOwn) == kOwn && m_rows.CountWith(LVIS_SELECTED) == 1;
+}
+
+void ListControl::StartLabelClockFor(int row)
+{
+    StopLabelClock();
+    m_labelClick = LabelEdit{row, StartLabelClock(m_hWnd)};
+}
+
+void ListControl::StopLabelClock()
+{
+    if (m_labelClick)
+        DestroyWindow(std::exchange(m_labelClick, std::nullopt)->hField);
+}
+
+void ListControl::LabelClickDue()
+{
+    if (!m_labelClick)
+        return;
+    const int row = m_labelClick->row;
+    StopLabelClock();
+    const bool still = m_rows.Focus() == row && (m_rows.State(row) & LVIS_SELECTED) &&
+                       m_rows.CountWith(LVIS_SELECTED) == 1 && GetFocus() == m_hWnd && !m_press;
+    if (still)
+        static_cast<void>(BeginLabel(row));
+}
+
+} // namespace toolkit
