@@ -16,21 +16,20 @@ namespace
 {
 
 constexpr int kIcons = 64;
-constexpr int kIconSize = 48;
 
-// A disc of its own colour for each icon, drawn once.
-HBITMAP IconBitmap(unsigned number)
+// A disc of its own colour for each icon, drawn once for each size.
+HBITMAP IconBitmap(unsigned number, int size)
 {
-    static std::vector<HBITMAP> s_icons(kIcons);
-    HBITMAP& icon = s_icons[number % kIcons];
+    static std::map<std::pair<unsigned, int>, HBITMAP> s_icons;
+    HBITMAP& icon = s_icons[{number % kIcons, size}];
     if (icon)
         return icon;
 
-    toolkit::Surface picture({kIconSize, kIconSize});
-    for (int y = 0; y < kIconSize; ++y) {
-        for (int x = 0; x < kIconSize; ++x) {
-            const int dx = 2 * x - kIconSize, dy = 2 * y - kIconSize;
-            if (dx * dx + dy * dy < kIconSize * kIconSize)
+    toolkit::Surface picture({size, size});
+    for (int y = 0; y < size; ++y) {
+        for (int x = 0; x < size; ++x) {
+            const int dx = 2 * x - size, dy = 2 * y - size;
+            if (dx * dx + dy * dy < size * size)
                 picture.Row(y)[x] = 0xFF000000u | (number * 0x9E3779B1u & 0x7F7F7Fu) | 0x303030u;
         }
     }
@@ -42,6 +41,24 @@ void Give(Interface* p, void** out)
 {
     static_cast<CStubBaseInterface*>(p)->AddRef();
     *out = p;
+}
+
+BOOL GiveName(std::string_view name, char* pBuffer, DWORD* pLength)
+{
+    if (pBuffer)
+        pBuffer[name.copy(pBuffer, name.size())] = '\0';
+    *pLength = static_cast<DWORD>(name.size() + 1);
+    return TRUE;
+}
+
+template <class Members>
+void GiveMembers(const Members& members, UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+{
+    for (UINT i = 0; i < nCount; ++i) {
+        ppOut[i] = nullptr;
+        if (nFirst + i < members.size())
+            members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
+    }
 }
 
 } // namespace
@@ -76,26 +93,33 @@ BOOL Atom::GetContainer(void** ppOut, DWORD dwInterfaceId)
 
 int Atom::AddToImageList(HIMAGELIST hImageList, int nReplace)
 {
-    const HBITMAP icon = IconBitmap(m_number);
+    int cx = 0, cy = 0;
+    if (!ImageList_GetIconSize(hImageList, &cx, &cy))
+        return -1;
+    const HBITMAP icon = IconBitmap(m_number, cx);
     if (nReplace < 0)
         return ImageList_Add(hImageList, icon, nullptr);
     return ImageList_Replace(hImageList, nReplace, icon, nullptr) ? nReplace : -1;
 }
 
-Container::Container(unsigned nMembers)
+Container::Container(unsigned nMembers, Library* pLibrary, unsigned number) : m_pLibrary(pLibrary), m_number(number)
 {
     std::vector<unsigned> numbers(nMembers);
     std::iota(numbers.begin(), numbers.end(), 0u);
     std::shuffle(numbers.begin(), numbers.end(), std::mt19937(20));
     m_members.reserve(nMembers);
-    for (const unsigned number : numbers)
-        m_members.push_back(std::make_unique<Atom>(*this, static_cast<unsigned>(m_members.size()), number));
+    for (const unsigned nameNumber : numbers)
+        Append(nameNumber);
 }
 
 void Container::Append()
 {
-    const auto number = static_cast<unsigned>(m_members.size());
-    m_members.push_back(std::make_unique<Atom>(*this, number, number));
+    Append(static_cast<unsigned>(m_members.size()));
+}
+
+void Container::Append(unsigned nameNumber)
+{
+    m_members.push_back(std::make_unique<Atom>(*this, static_cast<unsigned>(m_members.size()), nameNumber));
 }
 
 void Container::GetInterface(DWORD id, void** out)
@@ -109,19 +133,55 @@ void Container::GetInterface(DWORD id, void** out)
         Give(static_cast<ICharacterLibrary*>(this), out);
 }
 
-BOOL Container::GetContainer(void** ppOut, DWORD)
+BOOL Container::GetName(char* pBuffer, DWORD* pLength)
+{
+    return GiveName("Container " + std::to_string(m_number), pBuffer, pLength);
+}
+
+BOOL Container::GetContainer(void** ppOut, DWORD dwInterfaceId)
+{
+    *ppOut = nullptr;
+    if (m_pLibrary)
+        m_pLibrary->GetInterface(dwInterfaceId, ppOut);
+    return *ppOut != nullptr;
+}
+
+void Container::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+{
+    GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
+}
+
+Library::Library(unsigned nContainers, unsigned nAtoms)
+{
+    for (unsigned i = 0; i < nContainers; ++i)
+        m_members.push_back(std::make_unique<Container>(nAtoms / nContainers, this, i));
+}
+
+void Library::GetInterface(DWORD id, void** out)
+{
+    *out = nullptr;
+    if (id == IID_IAtom)
+        Give(static_cast<IAtom*>(this), out);
+    else if (id == IID_IAtomContainer)
+        Give(static_cast<IAtomContainer*>(this), out);
+    else if (id == IID_ICharacterLibrary)
+        Give(static_cast<ICharacterLibrary*>(this), out);
+}
+
+BOOL Library::GetName(char* pBuffer, DWORD* pLength)
+{
+    return GiveName("Library", pBuffer, pLength);
+}
+
+BOOL Library::GetContainer(void** ppOut, DWORD)
 {
     *ppOut = nullptr;
     return FALSE;
 }
 
-void Container::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+void Library::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
 {
-    for (UINT i = 0; i < nCount; ++i) {
-        ppOut[i] = nullptr;
-        if (nFirst + i < m_members.size())
-            m_members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
-    }
+    GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
 }
 
 namespace

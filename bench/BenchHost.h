@@ -38,18 +38,18 @@ private:
     char m_name[kNameSize];
 };
 
-// A container of n atoms in shuffled order (a fixed seed), and at its own top.
+// A container of n atoms in shuffled order (a fixed seed): at its own top, or in a library under a name by its number.
 class Container final : public IAtomContainer, public ICharacterLibrary
 {
 public:
-    explicit Container(unsigned nMembers);
+    explicit Container(unsigned nMembers, class Library* pLibrary = nullptr, unsigned number = 0);
 
     void AddRef() override { ++m_nReferences; }
     void Release() override { --m_nReferences; }
     void GetInterface(DWORD id, void** out) override;
-    DWORD GetID() override { return 0; }
-    BOOL GetName(char*, DWORD*) override { return FALSE; }
-    BOOL GetContainer(void** ppOut, DWORD) override;
+    DWORD GetID() override { return m_number; }
+    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
     BOOL IsModified() override { return FALSE; }
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
@@ -63,10 +63,43 @@ public:
 
     std::size_t MemberCount() const { return m_members.size(); }
     Atom& Member(unsigned n) { return *m_members[n]; }
-    void Append(); // one member more
+    void Append(); // one member more, whose name comes after all others
+    void Append(unsigned nameNumber);
 
 private:
+    Library* const m_pLibrary; // NULL: none
+    const unsigned m_number;
     std::vector<std::unique_ptr<Atom>> m_members;
+    int m_nReferences = 0;
+};
+
+// A top with containers that have equal shares of n atoms.
+class Library final : public IAtomContainer, public ICharacterLibrary
+{
+public:
+    Library(unsigned nContainers, unsigned nAtoms);
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override { --m_nReferences; }
+    void GetInterface(DWORD id, void** out) override;
+    DWORD GetID() override { return 0; }
+    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
+    BOOL IsModified() override { return FALSE; }
+    UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
+    void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
+    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
+    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
+    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RemoveAtom(IAtom*) override { return FALSE; }
+    DWORD GetPermissions(IAtom*) override { return 0; }
+    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
+
+    Container& Member(unsigned n) { return *m_members[n]; }
+
+private:
+    std::vector<std::unique_ptr<Container>> m_members;
     int m_nReferences = 0;
 };
 

@@ -51,6 +51,7 @@ struct Process
     Process()
     {
         resources.AddBitmap(1006, toolkit::Surface({48, 48}, 0xFF336699));
+        resources.AddBitmap(1013, toolkit::Surface({32, 16}, 0xFF336699));
         resources.AddString(1008, "Icons");
         resources.Join();
     }
@@ -73,25 +74,40 @@ DesktopScope::~DesktopScope()
     s_pProcess.reset();
 }
 
-ListWindow::ListWindow(int nPassive) : m_list(nPassive)
+ViewWindow::ViewWindow()
 {
     m_frame.CreateEx(0, "", "bench", WS_OVERLAPPED | WS_CLIPCHILDREN, kFrame, nullptr, 0);
-    m_list.Create(&m_frame);
-    m_list.MoveWindow(kFrame);
-    m_list.ShowWindow(SW_SHOW);
-    m_frame.ShowWindow(SW_SHOW);
-    Settle();
 }
 
-ListWindow::~ListWindow()
+ViewWindow::~ViewWindow()
 {
     m_frame.DestroyWindow();
 }
 
-void ListWindow::Settle()
+void ViewWindow::Show(CWnd& view)
+{
+    view.MoveWindow(kFrame);
+    view.ShowWindow(SW_SHOW);
+    m_frame.ShowWindow(SW_SHOW);
+    Settle();
+}
+
+void ViewWindow::Settle()
 {
     toolkit::RunPendingMessages();
     TheDesktop::Present();
+}
+
+ListWindow::ListWindow()
+{
+    m_list.Create(&m_frame);
+    Show(m_list);
+}
+
+TreeWindow::TreeWindow()
+{
+    m_tree.Create(&m_frame);
+    Show(m_tree);
 }
 
 } // namespace bench

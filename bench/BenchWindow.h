@@ -1,9 +1,10 @@
-// A window of 1024 by 768 with an icon list in it, on the best desktop that was built: Qt's, with its fonts and its
+// A window of 1024 by 768 with a view in it, on the best desktop that was built: Qt's, with its fonts and its
 // painting on an offscreen screen, else the headless one with the built-in font.
 #pragma once
 
 #include "Toolkit/window/Wnd.h"
 #include "Views/list/list.h"
+#include "Views/tree/tree.h"
 
 #include <memory>
 
@@ -21,20 +22,37 @@ public:
     DesktopScope& operator=(const DesktopScope&) = delete;
 };
 
-class ListWindow
+class ViewWindow
 {
 public:
-    explicit ListWindow(int nPassive = 0);
-    ~ListWindow();
-    ListWindow(const ListWindow&) = delete;
-    ListWindow& operator=(const ListWindow&) = delete;
-
-    CIconList& List() { return m_list; }
     void Settle(); // until everything is painted and presented
 
-private:
+protected:
+    ViewWindow();
+    ~ViewWindow(); // the view has gone by then
+    void Show(CWnd& view);
+
     CWnd m_frame;
+};
+
+class ListWindow : public ViewWindow
+{
+public:
+    ListWindow();
+    CIconList& List() { return m_list; }
+
+private:
     CIconList m_list;
+};
+
+class TreeWindow : public ViewWindow
+{
+public:
+    TreeWindow();
+    CObjectsTree& Tree() { return m_tree; }
+
+private:
+    CObjectsTree m_tree;
 };
 
 } // namespace bench
