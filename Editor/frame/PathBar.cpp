@@ -30,6 +30,7 @@ BEGIN_MESSAGE_MAP(CPathBar, CWnd)
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONUP()
+    ON_MESSAGE(WM_CAPTURECHANGED, OnCaptureChanged)
 END_MESSAGE_MAP()
 
 CPathBar::CPathBar(std::function<void()> up, std::function<void(int nPart)> go)
@@ -91,9 +92,9 @@ void CPathBar::OnLButtonDown(UINT nFlags, CPoint point)
 void CPathBar::OnLButtonUp(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonUp(nFlags, point);
+    const int nPressed = std::exchange(m_nPressed, kNothing);
     if (GetCapture() == m_hWnd)
         ReleaseCapture();
-    const int nPressed = std::exchange(m_nPressed, kNothing);
     Invalidate();
     if (nPressed == kNothing || nPressed != TargetAt(point))
         return;
@@ -101,6 +102,14 @@ void CPathBar::OnLButtonUp(UINT nFlags, CPoint point)
         m_up();
     else
         m_go(nPressed);
+}
+
+// Someone else took the mouse: the press comes to nothing.
+LRESULT CPathBar::OnCaptureChanged(WPARAM, LPARAM)
+{
+    m_nPressed = kNothing;
+    Invalidate();
+    return 0;
 }
 
 CRect CPathBar::UpRect() const
