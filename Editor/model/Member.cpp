@@ -7,6 +7,7 @@
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
+#include "Views/host/IconHolder.h"
 
 #include <algorithm>
 
@@ -142,10 +143,8 @@ int CMember::AddToImageList(HIMAGELIST hImageList, int nReplace)
     int cx = 0, cy = 0;
     if (!ImageList_GetIconSize(hImageList, &cx, &cy))
         return -1;
-    const HICON hIcon = CreateIconFromSurface(DrawIcon({cx, cy}));
-    const int nIndex = ImageList_ReplaceIcon(hImageList, nReplace, hIcon);
-    DestroyIcon(hIcon);
-    return nIndex;
+    const views::IconHolder hIcon(CreateIconFromSurface(DrawIcon({cx, cy})));
+    return ImageList_ReplaceIcon(hImageList, nReplace, hIcon.get());
 }
 
 } // namespace editor
