@@ -37,7 +37,7 @@ toolkit::Surface CImageLink::DrawIcon(CSize size)
     const std::string path = Path();
     if (path.empty())
         return PaintPictogram(Pictogram::BrokenPicture, size);
-    return PaintPictureIcon(Context().pPictures->Find(path, size, this), size);
+    return PaintPictureIcon(Context().pPictures->Find(path, PictureSizeFor(size), this), size);
 }
 
 std::string_view CImageLink::Line() const

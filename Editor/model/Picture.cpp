@@ -13,7 +13,7 @@ std::string CPicture::ErrorReason() const
 
 toolkit::Surface CPicture::DrawIcon(CSize size)
 {
-    return PaintPictureIcon(Context().pPictures->Find(Path(), size, this), size);
+    return PaintPictureIcon(Context().pPictures->Find(Path(), PictureSizeFor(size), this), size);
 }
 
 } // namespace editor

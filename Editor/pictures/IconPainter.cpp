@@ -13,6 +13,7 @@ namespace
 constexpr toolkit::Pixel kEdge = 0x50000000;                   // premultiplied, as all here
 constexpr toolkit::Pixel kShadow[] = {0x30000000, 0x18000000}; // below and beside, from the edge on
 constexpr int kShadowReach = static_cast<int>(std::size(kShadow));
+constexpr int kSmallestRead = 48; // pixels each way
 constexpr int kSmallestPhotograph = 12; // pixels; below this an edge would eat the picture
 
 bool CoversAll(const toolkit::Surface& picture)
@@ -73,6 +74,11 @@ toolkit::Surface PaintPictogram(Pictogram which, CSize size)
 {
     const toolkit::Surface& picture = GetPictogram(which, std::max(1, std::min(size.cx, size.cy)));
     return PaintInTheMiddle(picture, size, size, false);
+}
+
+CSize PictureSizeFor(CSize icon)
+{
+    return {std::max<LONG>(icon.cx, kSmallestRead), std::max<LONG>(icon.cy, kSmallestRead)};
 }
 
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size)

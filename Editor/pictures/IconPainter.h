@@ -10,6 +10,9 @@ namespace editor
 // The pictogram in the middle of a transparent ground.
 toolkit::Surface PaintPictogram(Pictogram which, CSize size);
 
+// The size at which a picture for an icon is wished for: small icons are made from what is read for larger ones.
+CSize PictureSizeFor(CSize icon);
+
 // A picture that has reached the store, in the middle of a transparent ground: one that covers its whole rectangle
 // as a little photograph, with an edge and a shadow; any other as it is. Else what tells that there is none, or
 // none yet.
