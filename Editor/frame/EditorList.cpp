@@ -46,7 +46,8 @@ CEditorList::State CEditorList::Remember() const
         state.selected.push_back(GetAtom(i));
     std::sort(state.selected.begin(), state.selected.end(),
               [](const auto& a, const auto& b) { return std::less<>()(a.Get(), b.Get()); });
-    state.pFocused = GetAtom(GetFocusedRow());
+    state.nFocused = GetFocusedRow();
+    state.pFocused = GetAtom(state.nFocused);
     SCROLLINFO scroll{};
     if (::GetScrollInfo(m_hWnd, SB_VERT, &scroll))
         state.nScrolled = scroll.nPos;
@@ -57,13 +58,16 @@ void CEditorList::Restore(const State& state)
 {
     if (state.bAllSelected)
         SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+    int nFocused = std::min(state.nFocused, GetItemCount() - 1);
     for (int i = 0, count = GetItemCount(); i < count; ++i) {
         const CStubRef<IAtom> pAtom = GetAtom(i);
         if (IsAmong(state.selected, pAtom.Get()))
             SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
         if (pAtom && pAtom.Get() == state.pFocused.Get())
-            SetItemState(i, LVIS_FOCUSED, LVIS_FOCUSED);
+            nFocused = i;
     }
+    if (nFocused >= 0)
+        SetItemState(nFocused, LVIS_FOCUSED, LVIS_FOCUSED);
     SendMessage(LVM_SCROLL, 0, state.nScrolled);
 }
 

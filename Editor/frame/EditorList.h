@@ -23,13 +23,14 @@ public:
     // The first selected row gets the focus and is scrolled into view.
     void FocusSelection();
 
-    // What a user would miss after the rows have been loaded anew: selection, focused row and scroll position. A
-    // row whose atom is not there any more is left out.
+    // What a user would miss after the rows have been loaded anew: selection, focused row and scroll position. Of
+    // atoms that are not there any more nothing is selected; the focus stays in its place among the rows.
     struct State
     {
         bool bAllSelected = false;
         std::vector<CStubRef<IAtom>> selected; // unless all are; sorted by address
         CStubRef<IAtom> pFocused;
+        int nFocused = -1; // its row then
         int nScrolled = 0; // pixels
     };
     State Remember() const;

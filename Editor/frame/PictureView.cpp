@@ -14,6 +14,8 @@ namespace
 constexpr int kMargin = 3 * kSpace;
 constexpr int kMostEnlarged = 4;
 constexpr int kBrokenExtent = 96;
+constexpr UINT_PTR kLateTimer = 1;
+constexpr UINT kLate = 250; // milliseconds
 
 } // namespace
 
@@ -21,6 +23,7 @@ BEGIN_MESSAGE_MAP(CPictureView, CWnd)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_WM_SIZE()
+    ON_WM_TIMER()
 END_MESSAGE_MAP()
 
 BOOL CPictureView::Create(CWnd* pParent)
@@ -33,12 +36,30 @@ void CPictureView::SetAtom(IAtom* pAtom)
     m_pAtom = CStubRef<IAtom>::Share(pAtom);
     m_shown = {};
     Fetch();
+    AwaitPicture();
     Invalidate();
 }
 
 void CPictureView::OnPictureArrived()
 {
     Fetch();
+    Invalidate();
+}
+
+// A picture that comes soon replaces nothing that would flash up.
+void CPictureView::AwaitPicture()
+{
+    m_bLate = false;
+    if (m_pAtom && m_shown.IsEmpty())
+        SetTimer(kLateTimer, kLate);
+    else
+        KillTimer(kLateTimer);
+}
+
+void CPictureView::OnTimer(UINT_PTR)
+{
+    KillTimer(kLateTimer);
+    m_bLate = true;
     Invalidate();
 }
 
@@ -58,15 +79,23 @@ void CPictureView::OnPaint()
     if (!m_shown.IsEmpty())
         return DrawCentred(dc, client, m_shown);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
-    const std::string reason = pMember ? pMember->ErrorLine() : std::string();
-    if (reason.empty())
-        return; // it will come
+    if (!pMember)
+        return;
+    client.DeflateRect(2 * kSpace, 0);
+    if (const std::string reason = pMember->ErrorLine(); !reason.empty())
+        DrawReason(dc, client, reason);
+    else if (m_bLate)
+        DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", GetSysColor(COLOR_GRAYTEXT),
+                     Align::Center);
+}
+
+void CPictureView::DrawReason(HDC hdc, const CRect& client, const std::string& reason) const
+{
     CRect text = client;
-    text.DeflateRect(2 * kSpace, 0);
     text.top = client.CenterPoint().y + kBrokenExtent / 2;
     text.bottom = text.top + 2 * kPaneCaptionHeight;
-    DrawCentred(dc, client, GetPictogram(Pictogram::BrokenPicture, kBrokenExtent));
-    DrawTextLine(dc, text, reason, GetSysColor(COLOR_GRAYTEXT), Align::Center);
+    DrawCentred(hdc, client, GetPictogram(Pictogram::BrokenPicture, kBrokenExtent));
+    DrawTextLine(hdc, text, reason, GetSysColor(COLOR_GRAYTEXT), Align::Center);
 }
 
 void CPictureView::OnSize(UINT nType, int cx, int cy)

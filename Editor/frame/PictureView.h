@@ -9,7 +9,8 @@ namespace editor
 {
 
 // The picture is read by the store at the window's size. While the window is sized, what was read last is shown.
-// Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle.
+// Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle; where it takes its
+// time to be read, that it is coming.
 class CPictureView : public CWnd
 {
 public:
@@ -25,15 +26,19 @@ protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
     DECLARE_MESSAGE_MAP()
 
 private:
     CRect Room() const;
     void Fetch();
+    void AwaitPicture();
+    void DrawReason(HDC hdc, const CRect& client, const std::string& reason) const;
     toolkit::Surface Fitted(const toolkit::Surface& picture) const;
 
     PictureStore& m_pictures;
     CStubRef<IAtom> m_pAtom;
+    bool m_bLate = false;     // it has not come within the time in which nobody wonders
     toolkit::Surface m_shown; // at the size it is drawn; empty: none yet, or none at all
 };
 

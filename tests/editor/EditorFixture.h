@@ -33,6 +33,7 @@ protected:
     void ClickPath(int nPart); // -1: the button that leads up
     void AltUp();
     toolkit::Pixel MiddleOf(HWND hWnd);
+    CPoint PlaceOf(const char* pszName);
 
     TrashHome trash;
     TempFolder folder;
@@ -40,8 +41,6 @@ protected:
     int nClosed = 0;
 
 private:
-    CPoint PlaceOf(const char* pszName);
-
     const int m_nLive;
     std::unique_ptr<editor::EditorApp> m_pApp;
 };

@@ -47,6 +47,11 @@ TEST_F(EditorTest, EnterOpensTheFocusedRowAndThePathLeadsBack)
     ClickPath(-1);
     EXPECT_EQ("/Ada/ | [(*Poses)] | 1 object, 1 selected | Poses", Screen());
     DoubleClick("Poses");
+    desktop.Press(Frame().GetPathBar().GetSafeHwnd(), {24, 20});
+    SetCapture(List());
+    ReleaseCapture();
+    desktop.Release(Frame().GetPathBar().GetSafeHwnd(), {24, 20});
+    EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "someone took the mouse away";
     ClickPath(0);
     EXPECT_EQ("/ | [(*Ada) Bo] | 2 objects, 1 selected | Ada", Screen());
     ClickPath(-1);
@@ -102,6 +107,27 @@ TEST_F(EditorTest, WhileAPictureIsSizedTheOneThatIsThereIsShown)
     CRect window;
     GetWindowRect(hPicture, &window);
     EXPECT_EQ(400, window.right) << "to the new edge";
+}
+
+TEST_F(EditorTest, APictureThatTakesItsTimeSaysThatItIsComing)
+{
+    folder.WriteBmp("large.bmp", 2000, 1000, 0xFF102030);
+    Open();
+    reader.Hold();
+    desktop.DoubleClick(List(), PlaceOf("large.bmp"));
+    const HWND hPicture = Frame().GetPictureView().GetSafeHwnd();
+    const auto countInk = [&] {
+        const toolkit::Surface shown = desktop.Dump(hPicture);
+        const toolkit::Pixel* const first = shown.Row(0);
+        const auto count = static_cast<std::ptrdiff_t>(shown.Width()) * shown.Height();
+        return count - std::count(first, first + count, toolkit::ToPixel(editor::CalmColor()));
+    };
+    EXPECT_EQ(0, countInk()) << "nothing flashes up";
+    desktop.Advance(1000);
+    EXPECT_GT(countInk(), 0);
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ(0xFF102030, MiddleOf(hPicture));
 }
 
 TEST_F(EditorTest, APictureThatCannotBeReadSaysWhy)
@@ -174,13 +200,17 @@ TEST_F(EditorTest, ReadingAnewKeepsSelectionFocusAndPlace)
     Settle();
     EXPECT_EQ("301 objects, 2 selected", Frame().GetStatus().text);
     EXPECT_NE(std::string::npos, Rows().find("394.bmp (*395.bmp) 396.bmp 398.bmp (399.bmp)]"));
+    folder.Remove("395.bmp");
+    desktop.Key(VK_F5);
+    Settle();
+    EXPECT_NE(std::string::npos, Rows().find("394.bmp *396.bmp 398.bmp (399.bmp)]")) << "the next has the focus";
 
     desktop.Hold({.control = true});
     desktop.Key('A');
     desktop.Hold({});
     folder.Remove("000.bmp");
     desktop.Key(VK_F5);
-    EXPECT_EQ("300 objects, 300 selected", Frame().GetStatus().text);
+    EXPECT_EQ("299 objects, 299 selected", Frame().GetStatus().text);
 }
 
 TEST_F(EditorTest, AFolderThatVanishedIsShownEmptyWithTheReason)
