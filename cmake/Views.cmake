@@ -4,7 +4,7 @@ add_library(views_options INTERFACE)
 target_include_directories(views_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_compile_options(views_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wimplicit-fallthrough -Werror
-    -Wno-restrict) # GCC 12 sees overlaps in concatenated std::strings that are not there
+    $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>) # GCC 12 sees overlaps in concatenated std::strings that are not there
 
 # views_library(NAME PREFIX sources...): a shared library that exports what is marked PREFIX_API
 # and does not link while a symbol is missing.

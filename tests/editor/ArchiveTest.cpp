@@ -1,5 +1,6 @@
 #include "Editor/archive/ArchiveReader.h"
 #include "Kernel/Kernel.h"
+#include "fuzz/ArchiveCheck.h"
 #include "tests/editor/ArchiveFixture.h"
 
 #include <sys/stat.h>
@@ -144,6 +145,27 @@ TEST_F(ArchiveTest, RecordsThatDoNotFitTheirArchiveAreRefused)
     for (int i = 0; i < editor::kDeepestFolder; ++i)
         deep = Record(RecordKind::Folder, "d", deep);
     EXPECT_EQ('!', Read(Sealed(deep))[0]);
+}
+
+// What the fuzzer starts from and what it has found worth keeping. Whatever is accepted is pasted, too.
+TEST_F(ArchiveTest, NoArchiveOfTheCollectionBreaksAPromiseOrLeavesTheFolder)
+{
+    folder.MakeFolder("library/Ada");
+    Open(folder.At("library"));
+    const auto pAda = Container(Library(), "Ada");
+    int nFiles = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(ARCHIVE_CORPUS)) {
+        const std::string bytes = TempFolder::ReadFile(entry.path().string());
+        ++nFiles;
+        EXPECT_EQ("", fuzz::CheckArchive(bytes)) << entry.path();
+        const auto pArchive = MakeArchive(bytes);
+        if (Read(pArchive.Get())[0] != '!')
+            Paste(pArchive.Get(), pAda.Get());
+    }
+    EXPECT_LT(10, nFiles);
+    EXPECT_LT(0u, pAda->GetCount());
+    std::filesystem::remove_all(folder.At("library/Ada"));
+    EXPECT_EQ("library/", folder.Everything());
 }
 
 TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarried)
