@@ -2,6 +2,7 @@
 
 #include "Toolkit/ole/DataCache.h"
 #include "Toolkit/window/DropSite.h"
+#include "Toolkit/window/ScrollBar.h"
 
 namespace
 {
@@ -20,14 +21,16 @@ std::shared_ptr<toolkit::DataProvider> ProviderOf(const std::shared_ptr<OfferedD
 bool ScrollBarTowards(CWnd& wnd, int nBar, int at, int extent)
 {
     SCROLLINFO info{};
-    if (!GetScrollInfo(wnd.m_hWnd, nBar, &info) || !(wnd.GetStyle() & (nBar == SB_VERT ? WS_VSCROLL : WS_HSCROLL)))
+    const bool bShown = wnd.GetStyle() & (nBar == SB_VERT ? WS_VSCROLL : WS_HSCROLL);
+    if (!bShown || !GetScrollInfo(wnd.m_hWnd, nBar, &info))
         return false;
     const bool bBack = at < toolkit::kDragScrollEdge;
     if (!bBack && at < extent - toolkit::kDragScrollEdge)
         return false;
-    const int nFormer = info.nPos;
+    if (info.nPos == (bBack ? info.nMin : toolkit::ScrollBar::LastPosition(info)))
+        return false;
     wnd.SendMessage(nBar == SB_VERT ? WM_VSCROLL : WM_HSCROLL, bBack ? SB_LINEUP : SB_LINEDOWN);
-    return GetScrollInfo(wnd.m_hWnd, nBar, &info) && info.nPos != nFormer;
+    return true;
 }
 } // namespace
 

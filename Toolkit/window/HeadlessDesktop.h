@@ -105,6 +105,7 @@ private:
     void LosePublished();
     DWORD KeyState() const; // MK_*, of a drag
     void StepDrag();        // to where the mouse is now, with the present keys
+    bool EndIfGone();
     void DropOrCancel(MouseButton button, bool down);
     void EndDrag(DROPEFFECT effect);
     void FinishDragStep();

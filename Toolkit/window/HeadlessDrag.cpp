@@ -40,8 +40,18 @@ void toolkit::HeadlessDesktop::Hold(Modifiers modifiers)
         StepDrag();
 }
 
+// Before anything else is told of it: a drag whose data is gone is over.
+bool toolkit::HeadlessDesktop::EndIfGone()
+{
+    if (m_drag->data->IsGone())
+        EndDrag(DROPEFFECT_NONE);
+    return !IsDragging();
+}
+
 void toolkit::HeadlessDesktop::StepDrag()
 {
+    if (EndIfGone())
+        return;
     RECT top{};
     GetWindowRect(m_hUnderMouse, &top);
     m_drag->tracker.MoveTo(m_hUnderMouse, m_cursorPos - CRect(top).TopLeft(), KeyState());
@@ -52,10 +62,8 @@ void toolkit::HeadlessDesktop::StepDrag()
 void toolkit::HeadlessDesktop::FinishDragStep()
 {
     Run();
-    if (!IsDragging())
+    if (!IsDragging() || EndIfGone())
         return;
-    if (m_drag->data->IsGone())
-        return EndDrag(DROPEFFECT_NONE);
     m_dragEffect = m_drag->tracker.GetEffect();
     if (m_drag->bOurs)
         ShowCursor(CursorOf(m_dragEffect));
@@ -63,6 +71,8 @@ void toolkit::HeadlessDesktop::FinishDragStep()
 
 void toolkit::HeadlessDesktop::DropOrCancel(MouseButton button, bool down)
 {
+    if (EndIfGone())
+        return;
     const bool bDrop = !down && (m_drag->dwButtons & FlagOf(button));
     if (bDrop)
         EndDrag(m_drag->tracker.Drop());

@@ -1,14 +1,24 @@
 #include "tests/support/DesktopTest.h"
 
+#include "Toolkit/base/Files.h"
+#include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/window/Menu.h"
 
-DesktopTest::DesktopTest() : m_counts(toolkit::CountWindows()), m_nGdiObjects(toolkit::CountGdiObjects()) {}
+DesktopTest::DesktopTest()
+    : m_counts(toolkit::CountWindows()), m_nGdiObjects(toolkit::CountGdiObjects()), m_nMenus(toolkit::CountMenus()),
+      m_nBlocks(toolkit::CountGlobalBlocks()), m_nFiles(toolkit::CountOpenFiles())
+{}
 
 DesktopTest::~DesktopTest()
 {
+    desktop.TakeClipboard({});
     const toolkit::WindowCounts counts = toolkit::CountWindows();
     EXPECT_EQ(m_counts.windows, counts.windows) << "windows left alive";
     EXPECT_EQ(m_counts.timers, counts.timers) << "timers left alive";
     EXPECT_EQ(m_counts.posted, counts.posted) << "messages left in the queue";
     EXPECT_EQ(m_nGdiObjects, toolkit::CountGdiObjects()) << "drawing objects left alive";
+    EXPECT_EQ(m_nMenus, toolkit::CountMenus()) << "menus left alive";
+    EXPECT_EQ(m_nBlocks, toolkit::CountGlobalBlocks()) << "blocks of memory left alive";
+    EXPECT_EQ(m_nFiles, toolkit::CountOpenFiles()) << "files left open";
 }

@@ -7,7 +7,8 @@
 #include <gtest/gtest.h>
 
 // At its end, after the members of the derived fixture have gone, the test fails for every window, timer, posted
-// message and drawing object that is alive and was not at the start.
+// message, drawing object, menu, block of global memory and open file that is alive and was not at the start. The
+// clipboard is emptied before.
 class DesktopTest : public testing::Test
 {
 protected:
@@ -18,5 +19,5 @@ protected:
 
 private:
     const toolkit::WindowCounts m_counts;
-    const int m_nGdiObjects;
+    const int m_nGdiObjects, m_nMenus, m_nBlocks, m_nFiles;
 };

@@ -1,0 +1,280 @@
+#include "Toolkit/base/Files.h"
+
+#include "tests/support/AllocationFailures.h"
+
+#include <csignal>
+#include <cstdlib>
+#include <filesystem>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+namespace fs = std::filesystem;
+
+class FilesTest : public testing::Test
+{
+protected:
+    FilesTest() { EXPECT_NE(nullptr, mkdtemp(m_folder.data())); }
+    ~FilesTest() override
+    {
+        fs::remove_all(m_folder);
+        EXPECT_EQ(0, toolkit::CountOpenFiles()) << "files left open";
+    }
+
+    std::string At(const std::string& name) const { return m_folder + "/" + name; }
+
+    static HANDLE Open(const std::string& path, DWORD access, DWORD disposition, DWORD share = 0)
+    {
+        return CreateFile(path.c_str(), access, share, nullptr, disposition,
+                          FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_NORMAL, nullptr);
+    }
+
+    static void Write(const std::string& path, const std::string& bytes)
+    {
+        const HANDLE hFile = Open(path, GENERIC_WRITE, CREATE_ALWAYS);
+        DWORD nWritten = 0;
+        EXPECT_TRUE(WriteFile(hFile, bytes.data(), static_cast<DWORD>(bytes.size()), &nWritten, nullptr));
+        EXPECT_EQ(bytes.size(), nWritten);
+        EXPECT_TRUE(CloseHandle(hFile));
+    }
+
+    static std::string Read(const std::string& path)
+    {
+        const HANDLE hFile = Open(path, GENERIC_READ, OPEN_EXISTING);
+        std::string bytes(GetFileSize(hFile, nullptr) + 1, '?');
+        DWORD nRead = 0;
+        EXPECT_TRUE(ReadFile(hFile, bytes.data(), static_cast<DWORD>(bytes.size()), &nRead, nullptr));
+        EXPECT_TRUE(CloseHandle(hFile));
+        return bytes.substr(0, nRead);
+    }
+
+    // Why the file cannot be opened; 0 when it can.
+    static DWORD WhyNot(const std::string& path, DWORD access, DWORD disposition, DWORD share = 0)
+    {
+        const HANDLE hFile = Open(path, access, disposition, share);
+        const DWORD error = GetLastError();
+        return CloseHandle(hFile) ? ERROR_SUCCESS : error;
+    }
+
+    std::string m_folder = fs::temp_directory_path() / "files-XXXXXX";
+};
+
+// Runs the check in a process of its own; what it returns is that process's exit status.
+int InAnotherProcess(const std::function<int()>& check)
+{
+    const pid_t pid = fork();
+    if (pid == 0)
+        _exit(check());
+    int status = 0;
+    waitpid(pid, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(FilesTest, AFileComesAndGoesAsTheDispositionSays)
+{
+    const std::string path = At("a");
+    EXPECT_EQ(ERROR_FILE_NOT_FOUND, WhyNot(path, GENERIC_READ, OPEN_EXISTING));
+    EXPECT_EQ(ERROR_FILE_NOT_FOUND, WhyNot(At("missing/a"), GENERIC_WRITE, CREATE_ALWAYS));
+    EXPECT_EQ(ERROR_SUCCESS, WhyNot(path, GENERIC_WRITE, CREATE_NEW));
+    EXPECT_EQ(ERROR_FILE_EXISTS, WhyNot(path, GENERIC_WRITE, CREATE_NEW));
+    Write(path, "walking");
+    EXPECT_EQ(ERROR_SUCCESS, WhyNot(path, GENERIC_WRITE, OPEN_ALWAYS));
+    EXPECT_EQ("walking", Read(path));
+    Write(path, "run");
+    EXPECT_EQ("run", Read(path));
+    EXPECT_TRUE(DeleteFile(path.c_str()));
+    EXPECT_FALSE(DeleteFile(path.c_str()));
+    EXPECT_EQ(ERROR_FILE_NOT_FOUND, GetLastError());
+}
+
+TEST_F(FilesTest, ANewFileIsItsOwnersAlone)
+{
+    const mode_t former = umask(0);
+    Write(At("a"), "secret");
+    umask(former);
+    struct stat status;
+    ASSERT_EQ(0, stat(At("a").c_str(), &status));
+    EXPECT_EQ(0600u, status.st_mode & 07777);
+}
+
+TEST_F(FilesTest, WhatIsNoOrdinaryFileIsRefusedAndNoLinkIsFollowed)
+{
+    Write(At("prey"), "precious");
+    fs::create_symlink(At("prey"), At("link"));
+    fs::create_hard_link(At("prey"), At("second name"));
+    ASSERT_EQ(0, mkfifo(At("pipe").c_str(), 0600));
+
+    for (const DWORD disposition : {CREATE_ALWAYS, OPEN_EXISTING, OPEN_ALWAYS})
+        EXPECT_EQ(ERROR_ACCESS_DENIED, WhyNot(At("link"), GENERIC_WRITE, disposition));
+    EXPECT_EQ(ERROR_FILE_EXISTS, WhyNot(At("link"), GENERIC_WRITE, CREATE_NEW));
+    EXPECT_EQ(ERROR_ACCESS_DENIED, WhyNot(At("second name"), GENERIC_WRITE, CREATE_ALWAYS));
+    EXPECT_EQ("precious", Read(At("prey")));
+    EXPECT_EQ(ERROR_ACCESS_DENIED, WhyNot(At("pipe"), GENERIC_READ, OPEN_EXISTING)); // and does not wait
+    EXPECT_EQ(ERROR_ACCESS_DENIED, WhyNot(m_folder, GENERIC_READ, OPEN_EXISTING));
+
+    EXPECT_TRUE(DeleteFile(At("link").c_str()));
+    EXPECT_TRUE(fs::exists(At("prey")));
+}
+
+TEST_F(FilesTest, AnUnsharedFileIsNobodyElses)
+{
+    const std::string path = At("a");
+    Write(path, "mine");
+    const HANDLE hFile = Open(path, GENERIC_READ, OPEN_EXISTING);
+    const auto whyNot = [&] { return static_cast<int>(WhyNot(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_SHARE_READ)); };
+    EXPECT_EQ(static_cast<int>(ERROR_SHARING_VIOLATION), whyNot());
+    EXPECT_EQ(static_cast<int>(ERROR_SHARING_VIOLATION), InAnotherProcess(whyNot));
+    EXPECT_TRUE(CloseHandle(hFile));
+    EXPECT_EQ("mine", Read(path)); // refused before it was emptied
+
+    const HANDLE hShared = Open(path, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ);
+    EXPECT_EQ(ERROR_SUCCESS, WhyNot(path, GENERIC_READ, OPEN_EXISTING, FILE_SHARE_READ));
+    EXPECT_EQ(ERROR_SHARING_VIOLATION, WhyNot(path, GENERIC_READ, OPEN_EXISTING));
+    EXPECT_TRUE(CloseHandle(hShared));
+}
+
+TEST_F(FilesTest, ALockEndsWithTheProcessThatHeldIt)
+{
+    const std::string path = At("a");
+    Write(path, "theirs");
+    int ready[2], done[2];
+    ASSERT_EQ(0, pipe(ready));
+    ASSERT_EQ(0, pipe(done));
+    const pid_t pid = fork();
+    if (pid == 0) {
+        char c = Open(path, GENERIC_READ, OPEN_EXISTING) != INVALID_HANDLE_VALUE ? '+' : '-';
+        c = write(ready[1], &c, 1) == 1 ? c : '-';
+        _exit(read(done[0], &c, 1) == 1 ? 0 : 1);
+    }
+    char c = 0;
+    ASSERT_EQ(1, read(ready[0], &c, 1));
+    EXPECT_EQ('+', c);
+    EXPECT_EQ(ERROR_SHARING_VIOLATION, WhyNot(path, GENERIC_READ, OPEN_EXISTING));
+    ASSERT_EQ(1, write(done[1], &c, 1));
+    waitpid(pid, nullptr, 0);
+    EXPECT_EQ("theirs", Read(path));
+    for (const int fd : {ready[0], ready[1], done[0], done[1]})
+        close(fd);
+}
+
+TEST_F(FilesTest, APositionMovesAndTellsWhereItIs)
+{
+    Write(At("a"), "0123456789");
+    const HANDLE hFile = Open(At("a"), GENERIC_READ | GENERIC_WRITE, OPEN_EXISTING);
+    EXPECT_EQ(7u, SetFilePointer(hFile, -3, nullptr, FILE_END));
+    char c = 0;
+    DWORD nRead = 0;
+    EXPECT_TRUE(ReadFile(hFile, &c, 1, &nRead, nullptr));
+    EXPECT_EQ('7', c);
+    EXPECT_EQ(INVALID_SET_FILE_POINTER, SetFilePointer(hFile, -1, nullptr, FILE_BEGIN));
+    EXPECT_EQ(ERROR_NEGATIVE_SEEK, GetLastError());
+    LONG high = 1;
+    EXPECT_EQ(5u, SetFilePointer(hFile, 5, &high, FILE_BEGIN)); // 4 GiB and 5
+    EXPECT_EQ(1, high);
+    EXPECT_TRUE(CloseHandle(hFile));
+
+    EXPECT_FALSE(CloseHandle(hFile));
+    EXPECT_FALSE(ReadFile(hFile, &c, 1, &nRead, nullptr));
+    EXPECT_EQ(0u, nRead);
+    EXPECT_EQ(INVALID_FILE_SIZE, GetFileSize(hFile, nullptr));
+    EXPECT_EQ(ERROR_INVALID_HANDLE, GetLastError());
+}
+
+TEST_F(FilesTest, AWriteThatFindsNoMoreRoomSaysHowFarItCame)
+{
+    const int status = InAnotherProcess([this] {
+        std::signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit{1000, 1000};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        const HANDLE hFile = Open(At("a"), GENERIC_WRITE, CREATE_NEW);
+        const std::string bytes(1500, 'x');
+        DWORD nWritten = 0;
+        const BOOL bAll = WriteFile(hFile, bytes.data(), 1500, &nWritten, nullptr);
+        return !bAll && nWritten == 1000 && GetLastError() == ERROR_FILE_TOO_LARGE ? 0 : 1;
+    });
+    EXPECT_EQ(0, status);
+}
+
+TEST_F(FilesTest, AnOpenWithoutMemoryLeavesNothingOpen)
+{
+    const std::string path = At("a");
+    EXPECT_LT(0, FailEveryAllocation([&] { CloseHandle(Open(path, GENERIC_WRITE, CREATE_ALWAYS)); }));
+}
+
+class TemporaryNameTest : public FilesTest
+{
+protected:
+    static std::string Name(const char* pszFolder)
+    {
+        char* pszName = _tempnam(pszFolder, "AE");
+        const std::string name = pszName ? pszName : "";
+        std::free(pszName);
+        return name;
+    }
+
+    TemporaryNameTest()
+    {
+        if (const char* pszFormer = std::getenv("TMPDIR"))
+            m_former = pszFormer;
+    }
+    ~TemporaryNameTest() override { m_former.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", m_former.c_str(), 1); }
+
+private:
+    std::string m_former;
+};
+
+TEST_F(TemporaryNameTest, NamesLieInTheFolderAndAreNeverTheSame)
+{
+    const std::string first = Name(m_folder.c_str()), second = Name((m_folder + "/").c_str());
+    EXPECT_EQ(m_folder, fs::path(first).parent_path());
+    EXPECT_EQ(m_folder, fs::path(second).parent_path());
+    EXPECT_EQ(0u, fs::path(first).filename().string().rfind("AE", 0));
+    EXPECT_EQ(2u + 26, fs::path(second).filename().string().size());
+    EXPECT_NE(first, second);
+}
+
+TEST_F(TemporaryNameTest, AFolderThatIsNotThereIsReplacedByTheMachinesOwn)
+{
+    setenv("TMPDIR", m_folder.c_str(), 1);
+    for (const char* pszFolder : {"", "/no/such/folder", static_cast<const char*>(nullptr)})
+        EXPECT_EQ(m_folder, fs::path(Name(pszFolder)).parent_path());
+    unsetenv("TMPDIR");
+    EXPECT_EQ("/tmp", fs::path(Name("")).parent_path());
+}
+
+TEST_F(TemporaryNameTest, TheEnvironmentIsAskedForTheSizeFirst)
+{
+    char buffer[4] = "";
+    setenv("TMPDIR", "abc", 1);
+    EXPECT_EQ(4u, GetEnvironmentVariableA("TMPDIR", buffer, 1));
+    EXPECT_EQ(3u, GetEnvironmentVariableA("TMPDIR", buffer, 4));
+    EXPECT_STREQ("abc", buffer);
+    setenv("TMPDIR", "", 1);
+    EXPECT_EQ(0u, GetEnvironmentVariableA("TMPDIR", buffer, 1));
+    EXPECT_EQ(ERROR_SUCCESS, GetLastError());
+    unsetenv("TMPDIR");
+    EXPECT_EQ(0u, GetEnvironmentVariableA("TMPDIR", buffer, 1));
+    EXPECT_EQ(ERROR_ENVVAR_NOT_FOUND, GetLastError());
+}
+
+TEST(PathTest, ASeparatorIsAppendedOnceAndWhereThereIsRoom)
+{
+    const auto added = [](std::string path) {
+        path.resize(path.size() + 2);
+        const char* pszEnd = PathAddBackslashA(path.data());
+        return pszEnd ? path.substr(0, static_cast<std::size_t>(pszEnd - path.data())) : "refused";
+    };
+    EXPECT_EQ("/tmp/", added("/tmp"));
+    EXPECT_EQ("/tmp/", added("/tmp/"));
+    EXPECT_EQ("", added(""));
+    EXPECT_EQ(4095u, added(std::string(4094, 'x')).size());
+    EXPECT_EQ("refused", added(std::string(4095, 'x')));
+}
+
+} // namespace
