@@ -91,6 +91,7 @@ protected:
         CStubRef<IAtomContainer> pContainer; // as announced; may be empty
         int nRank = 0;                       // among its siblings, while they are put in order
         State state = State::Arriving;
+        bool bUnordered = false;    // while it is filled: items were added that are not in their places yet
         bool bMembersShown = false; // the atom's members have become items, or are becoming items
     };
 
@@ -98,8 +99,8 @@ protected:
     // container is asked for its members only when ShowMembers says so, those announced below one that was not
     // asked are ignored, and whether it has a button is left to OnGetDispInfo.
     void ShowMembersOnDemand() { m_bOnDemand = true; }
-    // Members that have no item below the atom's own get one, and all stand in order. FALSE when the atom is not shown
-    // or no container. Costs n log n.
+    // Members that have no item below the atom's own get one, and all stand in order then. FALSE when the atom is not
+    // shown or no container. Costs n log n, or one look at each member when nothing is new.
     BOOL ShowMembers(IAtom* pAtom);
     bool AreMembersShown(HTREEITEM hItem) const;
 

@@ -134,8 +134,10 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEI
 // refuses, or the parent went while the host was asked for labels.
 HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
 {
-    const TREEITEMDATA* pParent = hParent == TVI_ROOT ? nullptr : RecordOf(hParent);
+    TREEITEMDATA* const pParent = hParent == TVI_ROOT ? nullptr : RecordOf(hParent);
     const bool bFilling = pParent && pParent->state == TREEITEMDATA::State::Filling;
+    if (bFilling)
+        pParent->bUnordered = true;
 
     TVINSERTSTRUCT insert{};
     insert.hParent = hParent;
@@ -173,7 +175,8 @@ BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom)
         if (pMember && (!hKnown || GetParentItem(hKnown) != hItem))
             OnCreateAtom(pMember.Get(), pMembers.Get());
     }
-    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled))
+    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled) &&
+        std::exchange(RecordOf(hItem)->bUnordered, false))
         OrderMembers(hItem);
     return TRUE;
 }
