@@ -38,6 +38,20 @@ private:
     std::vector<OBJPAIR> m_pairs;
 };
 
+// Says which atom handlers are being told of as entered, as long as it lives.
+class Entering
+{
+public:
+    Entering(IAtom*& pEntering, IAtom* pAtom) : m_pEntering(pEntering), m_pOuter(std::exchange(pEntering, pAtom)) {}
+    ~Entering() { m_pEntering = m_pOuter; }
+    Entering(const Entering&) = delete;
+    Entering& operator=(const Entering&) = delete;
+
+private:
+    IAtom*& m_pEntering;
+    IAtom* const m_pOuter;
+};
+
 } // namespace
 
 void CAtomEditor::GetInterface(DWORD id, void** out)
@@ -90,6 +104,9 @@ BOOL CAtomEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation opera
     Note(sender, operation, atom, container);
     if (operation == &IAEStateHandler::OnAtomEntered)
         return TellEntered(sender, atom, container);
+    IAEStateHandler* const pSource = operation == &IAEStateHandler::OnAtomRename ? FindSelectionSource() : nullptr;
+    if (pSource && pSource != sender)
+        return pSource->OnAtomRename(atom, container);
     return m_handlers.Call(sender, operation, atom, container);
 }
 
@@ -99,10 +116,8 @@ BOOL CAtomEditor::TellEntered(IAEStateHandler* pSender, IAtom* pAtom, IAtomConta
 {
     if (pAtom && pAtom == m_pEntering)
         return TRUE;
-    IAtom* const pOuter = std::exchange(m_pEntering, pAtom);
-    const BOOL bResult = m_handlers.Call(pSender, &IAEStateHandler::OnAtomEntered, pAtom, pContainer);
-    m_pEntering = pOuter;
-    return bResult;
+    const Entering entering(m_pEntering, pAtom);
+    return m_handlers.Call(pSender, &IAEStateHandler::OnAtomEntered, pAtom, pContainer);
 }
 
 void CAtomEditor::AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon)
@@ -150,7 +165,7 @@ void CAtomEditor::Note(IAEStateHandler* pSender, AEStateOperation operation, IAt
 
 IAEStateHandler* CAtomEditor::FindSelectionSource() const
 {
-    if (IAEStateHandler* const pFocused = m_handlers.FindByWindow(GetFocus()))
+    if (IAEStateHandler* const pFocused = m_handlers.FindByWindow(GetFocus(), GetFrameWindow()))
         return pFocused;
     return m_handlers.Contains(m_pLastSender) ? m_pLastSender : nullptr;
 }

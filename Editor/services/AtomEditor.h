@@ -25,7 +25,8 @@ protected:
 // those who show it.
 //
 // What is selected is asked of one view: the one that has the focus, else the one that announced a selection
-// last. Owned by the application, which outlives every reference.
+// last; a renaming is asked of the same one. The frame itself is no view. Owned by the application, which outlives
+// every reference.
 //
 // The editor's own IMyErrorInfo tells what the last reading or writing of an archive came to grief over, also when
 // a container did not take an object that was read; there is none when all went well.
@@ -54,7 +55,7 @@ public:
     void AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
     CMenu* CreateContextMenu() override { return nullptr; }
-    HWND GetMainWindow() override { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
+    HWND GetMainWindow() override { return GetFrameWindow(); }
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override; // stops at the first refusal
     DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
     // All of the archive is checked before its first object is handed out.
@@ -68,6 +69,7 @@ private:
     void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
     BOOL TellEntered(IAEStateHandler* pSender, IAtom* pAtom, IAtomContainer* pContainer);
     IAEStateHandler* FindSelectionSource() const;
+    HWND GetFrameWindow() const { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
     BOOL NoteArchiveError(std::string line); // FALSE when there is one
 
     HandlerRegistry m_handlers;

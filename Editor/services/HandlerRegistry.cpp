@@ -72,9 +72,9 @@ bool HandlerRegistry::Contains(IAEStateHandler* pHandler) const
                                    [&](const Registration& one) { return one.pHandler == pHandler; });
 }
 
-IAEStateHandler* HandlerRegistry::FindByWindow(HWND hWnd) const
+IAEStateHandler* HandlerRegistry::FindByWindow(HWND hWnd, HWND hEnd) const
 {
-    for (; hWnd; hWnd = GetParent(hWnd))
+    for (; hWnd && hWnd != hEnd; hWnd = GetParent(hWnd))
         for (const Registration& one : m_registrations)
             if (one.hWnd == hWnd && one.pHandler)
                 return one.pHandler;

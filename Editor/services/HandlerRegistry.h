@@ -21,7 +21,8 @@ public:
     BOOL Call(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
 
     bool Contains(IAEStateHandler* pHandler) const;
-    IAEStateHandler* FindByWindow(HWND hWnd) const; // whose window is hWnd or one of its ancestors; NULL: none
+    // Whose window is hWnd or one of its ancestors below hEnd; NULL: none.
+    IAEStateHandler* FindByWindow(HWND hWnd, HWND hEnd) const;
 
 private:
     struct Registration

@@ -47,6 +47,19 @@ private:
     LedgerBook& m_book;
 };
 
+class Frame final : public editor::PaneFrame
+{
+public:
+    explicit Frame(HWND hWnd) : m_hWnd(hWnd) {}
+
+    void AddPane(DWORD, HWND, LPCSTR, HICON) override {}
+    void RemovePane(DWORD, HWND) override {}
+    HWND GetMainWindow() const override { return m_hWnd; }
+
+private:
+    const HWND m_hWnd;
+};
+
 class AtomEditorTest : public LibraryTest
 {
 protected:
@@ -163,6 +176,15 @@ TEST_F(AtomEditorTest, TheSelectionIsThatOfTheFocusedViewElseOfTheLastToAnnounce
     EXPECT_EQ("b.bmp no", ActivePairs("b.bmp")) << "stops at a refusal";
     view.SetFocus();
     EXPECT_EQ("a.bmp yes", ActivePairs());
+    book.TakeLedger();
+    one.answer = FALSE;
+    EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr));
+    EXPECT_EQ(Ledger({"one rename"}), book.TakeLedger()) << "nobody renames in its place";
+
+    Frame frame{view.GetSafeHwnd()};
+    editor.SetFrame(&frame);
+    EXPECT_EQ("b.bmp a.bmp yes", ActivePairs()) << "the frame is no view";
+    editor.SetFrame(nullptr);
     SetFocus(nullptr);
     editor.UnregisterHandler(cookie);
     EXPECT_EQ("yes", ActivePairs());
