@@ -1,5 +1,6 @@
 #include "QtDesktop/DropArea.h"
 
+#include "QtDesktop/DropReceipt.h"
 #include "QtDesktop/OfferedMime.h"
 #include "QtDesktop/QtDrag.h"
 #include "Toolkit/window/Messages.h"
@@ -93,7 +94,7 @@ DROPEFFECT ToEffects(Qt::DropActions actions)
 // Accepted whatever the effect is: else Qt would tell of no movement that follows.
 void DropArea::Enter(QDragEnterEvent& event)
 {
-    m_tracker.emplace(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
+    m_tracker = std::make_shared<toolkit::DragTracker>(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
     event.setDropAction(ToAction(Follow(event)));
     event.accept();
 }
@@ -110,21 +111,26 @@ void DropArea::Drop(QDropEvent& event)
 {
     if (!m_tracker)
         return event.ignore();
+    const auto tracker = m_tracker;
+    const bool bOwn = dynamic_cast<const OfferedMime*>(event.mimeData());
+    DropReceipt receipt(bOwn ? QByteArray() : event.mimeData()->data(kReceiptKind));
     Follow(event);
-    const DROPEFFECT effect = m_tracker->Drop();
     m_tracker.reset();
-    if (dynamic_cast<const OfferedMime*>(event.mimeData()))
+    const DROPEFFECT effect = tracker->Drop();
+    if (bOwn)
         NoteOwnDrop(effect);
+    receipt.Send(effect);
     event.setDropAction(ToAction(effect));
     event.setAccepted(effect != DROPEFFECT_NONE);
 }
 
 DROPEFFECT DropArea::Follow(const QDropEvent& event)
 {
-    if (!m_tracker)
+    const auto tracker = m_tracker;
+    if (!tracker)
         return DROPEFFECT_NONE;
     const QPoint at = event.position().toPoint();
-    return m_tracker->MoveTo(m_hTop, {at.x(), at.y()}, KeyState(event));
+    return tracker->MoveTo(m_hTop, {at.x(), at.y()}, KeyState(event));
 }
 
 } // namespace qtdesktop

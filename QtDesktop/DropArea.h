@@ -4,11 +4,12 @@
 #include "Toolkit/window/DragTracker.h"
 
 #include <QDropEvent>
-#include <optional>
+#include <memory>
 
 namespace qtdesktop
 {
 
+// What it tells the toolkit's windows may destroy the one that it belongs to, but not the object itself.
 class DropArea
 {
 public:
@@ -23,7 +24,7 @@ private:
     DROPEFFECT Follow(const QDropEvent& event);
 
     const HWND m_hTop;
-    std::optional<toolkit::DragTracker> m_tracker; // while a drag is over the window
+    std::shared_ptr<toolkit::DragTracker> m_tracker; // while a drag is over the window
 };
 
 Qt::DropAction ToAction(DROPEFFECT effect);

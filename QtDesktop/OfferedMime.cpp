@@ -1,5 +1,7 @@
 #include "QtDesktop/OfferedMime.h"
 
+#include "QtDesktop/DropReceipt.h"
+
 namespace qtdesktop
 {
 
@@ -8,16 +10,20 @@ QStringList OfferedMime::formats() const
     QStringList formats;
     for (const std::string& kind : m_data->GetKinds())
         formats += QString::fromStdString(kind);
+    if (!m_receipt.isEmpty())
+        formats += kReceiptKind;
     return formats;
 }
 
 bool OfferedMime::hasFormat(const QString& mimeType) const
 {
-    return m_data->Has(mimeType.toStdString());
+    return formats().contains(mimeType);
 }
 
 QVariant OfferedMime::retrieveData(const QString& mimeType, QMetaType) const
 {
+    if (mimeType == QLatin1String(kReceiptKind))
+        return m_receipt;
     const auto bytes = m_data->Render(mimeType.toStdString());
     return bytes ? QVariant(QByteArray(bytes->data(), static_cast<qsizetype>(bytes->size()))) : QVariant();
 }

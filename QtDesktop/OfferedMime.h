@@ -13,7 +13,10 @@ namespace qtdesktop
 class OfferedMime : public QMimeData
 {
 public:
-    explicit OfferedMime(std::shared_ptr<toolkit::OfferedData> data) : m_data(std::move(data)) {}
+    // A receipt's address goes with the data of a drag.
+    explicit OfferedMime(std::shared_ptr<toolkit::OfferedData> data, QByteArray receipt = {})
+        : m_data(std::move(data)), m_receipt(std::move(receipt))
+    {}
 
     const std::shared_ptr<toolkit::OfferedData>& GetData() const { return m_data; }
 
@@ -25,6 +28,7 @@ protected:
 
 private:
     const std::shared_ptr<toolkit::OfferedData> m_data;
+    const QByteArray m_receipt;
 };
 
 } // namespace qtdesktop

@@ -33,6 +33,7 @@ struct QtDesktop::Parts
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
     std::map<HWND, std::unique_ptr<QtWindow>> windows;
     toolkit::Cursor cursor = toolkit::Cursor::Arrow;
+    int nDropPatience = 10'000; // milliseconds
 
     QtWindow* Find(HWND hTop) const
     {
@@ -55,6 +56,11 @@ QtDesktop::~QtDesktop()
 QWidget* QtDesktop::FindWidget(HWND hTop) const
 {
     return m_parts->Find(hTop);
+}
+
+void QtDesktop::SetDropPatience(int nMilliseconds)
+{
+    m_parts->nDropPatience = nMilliseconds;
 }
 
 DWORD QtDesktop::Ticks()
@@ -89,7 +95,9 @@ void QtDesktop::WindowPlaced(HWND hTop)
 
 void QtDesktop::WindowDestroyed(HWND hTop)
 {
-    m_parts->windows.erase(hTop);
+    auto entry = m_parts->windows.extract(hTop);
+    if (entry)
+        QtWindow::Discard(std::move(entry.mapped()));
 }
 
 void QtDesktop::Present(HWND hTop, const toolkit::Surface&, const CRect& dirty)
@@ -134,7 +142,7 @@ std::shared_ptr<toolkit::OfferedData> QtDesktop::FetchClipboard()
 
 DROPEFFECT QtDesktop::RunDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed)
 {
-    return RunQtDrag(std::move(data), allowed);
+    return RunQtDrag(std::move(data), allowed, m_parts->nDropPatience);
 }
 
 UINT QtDesktop::TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen)

@@ -26,6 +26,9 @@ public:
     // The widget that shows a top-level window; NULL for every other handle. It goes with the window.
     QWidget* FindWidget(HWND hTop) const;
 
+    // How long a drag that was dropped in another program waits to hear that the data was moved. Ten seconds at first.
+    void SetDropPatience(int nMilliseconds);
+
     DWORD Ticks() override;
     toolkit::TextEngine& GetTextEngine() override;
     void WindowCreated(HWND hTop) override;

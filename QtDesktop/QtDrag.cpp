@@ -1,6 +1,7 @@
 #include "QtDesktop/QtDrag.h"
 
 #include "QtDesktop/DropArea.h"
+#include "QtDesktop/DropReceipt.h"
 #include "QtDesktop/OfferedMime.h"
 
 #include <QBasicTimer>
@@ -40,23 +41,22 @@ private:
     QBasicTimer m_timer;
 };
 
-DROPEFFECT Believable(DROPEFFECT told)
-{
-    return told == DROPEFFECT_NONE ? DROPEFFECT_NONE : DROPEFFECT_COPY;
-}
-
 } // namespace
 
-DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed)
+DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed, int nMilliseconds)
 {
+    DropReceiver receiver;
     DragOwner owner(data);
     const auto pDrag = new QDrag(&owner);
-    pDrag->setMimeData(new OfferedMime(data));
+    pDrag->setMimeData(new OfferedMime(data, receiver.GetAddress()));
     s_ownDrop.reset();
     const Qt::DropAction told =
         pDrag->exec(ToActions(allowed), allowed & DROPEFFECT_MOVE ? Qt::MoveAction : Qt::IgnoreAction);
-    const auto own = std::exchange(s_ownDrop, std::nullopt);
-    return own ? *own : Believable(ToEffects(told));
+    if (const auto own = std::exchange(s_ownDrop, std::nullopt))
+        return *own;
+    if (told == Qt::IgnoreAction)
+        return DROPEFFECT_NONE;
+    return receiver.WaitForReceipt(nMilliseconds).value_or(DROPEFFECT_COPY);
 }
 
 void NoteOwnDrop(DROPEFFECT effect)

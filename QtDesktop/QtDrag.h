@@ -9,8 +9,9 @@
 namespace qtdesktop
 {
 
-// Runs the drag to its end. What Qt says of a drop in another program is not to be trusted: it counts as a copy.
-DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed);
+// Runs the drag to its end. A drop in another program counts as a copy, unless the program confirms within the given
+// time that it has moved the data, or refused it.
+DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed, int nMilliseconds);
 
 // The program's own drag was dropped in one of its own windows: what has become of it.
 void NoteOwnDrop(DROPEFFECT effect);

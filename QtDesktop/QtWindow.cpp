@@ -215,24 +215,40 @@ void QtWindow::keyReleaseEvent(QKeyEvent* pEvent)
         toolkit::InputKey(vkey, false, ModifiersAfter(*pEvent));
 }
 
+void QtWindow::Discard(std::unique_ptr<QtWindow> window)
+{
+    if (window->m_nDragEvents == 0)
+        return;
+    window->hide();
+    window.release()->deleteLater();
+}
+
+template <class Handle>
+void QtWindow::HandleDrag(Handle handle)
+{
+    ++m_nDragEvents;
+    handle();
+    --m_nDragEvents;
+}
+
 void QtWindow::dragEnterEvent(QDragEnterEvent* pEvent)
 {
-    m_dropArea.Enter(*pEvent);
+    HandleDrag([&] { m_dropArea.Enter(*pEvent); });
 }
 
 void QtWindow::dragMoveEvent(QDragMoveEvent* pEvent)
 {
-    m_dropArea.Move(*pEvent);
+    HandleDrag([&] { m_dropArea.Move(*pEvent); });
 }
 
 void QtWindow::dragLeaveEvent(QDragLeaveEvent*)
 {
-    m_dropArea.Leave();
+    HandleDrag([&] { m_dropArea.Leave(); });
 }
 
 void QtWindow::dropEvent(QDropEvent* pEvent)
 {
-    m_dropArea.Drop(*pEvent);
+    HandleDrag([&] { m_dropArea.Drop(*pEvent); });
 }
 
 } // namespace qtdesktop

@@ -9,6 +9,7 @@
 #include "Toolkit/window/Input.h"
 
 #include <QWidget>
+#include <memory>
 
 namespace qtdesktop
 {
@@ -22,6 +23,9 @@ public:
     void FollowPlace();               // the program moved or sized it
     void Present(const CRect& dirty); // the window's surface has new pixels
     void ShowShape(toolkit::Cursor cursor);
+
+    // The toolkit's window is gone. The widget goes at once, or after the drag event that it is handling.
+    static void Discard(std::unique_ptr<QtWindow> window);
 
 protected:
     bool event(QEvent* pEvent) override;
@@ -44,11 +48,14 @@ protected:
 
 private:
     CPoint Corner() const; // on the screen
+    template <class Handle>
+    void HandleDrag(Handle handle);
     void TellButton(const QMouseEvent& event, bool bDown);
 
     const HWND m_hTop;
     DropArea m_dropArea;
-    int m_nWheelRest = 0; // turned, but too little yet to be told
+    int m_nDragEvents = 0; // being handled
+    int m_nWheelRest = 0;  // turned, but too little yet to be told
 };
 
 } // namespace qtdesktop

@@ -1,0 +1,131 @@
+// A program with one window, to be dragged from and dropped on, copied from and pasted into. Says what happens to it,
+// a line at a time.
+//
+// Usage: drag_peer NAME X [refuse|hold]. "hold": stays inside a drop until a line comes in.
+#include "QtDesktop/QtDesktop.h"
+#include "Toolkit/ole/DataSource.h"
+#include "Toolkit/ole/DropTarget.h"
+
+#include <QApplication>
+#include <cstring>
+#include <iostream>
+#include <string>
+
+namespace
+{
+
+const CLIPFORMAT kAtoms = RegisterClipboardFormat("application/x-atoms");
+
+void Say(const std::string& line)
+{
+    std::cout << line << std::endl;
+}
+
+std::string Name(DROPEFFECT effect)
+{
+    return effect == DROPEFFECT_MOVE ? "move" : effect == DROPEFFECT_COPY ? "copy" : "none";
+}
+
+std::string Take(HGLOBAL hMem)
+{
+    const toolkit::GlobalLocker<char> bytes(hMem);
+    return bytes.Get() ? std::string(bytes.Get(), GlobalSize(hMem)) : "nothing";
+}
+
+void Fill(COleDataSource& source, const std::string& text)
+{
+    const HGLOBAL hMem = GlobalAlloc(GMEM_MOVEABLE, text.size());
+    std::memcpy(toolkit::GlobalLocker<char>(hMem).Get(), text.data(), text.size());
+    source.CacheGlobalData(kAtoms, hMem);
+}
+
+class PeerTarget : public COleDropTarget
+{
+public:
+    explicit PeerTarget(std::string mode) : m_mode(std::move(mode)) {}
+
+    DROPEFFECT OnDragOver(CWnd*, COleDataObject* pData, DWORD keys, CPoint) override
+    {
+        if (!pData->IsDataAvailable(kAtoms))
+            return DROPEFFECT_NONE;
+        return keys & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
+    }
+
+    BOOL OnDrop(CWnd*, COleDataObject* pData, DROPEFFECT effect, CPoint) override
+    {
+        Say("drop " + Name(effect) + " " + Take(pData->GetGlobalData(kAtoms)));
+        std::string line;
+        if (m_mode == "hold")
+            std::getline(std::cin, line);
+        return m_mode != "refuse";
+    }
+
+private:
+    const std::string m_mode;
+};
+
+class PeerWnd : public CWnd
+{
+public:
+    explicit PeerWnd(std::string name) : m_name(std::move(name)) {}
+
+    bool Show(int x)
+    {
+        return CreateEx(0, "", m_name.c_str(), WS_OVERLAPPED | WS_VISIBLE, CRect(x, 50, x + 200, 250), nullptr, 0);
+    }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_MOUSEMOVE && (wParam & MK_LBUTTON))
+            Drag();
+        else if (message == WM_CHAR && wParam == 'c')
+            Copy();
+        else if (message == WM_CHAR && wParam == 'v')
+            Paste();
+        else if (message == WM_CHAR && wParam == 'q')
+            QApplication::exit();
+        return CWnd::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    void Drag()
+    {
+        COleDataSource source;
+        Fill(source, "from " + m_name);
+        Say("dragged " + Name(source.DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE)));
+    }
+
+    void Copy()
+    {
+        auto pSource = std::make_unique<COleDataSource>();
+        Fill(*pSource, "from " + m_name);
+        pSource.release()->SetClipboard();
+        Say("copied");
+    }
+
+    void Paste()
+    {
+        COleDataObject object;
+        const bool bThere = object.AttachClipboard() && object.IsDataAvailable(kAtoms);
+        Say("pasted " + (bThere ? Take(object.GetGlobalData(kAtoms)) : "nothing") +
+            (COleDataSource::GetClipboardOwner() ? " (own)" : ""));
+    }
+
+    const std::string m_name;
+};
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    const QApplication application(argc, argv);
+    qtdesktop::QtDesktop desktop;
+    desktop.SetDropPatience(1500);
+    PeerWnd window(argv[1]);
+    PeerTarget target(argc > 3 ? argv[3] : "");
+    if (!window.Show(std::atoi(argv[2])) || !target.Register(&window))
+        return 1;
+    Say("ready");
+    return QApplication::exec();
+}
