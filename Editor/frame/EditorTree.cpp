@@ -11,6 +11,24 @@ namespace
 
 constexpr UINT kMostAtOnce = 10'000; // items that expanding a whole branch may bring before it reads no more
 
+// The tree takes the focus whenever its selection changes. Where that only follows what was done elsewhere, the focus
+// goes back; to the frame, which passes it on, when its window is shown no more.
+class FocusKeeper
+{
+public:
+    explicit FocusKeeper(HWND hTree) : m_hTree(hTree), m_hFocus(::GetFocus()) {}
+    ~FocusKeeper()
+    {
+        if (m_hFocus && m_hFocus != m_hTree && ::GetFocus() == m_hTree)
+            ::SetFocus(IsWindowVisible(m_hFocus) ? m_hFocus : GetTopLevel(m_hTree));
+    }
+    FocusKeeper(const FocusKeeper&) = delete;
+    FocusKeeper& operator=(const FocusKeeper&) = delete;
+
+private:
+    const HWND m_hTree, m_hFocus;
+};
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
@@ -26,6 +44,7 @@ void CEditorTree::ExpandAtom(IAtom* pAtom)
 
 BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
+    const FocusKeeper keeper(m_hWnd);
     CObjectsTree::OnDeleteAtom(pAtom, pContainer);
     if (!pAtom && pContainer && AreMembersShown(GetItem(pContainer)))
         ShowMembers(pContainer);
@@ -34,12 +53,9 @@ BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 
 BOOL CEditorTree::OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer)
 {
-    const HWND hFocus = ::GetFocus();
+    const FocusKeeper keeper(m_hWnd);
     ShowItemOf(CMember::Of(pAtom));
-    CObjectsTree::OnAtomEntered(pAtom, pContainer);
-    if (hFocus && hFocus != m_hWnd && ::GetFocus() == m_hWnd)
-        ::SetFocus(hFocus);
-    return TRUE;
+    return CObjectsTree::OnAtomEntered(pAtom, pContainer);
 }
 
 BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)

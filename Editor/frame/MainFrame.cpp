@@ -17,6 +17,7 @@ END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)
     : m_editor(editor),
+      m_commands(editor),
       m_pictures(pictures),
       m_closed(std::move(closed)),
       m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),

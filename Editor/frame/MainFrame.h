@@ -10,7 +10,7 @@
 #include "Editor/frame/Splitter.h"
 #include "Editor/frame/StatusBar.h"
 #include "Editor/model/Library.h"
-#include "Editor/services/AtomEditor.h"
+#include "Editor/services/Commands.h"
 #include "Editor/services/StateHandler.h"
 
 namespace editor
@@ -39,6 +39,16 @@ public:
     void OpenFocused(); // the list's focused row
     void Refresh();     // reads what is shown anew
     void FocusNextPane();
+    void GoTo(CMember* pMember);                      // opens it, whatever it is
+    CMember* Shown() const { return m_pShown.Get(); } // the container, or the picture shown in its place; or NULL
+    CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
+    Commands& GetCommands() { return m_commands; }
+
+    // On what is selected; nothing when nothing is. What could not be done is told in a message box.
+    void CopySelection();
+    void CutSelection();
+    void RemoveSelection(); // asks first
+    void PasteHere();
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
@@ -50,6 +60,7 @@ public:
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override; // the picture that is shown
 
 protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -62,15 +73,19 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CMember* Shown() const { return m_pShown.Get(); } // the container, or the picture shown in its place
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
-    void GoTo(CMember* pMember); // opens it, whatever it is
     void GoBackTo(CContainer* pContainer);
     void GoToPart(int nPart);                        // of the path
     bool HandleKey(HWND hWnd, UINT vkey, bool bAlt); // the window has the focus; false: the key means nothing here
     bool HandleFrameKey(UINT vkey);                  // in any pane
     bool HandleContentKey(UINT vkey);
     bool HandleTreeKey(UINT vkey);
+    bool HandleCommandKey(UINT vkey);
+    bool HandleControlKey(UINT vkey);
+    template <class Change>
+    void ChangeSelection(UINT nFailedID, Change change);
+    void LeaveWhatIsGone();
+    void ShowFailure(UINT nCaptionID, std::string reason);
     CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
     void MoveSplitter(int x);
@@ -84,6 +99,7 @@ private:
     void UpdateStatus() { m_statusBar.Invalidate(); }
 
     CAtomEditor& m_editor;
+    Commands m_commands;
     PictureStore& m_pictures;
     const std::function<void()> m_closed;
     DWORD m_dwHandlerCookie = 0;

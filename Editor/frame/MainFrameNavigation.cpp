@@ -49,7 +49,7 @@ bool CMainFrame::HandleKey(HWND hWnd, UINT vkey, bool bAlt)
     if (bAlt)
         return vkey == VK_UP && (bTree || bContent) && (GoUp(), true);
     return (bTree && HandleTreeKey(vkey)) || (bContent && HandleContentKey(vkey)) ||
-           ((bTree || bContent) && HandleFrameKey(vkey));
+           ((bTree || bContent) && (HandleFrameKey(vkey) || HandleCommandKey(vkey)));
 }
 
 bool CMainFrame::HandleFrameKey(UINT vkey)

@@ -46,6 +46,10 @@ void AddEditorResources(CResourceModule& module)
     module.AddString(IDS_TREE_PANE, "Library");
     module.AddString(IDS_RENAME_FAILED, "The name was not changed");
     module.AddString(IDS_CONFIRM_REMOVE, "Remove the selected objects?");
+    module.AddString(IDS_COPY_FAILED, "Nothing was copied");
+    module.AddString(IDS_CUT_FAILED, "Nothing was cut");
+    module.AddString(IDS_PASTE_FAILED, "Not everything was pasted");
+    module.AddString(IDS_REMOVE_FAILED, "Not everything was removed");
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
     module.AddBitmap(IDB_TREE_ITEMS,
                      WithTransparentColor(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),

@@ -12,6 +12,14 @@ inline constexpr UINT IDS_NOT_INSERTED = 0xE00B; // the tree could not take an a
 inline constexpr UINT IDS_TREE_PANE = 0xE00D;
 inline constexpr UINT IDS_RENAME_FAILED = 0xE012;
 inline constexpr UINT IDS_CONFIRM_REMOVE = 0xE013;
+
+// The editor's own.
+inline constexpr UINT IDS_COPY_FAILED = 2001;
+inline constexpr UINT IDS_CUT_FAILED = 2002;
+inline constexpr UINT IDS_PASTE_FAILED = 2003;
+inline constexpr UINT IDS_REMOVE_FAILED = 2004;
+
+// Pictures, the library's own numbers again.
 inline constexpr UINT IDB_FOLDER = 1006;     // transparent where it is pure red
 inline constexpr UINT IDB_TREE_ITEMS = 1013; // for atoms without an icon: any, and one that is expanded
 inline constexpr UINT IDR_TREE_PANE = 1007;

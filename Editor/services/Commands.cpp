@@ -1,0 +1,200 @@
+#include "Editor/services/Commands.h"
+
+#include "Editor/model/ErrorInfo.h"
+#include "Editor/services/StateHandler.h"
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/ole/DataObject.h"
+#include "Views/clipboard/clipboard.h"
+
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+constexpr const char* kNothingSelected = "nothing is selected";
+
+struct Member
+{
+    CStubRef<IAtom> pAtom;
+    CStubRef<IAtomContainer> pContainer;
+
+    bool IsThere() const { return pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE; }
+};
+using Members = std::vector<Member>;
+
+Members ActiveMembers(CAtomEditor& editor)
+{
+    Members members;
+    editor.EnumActivePairs(
+        [](IAtom* pAtom, IAtomContainer* pContainer, void* pContext) -> BOOL {
+            static_cast<Members*>(pContext)->push_back(
+                {CStubRef<IAtom>::Share(pAtom), CStubRef<IAtomContainer>::Share(pContainer)});
+            return TRUE;
+        },
+        &members);
+    return members;
+}
+
+std::string ShownName(IAtom* pAtom)
+{
+    const CMember* const pMember = CMember::Of(pAtom);
+    return pMember ? pMember->ShownName() : std::string("an object");
+}
+
+std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
+{
+    std::string line = CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pContainer).Get());
+    return line.empty() ? std::move(otherwise) : line;
+}
+
+// The reason for the first one that is still where it was; empty when none is.
+std::string WhyStillThere(const Members& members)
+{
+    for (const Member& member : members)
+        if (member.IsThere())
+            return ErrorOf(member.pContainer.Get(), ShownName(member.pAtom.Get()) + ": it cannot be removed");
+    return {};
+}
+
+// Hears which objects come into a container.
+class Arrivals final : public CStateHandler
+{
+public:
+    Arrivals(CAtomEditor& editor, IAtomContainer* pContainer)
+        : m_editor(editor), m_pContainer(pContainer), m_dwCookie(editor.RegisterHandler(nullptr, this))
+    {}
+    ~Arrivals() { m_editor.UnregisterHandler(m_dwCookie); }
+    Arrivals(const Arrivals&) = delete;
+    Arrivals& operator=(const Arrivals&) = delete;
+
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override
+    {
+        if (pContainer == m_pContainer)
+            m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
+        return TRUE;
+    }
+    const std::vector<CStubRef<IAtom>>& Get() const { return m_atoms; }
+
+private:
+    CAtomEditor& m_editor;
+    IAtomContainer* const m_pContainer;
+    std::vector<CStubRef<IAtom>> m_atoms;
+    const DWORD m_dwCookie;
+};
+
+CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
+{
+    COleDataObject data;
+    STGMEDIUM medium{};
+    if (!data.AttachClipboard() || !data.IsDataAvailable(cfAtoms)) {
+        trouble = "there are no objects on the clipboard";
+        return nullptr;
+    }
+    CStubRef<IArchive> pArchive;
+    if (data.GetData(cfAtoms, &medium)) {
+        pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
+        ReleaseStgMedium(&medium);
+    }
+    if (!pArchive)
+        trouble = "what was copied is not there any more";
+    return pArchive;
+}
+
+} // namespace
+
+int Commands::CountSelected() const
+{
+    return static_cast<int>(ActiveMembers(m_editor).size());
+}
+
+std::string Commands::RemoveQuestion() const
+{
+    const Members members = ActiveMembers(m_editor);
+    return members.size() == 1 ? "Remove \"" + ShownName(members.front().pAtom.Get()) + "\"?"
+                               : "Remove " + std::to_string(members.size()) + " objects?";
+}
+
+void Commands::Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer)
+{
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);
+    for (const CStubRef<IAtom>& pAtom : atoms)
+        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, pAtom.Get(), pContainer, 0);
+}
+
+std::string Commands::Copy()
+try {
+    if (CountSelected() == 0)
+        return kNothingSelected;
+    if (CopyObjects(FALSE))
+        return {};
+    return m_editor.GetArchiveError().empty() ? "no file can be made for it" : m_editor.GetArchiveError();
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::Cut()
+try {
+    const Members members = ActiveMembers(m_editor);
+    if (members.empty())
+        return kNothingSelected;
+    if (CopyObjects(TRUE))
+        return {};
+    if (!m_editor.GetArchiveError().empty())
+        return m_editor.GetArchiveError();
+    std::string reason = WhyStillThere(members);
+    return reason.empty() ? "no file can be made for it" : reason;
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::Remove()
+try {
+    const Members members = ActiveMembers(m_editor);
+    if (members.empty())
+        return kNothingSelected;
+    RemoveObjects(FALSE);
+    return WhyStillThere(members);
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::Paste(CContainer* pTarget)
+try {
+    std::string trouble;
+    const CStubRef<IArchive> pArchive = ArchiveOnClipboard(m_editor.GetClipboardFormat(), trouble);
+    if (!pArchive)
+        return trouble;
+    if (CheckPaste(pArchive.Get(), pTarget, FALSE) == PASTE_REFUSED) {
+        trouble = m_editor.GetArchiveError();
+        return trouble.empty() ? pTarget->ShownName() + ": it does not take these objects" : trouble;
+    }
+    const Arrivals arrivals(m_editor, pTarget);
+    const bool bRead = PasteObjects(pArchive.Get(), pTarget, FALSE) != FALSE;
+    trouble = m_editor.GetArchiveError();
+    if (!bRead && trouble.empty())
+        trouble = ErrorOf(pTarget, pTarget->ShownName() + ": it does not take all of these objects");
+    if (!arrivals.Get().empty())
+        Select(arrivals.Get(), pTarget);
+    return trouble;
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::Rename(CMember* pMember, const std::string& name)
+try {
+    const auto pContainer = CStubRef<CContainer>::Share(pMember->Container());
+    const std::string former = pMember->ShownName();
+    if (!pContainer || !CanRenameObject(pMember, pContainer.Get()))
+        return former + ": it cannot be renamed";
+    const Arrivals arrivals(m_editor, pContainer.Get());
+    if (!RenameObject(pMember, pContainer.Get(), name.c_str()))
+        return ErrorOf(pContainer.Get(), former + ": it cannot be renamed");
+    Select(arrivals.Get(), pContainer.Get());
+    return {};
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+} // namespace editor

@@ -1,0 +1,41 @@
+// What the user does to objects: copying, cutting, pasting, removing, renaming.
+#pragma once
+
+#include "Editor/model/Container.h"
+#include "Editor/services/AtomEditor.h"
+
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+// The library's commands (Views/clipboard/clipboard.h), with the reason told when something was not done: one line that
+// names the object where there is one. Empty: all of it was done.
+class Commands
+{
+public:
+    explicit Commands(CAtomEditor& editor) : m_editor(editor) {} // borrowed
+
+    int CountSelected() const; // active objects that are in a container
+    // What a removal would be asked about: 'Remove "walk.png"?'
+    std::string RemoveQuestion() const;
+
+    // These and no others become the selected members of the container, if it is shown.
+    void Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer);
+
+    // On the active objects.
+    std::string Copy();
+    std::string Cut();
+    std::string Remove(); // without asking
+
+    // What the clipboard holds is added to the container, and selected there.
+    std::string Paste(CContainer* pTarget);
+    // The object under its new name, which is another object, is selected in its container.
+    std::string Rename(CMember* pMember, const std::string& name);
+
+private:
+    CAtomEditor& m_editor;
+};
+
+} // namespace editor

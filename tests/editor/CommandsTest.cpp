@@ -1,0 +1,128 @@
+// Objects copied, cut, pasted and removed by their keys, on the disk.
+#include "Toolkit/window/MessageBox.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace
+{
+
+class CommandsTest : public EditorTest
+{
+protected:
+    CommandsTest()
+    {
+        folder.WriteBmp("Ada/a.bmp", 8, 8, 0xFF102030);
+        folder.WriteBmp("Ada/b.bmp");
+        folder.MakeFolder("Bo");
+    }
+
+    void Control(char key)
+    {
+        desktop.Hold({.control = true});
+        desktop.Key(static_cast<UINT>(key));
+        desktop.Hold({});
+        Settle();
+    }
+    void Press(UINT vkey)
+    {
+        desktop.Key(vkey);
+        Settle();
+    }
+    using Boxes = std::vector<std::string>;
+};
+
+TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
+{
+    Open();
+    Control('C');
+    Control('V');
+    EXPECT_EQ(Boxes({"Not everything was pasted: there are no objects on the clipboard"}), desktop.TakeMessageBoxes())
+        << "nothing was selected";
+
+    DoubleClick("Ada");
+    Control('A');
+    Control('C');
+    Control('V');
+    EXPECT_EQ("/Ada/ | [a.bmp b.bmp (*a (2).bmp) (b (2).bmp)] | 4 objects, 2 selected", Screen());
+    Press(VK_BACK);
+    DoubleClick("Bo");
+    Control('V');
+    EXPECT_EQ("/Bo/ | [(*a.bmp) (b.bmp)] | 2 objects, 2 selected", Screen());
+    EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
+    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+}
+
+TEST_F(CommandsTest, WhatIsCutGoesAndTheFocusStaysInItsPlace)
+{
+    folder.WriteBmp("Ada/c.bmp");
+    Open();
+    DoubleClick("Ada");
+    Click("b.bmp");
+    Control('X');
+    EXPECT_EQ("/Ada/ | [a.bmp *c.bmp] | 2 objects", Screen());
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/c.bmp Bo/", folder.Everything());
+    Press(VK_BACK);
+    DoubleClick("Bo");
+    Control('V');
+    EXPECT_EQ("/Bo/ | [(*b.bmp)] | 1 object, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/c.bmp Bo/ Bo/b.bmp", folder.Everything());
+}
+
+TEST_F(CommandsTest, RemovingAsksFirst)
+{
+    Open();
+    DoubleClick("Ada");
+    Press(VK_DELETE);
+    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+    Click("a.bmp");
+    desktop.Answer(IDNO);
+    Press(VK_DELETE);
+    EXPECT_EQ("/Ada/ | [(*a.bmp) b.bmp] | 2 objects, 1 selected | a.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ(List(), GetFocus());
+    Control('A');
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
+    EXPECT_EQ(Boxes({"Views: Remove \"a.bmp\"?", "Views: Remove 2 objects?"}), desktop.TakeMessageBoxes());
+    EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
+    EXPECT_EQ("Ada/ Bo/", folder.Everything());
+}
+
+TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
+{
+    Open();
+    DoubleClick("Ada");
+    DoubleClick("a.bmp");
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
+    EXPECT_EQ("/Ada/b.bmp/ | picture |  | b.bmp: 8 x 8 pixels", Screen()) << "on to the next one";
+    EXPECT_EQ(Frame().GetPictureView().m_hWnd, GetFocus());
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
+    EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
+    EXPECT_EQ(List(), GetFocus());
+    Press(VK_F6);
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
+    EXPECT_EQ("/Bo/ | [] | 0 objects", Screen());
+    EXPECT_EQ("Bo/", folder.Everything());
+}
+
+TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
+{
+    folder.Write("Ada/walk.phase", "a.bmp\n");
+    folder.MakeFolder("Ada/Poses");
+    Open();
+    DoubleClick("Ada");
+    Click("b.bmp");
+    folder.Remove("Ada/b.bmp");
+    Control('C');
+    EXPECT_EQ(Boxes({"Nothing was copied: b.bmp: no such file or directory"}), desktop.TakeMessageBoxes());
+    Click("Poses");
+    Control('C');
+    DoubleClick("walk.phase");
+    Control('V');
+    EXPECT_EQ(Boxes({"Not everything was pasted: walk.phase: it does not take these objects"}),
+              desktop.TakeMessageBoxes());
+    EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
+}
+
+} // namespace
