@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 class IAtomEditor;
@@ -135,13 +136,14 @@ private:
     TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
     HELDPAIR HoldPair(HTREEITEM hItem) const;
     std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
+    std::unordered_set<IAtom*> AtomsBelow(HTREEITEM hItem) const; // right below
 
     bool IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const; // an item is within its own branch
     bool TakesMember(HTREEITEM hParent, IAtom* pAtom) const;
     HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent);
     HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
     void MapItem(IAtom* pAtom, HTREEITEM hItem);
-    BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom);
+    BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>& shown);
     bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
 
     RecordHolder TakeRecord(HTREEITEM hItem);

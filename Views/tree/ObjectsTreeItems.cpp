@@ -55,6 +55,16 @@ std::vector<HTREEITEM> CObjectsTree::ChildrenOf(HTREEITEM hItem) const
     return children;
 }
 
+std::unordered_set<IAtom*> CObjectsTree::AtomsBelow(HTREEITEM hItem) const
+{
+    std::unordered_set<IAtom*> atoms;
+    for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild)) {
+        if (const TREEITEMDATA* pRecord = RecordOf(hChild))
+            atoms.insert(pRecord->pAtom.Get());
+    }
+    return atoms;
+}
+
 bool CObjectsTree::IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const
 {
     while (hItem && hItem != hBranch)
@@ -77,14 +87,19 @@ BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!hItem)
         return FALSE;
     if (!m_bOnDemand)
-        AddMembers(hItem, pAtom);
+        AddMembers(hItem, pAtom, {});
     return TRUE;
 }
 
 BOOL CObjectsTree::ShowMembers(IAtom* pAtom)
 {
     const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
-    return hItem && AddMembers(hItem, pAtom);
+    try {
+        return hItem && AddMembers(hItem, pAtom, AtomsBelow(hItem));
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return FALSE;
+    }
 }
 
 bool CObjectsTree::AreMembersShown(HTREEITEM hItem) const
@@ -161,18 +176,17 @@ void CObjectsTree::MapItem(IAtom* pAtom, HTREEITEM hItem)
     }
 }
 
-// Whoever asks for them again keeps the items that are there.
-BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom)
+// But for those that have an item there already.
+BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>& shown)
 {
     const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
     if (!pMembers || !Advance(hItem, TREEITEMDATA::State::Settled, TREEITEMDATA::State::Filling))
         return FALSE;
-    const bool bAgain = std::exchange(RecordOf(hItem)->bMembersShown, true);
+    RecordOf(hItem)->bMembersShown = true;
     for (UINT i = 0; i < pMembers->GetCount(); ++i) {
         CStubRef<IAtom> pMember;
         pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
-        const HTREEITEM hKnown = bAgain ? GetItem(pMember.Get()) : nullptr;
-        if (pMember && (!hKnown || GetParentItem(hKnown) != hItem))
+        if (pMember && !shown.contains(pMember.Get()))
             OnCreateAtom(pMember.Get(), pMembers.Get());
     }
     if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled) &&

@@ -83,6 +83,28 @@ TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCou
     EXPECT_EQ(1, a->CountReferences());
 }
 
+TEST_F(TreeItemsTest, OnDemandMembersComeWhenTheyAreAskedForAndThenOnlyTheNewOnes)
+{
+    FakeContainer* const pBox = MakeBox("box", {"b", "a"});
+    FakeContainer* const pOther = MakeBox("other", {});
+    pOther->members.push_back(AtomRef::Share(pBox->Named("a")));
+    ProbeTree& tree = MakeTree();
+    tree.ShowMembersOnDemand();
+    tree.OnCreateAtom(world.Get(), nullptr);
+    EXPECT_FALSE(tree.OnCreateAtom(pBox, world.Get()));
+    EXPECT_EQ("world", tree.State());
+    for (FakeContainer* const pContainer : {static_cast<FakeContainer*>(world.Get()), pBox, pOther})
+        EXPECT_TRUE(tree.ShowMembers(pContainer));
+    EXPECT_EQ("world [box [a b] other [a]]", tree.State());
+
+    pBox->Add("A new one");
+    EXPECT_TRUE(tree.ShowMembers(pBox)); // though the item that counts for a is the other one
+    EXPECT_EQ("world [box [a A new one b] other [a]]", tree.State());
+    EXPECT_FALSE(tree.ShowMembers(pBox->Named("b")));
+    Remove(tree, pBox);
+    EXPECT_EQ("world [other]", tree.State());
+}
+
 TEST_F(TreeItemsTest, AnItemThatTheControlRefusesIsReportedAndNothingIsKept)
 {
     const auto pAtom = AtomRef::Adopt(new FakeAtom("a"));
