@@ -1,5 +1,7 @@
 #include "Editor/CommandLine.h"
 
+#include "Editor/script/Script.h"
+
 #include <charconv>
 #include <filesystem>
 
@@ -33,6 +35,8 @@ public:
     {
         while (m_line.error.empty() && m_next < m_arguments.size())
             TakeArgument(m_arguments[m_next++]);
+        if (m_line.error.empty() && !m_line.script.empty() && !m_line.screenshot.empty())
+            m_line.error = "--screenshot: within --script the command screenshot writes pictures";
         return m_line;
     }
 
@@ -53,6 +57,8 @@ private:
             m_line.help = true;
         else if (option == "--screenshot")
             m_line.screenshot = TakeOperand(option, "the name of the picture to write");
+        else if (option == "--script")
+            m_line.script = TakeOperand(option, "the name of the file with the commands");
         else if (option == "--size")
             TakeSize(TakeOperand(option, "WIDTHxHEIGHT"));
         else
@@ -109,8 +115,11 @@ std::string CommandLineHelp()
            "\n"
            "  [FOLDER]                 open FOLDER; the sample library without one\n"
            "  --screenshot PNG         write a picture of the window to the file PNG and end\n"
+           "  --script FILE            run the commands in FILE (- for the standard input), without a window, and end\n"
            "  --size WIDTHxHEIGHT      the window's size in pixels; 960x640 without it\n"
-           "  --help                   show this text and end\n";
+           "  --help                   show this text and end\n"
+           "\n" +
+           ScriptHelp();
 }
 
 } // namespace editor

@@ -76,6 +76,11 @@ HWND EditorApp::GetMainWindow() const
     return m_parts->pFrame ? m_parts->pFrame->GetSafeHwnd() : nullptr;
 }
 
+CMainFrame* EditorApp::GetFrame() const
+{
+    return GetMainWindow() ? m_parts->pFrame.get() : nullptr;
+}
+
 void EditorApp::WaitUntilSettled()
 {
     for (toolkit::RunPendingMessages(); !m_parts->pPictures->IsIdle(); toolkit::RunPendingMessages())

@@ -10,6 +10,8 @@
 namespace editor
 {
 
+class CMainFrame;
+
 class EditorApp
 {
 public:
@@ -31,7 +33,8 @@ public:
     // shown; else one line that names the folder and the reason, and nothing has changed.
     std::string OpenFolder(const std::string& path);
 
-    HWND GetMainWindow() const; // NULL before the first folder and after the frame was closed
+    HWND GetMainWindow() const;   // NULL before the first folder and after the frame was closed
+    CMainFrame* GetFrame() const; // the same
 
     // Runs the queue until every picture in sight is decoded and painted.
     void WaitUntilSettled();

@@ -1,7 +1,8 @@
 // The reference editor's program.
 //
 // Shows a folder in a window. Without a display, or when a picture is asked for, it renders the same window into a
-// PNG file and ends. Exit status 2, after one line that says why, when nothing could be shown.
+// PNG file and ends; or it runs a script and ends. Exit status 2, after one line that says why, when nothing could be
+// shown; 1 when a command of a script failed.
 #include "Editor/CommandLine.h"
 #include "Editor/EditorApp.h"
 #include "Editor/app/Display.h"
@@ -9,7 +10,10 @@
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
 #include "Editor/model/FileText.h"
+#include "Editor/script/Script.h"
+#include "Editor/script/ScriptFile.h"
 #include "QtDesktop/QtDesktop.h"
+#include "Toolkit/window/MessageBox.h"
 
 #include <QApplication>
 #include <cstdio>
@@ -17,6 +21,7 @@
 namespace
 {
 
+constexpr int kCommandFailed = 1;
 constexpr int kNothingShown = 2;
 
 int Refuse(const std::string& reason)
@@ -41,6 +46,43 @@ int Show(QApplication& application, const editor::CommandLine& line)
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     return application.exec();
+}
+
+std::string WriteScreenshot(QWidget& window, const std::string& path)
+{
+    editor::Screenshot screenshot(path);
+    if (screenshot.GetError().empty())
+        screenshot.Write(window);
+    return screenshot.GetError();
+}
+
+// Nobody is there to answer a question, and what went wrong the commands tell themselves.
+class UnattendedDesktop : public qtdesktop::QtDesktop
+{
+public:
+    int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT nType) override { return nType & MB_YESNO ? IDNO : IDOK; }
+};
+
+int RunScript(const editor::CommandLine& line)
+{
+    std::string text;
+    if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
+        return Refuse(reason);
+    const editor::QtPictureReader reader;
+    UnattendedDesktop desktop;
+    editor::EditorApp editor(reader, {.size = line.size, .onClosed = {}});
+    if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
+        return Refuse(error);
+    QCoreApplication::processEvents(); // the window takes its place
+    editor::Script script(editor, {.print = [](const std::string& name) { std::printf("%s\n", name.c_str()); },
+                                   .takeScreenshot =
+                                       [&](const std::string& path) {
+                                           return WriteScreenshot(*desktop.FindWidget(editor.GetMainWindow()), path);
+                                       }});
+    const std::string failure = script.Run(line.script, text);
+    if (!failure.empty())
+        std::fprintf(stderr, "%s\n", failure.c_str());
+    return failure.empty() ? 0 : kCommandFailed;
 }
 
 int TakeScreenshot(const editor::CommandLine& line, const std::string& trouble)
@@ -77,7 +119,8 @@ int main(int argc, char* argv[])
     if (line.folder.empty())
         line.folder = editor::DefaultFolder();
 
-    const editor::Display display = line.screenshot.empty() ? editor::FindDisplay() : editor::Display();
+    const bool bWindow = line.screenshot.empty() && line.script.empty();
+    const editor::Display display = bWindow ? editor::FindDisplay() : editor::Display();
     const std::string platform = display.usable ? display.platform : "offscreen";
     if (!platform.empty())
         qputenv("QT_QPA_PLATFORM", platform.c_str());
@@ -85,5 +128,7 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     application.setApplicationName("Views");
     application.setQuitOnLastWindowClosed(false); // the editor tells when it is closed
+    if (!line.script.empty())
+        return RunScript(line);
     return display.usable ? Show(application, line) : TakeScreenshot(line, display.trouble);
 }

@@ -35,7 +35,8 @@ public:
     CPictureView& GetPictureView() { return m_picture; }
     Status GetStatus() const; // what the status bar says
 
-    void GoUp();        // nothing at the top
+    void GoUp(); // nothing at the top
+    void GoToTop();
     void OpenFocused(); // the list's focused row
     void Refresh();     // reads what is shown anew
     void FocusNextPane();
@@ -44,7 +45,12 @@ public:
     CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
     Commands& GetCommands() { return m_commands; }
 
-    // On what is selected; nothing when nothing is. What could not be done is told in a message box.
+    // The commands that change what is shown; nothing is asked, and the answer is the reason for what was not done.
+    std::string Cut();
+    std::string Remove();
+    std::string Paste(); // into the container that is shown
+
+    // The same by their keys: nothing when nothing is selected. A message box tells what was not done.
     void CopySelection();
     void CutSelection();
     void RemoveSelection(); // asks first
@@ -83,7 +89,7 @@ private:
     bool HandleCommandKey(UINT vkey);
     bool HandleControlKey(UINT vkey);
     template <class Change>
-    void ChangeSelection(UINT nFailedID, Change change);
+    std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();
     void ShowFailure(UINT nCaptionID, std::string reason);
     CPane* PaneOfKind(DWORD kind); // NULL: none

@@ -72,7 +72,7 @@ void CMainFrame::CopySelection()
 void CMainFrame::CutSelection()
 {
     if (m_commands.CountSelected() > 0)
-        ChangeSelection(IDS_CUT_FAILED, [this] { return m_commands.Cut(); });
+        ShowFailure(IDS_CUT_FAILED, Cut());
 }
 
 void CMainFrame::RemoveSelection()
@@ -83,30 +83,44 @@ void CMainFrame::RemoveSelection()
     const int nAnswer = AfxMessageBox(m_commands.RemoveQuestion().c_str(), MB_YESNO | MB_ICONQUESTION);
     ::SetFocus(hFocus);
     if (nAnswer == IDYES)
-        ChangeSelection(IDS_REMOVE_FAILED, [this] { return m_commands.Remove(); });
+        ShowFailure(IDS_REMOVE_FAILED, Remove());
 }
 
 void CMainFrame::PasteHere()
 {
+    ShowFailure(IDS_PASTE_FAILED, Paste());
+}
+
+std::string CMainFrame::Cut()
+{
+    return ChangeSelection([this] { return m_commands.Cut(); });
+}
+
+std::string CMainFrame::Remove()
+{
+    return ChangeSelection([this] { return m_commands.Remove(); });
+}
+
+std::string CMainFrame::Paste()
+{
     const auto pTarget = CStubRef<CContainer>::Share(ShownContainer());
-    if (!pTarget)
-        return;
-    ShowFailure(IDS_PASTE_FAILED, m_commands.Paste(pTarget.Get()));
+    std::string reason = m_commands.Paste(pTarget.Get());
     m_list.FocusSelection();
+    return reason;
 }
 
 // The list loads its rows anew: the user goes on where the selection was.
 template <class Change>
-void CMainFrame::ChangeSelection(UINT nFailedID, Change change)
+std::string CMainFrame::ChangeSelection(Change change)
 {
     const auto pShown = CStubRef<CMember>::Share(Shown());
     const CEditorList::State state = m_list.Remember();
-    const std::string reason = change();
+    std::string reason = change();
     LeaveWhatIsGone();
     if (Shown() == pShown.Get() && !IsPictureShown())
         m_list.Restore(state);
     UpdateStatus();
-    ShowFailure(nFailedID, reason);
+    return reason;
 }
 
 // For the innermost container that is still there.

@@ -10,6 +10,11 @@ void CMainFrame::GoUp()
         GoBackTo(Shown()->Container());
 }
 
+void CMainFrame::GoToTop()
+{
+    GoTo(m_pLibrary.Get());
+}
+
 void CMainFrame::OpenFocused()
 {
     const CStubRef<IAtom> pAtom = m_list.GetAtom(m_list.GetFocusedRow());

@@ -29,6 +29,7 @@ protected:
         m_environment.remove("WAYLAND_DISPLAY");
         m_environment.remove("QT_QPA_PLATFORM");
         m_environment.insert("TMPDIR", m_folder.path());
+        m_environment.insert("TEMP", m_folder.path());
     }
 
     Outcome Run(const QStringList& arguments)
@@ -105,4 +106,21 @@ TEST_F(ProgramTest, WithoutADisplayThePictureIsInAFileOfItsOwn)
         EXPECT_EQ(QSize(960, 640), QImage(path).size());
         QFile::remove(path);
     }
+}
+
+TEST_F(ProgramTest, AScriptRunsWithoutAWindowAndItsStatusTells)
+{
+    QFile file(Path("script.txt"));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("list\nselect red.png\ncopy\nenter empty\npaste\nlist\nscreenshot \"" + Path("out.png").toUtf8() +
+               "\"\nfly\n");
+    file.close();
+    const Outcome outcome = Run({"--script", file.fileName(), "--size", "500x400", Path("library")});
+    EXPECT_EQ("empty\nred.png\nred.png\n", outcome.out);
+    EXPECT_EQ(Text(file.fileName()) + ":8: fly: unknown command\n", outcome.err);
+    EXPECT_EQ(1, outcome.status);
+    EXPECT_EQ(QSize(500, 400), QImage(Path("out.png")).size());
+    EXPECT_TRUE(QFile::exists(Path("library/empty/red.png")));
+    EXPECT_EQ(QStringList(), QDir(m_folder.path()).entryList({"AE*"})) << "no transfer file is left";
+    ExpectRefusal({"--script", Path("none"), Path("library")}, Text(Path("none")) + ": no such file or directory");
 }

@@ -16,6 +16,8 @@ std::string Describe(const std::vector<std::string>& arguments)
     if (line.help)
         return "help";
     std::string text = "[" + line.folder + "] " + std::to_string(line.size.cx) + "x" + std::to_string(line.size.cy);
+    if (!line.script.empty())
+        text += " by " + line.script;
     return line.screenshot.empty() ? text : text + " into " + line.screenshot;
 }
 
@@ -25,6 +27,7 @@ TEST(CommandLineTest, TheFolderAndTheOptionsComeInAnyOrder)
     EXPECT_EQ("[pictures] 960x640", Describe({"pictures"}));
     EXPECT_EQ("[pictures] 800x600 into out.png",
               Describe({"--screenshot", "out.png", "pictures", "--size", "800x600"}));
+    EXPECT_EQ("[pictures] 960x640 by -", Describe({"--script", "-", "pictures"}));
     EXPECT_EQ("[--size] 960x640", Describe({"--", "--size"}));
     EXPECT_EQ("help", Describe({"pictures", "--help"}));
 }
@@ -33,6 +36,9 @@ TEST(CommandLineTest, WhatIsWrongGivesOneLineThatNamesIt)
 {
     EXPECT_EQ("error --colour: unknown option; --help tells the known ones", Describe({"--colour", "red"}));
     EXPECT_EQ("error --screenshot: the name of the picture to write is missing", Describe({"--screenshot"}));
+    EXPECT_EQ("error --script: the name of the file with the commands is missing", Describe({"--script"}));
+    EXPECT_EQ("error --screenshot: within --script the command screenshot writes pictures",
+              Describe({"--script", "-", "--screenshot", "out.png"}));
     EXPECT_EQ("error --size: WIDTHxHEIGHT is missing", Describe({"--size", ""}));
     EXPECT_EQ("error b: only one folder can be opened", Describe({"a", "b"}));
     EXPECT_EQ("error the folder's name is empty", Describe({""}));

@@ -1,0 +1,197 @@
+#include "Editor/script/Script.h"
+
+#include "Editor/frame/MainFrame.h"
+#include "Editor/model/FileText.h"
+#include "Editor/script/Words.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace editor
+{
+namespace
+{
+
+constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
+
+} // namespace
+
+const Script::Command Script::kCommands[] = {
+    {"open", 1, 1, &Script::Open},
+    {"enter", 1, 1, &Script::Enter},
+    {"select", 0, kAny, &Script::Select},
+    {"copy", 0, 0, &Script::Copy},
+    {"cut", 0, 0, &Script::Cut},
+    {"paste", 0, 0, &Script::Paste},
+    {"delete", 0, 0, &Script::Delete},
+    {"rename", 2, 2, &Script::Rename},
+    {"list", 0, 0, &Script::List},
+    {"refresh", 0, 0, &Script::Refresh},
+    {"screenshot", 1, 1, &Script::TakeScreenshot},
+};
+
+std::string ScriptHelp()
+{
+    return "A script has one command a line. Names with blanks stand in \"double quotes\"; # begins a remark.\n"
+           "\n"
+           "  open FOLDER        show another folder as the library\n"
+           "  enter PATH         open what lies there: from what is shown, or with / in front from the library;\n"
+           "                     .. leads up\n"
+           "  select [NAME...]   select these objects and no others; * selects all, and nothing at all none\n"
+           "  copy, cut, delete  the selected objects; nothing is asked\n"
+           "  paste              what was copied or cut, into what is shown\n"
+           "  rename NAME NEW    give an object another name\n"
+           "  refresh            read what is shown anew\n"
+           "  list               print the names of the objects that are shown\n"
+           "  screenshot PNG     write a picture of the window\n";
+}
+
+std::string Script::Run(const std::string& name, std::string_view text)
+{
+    for (int nLine = 1; !text.empty(); ++nLine) {
+        const std::size_t end = std::min(text.find('\n'), text.size());
+        const std::string reason = RunLine(text.substr(0, end));
+        if (!reason.empty())
+            return ToShown(name) + ':' + std::to_string(nLine) + ": " + ToShown(reason);
+        text.remove_prefix(std::min(end + 1, text.size()));
+    }
+    return {};
+}
+
+std::string Script::RunLine(std::string_view line)
+{
+    Words words;
+    std::string trouble;
+    if (!SplitWords(line, words, trouble) || words.empty())
+        return trouble;
+    const std::string command = words.front();
+    words.erase(words.begin());
+    const auto known = std::find_if(std::begin(kCommands), std::end(kCommands),
+                                    [&](const Command& one) { return command == one.pszName; });
+    if (known == std::end(kCommands))
+        return command + ": unknown command";
+    if (words.size() < known->nLeast)
+        return command + ": something is missing behind it";
+    if (words.size() > known->nMost)
+        return command + ": there is too much behind it";
+    const std::string reason = (this->*known->run)(words);
+    m_app.WaitUntilSettled();
+    return reason.empty() ? reason : command + ": " + reason;
+}
+
+CMainFrame& Script::Frame() const
+{
+    return *m_app.GetFrame();
+}
+
+std::string Script::Find(const std::string& name, CStubRef<CMember>& pFound) const
+{
+    CContainer* const pContainer = Frame().ShownContainer();
+    CStubRef<IAtom> pAtom;
+    pContainer->FindAtom(name.c_str(), pAtom.Receive(), IID_IAtom);
+    pFound = CStubRef<CMember>::Share(CMember::Of(pAtom.Get()));
+    return pFound ? std::string() : name + ": not in " + pContainer->ShownName();
+}
+
+std::string Script::Open(const Words& words)
+{
+    return m_app.OpenFolder(words[0]);
+}
+
+std::string Script::Enter(const Words& words)
+{
+    std::string_view path = words[0];
+    if (path.starts_with('/'))
+        Frame().GoToTop();
+    while (!path.empty()) {
+        const std::size_t end = std::min(path.find('/'), path.size());
+        if (std::string reason = EnterOne(std::string(path.substr(0, end))); !reason.empty())
+            return reason;
+        path.remove_prefix(std::min(end + 1, path.size()));
+    }
+    return {};
+}
+
+std::string Script::EnterOne(const std::string& part)
+{
+    if (part.empty() || part == ".")
+        return {};
+    if (part == "..") {
+        if (!Frame().Shown()->Container())
+            return "nothing is above the library";
+        Frame().GoUp();
+        return {};
+    }
+    CStubRef<CMember> pMember;
+    std::string reason = Find(part, pMember);
+    if (reason.empty())
+        Frame().GoTo(pMember.Get());
+    return reason;
+}
+
+std::string Script::Select(const Words& words)
+{
+    if (words.size() == 1 && words[0] == "*") {
+        Frame().GetList().SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+        return {};
+    }
+    std::vector<CStubRef<IAtom>> atoms;
+    for (const std::string& name : words) {
+        CStubRef<CMember> pMember;
+        if (std::string reason = Find(name, pMember); !reason.empty())
+            return reason;
+        atoms.push_back(CStubRef<IAtom>::Share(pMember.Get()));
+    }
+    Frame().GetCommands().Select(atoms, Frame().ShownContainer());
+    Frame().GetList().FocusSelection();
+    return {};
+}
+
+std::string Script::Copy(const Words&)
+{
+    return Frame().GetCommands().Copy();
+}
+
+std::string Script::Cut(const Words&)
+{
+    return Frame().Cut();
+}
+
+std::string Script::Paste(const Words&)
+{
+    return Frame().Paste();
+}
+
+std::string Script::Delete(const Words&)
+{
+    return Frame().Remove();
+}
+
+std::string Script::Rename(const Words& words)
+{
+    CStubRef<CMember> pMember;
+    std::string reason = Find(words[0], pMember);
+    return reason.empty() ? Frame().GetCommands().Rename(pMember.Get(), words[1]) : reason;
+}
+
+std::string Script::List(const Words&)
+{
+    CEditorList& list = Frame().GetList();
+    for (int i = 0, count = list.GetItemCount(); i < count; ++i)
+        if (const CMember* const pMember = CMember::Of(list.GetAtom(i).Get()))
+            m_outside.print(pMember->ShownName());
+    return {};
+}
+
+std::string Script::Refresh(const Words&)
+{
+    Frame().Refresh();
+    return {};
+}
+
+std::string Script::TakeScreenshot(const Words& words)
+{
+    return m_outside.takeScreenshot(words[0]);
+}
+
+} // namespace editor
