@@ -1,16 +1,18 @@
 // The stream that the service "ConstructMemoryStream" gives.
 #pragma once
 
+#include "Editor/archive/MemoryBlock.h"
 #include "Views/host/host.h"
-
-#include <cstddef>
 
 namespace editor
 {
 
-// Memory is taken from the system page by page as it is written to, and large blocks grow without being copied. Bytes
-// that the stream grows by are zero. A stream that cannot grow has lost its bytes: its length is 0 and GetData gives
-// NULL until its end is set anew.
+// Memory is taken from the system page by page as it is written to, and large blocks grow without being copied. What
+// the bytes are that the stream grows by is not said. A stream that cannot grow has lost its bytes: its length is 0 and
+// GetData gives NULL until its end is set anew.
+//
+// The block of the last stream that went is kept for the next one (what is copied is pasted, as a rule), but on loan:
+// the system takes its pages back when it needs them.
 class CMemoryStream final : public IMemoryStream
 {
 public:
@@ -28,13 +30,10 @@ public:
 private:
     ~CMemoryStream();
 
-    bool Reserve(std::size_t bytes);
     void Fail();
 
-    std::byte* m_pBytes = nullptr;
-    std::size_t m_nCapacity = 0;
+    MemoryBlock m_block;
     DWORD m_dwLength = 0;
-    DWORD m_dwUsed = 0; // the greatest length so far: what lies beyond has never been written to
     DWORD m_dwPosition = 0;
     bool m_bFailed = false;
     int m_nRefs = 1;
