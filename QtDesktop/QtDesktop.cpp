@@ -129,6 +129,12 @@ void QtDesktop::ShowCursor(toolkit::Cursor cursor)
         pWindow->ShowShape(cursor);
 }
 
+void QtDesktop::TextInputChanged()
+{
+    for (const auto& [hTop, pWindow] : m_parts->windows)
+        pWindow->FollowTextInput();
+}
+
 void QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)
 {
     if (m_parts->pClipboard)

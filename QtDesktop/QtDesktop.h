@@ -40,6 +40,7 @@ public:
     void WakeFromThread() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(toolkit::Cursor cursor) override;
+    void TextInputChanged() override;
     UINT TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen) override;
     void PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;
     std::shared_ptr<toolkit::OfferedData> FetchClipboard() override;

@@ -1,8 +1,11 @@
 #include "QtDesktop/QtWindow.h"
 
+#include "QtDesktop/InputMethod.h"
 #include "QtDesktop/Keys.h"
 #include "Toolkit/window/WindowApi.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QWheelEvent>
@@ -163,8 +166,11 @@ void QtWindow::mouseReleaseEvent(QMouseEvent* pEvent)
     TellButton(*pEvent, false);
 }
 
+// A press goes elsewhere than what is being composed, which is finished first.
 void QtWindow::TellButton(const QMouseEvent& event, bool bDown)
 {
+    if (bDown && m_hComposing)
+        QGuiApplication::inputMethod()->commit();
     const auto it = std::find_if(std::begin(kButtons), std::end(kButtons),
                                  [&event](const auto& pair) { return pair.first == event.button(); });
     if (it != std::end(kButtons))
@@ -229,6 +235,31 @@ void QtWindow::HandleDrag(Handle handle)
     ++m_nDragEvents;
     handle();
     --m_nDragEvents;
+}
+
+void QtWindow::FollowTextInput()
+{
+    const std::optional<toolkit::TextInputState> state = FindTextInput(m_hTop);
+    if (m_hComposing && (!state || state->hWnd != m_hComposing)) {
+        m_hComposing = nullptr;
+        QGuiApplication::inputMethod()->reset(); // it was meant for the field that has lost the focus
+    }
+    setAttribute(Qt::WA_InputMethodEnabled, state.has_value());
+    if (state)
+        updateMicroFocus();
+}
+
+void QtWindow::inputMethodEvent(QInputMethodEvent* pEvent)
+{
+    const bool bComposing = TakeInputMethod(m_hTop, *pEvent);
+    const std::optional<toolkit::TextInputState> state = FindTextInput(m_hTop);
+    m_hComposing = bComposing && state ? state->hWnd : nullptr;
+}
+
+QVariant QtWindow::inputMethodQuery(Qt::InputMethodQuery query) const
+{
+    const QVariant answer = AnswerInputMethod(m_hTop, query);
+    return answer.isValid() ? answer : QWidget::inputMethodQuery(query);
 }
 
 void QtWindow::dragEnterEvent(QDragEnterEvent* pEvent)

@@ -1,7 +1,8 @@
 // The widget that shows one top-level window of the toolkit.
 //
 // Draws the window's surface, a pixel of it to a logical pixel of the screen, and hands the user's input to the
-// toolkit's queue. Nothing here calls into the toolkit's windows but to ask for their state.
+// toolkit's queue. Nothing here calls into the toolkit's windows but to ask for their state, and to show what an input
+// method is composing.
 #pragma once
 
 #include "QtDesktop/DropArea.h"
@@ -23,6 +24,9 @@ public:
     void FollowPlace();               // the program moved or sized it
     void Present(const CRect& dirty); // the window's surface has new pixels
     void ShowShape(toolkit::Cursor cursor);
+    void FollowTextInput(); // another field has the focus, or its text or caret is new
+
+    QVariant inputMethodQuery(Qt::InputMethodQuery query) const override;
 
     // The toolkit's window is gone. The widget goes at once, or after the drag event that it is handling.
     static void Discard(std::unique_ptr<QtWindow> window);
@@ -41,6 +45,7 @@ protected:
     void leaveEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
+    void inputMethodEvent(QInputMethodEvent* pEvent) override;
     void dragEnterEvent(QDragEnterEvent* pEvent) override;
     void dragMoveEvent(QDragMoveEvent* pEvent) override;
     void dragLeaveEvent(QDragLeaveEvent* pEvent) override;
@@ -54,8 +59,9 @@ private:
 
     const HWND m_hTop;
     DropArea m_dropArea;
-    int m_nDragEvents = 0; // being handled
-    int m_nWheelRest = 0;  // turned, but too little yet to be told
+    int m_nDragEvents = 0;       // being handled
+    HWND m_hComposing = nullptr; // the field in which an input method is composing text
+    int m_nWheelRest = 0;        // turned, but too little yet to be told
 };
 
 } // namespace qtdesktop

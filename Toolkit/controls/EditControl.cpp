@@ -45,6 +45,7 @@ EditControl::Handler EditControl::FindHandler(UINT message)
         {WM_LBUTTONDOWN, &EditControl::OnLButtonDown},
         {WM_LBUTTONDBLCLK, &EditControl::OnLButtonDblClk},
         {WM_LBUTTONUP, &EditControl::OnLButtonUp},
+        {WM_RBUTTONDOWN, &EditControl::OnRButtonDown},
         {WM_MOUSEMOVE, &EditControl::OnMouseMove},
         {WM_CAPTURECHANGED, &EditControl::OnCaptureChanged},
         {WM_SETCURSOR, &EditControl::OnSetCursor},
@@ -102,7 +103,7 @@ LRESULT EditControl::OnSize(WPARAM, LPARAM)
 LRESULT EditControl::OnLooksChanged(WPARAM, LPARAM)
 {
     m_layout.SetAlign(AlignOf(GetWindowStyle(m_hWnd)));
-    RedrawAll();
+    Show();
     return 0;
 }
 
@@ -124,12 +125,6 @@ LRESULT EditControl::OnKillFocus(WPARAM, LPARAM)
     RedrawAll();
     CurrentDesktop().TextInputChanged();
     static_cast<void>(Tell(EN_KILLFOCUS));
-    return 0;
-}
-
-// Not handed on: it would be the parent's menu.
-LRESULT EditControl::OnContextMenu(WPARAM, LPARAM)
-{
     return 0;
 }
 

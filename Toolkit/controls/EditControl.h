@@ -56,7 +56,6 @@ private:
     LRESULT OnSetFocus(WPARAM, LPARAM);
     LRESULT OnKillFocus(WPARAM, LPARAM);
     LRESULT OnGetDlgCode(WPARAM, LPARAM) { return DLGC_WANTARROWS | DLGC_WANTCHARS | DLGC_HASSETSEL; }
-    LRESULT OnContextMenu(WPARAM, LPARAM);
 
     // The text, its selection and its history, by message.
     LRESULT OnSetText(WPARAM, LPARAM lParam);
@@ -110,6 +109,12 @@ private:
     [[nodiscard]] bool BeginDrag(TextSpan from, bool byWords, CPoint at);
     void DragTo(CPoint at);
     void EndDrag();
+
+    // The context menu.
+    LRESULT OnRButtonDown(WPARAM, LPARAM);
+    LRESULT OnContextMenu(WPARAM, LPARAM lParam);
+    UINT AskMenu(CPoint screen); // the command chosen, 0 for none; the window may be gone
+    LRESULT DoMenuCommand(UINT command);
 
     // Painting and the caret's blinking.
     LRESULT OnPaint(WPARAM, LPARAM);

@@ -1,7 +1,6 @@
 // What a window does with a message that nobody has handled.
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/Frame.h"
 #include "Toolkit/window/WindowApi.h"
@@ -97,8 +96,6 @@ LRESULT DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
         return Erase(*pWindow, reinterpret_cast<HDC>(wParam));
     case WM_NCPAINT:
         return toolkit::PaintFrame(*pWindow, reinterpret_cast<HDC>(wParam)), 0;
-    case WM_SETCURSOR:
-        return toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow), FALSE;
     case WM_SETTEXT:
         return SetText(*pWindow, reinterpret_cast<LPCSTR>(lParam));
     case WM_GETTEXT:

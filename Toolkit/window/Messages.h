@@ -18,7 +18,9 @@ inline constexpr UINT WM_PAINT = 0x000F;
 inline constexpr UINT WM_CLOSE = 0x0010;
 inline constexpr UINT WM_ERASEBKGND = 0x0014; // wParam: the HDC
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
-inline constexpr UINT WM_SETCURSOR = 0x0020; // the mouse moved over the client area of wParam, the window itself
+// The mouse moves over the client area of wParam, the window itself, which may show a cursor: it is an arrow whenever
+// the mouse comes to another window.
+inline constexpr UINT WM_SETCURSOR = 0x0020;
 inline constexpr UINT WM_NOTIFY = 0x004E;
 inline constexpr UINT WM_CONTEXTMENU = 0x007B; // wParam: the window, lParam: screen point, -1, -1 from the keyboard
 inline constexpr UINT WM_STYLECHANGED = 0x007D;

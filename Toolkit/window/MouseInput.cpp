@@ -34,8 +34,10 @@ UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
 void SetOver(HWND hWnd)
 {
     const HWND hFormer = std::exchange(s_hOver, hWnd);
-    if (hFormer != hWnd)
-        SendMessage(hFormer, WM_MOUSELEAVE, 0, 0);
+    if (hFormer == hWnd)
+        return;
+    SendMessage(hFormer, WM_MOUSELEAVE, 0, 0);
+    toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow); // until the window wants another
 }
 
 void SendMouse(HWND hWnd, UINT message)
@@ -77,15 +79,6 @@ void TakeNote(const InputEvent& event)
         s_cursor = event.at + toolkit::SurfaceToScreen(*pTop);
 }
 
-// While the mouse is captured the shape stays as it is.
-void ShowShapeOver(const toolkit::MouseTarget& target)
-{
-    if (target.bClient)
-        SendMessage(target.hWnd, WM_SETCURSOR, reinterpret_cast<WPARAM>(target.hWnd), 0);
-    else
-        toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow);
-}
-
 void LeaveTop(HWND hTop)
 {
     if (GetCapture())
@@ -113,7 +106,7 @@ void toolkit::HandleMouse(const InputEvent& event)
     HoverScrollBars(target.bClient ? nullptr : target.hWnd, s_cursor);
     SetOver(target.bClient ? target.hWnd : nullptr);
     if (event.kind == InputKind::MouseMove && !hCapture)
-        ShowShapeOver(target);
+        SendMessage(s_hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_hOver), 0);
     if (target.bClient)
         SendToWindow(target.hWnd, event);
     else if (target.hWnd)

@@ -197,6 +197,27 @@ TEST_F(EditTest, TheMousePlacesTheCaretAndSelectsByDraggingByWordsAndWithShift)
     EXPECT_EQ(Ledger({"focus goes"}), TakeLedger());
 }
 
+TEST_F(EditTest, TheContextMenuOffersWhatCanBeDoneNow)
+{
+    Set("walk");
+    desktop.Choose("Select All");
+    desktop.Click(edit.m_hWnd, At(1), MouseButton::Right);
+    EXPECT_EQ("[walk]", State());
+    desktop.Choose("Cut");
+    Key(VK_APPS);
+    EXPECT_EQ("|", State());
+    EXPECT_EQ("walk", Clipboard());
+    edit.SetReadOnly();
+    Key(VK_F10, kShift);
+    EXPECT_EQ(std::vector<std::string>({"[(Undo) | - | (Cut) | (Copy) | Paste | (Delete) | - | Select All]",
+                                        "[(Undo) | - | Cut | Copy | Paste | Delete | - | (Select All)]",
+                                        "[(Undo) | - | (Cut) | (Copy) | (Paste) | (Delete) | - | (Select All)]"}),
+              desktop.TakeMenus());
+    CPoint below(3, 0);
+    ::ClientToScreen(edit.m_hWnd, &below);
+    EXPECT_EQ(below.x, desktop.LastMenuPlace().x) << "at the caret";
+}
+
 TEST_F(EditTest, LongTextScrollsWithTheCaretAndUnderTheMouseHeldOutside)
 {
     Set("a long text that does not fit the field at all");
