@@ -64,6 +64,11 @@ DWORD KeyState(const QDropEvent& event)
            Flag(event.modifiers().testFlag(Qt::AltModifier), MK_ALT);
 }
 
+bool IsOwn(const QDropEvent& event)
+{
+    return dynamic_cast<const OfferedMime*>(event.mimeData()) != nullptr;
+}
+
 } // namespace
 
 Qt::DropAction ToAction(DROPEFFECT effect)
@@ -95,6 +100,7 @@ DROPEFFECT ToEffects(Qt::DropActions actions)
 void DropArea::Enter(QDragEnterEvent& event)
 {
     m_tracker = std::make_shared<toolkit::DragTracker>(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
+    m_receipt = IsOwn(event) ? QByteArray() : event.mimeData()->data(kReceiptKind);
     event.setDropAction(ToAction(Follow(event)));
     event.accept();
 }
@@ -112,8 +118,8 @@ void DropArea::Drop(QDropEvent& event)
     if (!m_tracker)
         return event.ignore();
     const auto tracker = m_tracker;
-    const bool bOwn = dynamic_cast<const OfferedMime*>(event.mimeData());
-    DropReceipt receipt(bOwn ? QByteArray() : event.mimeData()->data(kReceiptKind));
+    const bool bOwn = IsOwn(event);
+    DropReceipt receipt(m_receipt);
     Follow(event);
     m_tracker.reset();
     const DROPEFFECT effect = tracker->Drop();

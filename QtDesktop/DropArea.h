@@ -25,6 +25,7 @@ private:
 
     const HWND m_hTop;
     std::shared_ptr<toolkit::DragTracker> m_tracker; // while a drag is over the window
+    QByteArray m_receipt;                            // where that drag's source wants to hear; empty: nowhere
 };
 
 Qt::DropAction ToAction(DROPEFFECT effect);

@@ -15,8 +15,7 @@ namespace qtdesktop
 namespace
 {
 
-constexpr int kBeginMilliseconds = 1000;
-constexpr char kBegin[] = "begin\n";
+constexpr int kAskMilliseconds = 500; // the target reads the address while the drag is over it, or at the drop
 
 // In the abstract name space, which leaves no file behind.
 struct Address
@@ -76,7 +75,7 @@ DropReceiver::DropReceiver() : m_listener(MakeSocket())
     const Address address(name);
     if (!m_listener || bind(m_listener.Get(), address.Get(), address.length) != 0 || listen(m_listener.Get(), 4) != 0)
         return;
-    m_address = name;
+    m_address->name = name;
     m_onConnection = std::make_unique<QSocketNotifier>(m_listener.Get(), QSocketNotifier::Read);
     QObject::connect(m_onConnection.get(), &QSocketNotifier::activated, [this] { OnConnection(); });
 }
@@ -97,8 +96,7 @@ void DropReceiver::OnNews()
     const ssize_t n = read(m_connection.Get(), buffer, sizeof buffer);
     if (n > 0)
         m_news.append(buffer, n);
-    m_bBegun = m_news.startsWith(kBegin);
-    m_bEnded = n == 0 || m_news.count('\n') >= 2 || m_news.size() > 64;
+    m_bEnded = n == 0 || m_news.contains('\n') || m_news.size() > 64;
     if (m_bEnded)
         m_onNews->setEnabled(false);
 }
@@ -115,13 +113,12 @@ bool DropReceiver::WaitUntil(const bool& bReached, QDeadlineTimer deadline)
 
 std::optional<DROPEFFECT> DropReceiver::WaitForReceipt(int nMilliseconds)
 {
-    if (m_address.isEmpty() || !WaitUntil(m_bBegun, QDeadlineTimer(kBeginMilliseconds)) ||
-        !WaitUntil(m_bEnded, QDeadlineTimer(nMilliseconds)))
+    if (m_address->name.isEmpty() || !WaitUntil(m_address->bAsked, QDeadlineTimer(kAskMilliseconds)) ||
+        !WaitUntil(m_bEnded, QDeadlineTimer(nMilliseconds)) || !m_news.endsWith('\n'))
         return std::nullopt;
-    const QList<QByteArray> lines = m_news.split('\n');
     bool bNumber = false;
-    const DROPEFFECT effect = lines.value(1).toUInt(&bNumber);
-    return bNumber && lines.size() > 2 ? std::optional(effect) : std::nullopt;
+    const DROPEFFECT effect = m_news.chopped(1).toUInt(&bNumber);
+    return bNumber ? std::optional(effect) : std::nullopt;
 }
 
 DropReceipt::DropReceipt(const QByteArray& name)
@@ -132,20 +129,15 @@ DropReceipt::DropReceipt(const QByteArray& name)
     Socket connection = MakeSocket();
     if (connection && connect(connection.Get(), address.Get(), address.length) == 0 && IsOfSameUser(connection))
         m_connection = std::move(connection);
-    Write(kBegin);
 }
 
+// A source that does not listen any more takes it for a copy.
 void DropReceipt::Send(DROPEFFECT effect)
 {
-    Write(QByteArray::number(effect) + '\n');
+    const QByteArray line = QByteArray::number(effect) + '\n';
+    if (m_connection)
+        send(m_connection.Get(), line.data(), static_cast<std::size_t>(line.size()), MSG_NOSIGNAL);
     m_connection = Socket();
-}
-
-// Whoever does not listen any more takes it for a copy.
-void DropReceipt::Write(const QByteArray& line)
-{
-    if (m_connection && send(m_connection.Get(), line.data(), static_cast<std::size_t>(line.size()), MSG_NOSIGNAL) < 0)
-        m_connection = Socket();
 }
 
 } // namespace qtdesktop

@@ -1,8 +1,8 @@
 // How a program learns what another one has made of its drag. What the window system says of a drop is known too early
 // to be true: a target that refuses, or dies, looks like one that has taken all.
 //
-// The dragged data carries the address of a socket under a name that nobody can guess. A target of this kind writes
-// that it begins with the drop, and then what became of it; it is the only one to be believed that something was moved.
+// The dragged data carries the address of a socket under a name that nobody can guess. A target of this kind connects
+// to it at the drop and writes what has become of the data; it alone is believed when it says that something was moved.
 #pragma once
 
 #include "Toolkit/window/DropEffect.h"
@@ -34,28 +34,35 @@ private:
     int m_fd;
 };
 
+// Where a target may write to, as it travels with the data.
+struct ReceiptAddress
+{
+    QByteArray name;     // empty: nowhere
+    bool bAsked = false; // a target has read it: one of this kind is there
+};
+
 // The source's end.
 class DropReceiver
 {
 public:
     DropReceiver(); // without a socket, when there is none to be had: no target can answer then
 
-    const QByteArray& GetAddress() const { return m_address; } // empty without a socket
+    const std::shared_ptr<ReceiptAddress>& GetAddress() const { return m_address; }
 
-    // After the drop. Runs Qt's loop, without the user's input, until a target has said what became of the data;
-    // nothing when none says that it begins within a second, or what it has done within the given time, or when it
-    // dies.
+    // After the drop. Runs Qt's loop, without the user's input, until a target has said what became of the data:
+    // nothing when it does not within the given time, when it dies, and, almost at once, when it is none of this kind.
     std::optional<DROPEFFECT> WaitForReceipt(int nMilliseconds);
 
 private:
     void OnConnection();
     void OnNews();
-    bool WaitUntil(const bool& bReached, QDeadlineTimer deadline);
+    static bool WaitUntil(const bool& bReached, QDeadlineTimer deadline);
 
-    QByteArray m_address, m_news;
+    const std::shared_ptr<ReceiptAddress> m_address = std::make_shared<ReceiptAddress>();
+    QByteArray m_news;
     Socket m_listener, m_connection;
     std::unique_ptr<QSocketNotifier> m_onConnection, m_onNews;
-    bool m_bBegun = false, m_bEnded = false;
+    bool m_bEnded = false;
 };
 
 // The target's end, made before the drop is handled.
@@ -67,8 +74,6 @@ public:
     void Send(DROPEFFECT effect); // what became of the data
 
 private:
-    void Write(const QByteArray& line);
-
     Socket m_connection;
 };
 

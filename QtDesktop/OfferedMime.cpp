@@ -1,7 +1,5 @@
 #include "QtDesktop/OfferedMime.h"
 
-#include "QtDesktop/DropReceipt.h"
-
 namespace qtdesktop
 {
 
@@ -10,7 +8,7 @@ QStringList OfferedMime::formats() const
     QStringList formats;
     for (const std::string& kind : m_data->GetKinds())
         formats += QString::fromStdString(kind);
-    if (!m_receipt.isEmpty())
+    if (!m_receipt->name.isEmpty())
         formats += kReceiptKind;
     return formats;
 }
@@ -22,8 +20,10 @@ bool OfferedMime::hasFormat(const QString& mimeType) const
 
 QVariant OfferedMime::retrieveData(const QString& mimeType, QMetaType) const
 {
-    if (mimeType == QLatin1String(kReceiptKind))
-        return m_receipt;
+    if (mimeType == QLatin1String(kReceiptKind)) {
+        m_receipt->bAsked = true;
+        return m_receipt->name;
+    }
     const auto bytes = m_data->Render(mimeType.toStdString());
     return bytes ? QVariant(QByteArray(bytes->data(), static_cast<qsizetype>(bytes->size()))) : QVariant();
 }

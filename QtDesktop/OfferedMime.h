@@ -1,6 +1,7 @@
 // Data on its way between the toolkit and Qt: MIME types on both sides.
 #pragma once
 
+#include "QtDesktop/DropReceipt.h"
 #include "Toolkit/window/OfferedData.h"
 
 #include <QMimeData>
@@ -14,7 +15,8 @@ class OfferedMime : public QMimeData
 {
 public:
     // A receipt's address goes with the data of a drag.
-    explicit OfferedMime(std::shared_ptr<toolkit::OfferedData> data, QByteArray receipt = {})
+    explicit OfferedMime(std::shared_ptr<toolkit::OfferedData> data,
+                         std::shared_ptr<ReceiptAddress> receipt = std::make_shared<ReceiptAddress>())
         : m_data(std::move(data)), m_receipt(std::move(receipt))
     {}
 
@@ -28,7 +30,7 @@ protected:
 
 private:
     const std::shared_ptr<toolkit::OfferedData> m_data;
-    const QByteArray m_receipt;
+    const std::shared_ptr<ReceiptAddress> m_receipt;
 };
 
 } // namespace qtdesktop

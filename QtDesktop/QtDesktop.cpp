@@ -11,6 +11,7 @@
 #include "Toolkit/window/WindowApi.h"
 
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <map>
 #include <utility>
 
@@ -127,6 +128,8 @@ void QtDesktop::ShowCursor(toolkit::Cursor cursor)
         return;
     for (const auto& [hTop, pWindow] : m_parts->windows)
         pWindow->ShowShape(cursor);
+    if (cursor == toolkit::Cursor::Wait)
+        QGuiApplication::sync(); // what begins now keeps the event loop from telling the screen
 }
 
 void QtDesktop::TextInputChanged()

@@ -4,13 +4,13 @@
 
 #include <algorithm>
 #include <deque>
-#include <string>
 
 namespace
 {
 constexpr unsigned kFirst = 0xC000;
 constexpr std::size_t kMost = 0x4000;
 constexpr std::string_view kText = "text/plain;charset=utf-8";
+constexpr std::string_view kTextOfAnyCharset = "text/plain";
 
 struct Format
 {
@@ -42,7 +42,7 @@ CLIPFORMAT RegisterClipboardFormat(LPCSTR pszName)
 {
     if (!pszName || !*pszName)
         return 0;
-    if (toolkit::CompareNoCase(pszName, kText) == 0)
+    if (toolkit::CompareNoCase(pszName, kText) == 0 || toolkit::CompareNoCase(pszName, kTextOfAnyCharset) == 0)
         return CF_TEXT;
     std::deque<Format>& formats = Formats();
     const auto found = std::find_if(formats.begin(), formats.end(), [pszName](const Format& format) {
@@ -56,11 +56,11 @@ CLIPFORMAT RegisterClipboardFormat(LPCSTR pszName)
     return static_cast<CLIPFORMAT>(kFirst + static_cast<unsigned>(index));
 }
 
-std::string_view toolkit::MimeTypeOfFormat(CLIPFORMAT format)
+std::vector<std::string> toolkit::KindsOfFormat(CLIPFORMAT format)
 {
     if (format == CF_TEXT)
-        return kText;
+        return {std::string(kText), std::string(kTextOfAnyCharset)};
     if (format < kFirst || format - kFirst >= Formats().size())
         return {};
-    return Formats()[format - kFirst].mimeType;
+    return {Formats()[format - kFirst].mimeType};
 }

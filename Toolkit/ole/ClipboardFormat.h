@@ -3,9 +3,13 @@
 
 #include "Toolkit/base/String.h"
 
+#include <string>
+#include <vector>
+
 using CLIPFORMAT = WORD;
 
-inline constexpr CLIPFORMAT CF_TEXT = 1; // UTF-8, ended by a zero byte; other programs know it as plain text
+// UTF-8, ended by a zero byte. Other programs know it as plain text, and see it without the zero and what follows.
+inline constexpr CLIPFORMAT CF_TEXT = 1;
 
 // The same number for the same name, whatever its case; 0 for the empty one, and when all 16,384 are taken. A name
 // that is a MIME type ("text/uri-list") is what other programs know the data by; under any other name nobody but this
@@ -14,6 +18,6 @@ TOOLKIT_API CLIPFORMAT RegisterClipboardFormat(LPCSTR pszName);
 
 namespace toolkit
 {
-// The MIME type by which the desktop names a format; the empty text for a number that is no format.
-TOOLKIT_API std::string_view MimeTypeOfFormat(CLIPFORMAT format);
+// The MIME types by which the desktop names a format, the best one first; none for a number that is no format.
+TOOLKIT_API std::vector<std::string> KindsOfFormat(CLIPFORMAT format);
 } // namespace toolkit

@@ -2,7 +2,16 @@
 
 #include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <utility>
+
+namespace
+{
+bool Contains(const std::vector<std::string>& kinds, std::string_view kind)
+{
+    return std::ranges::find(kinds, kind) != kinds.end();
+}
+} // namespace
 
 void toolkit::DataCache::Put(CLIPFORMAT format, const STGMEDIUM& medium)
 {
@@ -59,34 +68,48 @@ std::vector<std::string> toolkit::DataCache::GetKinds()
     std::vector<std::string> kinds;
     for (const Entry& entry : m_entries)
         if (entry.medium.tymed == TYMED_HGLOBAL)
-            kinds.emplace_back(MimeTypeOfFormat(entry.format));
+            std::ranges::move(KindsOfFormat(entry.format), std::back_inserter(kinds));
     return kinds;
 }
 
 std::optional<std::string> toolkit::DataCache::Render(std::string_view kind)
 {
-    const auto found = std::find_if(m_entries.begin(), m_entries.end(), [kind](const Entry& entry) {
-        return entry.medium.tymed == TYMED_HGLOBAL && MimeTypeOfFormat(entry.format) == kind;
+    const auto found = std::ranges::find_if(m_entries, [kind](const Entry& entry) {
+        return entry.medium.tymed == TYMED_HGLOBAL && Contains(KindsOfFormat(entry.format), kind);
     });
     if (found == m_entries.end())
         return std::nullopt;
     const HGLOBAL hMem = found->medium.hGlobal;
     const GlobalLocker<const char> bytes(hMem);
-    return bytes.Get() ? std::string(bytes.Get(), GlobalSize(hMem)) : std::string();
+    std::string rendered = bytes.Get() ? std::string(bytes.Get(), GlobalSize(hMem)) : std::string();
+    if (found->format == CF_TEXT)
+        rendered.resize(std::min(rendered.find('\0'), rendered.size()));
+    return rendered;
 }
 
 bool toolkit::ForeignData::Offers(CLIPFORMAT format, DWORD tymed)
 {
-    return (tymed & TYMED_HGLOBAL) && m_data->Has(MimeTypeOfFormat(format));
+    return (tymed & TYMED_HGLOBAL) &&
+           std::ranges::any_of(KindsOfFormat(format), [this](const std::string& kind) { return m_data->Has(kind); });
 }
 
 STGMEDIUM toolkit::ForeignData::Get(CLIPFORMAT format, DWORD tymed)
 {
+    auto bytes = tymed & TYMED_HGLOBAL ? Render(format) : std::nullopt;
+    if (bytes && format == CF_TEXT)
+        bytes->push_back('\0');
     STGMEDIUM medium{};
-    const auto bytes = tymed & TYMED_HGLOBAL ? m_data->Render(MimeTypeOfFormat(format)) : std::nullopt;
     medium.hGlobal = bytes ? MakeGlobal(*bytes) : nullptr;
     medium.tymed = medium.hGlobal ? TYMED_HGLOBAL : TYMED_NULL;
     return medium;
+}
+
+std::optional<std::string> toolkit::ForeignData::Render(CLIPFORMAT format) const
+{
+    for (const std::string& kind : KindsOfFormat(format))
+        if (auto bytes = m_data->Render(kind))
+            return bytes;
+    return std::nullopt;
 }
 
 HGLOBAL toolkit::MakeGlobal(std::string_view bytes)

@@ -60,6 +60,8 @@ public:
     STGMEDIUM Get(CLIPFORMAT format, DWORD tymed) override;
 
 private:
+    std::optional<std::string> Render(CLIPFORMAT format) const;
+
     const std::shared_ptr<OfferedData> m_data;
 };
 

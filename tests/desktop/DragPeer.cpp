@@ -1,7 +1,8 @@
 // A program with one window, to be dragged from and dropped on, copied from and pasted into. Says what happens to it,
 // a line at a time.
 //
-// Usage: drag_peer NAME X [refuse|hold]. "hold": stays inside a drop until a line comes in.
+// Usage: drag_peer NAME X [MODE]. Modes: "refuse" says so at the drop; "hold" stays inside a drop until a line comes
+// in; "vanish" destroys its window at the drop; "forget" deletes what it drags once that has moved.
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/ole/DataSource.h"
 #include "Toolkit/ole/DropTarget.h"
@@ -44,19 +45,27 @@ class PeerTarget : public COleDropTarget
 public:
     explicit PeerTarget(std::string mode) : m_mode(std::move(mode)) {}
 
+    std::unique_ptr<COleDataSource> source; // what the program itself drags
+
     DROPEFFECT OnDragOver(CWnd*, COleDataObject* pData, DWORD keys, CPoint) override
     {
+        if (m_mode == "forget")
+            source.reset();
         if (!pData->IsDataAvailable(kAtoms))
             return DROPEFFECT_NONE;
         return keys & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
     }
 
-    BOOL OnDrop(CWnd*, COleDataObject* pData, DROPEFFECT effect, CPoint) override
+    BOOL OnDrop(CWnd* pWnd, COleDataObject* pData, DROPEFFECT effect, CPoint) override
     {
         Say("drop " + Name(effect) + " " + Take(pData->GetGlobalData(kAtoms)));
         std::string line;
         if (m_mode == "hold")
             std::getline(std::cin, line);
+        if (m_mode == "vanish") {
+            pWnd->DestroyWindow();
+            toolkit::PostTask([] { Say("without a window"); });
+        }
         return m_mode != "refuse";
     }
 
@@ -67,7 +76,7 @@ private:
 class PeerWnd : public CWnd
 {
 public:
-    explicit PeerWnd(std::string name) : m_name(std::move(name)) {}
+    PeerWnd(std::string name, PeerTarget& target) : m_name(std::move(name)), m_target(target) {}
 
     bool Show(int x)
     {
@@ -91,9 +100,9 @@ protected:
 private:
     void Drag()
     {
-        COleDataSource source;
-        Fill(source, "from " + m_name);
-        Say("dragged " + Name(source.DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE)));
+        m_target.source = std::make_unique<COleDataSource>();
+        Fill(*m_target.source, "from " + m_name);
+        Say("dragged " + Name(m_target.source->DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE)));
     }
 
     void Copy()
@@ -113,6 +122,7 @@ private:
     }
 
     const std::string m_name;
+    PeerTarget& m_target;
 };
 
 } // namespace
@@ -121,9 +131,9 @@ int main(int argc, char* argv[])
 {
     const QApplication application(argc, argv);
     qtdesktop::QtDesktop desktop;
-    desktop.SetDropPatience(1500);
-    PeerWnd window(argv[1]);
+    desktop.SetDropPatience(2000);
     PeerTarget target(argc > 3 ? argv[3] : "");
+    PeerWnd window(argv[1], target);
     if (!window.Show(std::atoi(argv[2])) || !target.Register(&window))
         return 1;
     Say("ready");

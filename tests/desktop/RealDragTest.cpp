@@ -145,6 +145,21 @@ TEST_F(RealDragTest, ADropOnItselfAndOneOnNothingNeedNobodysWord)
     EXPECT_EQ("dragged none", Line(m_left));
 }
 
+TEST_F(RealDragTest, WhateverGoesUnderWayTheProgramsGoOn)
+{
+    Start(m_right, {"right", "600", "vanish"});
+    DragTo(700, 150);
+    EXPECT_EQ("drop move from left", Line(m_right));
+    EXPECT_EQ("without a window", Line(m_right));
+    EXPECT_EQ("dragged move", Line(m_left));
+
+    m_left.kill();
+    EXPECT_TRUE(m_left.waitForFinished(kPatience));
+    Start(m_left, {"left", "50", "forget"});
+    DragTo(220, 100);
+    EXPECT_EQ("dragged none", Line(m_left));
+}
+
 TEST_F(RealDragTest, WhatOneProgramCopiedAnotherPastesAsLongAsTheFirstIsThere)
 {
     Start(m_right, {"right", "600"});

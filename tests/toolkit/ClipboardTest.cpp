@@ -89,10 +89,10 @@ TEST_F(ClipboardTest, FormatsAreNumbersForNames)
     EXPECT_EQ(m_atoms, RegisterClipboardFormat("APPLICATION/x-atoms"));
     EXPECT_NE(m_atoms, RegisterClipboardFormat("Atoms"));
     EXPECT_EQ(0, RegisterClipboardFormat(""));
-    EXPECT_EQ("application/x-atoms", toolkit::MimeTypeOfFormat(m_atoms));
-    EXPECT_EQ("application/x-toolkit-format;name=41746f6d73",
-              toolkit::MimeTypeOfFormat(RegisterClipboardFormat("Atoms")));
-    EXPECT_EQ("", toolkit::MimeTypeOfFormat(0xFFFF));
+    EXPECT_EQ(Ledger({"application/x-atoms"}), toolkit::KindsOfFormat(m_atoms));
+    EXPECT_EQ(Ledger({"application/x-toolkit-format;name=41746f6d73"}),
+              toolkit::KindsOfFormat(RegisterClipboardFormat("Atoms")));
+    EXPECT_EQ(Ledger(), toolkit::KindsOfFormat(0xFFFF));
 }
 
 TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSource)
@@ -127,10 +127,10 @@ TEST_F(ClipboardTest, AFlushLeavesPlainCopiesAndLetsTheSourceGo)
 TEST_F(ClipboardTest, AnotherProgramReadsWhatIsPublishedAndTakesTheClipboard)
 {
     COleDataSource* pSource = MakeSource();
-    pSource->CacheGlobalData(CF_TEXT, Block("Walk"));
+    pSource->CacheGlobalData(CF_TEXT, Block(std::string("Walk\0rest", 9)));
     pSource->SetClipboard();
-    EXPECT_EQ("application/x-atoms text/plain;charset=utf-8", desktop.PublishedKinds());
-    EXPECT_EQ("Walk", desktop.ReadPublished("text/plain;charset=utf-8"));
+    EXPECT_EQ("application/x-atoms text/plain;charset=utf-8 text/plain", desktop.PublishedKinds());
+    EXPECT_EQ("Walk", desktop.ReadPublished("text/plain"));
     EXPECT_EQ(std::nullopt, desktop.ReadPublished("image/png"));
 
     COleDataObject held;
@@ -142,6 +142,8 @@ TEST_F(ClipboardTest, AnotherProgramReadsWhatIsPublishedAndTakesTheClipboard)
     EXPECT_EQ("theirs", Paste(m_atoms));
     EXPECT_EQ("nothing", Paste(CF_TEXT));
 
+    desktop.TakeClipboard({{"text/plain", "Run"}});
+    EXPECT_EQ(std::string("Run\0", 4), Paste(CF_TEXT));
     MakeSource()->SetClipboard();
     EXPECT_EQ("path", Paste(m_atoms));
     desktop.TakeClipboard({});
