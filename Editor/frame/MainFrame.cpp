@@ -6,6 +6,12 @@
 
 namespace editor
 {
+namespace
+{
+
+constexpr UINT kSelectRenamed = WM_USER;
+
+} // namespace
 
 BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_CREATE()
@@ -13,6 +19,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_CLOSE()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)
@@ -49,14 +56,19 @@ void CMainFrame::ShowLibrary(CLibrary* pLibrary)
         m_editor.RemoveTop(pFormer.Get());
 }
 
-BOOL CMainFrame::OnCreateAtom(IAtom*, IAtomContainer*)
+BOOL CMainFrame::OnCreateAtom(IAtom* pAtom, IAtomContainer*)
 {
+    m_pCreated = CStubRef<CMember>::Share(CMember::Of(pAtom));
     UpdateStatus();
     return TRUE;
 }
 
-BOOL CMainFrame::OnDeleteAtom(IAtom*, IAtomContainer*)
+// A member that goes when another has just come to its container was renamed.
+BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
+    const CStubRef<CMember> pCreated = std::move(m_pCreated);
+    if (pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container())
+        FollowRenamed(pAtom, pCreated.Get());
     UpdateStatus();
     return TRUE;
 }
@@ -96,6 +108,32 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     UpdatePath();
     UpdateStatus();
     return TRUE;
+}
+
+// The views show the object under its new name last, and take the next one's selection for the one that went. They are
+// put right when they have heard of both; where what is shown was renamed, before they turn to something else.
+void CMainFrame::FollowRenamed(IAtom* pFormer, CMember* pRenamed)
+{
+    for (CMember* pMember = Shown(); pMember; pMember = pMember->Container()) {
+        if (static_cast<IAtom*>(pMember) != pFormer)
+            continue;
+        GoTo(pRenamed);
+        break;
+    }
+    m_pRenamed = CStubRef<CMember>::Share(pRenamed);
+    PostMessage(kSelectRenamed);
+}
+
+LRESULT CMainFrame::OnSelectRenamed(WPARAM, LPARAM)
+{
+    const CStubRef<CMember> pRenamed = std::move(m_pRenamed);
+    if (!pRenamed || Shown() != pRenamed->Container())
+        return 0;
+    std::vector<CStubRef<IAtom>> atoms;
+    atoms.push_back(CStubRef<IAtom>::Share(pRenamed.Get()));
+    m_commands.Select(atoms, pRenamed->Container());
+    m_list.FocusSelection();
+    return 0;
 }
 
 int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)

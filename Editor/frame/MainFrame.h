@@ -66,7 +66,6 @@ public:
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override; // the picture that is shown
 
 protected:
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -76,6 +75,7 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -91,6 +91,7 @@ private:
     template <class Change>
     std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();
+    void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     void ShowFailure(UINT nCaptionID, std::string reason);
     CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
@@ -111,6 +112,8 @@ private:
     DWORD m_dwHandlerCookie = 0;
     CStubRef<CLibrary> m_pLibrary;
     CStubRef<CMember> m_pShown;
+    CStubRef<CMember> m_pCreated; // what came last, until the next news
+    CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
     CPathBar m_pathBar;
     CPane m_treePane, m_listPane, m_picturePane;
     CSplitter m_splitter;

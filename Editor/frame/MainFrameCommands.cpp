@@ -23,18 +23,6 @@ CContainer* CMainFrame::ShownContainer() const
     return Shown() ? Shown()->Container() : nullptr;
 }
 
-BOOL CMainFrame::OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount)
-{
-    if (!pCount || !IsPictureShown())
-        return CStateHandler::OnGetActivePairs(pairs, pCount);
-    if (!pairs || *pCount < 1) {
-        *pCount = 1;
-        return FALSE;
-    }
-    views::HeldPair::Share(Shown(), Shown()->Container()).MoveTo(*pairs);
-    return TRUE;
-}
-
 bool CMainFrame::HandleCommandKey(UINT vkey)
 {
     if (::GetKeyState(VK_CONTROL) < 0)
@@ -44,7 +32,7 @@ bool CMainFrame::HandleCommandKey(UINT vkey)
     if (vkey == VK_DELETE)
         RemoveSelection();
     else if (vkey == VK_F2)
-        m_editor.BeginRename();
+        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomRename, nullptr, nullptr, 0);
     else
         return false;
     return true;

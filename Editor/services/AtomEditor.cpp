@@ -82,12 +82,6 @@ void CAtomEditor::ForgetAtoms()
     m_pActive.Release();
 }
 
-BOOL CAtomEditor::BeginRename()
-{
-    IAEStateHandler* const pSource = FindSelectionSource();
-    return pSource && pSource->OnAtomRename(nullptr, nullptr);
-}
-
 DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
 {
     const DWORD dwCookie = m_handlers.Register(hWnd, handler);

@@ -41,7 +41,6 @@ public:
     void AddTop(IAtom* pTop);                               // told as created
     void RemoveTop(IAtom* pTop);                            // told as deleted
     void ForgetAtoms();                                     // tells nobody
-    BOOL BeginRename();                                     // in the view whose selection counts; FALSE: it did not
     int CountReferences() const { return m_nRefs; }         // beside the owner's
 
     void AddRef() override { ++m_nRefs; }

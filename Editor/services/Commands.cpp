@@ -188,10 +188,8 @@ try {
     const std::string former = pMember->ShownName();
     if (!pContainer || !CanRenameObject(pMember, pContainer.Get()))
         return former + ": it cannot be renamed";
-    const Arrivals arrivals(m_editor, pContainer.Get());
     if (!RenameObject(pMember, pContainer.Get(), name.c_str()))
         return ErrorOf(pContainer.Get(), former + ": it cannot be renamed");
-    Select(arrivals.Get(), pContainer.Get());
     return {};
 } catch (const CMemoryException& e) {
     return e.GetErrorMessage();

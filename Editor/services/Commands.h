@@ -31,7 +31,7 @@ public:
 
     // What the clipboard holds is added to the container, and selected there.
     std::string Paste(CContainer* pTarget);
-    // The object under its new name, which is another object, is selected in its container.
+    // What has the new name is another object.
     std::string Rename(CMember* pMember, const std::string& name);
 
 private:

@@ -88,7 +88,17 @@ TEST_F(CommandsTest, RemovingAsksFirst)
 
 TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
 {
+    folder.WriteBmp("Bo/z.bmp");
     Open();
+    DoubleClick("Bo");
+    DoubleClick("z.bmp");
+    Press(VK_F6);
+    Press(VK_F6);
+    Control('C');
+    Control('V');
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/z (2).bmp Bo/z.bmp", folder.Everything());
+    Press(VK_BACK);
+    Press(VK_BACK);
     DoubleClick("Ada");
     DoubleClick("a.bmp");
     desktop.Answer(IDYES);
@@ -102,8 +112,25 @@ TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
     Press(VK_F6);
     desktop.Answer(IDYES);
     Press(VK_DELETE);
-    EXPECT_EQ("/Bo/ | [] | 0 objects", Screen());
-    EXPECT_EQ("Bo/", folder.Everything());
+    EXPECT_EQ("/Bo/ | [z (2).bmp z.bmp] | 2 objects", Screen());
+    EXPECT_EQ("Bo/ Bo/z (2).bmp Bo/z.bmp", folder.Everything());
+}
+
+TEST_F(CommandsTest, WhatWasRenamedStaysSelectedAndShown)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    EXPECT_EQ("", Frame().GetCommands().Rename(editor::CMember::Of(Frame().GetList().GetAtom(0).Get()), "z.bmp"));
+    Settle();
+    EXPECT_EQ("/Ada/ | [b.bmp (*z.bmp)] | 2 objects, 1 selected | z.bmp: 8 x 8 pixels", Screen());
+
+    EXPECT_EQ("", Frame().GetCommands().Rename(Frame().Shown(), "Zoe"));
+    Settle();
+    EXPECT_EQ("/Zoe/ | [b.bmp z.bmp] | 2 objects", Screen());
+    EXPECT_STREQ("Zoe", Frame().GetTree().GetItemText(Frame().GetTree().GetSelectedItem()));
+    EXPECT_EQ(List(), GetFocus());
+    EXPECT_EQ("Bo/ Zoe/ Zoe/b.bmp Zoe/z.bmp", folder.Everything());
 }
 
 TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
