@@ -61,6 +61,12 @@ std::vector<DecodeResult> DecodeQueue::TakeResults()
     return std::exchange(m_results, {});
 }
 
+bool DecodeQueue::IsIdle() const
+{
+    const std::lock_guard lock(m_mutex);
+    return m_jobs.empty() && m_nBusy == 0 && m_results.empty();
+}
+
 void DecodeQueue::WaitForResult()
 {
     std::unique_lock lock(m_mutex);

@@ -54,6 +54,7 @@ public:
     std::optional<DecodeJob> DropOldest(std::size_t limit);
     void Drop(const std::string& path, CSize size); // unless it has begun
     std::vector<DecodeResult> TakeResults();
+    bool IsIdle() const;  // no job, and no result that was not taken
     void WaitForResult(); // until there is one, or nothing is left to do
     void Stop();          // jobs that wait are dropped; those begun are finished
 
@@ -63,7 +64,7 @@ private:
 
     const PictureReader& m_reader;
     const std::function<void()> m_ready;
-    std::mutex m_mutex; // of all below but the threads
+    mutable std::mutex m_mutex; // of all below but the threads
     std::condition_variable m_jobAdded, m_jobDone;
     std::deque<DecodeJob> m_jobs; // the newest at the back
     std::vector<DecodeResult> m_results;

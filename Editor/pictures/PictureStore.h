@@ -43,7 +43,8 @@ public:
     std::string ErrorOf(const std::string& path) const;
     // Of the picture in the file, in pixels; 0 by 0 when it is not known.
     CSize FullSizeOf(const std::string& path) const;
-    bool IsIdle() const { return m_waiting.empty(); }
+    // Nothing is being read, also not for those who no longer wait, and no result is on its way.
+    bool IsIdle() const { return m_waiting.empty() && m_queue.IsIdle(); }
 
     // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
     void Recheck();

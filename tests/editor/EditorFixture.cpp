@@ -14,6 +14,8 @@ EditorTest::EditorTest() : m_nLive(editor::g_nLiveObjects)
 EditorTest::~EditorTest()
 {
     reader.AllowAll();
+    if (m_pApp)
+        Settle(); // what threads are reading would come into the queue at any time
     CloseApp();
     EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
 }
