@@ -4,6 +4,7 @@
 #include "Editor/model/DiskFile.h"
 #include "Editor/model/FileNames.h"
 #include "Editor/model/FileText.h"
+#include "Editor/model/TempEntry.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -155,6 +156,7 @@ std::string ArchiveWriter::AddMembers(const Entry& folder)
     std::vector<std::string> names;
     if (const int error = ReadNames(folder.Handle(), names); error != 0)
         return Fail(Because(folder.Shown(), SystemErrorText(error)));
+    std::erase_if(names, TempEntry::IsLeftOver);
     std::sort(names.begin(), names.end());
     for (const std::string& name : names)
         if (std::string error = AddEntry(Entry(folder.Handle(), name, folder.Shown() + '/' + name), {}); !error.empty())

@@ -15,12 +15,14 @@ namespace editor
 namespace
 {
 
+constexpr std::string_view kBeginning = ".views-new-";
+
 std::string SecretName()
 {
     std::array<unsigned char, 8> random{};
     if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size()))
         return {};
-    std::string name = ".views-new-";
+    std::string name(kBeginning);
     for (const unsigned char byte : random) {
         char hex[3];
         std::snprintf(hex, sizeof hex, "%02x", byte);
@@ -44,6 +46,11 @@ TempEntry::~TempEntry()
         return;
     std::error_code ignored;
     std::filesystem::remove_all(m_folder + '/' + m_name, ignored);
+}
+
+bool TempEntry::IsLeftOver(std::string_view name)
+{
+    return name.starts_with(kBeginning);
 }
 
 int TempEntry::PutAt(const std::string& name)

@@ -27,6 +27,9 @@ public:
     int Folder() const { return m_fd.Get(); }
     const std::string& Name() const { return m_name; }
 
+    // Is it the name of one that a crash has left over? Such things are no part of what a folder holds.
+    static bool IsLeftOver(std::string_view name);
+
     // The error number; 0: it is in its place.
     int PutAt(const std::string& name); // EEXIST when there is something of that name
     int Replace(const std::string& name);

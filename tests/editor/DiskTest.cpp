@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 
 namespace
 {
@@ -133,6 +134,51 @@ TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
     EXPECT_EQ("[small.bmp]", Members(Container(Library(), "Bo").Get()));
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/deep/ Ada/Poses/deep/large.bmp Ada/large.bmp Ada/small.bmp Bo/ Bo/small.bmp",
               folder.Everything());
+}
+
+// Runs in a process of its own, which ends with a signal in the middle of the first write beyond so many bytes.
+template <class Work>
+void CrashWhileWriting(rlim_t bytes, Work work)
+{
+    const pid_t child = fork();
+    if (child == 0) {
+        const rlimit limit{bytes, bytes}, noCore{0, 0};
+        setrlimit(RLIMIT_CORE, &noCore);
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, SIG_DFL);
+        work();
+        _exit(0);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << "it came through";
+}
+
+TEST_F(DiskTest, ACrashHalfWayLeavesTheOldStateAndNothingThatIsSeenOrCarried)
+{
+    std::string lines = "# many\n";
+    for (int i = 0; i < 3000; ++i)
+        lines += "Poses/b.bmp\n";
+    folder.Write("Ada/a.bmp", std::string(200'000, 'x'));
+    folder.Write("Ada/Poses/b.bmp", std::string(200'000, 'y'));
+    folder.Write("Ada/walk.phase", lines);
+    folder.MakeFolder("Bo");
+    Open();
+    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
+    const auto pArchive = Copy(pAda.Get(), {"Poses", "a.bmp"});
+
+    CrashWhileWriting(100'000, [&] { Paste(pArchive.Get(), pBo.Get()); });
+    CrashWhileWriting(10'000, [&] { Remove(Container(pAda.Get(), "walk.phase").Get(), "b.bmp"); });
+    EXPECT_EQ(lines, folder.Read("Ada/walk.phase"));
+    const std::string left = folder.Everything();
+    EXPECT_NE(std::string::npos, left.find(" Bo/.views-new-")) << left;
+    EXPECT_EQ("[Ada/ Bo/]", Open());
+    EXPECT_EQ("[]", Members(Container(Library(), "Bo").Get()));
+
+    EXPECT_EQ("", Paste(pArchive.Get(), Container(Library(), "Bo").Get()));
+    EXPECT_EQ("[Poses/ a.bmp]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ("", Paste(Copy(Library(), {"Bo"}).Get(), Library()));
+    EXPECT_EQ(2, std::distance(std::filesystem::directory_iterator(folder.At("Bo (2)")), {}));
 }
 
 TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
