@@ -38,11 +38,11 @@ bool IsSound(const ArchiveRecord& record)
 }
 
 // The number of records, -1 when something in there is none.
-long CountRecords(std::string_view records, int depth)
+std::int64_t CountRecords(std::string_view records, int depth)
 {
     RecordReader reader(records);
     ArchiveRecord record;
-    long count = 0;
+    std::int64_t count = 0;
     for (; reader.Next(record); ++count) {
         const bool isInside = depth > 0;
         if (isInside && record.kind == RecordKind::Link)
@@ -101,7 +101,7 @@ std::string_view OpenArchive(std::string_view bytes, std::string& trouble)
     if (!trouble.empty())
         return {};
     const std::string_view records = bytes.substr(kHeaderSize);
-    if (CountRecords(records, 0) != static_cast<long>(NumberAt<std::uint32_t>(bytes.data() + 12)))
+    if (CountRecords(records, 0) != static_cast<std::int64_t>(NumberAt<std::uint32_t>(bytes.data() + 12)))
         trouble = "the archive holds what no archive holds";
     return trouble.empty() ? records : std::string_view();
 }

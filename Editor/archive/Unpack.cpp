@@ -21,19 +21,19 @@ std::string Line(const std::string& shown, int error)
 void SetChanged(int fd, std::int64_t changed)
 {
     constexpr std::int64_t kSecond = 1'000'000'000;
-    const std::int64_t rest = ((changed % kSecond) + kSecond) % kSecond;
+    const std::int64_t rest = changed % kSecond;
+    const std::int64_t before = rest < 0 ? 1 : 0; // the last whole second, also before 1970
     timespec times[2] = {};
     times[0].tv_nsec = UTIME_OMIT;
-    times[1].tv_sec = static_cast<time_t>((changed - rest) / kSecond);
-    times[1].tv_nsec = static_cast<long>(rest);
+    times[1].tv_sec = static_cast<time_t>(changed / kSecond - before);
+    times[1].tv_nsec = static_cast<long>(rest + before * kSecond);
     if (futimens(fd, times) != 0)
         return; // a file system may not keep times: the file is none the worse
 }
 
 int MakeFile(int nFolder, const std::string& name, const ArchiveRecord& record)
 {
-    FileHandle handle(
-        openat(nFolder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR | 066));
+    FileHandle handle(openat(nFolder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666));
     if (!handle)
         return errno;
     if (const int error = WriteAll(handle.Get(), record.content); error != 0)

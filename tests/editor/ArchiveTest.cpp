@@ -133,6 +133,7 @@ TEST_F(ArchiveTest, RecordsThatDoNotFitTheirArchiveAreRefused)
     EXPECT_EQ('!', Read(Sealed(file, 2))[0]) << "one is missing";
     EXPECT_EQ('!', Read(Sealed(file + file, 1))[0]) << "one too many";
     EXPECT_EQ('!', Read(Sealed(file + "x", 1))[0]);
+    EXPECT_EQ('!', Read(Sealed(file + "x", 0xFFFFFFFF))[0]);
     EXPECT_EQ('!', Read(Sealed(Record(static_cast<RecordKind>(4), "a")))[0]);
     EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Link, "a", "content")))[0]);
     EXPECT_EQ('!', Read(Sealed(Record(RecordKind::Folder, "Ada", Record(RecordKind::Link, "a"))))[0]);
