@@ -86,11 +86,11 @@ void RegisterLabelField()
     RegisterWindowClass(kClockClass, [](HWND hWnd) { return std::make_unique<LabelClock>(hWnd); });
 }
 
-HWND CreateLabelField(HWND hOwner, const std::string& text)
+HWND CreateLabelField(HWND hOwner, const std::string& text, DWORD align)
 {
     ModifyStyle(hOwner, 0, WS_CLIPCHILDREN); // what it draws must not cover the field
-    const HWND hField = CreateWindowEx(0, kFieldClass, text.c_str(), WS_CHILD | WS_BORDER | ES_AUTOHSCROLL, 0, 0, 0, 0,
-                                       hOwner, 1, nullptr);
+    const HWND hField =
+        CreateWindowEx(0, kFieldClass, text.c_str(), WS_CHILD | WS_BORDER | align, 0, 0, 0, 0, hOwner, 1, nullptr);
     SendMessage(hField, EM_SETSEL, 0, -1);
     return hField;
 }

@@ -27,8 +27,8 @@ protected:
 
 void RegisterLabelField();
 
-// A hidden field with the text, all of it selected; NULL when it failed.
-HWND CreateLabelField(HWND hOwner, const std::string& text);
+// A hidden field with the text, all of it selected; NULL when it failed. The alignment is an ES_ style.
+HWND CreateLabelField(HWND hOwner, const std::string& text, DWORD align);
 // What the field wants: its text and room for a letter more, with a border; the height of one line.
 CSize LabelFieldSize(HWND hField);
 // From the field's left or top edge to the text's.

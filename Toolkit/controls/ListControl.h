@@ -183,6 +183,7 @@ private:
     [[nodiscard]] bool FinishLabel(bool taken);
     void PlaceLabelField();
     bool MeansLabel(const Press& press, UINT hitFlags) const;
+    bool HasJustComeBack() const; // the user, to this window
     void StartLabelClockFor(int row);
     void StopLabelClock();
 
@@ -213,7 +214,7 @@ private:
     std::optional<LabelEdit> m_label;      // being edited
     std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
     std::string m_labelShown;              // what the row showed when its editing began
-    unsigned m_focusedAt = 0;              // the input that brought the focus, as GetInputCount counts
+    DWORD m_focusedAt = 0;                 // tick
     int m_nWheelRest = 0;                  // of the wheel's turn, in pixels times WHEEL_DELTA
     bool m_bAutoScrolls = false;
     bool m_bInRelayout = false;

@@ -1,6 +1,6 @@
 // The list control under the keyboard, and how it gains and loses the focus.
+#include "Toolkit/base/Ticks.h"
 #include "Toolkit/controls/ListControl.h"
-#include "Toolkit/window/Input.h"
 
 namespace toolkit
 {
@@ -93,7 +93,7 @@ bool ListControl::PressSpace()
 // A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
 {
-    m_focusedAt = GetInputCount();
+    m_focusedAt = GetTickCount();
     if (!FinishLabel(true))
         return 0;
     RedrawStates(LVIS_SELECTED | LVIS_FOCUSED);

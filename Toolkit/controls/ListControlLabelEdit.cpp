@@ -3,8 +3,9 @@
 // The control knows rows by number only. An owner that moves rows meanwhile says where the edited one is now; where it
 // does not and another label stands in the row at the end, the editing counts as cancelled: no row is ever given a
 // name that was meant for another.
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/controls/EditMessages.h"
 #include "Toolkit/controls/ListControl.h"
-#include "Toolkit/window/Input.h"
 
 namespace toolkit
 {
@@ -85,7 +86,7 @@ bool ListControl::AskLabelEdit(int row, std::string& text, bool* pAllowed)
 bool ListControl::OpenLabelField(int row, const std::string& text)
 {
     const HWND hWnd = m_hWnd;
-    const HWND hField = CreateLabelField(hWnd, text);
+    const HWND hField = CreateLabelField(hWnd, text, ES_CENTER);
     if (!IsWindow(hWnd) || !hField)
         return IsWindow(hWnd);
     m_label = LabelEdit{row, hField};
@@ -145,8 +146,14 @@ bool ListControl::MeansLabel(const Press& press, UINT hitFlags) const
 {
     constexpr UINT kOwn = LVIS_SELECTED | LVIS_FOCUSED;
     return !press.right && !press.keys.shift && !press.keys.control && (hitFlags & LVHT_ONITEMLABEL) &&
-           (GetWindowStyle(m_hWnd) & LVS_EDITLABELS) && m_focusedAt != GetInputCount() &&
+           (GetWindowStyle(m_hWnd) & LVS_EDITLABELS) && !HasJustComeBack() &&
            (m_rows.State(press.row) & kOwn) == kOwn && m_rows.CountWith(LVIS_SELECTED) == 1;
+}
+
+// A click into a window that was not the active one comes right behind the focus that it brings.
+bool ListControl::HasJustComeBack() const
+{
+    return GetTickCount() - m_focusedAt < GetDoubleClickTime();
 }
 
 void ListControl::StartLabelClockFor(int row)

@@ -226,6 +226,7 @@ private:
     [[nodiscard]] bool CancelLabelWithin(HTREEITEM hTop); // which is about to be deleted
     void PlaceLabelField();
     bool MeansLabel(const Hit& hit) const;
+    bool HasJustComeBack() const; // the user, to this window
     void StartLabelClockFor(HTREEITEM hItem);
     void StopLabelClock();
 
@@ -271,7 +272,7 @@ private:
     std::optional<Press> m_press;
     std::optional<LabelEdit> m_label;      // being edited
     std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
-    unsigned m_focusedAt = 0;              // the input that brought the focus, as GetInputCount counts
+    DWORD m_focusedAt = 0;                 // tick
     Search m_search;
     int m_nWheelRest = 0;        // of the wheel's turn, in rows times WHEEL_DELTA
     bool m_bWidthStale = false;  // what made the content as wide as it is may be gone

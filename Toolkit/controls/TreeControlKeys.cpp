@@ -1,6 +1,6 @@
 // The tree control under the keyboard, and how it gains and loses the focus.
+#include "Toolkit/base/Ticks.h"
 #include "Toolkit/controls/TreeControl.h"
-#include "Toolkit/window/Input.h"
 
 namespace toolkit
 {
@@ -8,7 +8,7 @@ namespace toolkit
 // A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
 {
-    m_focusedAt = GetInputCount();
+    m_focusedAt = GetTickCount();
     if (!FinishLabel(true))
         return 0;
     Redraw(m_hCaret);

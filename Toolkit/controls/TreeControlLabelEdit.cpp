@@ -1,7 +1,8 @@
 // How the tree control has a label edited in place. The field stays with its item wherever that goes, and out of sight
 // while the item is inside a collapsed branch; it goes with the item.
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/controls/EditMessages.h"
 #include "Toolkit/controls/TreeControl.h"
-#include "Toolkit/window/Input.h"
 
 #include <utility>
 
@@ -77,7 +78,7 @@ bool TreeControl::AskLabelEdit(HTREEITEM hItem, std::string& text, bool& allowed
 bool TreeControl::OpenLabelField(HTREEITEM hItem, const std::string& text)
 {
     const HWND hWnd = m_hWnd;
-    const HWND hField = CreateLabelField(hWnd, text);
+    const HWND hField = CreateLabelField(hWnd, text, ES_LEFT);
     if (!IsWindow(hWnd) || !hField)
         return IsWindow(hWnd);
     m_label = LabelEdit{hItem, hField};
@@ -165,8 +166,13 @@ void TreeControl::LabelDone(bool taken)
 // the user here.
 bool TreeControl::MeansLabel(const Hit& hit) const
 {
-    return (hit.flags & TVHT_ONITEMLABEL) && hit.hItem == m_hCaret && Is(TVS_EDITLABELS) &&
-           m_focusedAt != GetInputCount();
+    return (hit.flags & TVHT_ONITEMLABEL) && hit.hItem == m_hCaret && Is(TVS_EDITLABELS) && !HasJustComeBack();
+}
+
+// A click into a window that was not the active one comes right behind the focus that it brings.
+bool TreeControl::HasJustComeBack() const
+{
+    return GetTickCount() - m_focusedAt < GetDoubleClickTime();
 }
 
 void TreeControl::StartLabelClockFor(HTREEITEM hItem)

@@ -37,7 +37,4 @@ TOOLKIT_API void InputResize(HWND hTop, CSize client);
 TOOLKIT_API void InputMoved(HWND hTop, CPoint screen); // where the top-level window's client area now is
 TOOLKIT_API void InputClose(HWND hTop);                // WM_CLOSE
 
-// How many inputs have been begun to be handled: tells whether two things happened at the same one. May wrap.
-TOOLKIT_API unsigned GetInputCount();
-
 } // namespace toolkit

@@ -17,7 +17,6 @@ using toolkit::InputEvent;
 using toolkit::InputKind;
 
 toolkit::Fifo<InputEvent> s_input;
-unsigned s_nHandled = 0;
 
 // A desktop has nobody to tell that there is no memory: the event is dropped.
 void Put(InputEvent event)
@@ -89,14 +88,8 @@ bool toolkit::RunOneInput()
         return false;
     const InputEvent event = s_input.Take();
     UpdateWake();
-    ++s_nHandled;
     Handle(event);
     return true;
-}
-
-unsigned toolkit::GetInputCount()
-{
-    return s_nHandled;
 }
 
 void toolkit::ResetInput()

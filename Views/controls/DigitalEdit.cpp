@@ -19,6 +19,7 @@ BEGIN_MESSAGE_MAP(CDigitalEdit, CEdit)
     ON_WM_CREATE()
 END_MESSAGE_MAP()
 
+CDigitalEdit::CDigitalEdit() = default;
 CDigitalEdit::~CDigitalEdit() = default;
 
 void CDigitalEdit::SetRange(int nMin, int nMax)

@@ -14,7 +14,7 @@
 class VIEWS_API CDigitalEdit : public CEdit
 {
 public:
-    CDigitalEdit() = default; // from 0 to 100
+    CDigitalEdit(); // from 0 to 100
     ~CDigitalEdit() override;
 
     // Swapped when nMin is the greater one. Holds from the next change of the text on; the present one stays.

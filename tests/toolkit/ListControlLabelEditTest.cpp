@@ -13,7 +13,7 @@ protected:
         ListControlTest::SetUp();
         ModifyStyle(list.m_hWnd, 0, LVS_EDITLABELS);
         list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
-        desktop.Run();
+        desktop.Advance(1000);
         TakeLedger();
     }
 
@@ -89,7 +89,8 @@ TEST_F(ListLabelEditTest, OnlyASlowSecondClickOnTheOneSelectedLabelStartsIt)
     desktop.Advance(2000);
     EXPECT_EQ("-", FieldText()) << "a key came between";
 
-    other.SetFocus();
+    InputActivate(top.m_hWnd, false);
+    InputActivate(top.m_hWnd, true);
     SlowClick(LabelOf(0));
     EXPECT_EQ("-", FieldText()) << "the click only brought the user back";
     desktop.Press(list.m_hWnd, LabelOf(0));

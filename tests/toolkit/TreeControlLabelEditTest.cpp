@@ -14,7 +14,7 @@ protected:
         Fill("a [b c] d");
         tree.SetFocus();
         tree.SelectItem(tree.Find("b"));
-        desktop.Run();
+        desktop.Advance(1000);
         TakeLedger();
     }
 
