@@ -57,7 +57,7 @@ CPoint EditTest::At(int position) const
 
 std::string EditTest::Clipboard()
 {
-    return desktop.ReadPublished("text/plain;charset=utf-8").value_or("-").c_str(); // without a terminating zero
+    return desktop.ReadPublished("text/plain;charset=utf-8").value_or("-");
 }
 
 void EditTest::TakeClipboard(const std::string& text)
