@@ -1,6 +1,7 @@
 // What the frame does to what is selected.
 #include "Editor/frame/MainFrame.h"
 #include "Editor/model/ErrorInfo.h"
+#include "Editor/model/Trash.h"
 #include "Editor/resources/EditorResources.h"
 #include "Toolkit/window/MessageBox.h"
 
@@ -70,8 +71,10 @@ void CMainFrame::RemoveSelection()
     const HWND hFocus = ::GetFocus();
     const int nAnswer = AfxMessageBox(m_commands.RemoveQuestion().c_str(), MB_YESNO | MB_ICONQUESTION);
     ::SetFocus(hFocus);
-    if (nAnswer == IDYES)
-        ShowFailure(IDS_REMOVE_FAILED, Remove());
+    if (nAnswer != IDYES)
+        return;
+    const PermanentRemoval agreed; // of what no trash takes
+    ShowFailure(IDS_REMOVE_FAILED, Remove());
 }
 
 void CMainFrame::PasteHere()
