@@ -1,6 +1,8 @@
 #include "Toolkit/graphics/Scale.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 
 namespace
 {
@@ -27,72 +29,78 @@ Cover CoverOf(int target, int sources, int targets)
             static_cast<std::uint32_t>(targets), first == last ? 0 : static_cast<std::uint32_t>(end - last * targets)};
 }
 
-// The weighted sum of some rows of a picture, a plane for each channel.
+// The weighted sum of some rows of a picture: four numbers for each column, a channel each. The loops are plain, so
+// that they come out as vector code.
+template <class Weight>
 class RowSums
 {
 public:
-    explicit RowSums(int width) : m_even(static_cast<std::size_t>(width)), m_odd(m_even.size())
-    {
-        m_planes.fill(m_even);
-    }
+    explicit RowSums(int width) : m_sums(4 * static_cast<std::size_t>(width)), m_plain(m_sums.size()) {}
 
-    const std::uint32_t* Plane(std::size_t channel) const { return m_planes[channel].data(); }
+    const std::uint32_t* At(int column) const { return m_sums.data() + 4 * static_cast<std::size_t>(column); }
 
+    // Rows between the first and the last weigh the same: they are added up first, and weighted together.
     void Sum(const Surface& source, const Cover& rows)
     {
-        for (auto& plane : m_planes)
-            std::fill(plane.begin(), plane.end(), 0);
-        int first = rows.first, last = rows.last;
-        if (rows.head != rows.full)
-            AddWeighted(source.Row(first++), rows.head);
-        if (rows.tail != 0 && rows.tail != rows.full)
-            AddWeighted(source.Row(last--), rows.tail);
-        for (; first <= last; first += kPackedRows)
-            AddFull(source, first, std::min(last + 1, first + kPackedRows), rows.full);
+        const std::size_t length = m_sums.size();
+        Weigh(m_sums.data(), Channels(source, rows.first), static_cast<Weight>(rows.head), Channels(source, rows.last),
+              static_cast<Weight>(rows.tail), length);
+        for (int y = rows.first + 1, end; y < rows.last; y = end) {
+            end = std::min(rows.last, y + kPlainRows);
+            AddUp(source, y, end);
+            AddWeighted(m_sums.data(), m_plain.data(), static_cast<Weight>(rows.full), length);
+        }
     }
 
 private:
-    static constexpr int kPackedRows = 256; // 256 times 255 still fits into the 16 bits of a packed channel
-    static constexpr std::uint32_t kTwo = 0x00FF00FF;
+    static constexpr int kPlainRows = 256; // 256 times 255 still fits into 16 bits
 
-    void AddWeighted(const Pixel* row, std::uint32_t weight)
+    static const std::uint8_t* Channels(const Surface& source, int y)
     {
-        const std::size_t width = m_even.size();
-        for (std::size_t channel = 0; channel < 4; ++channel) {
-            std::uint32_t* plane = m_planes[channel].data();
-            const std::size_t shift = 8 * channel;
-            for (std::size_t x = 0; x < width; ++x)
-                plane[x] += (row[x] >> shift & 0xFF) * weight;
-        }
+        return reinterpret_cast<const std::uint8_t*>(source.Row(y));
     }
 
-    // Rows of the same weight are summed first, two channels to a number, and weighted together.
-    void AddFull(const Surface& source, int first, int end, std::uint32_t weight)
+    // These two are kept out of their callers: there the compiler would forget that 16 bits are multiplied, for which
+    // there are instructions.
+    [[gnu::noinline]] static void Weigh(std::uint32_t* __restrict sums, const std::uint8_t* a, Weight ofA,
+                                        const std::uint8_t* b, Weight ofB, std::size_t length)
     {
-        const std::size_t width = m_even.size();
-        std::fill(m_even.begin(), m_even.end(), 0);
-        std::fill(m_odd.begin(), m_odd.end(), 0);
-        for (int y = first; y < end; ++y)
-            AddPacked(source.Row(y), m_even.data(), m_odd.data(), width);
-        for (std::size_t x = 0; x < width; ++x) {
-            m_planes[0][x] += (m_even[x] & 0xFFFF) * weight;
-            m_planes[1][x] += (m_odd[x] & 0xFFFF) * weight;
-            m_planes[2][x] += (m_even[x] >> 16) * weight;
-            m_planes[3][x] += (m_odd[x] >> 16) * weight;
-        }
+        for (std::size_t i = 0; i < length; ++i)
+            sums[i] = std::uint32_t{Weight{a[i]}} * ofA + std::uint32_t{Weight{b[i]}} * ofB;
     }
 
-    static void AddPacked(const Pixel* __restrict row, std::uint32_t* __restrict even, std::uint32_t* __restrict odd,
-                          std::size_t width)
+    [[gnu::noinline]] static void AddWeighted(std::uint32_t* __restrict sums, const std::uint16_t* __restrict plain,
+                                              Weight weight, std::size_t length)
     {
-        for (std::size_t x = 0; x < width; ++x) {
-            even[x] += row[x] & kTwo;
-            odd[x] += row[x] >> 8 & kTwo;
-        }
+        for (std::size_t i = 0; i < length; ++i)
+            sums[i] += std::uint32_t{plain[i]} * weight;
     }
 
-    std::array<std::vector<std::uint32_t>, 4> m_planes;
-    std::vector<std::uint32_t> m_even, m_odd;
+    // Four at a time, which lie behind one another without a gap.
+    void AddUp(const Surface& source, int y, int end)
+    {
+        std::fill(m_plain.begin(), m_plain.end(), 0);
+        for (; y + 4 <= end; y += 4)
+            AddFour(m_plain.data(), Channels(source, y), m_plain.size());
+        for (; y < end; ++y)
+            AddOne(m_plain.data(), Channels(source, y), m_plain.size());
+    }
+
+    static void AddFour(std::uint16_t* __restrict sums, const std::uint8_t* row, std::size_t length)
+    {
+        for (std::size_t i = 0; i < length; ++i)
+            sums[i] = static_cast<std::uint16_t>(sums[i] + row[i] + row[i + length] + row[i + 2 * length] +
+                                                 row[i + 3 * length]);
+    }
+
+    static void AddOne(std::uint16_t* __restrict sums, const std::uint8_t* row, std::size_t length)
+    {
+        for (std::size_t i = 0; i < length; ++i)
+            sums[i] = static_cast<std::uint16_t>(sums[i] + row[i]);
+    }
+
+    std::vector<std::uint32_t> m_sums;
+    std::vector<std::uint16_t> m_plain;
 };
 
 // Divides by the number of pixels that a mean is taken of, rounding to the nearest; by a multiplication, which
@@ -107,13 +115,44 @@ private:
     const std::uint64_t m_half, m_factor;
 };
 
-std::uint64_t SumColumns(const std::uint32_t* plane, const Cover& columns)
+template <class Total, class Sums>
+Pixel MeanOfColumns(const Sums& sums, const Cover& columns, const Mean& mean)
 {
-    std::uint64_t between = 0;
-    for (int x = columns.first + 1; x < columns.last; ++x)
-        between += plane[x];
-    return between * columns.full + std::uint64_t{plane[columns.first]} * columns.head +
-           std::uint64_t{plane[columns.last]} * columns.tail;
+    std::array<Total, 4> totals{};
+    const std::uint32_t* const last = sums.At(columns.last);
+    for (const std::uint32_t* column = sums.At(columns.first + 1); column < last; column += 4)
+        for (std::size_t channel = 0; channel < 4; ++channel)
+            totals[channel] += column[channel];
+    const std::uint32_t* const first = sums.At(columns.first);
+    std::array<std::uint8_t, 4> pixel;
+    for (std::size_t channel = 0; channel < 4; ++channel) {
+        const Total total =
+            totals[channel] * columns.full + Total{first[channel]} * columns.head + Total{last[channel]} * columns.tail;
+        pixel[channel] = static_cast<std::uint8_t>(mean(total));
+    }
+    return std::bit_cast<Pixel>(pixel);
+}
+
+// Weight holds the number of targets each way, Total the sum of all of the picture's pixels.
+template <class Weight, class Total>
+void Scale(const Surface& source, Surface& scaled)
+{
+    std::vector<Cover> columns;
+    for (int x = 0; x < scaled.Width(); ++x)
+        columns.push_back(CoverOf(x, source.Width(), scaled.Width()));
+    RowSums<Weight> sums(source.Width());
+    const Mean mean(std::uint64_t(source.Width()) * std::uint64_t(source.Height()));
+    for (int y = 0; y < scaled.Height(); ++y) {
+        sums.Sum(source, CoverOf(y, source.Height(), scaled.Height()));
+        std::transform(columns.begin(), columns.end(), scaled.Row(y),
+                       [&](const Cover& cover) { return MeanOfColumns<Total>(sums, cover, mean); });
+    }
+}
+
+bool IsOrdinary(const Surface& source, const Surface& scaled)
+{
+    constexpr std::int64_t kMostPixels = 1 << 24; // 255 times that fits into 32 bits
+    return std::int64_t{source.Width()} * source.Height() <= kMostPixels && scaled.Height() <= 0xFFFF;
 }
 
 } // namespace
@@ -125,19 +164,10 @@ toolkit::Surface toolkit::ScaleSurface(const Surface& source, CSize size)
         return {};
     if (source.Bounds() == scaled.Bounds())
         return source;
-
-    std::vector<Cover> columns;
-    for (int x = 0; x < scaled.Width(); ++x)
-        columns.push_back(CoverOf(x, source.Width(), scaled.Width()));
-    RowSums sums(source.Width());
-    const Mean mean(std::uint64_t(source.Width()) * std::uint64_t(source.Height()));
-    for (int y = 0; y < scaled.Height(); ++y) {
-        sums.Sum(source, CoverOf(y, source.Height(), scaled.Height()));
-        Pixel* row = scaled.Row(y);
-        for (std::size_t channel = 0; channel < 4; ++channel)
-            for (std::size_t x = 0; x < columns.size(); ++x)
-                row[x] |= mean(SumColumns(sums.Plane(channel), columns[x])) << (8 * channel);
-    }
+    if (IsOrdinary(source, scaled))
+        Scale<std::uint16_t, std::uint32_t>(source, scaled);
+    else
+        Scale<std::uint32_t, std::uint64_t>(source, scaled);
     return scaled;
 }
 

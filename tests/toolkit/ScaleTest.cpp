@@ -42,7 +42,8 @@ Surface Noise(CSize size)
 TEST(ScaleTest, EachPixelIsTheMeanOfTheAreaItCovers)
 {
     const std::pair<CSize, CSize> cases[] = {
-        {{7, 5}, {3, 2}}, {{3, 2}, {7, 5}}, {{16, 600}, {5, 2}}, {{600, 3}, {1, 1}}, {{9, 4}, {9, 2}}, {{1, 1}, {3, 3}},
+        {{7, 5}, {3, 2}}, {{3, 2}, {7, 5}}, {{16, 600}, {5, 2}},  {{600, 3}, {1, 1}},
+        {{9, 4}, {9, 2}}, {{1, 1}, {3, 3}}, {{1, 3}, {1, 70000}},
     };
     for (const auto& [from, to] : cases) {
         const Surface source = Noise(from), scaled = ScaleSurface(source, to);
