@@ -19,7 +19,7 @@ class NoPictures : public editor::PictureReader
 {
 public:
     std::vector<std::string> Extensions() const override { return {"png"}; }
-    editor::DecodedPicture Read(const std::string&, CSize) const override { return {{}, {}, "an empty file"}; }
+    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "an empty file"}; }
 };
 
 class PictureFolder

@@ -1,5 +1,6 @@
 #include "Editor/app/QtPictureReader.h"
 
+#include "Editor/app/SoundPng.h"
 #include "Editor/model/FileText.h"
 
 #include <QFile>
@@ -69,22 +70,34 @@ toolkit::Surface ToSurface(const QImage& decoded)
     return surface;
 }
 
-DecodedPicture Decode(QImageReader& reader, QSize max)
+// Frames build on one another: those before are read, too.
+bool SkipFrames(QImageReader& reader, int frames)
+{
+    QImage image;
+    while (frames > 0 && reader.read(&image))
+        --frames;
+    return frames == 0;
+}
+
+DecodedPicture Decode(QImageReader& reader, QSize max, int frame)
 {
     reader.setAutoTransform(true);
+    const int frames = reader.supportsAnimation() ? std::max(1, reader.imageCount()) : 1;
     const QSize stored = reader.size();
+    if (frame >= frames || !SkipFrames(reader, frame))
+        return {{}, {}, "there is no such frame", frames};
     if (stored.isValid())
         reader.setScaledSize(FitInto(stored, IsTurned(reader) ? max.transposed() : max));
     QImage image = reader.read();
     if (image.isNull())
-        return {{}, {}, WhyUndecoded(stored)};
+        return {{}, {}, WhyUndecoded(stored), frames};
 
     QSize full = image.size();
     if (stored.isValid())
         full = IsTurned(reader) ? stored.transposed() : stored;
     else // the decoder could not tell before
         image = image.scaled(FitInto(full, max), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return {ToSurface(image), CSize(full.width(), full.height()), {}};
+    return {ToSurface(image), CSize(full.width(), full.height()), {}, frames};
 }
 
 } // namespace
@@ -94,7 +107,7 @@ QtPictureReader::QtPictureReader() : m_extensions(KnownExtensions())
     QImageReader::setAllocationLimit(kMaxMegabytes);
 }
 
-DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize) const
+DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize, int frame) const
 {
     QFile file;
     if (std::string reason = Open(file, path); !reason.empty())
@@ -102,13 +115,16 @@ DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize) con
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QSize max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1));
-    if (reader.canRead())
-        return Decode(reader, max);
+    if (reader.canRead()) {
+        if (reader.format() == "png" && !IsSoundPng(file))
+            return {{}, {}, "the picture is damaged"};
+        return Decode(reader, max, frame);
+    }
     reader.setDecideFormatFromContent(false);
     reader.setFormat(QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower().toLatin1());
     if (!reader.canRead()) // asked first, for some decoders complain aloud of what is not theirs
         return {{}, {}, "not a picture of a known format"};
-    return Decode(reader, max);
+    return Decode(reader, max, frame);
 }
 
 } // namespace editor

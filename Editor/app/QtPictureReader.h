@@ -16,7 +16,7 @@ public:
     // Tells the format by the content; the name's extension counts only where the content does not tell. Only
     // regular files are read, so that a pipe in the folder holds nobody up. What would take more than
     // kMaxMegabytes to decode is refused.
-    DecodedPicture Read(const std::string& path, CSize maxSize) const override;
+    DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const override;
 
     static constexpr int kMaxMegabytes = 256;
 

@@ -3,6 +3,7 @@
 #include "Editor/model/FileText.h"
 
 #include <cerrno>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <utility>
 
@@ -10,6 +11,8 @@ namespace editor
 {
 namespace
 {
+
+constexpr int kNiceness = 10;
 
 // Empty when there is a regular file to read.
 std::string LookAt(const std::string& path, FileStamp& stamp)
@@ -49,10 +52,10 @@ std::optional<DecodeJob> DecodeQueue::DropOldest(std::size_t limit)
     return oldest;
 }
 
-void DecodeQueue::Drop(const std::string& path, CSize size)
+void DecodeQueue::DropIf(const std::function<bool(const DecodeJob&)>& isUnwanted)
 {
     const std::lock_guard lock(m_mutex);
-    std::erase_if(m_jobs, [&](const DecodeJob& job) { return job.size == size && job.path == path; });
+    std::erase_if(m_jobs, isUnwanted);
 }
 
 std::vector<DecodeResult> DecodeQueue::TakeResults()
@@ -89,6 +92,7 @@ void DecodeQueue::Stop()
 
 void DecodeQueue::Work()
 {
+    setpriority(PRIO_PROCESS, 0, kNiceness); // of this thread alone: the window answers first
     std::unique_lock lock(m_mutex);
     for (;;) {
         m_jobAdded.wait(lock, [this] { return m_bStop || !m_jobs.empty(); });
@@ -117,7 +121,7 @@ DecodeResult DecodeQueue::Read(DecodeJob job) const
         result.decoded.error = LookAt(result.job.path, result.stamp);
         result.unchanged = result.decoded.error.empty() && result.stamp == result.job.known;
         if (result.decoded.error.empty() && !result.unchanged)
-            result.decoded = m_reader.Read(result.job.path, result.job.size);
+            result.decoded = m_reader.Read(result.job.path, result.job.size, result.job.frame);
         if (result.decoded.picture.IsEmpty() && result.decoded.error.empty() && !result.unchanged)
             result.decoded.error = "an empty picture";
     } catch (const std::bad_alloc&) {

@@ -27,8 +27,14 @@ struct FileStamp
 struct DecodeJob
 {
     std::string path;
-    CSize size;      // to fit into
+    CSize size; // to fit into
+    int frame = 0;
     FileStamp known; // when the file still is this one, it is not read
+
+    bool WantsTheSameAs(const DecodeJob& other) const
+    {
+        return size == other.size && frame == other.frame && path == other.path;
+    }
 };
 
 struct DecodeResult
@@ -52,7 +58,7 @@ public:
     void Add(DecodeJob job);
     // The job that waits longest, when more than `limit` wait.
     std::optional<DecodeJob> DropOldest(std::size_t limit);
-    void Drop(const std::string& path, CSize size); // unless it has begun
+    void DropIf(const std::function<bool(const DecodeJob&)>& isUnwanted); // but for those begun
     std::vector<DecodeResult> TakeResults();
     bool IsIdle() const;  // no job, and no result that was not taken
     void WaitForResult(); // until there is one, or nothing is left to do

@@ -14,6 +14,7 @@ struct DecodedPicture
     toolkit::Surface picture; // empty when the file could not be read
     CSize fullSize;           // of the picture in the file; `picture` may be smaller
     std::string error;        // why there is no picture, without the file's name: "not a PNG picture"
+    int frames = 1;           // that the file has; more than one: it is animated
 };
 
 // Read is called on worker threads, several at a time; Extensions on the user-interface thread.
@@ -26,9 +27,9 @@ public:
     virtual std::vector<std::string> Extensions() const = 0;
 
     // The picture, turned upright and scaled down, with its proportions kept, to fit into `maxSize`; never
-    // scaled up. Of an animated file the first frame. Never throws but for want of memory; whatever the file
-    // holds, the answer is a picture or an error.
-    virtual DecodedPicture Read(const std::string& path, CSize maxSize) const = 0;
+    // scaled up. Of an animated file one frame, counted from 0; the cost grows with those before it. Never throws but
+    // for want of memory; whatever the file holds, the answer is a picture or an error.
+    virtual DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const = 0;
 };
 
 } // namespace editor

@@ -12,9 +12,10 @@ namespace
 constexpr std::size_t kOverhead = 300; // of an entry beside its pixels, about
 constexpr int kLarge = 256;            // of the variants larger than this each way only the newest is kept
 
-std::string WaitingKey(const std::string& path, CSize size)
+std::string KeyOf(const DecodeJob& job)
 {
-    return path + '\0' + std::to_string(size.cx) + 'x' + std::to_string(size.cy);
+    return job.path + '\0' + std::to_string(job.size.cx) + 'x' + std::to_string(job.size.cy) + '#' +
+           std::to_string(job.frame);
 }
 
 bool FitsInto(CSize picture, CSize room)
@@ -36,20 +37,20 @@ PictureStore::PictureStore(const PictureReader& reader, Limits limits, Arrived a
       m_queue(reader, limits.threads, [this] { PostCollect(); })
 {}
 
-PictureStore::Answer PictureStore::Find(const std::string& path, CSize size, IAtom* pAtom)
+PictureStore::Answer PictureStore::Find(const std::string& path, CSize size, IAtom* pAtom, int frame)
 {
     const auto at = m_entries.find(path);
     if (at == m_entries.end()) {
-        Queue(path, size, nullptr, pAtom);
+        Queue({path, size, frame, {}}, pAtom);
         return {};
     }
     Entry& entry = at->second;
     m_recent.splice(m_recent.begin(), m_recent, entry.recent);
-    const Variant* const pVariant = FindVariant(entry, size);
-    const bool bFailed = !entry.error.empty();
+    const Variant* const pVariant = FindVariant(entry, size, frame);
+    const bool bFailed = !entry.error.empty() || (pVariant && pVariant->picture.IsEmpty());
     if (entry.bStale || (!pVariant && !bFailed))
-        Queue(path, size, pVariant ? &entry : nullptr, pAtom);
-    return {pVariant ? &pVariant->picture : nullptr, bFailed};
+        Queue({path, size, frame, pVariant ? entry.stamp : FileStamp()}, pAtom);
+    return {pVariant && !bFailed ? &pVariant->picture : nullptr, bFailed};
 }
 
 std::string PictureStore::ErrorOf(const std::string& path) const
@@ -62,6 +63,12 @@ CSize PictureStore::FullSizeOf(const std::string& path) const
 {
     const auto at = m_entries.find(path);
     return at == m_entries.end() ? CSize() : at->second.fullSize;
+}
+
+int PictureStore::FrameCountOf(const std::string& path) const
+{
+    const auto at = m_entries.find(path);
+    return at == m_entries.end() ? 0 : at->second.frames;
 }
 
 void PictureStore::Recheck()
@@ -79,11 +86,11 @@ void PictureStore::Stop()
 }
 
 // A picture that is smaller than what was asked for serves every larger size as well.
-const PictureStore::Variant* PictureStore::FindVariant(const Entry& entry, CSize size)
+const PictureStore::Variant* PictureStore::FindVariant(const Entry& entry, CSize size, int frame)
 {
     const auto serves = [&](const Variant& variant) {
-        return variant.asked == size ||
-               (variant.picture.Bounds().Size() == entry.fullSize && FitsInto(entry.fullSize, size));
+        const bool bWhole = variant.picture.Bounds().Size() == entry.fullSize && FitsInto(entry.fullSize, size);
+        return variant.frame == frame && (variant.asked == size || bWhole);
     };
     const auto at = std::find_if(entry.variants.begin(), entry.variants.end(), serves);
     return at == entry.variants.end() ? nullptr : &*at;
@@ -98,35 +105,37 @@ std::size_t PictureStore::CostOf(const std::string& path, const Entry& entry)
     return bytes;
 }
 
-void PictureStore::Queue(const std::string& path, CSize size, const Entry* pKnown, IAtom* pAtom)
+void PictureStore::Queue(DecodeJob job, IAtom* pAtom)
 {
     if (!*m_pSelf)
         return;
-    Atoms former = TakeFormerWish(path, size);
-    const auto [at, isNew] = m_waiting.try_emplace(WaitingKey(path, size));
-    Atoms& atoms = at->second;
+    Atoms former = TakeFormerWish(job);
+    const auto [at, isNew] = m_waiting.try_emplace(KeyOf(job));
+    at->second.size = job.size;
+    Atoms& atoms = at->second.atoms;
     std::move(former.begin(), former.end(), std::back_inserter(atoms));
     if (std::none_of(atoms.begin(), atoms.end(), [pAtom](const auto& p) { return p.Get() == pAtom; }))
         atoms.push_back(CStubRef<IAtom>::Share(pAtom));
     if (!isNew)
         return;
-    m_queue.Add({path, size, pKnown ? pKnown->stamp : FileStamp()});
+    m_queue.Add(std::move(job));
     SendAwayTheOldest();
 }
 
 // Of one picture only the latest large size is worth reading: while a window is sized, one is wished for after the
 // other. Answers those who waited for the former size; its result, when it is being read already, finds nobody.
-PictureStore::Atoms PictureStore::TakeFormerWish(const std::string& path, CSize size)
+PictureStore::Atoms PictureStore::TakeFormerWish(const DecodeJob& job)
 {
-    if (!IsLarge(size))
+    if (!IsLarge(job.size))
         return {};
-    const auto [at, isNew] = m_largeWishes.try_emplace(path, size);
-    const CSize former = std::exchange(at->second, size);
-    if (isNew || former == size)
+    const auto [at, isNew] = m_largeWishes.try_emplace(job.path, job.size);
+    const CSize former = std::exchange(at->second, job.size);
+    if (isNew || former == job.size)
         return {};
-    m_queue.Drop(path, former);
-    auto waited = m_waiting.extract(WaitingKey(path, former));
-    return waited ? std::move(waited.mapped()) : Atoms();
+    const DecodeJob formerJob{job.path, former, job.frame, {}};
+    m_queue.DropIf([&](const DecodeJob& waiting) { return waiting.WantsTheSameAs(formerJob); });
+    auto waited = m_waiting.extract(KeyOf(formerJob));
+    return waited ? std::move(waited.mapped().atoms) : Atoms();
 }
 
 void PictureStore::ForgetLargeWish(const std::string& path, CSize size)
@@ -141,12 +150,38 @@ void PictureStore::SendAwayTheOldest()
     const std::optional<DecodeJob> oldest = m_queue.DropOldest(m_limits.waiting);
     if (!oldest)
         return;
-    const auto at = m_waiting.find(WaitingKey(oldest->path, oldest->size));
+    auto waited = m_waiting.extract(KeyOf(*oldest));
+    ForgetLargeWish(oldest->path, oldest->size);
+    SendAway(std::move(waited.mapped().atoms));
+}
+
+// What has begun is read to its end, and kept.
+void PictureStore::SendAwayUnseen(CSize size, const std::function<bool(IAtom*)>& isSeen)
+{
+    const auto isUnseen = [&](const auto& waiting) {
+        const Wish& wish = waiting.second;
+        return wish.size == size && std::none_of(wish.atoms.begin(), wish.atoms.end(),
+                                                 [&](const auto& pAtom) { return isSeen(pAtom.Get()); });
+    };
+    bool bAny = false;
+    for (auto at = m_waiting.begin(); at != m_waiting.end();) {
+        if (!isUnseen(*at)) {
+            ++at;
+            continue;
+        }
+        SendAway(std::move(at->second.atoms));
+        at = m_waiting.erase(at);
+        bAny = true;
+    }
+    if (bAny)
+        m_queue.DropIf([&](const DecodeJob& job) { return job.size == size && !m_waiting.contains(KeyOf(job)); });
+}
+
+void PictureStore::SendAway(Atoms atoms)
+{
     if (m_sentAway.empty())
         PostCollect();
-    std::move(at->second.begin(), at->second.end(), std::back_inserter(m_sentAway));
-    m_waiting.erase(at);
-    ForgetLargeWish(oldest->path, oldest->size);
+    std::move(atoms.begin(), atoms.end(), std::back_inserter(m_sentAway));
 }
 
 // Any thread.
@@ -164,13 +199,14 @@ void PictureStore::Collect()
     const Atoms sentAway = std::exchange(m_sentAway, {});
     std::vector<Atoms> changed;
     for (DecodeResult& result : m_queue.TakeResults()) {
-        auto waited = m_waiting.extract(WaitingKey(result.job.path, result.job.size));
-        if (!waited)
+        auto waited = m_waiting.extract(KeyOf(result.job));
+        if (!waited && IsLarge(result.job.size))
             continue; // another size is wanted by now
         ForgetLargeWish(result.job.path, result.job.size);
-        m_queue.Drop(result.job.path, result.job.size); // wished for again meanwhile: nobody waits for that any more
-        if (Keep(result))
-            changed.push_back(std::move(waited.mapped()));
+        // Wished for again meanwhile: nobody waits for that any more.
+        m_queue.DropIf([&](const DecodeJob& job) { return job.WantsTheSameAs(result.job); });
+        if (Keep(result) && waited)
+            changed.push_back(std::move(waited.mapped().atoms));
     }
     Trim();
     Tell(sentAway);
@@ -191,10 +227,13 @@ bool PictureStore::Keep(DecodeResult& result)
         if (IsLarge(result.job.size))
             std::erase_if(entry.variants, [](const Variant& variant) { return IsLarge(variant.asked); });
         entry.stamp = result.stamp;
-        entry.error = std::move(result.decoded.error);
-        entry.fullSize = result.decoded.fullSize;
+        if (result.job.frame == 0) {
+            entry.error = std::move(result.decoded.error);
+            entry.fullSize = result.decoded.fullSize;
+            entry.frames = result.decoded.frames;
+        }
         if (entry.error.empty())
-            entry.variants.push_back({result.job.size, std::move(result.decoded.picture)});
+            entry.variants.push_back({result.job.size, result.job.frame, std::move(result.decoded.picture)});
     }
     m_nBytes += CostOf(result.job.path, entry);
     return !result.unchanged;

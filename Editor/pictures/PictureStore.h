@@ -36,13 +36,17 @@ public:
     PictureStore(const PictureStore&) = delete;
     PictureStore& operator=(const PictureStore&) = delete;
 
-    // The file's picture, scaled down to fit into `size`. While it is neither read nor failed, it is put in the
-    // queue, and pAtom hears of it.
-    Answer Find(const std::string& path, CSize size, IAtom* pAtom);
+    // The file's picture, scaled down to fit into `size`; of an animated file one frame. While it is neither read nor
+    // failed, it is put in the queue, and pAtom hears of it.
+    Answer Find(const std::string& path, CSize size, IAtom* pAtom, int frame = 0);
+    // Pictures of that size for which only atoms wait that nobody sees any more are not read now: their atoms are sent
+    // away. Costs a call for each atom that waits.
+    void SendAwayUnseen(CSize size, const std::function<bool(IAtom*)>& isSeen);
     // Why the file could not be read; empty when it could, was not tried, or is long forgotten.
     std::string ErrorOf(const std::string& path) const;
     // Of the picture in the file, in pixels; 0 by 0 when it is not known.
     CSize FullSizeOf(const std::string& path) const;
+    int FrameCountOf(const std::string& path) const; // 0 when it is not known
     // Nothing is being read, also not for those who no longer wait, and no result is on its way.
     bool IsIdle() const { return m_waiting.empty() && m_queue.IsIdle(); }
 
@@ -56,11 +60,13 @@ private:
     struct Variant
     {
         CSize asked;
-        toolkit::Surface picture;
+        int frame;
+        toolkit::Surface picture; // empty: this frame cannot be read
     };
     struct Entry
     {
         CSize fullSize;
+        int frames = 0;
         std::string error;
         FileStamp stamp;
         bool bStale = false;
@@ -68,13 +74,19 @@ private:
         std::list<std::string>::iterator recent;
     };
     using Atoms = std::vector<CStubRef<IAtom>>;
+    struct Wish
+    {
+        CSize size;
+        Atoms atoms; // who wait for it
+    };
 
-    static const Variant* FindVariant(const Entry& entry, CSize size);
+    static const Variant* FindVariant(const Entry& entry, CSize size, int frame);
     static std::size_t CostOf(const std::string& path, const Entry& entry);
-    void Queue(const std::string& path, CSize size, const Entry* pKnown, IAtom* pAtom);
-    Atoms TakeFormerWish(const std::string& path, CSize size);
+    void Queue(DecodeJob job, IAtom* pAtom);
+    Atoms TakeFormerWish(const DecodeJob& job);
     void ForgetLargeWish(const std::string& path, CSize size);
     void SendAwayTheOldest();
+    void SendAway(Atoms atoms);
     void PostCollect();
     void Collect();
     bool Keep(DecodeResult& result); // did anything change?
@@ -87,7 +99,7 @@ private:
     std::unordered_map<std::string, Entry> m_entries; // by path
     std::list<std::string> m_recent;                  // paths, the last wanted first
     std::size_t m_nBytes = 0;
-    std::unordered_map<std::string, Atoms> m_waiting;     // by path and size, see WaitingKey
+    std::unordered_map<std::string, Wish> m_waiting;      // by path, size and frame, see KeyOf
     std::unordered_map<std::string, CSize> m_largeWishes; // by path: the one large size that waits
     Atoms m_sentAway;
     std::shared_ptr<PictureStore*> m_pSelf; // NULL inside once the store has stopped: tasks under way look there

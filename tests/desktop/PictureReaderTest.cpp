@@ -19,6 +19,11 @@ class PictureReaderTest : public testing::Test
 protected:
     std::string Path(const char* pszName) const { return m_folder.filePath(pszName).toStdString(); }
 
+    DecodedPicture Read(const char* pszName, CSize maxSize, int frame = 0) const
+    {
+        return m_reader.Read(Path(pszName), maxSize, frame);
+    }
+
     static QImage TwoHalves(int cx, int cy) // left red, right half-transparent blue
     {
         QImage image(cx, cy, QImage::Format_ARGB32);
@@ -53,20 +58,20 @@ TEST_F(PictureReaderTest, APictureComesPremultipliedAndSmallerButNeverLarger)
 {
     TwoHalves(40, 20).save(m_folder.filePath("a.png"));
 
-    const DecodedPicture whole = m_reader.Read(Path("a.png"), {100, 100});
+    const DecodedPicture whole = Read("a.png", {100, 100});
     EXPECT_EQ("", whole.error);
     EXPECT_EQ(CSize(40, 20), whole.fullSize);
     EXPECT_EQ(CSize(40, 20), whole.picture.Bounds().Size());
     EXPECT_EQ(0xFFFF0000u, whole.picture.At(5, 5));
     EXPECT_EQ(0x80000080u, whole.picture.At(35, 5));
 
-    const DecodedPicture small = m_reader.Read(Path("a.png"), {10, 10});
+    const DecodedPicture small = Read("a.png", {10, 10});
     EXPECT_EQ(CSize(40, 20), small.fullSize);
     EXPECT_EQ(CSize(10, 5), small.picture.Bounds().Size());
     EXPECT_EQ(0xFFFF0000u, small.picture.At(1, 2));
 
     TwoHalves(300, 1).save(m_folder.filePath("line.png"));
-    EXPECT_EQ(CSize(10, 1), m_reader.Read(Path("line.png"), {10, 10}).picture.Bounds().Size());
+    EXPECT_EQ(CSize(10, 1), Read("line.png", {10, 10}).picture.Bounds().Size());
 }
 
 // The smallest EXIF block there is: the picture is to be turned by 90 degrees clockwise.
@@ -84,7 +89,7 @@ TEST_F(PictureReaderTest, ACamerasPictureStandsUpright)
     const QByteArray plain = file.readAll();
     WriteBytes("turned.jpg", plain.left(2) + exif + plain.mid(2));
 
-    const DecodedPicture turned = m_reader.Read(Path("turned.jpg"), {100, 50});
+    const DecodedPicture turned = Read("turned.jpg", {100, 50});
     EXPECT_EQ(CSize(200, 400), turned.fullSize);
     EXPECT_EQ(CSize(25, 50), turned.picture.Bounds().Size());
 }
@@ -92,7 +97,7 @@ TEST_F(PictureReaderTest, ACamerasPictureStandsUpright)
 TEST_F(PictureReaderTest, TheContentTellsTheKindNotTheName)
 {
     TwoHalves(8, 8).save(m_folder.filePath("really-png.jpg"), "png");
-    EXPECT_EQ("", m_reader.Read(Path("really-png.jpg"), {8, 8}).error);
+    EXPECT_EQ("", Read("really-png.jpg", {8, 8}).error);
 }
 
 TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
@@ -111,7 +116,7 @@ TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
                small.readAll().replace(18, 8, QByteArray::fromHex("1027000010270000"))); // claims 10000 by 10000
     ASSERT_EQ(0, ::mkfifo(Path("pipe.png").c_str(), 0600));
 
-    const auto error = [this](const char* pszName) { return m_reader.Read(Path(pszName), {50, 50}).error; };
+    const auto error = [this](const char* pszName) { return Read(pszName, {50, 50}).error; };
     EXPECT_EQ("the picture is damaged", error("half.png"));
     EXPECT_EQ("not a picture of a known format", error("text.png"));
     EXPECT_EQ("the file is empty", error("empty.gif"));
@@ -119,5 +124,5 @@ TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
     EXPECT_EQ("not a regular file", error("."));
     EXPECT_EQ("no such file or directory", error("gone.png"));
     EXPECT_EQ("too large to decode: 10000 by 10000 pixels", error("huge.bmp"));
-    EXPECT_TRUE(m_reader.Read(Path("half.png"), {50, 50}).picture.IsEmpty());
+    EXPECT_TRUE(Read("half.png", {50, 50}).picture.IsEmpty());
 }

@@ -38,7 +38,7 @@ Ledger BmpReader::TakeReads()
     return m_reads.TakeLedger();
 }
 
-editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize) const
+editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize, int frame) const
 {
     Pass(path);
     std::ifstream stream(path, std::ios::binary);

@@ -18,7 +18,7 @@ public:
     Ledger TakeReads();                  // "name", in the order in which they began
 
     std::vector<std::string> Extensions() const override { return {"bmp", "dib"}; }
-    editor::DecodedPicture Read(const std::string& path, CSize maxSize) const override;
+    editor::DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const override;
 
 private:
     void Pass(const std::string& path) const;
