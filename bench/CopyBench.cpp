@@ -25,7 +25,7 @@ class NoPictures : public editor::PictureReader
 {
 public:
     std::vector<std::string> Extensions() const override { return {"png"}; }
-    editor::DecodedPicture Read(const std::string&, CSize) const override { return {{}, {}, "not read here"}; }
+    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "not read here"}; }
 };
 
 // A library with the pictures in "From"; transfer files come beside it. Gone at the end.

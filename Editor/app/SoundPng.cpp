@@ -11,7 +11,7 @@ namespace editor
 namespace
 {
 
-constexpr qint64 kSignature = 8;   // bytes
+constexpr qint64 kSignature = 8; // bytes
 constexpr std::uint32_t kStep = 1 << 16;
 
 using Table = std::array<std::array<std::uint32_t, 256>, 4>;

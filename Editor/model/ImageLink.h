@@ -1,7 +1,7 @@
 // A line of a phase: an atom that stands for a picture elsewhere in the library.
 #pragma once
 
-#include "Editor/model/Member.h"
+#include "Editor/model/PictureMember.h"
 
 namespace editor
 {
@@ -9,19 +9,17 @@ namespace editor
 class CPhase;
 
 // A link stays a link when its picture is missing; its error tells.
-class CImageLink : public CMember, public IImageLink
+class CImageLink : public CPictureMember, public IImageLink
 {
 public:
     CImageLink(CPhase* pPhase, UINT nIndex);
 
     int Position() const { return static_cast<int>(Index()); } // in the phase, from 0; -1 when its line has gone
     std::string_view Name() const override;
-    std::string Path() const override;        // of the picture; empty when it lies outside the library
-    std::string ErrorReason() const override; // known once its icon has been wanted
+    std::string Path() const override; // of the picture; empty when it lies outside the library
 
 protected:
     void* FindInterface(DWORD id) override;
-    toolkit::Surface DrawIcon(CSize size) override;
 
 private:
     std::string_view Line() const;

@@ -1,20 +1,15 @@
 // A picture file as an atom.
 #pragma once
 
-#include "Editor/model/Member.h"
+#include "Editor/model/PictureMember.h"
 
 namespace editor
 {
 
-class CPicture : public CMember
+class CPicture : public CPictureMember
 {
 public:
-    CPicture(CContainer* pContainer, UINT nIndex) : CMember(pContainer, nIndex) {}
-
-    std::string ErrorReason() const override; // known once its icon has been wanted
-
-protected:
-    toolkit::Surface DrawIcon(CSize size) override;
+    CPicture(CContainer* pContainer, UINT nIndex) : CPictureMember(pContainer, nIndex) {}
 };
 
 } // namespace editor

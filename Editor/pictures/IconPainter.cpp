@@ -13,7 +13,8 @@ namespace
 constexpr toolkit::Pixel kEdge = 0x50000000;                   // premultiplied, as all here
 constexpr toolkit::Pixel kShadow[] = {0x30000000, 0x18000000}; // below and beside, from the edge on
 constexpr int kShadowReach = static_cast<int>(std::size(kShadow));
-constexpr int kSmallestRead = 48; // pixels each way
+constexpr int kSmallestRead = 48;       // pixels each way
+constexpr int kPlaceholder = 48;        // pixels
 constexpr int kSmallestPhotograph = 12; // pixels; below this an edge would eat the picture
 
 bool CoversAll(const toolkit::Surface& picture)
@@ -89,6 +90,19 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
     if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
         return PaintInTheMiddle(picture, size, size, false);
     return PaintInTheMiddle(picture, size, {size.cx - kShadowReach, size.cy - kShadowReach}, true);
+}
+
+BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer)
+{
+    if (answer.bFailed && !answer.pPicture)
+        return FALSE;
+    const toolkit::Surface& picture =
+        answer.pPicture ? *answer.pPicture : GetPictogram(Pictogram::Placeholder, kPlaceholder);
+    const CSize own = picture.Bounds().Size();
+    if (own.cx <= rect.Width() && own.cy <= rect.Height())
+        return toolkit::DrawSurface(hdc, toolkit::Centred(own, rect), picture, picture.Bounds());
+    const toolkit::Surface fitted = toolkit::ScaleSurface(picture, toolkit::FitInto(own, rect.Size()));
+    return toolkit::DrawSurface(hdc, toolkit::Centred(fitted.Bounds().Size(), rect), fitted, fitted.Bounds());
 }
 
 } // namespace editor

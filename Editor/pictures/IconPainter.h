@@ -3,6 +3,7 @@
 
 #include "Editor/pictures/PictureStore.h"
 #include "Editor/resources/Pictograms.h"
+#include "Toolkit/graphics/Gdi.h"
 
 namespace editor
 {
@@ -17,5 +18,9 @@ CSize PictureSizeFor(CSize icon);
 // as a little photograph, with an edge and a shadow; any other as it is. Else what tells that there is none, or
 // none yet.
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size);
+
+// The picture in the middle of the rectangle, smaller when it does not fit, or what tells that it has not arrived yet.
+// FALSE, and nothing drawn, when there is none.
+BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer);
 
 } // namespace editor

@@ -51,6 +51,7 @@ void AddEditorResources(CResourceModule& module)
     module.AddString(IDS_PASTE_FAILED, "Not everything was pasted");
     module.AddString(IDS_REMOVE_FAILED, "Not everything was removed");
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
+    module.AddBitmap(IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
     module.AddBitmap(IDB_TREE_ITEMS,
                      WithTransparentColor(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),
                                                      DrawPictogram(Pictogram::Folder, kTreeIconExtent))));

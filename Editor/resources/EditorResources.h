@@ -20,12 +20,14 @@ inline constexpr UINT IDS_PASTE_FAILED = 2003;
 inline constexpr UINT IDS_REMOVE_FAILED = 2004;
 
 // Pictures, the library's own numbers again.
-inline constexpr UINT IDB_FOLDER = 1006;     // transparent where it is pure red
-inline constexpr UINT IDB_TREE_ITEMS = 1013; // for atoms without an icon: any, and one that is expanded
+inline constexpr UINT IDB_FOLDER = 1006;         // transparent where it is pure red
+inline constexpr UINT IDB_CONTAINER_MARK = 1011; // the same; on a container's thumbnail
+inline constexpr UINT IDB_TREE_ITEMS = 1013;     // for atoms without an icon: any, and one that is expanded
 inline constexpr UINT IDR_TREE_PANE = 1007;
 inline constexpr UINT IDR_ICON_PANE = 1008; // icon and caption, this one and the next
 inline constexpr UINT IDR_THUMBNAIL_PANE = 1009;
 
+inline constexpr int kMarkExtent = 16;     // of the mark on a thumbnail
 inline constexpr int kIconExtent = 48;     // of a row's picture
 inline constexpr int kPaneIconExtent = 16; // of a pane's icon
 inline constexpr int kTreeIconExtent = 16; // of a tree item's

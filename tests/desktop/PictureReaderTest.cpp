@@ -100,13 +100,30 @@ TEST_F(PictureReaderTest, TheContentTellsTheKindNotTheName)
     EXPECT_EQ("", Read("really-png.jpg", {8, 8}).error);
 }
 
-TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
+TEST_F(PictureReaderTest, AnAnimationComesFrameByFrame)
+{
+    const char* const pszHead = "474946383961"   // GIF89a
+                                "01000100800000" // 1 by 1, two colours:
+                                "ff00000000ff";
+    const char* const pszFrames[] = {"2c0000000001000100000202440100", "2c00000000010001000002024c0100"};
+    WriteBytes("two.gif", QByteArray::fromHex(QByteArray(pszHead) + pszFrames[0] + pszFrames[1] + "3b"));
+
+    EXPECT_EQ(2, Read("two.gif", {8, 8}).frames);
+    EXPECT_EQ(0xFFFF0000u, Read("two.gif", {8, 8}).picture.At(0, 0));
+    EXPECT_EQ(0xFF0000FFu, Read("two.gif", {8, 8}, 1).picture.At(0, 0));
+    EXPECT_EQ("there is no such frame", Read("two.gif", {8, 8}, 2).error);
+    TwoHalves(8, 8).save(m_folder.filePath("still.png"));
+    EXPECT_EQ(1, Read("still.png", {8, 8}).frames);
+}
+
+TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReasonAndTheTerminalIsSpared)
 {
     TwoHalves(64, 64).save(m_folder.filePath("c.png"));
     QFile whole(m_folder.filePath("c.png"));
     ASSERT_TRUE(whole.open(QIODevice::ReadOnly));
     const QByteArray bytes = whole.readAll();
     WriteBytes("half.png", bytes.left(bytes.size() / 2));
+    WriteBytes("bent.png", QByteArray(bytes).replace(bytes.size() / 2, 1, QByteArray(1, bytes[bytes.size() / 2] ^ 1)));
     WriteBytes("text.png", "this is no picture");
     WriteBytes("empty.gif", "");
     TwoHalves(4, 4).save(m_folder.filePath("d.bmp"));
@@ -117,7 +134,10 @@ TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReason)
     ASSERT_EQ(0, ::mkfifo(Path("pipe.png").c_str(), 0600));
 
     const auto error = [this](const char* pszName) { return Read(pszName, {50, 50}).error; };
+    testing::internal::CaptureStderr();
     EXPECT_EQ("the picture is damaged", error("half.png"));
+    EXPECT_EQ("the picture is damaged", error("bent.png"));
+    EXPECT_EQ("", testing::internal::GetCapturedStderr());
     EXPECT_EQ("not a picture of a known format", error("text.png"));
     EXPECT_EQ("the file is empty", error("empty.gif"));
     EXPECT_EQ("not a regular file", error("pipe.png"));

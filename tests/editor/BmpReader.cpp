@@ -43,12 +43,19 @@ editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize, i
     Pass(path);
     std::ifstream stream(path, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    const auto picture = toolkit::DecodeBmp(std::as_bytes(std::span(bytes)));
+    auto picture = toolkit::DecodeBmp(std::as_bytes(std::span(bytes)));
     if (!picture)
         return {{}, {}, "not a BMP picture"};
-    const CSize own = picture->Bounds().Size();
+    CSize own = picture->Bounds().Size();
+    int frames = 1;
+    if (std::filesystem::path(path).filename().string().starts_with("film")) {
+        frames = std::exchange(own.cy, own.cx) / own.cx;
+        picture = toolkit::Crop(*picture, CRect(CPoint(0, frame * own.cy), own));
+    }
+    if (frame >= frames)
+        return {{}, {}, "there is no such frame", frames};
     const CSize fitted = toolkit::FitInto(own, {std::min(own.cx, maxSize.cx), std::min(own.cy, maxSize.cy)});
-    return {toolkit::ScaleSurface(*picture, fitted), own, {}};
+    return {toolkit::ScaleSurface(*picture, fitted), own, {}, frames};
 }
 
 void BmpReader::Pass(const std::string& path) const

@@ -1,4 +1,5 @@
-// A picture reader for tests: BMP files, read when the test allows it.
+// A picture reader for tests: BMP files, read when the test allows it. A file whose name begins with "film" is
+// animated: its frames are squares, one below the other.
 #pragma once
 
 #include "Editor/pictures/PictureReader.h"

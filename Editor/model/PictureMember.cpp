@@ -1,0 +1,48 @@
+#include "Editor/model/PictureMember.h"
+
+#include "Editor/model/LibraryContext.h"
+#include "Editor/pictures/IconPainter.h"
+
+#include <algorithm>
+
+namespace editor
+{
+
+std::string CPictureMember::ErrorReason() const
+{
+    const std::string path = Path();
+    return path.empty() ? "lies outside the library" : Context().pPictures->ErrorOf(path);
+}
+
+UINT CPictureMember::GetFrameCount()
+{
+    return static_cast<UINT>(std::max(1, Context().pPictures->FrameCountOf(Path())));
+}
+
+BOOL CPictureMember::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
+{
+    const std::string path = Path();
+    if (path.empty())
+        return FALSE;
+    PictureStore& pictures = *Context().pPictures;
+    const int frames = pictures.FrameCountOf(path);
+    if (frames > 0 && nFrame >= static_cast<UINT>(frames))
+        return FALSE;
+    const int frame = frames > 0 ? static_cast<int>(nFrame) : 0; // the first read tells how many there are
+    return DrawThumbnail(hdc, rect, pictures.Find(path, rect.Size(), this, frame));
+}
+
+void* CPictureMember::FindInterface(DWORD id)
+{
+    return id == IID_IAtomThumbnail ? static_cast<IAtomThumbnail*>(this) : CMember::FindInterface(id);
+}
+
+toolkit::Surface CPictureMember::DrawIcon(CSize size)
+{
+    const std::string path = Path();
+    if (path.empty())
+        return PaintPictogram(Pictogram::BrokenPicture, size);
+    return PaintPictureIcon(Context().pPictures->Find(path, PictureSizeFor(size), this), size);
+}
+
+} // namespace editor

@@ -1,0 +1,28 @@
+// A member that is seen as a picture from the disk.
+#pragma once
+
+#include "Editor/model/Member.h"
+
+namespace editor
+{
+
+// The picture is read by the store when it is first wanted; until then a placeholder stands for it, and views hear
+// that the atom has changed when it arrives. One that cannot be read fails as a thumbnail and is a torn picture as an
+// icon.
+class CPictureMember : public CMember, public IAtomThumbnail
+{
+public:
+    std::string ErrorReason() const override; // known once its icon or thumbnail has been wanted
+
+    UINT GetFrameCount() override; // 1 until the picture has been read
+    // As large as the rectangle allows, but never enlarged; in its middle. The two values mean nothing here.
+    BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
+
+protected:
+    using CMember::CMember;
+
+    void* FindInterface(DWORD id) override;
+    toolkit::Surface DrawIcon(CSize size) override;
+};
+
+} // namespace editor
