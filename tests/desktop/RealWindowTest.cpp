@@ -5,6 +5,7 @@
 #include "Toolkit/controls/ListView.h"
 #include "Toolkit/window/WindowApi.h"
 
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QImage>
 #include <QProcess>
@@ -76,10 +77,14 @@ protected:
         return tool.exitCode() == 0 ? QString(tool.readAllStandardOutput().trimmed()) : QString();
     }
 
-    // Waits for a window whose title begins so.
+    // Waits for a window whose title begins so. The tool gives up early when any window goes while it looks around.
     QString FindWindow(const QString& title)
     {
-        return XDo({"search", "--sync", "--onlyvisible", "--limit", "1", "--name", "^" + title});
+        const QDeadlineTimer patience(kPatience);
+        QString window;
+        while (window.isEmpty() && !patience.hasExpired())
+            window = XDo({"search", "--sync", "--onlyvisible", "--limit", "1", "--name", "^" + title});
+        return window;
     }
 
     // Where the same window has the row when it is shown without a screen.
