@@ -7,8 +7,6 @@
 
 namespace editor
 {
-namespace
-{
 
 bool IsAmong(const std::vector<CStubRef<IAtom>>& sorted, IAtom* pAtom)
 {
@@ -17,25 +15,13 @@ bool IsAmong(const std::vector<CStubRef<IAtom>>& sorted, IAtom* pAtom)
     return at != sorted.end() && at->Get() == pAtom;
 }
 
-} // namespace
-
-BEGIN_MESSAGE_MAP(CEditorList, CIconList)
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-CStubRef<IAtom> CEditorList::GetAtom(int nRow) const
-{
-    const auto* const pPair = reinterpret_cast<const OBJPAIR*>(GetItemData(nRow));
-    return CStubRef<IAtom>::Share(pPair ? pPair->pAtom : nullptr);
-}
-
 void CEditorList::FocusSelection()
 {
     const int nRow = GetNextItem(-1, LVNI_SELECTED);
     if (nRow < 0)
         return;
     SetItemState(nRow, LVIS_FOCUSED, LVIS_FOCUSED);
-    EnsureVisible(nRow, FALSE);
+    m_view.EnsureVisible(nRow, FALSE);
 }
 
 CEditorList::State CEditorList::Remember() const
@@ -49,12 +35,25 @@ CEditorList::State CEditorList::Remember() const
     state.nFocused = GetFocusedRow();
     state.pFocused = GetAtom(state.nFocused);
     SCROLLINFO scroll{};
-    if (::GetScrollInfo(m_hWnd, SB_VERT, &scroll))
+    if (::GetScrollInfo(GetSafeHwnd(), SB_VERT, &scroll))
         state.nScrolled = scroll.nPos;
     return state;
 }
 
 void CEditorList::Restore(const State& state)
+{
+    RestoreStates(state);
+    m_view.SendMessage(LVM_SCROLL, 0, state.nScrolled);
+}
+
+void CEditorList::RestoreRows(const State& state)
+{
+    RestoreStates(state);
+    if (const int nFocused = GetFocusedRow(); nFocused >= 0)
+        m_view.EnsureVisible(nFocused, FALSE);
+}
+
+void CEditorList::RestoreStates(const State& state)
 {
     if (state.bAllSelected)
         SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
@@ -68,32 +67,31 @@ void CEditorList::Restore(const State& state)
     }
     if (nFocused >= 0)
         SetItemState(nFocused, LVIS_FOCUSED, LVIS_FOCUSED);
-    SendMessage(LVM_SCROLL, 0, state.nScrolled);
 }
 
-BOOL CEditorList::PreCreateWindow(CREATESTRUCT& cs)
+std::vector<CStubRef<IAtom>> CEditorList::AtomsInSight() const
 {
-    if (!CIconList::PreCreateWindow(cs))
-        return FALSE;
-    cs.dwExStyle &= ~WS_EX_CLIENTEDGE;
-    return TRUE;
+    std::vector<CStubRef<IAtom>> atoms;
+    CRect client, row;
+    m_view.GetClientRect(&client);
+    for (int i = m_view.GetTopIndex(); GetItemRect(i, &row, LVIR_ICON) && row.top < client.bottom; ++i)
+        atoms.push_back(GetAtom(i));
+    std::sort(atoms.begin(), atoms.end(), [](const auto& a, const auto& b) { return std::less<>()(a.Get(), b.Get()); });
+    return atoms;
 }
 
 // Only where the ground is new: text drawn twice would come out bolder.
-void CEditorList::OnPaint()
+void CEditorList::DrawEmptyText(const CRect& dirty) const
 {
-    CRect dirty;
-    const BOOL bDirty = ::GetUpdateRect(m_hWnd, &dirty);
-    CIconList::OnPaint();
-    if (!bDirty || GetItemCount() > 0)
+    if (GetItemCount() > 0)
         return;
     CRect client;
-    GetClientRect(&client);
+    m_view.GetClientRect(&client);
     client.DeflateRect(2 * kSpace, 0);
-    const HDC hdc = ::GetDC(m_hWnd);
+    const HDC hdc = ::GetDC(GetSafeHwnd());
     IntersectClipRect(hdc, dirty);
-    DrawTextLine(hdc, client, m_ask(), GetSysColor(COLOR_GRAYTEXT), Align::Center);
-    ::ReleaseDC(m_hWnd, hdc);
+    DrawTextLine(hdc, client, m_events.askEmptyText(), GetSysColor(COLOR_GRAYTEXT), Align::Center);
+    ::ReleaseDC(GetSafeHwnd(), hdc);
 }
 
 } // namespace editor

@@ -1,22 +1,48 @@
-// The icon list as the frame uses it.
+// A list view as the frame uses it, whatever its rows look like.
 #pragma once
 
-#include "Views/list/IconList.h"
+#include "Views/host/StubRef.h"
+#include "Views/list/list.h"
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace editor
 {
 
-class CEditorList : public CIconList
+bool IsAmong(const std::vector<CStubRef<IAtom>>& sorted, IAtom* pAtom); // sorted by address
+
+// What the frame adds to a list view. One list of the frame is active at a time; the others hear what is entered
+// without showing it, and cost nothing.
+class CEditorList
 {
 public:
-    // `ask` gives the text for the middle of a list without rows.
-    explicit CEditorList(std::function<std::string()> ask) : m_ask(std::move(ask)) {}
-    ~CEditorList() override { DestroyWindow(); }
+    struct Events
+    {
+        std::function<std::string()> askEmptyText; // for the middle of a list without rows
+        std::function<void()> painted;             // rows have come into sight, and may have wished for pictures
+    };
 
-    CStubRef<IAtom> GetAtom(int nRow) const; // empty without such a row
+    virtual ~CEditorList() = default;
+    CEditorList(const CEditorList&) = delete;
+    CEditorList& operator=(const CEditorList&) = delete;
+
+    virtual CStubRef<IAtom> GetAtom(int nRow) const = 0; // empty without such a row
+    virtual void Activate(IAtom* pContainer) = 0;        // shows it; for NULL, what is entered next
+    virtual void Deactivate() = 0;                       // lets go of all rows and of the pane
+    virtual CSize PictureSize() const = 0;               // at which rows wish for pictures
+    std::vector<CStubRef<IAtom>> AtomsInSight() const;   // sorted by address
+
+    HWND GetSafeHwnd() const { return m_view.GetSafeHwnd(); }
+    BOOL IsWindowVisible() const { return m_view.IsWindowVisible(); }
+    void SetFocus() { m_view.SetFocus(); }
+    int GetItemCount() const { return m_view.GetItemCount(); }
+    int GetSelectedCount() const { return m_view.GetSelectedCount(); }
+    int GetNextItem(int nItem, UINT nFlags) const { return m_view.GetNextItem(nItem, nFlags); }
+    UINT GetItemState(int nItem, UINT nMask) const { return m_view.GetItemState(nItem, nMask); }
+    BOOL SetItemState(int nItem, UINT nState, UINT nMask) { return m_view.SetItemState(nItem, nState, nMask); }
+    BOOL GetItemRect(int nItem, RECT* pRect, int nArea) const { return m_view.GetItemRect(nItem, pRect, nArea); }
     int GetFocusedRow() const { return GetNextItem(-1, LVNI_FOCUSED); }
     bool AreAllSelected() const { return GetItemCount() > 0 && GetSelectedCount() == GetItemCount(); }
 
@@ -35,15 +61,78 @@ public:
     };
     State Remember() const;
     void Restore(const State& state);
+    void RestoreRows(const State& state); // selection and focus; the focused row is scrolled into view
 
 protected:
-    BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
+    CEditorList(CListCtrl& view, Events events) : m_view(view), m_events(std::move(events)) {}
 
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void DrawEmptyText(const CRect& dirty) const;
+    const Events& GetEvents() const { return m_events; }
 
 private:
-    const std::function<std::string()> m_ask;
+    void RestoreStates(const State& state);
+
+    CListCtrl& m_view; // this very object
+    const Events m_events;
 };
+
+template <class View>
+class CEditorListOf final : public View, public CEditorList
+{
+public:
+    CEditorListOf(CSize picture, Events events) : CEditorList(*this, std::move(events)), m_picture(picture) {}
+    ~CEditorListOf() override { View::DestroyWindow(); }
+
+    CStubRef<IAtom> GetAtom(int nRow) const override
+    {
+        const auto* const pPair = reinterpret_cast<const OBJPAIR*>(View::GetItemData(nRow));
+        return CStubRef<IAtom>::Share(pPair ? pPair->pAtom : nullptr);
+    }
+    void Activate(IAtom* pContainer) override
+    {
+        m_bActive = true;
+        if (pContainer)
+            View::OnAtomEntered(pContainer, nullptr);
+    }
+    void Deactivate() override
+    {
+        m_bActive = false;
+        View::OnAtomEntered(nullptr, nullptr);
+    }
+    CSize PictureSize() const override { return m_picture; }
+
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override
+    {
+        return m_bActive ? View::OnAtomEntered(pAtom, pContainer) : TRUE;
+    }
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override
+    {
+        if (!View::PreCreateWindow(cs))
+            return FALSE;
+        cs.dwExStyle &= ~WS_EX_CLIENTEDGE; // the pane has the edges
+        return TRUE;
+    }
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        CRect dirty;
+        const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
+        const LRESULT nResult = View::WindowProc(message, wParam, lParam);
+        if (bPaints) {
+            DrawEmptyText(dirty);
+            GetEvents().painted();
+        }
+        return nResult;
+    }
+
+private:
+    const CSize m_picture;
+    bool m_bActive = false;
+};
+
+using CEditorIcons = CEditorListOf<CIconList>;
+using CEditorThumbnails = CEditorListOf<CThumbList>;
 
 } // namespace editor

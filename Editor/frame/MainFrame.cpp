@@ -1,6 +1,8 @@
 #include "Editor/frame/MainFrame.h"
 
 #include "Editor/frame/Look.h"
+#include "Editor/pictures/IconPainter.h"
+#include "Editor/resources/EditorResources.h"
 
 #include <utility>
 
@@ -30,7 +32,8 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
-      m_list([this] { return DescribeEmptyList(); }),
+      m_icons(PictureSizeFor({kIconExtent, kIconExtent}), ListEvents()),
+      m_thumbnails({kThumbnailExtent, kThumbnailExtent}, ListEvents()),
       m_picture(pictures),
       m_statusBar([this] { return GetStatus(); })
 {}
@@ -132,7 +135,7 @@ LRESULT CMainFrame::OnSelectRenamed(WPARAM, LPARAM)
     std::vector<CStubRef<IAtom>> atoms;
     atoms.push_back(CStubRef<IAtom>::Share(pRenamed.Get()));
     m_commands.Select(atoms, pRenamed->Container());
-    m_list.FocusSelection();
+    m_pList->FocusSelection();
     return 0;
 }
 
@@ -140,13 +143,16 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
-    // The frame hears of everything first; the list, when it is registered before the tree, shows what was entered
-    // by the time that the tree selects it.
+    // The frame hears of everything first; the lists, registered before the tree, show what was entered by the time
+    // that the tree selects it.
     m_editor.SetFrame(this);
+    m_pList->Activate(nullptr);
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
                        m_listPane.Create(this) && m_picturePane.Create(this) && m_statusBar.Create(this) &&
-                       m_list.Create(&m_listPane) && m_tree.Create(&m_treePane) && m_picture.Create(&m_picturePane);
+                       m_icons.Create(&m_listPane) && m_thumbnails.Create(&m_listPane) && m_tree.Create(&m_treePane) &&
+                       m_picture.Create(&m_picturePane);
+    OfferLists();
     return bMade ? 0 : -1;
 }
 

@@ -30,7 +30,7 @@ public:
     void ShowLibrary(CLibrary* pLibrary); // in place of the one before
     CEditorTree& GetTree() { return m_tree; }
     CSplitter& GetSplitter() { return m_splitter; }
-    CEditorList& GetList() { return m_list; }
+    CEditorList& GetList() { return *m_pList; } // the one that is shown, or will be
     CPathBar& GetPathBar() { return m_pathBar; }
     CPictureView& GetPictureView() { return m_picture; }
     Status GetStatus() const; // what the status bar says
@@ -40,6 +40,12 @@ public:
     void OpenFocused(); // the list's focused row
     void Refresh();     // reads what is shown anew
     void FocusNextPane();
+    enum class ListKind
+    {
+        Icons,
+        Thumbnails
+    };
+    void ShowList(ListKind kind);                     // with the selection of the one before
     void GoTo(CMember* pMember);                      // opens it, whatever it is
     CMember* Shown() const { return m_pShown.Get(); } // the container, or the picture shown in its place; or NULL
     CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
@@ -96,6 +102,9 @@ private:
     CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
     void MoveSplitter(int x);
+    CEditorList::Events ListEvents();
+    void OfferLists();
+    void ForgetUnseenPictures();
     void FocusContent(); // the pane at the right
     void ShowPicture(CMember* pMember);
     void HidePicture();
@@ -118,7 +127,9 @@ private:
     CPane m_treePane, m_listPane, m_picturePane;
     CSplitter m_splitter;
     int m_nTreeWidth = PaneLayout::kUsualTree; // what the user wants, if there is room
-    CEditorList m_list;
+    CEditorIcons m_icons;
+    CEditorThumbnails m_thumbnails;
+    CEditorList* m_pList = &m_icons; // the active one
     CEditorTree m_tree;
     CPictureView m_picture;
     CStatusBar m_statusBar;

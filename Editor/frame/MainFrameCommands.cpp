@@ -47,6 +47,10 @@ bool CMainFrame::HandleControlKey(UINT vkey)
         CutSelection();
     else if (vkey == 'V')
         PasteHere();
+    else if (vkey == '1')
+        ShowList(ListKind::Icons);
+    else if (vkey == '2')
+        ShowList(ListKind::Thumbnails);
     else
         return false;
     return true;
@@ -96,7 +100,7 @@ std::string CMainFrame::Paste()
 {
     const auto pTarget = CStubRef<CContainer>::Share(ShownContainer());
     std::string reason = m_commands.Paste(pTarget.Get());
-    m_list.FocusSelection();
+    m_pList->FocusSelection();
     return reason;
 }
 
@@ -105,11 +109,11 @@ template <class Change>
 std::string CMainFrame::ChangeSelection(Change change)
 {
     const auto pShown = CStubRef<CMember>::Share(Shown());
-    const CEditorList::State state = m_list.Remember();
+    const CEditorList::State state = m_pList->Remember();
     std::string reason = change();
     LeaveWhatIsGone();
     if (Shown() == pShown.Get() && !IsPictureShown())
-        m_list.Restore(state);
+        m_pList->Restore(state);
     UpdateStatus();
     return reason;
 }

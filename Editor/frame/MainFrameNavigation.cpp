@@ -17,7 +17,7 @@ void CMainFrame::GoToTop()
 
 void CMainFrame::OpenFocused()
 {
-    const CStubRef<IAtom> pAtom = m_list.GetAtom(m_list.GetFocusedRow());
+    const CStubRef<IAtom> pAtom = m_pList->GetAtom(m_pList->GetFocusedRow());
     if (CMember* const pMember = CMember::Of(pAtom.Get()))
         GoTo(pMember);
 }
@@ -30,10 +30,10 @@ void CMainFrame::Refresh()
     const auto pContainer = CStubRef<CContainer>::Share(dynamic_cast<CContainer*>(Shown()));
     if (!pContainer)
         return;
-    const CEditorList::State state = m_list.Remember();
+    const CEditorList::State state = m_pList->Remember();
     pContainer->ReadAgain();
     m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer.Get(), 0);
-    m_list.Restore(state);
+    m_pList->Restore(state);
     UpdateStatus();
 }
 
@@ -48,7 +48,7 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 bool CMainFrame::HandleKey(HWND hWnd, UINT vkey, bool bAlt)
 {
     const bool bTree = hWnd == m_tree.m_hWnd;
-    const bool bContent = hWnd == m_hWnd || hWnd == m_list.m_hWnd || hWnd == m_picture.m_hWnd;
+    const bool bContent = hWnd == m_hWnd || hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.m_hWnd;
     if (vkey == VK_ESCAPE && m_splitter.IsDragged())
         return m_splitter.CancelDrag(), true;
     if (bAlt)
@@ -104,7 +104,7 @@ void CMainFrame::GoBackTo(CContainer* pContainer)
     if (!pFrom)
         return;
     m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, pFrom, pContainer, 0);
-    m_list.FocusSelection();
+    m_pList->FocusSelection();
 }
 
 void CMainFrame::GoToPart(int nPart)

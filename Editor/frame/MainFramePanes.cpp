@@ -77,12 +77,52 @@ void CMainFrame::HidePicture()
     m_picturePane.HideView();
 }
 
+CEditorList::Events CMainFrame::ListEvents()
+{
+    return {[this] { return DescribeEmptyList(); }, [this] { ForgetUnseenPictures(); }};
+}
+
+void CMainFrame::OfferLists()
+{
+    m_listPane.SetChoices(
+        {GetPictogram(Pictogram::IconPane, kPaneIconExtent), GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent)},
+        [this](int nChoice) { ShowList(static_cast<ListKind>(nChoice)); });
+}
+
+void CMainFrame::ShowList(ListKind kind)
+{
+    CEditorList& next = kind == ListKind::Icons ? static_cast<CEditorList&>(m_icons) : m_thumbnails;
+    CEditorList& former = *m_pList;
+    if (&next == &former)
+        return;
+    const CEditorList::State state = former.Remember();
+    const bool bFocused = ::GetFocus() == former.GetSafeHwnd();
+    m_pList = &next;
+    m_listPane.SetChosen(static_cast<int>(kind));
+    former.Deactivate();
+    next.Activate(IsPictureShown() ? nullptr : Shown());
+    next.RestoreRows(state);
+    if (bFocused)
+        next.SetFocus();
+    m_pictures.SendAwayUnseen(former.PictureSize(), [](IAtom*) { return false; });
+    UpdateStatus();
+}
+
+// What was scrolled past is not worth reading. The tree's pictures are few, and small: it wishes for them again.
+void CMainFrame::ForgetUnseenPictures()
+{
+    if (m_pictures.IsIdle())
+        return;
+    const std::vector<CStubRef<IAtom>> seen = m_pList->AtomsInSight();
+    m_pictures.SendAwayUnseen(m_pList->PictureSize(), [&](IAtom* pAtom) { return IsAmong(seen, pAtom); });
+}
+
 void CMainFrame::FocusContent()
 {
     if (IsPictureShown())
         m_picture.SetFocus();
-    else if (m_list.IsWindowVisible())
-        m_list.SetFocus();
+    else if (m_pList->IsWindowVisible())
+        m_pList->SetFocus();
 }
 
 void CMainFrame::FocusNextPane()

@@ -40,12 +40,12 @@ Status CMainFrame::DescribePicture() const
 
 Status CMainFrame::DescribeList() const
 {
-    const int nSelected = m_list.GetSelectedCount();
-    std::string text = CountText(m_list.GetItemCount());
+    const int nSelected = m_pList->GetSelectedCount();
+    std::string text = CountText(m_pList->GetItemCount());
     if (nSelected > 0)
         text += ", " + std::to_string(nSelected) + " selected";
     if (nSelected == 1) {
-        const CStubRef<IAtom> pAtom = m_list.GetAtom(m_list.GetNextItem(-1, LVNI_SELECTED));
+        const CStubRef<IAtom> pAtom = m_pList->GetAtom(m_pList->GetNextItem(-1, LVNI_SELECTED));
         if (const CMember* const pMember = CMember::Of(pAtom.Get()))
             return Describe(std::move(text), *pMember, m_pictures);
     }

@@ -13,6 +13,7 @@ BEGIN_MESSAGE_MAP(CPane, CWnd)
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
 
 BOOL CPane::Create(CWnd* pParent)
@@ -37,6 +38,29 @@ void CPane::HideView()
     ShowWindow(SW_HIDE);
 }
 
+void CPane::SetChoices(std::vector<toolkit::Surface> icons, std::function<void(int)> choose)
+{
+    m_choices = std::move(icons);
+    m_choose = std::move(choose);
+    Invalidate();
+}
+
+void CPane::SetChosen(int nChoice)
+{
+    m_nChosen = nChoice;
+    Invalidate();
+}
+
+CRect CPane::ChoiceRect(int nChoice) const
+{
+    constexpr int kExtent = 3 * kSpace;
+    CRect client;
+    GetClientRect(&client);
+    const int left = client.right - kSpace - (static_cast<int>(m_choices.size()) - nChoice) * kExtent;
+    const int top = (kPaneCaptionHeight - kExtent) / 2;
+    return {left, top, left + kExtent, top + kExtent};
+}
+
 BOOL CPane::OnEraseBkgnd(HDC hdc)
 {
     CRect client;
@@ -55,8 +79,19 @@ void CPane::OnPaint()
     CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Width(), caption.bottom);
     DrawCentred(dc, icon, m_icon);
     caption.left = icon.right + kSpace;
-    caption.right -= kSpace;
+    caption.right = (m_choices.empty() ? caption.right : ChoiceRect(0).left) - kSpace;
     DrawTextLine(dc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
+    DrawChoices(dc);
+}
+
+void CPane::DrawChoices(HDC hdc) const
+{
+    for (int i = 0; i < static_cast<int>(m_choices.size()); ++i) {
+        const CRect rect = ChoiceRect(i);
+        if (i == m_nChosen)
+            FillSolidRect(hdc, rect, PressedColor());
+        DrawCentred(hdc, rect, m_choices[static_cast<std::size_t>(i)]);
+    }
 }
 
 void CPane::OnSize(UINT nType, int cx, int cy)
@@ -69,6 +104,14 @@ void CPane::OnSetFocus(CWnd* pOldWnd)
 {
     CWnd::OnSetFocus(pOldWnd);
     ::SetFocus(m_hView);
+}
+
+void CPane::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    CWnd::OnLButtonDown(nFlags, point);
+    for (int i = 0; i < static_cast<int>(m_choices.size()); ++i)
+        if (i != m_nChosen && ChoiceRect(i).PtInRect(point))
+            return m_choose(i);
 }
 
 void CPane::PlaceView()

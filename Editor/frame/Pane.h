@@ -4,7 +4,9 @@
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/window/Wnd.h"
 
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace editor
 {
@@ -22,20 +24,31 @@ public:
     void ShowView(HWND hView, std::string caption, toolkit::Surface icon);
     void HideView();
 
+    // Buttons at the caption's right end, one of which is down; the first one at first. `choose` is called when another
+    // is pressed.
+    void SetChoices(std::vector<toolkit::Surface> icons, std::function<void(int nChoice)> choose);
+    void SetChosen(int nChoice);
+    CRect ChoiceRect(int nChoice) const; // client
+
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
     void PlaceView();
+    void DrawChoices(HDC hdc) const;
 
     const int m_nMargin;
     HWND m_hView = nullptr;
     std::string m_caption;
     toolkit::Surface m_icon;
+    std::vector<toolkit::Surface> m_choices; // what is on the buttons
+    std::function<void(int)> m_choose;
+    int m_nChosen = 0;
 };
 
 } // namespace editor

@@ -27,10 +27,11 @@ inline constexpr UINT IDR_TREE_PANE = 1007;
 inline constexpr UINT IDR_ICON_PANE = 1008; // icon and caption, this one and the next
 inline constexpr UINT IDR_THUMBNAIL_PANE = 1009;
 
-inline constexpr int kMarkExtent = 16;     // of the mark on a thumbnail
-inline constexpr int kIconExtent = 48;     // of a row's picture
-inline constexpr int kPaneIconExtent = 16; // of a pane's icon
-inline constexpr int kTreeIconExtent = 16; // of a tree item's
+inline constexpr int kMarkExtent = 16;      // of the mark on a thumbnail
+inline constexpr int kIconExtent = 48;      // of a row's picture
+inline constexpr int kThumbnailExtent = 80; // of what is drawn of a thumbnail
+inline constexpr int kPaneIconExtent = 16;  // of a pane's icon
+inline constexpr int kTreeIconExtent = 16;  // of a tree item's
 
 // Fills the module with all of them.
 void AddEditorResources(CResourceModule& module);

@@ -17,17 +17,12 @@ constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
 } // namespace
 
 const Script::Command Script::kCommands[] = {
-    {"open", 1, 1, &Script::Open},
-    {"enter", 1, 1, &Script::Enter},
-    {"select", 0, kAny, &Script::Select},
-    {"copy", 0, 0, &Script::Copy},
-    {"cut", 0, 0, &Script::Cut},
-    {"paste", 0, 0, &Script::Paste},
-    {"delete", 0, 0, &Script::Delete},
-    {"rename", 2, 2, &Script::Rename},
-    {"list", 0, 0, &Script::List},
-    {"refresh", 0, 0, &Script::Refresh},
-    {"screenshot", 1, 1, &Script::TakeScreenshot},
+    {"open", 1, 1, &Script::Open},        {"enter", 1, 1, &Script::Enter},
+    {"select", 0, kAny, &Script::Select}, {"copy", 0, 0, &Script::Copy},
+    {"cut", 0, 0, &Script::Cut},          {"paste", 0, 0, &Script::Paste},
+    {"delete", 0, 0, &Script::Delete},    {"rename", 2, 2, &Script::Rename},
+    {"view", 1, 1, &Script::View},        {"list", 0, 0, &Script::List},
+    {"refresh", 0, 0, &Script::Refresh},  {"screenshot", 1, 1, &Script::TakeScreenshot},
 };
 
 std::string ScriptHelp()
@@ -42,6 +37,7 @@ std::string ScriptHelp()
            "  paste              what was copied or cut, into what is shown\n"
            "  rename NAME NEW    give an object another name\n"
            "  refresh            read what is shown anew\n"
+           "  view AS            show objects as \"icons\" or as \"thumbnails\"\n"
            "  list               print the names of the objects that are shown\n"
            "  screenshot PNG     write a picture of the window\n";
 }
@@ -172,6 +168,16 @@ std::string Script::Rename(const Words& words)
     CStubRef<CMember> pMember;
     std::string reason = Find(words[0], pMember);
     return reason.empty() ? Frame().GetCommands().Rename(pMember.Get(), words[1]) : reason;
+}
+
+std::string Script::View(const Words& words)
+{
+    using ListKind = CMainFrame::ListKind;
+    const bool bIcons = words[0] == "icons";
+    if (!bIcons && words[0] != "thumbnails")
+        return words[0] + ": neither icons nor thumbnails";
+    Frame().ShowList(bIcons ? ListKind::Icons : ListKind::Thumbnails);
+    return {};
 }
 
 std::string Script::List(const Words&)

@@ -53,6 +53,7 @@ private:
     std::string Paste(const Words& words);
     std::string Delete(const Words& words);
     std::string Rename(const Words& words);
+    std::string View(const Words& words);
     std::string List(const Words& words);
     std::string Refresh(const Words& words);
     std::string TakeScreenshot(const Words& words);

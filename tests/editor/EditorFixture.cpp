@@ -3,6 +3,9 @@
 #include "Editor/frame/Look.h"
 #include "Editor/model/LiveObjects.h"
 
+// The brush behind thumbnails stays from the first list on: it is no leak of a test.
+static const bool s_brushMade = (CThumbList(), true);
+
 EditorTest::EditorTest() : m_nLive(editor::g_nLiveObjects)
 {
     editor::EditorApp::Options options;
