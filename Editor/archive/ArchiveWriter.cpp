@@ -39,12 +39,13 @@ public:
     // What lies at `path` below the folder (AT_FDCWD: anywhere), and how a message names it.
     Entry(int nFolder, const std::string& path, std::string shown) : m_shown(std::move(shown)), m_name(BaseName(path))
     {
-        if (fstatat(nFolder, path.c_str(), &m_status, 0) != 0)
-            m_trouble = SystemErrorText(errno);
-        else if (!S_ISREG(m_status.st_mode) && !S_ISDIR(m_status.st_mode))
+        const bool bThere = fstatat(nFolder, path.c_str(), &m_status, 0) == 0;
+        const bool bWanted = bThere && (S_ISREG(m_status.st_mode) || S_ISDIR(m_status.st_mode));
+        if (bWanted) // opening anything else may have consequences
+            m_fd = FileHandle(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+        if (bThere && !bWanted)
             m_trouble = "neither a file nor a folder";
-        else if (m_fd = FileHandle(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
-                 !m_fd || fstat(m_fd.Get(), &m_status) != 0)
+        else if (!m_fd || fstat(m_fd.Get(), &m_status) != 0)
             m_trouble = SystemErrorText(errno);
     }
 

@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <new>
 #include <sys/random.h>
 #include <sys/stat.h>
 
@@ -41,11 +42,13 @@ TempEntry::TempEntry(const std::string& folder)
 }
 
 TempEntry::~TempEntry()
-{
+try {
     if (m_name.empty() || !m_fd || unlinkat(m_fd.Get(), m_name.c_str(), 0) == 0 || errno == ENOENT)
         return;
     std::error_code ignored;
     std::filesystem::remove_all(m_folder + '/' + m_name, ignored);
+} catch (const std::bad_alloc&) {
+    return; // it stays, hidden, as after a crash
 }
 
 bool TempEntry::IsLeftOver(std::string_view name)

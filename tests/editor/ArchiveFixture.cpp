@@ -3,7 +3,7 @@
 #include "Editor/archive/Archive.h"
 #include "Editor/archive/MemoryStream.h"
 
-#include <cstring>
+#include <algorithm>
 
 ArchiveTest::ArchiveTest()
 {
@@ -35,7 +35,7 @@ CStubRef<IArchive> ArchiveTest::MakeArchive(std::string_view bytes)
     const auto pStream = CStubRef<IByteStream>::Adopt(new editor::CMemoryStream);
     pStream->Seek(static_cast<DWORD>(bytes.size()), 0);
     pStream->SetEnd();
-    std::memcpy(pStream->GetData(), bytes.data(), bytes.size());
+    std::copy(bytes.begin(), bytes.end(), static_cast<char*>(pStream->GetData()));
     auto pArchive = CStubRef<IArchive>::Adopt(new editor::CArchive);
     pArchive->SetStream(pStream.Get());
     return pArchive;

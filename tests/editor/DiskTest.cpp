@@ -1,5 +1,6 @@
 #include "tests/editor/ArchiveFixture.h"
 #include "tests/editor/AsNobody.h"
+#include "tests/support/AllocationFailures.h"
 
 #include <csignal>
 #include <fcntl.h>
@@ -260,6 +261,42 @@ TEST_F(DiskTest, WhatIsRemovedIsInTheTrashAndItsAtomGoes)
     EXPECT_EQ(0u, Library()->GetPermissions(pA.Get()));
     EXPECT_EQ("a.bmp", Name(pA.Get()));
     EXPECT_EQ("x", trash.folder.Read("Trash/files/Ada/x.bmp"));
+}
+
+TEST_F(DiskTest, WithoutMemoryACopyIsWholeOrNotThereAndNothingIsLeftBehind)
+{
+    folder.WriteBmp("Ada/Poses/b.bmp");
+    folder.Write("Ada/walk.phase", "Poses/b.bmp\n");
+    folder.MakeFolder("Bo");
+    Open();
+    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
+    const std::string original = folder.Everything();
+    const auto pPoses = Find(pAda.Get(), "Poses"), pWalk = Find(pAda.Get(), "walk.phase");
+    const auto pArchive = Copy({pPoses.Get(), pWalk.Get()});
+    EXPECT_LT(0, FailEveryAllocation([&] {
+                  const BOOL bWritten = editor.WriteActiveObjects(pArchive.Get());
+                  EXPECT_EQ(bWritten != FALSE, pArchive->GetLength() > 0);
+              }));
+    const ARCHIVEATOMPROC add = [](IAtom* pAtom, void* pInto) -> BOOL {
+        char name[32];
+        DWORD length = sizeof name;
+        pAtom->GetName(name, &length);
+        CStubRef<IAtom> pNew;
+        static_cast<IAtomContainer*>(pInto)->AddAtom(pAtom, 0, name, pNew.Receive(), IID_IAtom);
+        return TRUE;
+    };
+    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
+        folder.Remove("Bo/Poses");
+        folder.Remove("Bo/walk.phase");
+        {
+            const FailAllocation fail(nth);
+            editor.ReadArchive(add, pArchive.Get(), pBo.Get());
+        }
+        const std::string pasted = folder.Read("Bo/Poses/b.bmp");
+        EXPECT_TRUE(!std::filesystem::exists(folder.At("Bo/Poses")) || pasted == folder.Read("Ada/Poses/b.bmp")) << nth;
+    }
+    EXPECT_EQ(original + " Bo/Poses/ Bo/Poses/b.bmp Bo/walk.phase", folder.Everything());
+    EXPECT_EQ("[Poses/ walk.phase>]", Members(pBo.Get()));
 }
 
 TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
