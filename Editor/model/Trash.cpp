@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <vector>
 
 namespace editor
 {
@@ -88,21 +89,17 @@ std::string SharedTrash(const std::string& top)
     return path + '/' + std::to_string(geteuid());
 }
 
-// The trash for what lies in the folder; without a path when there is none.
-Trash FindTrash(const std::string& folder)
+// Where a trash for what lies in the folder may be, the best first.
+std::vector<Trash> TrashesFor(const std::string& folder, dev_t device)
 {
-    struct stat status;
-    if (lstat(folder.c_str(), &status) != 0)
-        return {};
-    const std::string home = DataHome();
-    if (!home.empty() && MakeFolders(home + "/Trash") && IsSameDevice(home + "/Trash", status.st_dev))
-        return {home + "/Trash", {}};
-    const std::string top = TopOf(folder, status.st_dev);
-    for (const std::string& path :
-         {SharedTrash(top), (fs::path(top) / (".Trash-" + std::to_string(geteuid()))).string()})
-        if (!path.empty() && MakeFolders(path) && IsSameDevice(path, status.st_dev))
-            return {path, top};
-    return {};
+    std::vector<Trash> trashes;
+    if (const std::string home = DataHome(); !home.empty())
+        trashes.push_back({home + "/Trash", {}});
+    const std::string top = TopOf(folder, device);
+    if (const std::string shared = SharedTrash(top); !shared.empty())
+        trashes.push_back({shared, top});
+    trashes.push_back({fs::path(top) / (".Trash-" + std::to_string(geteuid())), top});
+    return trashes;
 }
 
 std::string PercentEncoded(std::string_view path)
@@ -151,18 +148,14 @@ bool Exists(const std::string& path)
     return lstat(path.c_str(), &status) == 0;
 }
 
-} // namespace
-
-TrashResult MoveToTrash(const std::string& path)
+// Names that are in the trash already are counted up. The error number; 0: it is there.
+int PutUnderFreeName(const Trash& trash, const std::string& path)
 {
     const fs::path file(path);
-    const Trash trash = FindTrash(file.parent_path().string());
-    if (trash.path.empty())
-        return {"not removed, there is no trash on its file system", true};
     const std::string ending = file.extension().string();
     const std::string extension = ending.size() <= kLongestEnding ? ending : std::string();
     const std::string name = file.filename().string();
-    const std::string base(Shortened(std::string_view(name).substr(0, name.size() - extension.size()), kLongestStem));
+    const std::string stem(Shortened(std::string_view(name).substr(0, name.size() - extension.size()), kLongestStem));
     const auto isTaken = [&](std::string_view candidate) {
         const std::string taken(candidate);
         return Exists(trash.path + "/files/" + taken) ||
@@ -170,8 +163,26 @@ TrashResult MoveToTrash(const std::string& path)
     };
     int error = EEXIST;
     while (error == EEXIST)
-        error = PutInto(trash, path, NameForCopy(base + extension, extension, isTaken));
-    return {error == 0 ? std::string() : SystemErrorText(error), error == EXDEV};
+        error = PutInto(trash, path, NameForCopy(stem + extension, extension, isTaken));
+    return error;
+}
+
+} // namespace
+
+TrashResult MoveToTrash(const std::string& path)
+{
+    const std::string folder = fs::path(path).parent_path().string();
+    struct stat status;
+    if (lstat(folder.c_str(), &status) != 0)
+        return {SystemErrorText(errno), false};
+    for (const Trash& trash : TrashesFor(folder, status.st_dev)) {
+        if (!MakeFolders(trash.path) || !IsSameDevice(trash.path, status.st_dev))
+            continue;
+        const int error = PutUnderFreeName(trash, path);
+        if (error != EXDEV) // one file system mounted twice counts as two
+            return {error == 0 ? std::string() : SystemErrorText(error), false};
+    }
+    return {"not removed, there is no trash on its file system", true};
 }
 
 PermanentRemoval::PermanentRemoval()
