@@ -1,0 +1,175 @@
+// How long the editor leaves an input unanswered while the user scrolls through a folder of photographs whose
+// thumbnails are being read meanwhile.
+//
+// A thread turns the wheel in a steady beat, whatever the editor does. An input counts as answered when the list has
+// scrolled by it; its wait begins when it was put into Qt's queue. Prints the waits of all inputs.
+#include "Editor/EditorApp.h"
+#include "Editor/app/QtPictureReader.h"
+#include "Editor/frame/MainFrame.h"
+#include "QtDesktop/QtDesktop.h"
+
+#include <QApplication>
+#include <QImage>
+#include <QWheelEvent>
+#include <QWidget>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <mutex>
+#include <thread>
+#include <vector>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+using Clock = std::chrono::steady_clock;
+
+constexpr int kPictures = 10'000;
+constexpr int kDifferent = 20; // the others are links to these
+constexpr int kInputs = 800;
+constexpr auto kBeat = std::chrono::milliseconds(10);
+constexpr int kTurn = -240; // two notches down: 800 of them nearly reach the end
+
+class Photographs
+{
+public:
+    Photographs()
+    {
+        std::string name = (fs::temp_directory_path() / "input-wait-XXXXXX").string();
+        if (!mkdtemp(name.data()))
+            throw std::runtime_error("no temporary folder");
+        m_path = name;
+        for (int i = 0; i < kPictures; ++i) {
+            const fs::path path = Path(i);
+            if (i < kDifferent)
+                Photograph(i).save(QString::fromStdString(path.string()), "jpg", 85);
+            else
+                fs::create_hard_link(Path(i % kDifferent), path);
+        }
+    }
+    ~Photographs() { fs::remove_all(m_path); }
+    Photographs(const Photographs&) = delete;
+    Photographs& operator=(const Photographs&) = delete;
+
+    std::string Folder() const { return m_path.string(); }
+
+private:
+    fs::path Path(int i) const { return m_path / (std::to_string(10'000 + i) + ".jpg"); }
+
+    static QImage Photograph(int i)
+    {
+        QImage image(1024, 768, QImage::Format_RGB32);
+        unsigned noise = static_cast<unsigned>(i);
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                noise = noise * 1664525u + 1013904223u;
+                image.setPixel(x, y, qRgb(x / 4, (y / 3 + 12 * i) & 255, 96 + static_cast<int>(noise >> 27)));
+            }
+        return image;
+    }
+
+    fs::path m_path;
+};
+
+// Notes when inputs were put into the queue, and, after every event, how far the list has scrolled.
+class WatchedApplication : public QApplication
+{
+public:
+    using QApplication::QApplication;
+
+    // Turns once, which tells how far an input scrolls.
+    void Watch(HWND hList, QWidget& window)
+    {
+        Turn(window);
+        while (m_nStep == 0) {
+            processEvents();
+            m_nStep = Position(hList);
+        }
+        m_hList = hList;
+    }
+    void Turn(QWidget& window)
+    {
+        const QPointF at(window.width() - 60, window.height() / 2.0);
+        const std::lock_guard lock(m_mutex);
+        m_put.push_back(Clock::now());
+        postEvent(&window, new QWheelEvent(at, at, {}, QPoint(0, kTurn), Qt::NoButton, Qt::NoModifier,
+                                           Qt::NoScrollPhase, false));
+    }
+    const std::vector<double>& Waits() const { return m_waits; } // milliseconds
+
+    bool notify(QObject* pReceiver, QEvent* pEvent) override
+    {
+        const bool bResult = QApplication::notify(pReceiver, pEvent);
+        if (m_hList)
+            NoteAnswers();
+        return bResult;
+    }
+
+private:
+    static int Position(HWND hList)
+    {
+        SCROLLINFO info{};
+        ::GetScrollInfo(hList, SB_VERT, &info);
+        return info.nPos;
+    }
+
+    void NoteAnswers()
+    {
+        const auto nAnswered = static_cast<std::size_t>(Position(m_hList) / m_nStep);
+        const std::lock_guard lock(m_mutex);
+        while (m_waits.size() < std::min(nAnswered, m_put.size()))
+            m_waits.push_back(std::chrono::duration<double, std::milli>(Clock::now() - m_put[m_waits.size()]).count());
+        if (m_waits.size() == kInputs)
+            QMetaObject::invokeMethod(
+                this, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    }
+
+    HWND m_hList = nullptr;
+    int m_nStep = 0; // pixels for each input
+    std::mutex m_mutex;
+    std::vector<Clock::time_point> m_put;
+    std::vector<double> m_waits;
+};
+
+int RowsPassed(HWND hList)
+{
+    return static_cast<int>(::SendMessage(hList, LVM_GETTOPINDEX, 0, 0) +
+                            ::SendMessage(hList, LVM_GETCOUNTPERPAGE, 0, 0));
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    WatchedApplication application(argc, argv);
+    const Photographs photographs;
+    const editor::QtPictureReader reader;
+    qtdesktop::QtDesktop desktop;
+    editor::EditorApp editor(reader, {.size = {1280, 800}, .onClosed = {}});
+    if (const std::string error = editor.OpenFolder(photographs.Folder()); !error.empty())
+        return std::fprintf(stderr, "%s\n", error.c_str()), 1;
+    editor.GetFrame()->ShowList(editor::CMainFrame::ListKind::Thumbnails);
+    QCoreApplication::processEvents();
+
+    QWidget& window = *desktop.FindWidget(editor.GetMainWindow());
+    application.Watch(editor.GetFrame()->GetList().GetSafeHwnd(), window);
+    std::thread wheel([&] {
+        for (int i = 1; i < kInputs; ++i, std::this_thread::sleep_for(kBeat))
+            application.Turn(window);
+    });
+    application.exec();
+    wheel.join();
+
+    std::vector<double> waits = application.Waits();
+    std::sort(waits.begin(), waits.end());
+    std::printf(
+        "%zu inputs, %d ms apart, through %d of %d photographs: wait of half of them %.1f ms, of 99 %% %.1f ms, "
+        "longest %.1f ms\n",
+        waits.size(), static_cast<int>(kBeat.count()), RowsPassed(editor.GetFrame()->GetList().GetSafeHwnd()),
+        kPictures, waits[waits.size() / 2], waits[waits.size() * 99 / 100], waits.back());
+    return 0;
+}
