@@ -22,6 +22,10 @@ BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
     ON_WM_DESTROY()
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnDblclk)
     ON_NOTIFY_REFLECT(LVN_GETDISPINFO, OnObjectsGetDispinfo)
+    ON_WM_CONTEXTMENU()
+    ON_NOTIFY_REFLECT(LVN_BEGINLABELEDIT, OnBeginLabelEdit)
+    ON_NOTIFY_REFLECT(LVN_ENDLABELEDIT, OnEndLabelEdit)
+    ON_NOTIFY_REFLECT(LVN_BEGINDRAG, OnBeginDrag)
     ON_WM_RBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
     ON_WM_RBUTTONUP()
@@ -89,6 +93,7 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     m_bSync = TRUE;
     if (const auto pEditor = EditorToTell())
         m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    m_dropTarget.Register(this);
     UpdateIndexes();
     return 0;
 }
@@ -181,6 +186,7 @@ void CObjectsList::RemovePane()
 
 void CObjectsList::ClearContext()
 {
+    MoveLabelEdit(-1);
     UncacheAll();
     SetItemCount(0);
     m_pCache->RemoveAll();
@@ -224,4 +230,9 @@ CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
     if (!pPair)
         return {};
     return HELDPAIR::Share(pPair->pAtom, pPair->pContainer);
+}
+
+CStubRef<IAtomContainer> CObjectsList::ContainerInRow(int nItem) const
+{
+    return CStubRef<IAtomContainer>::From(HoldPair(nItem).pAtom.Get());
 }

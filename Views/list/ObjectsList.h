@@ -4,6 +4,7 @@
 #include "Toolkit/controls/ListCtrl.h"
 #include "Views/host/HeldPair.h"
 #include "Views/host/IAtom.h"
+#include "Views/list/ListDropTarget.h"
 #include "Views/list/ObjectsListCache.h"
 
 #include <vector>
@@ -84,6 +85,10 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnDblclk(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnObjectsGetDispinfo(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnBeginDrag(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
@@ -97,10 +102,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CListDropTarget;
+
     using HELDPAIR = views::HeldPair;
 
     OBJPAIR* PairAt(int nItem) const; // what GetItemData gives, NULL for 0
     HELDPAIR HoldPair(int nItem) const;
+    CStubRef<IAtomContainer> ShareContainer() const { return CStubRef<IAtomContainer>::Share(m_pContainer.Get()); }
+    CStubRef<IAtomContainer> ContainerInRow(int nItem) const; // the row's atom, if it is one
     bool IsShown(IAtomContainer* pContainer) const { return pContainer && pContainer == m_pContainer.Get(); }
 
     CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor and for a passive view
@@ -132,7 +141,8 @@ private:
     void SelectRow(int nItem); // and give it the focus; nothing for -1
     void AnnounceSelection();
     void PostButtonUp();
-    bool TakeFocus(); // false when it was refused
+    bool TakeFocus();              // false when it was refused
+    void MoveLabelEdit(int nItem); // the row whose label is being edited is that one now, -1: gone
 
     CStubRef<IAtomContainer> m_pContainer; // what is shown; empty when nothing is
     std::vector<CStubRef<IAtom>> m_atoms;  // row i shows m_atoms[i]
@@ -145,9 +155,11 @@ private:
     const UINT m_nPaneKind;
     const UINT m_nResourceID;
     DWORD m_dwHandlerCookie = 0;
+    CListDropTarget m_dropTarget;
     BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
     BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
     const BOOL m_bPassive;
     BOOL m_bPaneShown = FALSE;
+    int m_nEdited = -1; // the row whose label is being edited
     int m_nOrdered = 0; // rows before this one stand in the order of their names
 };

@@ -84,6 +84,8 @@ void CObjectsList::RemoveRow(int nItem)
     m_atoms.erase(pRow);
     if (nItem < m_nOrdered)
         --m_nOrdered;
+    if (nItem <= m_nEdited)
+        MoveLabelEdit(nItem == m_nEdited ? -1 : m_nEdited - 1);
 }
 
 // Only a cached row can show what is out of date; others are read when they are next hinted.

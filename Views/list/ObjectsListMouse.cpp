@@ -1,4 +1,8 @@
-// The mouse in the list view, beyond selection.
+// The mouse in the list view, beyond selection. What is dropped on it is in ListDropTarget.cpp.
+#include "Views/clipboard/Drags.h"
+#include "Views/host/EditorMenu.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
 #include "Views/list/ObjectsList.h"
 
 // Opens the row under the cursor, in every view.
@@ -9,6 +13,20 @@ void CObjectsList::OnDblclk(NMHDR*, LRESULT* pResult)
     ScreenToClient(&point);
     GoToItem(static_cast<UINT>(HitTest(point)));
     *pResult = 0;
+}
+
+// Also where a key has asked for it.
+void CObjectsList::OnContextMenu(CWnd*, CPoint)
+{
+    views::ShowEditorMenu();
+}
+
+void CObjectsList::OnBeginDrag(NMHDR*, LRESULT* pResult)
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (pEditor)
+        views::DragActiveAtoms(pEditor.Get());
+    *pResult = pEditor ? 0 : -1;
 }
 
 // The focus comes before the click, which is dropped when the focus is refused.

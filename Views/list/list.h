@@ -7,5 +7,6 @@
 #pragma once
 
 #include "Views/list/IconList.h"
+#include "Views/list/ListDropTarget.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/ThumbList.h"

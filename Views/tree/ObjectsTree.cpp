@@ -6,6 +6,7 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/IconHolder.h"
 #include "Views/host/Services.h"
+#include "Views/tree/TreeDropTarget.h"
 
 namespace
 {
@@ -32,14 +33,23 @@ BEGIN_MESSAGE_MAP(CObjectsTree, CTreeCtrl)
     ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnObjectsGetDispInfo)
     ON_WM_DESTROY()
     ON_NOTIFY_REFLECT_EX(TVN_SELCHANGED, OnSelChanged)
+    ON_WM_CONTEXTMENU()
+    ON_WM_RBUTTONDOWN()
     ON_NOTIFY_REFLECT(TVN_SELCHANGING, OnSelChanging)
+    ON_NOTIFY_REFLECT(TVN_BEGINLABELEDIT, OnBeginLabelEdit)
+    ON_NOTIFY_REFLECT(TVN_ENDLABELEDIT, OnEndLabelEdit)
+    ON_NOTIFY_REFLECT(TVN_BEGINDRAG, OnBeginDrag)
     ON_NOTIFY_REFLECT_EX(TVN_ITEMEXPANDED, OnItemExpanded)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_RBUTTONUP()
+    ON_WM_KEYDOWN()
+    ON_WM_KEYUP()
 END_MESSAGE_MAP()
 
-CObjectsTree::CObjectsTree(int bPassive) : m_bPassive(bPassive) {}
+CObjectsTree::CObjectsTree(int bPassive) : m_bPassive(bPassive), m_pDropTarget(std::make_unique<CTreeDropTarget>()) {}
 
 // A window that is still there goes now, while it can still take its handler from the editor.
 CObjectsTree::~CObjectsTree()

@@ -11,6 +11,7 @@
 #include <unordered_set>
 #include <vector>
 
+class CTreeDropTarget;
 class IAtomEditor;
 class IAtomIcon;
 
@@ -111,15 +112,26 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnObjectsGetDispInfo(TVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDestroy();
+    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnBeginLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnEndLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult);
+    afx_msg void OnBeginDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
     afx_msg BOOL OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult);
     afx_msg void OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult);
     afx_msg BOOL OnItemExpanded(NMTREEVIEW* pChange, LRESULT* pResult);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CTreeDropTarget;
+
     using RecordHolder = std::unique_ptr<TREEITEMDATA>;
     using HELDPAIR = views::HeldPair;
 
@@ -135,6 +147,7 @@ private:
     bool IsItem(HTREEITEM hItem) const;            // false for one that is gone
     TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
     HELDPAIR HoldPair(HTREEITEM hItem) const;
+    CStubRef<IAtomContainer> ContainerInItem(HTREEITEM hItem) const; // the item's atom, if it is one
     std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
     std::unordered_set<IAtom*> AtomsBelow(HTREEITEM hItem) const; // right below
 
@@ -177,6 +190,7 @@ private:
     const BOOL m_bPassive;
     BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
     BOOL m_bFocusFromSelChange = FALSE; // the selection is changing, or has changed, without the focus
-    bool m_bOnDemand = false;           // members become items only when they are asked for
-    bool m_bClosing = false;            // the window is being destroyed: nothing new is shown
+    const std::unique_ptr<CTreeDropTarget> m_pDropTarget;
+    bool m_bOnDemand = false; // members become items only when they are asked for
+    bool m_bClosing = false;  // the window is being destroyed: nothing new is shown
 };

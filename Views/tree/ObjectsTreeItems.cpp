@@ -47,6 +47,11 @@ CObjectsTree::HELDPAIR CObjectsTree::HoldPair(HTREEITEM hItem) const
     return HELDPAIR::Share(pRecord->pAtom.Get(), pRecord->pContainer.Get());
 }
 
+CStubRef<IAtomContainer> CObjectsTree::ContainerInItem(HTREEITEM hItem) const
+{
+    return CStubRef<IAtomContainer>::From(HoldPair(hItem).pAtom.Get());
+}
+
 std::vector<HTREEITEM> CObjectsTree::ChildrenOf(HTREEITEM hItem) const
 {
     std::vector<HTREEITEM> children;

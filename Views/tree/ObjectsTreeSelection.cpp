@@ -129,17 +129,3 @@ void CObjectsTree::OnKillFocus(CWnd* pNewWnd)
     m_bHasFocus = FALSE;
     m_bFocusFromSelChange = FALSE;
 }
-
-// The focus comes before the click, which is dropped when the focus is refused.
-void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
-{
-    if (TakeFocus())
-        CTreeCtrl::OnLButtonDown(nFlags, point);
-}
-
-bool CObjectsTree::TakeFocus()
-{
-    if (m_hWnd && ::GetFocus() != m_hWnd)
-        SetFocus();
-    return m_hWnd && ::GetFocus() == m_hWnd;
-}

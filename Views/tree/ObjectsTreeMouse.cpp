@@ -1,0 +1,78 @@
+// The mouse in the tree, beyond selection, and the keys. What is dropped on it is in TreeDropTarget.cpp.
+#include "Views/clipboard/Drags.h"
+#include "Views/host/EditorMenu.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
+#include "Views/tree/ObjectsTree.h"
+
+// Also where a key has asked for it.
+void CObjectsTree::OnContextMenu(CWnd*, CPoint)
+{
+    if (!m_bPassive)
+        views::ShowEditorMenu();
+}
+
+// The item under the cursor is selected first, so that its atom is the one that the editor drags.
+void CObjectsTree::OnBeginDrag(NMTREEVIEW*, LRESULT* pResult)
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    *pResult = pEditor ? 0 : -1;
+    if (!pEditor)
+        return;
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    const HTREEITEM hItem = HitTest(point);
+    if (hItem && SelectItem(hItem))
+        views::DragActiveAtoms(pEditor.Get());
+}
+
+// The focus comes before the click, which is dropped when the focus is refused.
+void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    if (TakeFocus())
+        CTreeCtrl::OnLButtonDown(nFlags, point);
+}
+
+// A tree that has the focus selects what the button is pressed on; the control is not asked.
+void CObjectsTree::OnRButtonDown(UINT nFlags, CPoint point)
+{
+    if (::GetFocus() != m_hWnd) {
+        if (TakeFocus())
+            CTreeCtrl::OnRButtonDown(nFlags, point);
+        return;
+    }
+    UINT nPart = 0;
+    const HTREEITEM hItem = HitTest(point, &nPart);
+    if (!hItem || !(nPart & TVHT_ONITEM))
+        return;
+    SetFocus();
+    SelectItem(hItem);
+}
+
+void CObjectsTree::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    CTreeCtrl::OnLButtonUp(nFlags, point);
+}
+
+void CObjectsTree::OnRButtonUp(UINT nFlags, CPoint point)
+{
+    CTreeCtrl::OnRButtonUp(nFlags, point);
+}
+
+void CObjectsTree::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    CTreeCtrl::OnKeyDown(nChar, nRepCnt, nFlags);
+}
+
+void CObjectsTree::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    CTreeCtrl::OnKeyUp(nChar, nRepCnt, nFlags);
+}
+
+bool CObjectsTree::TakeFocus()
+{
+    if (m_hWnd && ::GetFocus() != m_hWnd)
+        SetFocus();
+    return m_hWnd && ::GetFocus() == m_hWnd;
+}
