@@ -11,6 +11,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QThread>
 #include <gtest/gtest.h>
 
 namespace
@@ -54,6 +55,7 @@ protected:
         m_environment.insert("DISPLAY", ":" + m_server.readLine().trimmed());
         m_environment.remove("WAYLAND_DISPLAY");
         m_environment.remove("QT_QPA_PLATFORM");
+        m_environment.insert("LC_ALL", "C.UTF-8"); // whose table of dead keys is the usual one
     }
 
     void StartEditor()
@@ -87,8 +89,8 @@ protected:
         return window;
     }
 
-    // Where the same window has the row when it is shown without a screen.
-    CPoint PlaceOfRow(int nRow)
+    // Where the same window has the row's picture or label (LVIR_*) when it is shown without a screen.
+    CPoint PlaceOfRow(int nRow, int nPart = LVIR_ICON)
     {
         const editor::QtPictureReader reader;
         qtdesktop::QtDesktop desktop;
@@ -99,10 +101,10 @@ protected:
         CRect frame;
         ::GetWindowRect(hFrame, &frame);
         const HWND hList = ::WindowFromPoint(frame.CenterPoint());
-        CRect icon;
-        icon.left = LVIR_ICON;
-        EXPECT_NE(0, ::SendMessage(hList, LVM_GETITEMRECT, static_cast<WPARAM>(nRow), reinterpret_cast<LPARAM>(&icon)));
-        CPoint at = icon.CenterPoint();
+        CRect part;
+        part.left = nPart;
+        EXPECT_NE(0, ::SendMessage(hList, LVM_GETITEMRECT, static_cast<WPARAM>(nRow), reinterpret_cast<LPARAM>(&part)));
+        CPoint at = part.CenterPoint();
         ::ClientToScreen(hList, &at);
         return at - frame.TopLeft();
     }
@@ -111,6 +113,14 @@ protected:
     {
         XDo({"mousemove", "--window", window, QString::number(at.x), QString::number(at.y), "click", "--repeat",
              QString::number(nTimes), "--delay", "50", "1"});
+    }
+
+    bool WaitForFile(const QString& name) const
+    {
+        const QDeadlineTimer patience(kPatience);
+        while (!QFile::exists(m_folder.filePath(name)) && !patience.hasExpired())
+            QThread::msleep(10);
+        return QFile::exists(m_folder.filePath(name));
     }
 
     QTemporaryDir m_folder;
@@ -135,4 +145,24 @@ TEST_F(RealWindowTest, ADoubleClickOpensAFolderAndAClickSelectsAPictureForTheKey
     Click(window, picture, 1);
     XDo({"key", "Return"});
     EXPECT_EQ(window, FindWindow("red.png"));
+}
+
+TEST_F(RealWindowTest, ARenameSurvivesTheWayToAnotherWindowAndBackAndTakesDeadKeys)
+{
+    const CPoint label = PlaceOfRow(1, LVIR_LABEL);
+    StartEditor();
+    const QString window = FindWindow("holidays");
+    ASSERT_NE("", window);
+    XDo({"windowfocus", "--sync", window});
+    Click(window, label, 1);
+    XDo({"sleep", "1.2"}); // a slow second click is one after the double-click time
+    Click(window, label, 1);
+    XDo({"sleep", "1.2"});
+    XDo({"key", "ctrl+a", "c", "a", "f", "dead_acute", "e"});
+
+    XDo({"search", "--maxdepth", "0", ".*", "windowfocus", "--sync"}); // the root window: no longer the editor
+    XDo({"windowfocus", "--sync", window});
+    XDo({"key", "period", "p", "n", "g", "Return"});
+    EXPECT_TRUE(WaitForFile("holidays/café.png"));
+    EXPECT_FALSE(QFile::exists(m_folder.filePath("holidays/red.png")));
 }
