@@ -101,6 +101,7 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
     m_nOpenImage = m_nDefaultImage = -1;
     if (pEditor)
         m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    m_pDropTarget->Register(this);
     m_iconSlots.Clear();
     m_images.Create(kImages, kImageWidth, kImagesToGrow, kTransparent);
     m_nDefaultImage = 0;
