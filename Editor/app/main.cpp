@@ -16,6 +16,7 @@
 #include "Toolkit/window/MessageBox.h"
 
 #include <QApplication>
+#include <csignal>
 #include <cstdio>
 
 namespace
@@ -118,6 +119,7 @@ int main(int argc, char* argv[])
     }
     if (line.folder.empty())
         line.folder = editor::DefaultFolder();
+    std::signal(SIGXFSZ, SIG_IGN); // a file that would be too large is an error of its writing, not the program's end
 
     const bool bWindow = line.screenshot.empty() && line.script.empty();
     const editor::Display display = bWindow ? editor::FindDisplay() : editor::Display();
