@@ -3,11 +3,16 @@
 #include "Kernel/Kernel.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
+#include "Toolkit/ole/DataSource.h"
+#include "Toolkit/window/Menu.h"
+#include "Views/clipboard/TransferFileOwner.h"
+#include "Views/clipboard/clipboard.h"
 #include "tests/views/FakeArchive.h"
 
 #include <algorithm>
 #include <cstring>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sstream>
 
 namespace
@@ -213,7 +218,7 @@ BOOL FakeContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOu
 
 BOOL FakeContainer::RemoveAtom(IAtom* pAtom)
 {
-    if (!Does("removes " + ::NameOf(pAtom)))
+    if (!Does("removes " + ::NameOf(pAtom)) || !FindAtomByID(pAtom->GetID(), nullptr, 0))
         return FALSE;
     Remove(AsFake(pAtom));
     return TRUE;
@@ -357,6 +362,44 @@ BOOL FakeEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
             break;
     }
     return bAgreed;
+}
+
+CMenu* FakeEditor::CreateContextMenu()
+{
+    if (menu.empty())
+        return nullptr;
+    auto pMenu = std::make_unique<CMenu>();
+    pMenu->CreatePopupMenu();
+    pMenu->AppendMenu(MF_STRING, 7, menu.c_str());
+    return pMenu.release();
+}
+
+DROPEFFECT FakeEditor::DoDragDrop(DWORD allowedEffects, DWORD reserved)
+{
+    EXPECT_EQ(0u, reserved);
+    DWORD nPairs = 0;
+    pSelected->OnGetActivePairs(nullptr, &nPairs);
+    std::vector<OBJPAIR> selected(nPairs);
+    pSelected->OnGetActivePairs(selected.data(), &nPairs);
+    pairs.clear();
+    std::string strNames;
+    for (const OBJPAIR& pair : selected) {
+        pairs.push_back({CStubRef<IAtom>::Adopt(pair.pAtom), CStubRef<IAtomContainer>::Adopt(pair.pContainer)});
+        strNames += " " + ::NameOf(pair.pAtom);
+    }
+    const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
+    WriteActiveObjects(pArchive.Get());
+
+    STGMEDIUM medium{};
+    medium.tymed = TYMED_HGLOBAL;
+    medium.hGlobal = HGLOBALFromArchive(pArchive.Get());
+    medium.pUnkForRelease = new CTransferFileOwner(medium.hGlobal);
+    COleDataSource source;
+    source.CacheData(format, &medium);
+    ledger.push_back("drags" + strNames);
+    const DROPEFFECT effect = source.DoDragDrop(allowedEffects);
+    ledger.push_back("dragged: " + std::to_string(effect));
+    return effect;
 }
 
 BOOL FakeEditor::WriteActiveObjects(IArchive* archive)

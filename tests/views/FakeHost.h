@@ -145,6 +145,9 @@ public:
     std::vector<views::HeldPair> pairs; // active, as EnumActivePairs and WriteActiveObjects take them
     bool goesOnAfterRefusal = false;    // EnumActivePairs
     CLIPFORMAT format = 0;
+    IAEStateHandler* pSelected = nullptr; // whose atoms are dragged
+    HWND hMain = nullptr;
+    std::string menu; // the only item of its context menu, with the command 7; none without a text
     bool skipsSender = false;
     std::function<void(AEStateOperation, IAtom*)> onNotify; // runs before the handlers are called
 
@@ -157,10 +160,11 @@ public:
                         DWORD reserved) override;
     void AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
-    CMenu* CreateContextMenu() override { return nullptr; }
-    HWND GetMainWindow() override { return nullptr; }
+    CMenu* CreateContextMenu() override;
+    HWND GetMainWindow() override { return hMain; }
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override;
-    DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
+    // Drags what pSelected has active then, as a path handle.
+    DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) override;
     // An archive is the names of its atoms, each with a line end.
     BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
     BOOL WriteActiveObjects(IArchive* archive) override;

@@ -1,0 +1,301 @@
+// Dragging atoms out of the views and dropping them on them, by the mouse.
+#include "Toolkit/ole/ClipboardFormat.h"
+#include "Views/clipboard/clipboard.h"
+#include "tests/views/InteractionTest.h"
+
+#include <algorithm>
+
+namespace
+{
+
+class DragTest : public InteractionTest
+{
+protected:
+    // Another program drags these atoms, over the frame's edge at first.
+    void DragIn(const std::string& names, DROPEFFECT allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE)
+    {
+        m_folder.Write("atoms", names);
+        desktop.DragIn({{toolkit::KindsOfFormat(editor.format).front(), m_folder.At("atoms") + std::string(1, 0)}},
+                       allowed);
+    }
+    // What a drag of these rows or of that item does while the script plays.
+    void DragRow(int nRow, std::function<void()> script) { Drag(*list, RowPoint(nRow), std::move(script)); }
+    void DragItem(FakeAtom* pAtom, std::function<void()> script)
+    {
+        editor.pSelected = tree.get();
+        Drag(*tree, ItemPoint(pAtom), std::move(script));
+    }
+    void SelectRows(int nFirst, int nLast)
+    {
+        desktop.Click(list->m_hWnd, RowPoint(nFirst));
+        desktop.Hold({.shift = true});
+        desktop.Click(list->m_hWnd, RowPoint(nLast));
+        desktop.Hold({});
+        editor.TakeLedger();
+    }
+
+private:
+    void Drag(const CWnd& wnd, CPoint at, std::function<void()> script)
+    {
+        const HWND hWnd = wnd.m_hWnd;
+        desktop.Advance(1000); // no double click
+        desktop.DuringDrag(std::move(script));
+        desktop.Press(hWnd, at);
+        desktop.MoveTo(hWnd, at + CPoint(3, 6));
+    }
+
+    TempFolder m_folder;
+};
+
+TEST_F(DragTest, SelectedRowsAreDraggedTogetherIntoTheTree)
+{
+    SelectRows(0, 1);
+    DragRow(1, [&] {
+        EXPECT_EQ(Ledger({"writes 2", "drags a b"}), editor.TakeLedger());
+        EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*tree, ItemPoint(pBox))); // entering has no effect
+        EXPECT_EQ(Ledger({"reads", "box permits a", "box finds a", "-> 0"}),
+                  MoveOver(*tree, ItemPoint(pBox) + CPoint(1, 0))); // they are there already
+        MoveOver(*tree, ItemPoint(pBag));
+        EXPECT_EQ(Ledger({"reads", "bag permits a", "bag finds a", "bag permits b", "bag finds b", "bag -> 2"}),
+                  MoveOver(*tree, ItemPoint(pBag) + CPoint(1, 0)));
+        desktop.Release(tree->m_hWnd, ItemPoint(pBag) + CPoint(1, 0));
+    });
+    EXPECT_EQ(Ledger({"reads",
+                      "bag permits a",
+                      "bag finds a",
+                      "bag permits b",
+                      "bag finds b",
+                      "reads",
+                      "bag permits a",
+                      "bag adds a as a",
+                      "nobody tells OnCreateAtom(a in bag)",
+                      "bag permits b",
+                      "bag adds b as b",
+                      "nobody tells OnCreateAtom(b in bag)",
+                      "dragged: 2",
+                      "reads",
+                      "enumerates",
+                      "box permits a",
+                      "box removes a",
+                      "box permits b",
+                      "box removes b",
+                      "nobody tells OnDeleteAtom(- in box)",
+                      "list tells OnAtomDeselected(- in box)"}),
+              editor.TakeLedger());
+    EXPECT_EQ("c / d a b", Members(pBox) + " / " + Members(pBag));
+    EXPECT_EQ("[c]", list->State());
+    EXPECT_EQ("world [bag [a b d] box [c]]", tree->State());
+    EXPECT_EQ("-> 2", Hover());
+}
+
+TEST_F(DragTest, AnItemIsDraggedIntoTheListAndTheEffectFollowsTheCtrlKey)
+{
+    DragItem(pBag, [&] {
+        EXPECT_EQ("drags bag", editor.TakeLedger().back());
+        list->SetRootAtom(pBox); // it has followed the tree to the bag
+        desktop.Run();
+        MoveOver(*list, RowPoint(0));
+        EXPECT_EQ(Ledger({"reads", "-> 0"}), MoveOver(*list, RowPoint(1))); // no container to ask
+        EXPECT_EQ(Ledger({"reads", "box permits bag", "box finds bag", "-> 2"}), MoveOver(*list, EmptyPoint()));
+        desktop.Hold({.control = true});
+        EXPECT_EQ(Ledger({"reads", "box permits bag"}), editor.TakeLedger());
+        EXPECT_EQ("-> 1", Hover());
+        desktop.Release(list->m_hWnd, EmptyPoint());
+    });
+    EXPECT_EQ("a b c bag / d", Members(pBox) + " / " + Members(pBag)); // a copy: nothing is taken away
+    EXPECT_EQ("[a b c (*bag)]", list->State());
+}
+
+TEST_F(DragTest, TheListsHighlightFollowsTheDragWhereItWouldBeTaken)
+{
+    list->SetRootAtom(world.Get()); // bag and box are rows now
+    world->pLedger = &editor.ledger;
+    world->permissions = APF_ACCEPTCOPY;
+    desktop.Run();
+    DragIn("x\n");
+    EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*list, RowPoint(1)));
+    EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x", "box -> 2"}),
+              MoveOver(*list, RowPoint(1) + CPoint(1, 1)));
+    EXPECT_EQ(Ledger({"reads", "bag permits x", "bag finds x", "bag -> 2"}), MoveOver(*list, RowPoint(0)));
+    pBag->permissions = APF_ACCEPTCOPY;
+    EXPECT_EQ("bag -> 1", MoveOver(*list, RowPoint(0) + CPoint(1, 1)).back());
+    pBox->permissions = 0;
+    EXPECT_EQ(Ledger({"reads", "box permits x", "-> 0"}), MoveOver(*list, RowPoint(1)));
+    MoveOver(*list, RowPoint(0));
+    EXPECT_EQ("bag -> 1", Hover());
+    world->permissions = 0;
+    EXPECT_EQ(Ledger({"reads", "world permits x", "bag -> 0"}), MoveOver(*list, EmptyPoint())); // kept: refused
+    world->permissions = APF_ACCEPTCOPY;
+    EXPECT_EQ(Ledger({"reads", "world permits x", "world finds x", "-> 2"}),
+              MoveOver(*list, EmptyPoint() + CPoint(1, 1)));
+    MoveOver(*list, RowPoint(0));
+    desktop.Release(list->m_hWnd, RowPoint(0));
+    EXPECT_EQ("x", pBag->members.back()->name);
+    EXPECT_EQ("-> 1", Hover());
+}
+
+TEST_F(DragTest, TheTreesHighlightFollowsTheDragFromItemToItem)
+{
+    DragIn("x\n");
+    MoveOver(*tree, ItemPoint(pBox));
+    EXPECT_EQ("box -> 2", MoveOver(*tree, ItemPoint(pBox) + CPoint(1, 0)).back());
+    EXPECT_EQ("bag -> 2", MoveOver(*tree, ItemPoint(pBag)).back());
+    EXPECT_EQ("-> 0", MoveOver(*tree, ItemPoint(world.Get())).back());
+    EXPECT_EQ("bag -> 2", MoveOver(*tree, ItemPoint(pBag)).back());
+    EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*tree, {200, 300})); // off every item
+    desktop.Hold({.control = true});
+    EXPECT_EQ("bag -> 1", MoveOver(*tree, ItemPoint(pBag)).back());
+    MoveOver(field, {1, 1});
+    EXPECT_EQ("bag -> 0", Hover()); // leaving changes nothing
+    tree->OnDeleteAtom(pBag, world.Get());
+    EXPECT_EQ("box -> 1", (MoveOver(*tree, ItemPoint(pBox)), MoveOver(*tree, ItemPoint(pBox) + CPoint(1, 0)).back()));
+    desktop.Release(tree->m_hWnd, ItemPoint(pBox) + CPoint(1, 0));
+    EXPECT_EQ("-> 1", Hover());
+    EXPECT_EQ("a b c x", Members(pBox));
+}
+
+TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
+{
+    const auto tryDrop = [&](const CWnd& wnd, CPoint at) {
+        desktop.MoveTo(wnd.m_hWnd, at);
+        EXPECT_EQ(Ledger({"-> 0"}), MoveOver(wnd, at + CPoint(1, 0)));
+        desktop.Release(wnd.m_hWnd, at + CPoint(1, 0));
+        EXPECT_EQ(Ledger(), editor.TakeLedger());
+    };
+    for (const bool bList : {true, false}) {
+        const CWnd& wnd = bList ? static_cast<const CWnd&>(*list) : *tree;
+        const CPoint at = bList ? EmptyPoint() : ItemPoint(pBox);
+        desktop.DragIn({{"text/plain", "text"}});
+        tryDrop(wnd, at);
+        DragIn(""); // an empty file is no archive
+        tryDrop(wnd, at);
+    }
+    EXPECT_EQ("a b c", Members(pBox));
+
+    // Views made without an editor take nothing ever.
+    list.reset();
+    tree.reset();
+    editor.Uninstall();
+    MakeViews();
+    editor.Install();
+    DragIn("x\n");
+    tryDrop(*list, EmptyPoint());
+    editor.Uninstall();
+    list.reset();
+    tree.reset();
+}
+
+TEST_F(DragTest, ADragThatIsCancelledOrRefusedTakesNothingAway)
+{
+    DragRow(0, [&] { desktop.Key(VK_ESCAPE); });
+    EXPECT_EQ(1, std::ranges::count(editor.TakeLedger(), "dragged: 0"));
+    DragRow(0, [&] {
+        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
+        pBag->permissions = 0;
+        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
+    });
+    EXPECT_EQ("a b c / d", Members(pBox) + " / " + Members(pBag));
+    EXPECT_EQ("-> 0", Hover());
+
+    desktop.Release(list->m_hWnd, EmptyPoint());
+    desktop.Press(list->m_hWnd, EmptyPoint()); // empty space is not dragged
+    desktop.MoveTo(list->m_hWnd, EmptyPoint() + CPoint(10, 10));
+    desktop.Release(list->m_hWnd, EmptyPoint() + CPoint(10, 10));
+    editor.Veto(&IAEStateHandler::OnAtomSelecting, "bag"); // nor what may not be selected
+    DragItem(pBag, [] {});
+    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), "drags bag"));
+    EXPECT_FALSE(desktop.IsDragging());
+}
+
+TEST_F(DragTest, ADragEndsCleanlyWhateverIsDestroyedUnderIt)
+{
+    // The view that it came from: what it dragged is moved all the same.
+    DragRow(0, [&] {
+        list.reset();
+        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
+        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
+    });
+    EXPECT_EQ("b c / d a", Members(pBox) + " / " + Members(pBag));
+    DragItem(pBag, [&] {
+        tree.reset();
+        desktop.Release(frame.m_hWnd, {5, 5});
+    });
+
+    // The view that it is over, also while that asks the host, and while it pastes.
+    for (const char* pszCall : {"", "permits b", "adds b as b"}) {
+        tree.reset();
+        MakeViews();
+        const CPoint at = ItemPoint(pBag);
+        DragRow(0, [&] {
+            desktop.MoveTo(tree->m_hWnd, at);
+            desktop.MoveTo(tree->m_hWnd, at + CPoint(1, 0));
+            if (!*pszCall)
+                tree.reset();
+            pBag->onCall = [&](const std::string& strCall) {
+                if (strCall == pszCall)
+                    tree.reset();
+            };
+            desktop.Release(frame.m_hWnd, {400 + at.x + 3, at.y + 3});
+        });
+        pBag->onCall = nullptr;
+        EXPECT_FALSE(tree) << pszCall;
+        EXPECT_FALSE(desktop.IsDragging());
+    }
+
+    // The atoms themselves.
+    MakeViews();
+    DragRow(0, [&] {
+        const std::string strName = pBox->members.front()->name;
+        pBox->Remove(pBox->members.front().Get());
+        list->OnDeleteAtom(nullptr, pBox);
+        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
+        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
+    });
+    EXPECT_FALSE(desktop.IsDragging());
+}
+
+TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
+{
+    editor.hMain = field.m_hWnd;
+    for (const CWnd* pWnd : std::initializer_list<const CWnd*>{list.get(), tree.get()}) {
+        ::SetFocus(pWnd->m_hWnd);
+        desktop.Click(pWnd->m_hWnd, {200, 200}, toolkit::MouseButton::Right);
+        EXPECT_EQ(Ledger(), desktop.TakeMenus()); // the editor has none
+        editor.menu = "&Open";
+        desktop.Choose("Open");
+        desktop.Click(pWnd->m_hWnd, {200, 200}, toolkit::MouseButton::Right);
+        desktop.Key(VK_APPS); // at the cursor, too
+        EXPECT_EQ(Ledger({"[Open]", "[Open]"}), desktop.TakeMenus());
+        EXPECT_EQ(desktop.CursorPos(), desktop.LastMenuPlace());
+        editor.menu.clear();
+    }
+    editor.menu = "Open";
+    editor.Uninstall();
+    desktop.Click(list->m_hWnd, {200, 200}, toolkit::MouseButton::Right);
+    editor.Install();
+    tree.reset();
+    tree = std::make_unique<ProbeTree>(TRUE);
+    tree->Create(&frame);
+    tree->SendMessage(WM_CONTEXTMENU, 0, -1);
+    EXPECT_EQ(Ledger(), desktop.TakeMenus());
+}
+
+TEST_F(DragTest, TheRightButtonSelectsInATreeThatHasTheFocus)
+{
+    tree->SetFocus();
+    tree->SelectItem(tree->GetItem(world.Get()));
+    desktop.Click(tree->m_hWnd, ItemPoint(pBag), toolkit::MouseButton::Right);
+    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
+    desktop.Click(tree->m_hWnd, ItemPoint(pBox) + CPoint(150, 0), toolkit::MouseButton::Right); // beside the label
+    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
+
+    field.SetFocus();
+    editor.active = CStubRef<IAtom>::Share(pBag);
+    editor.Veto(&IAEStateHandler::PreSaveAtom);
+    world->isLibrary = true;
+    desktop.Click(tree->m_hWnd, ItemPoint(pBox), toolkit::MouseButton::Right);
+    EXPECT_TRUE(HasFocus(field));
+    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
+}
+
+} // namespace
