@@ -1,6 +1,8 @@
 // Renaming in place, by the keys, in the list and in the tree.
 #include "tests/views/InteractionTest.h"
 
+#include <algorithm>
+
 namespace
 {
 
@@ -49,4 +51,101 @@ TEST_F(LabelEditTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
               Enter("sack"));
     EXPECT_EQ("world! [*box! [b c x] sack]", tree->State());
 }
+
+TEST_F(LabelEditTest, ANameThatIsRefusedOrNotGivenChangesNothing)
+{
+    pBox->refused = {"renames a to taken"};
+    ASSERT_TRUE(EditRow(0));
+    EXPECT_EQ(Ledger({"box finds taken", "box permits a", "box renames a to taken", "error \"Not renamed\" of box"}),
+              Enter("taken"));
+    EXPECT_EQ("[(*a) b c]", list->State());
+
+    for (const bool bList : {true, false}) {
+        ASSERT_TRUE(bList ? EditRow(1) : EditItem((world->permissions = APF_RENAME, pBag)));
+        desktop.Type("x");
+        editor.TakeLedger();
+        desktop.Key(VK_ESCAPE);
+        EXPECT_EQ(0, std::ranges::count_if(editor.TakeLedger(), [](auto& s) { return s.starts_with("nobody"); }));
+    }
+    EXPECT_EQ("a b c", Members(pBox));
+    EXPECT_TRUE(world->Named("bag"));
+}
+
+TEST_F(LabelEditTest, NothingIsEditedThatMayNotBeRenamed)
+{
+    pBox->permissionsFor["a"] = APF_ACCEPT;
+    EXPECT_FALSE(EditRow(0));
+    EXPECT_EQ(Ledger({"box permits a"}), editor.TakeLedger()); // nobody is asked
+    editor.Veto(&IAEStateHandler::PreRenameAtom);
+    EXPECT_FALSE(EditRow(1));
+    EXPECT_FALSE(EditItem(pBag)); // not permitted
+    world->permissions = APF_RENAME;
+    EXPECT_FALSE(EditItem(pBag));
+    editor.Allow();
+    list->SetRootAtom(pBox); // it has followed the tree
+
+    // Whoever is asked takes the atom away.
+    editor.onNotify = [&](AEStateOperation operation, IAtom* pAtom) {
+        if (operation == &IAEStateHandler::PreRenameAtom && NameOf(pAtom) == "b") {
+            editor.onNotify = nullptr;
+            pBox->Remove(pBox->Named("b"));
+            list->OnDeleteAtom(nullptr, pBox);
+        }
+    };
+    EXPECT_FALSE(EditRow(1));
+    EXPECT_EQ("[a c]", list->State());
+
+    desktop.Click(list->m_hWnd, RowPoint(1));
+    editor.Uninstall(); // without an editor the list does not rename, the tree does not ask
+    EXPECT_FALSE(list->OnAtomRename(nullptr, nullptr));
+    EXPECT_TRUE(tree->OnAtomRename(nullptr, nullptr));
+    desktop.Key(VK_ESCAPE);
+    editor.Install();
+    list.reset();
+    tree.reset();
+    MakeViews(true);
+    EXPECT_FALSE(EditItem(pBag));
+}
+
+TEST_F(LabelEditTest, ANameGoesToTheAtomItWasMeantForHoweverRowsMove)
+{
+    ASSERT_TRUE(EditRow(2));
+    const AtomRef pRemoved = pBox->Remove(pBox->Named("a"));
+    list->OnDeleteAtom(pRemoved.Get(), pBox);
+    list->OnCreateAtom(pBox->Add("0"), pBox);
+    EXPECT_EQ("box renames c to x", Enter("x")[2]);
+    EXPECT_EQ("b 0 x", Members(pBox));
+
+    ASSERT_TRUE(EditRow(0)); // the atom itself goes: no name is wanted any more
+    const AtomRef pEdited = pBox->Remove(pBox->Named("b"));
+    list->OnDeleteAtom(pEdited.Get(), pBox);
+    EXPECT_EQ(nullptr, list->GetEditControl());
+    EXPECT_EQ(Ledger(), Enter("y"));
+
+    ASSERT_TRUE(EditRow(0));
+    list->SetRootAtom(pBag);
+    EXPECT_EQ(nullptr, list->GetEditControl());
+    EXPECT_EQ(Ledger(), Enter("z"));
+    EXPECT_EQ("0 x / d", Members(pBox) + " / " + Members(pBag));
+}
+
+TEST_F(LabelEditTest, ASlowSecondClickEditsAndTheViewMayGoMeanwhile)
+{
+    desktop.Click(list->m_hWnd, RowPoint(0));
+    desktop.Advance(1000);
+    CRect rect;
+    list->GetItemRect(0, &rect, LVIR_LABEL);
+    desktop.Click(list->m_hWnd, rect.CenterPoint());
+    desktop.Advance(1000);
+    EXPECT_NE(nullptr, list->GetEditControl());
+    desktop.Type("x");
+    pBox->onCall = [&](const std::string& strCall) {
+        if (strCall == "renames a to x")
+            list.reset();
+    };
+    desktop.Key(VK_RETURN);
+    pBox->onCall = nullptr;
+    EXPECT_TRUE(pBox->Named("x"));
+}
+
 } // namespace
