@@ -45,6 +45,9 @@ private:
 
 DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed, int nMilliseconds)
 {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        return DROPEFFECT_NONE; // released while the toolkit was still busy with the movement: Qt would drag on without
+                                // it
     DropReceiver receiver;
     DragOwner owner(data);
     const auto pDrag = new QDrag(&owner);

@@ -33,7 +33,8 @@ public:
 
     DROPEFFECT over = DROPEFFECT_MOVE;
     BOOL takes = TRUE;
-    std::function<void()> atOver, atDrop;
+    DROPEFFECT performed = kNotHandled; // what OnDropEx answers
+    std::function<void()> atOver, atDropEx;
 
     DROPEFFECT OnDragEnter(CWnd*, COleDataObject* pData, DWORD keys, CPoint at) override
     {
@@ -52,10 +53,15 @@ public:
     BOOL OnDrop(CWnd*, COleDataObject* pData, DROPEFFECT effect, CPoint at) override
     {
         Write("drop" + Describe(0, at) + " " + Name(effect) + " " + TakeBytes(pData->GetGlobalData(kAtoms)));
-        const BOOL bTakes = takes;
-        if (const auto action = atDrop)
+        return takes;
+    }
+
+    DROPEFFECT OnDropEx(CWnd*, COleDataObject*, DROPEFFECT, DROPEFFECT, CPoint) override
+    {
+        const DROPEFFECT result = performed;
+        if (const auto action = atDropEx)
             action();
-        return bTakes;
+        return result;
     }
 
     void OnDragLeave(CWnd*) override { Write("leave"); }
@@ -159,6 +165,15 @@ TEST_F(DragDropTest, ADropThatIsRefusedHasNoEffect)
               Drag(drop));
 }
 
+TEST_F(DragDropTest, ATargetThatHandlesTheWholeDropItselfSaysWhatItDid)
+{
+    rightTarget.performed = DROPEFFECT_COPY; // though a move was asked for
+    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "right enter 10,50", "right over 10,50", "dragged: copy"}),
+              Drag([&] {
+                  desktop.Release(right.m_hWnd, {10, 50});
+              }));
+}
+
 TEST_F(DragDropTest, TheSourceSaysWhatMayBeDone)
 {
     const auto drop = [&] { desktop.Release(right.m_hWnd, {10, 50}); };
@@ -208,6 +223,11 @@ TEST_F(DragDropTest, ATargetThatGoesUnderWayIsAskedNoMore)
     fleeting->Register(&right);
     fleeting->atOver = [&] { fleeting.reset(); };
     const Ledger gone{"left enter 30,50", "left leave", "fleeting enter 10,50", "fleeting over 10,50", "dragged: none"};
+    EXPECT_EQ(gone, Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }));
+
+    fleeting = std::make_unique<SpyTarget>("fleeting", *this);
+    fleeting->Register(&right);
+    fleeting->atDropEx = [&] { fleeting.reset(); };
     EXPECT_EQ(gone, Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }));
 
     rightTarget.Register(&right);
