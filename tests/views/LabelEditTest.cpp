@@ -113,7 +113,7 @@ TEST_F(LabelEditTest, ANameGoesToTheAtomItWasMeantForHoweverRowsMove)
     const AtomRef pRemoved = pBox->Remove(pBox->Named("a"));
     list->OnDeleteAtom(pRemoved.Get(), pBox);
     list->OnCreateAtom(pBox->Add("0"), pBox);
-    EXPECT_EQ("box renames c to x", Enter("x")[2]);
+    EXPECT_EQ(1, std::ranges::count(Enter("x"), "box renames c to x"));
     EXPECT_EQ("b 0 x", Members(pBox));
 
     ASSERT_TRUE(EditRow(0)); // the atom itself goes: no name is wanted any more
@@ -127,6 +127,20 @@ TEST_F(LabelEditTest, ANameGoesToTheAtomItWasMeantForHoweverRowsMove)
     EXPECT_EQ(nullptr, list->GetEditControl());
     EXPECT_EQ(Ledger(), Enter("z"));
     EXPECT_EQ("0 x / d", Members(pBox) + " / " + Members(pBag));
+}
+
+// The focus leaves the field then, which takes the name as it does everywhere.
+TEST_F(LabelEditTest, AViewThatGoesTakesItsFieldAlong)
+{
+    world->permissions = APF_RENAME;
+    ASSERT_TRUE(EditRow(2));
+    desktop.Type("x");
+    list.reset();
+    ASSERT_TRUE(EditItem(pBag));
+    desktop.Type("x");
+    tree.reset();
+    EXPECT_EQ("a b x", Members(pBox));
+    EXPECT_EQ("box x", Members(world.Get()));
 }
 
 TEST_F(LabelEditTest, ASlowSecondClickEditsAndTheViewMayGoMeanwhile)
