@@ -160,6 +160,7 @@ private:
     BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
     const BOOL m_bPassive;
     BOOL m_bPaneShown = FALSE;
-    int m_nEdited = -1; // the row whose label is being edited
-    int m_nOrdered = 0; // rows before this one stand in the order of their names
+    int m_nEdited = -1;  // the row whose label is being edited
+    CString m_strEdited; // the name that its editing began with
+    int m_nOrdered = 0;  // rows before this one stand in the order of their names
 };

@@ -1,10 +1,12 @@
 // Renaming in the list view: the label of a row is edited in place.
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
 #include "Views/list/ObjectsList.h"
 
-// Whoever is asked may have moved or removed the row: then there is nothing to edit.
+// Whoever is asked may have moved or removed the row: then there is nothing to edit. What is edited is the atom's own
+// name, whatever the label shows in its place: a name that the user leaves as it is stays as it is.
 void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     *pResult = -1;
@@ -17,6 +19,13 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
     const OBJPAIR* pNow = PairAt(pInfo->item.iItem);
     if (!pNow || pNow->pAtom != pair.pAtom.Get())
         return;
+    try {
+        if (views::ReadName(pair.pAtom.Get(), &IAtom::GetName, m_strEdited))
+            pInfo->item.pszText = const_cast<LPSTR>(m_strEdited.GetString()); // read, never written
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return;
+    }
     m_nEdited = pInfo->item.iItem;
     *pResult = 0;
 }

@@ -13,8 +13,6 @@ namespace views
 
 // Cuts the text at nLength bytes and, for a modified atom, writes the mark behind it. The buffer has room for it.
 VIEWS_API void EndLabel(char* pszLabel, std::size_t nLength, bool bModified);
-// Takes the mark off the end of a label; one without it stays as it is.
-void CutMark(char* pszLabel);
 
 // Reads a name by the name protocol (IAtom.h) into strLabel and marks it when the atom is modified. The buffer is
 // sized once, mark included, so what is there already is reused. The label, in strLabel's buffer; NULL when the name is

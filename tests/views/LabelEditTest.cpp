@@ -71,6 +71,23 @@ TEST_F(LabelEditTest, ANameThatIsRefusedOrNotGivenChangesNothing)
     EXPECT_TRUE(world->Named("bag"));
 }
 
+TEST_F(LabelEditTest, TheAtomsOwnNameIsEditedWhateverItsLabelShows)
+{
+    world->permissions = APF_RENAME;
+    for (FakeAtom* pAtom : std::initializer_list<FakeAtom*>{pBox->Named("a"), pBag}) {
+        pAtom->displayName = "shown";
+        pAtom->isModified = true;
+        const bool bList = pAtom != pBag;
+        list->OnChangeAtom(pAtom, nullptr);
+        ASSERT_TRUE(bList ? EditRow(0) : EditItem(pAtom));
+        const HWND hField = bList ? list->GetEditControl() : tree->GetEditControl();
+        EXPECT_EQ(pAtom->name, ::GetWindowText(hField).GetString());
+        desktop.Key(VK_RETURN); // as it is
+        EXPECT_EQ(0, std::ranges::count_if(editor.TakeLedger(), [](auto& s) { return s.starts_with("nobody"); }));
+    }
+    EXPECT_EQ("a b c", Members(pBox));
+}
+
 TEST_F(LabelEditTest, NothingIsEditedThatMayNotBeRenamed)
 {
     pBox->permissionsFor["a"] = APF_ACCEPT;
