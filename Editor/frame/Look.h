@@ -13,6 +13,7 @@ inline constexpr int kSpace = 8;
 inline constexpr int kPathBarHeight = 40;
 inline constexpr int kPaneCaptionHeight = 32;
 inline constexpr int kStatusBarHeight = 32;
+inline constexpr int kPropertiesHeight = 40;
 
 COLORREF BarColor();     // behind the path, captions and the status
 COLORREF LineColor();    // between things

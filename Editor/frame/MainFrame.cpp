@@ -35,6 +35,9 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_icons(PictureSizeFor({kIconExtent, kIconExtent}), ListEvents()),
       m_thumbnails({kThumbnailExtent, kThumbnailExtent}, ListEvents()),
       m_picture(pictures),
+      m_properties({[this] { return SelectedPhases(); },
+                    [this](const CPropertiesPane::Phases& phases) { NoteModified(phases); },
+                    [this] { FocusContent(); }}),
       m_statusBar([this] { return GetStatus(); })
 {}
 
@@ -151,7 +154,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
                        m_listPane.Create(this) && m_picturePane.Create(this) && m_statusBar.Create(this) &&
                        m_icons.Create(&m_listPane) && m_thumbnails.Create(&m_listPane) && m_tree.Create(&m_treePane) &&
-                       m_picture.Create(&m_picturePane);
+                       m_picture.Create(&m_picturePane) && m_properties.Create(this);
     OfferLists();
     return bMade ? 0 : -1;
 }
@@ -165,6 +168,8 @@ void CMainFrame::OnDestroy()
 
 void CMainFrame::OnClose()
 {
+    if (!MayClose())
+        return;
     const std::function<void()> closed = m_closed; // the frame may go with it
     DestroyWindow();
     if (closed)

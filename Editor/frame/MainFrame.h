@@ -7,6 +7,7 @@
 #include "Editor/frame/PaneLayout.h"
 #include "Editor/frame/PathBar.h"
 #include "Editor/frame/PictureView.h"
+#include "Editor/frame/PropertiesPane.h"
 #include "Editor/frame/Splitter.h"
 #include "Editor/frame/StatusBar.h"
 #include "Editor/model/Library.h"
@@ -33,6 +34,7 @@ public:
     CEditorList& GetList() { return *m_pList; } // the one that is shown, or will be
     CPathBar& GetPathBar() { return m_pathBar; }
     CPictureView& GetPictureView() { return m_picture; }
+    CPropertiesPane& GetProperties() { return m_properties; }
     Status GetStatus() const; // what the status bar says
 
     void GoUp(); // nothing at the top
@@ -56,11 +58,14 @@ public:
     std::string Remove();
     std::string Paste(); // into the container that is shown
 
+    std::string Save(); // all phases that are modified; the reason for the first that was not saved
+
     // The same by their keys: nothing when nothing is selected. A message box tells what was not done.
     void CopySelection();
     void CutSelection();
     void RemoveSelection(); // asks first
     void PasteHere();
+    void SaveByKey();
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
@@ -112,7 +117,10 @@ private:
     Status DescribePicture() const;
     Status DescribeList() const;
     std::string DescribeEmptyList() const;
-    void UpdateStatus() { m_statusBar.Invalidate(); }
+    void UpdateStatus();
+    CPropertiesPane::Phases SelectedPhases() const;
+    void NoteModified(const CPropertiesPane::Phases& phases);
+    bool MayClose(); // asks what is to become of phases that are modified
 
     CAtomEditor& m_editor;
     Commands m_commands;
@@ -132,6 +140,8 @@ private:
     CEditorList* m_pList = &m_icons; // the active one
     CEditorTree m_tree;
     CPictureView m_picture;
+    CPropertiesPane m_properties;
+    CPropertiesPane::Phases m_modified; // and those that were, since all were saved last
     CStatusBar m_statusBar;
 };
 

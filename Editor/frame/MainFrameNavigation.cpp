@@ -53,13 +53,17 @@ bool CMainFrame::HandleKey(HWND hWnd, UINT vkey, bool bAlt)
         return m_splitter.CancelDrag(), true;
     if (bAlt)
         return vkey == VK_UP && (bTree || bContent) && (GoUp(), true);
+    if (vkey == 'S' && ::GetKeyState(VK_CONTROL) < 0)
+        return SaveByKey(), true;
     return (bTree && HandleTreeKey(vkey)) || (bContent && HandleContentKey(vkey)) ||
            ((bTree || bContent) && (HandleFrameKey(vkey) || HandleCommandKey(vkey)));
 }
 
 bool CMainFrame::HandleFrameKey(UINT vkey)
 {
-    if (vkey == VK_F6 || vkey == VK_TAB)
+    if (vkey == VK_F4)
+        m_properties.FocusFields();
+    else if (vkey == VK_F6 || vkey == VK_TAB)
         FocusNextPane();
     else if (vkey == VK_F5)
         Refresh();

@@ -48,6 +48,7 @@ void CMainFrame::Arrange()
     m_splitter.MoveWindow(layout.splitter);
     m_listPane.MoveWindow(layout.content);
     m_picturePane.MoveWindow(layout.content);
+    m_properties.MoveWindow(layout.properties);
     m_statusBar.MoveWindow(layout.status);
     if (layout.tree.IsRectEmpty() && ::GetFocus() == m_tree.m_hWnd)
         FocusContent();

@@ -19,7 +19,9 @@ PaneLayout::PaneLayout(CSize client, int treeWidth)
     const int bottom = std::max<int>(kPathBarHeight, client.cy - kStatusBarHeight);
     path = {0, 0, client.cx, kPathBarHeight};
     status = {0, bottom, client.cx, bottom + kStatusBarHeight};
-    content = {0, kPathBarHeight, client.cx, bottom};
+    const int contentBottom = std::max<int>(kPathBarHeight, bottom - kPropertiesHeight);
+    content = {0, kPathBarHeight, client.cx, contentBottom};
+    properties = {0, contentBottom, client.cx, bottom};
 
     const int most = client.cx - CSplitter::kWidth - kLeastContent;
     if (most < kLeastTree)
@@ -28,7 +30,7 @@ PaneLayout::PaneLayout(CSize client, int treeWidth)
     const int width = std::clamp(wanted, kLeastTree, most);
     tree = {0, content.top, width, bottom};
     splitter = {width, content.top, width + CSplitter::kWidth, bottom};
-    content.left = splitter.right;
+    content.left = properties.left = splitter.right;
 }
 
 } // namespace editor

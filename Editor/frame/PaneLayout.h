@@ -17,7 +17,8 @@ struct PaneLayout
     // treeWidth: what the user wants, or kUsualTree.
     PaneLayout(CSize client, int treeWidth);
 
-    CRect path, tree, splitter, content, status; // tree and splitter are empty when there is no room for them
+    CRect path, tree, splitter, content, properties,
+        status; // tree and splitter are empty when there is no room for them
 };
 
 } // namespace editor

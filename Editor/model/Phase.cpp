@@ -8,6 +8,8 @@
 #include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
+#include <utility>
+
 namespace editor
 {
 
@@ -15,6 +17,42 @@ int CPhase::GetPosition(IImageLink* pLink)
 {
     const auto* const pOwn = dynamic_cast<CImageLink*>(pLink);
     return pOwn && pOwn->Container() == this ? pOwn->Position() : -1;
+}
+
+PhaseTiming CPhase::GetTiming() const
+{
+    return m_timing ? *m_timing : SavedTiming();
+}
+
+PhaseTiming CPhase::SavedTiming() const
+{
+    if (!m_savedTiming) {
+        std::string text;
+        m_savedTiming = ReadPhaseText(Path(), text).empty() ? TimingOf(text) : PhaseTiming();
+    }
+    return *m_savedTiming;
+}
+
+void CPhase::SetTiming(const PhaseTiming& timing)
+{
+    if (timing == SavedTiming())
+        m_timing.reset();
+    else
+        m_timing = timing;
+}
+
+// Of the file as it is now: lines that others have written meanwhile stay.
+std::string CPhase::SaveTiming()
+{
+    if (!m_timing)
+        return {};
+    std::string text;
+    if (const std::string reason = ReadPhaseText(Path(), text); !reason.empty())
+        return ShownName() + ": " + reason;
+    std::string failure = Save(WithTiming(std::move(text), *m_timing));
+    if (failure.empty())
+        m_savedTiming = std::exchange(m_timing, std::nullopt);
+    return failure;
 }
 
 void* CPhase::FindInterface(DWORD id)
@@ -27,6 +65,7 @@ CContainer::Listing CPhase::Read()
     Listing listing;
     std::string text;
     listing.error = ReadPhaseText(Path(), text);
+    m_savedTiming.reset();
     if (listing.error.empty())
         for (const PictureLine& line : PictureLines(text))
             listing.table.Add(line.picture, MemberKind::Link);

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "Editor/model/Container.h"
+#include "Editor/model/PhaseTiming.h"
+
+#include <optional>
 
 namespace editor
 {
@@ -11,7 +14,8 @@ namespace editor
 // part of the path as their name.
 //
 // Pictures of the same library that are added become lines at the end; removing a link takes its line away, and its
-// picture stays. Each change is saved at once, the file as a whole. Lines cannot be renamed.
+// picture stays. Each of these changes is saved at once, the file as a whole. Lines cannot be renamed. The timing alone
+// is kept until it is saved, and the phase is modified so long; whoever changes it keeps the phase alive.
 class CPhase : public CContainer, public IPhase
 {
 public:
@@ -20,6 +24,11 @@ public:
     std::string_view LineOf(const CMember& link) const { return CContainer::NameOf(link); }
 
     int GetPosition(IImageLink* pLink) override; // from 0; -1 for what is no member
+
+    PhaseTiming GetTiming() const; // as it was set or, failing that, as the file says; the usual one without a file
+    void SetTiming(const PhaseTiming& timing);
+    std::string SaveTiming(); // nothing when it is not modified. Empty when done, else one line with name and reason
+    BOOL IsModified() override { return m_timing.has_value(); }
 
 protected:
     void* FindInterface(DWORD id) override;
@@ -36,9 +45,13 @@ protected:
     std::string ValidNameFor(std::string_view name) override { return std::string(name); } // as often as one likes
 
 private:
+    PhaseTiming SavedTiming() const;
     std::string LineOf(const ArchiveRecord& record) const;
     std::string ReadUnchanged(std::string& text);
     std::string Save(const std::string& text);
+
+    std::optional<PhaseTiming> m_timing;              // set, and not saved
+    mutable std::optional<PhaseTiming> m_savedTiming; // as last read
 };
 
 } // namespace editor

@@ -50,6 +50,7 @@ void AddEditorResources(CResourceModule& module)
     module.AddString(IDS_CUT_FAILED, "Nothing was cut");
     module.AddString(IDS_PASTE_FAILED, "Not everything was pasted");
     module.AddString(IDS_REMOVE_FAILED, "Not everything was removed");
+    module.AddString(IDS_SAVE_FAILED, "Not everything was saved");
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
     module.AddBitmap(IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
     module.AddBitmap(IDB_TREE_ITEMS,

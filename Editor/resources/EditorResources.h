@@ -18,6 +18,7 @@ inline constexpr UINT IDS_COPY_FAILED = 2001;
 inline constexpr UINT IDS_CUT_FAILED = 2002;
 inline constexpr UINT IDS_PASTE_FAILED = 2003;
 inline constexpr UINT IDS_REMOVE_FAILED = 2004;
+inline constexpr UINT IDS_SAVE_FAILED = 2005;
 
 // Pictures, the library's own numbers again.
 inline constexpr UINT IDB_FOLDER = 1006;         // transparent where it is pure red

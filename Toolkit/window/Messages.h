@@ -125,6 +125,7 @@ inline constexpr UINT VK_ADD = 0x6B;
 inline constexpr UINT VK_SUBTRACT = 0x6D;
 inline constexpr UINT VK_F1 = 0x70;
 inline constexpr UINT VK_F2 = 0x71;
+inline constexpr UINT VK_F4 = 0x73;
 inline constexpr UINT VK_F5 = 0x74;
 inline constexpr UINT VK_F6 = 0x75;
 inline constexpr UINT VK_F10 = 0x79;

@@ -1,0 +1,128 @@
+// The timing of phases: set in fields, kept in their files.
+#include "Editor/model/PhaseTiming.h"
+#include "Toolkit/window/Input.h"
+#include "Toolkit/window/MessageBox.h"
+#include "tests/editor/EditorFixture.h"
+
+#include <fstream>
+#include <iterator>
+
+namespace
+{
+
+TEST(PhaseTimingTest, StandsInLinesOfItsOwnAndLeavesTheRestAlone)
+{
+    using editor::PhaseTiming;
+    EXPECT_EQ((PhaseTiming{100, 1}), editor::TimingOf("a.bmp\n# delay 5\n"));
+    EXPECT_EQ((PhaseTiming{80, 0}), editor::TimingOf("a.bmp\r\n#delay 80 \r\n#repeat 0"));
+    EXPECT_EQ((PhaseTiming{100, 1}), editor::TimingOf("#delay 70000\n#delay 5\n#repeat x\n"));
+    EXPECT_EQ("#delay 50\n#repeat 2\n# walk\na.bmp", editor::WithTiming("# walk\na.bmp", {50, 2}));
+    EXPECT_EQ("a.bmp\r\n#delay 7\r\n", editor::WithTiming("a.bmp\r\n#delay 80\r\n", {7, 1}));
+    EXPECT_EQ("#delay x\n", editor::WithTiming("#delay x\n", {100, 1}));
+}
+
+class PropertiesTest : public EditorTest
+{
+protected:
+    PropertiesTest()
+    {
+        folder.WriteBmp("a.bmp");
+        folder.Write("run.phase", "#delay 40\na.bmp\n");
+        folder.Write("walk.phase", "#delay 80\na.bmp\n");
+    }
+    // "40 ms, 1 times | text", "<Different> ..." or the text alone.
+    std::string Shown()
+    {
+        editor::CPropertiesPane& pane = Frame().GetProperties();
+        desktop.Run();
+        if (!pane.GetDelay().IsWindowVisible())
+            return pane.GetText();
+        return std::string(pane.GetDelay().GetWindowText()) + " ms, " + std::string(pane.GetRepeat().GetWindowText()) +
+               " times | " + pane.GetText();
+    }
+    void Control(UINT vkey)
+    {
+        desktop.Hold({.control = true});
+        desktop.Key(vkey);
+        desktop.Hold({});
+        Settle();
+    }
+    void SelectBothPhases()
+    {
+        Click("run.phase");
+        desktop.Hold({.shift = true});
+        Click("walk.phase");
+        desktop.Hold({});
+    }
+    std::string Text(const char* pszName) const
+    {
+        std::ifstream stream(folder.At(pszName), std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+};
+
+TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKey)
+{
+    Open();
+    EXPECT_EQ("Select a phase to set its timing.", Shown());
+    Click("run.phase");
+    EXPECT_EQ("40 ms, 1 times | run.phase", Shown());
+    SelectBothPhases();
+    EXPECT_EQ("<Different> ms, 1 times | 2 phases", Shown());
+
+    desktop.Key(VK_F4);
+    desktop.Key(VK_SHIFT);
+    desktop.Key(VK_ESCAPE);
+    EXPECT_EQ("<Different> ms, 1 times | 2 phases", Shown()) << "a field that was only looked at";
+    EXPECT_EQ(List(), GetFocus());
+    desktop.Key(VK_F4);
+    desktop.Type("65");
+    EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
+    desktop.Key(VK_TAB);
+    desktop.Type("3");
+    desktop.Key(VK_RETURN);
+    EXPECT_EQ("65 ms, 3 times | 2 phases: not saved yet (Ctrl+S)", Shown());
+    EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
+
+    Control('S');
+    EXPECT_EQ("65 ms, 3 times | 2 phases", Shown());
+    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", Text("run.phase"));
+    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ(List(), GetFocus());
+}
+
+TEST_F(PropertiesTest, ClosingAsksWhatIsToBecomeOfWhatWasEntered)
+{
+    Open();
+    Click("walk.phase");
+    desktop.Key(VK_F4);
+    desktop.Type("7");
+    const HWND hFrame = Frame().GetSafeHwnd();
+    const auto close = [&](int nAnswer) {
+        desktop.Answer(nAnswer);
+        toolkit::InputClose(hFrame);
+        desktop.Run();
+        return desktop.TakeMessageBoxes().size();
+    };
+    EXPECT_EQ(1u, close(IDCANCEL));
+    EXPECT_EQ("#delay 80\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ("7 ms, 1 times | walk.phase: not saved yet (Ctrl+S)", Shown());
+    EXPECT_EQ(1u, close(IDYES));
+    EXPECT_EQ("#delay 7\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ(1, nClosed);
+}
+
+TEST_F(PropertiesTest, WhatCannotBeSavedIsToldAndKept)
+{
+    Open();
+    Click("walk.phase");
+    desktop.Key(VK_F4);
+    desktop.Type("7");
+    folder.Remove("walk.phase");
+    Control('S');
+    EXPECT_EQ(std::vector<std::string>({"Not everything was saved: walk.phase: no such file or directory"}),
+              desktop.TakeMessageBoxes());
+    EXPECT_EQ("7 ms, 1 times | walk.phase: not saved yet (Ctrl+S)", Shown());
+}
+
+} // namespace
