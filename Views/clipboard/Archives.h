@@ -1,8 +1,9 @@
 // Archives, and how their bytes travel: in a transfer file, and by a handle that holds the file's path.
 //
 // A transfer file holds exactly an archive's bytes. It lies in the directory that the environment variable "TEMP"
-// names, under a name of its own that begins with "AE"; its owner alone may read and write it. A path handle is a block
-// of global memory with that file's path and a terminating zero, and nothing else.
+// names, or in the machine's own for temporary files when there is no such directory, under a name of its own that
+// begins with "AE" and that nobody can guess; its owner alone may read and write it. A path handle is a block of global
+// memory with that file's path and a terminating zero, and nothing else.
 //
 // What the bytes mean is the host's affair. Every archive handed out carries a reference that the caller releases.
 // NULL, or the empty path, is the only sign of a failure; whatever was made until then is gone. The time it takes is

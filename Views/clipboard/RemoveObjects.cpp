@@ -32,12 +32,13 @@ try {
 
 int RemoveObjects(int bConfirm)
 {
-    const CWaitCursor wait;
+    CWaitCursor wait;
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
     if (!pEditor)
         return FALSE;
     if (bConfirm && !UserAgrees())
         return TRUE;
+    wait.Restore(); // the question has shown another
 
     views::RemovedAtoms removed;
     removed.RemoveActive(pEditor.Get());
