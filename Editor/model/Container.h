@@ -29,6 +29,8 @@ public:
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
+    // What is accepted as a copy only is refused under any name but the one that ValidateName gave last: that is a
+    // move, after which the original would go.
     BOOL AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RemoveAtom(IAtom* pAtom) override;
@@ -88,7 +90,8 @@ private:
     BOOL GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId);
     void MoveMembers(Contents& former, Contents& contents);
     bool IsPresent(const CMember* pMember) const;
-    BOOL Note(std::string failure); // FALSE when there is one
+    std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name); // empty for a copy
+    BOOL Note(std::string failure);                                                // FALSE when there is one
     UINT Append(const Entry& entry);
     void Drop(UINT nIndex);
     void Tidy();
@@ -97,6 +100,7 @@ private:
 
     std::unique_ptr<Contents> m_pContents; // NULL until the members are asked for
     std::optional<bool> m_holdsAny;        // as far as it was asked for before they were
+    std::string m_validName;               // given by ValidateName, and used by no member yet
     std::string m_failure;                 // of the last change; empty when it succeeded
 };
 

@@ -1,7 +1,10 @@
 // A container's members added, renamed and removed.
 #include "Editor/archive/ArchivedAtom.h"
 #include "Editor/model/Container.h"
+#include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
+
+#include <utility>
 
 namespace editor
 {
@@ -15,7 +18,9 @@ BOOL CContainer::AddAtom(IAtom* pSource, DWORD, const char* pszName, void** ppOu
         return Note(ShownName() + ": only what was read from an archive can be added");
     Members();
     Entry added;
-    std::string failure = Add(pArchived->Record(), pszName, added);
+    std::string failure = TroubleOfMove(pArchived->Record(), pszName);
+    if (failure.empty())
+        failure = Add(pArchived->Record(), pszName, added);
     pArchived->SetFailure(failure);
     if (!Note(std::move(failure)))
         return FALSE;
@@ -60,7 +65,17 @@ BOOL CContainer::ValidateName(CString& strName, DWORD)
     if (valid.empty())
         return Note(ShownName() + ": no name can be found in it");
     strName = valid.c_str();
+    m_validName = valid;
     return TRUE;
+}
+
+// A copy comes under the name that it has just been given here, a move under its own.
+std::string CContainer::TroubleOfMove(const ArchiveRecord& record, std::string_view name)
+{
+    const bool bCopied = std::exchange(m_validName, {}) == name;
+    if (bCopied || PermissionsFor(record) != APF_ACCEPTCOPY)
+        return {};
+    return ToShown(name) + ": can only be copied there, not moved";
 }
 
 bool CContainer::IsPresent(const CMember* pMember) const

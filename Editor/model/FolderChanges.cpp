@@ -26,12 +26,16 @@ std::string FailureOf(std::string_view name, const std::string& reason)
     return ToShown(name) + ": " + reason;
 }
 
-// Is it the folder, or does it hold it?
-bool HoldsOrIs(const FileIdentity& identity, const fs::path& folder)
+// Is it the folder, or does it hold it? Whatever links led there.
+bool HoldsOrIs(const FileIdentity& identity, const std::string& path)
 {
-    if (IsFile(folder.string(), identity))
-        return true;
-    return folder.has_relative_path() && HoldsOrIs(identity, folder.parent_path());
+    std::error_code unreadable;
+    fs::path folder = fs::canonical(path, unreadable);
+    if (unreadable)
+        folder = path;
+    while (folder.has_relative_path() && !IsFile(folder.string(), identity))
+        folder = folder.parent_path();
+    return IsFile(folder.string(), identity);
 }
 
 // One file under two spellings, as a file system has it that does not tell upper from lower case.

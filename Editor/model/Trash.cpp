@@ -169,16 +169,19 @@ int PutUnderFreeName(const Trash& trash, const std::string& path)
 
 } // namespace
 
+// A trash belongs to the file system that the file is on, whatever links lead to its folder.
 TrashResult MoveToTrash(const std::string& path)
 {
-    const std::string folder = fs::path(path).parent_path().string();
+    std::error_code missing;
+    const std::string folder = fs::canonical(fs::path(path).parent_path(), missing).string();
     struct stat status;
-    if (lstat(folder.c_str(), &status) != 0)
-        return {SystemErrorText(errno), false};
+    if (missing || stat(folder.c_str(), &status) != 0)
+        return {SystemErrorText(missing ? missing.value() : errno), false};
+    const std::string real = (fs::path(folder) / fs::path(path).filename()).string();
     for (const Trash& trash : TrashesFor(folder, status.st_dev)) {
         if (!MakeFolders(trash.path) || !IsSameDevice(trash.path, status.st_dev))
             continue;
-        const int error = PutUnderFreeName(trash, path);
+        const int error = PutUnderFreeName(trash, real);
         if (error != EXDEV) // one file system mounted twice counts as two
             return {error == 0 ? std::string() : SystemErrorText(error), false};
     }

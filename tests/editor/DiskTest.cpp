@@ -304,17 +304,23 @@ TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
     folder.WriteBmp("Ada/Poses/one.bmp");
     folder.MakeFolder("Bo");
     folder.Link("friend", "Ada");
+    folder.Link("Bo/deep", "../Ada/Poses");
     Open();
     const auto pAda = Container(Library(), "Ada");
     const auto pArchive = Copy(Library(), {"Ada"});
 
     EXPECT_EQ("accept copy", Permissions(pArchive.Get(), Container(Library(), "Bo").Get()));
     for (const auto& pInside : {Container(Library(), "Ada"), Container(pAda.Get(), "Poses"),
-                                Container(Container(Library(), "friend").Get(), "Poses")})
+                                Container(Container(Library(), "friend").Get(), "Poses"),
+                                Container(Container(Library(), "Bo").Get(), "deep")})
         EXPECT_EQ("copy", Permissions(pArchive.Get(), pInside.Get()));
-    EXPECT_EQ("", Paste(pArchive.Get(), Container(pAda.Get(), "Poses").Get()));
+    const auto pPoses = Container(pAda.Get(), "Poses");
+    const std::string refusal = "Ada: can only be copied there, not moved\n";
+    EXPECT_EQ(refusal, Paste(pArchive.Get(), pPoses.Get(), true)) << "the original would go, and the new one with it";
+    EXPECT_EQ("", Paste(pArchive.Get(), pPoses.Get()));
+    EXPECT_EQ(refusal, Paste(pArchive.Get(), pPoses.Get(), true)) << "as little after a copy";
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/Ada/ Ada/Poses/Ada/Poses/ Ada/Poses/Ada/Poses/one.bmp Ada/Poses/one.bmp Bo/ "
-              "friend",
+              "Bo/deep friend",
               folder.Everything());
 }
 
@@ -348,6 +354,7 @@ TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
     EXPECT_EQ("copy", Permissions(pTop.Get(), pWalk.Get())) << "the picture stays where it is";
     EXPECT_EQ("none", Permissions(Copy(Library(), {"Ada"}).Get(), pWalk.Get()));
     EXPECT_EQ("none", Permissions(Copy(Library(), {"end \n.bmp"}).Get(), pWalk.Get()));
+    EXPECT_EQ("#b.bmp: can only be copied there, not moved\n", Paste(pTop.Get(), pWalk.Get(), true));
     EXPECT_EQ("", Paste(pTop.Get(), pWalk.Get()));
     EXPECT_EQ("", Paste(Copy(pAda.Get(), {"b.bmp"}).Get(), pWalk.Get()));
     EXPECT_EQ("", Remove(pWalk.Get(), "a.bmp"));

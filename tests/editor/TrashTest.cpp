@@ -62,6 +62,20 @@ TEST_F(TrashTest, NamesThatAreInTheTrashAlreadyAreCountedUp)
     EXPECT_EQ(6, std::distance(std::filesystem::directory_iterator(trash.folder.At("Trash/info")), {}));
 }
 
+TEST_F(TrashTest, WhatLiesBehindALinkGoesToTheTrashOfItsOwnFileSystem)
+{
+    namespace fs = std::filesystem;
+    const fs::path elsewhere = fs::temp_directory_path() / ("views-trash-" + std::to_string(getpid()));
+    fs::create_directory(elsewhere);
+    fs::create_directory_symlink(folder.Path(), elsewhere / "link");
+    folder.Write("a.bmp", "bytes");
+
+    EXPECT_EQ("", editor::RemoveFromDisk((elsewhere / "link/a.bmp").string()));
+    EXPECT_EQ("bytes", trash.folder.Read("Trash/files/a.bmp"));
+    EXPECT_NE(std::string::npos, trash.folder.Read("Trash/info/a.bmp.trashinfo").find(folder.Path() + "/a.bmp\n"));
+    fs::remove_all(elsewhere);
+}
+
 // The trash at the top of a file system is each user's own: this test is a user of its own for a while.
 TEST_F(TrashTest, WithoutTheUsersOwnTrashTheFileSystemsServesAndWithoutBothNothingIsLost)
 {
