@@ -30,9 +30,10 @@ public:
     int GetError() const { return m_error; } // of opening or, later, of reading; 0: none
     DirectoryIdentity GetIdentity() const { return m_identity; }
 
-    // Calls back, until it is answered false, for each sub-directory and each regular file, or link to one, in no particular order; not for
-    // names that begin with a dot, nor for anything else, such as pipes. A link that leads nowhere counts as a
-    // file. Asks the disk about a single entry only when the directory itself does not tell its kind.
+    // Calls back, until it is answered false, for each sub-directory and each regular file, or link to one, in no
+    // particular order; not for names that begin with a dot, nor for anything else, such as pipes. A link that leads
+    // nowhere counts as a file. Asks the disk about a single entry only when the directory itself does not tell its
+    // kind.
     void ForEach(const std::function<bool(const char* pszName, bool isDirectory)>& entry);
 
 private:
