@@ -105,6 +105,7 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
     renamed = {name, MemberKind::Folder};
     if (std::string trouble = TroubleOfNewName(KindOf(member), name, renamed.kind); !trouble.empty())
         return FailureOf(former, trouble);
+    m_taken.Forget();
     const int error = RenameIn(Path(), former, name);
     if (error == EEXIST)
         return FailureOf(former, "there is a \"" + ToShown(name) + "\" already");
@@ -113,6 +114,7 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
 
 std::string CFolder::Remove(const CMember& member)
 {
+    m_taken.Forget();
     const std::string reason = RemoveFromDisk(member.Path());
     return reason.empty() ? reason : FailureOf(member.Name(), reason);
 }

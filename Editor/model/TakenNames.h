@@ -23,6 +23,8 @@ public:
     bool IsCurrent(const std::string& folder) const; // has the folder not changed since it was read?
     // The name has just been added to the folder, which was current until then.
     void Added(const std::string& folder, std::string_view name);
+    // The folder was changed otherwise: its time need not tell, where a file system's clock ticks slowly.
+    void Forget() { m_changed = {-1, 0}; }
 
 private:
     static std::uint64_t KeyOf(std::string_view name);

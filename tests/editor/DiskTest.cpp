@@ -73,6 +73,13 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ("README (2)", ValidName(Library(), "README"));
     EXPECT_EQ("free.bmp", ValidName(Library(), "free.bmp"));
     EXPECT_EQ("a-b-c", ValidName(Library(), "a/b\\c"));
+    struct stat status;
+    stat(folder.Path().c_str(), &status);
+    const timespec clockStandsStill[2] = {status.st_atim, status.st_mtim};
+    EXPECT_EQ("", Rename(Library(), "Walk (7).bmp", "free.bmp"));
+    EXPECT_EQ(0, utimensat(AT_FDCWD, folder.Path().c_str(), clockStandsStill, 0));
+    EXPECT_EQ("free (2).bmp", ValidName(Library(), "free.bmp"));
+    EXPECT_EQ("Walk (7).bmp", ValidName(Library(), "Walk (7).bmp"));
     EXPECT_EQ("_con.bmp", ValidName(Library(), "con.bmp"));
     EXPECT_EQ("hidden", ValidName(Library(), "..hidden"));
     EXPECT_EQ("?", ValidName(Library(), ".."));
