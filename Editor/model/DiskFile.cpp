@@ -19,8 +19,13 @@ int RenameWithCare(int nFrom, const char* pszFrom, int nTo, const char* pszTo)
     struct stat status;
     if (fstatat(nTo, pszTo, &status, AT_SYMLINK_NOFOLLOW) == 0)
         return EEXIST;
-    if (linkat(nFrom, pszFrom, nTo, pszTo, 0) == 0)
-        return unlinkat(nFrom, pszFrom, 0) == 0 ? 0 : errno;
+    if (linkat(nFrom, pszFrom, nTo, pszTo, 0) == 0) {
+        if (unlinkat(nFrom, pszFrom, 0) == 0)
+            return 0;
+        const int error = errno;
+        unlinkat(nTo, pszTo, 0); // it keeps the name that it had, and no other
+        return error;
+    }
     if (errno == EEXIST)
         return EEXIST;
     return renameat(nFrom, pszFrom, nTo, pszTo) == 0 ? 0 : errno;
