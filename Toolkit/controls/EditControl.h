@@ -102,7 +102,7 @@ private:
     LRESULT OnLButtonDown(WPARAM wParam, LPARAM lParam);
     LRESULT OnLButtonDblClk(WPARAM, LPARAM lParam);
     LRESULT OnLButtonUp(WPARAM, LPARAM);
-    LRESULT OnMouseMove(WPARAM, LPARAM lParam);
+    LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
     LRESULT OnSetCursor(WPARAM, LPARAM);
     [[nodiscard]] bool TakeFocus();

@@ -34,9 +34,11 @@ LRESULT EditControl::OnLButtonUp(WPARAM, LPARAM)
     return 0;
 }
 
-LRESULT EditControl::OnMouseMove(WPARAM, LPARAM lParam)
+LRESULT EditControl::OnMouseMove(WPARAM wParam, LPARAM lParam)
 {
-    if (m_drag)
+    if (m_drag && !(wParam & MK_LBUTTON))
+        EndDrag(); // the release was missed
+    else if (m_drag)
         DragTo(CPoint(lParam));
     return 0;
 }

@@ -29,7 +29,7 @@ public:
     HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
     // From the tracker, which holds the capture while a button is down. Client coordinates.
-    void TrackMove(CPoint at);
+    void TrackMove(WPARAM keys, CPoint at);
     void AutoScroll();
     void TrackingLost(HWND hTracker);
 

@@ -180,10 +180,13 @@ void ListControl::TrackingLost(HWND hTracker)
         EndTracking();
 }
 
-void ListControl::TrackMove(CPoint at)
+// A message box on the way, from whoever hears of the focus, may have had the release.
+void ListControl::TrackMove(WPARAM keys, CPoint at)
 {
     if (!m_press)
         return;
+    if (!(keys & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
+        return EndTracking();
     m_trackedAt = at;
     if (!m_band && IsFar(m_press->at, at)) {
         if (m_press->row >= 0)

@@ -26,7 +26,7 @@ public:
 
         switch (message) {
         case WM_MOUSEMOVE:
-            pList->TrackMove(CPoint(lParam));
+            pList->TrackMove(wParam, CPoint(lParam));
             return 0;
         case WM_TIMER:
             pList->AutoScroll();

@@ -207,7 +207,7 @@ private:
     LRESULT OnLButtonDblClk(WPARAM, LPARAM lParam);
     LRESULT OnRButtonDown(WPARAM, LPARAM lParam);
     LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
-    LRESULT OnMouseMove(WPARAM, LPARAM lParam);
+    LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
     [[nodiscard]] bool TakeFocus();
     [[nodiscard]] bool BeginPress(const Hit& hit, CPoint at, bool right);

@@ -80,9 +80,12 @@ LRESULT TreeControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
     return 0;
 }
 
-LRESULT TreeControl::OnMouseMove(WPARAM, LPARAM lParam)
+// A message box on the way, from whoever hears of the focus, may have had the release.
+LRESULT TreeControl::OnMouseMove(WPARAM wParam, LPARAM lParam)
 {
-    if (m_press && IsFar(m_press->at, CPoint(lParam)))
+    if (m_press && !(wParam & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
+        static_cast<void>(CancelPress());
+    else if (m_press && IsFar(m_press->at, CPoint(lParam)))
         BeginDrag();
     return 0;
 }

@@ -45,6 +45,25 @@ TEST_F(ListControlTest, ARefusedChangeLeavesTheRowAsItWas)
     EXPECT_TRUE(list.SetItemState(3, 0, LVIS_SELECTED));
 }
 
+// Whoever is asked shows a message box, which gets the release.
+TEST_F(ListControlTest, APressWhoseReleaseAnotherWindowHadDragsAndSweepsNothing)
+{
+    for (const CPoint& from : {IconOf(1), kEmpty}) {
+        list.meanwhile = [&, bShown = false](const std::string&) mutable {
+            if (std::exchange(bShown, true))
+                return;
+            InputActivate(top.m_hWnd, false);
+            InputActivate(top.m_hWnd, true);
+            desktop.Run();
+        };
+        desktop.Press(list.m_hWnd, from);
+        TakeLedger();
+        desktop.MoveTo(list.m_hWnd, IconOf(5));
+        EXPECT_EQ(Ledger(), TakeLedger());
+        EXPECT_EQ(nullptr, GetCapture());
+    }
+}
+
 TEST_F(ListControlTest, ControlTogglesWhenTheButtonIsReleased)
 {
     Click(0);
