@@ -90,6 +90,9 @@ private:
     void MoveCaret(std::size_t at, bool extend) { Select(extend ? Anchor() : at, at); }
     std::size_t Anchor() const;
     void SelectAll() { Select(0, m_text.Text().size()); }
+    // What a key or the menu asks for comes as the message that says so: a derived class hears of it, and may keep it.
+    // The window may be gone afterwards.
+    LRESULT Ask(UINT message) { return SendMessage(m_hWnd, message, 0, 0); }
 
     // Keys.
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);

@@ -47,13 +47,13 @@ LRESULT EditControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
     switch (vkey) {
     case VK_DELETE:
         if (shift)
-            return OnCut(0, 0);
+            return Ask(WM_CUT);
         static_cast<void>(control ? EraseOr({caret, NextWord(text, caret)}, EditKind::Other)
                                   : EraseOr({caret, NextStop(text, caret)}, EditKind::Deleting));
         return 0;
     case VK_INSERT:
         if (shift != control)
-            return shift ? OnPaste(0, 0) : OnCopy(0, 0);
+            return Ask(shift ? WM_PASTE : WM_COPY);
         return 0;
     default:
         return ::DefWindowProc(m_hWnd, WM_KEYDOWN, wParam, lParam);
@@ -90,7 +90,7 @@ std::optional<std::size_t> EditControl::TargetOf(UINT vkey, bool control, bool s
 LRESULT EditControl::OnSysKeyDown(WPARAM wParam, LPARAM lParam)
 {
     if (wParam == VK_BACK && GetKeyState(VK_MENU) < 0)
-        return OnUndo(0, 0);
+        return Ask(WM_UNDO);
     return ::DefWindowProc(m_hWnd, WM_SYSKEYDOWN, wParam, lParam);
 }
 
@@ -114,16 +114,16 @@ bool EditControl::Command(UINT character)
         SelectAll();
         return true;
     case Ctrl('C'):
-        OnCopy(0, 0);
-        return true;
+        Ask(WM_COPY);
+        return IsWindow(hWnd);
     case Ctrl('X'):
-        OnCut(0, 0);
+        Ask(WM_CUT);
         return IsWindow(hWnd);
     case Ctrl('V'):
-        OnPaste(0, 0);
+        Ask(WM_PASTE);
         return IsWindow(hWnd);
     case Ctrl('Z'):
-        OnUndo(0, 0);
+        Ask(WM_UNDO);
         return IsWindow(hWnd);
     default:
         return true;

@@ -66,15 +66,15 @@ LRESULT EditControl::DoMenuCommand(UINT command)
 {
     switch (command) {
     case kUndo:
-        return OnUndo(0, 0);
+        return Ask(WM_UNDO);
     case kCut:
-        return OnCut(0, 0);
+        return Ask(WM_CUT);
     case kCopy:
-        return OnCopy(0, 0);
+        return Ask(WM_COPY);
     case kPaste:
-        return OnPaste(0, 0);
+        return Ask(WM_PASTE);
     case kDelete:
-        return OnClear(0, 0);
+        return Ask(WM_CLEAR);
     case kSelectAll:
         return SelectAll(), 0;
     default:

@@ -119,6 +119,30 @@ TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)
     EXPECT_EQ(Ledger({"update", "change"}), TakeLedger());
 }
 
+TEST_F(EditTest, ADerivedClassHearsOfWhatKeysAndTheMenuDo)
+{
+    struct HearingEdit : CEdit
+    {
+        std::vector<UINT> heard;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message >= WM_CUT && message <= WM_UNDO)
+                heard.push_back(message);
+            return CEdit::WindowProc(message, wParam, lParam);
+        }
+    } field;
+    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(10, 74, 110, 98), &top, 3));
+    field.SetFocus();
+    desktop.Type("ab");
+    for (const char letter : {'A', 'C', 'V', 'Z', 'X'})
+        Key(static_cast<UINT>(letter), kControl);
+    Key(VK_INSERT, kShift);
+    Key(VK_BACK, kAlt);
+    desktop.Choose("Paste");
+    Key(VK_APPS);
+    EXPECT_EQ(std::vector<UINT>({WM_COPY, WM_PASTE, WM_UNDO, WM_CUT, WM_PASTE, WM_UNDO, WM_PASTE}), field.heard);
+}
+
 TEST_F(EditTest, TheLimitCutsWhatIsTypedOrPastedBetweenCharactersAndSaysSo)
 {
     edit.LimitText(4);
