@@ -1,5 +1,6 @@
 #include "Editor/frame/MainFrame.h"
 
+#include "Editor/frame/ContextMenu.h"
 #include "Editor/frame/Look.h"
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
@@ -22,6 +23,14 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
+    ON_COMMAND(ID_OPEN, OpenSelected)
+    ON_COMMAND(ID_CUT, CutSelection)
+    ON_COMMAND(ID_COPY, CopySelection)
+    ON_COMMAND(ID_PASTE, PasteHere)
+    ON_COMMAND(ID_RENAME, RenameSelected)
+    ON_COMMAND(ID_REMOVE, RemoveSelection)
+    ON_COMMAND(ID_SELECT_ALL, SelectAll)
+    ON_COMMAND(ID_REFRESH, Refresh)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)

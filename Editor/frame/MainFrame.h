@@ -66,10 +66,17 @@ public:
     void RemoveSelection(); // asks first
     void PasteHere();
     void SaveByKey();
+    // What the menu does besides.
+    void OpenSelected(); // the one that is
+    void RenameSelected();
+    void SelectAll(); // in the list
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
     HWND GetMainWindow() const override { return m_hWnd; }
+    CMenu* CreateContextMenu() override;
+    void OnMoving() override;
+    void OnMoved(const std::string& reason) override;
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -99,6 +106,13 @@ private:
     bool HandleTreeKey(UINT vkey);
     bool HandleCommandKey(UINT vkey);
     bool HandleControlKey(UINT vkey);
+    struct Position // where the user is
+    {
+        CStubRef<CMember> pShown;
+        CEditorList::State list;
+    };
+    Position RememberPosition();
+    void GoOnAt(const Position& position); // as far as it is still there
     template <class Change>
     std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();
@@ -130,6 +144,7 @@ private:
     CStubRef<CLibrary> m_pLibrary;
     CStubRef<CMember> m_pShown;
     CStubRef<CMember> m_pCreated; // what came last, until the next news
+    Position m_beforeMove;        // while a drag's originals go
     CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
     CPathBar m_pathBar;
     CPane m_treePane, m_listPane, m_picturePane;

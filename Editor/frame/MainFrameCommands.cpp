@@ -33,7 +33,7 @@ bool CMainFrame::HandleCommandKey(UINT vkey)
     if (vkey == VK_DELETE)
         RemoveSelection();
     else if (vkey == VK_F2)
-        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomRename, nullptr, nullptr, 0);
+        RenameSelected();
     else
         return false;
     return true;
@@ -108,14 +108,35 @@ std::string CMainFrame::Paste()
 template <class Change>
 std::string CMainFrame::ChangeSelection(Change change)
 {
-    const auto pShown = CStubRef<CMember>::Share(Shown());
-    const CEditorList::State state = m_pList->Remember();
+    const Position position = RememberPosition();
     std::string reason = change();
-    LeaveWhatIsGone();
-    if (Shown() == pShown.Get() && !IsPictureShown())
-        m_pList->Restore(state);
-    UpdateStatus();
+    GoOnAt(position);
     return reason;
+}
+
+CMainFrame::Position CMainFrame::RememberPosition()
+{
+    return {CStubRef<CMember>::Share(Shown()), m_pList->Remember()};
+}
+
+void CMainFrame::GoOnAt(const Position& position)
+{
+    LeaveWhatIsGone();
+    if (Shown() == position.pShown.Get() && !IsPictureShown())
+        m_pList->Restore(position.list);
+    UpdateStatus();
+}
+
+// What a drop has pasted into the list is selected by then, and stays so.
+void CMainFrame::OnMoving()
+{
+    m_beforeMove = RememberPosition();
+}
+
+void CMainFrame::OnMoved(const std::string& reason)
+{
+    GoOnAt(std::exchange(m_beforeMove, {}));
+    ShowFailure(IDS_MOVE_FAILED, reason);
 }
 
 // For the innermost container that is still there.

@@ -51,6 +51,9 @@ void AddEditorResources(CResourceModule& module)
     module.AddString(IDS_PASTE_FAILED, "Not everything was pasted");
     module.AddString(IDS_REMOVE_FAILED, "Not everything was removed");
     module.AddString(IDS_SAVE_FAILED, "Not everything was saved");
+    module.AddString(IDS_DRAG_FAILED, "Nothing can be dragged");
+    module.AddString(IDS_MOVE_FAILED, "Not everything went from its former place");
+    module.AddString(IDS_DROP_FAILED, "Not everything was taken");
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
     module.AddBitmap(IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
     module.AddBitmap(IDB_TREE_ITEMS,

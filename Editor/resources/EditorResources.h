@@ -19,6 +19,9 @@ inline constexpr UINT IDS_CUT_FAILED = 2002;
 inline constexpr UINT IDS_PASTE_FAILED = 2003;
 inline constexpr UINT IDS_REMOVE_FAILED = 2004;
 inline constexpr UINT IDS_SAVE_FAILED = 2005;
+inline constexpr UINT IDS_DRAG_FAILED = 2006;
+inline constexpr UINT IDS_MOVE_FAILED = 2007;
+inline constexpr UINT IDS_DROP_FAILED = 2008;
 
 // Pictures, the library's own numbers again.
 inline constexpr UINT IDB_FOLDER = 1006;         // transparent where it is pure red

@@ -80,6 +80,7 @@ void CAtomEditor::ForgetAtoms()
 {
     m_tops.clear();
     m_pActive.Release();
+    m_pMoved.reset();
 }
 
 DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
@@ -134,6 +135,8 @@ void CAtomEditor::RemovePane(DWORD kind, HWND hWnd)
 
 BOOL CAtomEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
 {
+    if (m_pMoved && !m_pMoved->bRemoving)
+        return EnumMoved(callback, context);
     IAEStateHandler* const pSource = FindSelectionSource();
     if (!pSource)
         return TRUE;

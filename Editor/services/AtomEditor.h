@@ -1,7 +1,10 @@
 // The atom editor: it knows what the user is working on and passes the views' news on.
 #pragma once
 
+#include "Editor/services/ActiveMembers.h"
 #include "Editor/services/HandlerRegistry.h"
+
+#include <memory>
 
 namespace editor
 {
@@ -13,6 +16,11 @@ public:
     virtual void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) = 0; // copies caption and icon
     virtual void RemovePane(DWORD kind, HWND hWnd) = 0;
     virtual HWND GetMainWindow() const = 0;
+    virtual CMenu* CreateContextMenu() = 0; // the caller's; for what is selected
+    // A drag has moved objects away: they are about to go from where they were; they are gone. The reason is that for
+    // the first one that could not go, empty when all went.
+    virtual void OnMoving() = 0;
+    virtual void OnMoved(const std::string& reason) = 0;
 
 protected:
     ~PaneFrame() = default;
@@ -27,6 +35,9 @@ protected:
 // What is selected is asked of one view: the one that has the focus, else the one that announced a selection
 // last; a renaming is asked of the same one. The frame itself is no view. Owned by the application, which outlives
 // every reference.
+//
+// After a drag that has moved objects, those are the active ones for the removal that follows, whatever is selected by
+// then; no later than with the next message the selection counts again.
 //
 // The editor's own IMyErrorInfo tells what the last reading or writing of an archive came to grief over, also when
 // a container did not take an object that was read; there is none when all went well.
@@ -54,11 +65,14 @@ public:
                         DWORD reserved) override;
     void AddPane(DWORD kind, HWND hWnd, LPCSTR caption, HICON icon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
-    CMenu* CreateContextMenu() override { return nullptr; }
+    CMenu* CreateContextMenu() override { return m_pFrame ? m_pFrame->CreateContextMenu() : nullptr; }
     HWND GetMainWindow() override { return GetFrameWindow(); }
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override; // stops at the first refusal
-    DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
-    // All of the archive is checked before its first object is handed out.
+    // Offers the active atoms as CopyObjects does, and besides, for other programs, as a list of their files' URIs. A
+    // move is allowed when all of them may go, and is answered when the target has confirmed that it took them all.
+    DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) override;
+    // All of the archive is checked before its first object is handed out. FALSE, too, when a container did not take an
+    // object: who is dropping objects is not to believe that all were taken.
     BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
     // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why.
     BOOL WriteActiveObjects(IArchive* archive) override;
@@ -66,6 +80,16 @@ public:
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:
+    struct Moved
+    {
+        ActiveMembers members;
+        bool bRemoving = false; // whoever dragged them has asked for them
+    };
+
+    void TellOfFailedDrag();
+    void BeginMove(ActiveMembers members);
+    void EndMove();
+    BOOL EnumMoved(ACTIVEPAIRPROC callback, void* context);
     void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
     BOOL TellEntered(IAEStateHandler* pSender, IAtom* pAtom, IAtomContainer* pContainer);
     IAEStateHandler* FindSelectionSource() const;
@@ -78,6 +102,7 @@ private:
     CStubRef<IAtom> m_pActive;
     IAtom* m_pEntering = nullptr;             // what handlers are being told of as entered
     IAEStateHandler* m_pLastSender = nullptr; // of a selection; may have unregistered since
+    std::shared_ptr<Moved> m_pMoved;          // from the end of a drag until its originals have been removed
     std::string m_archiveError;
     int m_nRefs = 0;
 };

@@ -101,8 +101,7 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
             return NoteArchiveError("The objects cannot be read: " + trouble + '.');
         std::string failure;
         const BOOL bAccepted = HandOut(RecordReader(records), *archive, callback, context, failure);
-        NoteArchiveError(std::move(failure));
-        return bAccepted;
+        return NoteArchiveError(std::move(failure)) && bAccepted;
     } catch (CMemoryException& exception) {
         return NoteArchiveError(exception.GetErrorMessage());
     }

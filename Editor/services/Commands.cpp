@@ -1,6 +1,6 @@
 #include "Editor/services/Commands.h"
 
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/services/ActiveMembers.h"
 #include "Editor/services/StateHandler.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/ole/DataObject.h"
@@ -14,49 +14,6 @@ namespace
 {
 
 constexpr const char* kNothingSelected = "nothing is selected";
-
-struct Member
-{
-    CStubRef<IAtom> pAtom;
-    CStubRef<IAtomContainer> pContainer;
-
-    bool IsThere() const { return pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE; }
-};
-using Members = std::vector<Member>;
-
-Members ActiveMembers(CAtomEditor& editor)
-{
-    Members members;
-    editor.EnumActivePairs(
-        [](IAtom* pAtom, IAtomContainer* pContainer, void* pContext) -> BOOL {
-            static_cast<Members*>(pContext)->push_back(
-                {CStubRef<IAtom>::Share(pAtom), CStubRef<IAtomContainer>::Share(pContainer)});
-            return TRUE;
-        },
-        &members);
-    return members;
-}
-
-std::string ShownName(IAtom* pAtom)
-{
-    const CMember* const pMember = CMember::Of(pAtom);
-    return pMember ? pMember->ShownName() : std::string("an object");
-}
-
-std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
-{
-    std::string line = CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pContainer).Get());
-    return line.empty() ? std::move(otherwise) : line;
-}
-
-// The reason for the first one that is still where it was; empty when none is.
-std::string WhyStillThere(const Members& members)
-{
-    for (const Member& member : members)
-        if (member.IsThere())
-            return ErrorOf(member.pContainer.Get(), ShownName(member.pAtom.Get()) + ": it cannot be removed");
-    return {};
-}
 
 // Hears which objects come into a container.
 class Arrivals final : public CStateHandler
@@ -106,13 +63,13 @@ CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
 
 int Commands::CountSelected() const
 {
-    return static_cast<int>(ActiveMembers(m_editor).size());
+    return static_cast<int>(GetActiveMembers(m_editor).size());
 }
 
 std::string Commands::RemoveQuestion() const
 {
-    const Members members = ActiveMembers(m_editor);
-    return members.size() == 1 ? "Remove \"" + ShownName(members.front().pAtom.Get()) + "\"?"
+    const ActiveMembers members = GetActiveMembers(m_editor);
+    return members.size() == 1 ? "Remove \"" + ShownNameOf(members.front().pAtom.Get()) + "\"?"
                                : "Remove " + std::to_string(members.size()) + " objects?";
 }
 
@@ -136,7 +93,7 @@ try {
 
 std::string Commands::Cut()
 try {
-    const Members members = ActiveMembers(m_editor);
+    const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
     if (CopyObjects(TRUE))
@@ -151,7 +108,7 @@ try {
 
 std::string Commands::Remove()
 try {
-    const Members members = ActiveMembers(m_editor);
+    const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
     RemoveObjects(FALSE);

@@ -106,7 +106,8 @@ std::string ArchiveTest::Paste(IArchive* pArchive, IAtomContainer* pInto, bool b
         EXPECT_EQ(static_cast<bool>(pNew), Error(pAtom).empty());
         return TRUE;
     };
-    EXPECT_TRUE(editor.ReadArchive(paste, pArchive, &context)) << editor.GetArchiveError();
+    const BOOL bRead = editor.ReadArchive(paste, pArchive, &context);
+    EXPECT_EQ(editor.GetArchiveError().empty(), bRead != FALSE) << "what was not taken is no success";
     return context.failures;
 }
 

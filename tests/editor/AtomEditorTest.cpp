@@ -55,6 +55,9 @@ public:
     void AddPane(DWORD, HWND, LPCSTR, HICON) override {}
     void RemovePane(DWORD, HWND) override {}
     HWND GetMainWindow() const override { return m_hWnd; }
+    CMenu* CreateContextMenu() override { return nullptr; }
+    void OnMoving() override {}
+    void OnMoved(const std::string&) override {}
 
 private:
     const HWND m_hWnd;

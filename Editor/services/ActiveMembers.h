@@ -1,0 +1,29 @@
+// The objects that a command acts on, held for as long as it takes.
+#pragma once
+
+#include "Views/host/host.h"
+
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+struct ActiveMember
+{
+    CStubRef<IAtom> pAtom;
+    CStubRef<IAtomContainer> pContainer;
+
+    bool IsThere() const { return pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE; }
+};
+using ActiveMembers = std::vector<ActiveMember>;
+
+ActiveMembers GetActiveMembers(IAtomEditor& editor);
+
+std::string ShownNameOf(IAtom* pAtom);
+// What the container says went wrong last, in one line.
+std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise);
+// The reason for the first one that is still where it was; empty when none is.
+std::string WhyStillThere(const ActiveMembers& members);
+
+} // namespace editor

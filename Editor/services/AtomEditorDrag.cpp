@@ -1,0 +1,85 @@
+// The editor's drags: the active atoms, as they are copied to the clipboard, under the mouse.
+#include "Editor/model/ErrorInfo.h"
+#include "Editor/resources/EditorResources.h"
+#include "Editor/services/AtomEditor.h"
+#include "Editor/services/DragData.h"
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/window/Desktop.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+bool CanAllGo(const ActiveMembers& members)
+{
+    return std::all_of(members.begin(), members.end(), [](const ActiveMember& member) {
+        return (member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE) != 0;
+    });
+}
+
+} // namespace
+
+// What is dragged is settled when the drag begins. A drop may select what it has pasted, and much may happen while the
+// mouse is down; whoever is then told of the move removes the active atoms, and these are to be the ones that went.
+DROPEFFECT CAtomEditor::DoDragDrop(DWORD allowedEffects, DWORD)
+try {
+    m_pMoved.reset();
+    ActiveMembers members = GetActiveMembers(*this);
+    if (members.empty())
+        return DROPEFFECT_NONE;
+    const auto pData = MakeDragData(*this, members);
+    if (!pData) {
+        TellOfFailedDrag();
+        return DROPEFFECT_NONE;
+    }
+    const DWORD dwAllowed = CanAllGo(members) ? allowedEffects : allowedEffects & ~DROPEFFECT_MOVE;
+    const DROPEFFECT effect = pData->DoDragDrop(dwAllowed);
+    if (effect == DROPEFFECT_MOVE)
+        BeginMove(std::move(members));
+    return effect;
+} catch (CMemoryException& exception) {
+    exception.ReportError();
+    return DROPEFFECT_NONE;
+}
+
+void CAtomEditor::TellOfFailedDrag()
+{
+    const std::string reason = m_archiveError.empty() ? "no file can be made for it" : m_archiveError;
+    ShowAtomError(GetFrameWindow(), IDS_DRAG_FAILED, CErrorInfo::Make(reason).Get());
+}
+
+// The view that began the drag removes the atoms right away; the task comes after that.
+void CAtomEditor::BeginMove(ActiveMembers members)
+{
+    m_pMoved = std::make_shared<Moved>(Moved{std::move(members)});
+    if (m_pFrame)
+        m_pFrame->OnMoving();
+    toolkit::PostTask([this, pWatched = std::weak_ptr<Moved>(m_pMoved)] {
+        if (!pWatched.expired())
+            EndMove();
+    });
+}
+
+void CAtomEditor::EndMove()
+{
+    const auto pMoved = std::exchange(m_pMoved, nullptr);
+    if (m_pFrame)
+        m_pFrame->OnMoved(pMoved->bRemoving ? WhyStillThere(pMoved->members) : std::string());
+}
+
+// One that has to stay does not hold up the others.
+BOOL CAtomEditor::EnumMoved(ACTIVEPAIRPROC callback, void* context)
+{
+    const std::shared_ptr<Moved> pMoved = m_pMoved;
+    pMoved->bRemoving = true;
+    BOOL bAll = TRUE;
+    for (const ActiveMember& member : pMoved->members)
+        bAll = callback(member.pAtom.Get(), member.pContainer.Get(), context) && bAll;
+    return bAll;
+}
+
+} // namespace editor

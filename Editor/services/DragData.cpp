@@ -1,0 +1,88 @@
+#include "Editor/services/DragData.h"
+
+#include "Editor/model/Member.h"
+#include "Editor/services/FileUris.h"
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/Files.h"
+#include "Views/clipboard/Archives.h"
+#include "Views/clipboard/TransferFileOwner.h"
+
+#include <cstring>
+#include <filesystem>
+
+namespace editor
+{
+namespace
+{
+
+// Owned by whoever has it, with a releaser once it has one.
+class Medium
+{
+public:
+    explicit Medium(HGLOBAL hGlobal) : m_medium{TYMED_HGLOBAL, {}, nullptr} { m_medium.hGlobal = hGlobal; }
+    ~Medium()
+    {
+        if (m_medium.tymed != TYMED_NULL)
+            ReleaseStgMedium(&m_medium);
+    }
+    Medium(const Medium&) = delete;
+    Medium& operator=(const Medium&) = delete;
+
+    void OwnTransferFile();
+    void GiveTo(COleDataSource& source, CLIPFORMAT format) { source.CacheData(format, &m_medium); }
+
+private:
+    STGMEDIUM m_medium;
+};
+
+// The file has no other owner, and would stay for ever.
+void Medium::OwnTransferFile()
+try {
+    m_medium.pUnkForRelease = new CTransferFileOwner(m_medium.hGlobal);
+} catch (...) {
+    if (const toolkit::GlobalLocker<const char> path(m_medium.hGlobal); path.Get())
+        ::DeleteFile(path.Get());
+    throw;
+}
+
+void CacheAtoms(COleDataSource& source, CLIPFORMAT format, HGLOBAL hPath)
+{
+    Medium medium(hPath);
+    medium.OwnTransferFile();
+    medium.GiveTo(source, format);
+}
+
+void CacheUris(COleDataSource& source, const ActiveMembers& members)
+{
+    std::vector<std::string> paths;
+    for (const ActiveMember& member : members) {
+        const CMember* const pMember = CMember::Of(member.pAtom.Get());
+        if (const std::string path = pMember ? pMember->Path() : std::string(); !path.empty())
+            paths.push_back(std::filesystem::absolute(path).lexically_normal().string());
+    }
+    const std::string list = UriListOf(paths);
+    const HGLOBAL hList = GlobalAlloc(GMEM_MOVEABLE, list.size());
+    if (const toolkit::GlobalLocker<char> block(hList); block.Get())
+        std::memcpy(block.Get(), list.data(), list.size());
+    else
+        return; // the editors can still drag
+    Medium(hList).GiveTo(source, UriListFormat());
+}
+
+} // namespace
+
+std::unique_ptr<COleDataSource> MakeDragData(IAtomEditor& editor, const ActiveMembers& members)
+{
+    const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
+    if (!pArchive || !editor.WriteActiveObjects(pArchive.Get()))
+        return nullptr;
+    auto pSource = std::make_unique<COleDataSource>();
+    const HGLOBAL hPath = HGLOBALFromArchive(pArchive.Get());
+    if (!hPath)
+        return nullptr;
+    CacheAtoms(*pSource, editor.GetClipboardFormat(), hPath);
+    CacheUris(*pSource, members);
+    return pSource;
+}
+
+} // namespace editor

@@ -1,0 +1,27 @@
+// What comes in from outside the views: files that another program offers by their URIs, and drops that need a second
+// look.
+#pragma once
+
+#include "Toolkit/ole/DataObject.h"
+#include "Views/host/host.h"
+
+#include <string>
+
+namespace editor
+{
+
+// Are there files that this container may take? Looks at the kinds of data alone, which costs nothing.
+bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer);
+// Copies of the files are added to the container, under names that are free, one after the other. Empty when all were
+// taken; else the reason for the first one that was not.
+std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer);
+
+// The effect of a drop of atoms, where the views have found one. A container that takes something as a copy only does
+// not get it by a move: a folder does not take itself or what holds it without Ctrl, and what comes into a phase also
+// stays where it is.
+DROPEFFECT SafeEffect(DROPEFFECT effect, COleDataObject& data, IAtomContainer* pContainer, bool bControl);
+
+// Why a drop was not taken as a whole, as far as the editor knows.
+std::string DropError();
+
+} // namespace editor

@@ -1,0 +1,184 @@
+// Objects dragged with the mouse, between list and tree; what lies on the disk afterwards. And their menu.
+#include "Editor/services/FileUris.h"
+#include "Toolkit/window/Menu.h"
+#include "Toolkit/window/MessageBox.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace
+{
+
+class DragTest : public EditorTest
+{
+protected:
+    DragTest()
+    {
+        folder.WriteBmp("Ada/a.bmp");
+        folder.WriteBmp("Ada/b.bmp");
+        folder.WriteBmp("Ada/c.bmp");
+        folder.MakeFolder("Bo");
+    }
+
+    editor::CEditorTree& Tree() { return Frame().GetTree(); }
+    CPoint PlaceInTree(const std::string& label)
+    {
+        HTREEITEM hItem = Tree().GetRootItem();
+        while (hItem && Tree().GetItemText(hItem).GetString() != label)
+            hItem = Tree().GetNextVisibleItem(hItem);
+        CRect text;
+        EXPECT_TRUE(Tree().GetItemRect(hItem, &text, TRUE)) << label;
+        return text.CenterPoint();
+    }
+
+    // Presses there and moves on, which begins the drag; the script is what the user does then.
+    void Drag(HWND hFrom, CPoint at, std::function<void()> script)
+    {
+        desktop.DuringDrag(std::move(script));
+        desktop.Advance(1000);
+        desktop.Press(hFrom, at);
+        desktop.MoveTo(hFrom, at + CPoint(9, 0));
+        if (desktop.IsDragging())
+            ADD_FAILURE() << "still dragging";
+        Settle();
+    }
+    void DropOnTree(const std::string& label)
+    {
+        desktop.MoveTo(Tree().m_hWnd, PlaceInTree(label));
+        desktop.Release(Tree().m_hWnd, PlaceInTree(label));
+    }
+    void DropOnList(CPoint at)
+    {
+        desktop.MoveTo(List(), at);
+        desktop.Release(List(), at);
+    }
+    CPoint BelowTheRows()
+    {
+        CRect client;
+        GetClientRect(List(), &client);
+        return {client.right / 2, client.bottom - 5};
+    }
+    void Select(std::initializer_list<const char*> names)
+    {
+        desktop.Hold({});
+        for (const char* pszName : names) {
+            Click(pszName);
+            desktop.Hold({.control = true});
+        }
+        desktop.Hold({});
+    }
+    std::string Moved() const { return trash.folder.Everything(); }
+
+    using Boxes = std::vector<std::string>;
+};
+
+TEST_F(DragTest, WhatIsDraggedFromTheListIntoTheTreeMovesOnTheDisk)
+{
+    Open();
+    DoubleClick("Ada");
+    Select({"a.bmp", "c.bmp"});
+    const std::string picture = folder.Read("Ada/a.bmp");
+
+    Drag(List(), PlaceOf("c.bmp"), [&] { DropOnTree("Bo"); });
+
+    EXPECT_EQ(DROPEFFECT_MOVE, desktop.DragEffect());
+    EXPECT_EQ("Ada/ Ada/b.bmp Bo/ Bo/a.bmp Bo/c.bmp", folder.Everything());
+    EXPECT_EQ(picture, folder.Read("Bo/a.bmp"));
+    EXPECT_EQ("/Ada/ | [*b.bmp] | 1 object", Screen());
+    DoubleClick("b.bmp");
+    desktop.Key(VK_BACK);
+    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+}
+
+TEST_F(DragTest, WithControlItIsCopiedAndEscapeLeavesAllAsItWas)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    const auto copyTo = [&](auto drop) {
+        return [this, drop] {
+            desktop.Hold({.control = true});
+            drop();
+            desktop.Hold({});
+        };
+    };
+    Drag(List(), PlaceOf("a.bmp"), copyTo([&] { DropOnTree("Bo"); }));
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
+    Drag(List(), PlaceOf("a.bmp"), copyTo([&] { DropOnList(BelowTheRows()); }));
+    EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
+
+    const std::string before = folder.Everything();
+    Drag(List(), PlaceOf("b.bmp"), [&] {
+        desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo"));
+        desktop.Key(VK_ESCAPE);
+    });
+    Drag(List(), PlaceOf("b.bmp"), [&] { DropOnList(BelowTheRows()); }); // where it is already
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    Drag(List(), PlaceOf("a.bmp"), [&] { DropOnTree("Bo"); }); // where there is one of that name
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    EXPECT_EQ(before, folder.Everything());
+}
+
+TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    Drag(List(), PlaceOf("a.bmp"), [&] {
+        std::vector<CStubRef<IAtom>> other;
+        other.push_back(Frame().GetList().GetAtom(1)); // as a drop selects what it has pasted
+        Frame().GetCommands().Select(other, Frame().ShownContainer());
+        DropOnTree("Bo");
+    });
+    EXPECT_EQ("/Ada/ | [(*b.bmp) c.bmp] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("Ada/ Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
+    desktop.Answer(IDYES);
+    desktop.Key(VK_DELETE);
+    EXPECT_EQ("Ada/ Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything()) << "the selection counts again";
+}
+
+TEST_F(DragTest, AFolderDoesNotGoIntoItselfNorBelow)
+{
+    folder.WriteBmp("Ada/Poses/p.bmp");
+    Open();
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] {
+        DropOnTree("Ada");
+    });
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    const std::string before = folder.Everything();
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(PlaceOf("Poses")); });
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(BelowTheRows()); });
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    EXPECT_EQ(before, folder.Everything());
+
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Bo"); });
+    EXPECT_EQ("Bo/ Bo/Ada/ Bo/Ada/Poses/ Bo/Ada/Poses/p.bmp Bo/Ada/a.bmp Bo/Ada/b.bmp Bo/Ada/c.bmp",
+              folder.Everything());
+    EXPECT_EQ("/Bo/ | [Ada] | 1 object", Screen());
+}
+
+TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
+{
+    Open();
+    DoubleClick("Ada");
+    desktop.Choose("Select all");
+    desktop.Click(List(), BelowTheRows(), toolkit::MouseButton::Right);
+    desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
+    EXPECT_EQ(Boxes({"[(Open) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | Select all | Refresh]",
+                     "[(Open) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select all) | Refresh]"}),
+              desktop.TakeMenus());
+    Click("b.bmp");
+    for (const char* pszCommand : {"Copy", "Paste"}) {
+        desktop.Choose(pszCommand);
+        desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
+    }
+    EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp (*b (2).bmp)] | 4 objects, 1 selected | b (2).bmp: 8 x 8 pixels", Screen());
+    desktop.Choose("Delete");
+    desktop.Answer(IDYES);
+    desktop.Click(List(), PlaceOf("c.bmp"), toolkit::MouseButton::Right);
+    desktop.Choose("Open");
+    desktop.Click(List(), PlaceOf("a.bmp"), toolkit::MouseButton::Right);
+    EXPECT_EQ("/Ada/a.bmp/ | picture |  | a.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/", folder.Everything());
+}
+
+} // namespace
