@@ -80,6 +80,13 @@ std::vector<CStubRef<IAtom>> CEditorList::AtomsInSight() const
     return atoms;
 }
 
+CStubRef<IAtomContainer> CEditorList::ContainerAt(CPoint client) const
+{
+    const int nRow = m_view.HitTest(client);
+    return nRow < 0 ? CStubRef<IAtomContainer>::Share(m_events.askShown())
+                    : CStubRef<IAtomContainer>::From(GetAtom(nRow).Get());
+}
+
 // Only where the ground is new: text drawn twice would come out bolder.
 void CEditorList::DrawEmptyText(const CRect& dirty) const
 {

@@ -1,6 +1,7 @@
 // A list view as the frame uses it, whatever its rows look like.
 #pragma once
 
+#include "Editor/frame/DropTargets.h"
 #include "Views/host/StubRef.h"
 #include "Views/list/list.h"
 
@@ -22,6 +23,8 @@ public:
     {
         std::function<std::string()> askEmptyText; // for the middle of a list without rows
         std::function<void()> painted;             // rows have come into sight, and may have wished for pictures
+        std::function<IAtomContainer*()> askShown; // what the active list shows, borrowed
+        DropFailed dropFailed;
     };
 
     virtual ~CEditorList() = default;
@@ -33,6 +36,10 @@ public:
     virtual void Deactivate() = 0;                       // lets go of all rows and of the pane
     virtual CSize PictureSize() const = 0;               // at which rows wish for pictures
     std::vector<CStubRef<IAtom>> AtomsInSight() const;   // sorted by address
+
+    bool IsEmptySpace(CPoint client) const { return m_view.HitTest(client) < 0; }
+    // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
+    CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
 
     HWND GetSafeHwnd() const { return m_view.GetSafeHwnd(); }
     BOOL IsWindowVisible() const { return m_view.IsWindowVisible(); }
@@ -80,7 +87,9 @@ template <class View>
 class CEditorListOf final : public View, public CEditorList
 {
 public:
-    CEditorListOf(CSize picture, Events events) : CEditorList(*this, std::move(events)), m_picture(picture) {}
+    CEditorListOf(CSize picture, Events events)
+        : CEditorList(*this, std::move(events)), m_picture(picture), m_target(*this, GetEvents().dropFailed)
+    {}
     ~CEditorListOf() override { View::DestroyWindow(); }
 
     CStubRef<IAtom> GetAtom(int nRow) const override
@@ -120,6 +129,10 @@ protected:
         CRect dirty;
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
+        if (message == WM_CREATE && nResult != -1) {
+            View::GetDropTarget().Revoke();
+            m_target.Register(this);
+        }
         if (bPaints) {
             DrawEmptyText(dirty);
             GetEvents().painted();
@@ -129,6 +142,7 @@ protected:
 
 private:
     const CSize m_picture;
+    CEditorListTarget m_target;
     bool m_bActive = false;
 };
 

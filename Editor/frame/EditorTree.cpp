@@ -32,6 +32,7 @@ private:
 } // namespace
 
 BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
+    ON_WM_CREATE()
     ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnItemExpanding)
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
@@ -40,6 +41,21 @@ void CEditorTree::ExpandAtom(IAtom* pAtom)
 {
     if (const HTREEITEM hItem = GetItem(pAtom))
         Expand(hItem, TVE_EXPAND);
+}
+
+CStubRef<IAtomContainer> CEditorTree::ContainerAt(CPoint client) const
+{
+    const HTREEITEM hItem = HitTest(client);
+    const auto* const pRecord = hItem ? reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
+    return CStubRef<IAtomContainer>::From(pRecord ? pRecord->pAtom.Get() : nullptr);
+}
+
+int CEditorTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CObjectsTree::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    GetDropTarget().Revoke();
+    return m_target.Register(this) ? 0 : -1;
 }
 
 BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)

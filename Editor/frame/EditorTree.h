@@ -1,6 +1,7 @@
 // The tree as the frame uses it.
 #pragma once
 
+#include "Editor/frame/DropTargets.h"
 #include "Views/tree/ObjectsTree.h"
 
 namespace editor
@@ -14,10 +15,11 @@ class CMember;
 class CEditorTree : public CObjectsTree
 {
 public:
-    CEditorTree() { ShowMembersOnDemand(); }
+    explicit CEditorTree(DropFailed dropFailed) : m_target(*this, std::move(dropFailed)) { ShowMembersOnDemand(); }
     ~CEditorTree() override { DestroyWindow(); }
 
-    void ExpandAtom(IAtom* pAtom); // nothing when it is not shown or has no members
+    void ExpandAtom(IAtom* pAtom);                             // nothing when it is not shown or has no members
+    CStubRef<IAtomContainer> ContainerAt(CPoint client) const; // the item's, if it is one
 
     // Members that are new on the disk come, too.
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -28,6 +30,7 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
     void OnGetDispInfo(TVDISPINFO* pInfo) override;
 
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
@@ -35,6 +38,7 @@ protected:
 private:
     void ShowItemOf(CMember* pMember);
 
+    CEditorTreeTarget m_target;
     UINT m_nMostItems = ~0u; // with so many items nothing more is read
 };
 

@@ -43,6 +43,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_splitter([this](int x) { MoveSplitter(x); }),
       m_icons(PictureSizeFor({kIconExtent, kIconExtent}), ListEvents()),
       m_thumbnails({kThumbnailExtent, kThumbnailExtent}, ListEvents()),
+      m_tree(ReportDrop()),
       m_picture(pictures),
       m_properties({[this] { return SelectedPhases(); },
                     [this](const CPropertiesPane::Phases& phases) { NoteModified(phases); },

@@ -117,6 +117,7 @@ private:
     std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
+    DropFailed ReportDrop();
     void ShowFailure(UINT nCaptionID, std::string reason);
     CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
@@ -140,6 +141,7 @@ private:
     Commands m_commands;
     PictureStore& m_pictures;
     const std::function<void()> m_closed;
+    const std::shared_ptr<int> m_pAlive = std::make_shared<int>(); // goes with the frame
     DWORD m_dwHandlerCookie = 0;
     CStubRef<CLibrary> m_pLibrary;
     CStubRef<CMember> m_pShown;

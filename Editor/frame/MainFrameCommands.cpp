@@ -150,6 +150,15 @@ void CMainFrame::LeaveWhatIsGone()
         GoTo(pStay);
 }
 
+// The frame may be gone by the time that a drop's failure is told.
+DropFailed CMainFrame::ReportDrop()
+{
+    return [this, pAlive = std::weak_ptr<int>(m_pAlive)](std::string reason) {
+        if (!pAlive.expired())
+            ShowFailure(IDS_DROP_FAILED, std::move(reason));
+    };
+}
+
 void CMainFrame::ShowFailure(UINT nCaptionID, std::string reason)
 {
     if (!reason.empty())

@@ -80,7 +80,8 @@ void CMainFrame::HidePicture()
 
 CEditorList::Events CMainFrame::ListEvents()
 {
-    return {[this] { return DescribeEmptyList(); }, [this] { ForgetUnseenPictures(); }};
+    return {[this] { return DescribeEmptyList(); }, [this] { ForgetUnseenPictures(); },
+            [this] { return static_cast<IAtomContainer*>(ShownContainer()); }, ReportDrop()};
 }
 
 void CMainFrame::OfferLists()

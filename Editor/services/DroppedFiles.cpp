@@ -36,7 +36,7 @@ std::string PasteFile(const std::string& path, CFolder& folder)
     const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
     if (!pArchive)
         return folder.ShownName() + ": no archive can be made for it";
-    ArchiveWriter writer(*pArchive);
+    ArchiveWriter writer(*pArchive.Get());
     if (std::string failure = writer.AddPath(path, {}); !failure.empty())
         return failure;
     if (std::string failure = writer.Finish(); !failure.empty())
@@ -44,17 +44,6 @@ std::string PasteFile(const std::string& path, CFolder& folder)
     if (CheckPaste(pArchive.Get(), &folder, FALSE) == PASTE_REFUSED)
         return ToShown(path.substr(path.rfind('/') + 1)) + ": not a file that the library shows";
     return PasteObjects(pArchive.Get(), &folder, FALSE) ? std::string() : DropError();
-}
-
-DWORD VerdictOnMove(COleDataObject& data, IAtomContainer* pContainer)
-{
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    STGMEDIUM medium{};
-    if (!pEditor || !data.GetData(pEditor->GetClipboardFormat(), &medium))
-        return PASTE_REFUSED;
-    const auto pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
-    ReleaseStgMedium(&medium);
-    return CheckPaste(pArchive.Get(), pContainer, TRUE);
 }
 
 } // namespace
@@ -80,13 +69,20 @@ try {
     return exception.GetErrorMessage();
 }
 
-DROPEFFECT SafeEffect(DROPEFFECT effect, COleDataObject& data, IAtomContainer* pContainer, bool bControl)
+DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bControl)
 {
-    if (effect == DROPEFFECT_NONE || bControl)
-        return effect;
-    if (effect == DROPEFFECT_MOVE && VerdictOnMove(data, pContainer) == PASTE_ANY)
-        return effect;
-    return FolderBehind(pContainer) ? DROPEFFECT_NONE : DROPEFFECT_COPY;
+    return effect == DROPEFFECT_COPY && !bControl && FolderBehind(pContainer) ? DROPEFFECT_NONE : effect;
+}
+
+bool MayMove(COleDataObject& data, IAtomContainer* pContainer)
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    STGMEDIUM medium{};
+    if (!pEditor || !data.GetData(pEditor->GetClipboardFormat(), &medium))
+        return false;
+    const auto pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
+    ReleaseStgMedium(&medium);
+    return pArchive && CheckPaste(pArchive.Get(), pContainer, TRUE) == PASTE_ANY;
 }
 
 std::string DropError()

@@ -16,10 +16,10 @@ bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer);
 // taken; else the reason for the first one that was not.
 std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer);
 
-// The effect of a drop of atoms, where the views have found one. A container that takes something as a copy only does
-// not get it by a move: a folder does not take itself or what holds it without Ctrl, and what comes into a phase also
-// stays where it is.
-DROPEFFECT SafeEffect(DROPEFFECT effect, COleDataObject& data, IAtomContainer* pContainer, bool bControl);
+// A container that takes something as a copy only does not get it by a move. What comes into a phase also stays where
+// it is, but nobody wants a folder in itself who has not asked for a copy with Ctrl: none then.
+DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bControl);
+bool MayMove(COleDataObject& data, IAtomContainer* pContainer); // reads the atoms that are dragged
 
 // Why a drop was not taken as a whole, as far as the editor knows.
 std::string DropError();

@@ -34,6 +34,8 @@ public:
     // Shows the members of an atom that is a container; any other atom empties the view. FALSE for NULL. Does nothing,
     // and says TRUE, before there is a window.
     BOOL SetRootAtom(IAtom* pRoot);
+    // Registered when the window is made. A host that has a target of its own revokes this one.
+    CListDropTarget& GetDropTarget() { return m_dropTarget; }
 
 protected:
     // The hooks come first: they follow the list control's own virtual operations.

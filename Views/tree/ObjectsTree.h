@@ -40,6 +40,8 @@ public:
     // The selected item's atom as the asked interface, with a reference. FALSE, and *ppOut is NULL, when nothing is
     // selected or the atom does not have it; FALSE for ppOut NULL.
     BOOL GetSelectedAtom(void** ppOut, DWORD dwInterfaceId);
+    // Registered when the window is made. A host that has a target of its own revokes this one.
+    CTreeDropTarget& GetDropTarget() { return *m_pDropTarget; }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
 

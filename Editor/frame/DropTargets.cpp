@@ -1,0 +1,100 @@
+#include "Editor/frame/DropTargets.h"
+
+#include "Editor/frame/EditorList.h"
+#include "Editor/frame/EditorTree.h"
+#include "Editor/services/DroppedFiles.h"
+#include "Toolkit/window/Desktop.h"
+
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+bool HasAtoms(COleDataObject* pData)
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    return pData && pEditor && pData->IsDataAvailable(pEditor->GetClipboardFormat());
+}
+
+// Once the drag is over: nobody waits for an answer in the middle of one.
+void TellLater(const DropFailed& failed, std::string reason)
+{
+    if (!reason.empty())
+        toolkit::PostTask([failed, reason = std::move(reason)] { failed(reason); });
+}
+
+BOOL DropFiles(COleDataObject* pData, IAtomContainer* pContainer, const DropFailed& failed)
+{
+    if (!pData || !OffersFilesFor(*pData, pContainer))
+        return FALSE;
+    std::string reason = PasteFiles(*pData, pContainer);
+    const BOOL bAll = reason.empty();
+    TellLater(failed, std::move(reason));
+    return bAll;
+}
+
+} // namespace
+
+DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
+{
+    const auto pContainer = m_list.ContainerAt(point);
+    if (!HasAtoms(pDataObject))
+        return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
+    DROPEFFECT effect = CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
+    if (effect == DROPEFFECT_MOVE && m_list.IsEmptySpace(point) && !MayMove(*pDataObject, pContainer.Get()))
+        effect = DROPEFFECT_COPY;
+    return SafeEffect(effect, pContainer.Get(), dwKeyState & MK_CONTROL);
+}
+
+BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
+{
+    if (!HasAtoms(pDataObject))
+        return DropFiles(pDataObject, m_list.ContainerAt(point).Get(), m_failed);
+    const DropFailed failed = m_failed;
+    if (CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point))
+        return TRUE;
+    TellLater(failed, DropError());
+    return FALSE;
+}
+
+DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
+{
+    const auto pContainer = m_tree.ContainerAt(point);
+    if (HasAtoms(pDataObject))
+        return SafeEffect(CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point), pContainer.Get(),
+                          dwKeyState & MK_CONTROL);
+    const bool bTaken = pDataObject && OffersFilesFor(*pDataObject, pContainer.Get());
+    Highlight(bTaken ? m_tree.HitTest(point) : nullptr);
+    return bTaken ? DROPEFFECT_COPY : DROPEFFECT_NONE;
+}
+
+BOOL CEditorTreeTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
+{
+    Highlight(nullptr);
+    if (!HasAtoms(pDataObject))
+        return DropFiles(pDataObject, m_tree.ContainerAt(point).Get(), m_failed);
+    const DropFailed failed = m_failed;
+    if (CTreeDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point))
+        return TRUE;
+    TellLater(failed, DropError());
+    return FALSE;
+}
+
+void CEditorTreeTarget::OnDragLeave(CWnd* pWnd)
+{
+    Highlight(nullptr);
+    CTreeDropTarget::OnDragLeave(pWnd);
+}
+
+void CEditorTreeTarget::Highlight(HTREEITEM hItem)
+{
+    if (hItem == m_hHighlighted)
+        return;
+    m_tree.SetItemState(m_hHighlighted, 0, TVIS_DROPHILITED);
+    m_hHighlighted = hItem;
+    m_tree.SetItemState(hItem, TVIS_DROPHILITED, TVIS_DROPHILITED);
+}
+
+} // namespace editor
