@@ -79,7 +79,8 @@ TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKe
     desktop.Type("65");
     EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
     desktop.Key(VK_TAB);
-    desktop.Type("3");
+    desktop.TakeClipboard({{"text/plain;charset=utf-8", "3"}});
+    Control('V'); // as good as typed
     desktop.Key(VK_RETURN);
     EXPECT_EQ("65 ms, 3 times | 2 phases: not saved yet (Ctrl+S)", Shown());
     EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
