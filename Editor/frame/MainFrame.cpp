@@ -83,8 +83,10 @@ BOOL CMainFrame::OnCreateAtom(IAtom* pAtom, IAtomContainer*)
 BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
     const CStubRef<CMember> pCreated = std::move(m_pCreated);
-    if (pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container())
+    const bool bRenamed = pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container();
+    if (bRenamed)
         FollowRenamed(pAtom, pCreated.Get());
+    ForgetModified(pAtom, bRenamed ? pCreated.Get() : nullptr);
     UpdateStatus();
     return TRUE;
 }

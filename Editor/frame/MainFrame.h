@@ -135,7 +135,8 @@ private:
     void UpdateStatus();
     CPropertiesPane::Phases SelectedPhases() const;
     void NoteModified(const CPropertiesPane::Phases& phases);
-    bool MayClose(); // asks what is to become of phases that are modified
+    void ForgetModified(IAtom* pGone, CMember* pRenamed); // its numbers go to what it has become, if anything
+    bool MayClose();                                      // asks what is to become of phases that are modified
 
     CAtomEditor& m_editor;
     Commands m_commands;

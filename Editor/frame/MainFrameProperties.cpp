@@ -41,6 +41,22 @@ void CMainFrame::NoteModified(const CPropertiesPane::Phases& phases)
     }
 }
 
+void CMainFrame::ForgetModified(IAtom* pGone, CMember* pRenamed)
+{
+    const auto at = std::find_if(m_modified.begin(), m_modified.end(),
+                                 [&](const auto& pPhase) { return static_cast<IAtom*>(pPhase.Get()) == pGone; });
+    if (at == m_modified.end())
+        return;
+    auto* const pNow = dynamic_cast<CPhase*>(pRenamed);
+    if (!pNow) {
+        m_modified.erase(at);
+        return;
+    }
+    if ((*at)->IsModified())
+        pNow->SetTiming((*at)->GetTiming());
+    *at = CStubRef<CPhase>::Share(pNow);
+}
+
 std::string CMainFrame::Save()
 {
     std::string failure;

@@ -113,6 +113,21 @@ TEST_F(PropertiesTest, ClosingAsksWhatIsToBecomeOfWhatWasEntered)
     EXPECT_EQ(1, nClosed);
 }
 
+TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlong)
+{
+    Open();
+    Click("walk.phase");
+    desktop.Key(VK_F4);
+    desktop.Type("7");
+    desktop.Key(VK_RETURN);
+    editor::CMember* const pWalk = editor::CMember::Of(Frame().GetList().GetAtom(2).Get());
+    EXPECT_EQ("", Frame().GetCommands().Rename(pWalk, "stroll.phase"));
+    Settle();
+    Control('S');
+    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
+    EXPECT_EQ("#delay 7\na.bmp\n", Text("stroll.phase"));
+}
+
 TEST_F(PropertiesTest, WhatCannotBeSavedIsToldAndKept)
 {
     Open();
