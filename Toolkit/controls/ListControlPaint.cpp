@@ -87,7 +87,8 @@ void ListControl::DrawPicture(HDC hdc, int row, int image, UINT state)
         return;
     const CRect rect = m_layout.IconRect(row);
     const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && GetFocus() == m_hWnd);
-    ImageList_Draw(m_hImages, image, hdc, rect.left, rect.top, marked ? ILD_SELECTED : ILD_NORMAL);
+    // The label tells of the selection already; half of its colour would leave little of a large picture.
+    ImageList_Draw(m_hImages, image, hdc, rect.left, rect.top, marked ? ILD_BLEND25 : ILD_NORMAL);
     if (state & LVIS_CUT)
         BlendRect(hdc, rect, GetSysColor(COLOR_WINDOW), kCutFade);
 }

@@ -159,13 +159,13 @@ BOOL ImageList_Draw(HIMAGELIST himl, int i, HDC hdc, int x, int y, UINT style)
     const ImageStore* pStore = FindStore(himl);
     if (!pStore || !pStore->Has(i))
         return FALSE;
-    if (!(style & ILD_BLEND50))
+    if (!(style & (ILD_BLEND25 | ILD_BLEND50)))
         return toolkit::DrawSurface(hdc, {x, y}, pStore->BlockOf(i), pStore->PlaceOf(i));
 
     Surface tinted = toolkit::Crop(pStore->BlockOf(i), pStore->PlaceOf(i));
     const toolkit::Pixel tint = toolkit::ToPixel(GetSysColor(COLOR_HIGHLIGHT));
     for (int row = 0; row < tinted.Height(); ++row)
-        toolkit::TintRow(tinted.Row(row), tinted.Width(), tint);
+        toolkit::TintRow(tinted.Row(row), tinted.Width(), tint, style & ILD_BLEND50);
     return toolkit::DrawSurface(hdc, {x, y}, tinted, tinted.Bounds());
 }
 

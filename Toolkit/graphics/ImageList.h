@@ -10,7 +10,9 @@ inline constexpr UINT ILC_MASK = 0x0001;
 inline constexpr UINT ILC_COLOR32 = 0x0020;
 
 inline constexpr UINT ILD_NORMAL = 0x0000;
+inline constexpr UINT ILD_BLEND25 = 0x0002; // a quarter of the highlight colour over the picture's pixels
 inline constexpr UINT ILD_BLEND50 = 0x0004; // half of the highlight colour over the picture's pixels
+inline constexpr UINT ILD_FOCUS = ILD_BLEND25;
 inline constexpr UINT ILD_SELECTED = ILD_BLEND50;
 
 // Images are 1 to 4096 pixels wide and high, 32 bits deep with alpha whatever the flags say. Room is made for

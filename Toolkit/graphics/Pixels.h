@@ -45,11 +45,16 @@ constexpr Pixel Over(Pixel above, Pixel below)
     return above + ScalePixel(below, 255 - (above >> 24));
 }
 
+// Of each part by itself; rounded down.
+constexpr Pixel Average(Pixel a, Pixel b)
+{
+    return (a & b) + ((a ^ b) >> 1 & 0x7F7F7F7F);
+}
+
 // The mean of the pixel and an opaque tint seen through the pixel's own alpha, which stays; rounded down.
 constexpr Pixel Tinted(Pixel pixel, Pixel tint)
 {
-    const Pixel covering = ScalePixel(tint, pixel >> 24);
-    return (pixel & covering) + ((pixel ^ covering) >> 1 & 0x7F7F7F7F);
+    return Average(pixel, ScalePixel(tint, pixel >> 24));
 }
 
 // Each colour turned into its opposite, as seen through the same alpha. Done twice it is undone.
@@ -92,10 +97,13 @@ inline void BlendRow(Pixel* __restrict to, const Pixel* __restrict from, int cou
         to[i] = Over(from[i], to[i]);
 }
 
-inline void TintRow(Pixel* row, int count, Pixel opaqueTint)
+// By half, or by a quarter: half of what half would be.
+inline void TintRow(Pixel* row, int count, Pixel opaqueTint, bool bByHalf)
 {
-    for (int i = 0; i < count; ++i)
-        row[i] = Tinted(row[i], opaqueTint);
+    for (int i = 0; i < count; ++i) {
+        const Pixel half = Tinted(row[i], opaqueTint);
+        row[i] = bByHalf ? half : Average(row[i], half);
+    }
 }
 
 } // namespace toolkit

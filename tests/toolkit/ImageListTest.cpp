@@ -149,6 +149,8 @@ TEST_F(ImageListTest, ASelectedImageIsTintedOnlyWhereItCovers)
               toolkit::ToColor(drawn.At(0, 0)));
     EXPECT_EQ(0xFFFFFFFF, drawn.At(1, 0));
     EXPECT_EQ(0xFFBF99AF, drawn.At(2, 0));
+    EXPECT_EQ(RGB(GetRValue(highlight) / 4, GetGValue(highlight) / 4, GetBValue(highlight) / 4),
+              toolkit::ToColor(Drawn(0, ILD_BLEND25).At(0, 0)));
     EXPECT_EQ((Rows{"#.?"}), Shown(0)); // the list's own picture is as it was
 }
 
