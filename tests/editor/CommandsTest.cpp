@@ -2,6 +2,8 @@
 #include "Toolkit/window/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
 
+#include <filesystem>
+
 namespace
 {
 
@@ -114,6 +116,28 @@ TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
     Press(VK_DELETE);
     EXPECT_EQ("/Bo/ | [z (2).bmp z.bmp] | 2 objects", Screen());
     EXPECT_EQ("Bo/ Bo/z (2).bmp Bo/z.bmp", folder.Everything());
+}
+
+TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDisk)
+{
+    folder.WriteBmp("Bo/c.bmp");
+    folder.WriteBmp("Bo/caf\xE9.bmp"); // by a program that knew no UTF-8
+    Open();
+    DoubleClick("Bo");
+    const auto rename = [&](const char* pszShown, const char* pszName) {
+        Click(pszShown);
+        Press(VK_F2);
+        desktop.Type(pszName);
+        Press(VK_RETURN);
+        return desktop.TakeMessageBoxes();
+    };
+    EXPECT_EQ(Boxes(), rename("caf\xEF\xBF\xBD.bmp", ""));
+    EXPECT_TRUE(std::filesystem::exists(folder.At("Bo/caf\xE9.bmp")));
+    folder.WriteBmp("Bo/b.bmp");
+    EXPECT_EQ(Boxes({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b.bmp"));
+    EXPECT_EQ("[(*c.bmp) caf\xEF\xBF\xBD.bmp]", Rows());
+    EXPECT_EQ(Boxes(), rename("c.bmp", "z.bmp"));
+    EXPECT_TRUE(std::filesystem::exists(folder.At("Bo/z.bmp")));
 }
 
 TEST_F(CommandsTest, WhatWasRenamedStaysSelectedAndShown)
