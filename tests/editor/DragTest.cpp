@@ -163,12 +163,14 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
         desktop.Choose(pszCommand);
         desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
     }
+    Settle();
     EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp (*b (2).bmp)] | 4 objects, 1 selected | b (2).bmp: 8 x 8 pixels", Screen());
     desktop.Choose("Delete");
     desktop.Answer(IDYES);
     desktop.Click(List(), PlaceOf("c.bmp"), toolkit::MouseButton::Right);
     desktop.Choose("Open");
     desktop.Click(List(), PlaceOf("a.bmp"), toolkit::MouseButton::Right);
+    Settle();
     EXPECT_EQ("/Ada/a.bmp/ | picture |  | a.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/", folder.Everything());
 }
