@@ -148,6 +148,17 @@ TEST_F(DragTest, AFolderDoesNotGoIntoItselfNorBelow)
     EXPECT_EQ("/Bo/ | [Ada] | 1 object", Screen());
 }
 
+TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereItIs)
+{
+    Open();
+    Select({"Ada", "Bo"});
+    Drag(List(), PlaceOf("Bo"), [&] { DropOnTree("Ada"); });
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    EXPECT_EQ("Ada/ Ada/Bo/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+    EXPECT_EQ(Boxes({"Not everything was taken: Ada: can only be copied there, not moved"}),
+              desktop.TakeMessageBoxes());
+}
+
 TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
 {
     Open();
