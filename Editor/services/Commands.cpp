@@ -1,6 +1,7 @@
 #include "Editor/services/Commands.h"
 
 #include "Editor/services/ActiveMembers.h"
+#include "Editor/services/DroppedFiles.h"
 #include "Editor/services/StateHandler.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/ole/DataObject.h"
@@ -119,6 +120,17 @@ try {
 
 std::string Commands::Paste(CContainer* pTarget)
 try {
+    const Arrivals arrivals(m_editor, pTarget);
+    std::string trouble = AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
+    if (!arrivals.Get().empty())
+        Select(arrivals.Get(), pTarget);
+    return trouble;
+} catch (const CMemoryException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::PasteAtoms(CContainer* pTarget)
+{
     std::string trouble;
     const CStubRef<IArchive> pArchive = ArchiveOnClipboard(m_editor.GetClipboardFormat(), trouble);
     if (!pArchive)
@@ -127,16 +139,25 @@ try {
         trouble = m_editor.GetArchiveError();
         return trouble.empty() ? pTarget->ShownName() + ": it does not take these objects" : trouble;
     }
-    const Arrivals arrivals(m_editor, pTarget);
     const bool bRead = PasteObjects(pArchive.Get(), pTarget, FALSE) != FALSE;
     trouble = m_editor.GetArchiveError();
     if (!bRead && trouble.empty())
         trouble = ErrorOf(pTarget, pTarget->ShownName() + ": it does not take all of these objects");
-    if (!arrivals.Get().empty())
-        Select(arrivals.Get(), pTarget);
     return trouble;
-} catch (const CMemoryException& e) {
-    return e.GetErrorMessage();
+}
+
+// A file manager's, where there are no objects of an editor.
+bool Commands::AreFilesOnClipboard(CContainer* pTarget) const
+{
+    COleDataObject data;
+    return data.AttachClipboard() && !data.IsDataAvailable(m_editor.GetClipboardFormat()) &&
+           OffersFilesFor(data, pTarget);
+}
+
+std::string Commands::PasteClipboardFiles(CContainer* pTarget)
+{
+    COleDataObject data;
+    return data.AttachClipboard() ? PasteFiles(data, pTarget) : std::string("there are no files on the clipboard");
 }
 
 std::string Commands::Rename(CMember* pMember, const std::string& name)

@@ -29,12 +29,17 @@ public:
     std::string Cut();
     std::string Remove(); // without asking
 
-    // What the clipboard holds is added to the container, and selected there.
+    // What the clipboard holds, objects or else the files that a file manager has copied, is added to the container,
+    // and selected there.
     std::string Paste(CContainer* pTarget);
     // What has the new name is another object.
     std::string Rename(CMember* pMember, const std::string& name);
 
 private:
+    std::string PasteAtoms(CContainer* pTarget);
+    bool AreFilesOnClipboard(CContainer* pTarget) const;
+    std::string PasteClipboardFiles(CContainer* pTarget);
+
     CAtomEditor& m_editor;
 };
 

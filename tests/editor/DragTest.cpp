@@ -186,4 +186,99 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/", folder.Everything());
 }
 
+TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
+{
+    const TempFolder outside;
+    outside.WriteBmp("new one.bmp");
+    outside.Write("notes.txt", "no picture");
+    outside.WriteBmp("a.bmp", 4, 4);
+    const auto uri = [&](const char* pszName) { return "file://" + outside.At(pszName) + "\r\n"; };
+    Open();
+    DoubleClick("Ada");
+    desktop.DragIn({{"text/uri-list", uri("a.bmp") + "http://example.org/far.bmp\r\n" + uri("new%20one.bmp")}});
+    DropOnList(BelowTheRows());
+    EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)] | 5 objects, 1 selected | new one.bmp: 8 x 8 "
+              "pixels",
+              Screen());
+    desktop.DragIn({{"text/uri-list", uri("notes.txt") + uri("a.bmp")}});
+    DropOnTree("Bo");
+    EXPECT_EQ(Boxes({"Not everything was taken: notes.txt: not a file that the library shows"}),
+              desktop.TakeMessageBoxes());
+    EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp", folder.Everything());
+    EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
+
+    Click("new one.bmp");
+    std::string dragged;
+    Drag(List(), PlaceOf("new one.bmp"), [&] {
+        dragged = desktop.ReadDragged("text/uri-list").value_or("none");
+        desktop.DragOut();
+        desktop.DropOutside(DROPEFFECT_COPY);
+    });
+    EXPECT_EQ("file://" + folder.At("Ada/new%20one.bmp") + "\r\n", dragged);
+
+    desktop.TakeClipboard({{"text/uri-list", uri("a.bmp")}});
+    desktop.Hold({.control = true});
+    desktop.Key('V');
+    desktop.Hold({});
+    EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/a (3).bmp"));
+}
+
+TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)
+{
+    folder.Write("Ada/walk.phase", "");
+    Open();
+    DoubleClick("Ada");
+    DoubleClick("walk.phase");
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { desktop.Key(VK_ESCAPE); });
+    Tree().Expand(Tree().GetSelectedItem(), TVE_EXPAND);
+    Click("a.bmp");
+    Drag(List(), PlaceOf("a.bmp"), [&] { DropOnList(PlaceOf("walk.phase")); });
+    EXPECT_EQ(DROPEFFECT_COPY, desktop.DragEffect());
+    EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/walk.phase Bo/", folder.Everything());
+}
+
+TEST_F(DragTest, AMoveThatTheDiskRefusesLeavesTheOriginals)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    Drag(List(), PlaceOf("a.bmp"), [&] {
+        desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo") - CPoint(1, 0));
+        desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo")); // now it has been asked
+        folder.Write("Bo/a.bmp", "came under way");       // nobody has read the folder anew
+        desktop.Release(Tree().m_hWnd, PlaceInTree("Bo"));
+    });
+    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+    EXPECT_EQ("came under way", folder.Read("Bo/a.bmp"));
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
+    EXPECT_EQ(Boxes({"Not everything was taken: a.bmp: file exists"}), desktop.TakeMessageBoxes());
+}
+
+TEST_F(DragTest, ANameThatIsRefusedIsToldAndTheOldOneComesBack)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    const std::string tooLong = std::string(252, 'x') + ".bmp";
+    for (const char* pszName : {"b.bmp", "", "a/b.bmp", "a.txt", tooLong.c_str()}) {
+        desktop.Key(VK_F2);
+        desktop.Hold({.control = true});
+        desktop.Key('A');
+        desktop.Hold({});
+        desktop.Key(VK_DELETE);
+        desktop.Type(pszName);
+        desktop.Key(VK_RETURN);
+        Settle();
+    }
+    const std::string told = "The name was not changed: a.bmp: ";
+    EXPECT_EQ(
+        Boxes({told + "there is a \"b.bmp\" already", told + "a name must not be empty",
+               told + "a name must not hold \"/\"", told + "under the name \"a.txt\" it would be no picture any more",
+               told + "the name is too long (256 of at most 255 bytes)"}),
+        desktop.TakeMessageBoxes());
+    EXPECT_EQ("/Ada/ | [(*a.bmp) b.bmp c.bmp] | 3 objects, 1 selected | a.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+}
+
 } // namespace
