@@ -197,11 +197,13 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     DoubleClick("Ada");
     desktop.DragIn({{"text/uri-list", uri("a.bmp") + "http://example.org/far.bmp\r\n" + uri("new%20one.bmp")}});
     DropOnList(BelowTheRows());
+    Settle();
     EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)] | 5 objects, 1 selected | new one.bmp: 8 x 8 "
               "pixels",
               Screen());
     desktop.DragIn({{"text/uri-list", uri("notes.txt") + uri("a.bmp")}});
     DropOnTree("Bo");
+    Settle();
     EXPECT_EQ(Boxes({"Not everything was taken: notes.txt: not a file that the library shows"}),
               desktop.TakeMessageBoxes());
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp", folder.Everything());
