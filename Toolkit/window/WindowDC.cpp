@@ -27,6 +27,20 @@ void CloseIf(Condition condition)
 {
     std::erase_if(s_open, [&](const OpenDC& open) { return condition(open) && DeleteDC(open.hdc); });
 }
+// `visible` and `area` are of the part that is drawn on. What is drawn on a locked window is not seen, but noted.
+template <class Visible, class Area>
+HDC OpenUnlessLocked(HWND hWnd, Visible visible, Area area)
+{
+    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return nullptr;
+    const bool bLocked = toolkit::IsUpdateLocked(*pWindow);
+    if (bLocked)
+        toolkit::NoteDrawnWhileLocked();
+    const toolkit::Region clip = bLocked ? toolkit::Region() : visible(*pWindow, toolkit::Children::AsTheStyleSays);
+    return toolkit::OpenWindowDC(*pWindow, area(*pWindow).TopLeft(), clip);
+}
+
 } // namespace
 
 HDC toolkit::OpenWindowDC(const WindowRecord& window, CPoint origin, const Region& clip)
@@ -67,28 +81,12 @@ void toolkit::CloseSurfaceDCs(HWND hTop)
 
 HDC GetDC(HWND hWnd)
 {
-    const WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return nullptr;
-    const bool bLocked = toolkit::IsUpdateLocked(*pWindow);
-    if (bLocked)
-        toolkit::NoteDrawnWhileLocked();
-    const toolkit::Region clip =
-        bLocked ? toolkit::Region() : VisibleClient(*pWindow, toolkit::Children::AsTheStyleSays);
-    return toolkit::OpenWindowDC(*pWindow, toolkit::ClientArea(*pWindow).TopLeft(), clip);
+    return OpenUnlessLocked(hWnd, &toolkit::VisibleClient, &toolkit::ClientArea);
 }
 
 HDC GetWindowDC(HWND hWnd)
 {
-    const WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return nullptr;
-    const bool bLocked = toolkit::IsUpdateLocked(*pWindow);
-    if (bLocked)
-        toolkit::NoteDrawnWhileLocked();
-    const toolkit::Region clip =
-        bLocked ? toolkit::Region() : VisibleWindow(*pWindow, toolkit::Children::AsTheStyleSays);
-    return toolkit::OpenWindowDC(*pWindow, toolkit::WindowArea(*pWindow).TopLeft(), clip);
+    return OpenUnlessLocked(hWnd, &toolkit::VisibleWindow, &toolkit::WindowArea);
 }
 
 int ReleaseDC(HWND hWnd, HDC hdc)
