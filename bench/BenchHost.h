@@ -11,6 +11,23 @@
 namespace bench
 {
 
+// A container that takes nothing, gives nothing away and looks nothing up.
+class FixedContainer : public IAtomContainer
+{
+public:
+    BOOL IsModified() override { return FALSE; }
+    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
+    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
+    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RemoveAtom(IAtom*) override { return FALSE; }
+    DWORD GetPermissions(IAtom*) override { return 0; }
+    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
+
+protected:
+    ~FixedContainer() = default;
+};
+
 class Container;
 
 // An atom with a name of 11 bytes and one of 64 icons. Counted, but owned by its container whatever the count.
@@ -39,7 +56,7 @@ private:
 };
 
 // A container of n atoms in shuffled order (a fixed seed): at its own top, or in a library under a name by its number.
-class Container final : public IAtomContainer, public ICharacterLibrary
+class Container final : public FixedContainer, public ICharacterLibrary
 {
 public:
     explicit Container(unsigned nMembers, class Library* pLibrary = nullptr, unsigned number = 0);
@@ -50,16 +67,8 @@ public:
     DWORD GetID() override { return m_number; }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
-    BOOL IsModified() override { return FALSE; }
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
-    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
-    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
-    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RemoveAtom(IAtom*) override { return FALSE; }
-    DWORD GetPermissions(IAtom*) override { return 0; }
-    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
 
     std::size_t MemberCount() const { return m_members.size(); }
     Atom& Member(unsigned n) { return *m_members[n]; }
@@ -74,7 +83,7 @@ private:
 };
 
 // A top with containers that have equal shares of n atoms.
-class Library final : public IAtomContainer, public ICharacterLibrary
+class Library final : public FixedContainer, public ICharacterLibrary
 {
 public:
     Library(unsigned nContainers, unsigned nAtoms);
@@ -85,16 +94,8 @@ public:
     DWORD GetID() override { return 0; }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
-    BOOL IsModified() override { return FALSE; }
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
-    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
-    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
-    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RemoveAtom(IAtom*) override { return FALSE; }
-    DWORD GetPermissions(IAtom*) override { return 0; }
-    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
 
     Container& Member(unsigned n) { return *m_members[n]; }
 
