@@ -1,12 +1,12 @@
-// What an archive's bytes mean, version 1.
+// What an archive's bytes mean, version 2.
 //
 // A header, then the objects, one record behind the other. Numbers are little-endian.
 //
 //   header   8  "AtomArch"
-//            4  version, 1
+//            4  version, 2
 //            4  number of objects
 //            8  length of all records, exactly what follows the header
-//            8  checksum of the 24 bytes before it and of all records
+//            8  checksum of all records and of the 24 bytes before it
 //
 //   record   1  kind: 1 a file, 2 a folder, 3 a line of a phase
 //            1  0
@@ -23,6 +23,10 @@
 // none. Names are single names, never paths, and an archive holds no symbolic links: what they lead to is carried
 // by content. The origin is the path of the object (of a line: of its picture) below its library; it is empty for what
 // is inside a folder. It is only ever looked up in the library that is pasted into, nothing is made at it.
+//
+// The checksum goes on from record to record, the content before what stands in front of it, and ends with the header:
+// so a writer sums what it has just read, while that is still near the processor, and a folder's length when it is
+// known. A folder's content is summed record by record. Bytes where no record can be are summed as they are.
 #pragma once
 
 #include "Editor/model/DiskFile.h"
@@ -47,11 +51,12 @@ struct ArchiveRecord
     RecordKind kind = RecordKind::File;
     std::int64_t changed = 0; // nanoseconds since 1970
     FileIdentity identity;
-    std::string_view name, origin, content; // in the archive's bytes
+    std::string_view head; // all before the content; this and what follows lies in the archive's bytes
+    std::string_view name, origin, content;
 };
 
 inline constexpr std::string_view kArchiveMark = "AtomArch";
-inline constexpr std::uint32_t kArchiveVersion = 1;
+inline constexpr std::uint32_t kArchiveVersion = 2;
 inline constexpr std::size_t kHeaderSize = 32;
 inline constexpr std::size_t kSummedHeader = 24; // its part that counts for the checksum
 inline constexpr std::size_t kRecordSize = 36;

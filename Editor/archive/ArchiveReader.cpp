@@ -54,6 +54,17 @@ std::int64_t CountRecords(std::string_view records, int depth)
     return reader.IsAtEnd() ? count : -1;
 }
 
+std::uint64_t SumOfRecords(std::string_view records, std::uint64_t sum, int depth)
+{
+    RecordReader reader(records);
+    for (ArchiveRecord record; reader.Next(record);) {
+        const bool hasRecords = record.kind == RecordKind::Folder && depth + 1 < kDeepestFolder;
+        sum = hasRecords ? SumOfRecords(record.content, sum, depth + 1) : Checksum(record.content, sum);
+        sum = Checksum(record.head, sum);
+    }
+    return reader.IsAtEnd() ? sum : Checksum(reader.Rest(), sum);
+}
+
 std::string TroubleOfHeader(std::string_view bytes)
 {
     if (bytes.size() < kHeaderSize || !bytes.starts_with(kArchiveMark))
@@ -86,12 +97,13 @@ bool RecordReader::Next(ArchiveRecord& record)
     record.kind = static_cast<RecordKind>(kind);
     record.changed = NumberAt<std::int64_t>(p + 8);
     record.identity = {NumberAt<std::uint64_t>(p + 16), NumberAt<std::uint64_t>(p + 24)};
+    record.head = m_rest.substr(0, kRecordSize + name + origin);
     record.name = m_rest.substr(kRecordSize, name);
     record.origin = m_rest.substr(kRecordSize + name, origin);
     record.content = m_rest.substr(kRecordSize + name + origin, content);
     if (!IsSound(record))
         return false;
-    m_rest.remove_prefix(kRecordSize + name + origin + content);
+    m_rest.remove_prefix(record.head.size() + content);
     return true;
 }
 
@@ -108,7 +120,12 @@ std::string_view OpenArchive(std::string_view bytes, std::string& trouble)
 
 std::uint64_t ChecksumOfArchive(std::string_view bytes)
 {
-    return Checksum(bytes.substr(kHeaderSize), Checksum(bytes.substr(0, kSummedHeader)));
+    return ChecksumOfHeader(bytes.data(), SumOfRecords(bytes.substr(kHeaderSize), 0, 0));
+}
+
+std::uint64_t ChecksumOfHeader(const char* pHeader, std::uint64_t records)
+{
+    return Checksum({pHeader, kSummedHeader}, records);
 }
 
 } // namespace editor

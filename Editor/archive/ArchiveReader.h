@@ -17,6 +17,7 @@ public:
 
     bool Next(ArchiveRecord& record); // false at the end, and where no record follows
     bool IsAtEnd() const { return m_rest.empty(); }
+    std::string_view Rest() const { return m_rest; } // what has not been read
 
 private:
     std::string_view m_rest;
@@ -26,7 +27,9 @@ private:
 // damaged, or hold anything anywhere that RecordReader refuses.
 std::string_view OpenArchive(std::string_view bytes, std::string& trouble);
 
-// The checksum that belongs into the header of these bytes, which are at least a header.
+// The checksum that belongs into the header of these bytes, which are at least a header and may be anything else.
 std::uint64_t ChecksumOfArchive(std::string_view bytes);
+// The same for a header that has everything but the checksum, when that of the records is known already.
+std::uint64_t ChecksumOfHeader(const char* pHeader, std::uint64_t records);
 
 } // namespace editor

@@ -1,6 +1,7 @@
 #include "Editor/archive/ArchiveWriter.h"
 
 #include "Editor/archive/ArchiveReader.h"
+#include "Editor/archive/Checksum.h"
 #include "Editor/model/DiskFile.h"
 #include "Editor/model/FileNames.h"
 #include "Editor/model/FileText.h"
@@ -28,6 +29,23 @@ std::int64_t Nanoseconds(const timespec& time)
 std::string Because(std::string_view shown, const std::string& reason)
 {
     return ToShown(shown) + ": " + reason;
+}
+
+// What went wrong; empty when all was read.
+std::string ReadAll(int fd, char* pBytes, std::size_t size)
+{
+    while (size > 0) {
+        const ssize_t got = read(fd, pBytes, size);
+        if (got < 0 && errno == EINTR)
+            continue;
+        if (got < 0)
+            return SystemErrorText(errno);
+        if (got == 0)
+            return "became shorter while it was read";
+        pBytes += got;
+        size -= static_cast<std::size_t>(got);
+    }
+    return {};
 }
 
 } // namespace
@@ -84,7 +102,11 @@ std::string ArchiveWriter::AddLink(std::string_view name, const std::string& pat
     const Entry picture(AT_FDCWD, path, std::string(name));
     if (const std::string trouble = picture.Trouble(); !trouble.empty())
         return Fail(Because(name, trouble));
-    return AddHeader(RecordKind::Link, name, picture, origin);
+    const std::size_t at = NextRecord();
+    std::string error = AddHead(RecordKind::Link, name, picture, origin);
+    if (error.empty())
+        CloseRecord(at);
+    return error;
 }
 
 std::string ArchiveWriter::Finish()
@@ -97,7 +119,7 @@ std::string ArchiveWriter::Finish()
     PutNumber<std::uint32_t>(pHeader + 8, kArchiveVersion);
     PutNumber<std::uint32_t>(pHeader + 12, m_nObjects);
     PutNumber<std::uint64_t>(pHeader + 16, m_nLength - kHeaderSize);
-    PutNumber<std::uint64_t>(pHeader + kSummedHeader, ChecksumOfArchive({pHeader, m_nLength}));
+    PutNumber<std::uint64_t>(pHeader + kSummedHeader, ChecksumOfHeader(pHeader, m_sum));
     return {};
 }
 
@@ -113,24 +135,16 @@ std::string ArchiveWriter::AddFile(const Entry& entry, std::string_view origin)
 {
     if (entry.Size() > kLargest)
         return Fail(Because(entry.Shown(), "too large to be carried"));
-    std::string error = AddHeader(RecordKind::File, entry.Name(), entry, origin);
-    const std::size_t at = m_nLength;
+    const std::size_t at = NextRecord();
+    std::string error = AddHead(RecordKind::File, entry.Name(), entry, origin);
+    const std::size_t content = m_nLength;
     if (error.empty())
         error = Grow(entry.Size());
     if (!error.empty())
         return error;
-    std::size_t done = 0;
-    while (done < entry.Size()) {
-        const ssize_t got = read(entry.Handle(), Data() + at + done, entry.Size() - done);
-        if (got < 0 && errno == EINTR)
-            continue;
-        if (got < 0)
-            return Fail(Because(entry.Shown(), SystemErrorText(errno)));
-        if (got == 0)
-            return Fail(Because(entry.Shown(), "became shorter while it was read"));
-        done += static_cast<std::size_t>(got);
-    }
-    PutNumber<std::uint32_t>(Data() + at - entry.Name().size() - origin.size() - 4, static_cast<std::uint32_t>(done));
+    if (error = ReadAll(entry.Handle(), Data() + content, entry.Size()); !error.empty())
+        return Fail(Because(entry.Shown(), error));
+    CloseRecord(at);
     return {};
 }
 
@@ -140,15 +154,14 @@ std::string ArchiveWriter::AddFolder(const Entry& entry, std::string_view origin
         return Fail(Because(entry.Shown(), "a link to a folder that holds it"));
     if (m_within.size() + 1 >= kDeepestFolder)
         return Fail(Because(entry.Shown(), "too many folders inside each other"));
-    std::string error = AddHeader(RecordKind::Folder, entry.Name(), entry, origin);
-    const std::size_t at = m_nLength;
+    const std::size_t at = NextRecord();
+    std::string error = AddHead(RecordKind::Folder, entry.Name(), entry, origin);
     m_within.push_back(entry.Identity());
     if (error.empty())
         error = AddMembers(entry);
     m_within.pop_back();
     if (error.empty())
-        PutNumber<std::uint32_t>(Data() + at - entry.Name().size() - origin.size() - 4,
-                                 static_cast<std::uint32_t>(m_nLength - at));
+        CloseRecord(at);
     return error;
 }
 
@@ -165,10 +178,9 @@ std::string ArchiveWriter::AddMembers(const Entry& folder)
     return {};
 }
 
-std::string ArchiveWriter::AddHeader(RecordKind kind, std::string_view name, const Entry& entry,
-                                     std::string_view origin)
+std::string ArchiveWriter::AddHead(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin)
 {
-    const std::size_t at = m_nLength == 0 ? kHeaderSize : m_nLength;
+    const std::size_t at = NextRecord();
     if (std::string error = Grow(at - m_nLength + kRecordSize + name.size() + origin.size()); !error.empty())
         return error;
     char* const p = Data() + at;
@@ -181,6 +193,17 @@ std::string ArchiveWriter::AddHeader(RecordKind kind, std::string_view name, con
     PutNumber<std::uint64_t>(p + 24, entry.Identity().inode);
     std::copy(origin.begin(), origin.end(), std::copy(name.begin(), name.end(), p + kRecordSize));
     return {};
+}
+
+void ArchiveWriter::CloseRecord(std::size_t at)
+{
+    char* const p = Data() + at;
+    const std::size_t head = kRecordSize + NumberAt<std::uint16_t>(p + 2) + std::size_t{NumberAt<std::uint16_t>(p + 4)};
+    const std::size_t content = m_nLength - at - head;
+    PutNumber(p + 32, static_cast<std::uint32_t>(content));
+    if (NumberAt<RecordKind>(p) != RecordKind::Folder) // what is in a folder has been summed
+        m_sum = Checksum({p + head, content}, m_sum);
+    m_sum = Checksum({p, head}, m_sum);
 }
 
 std::string ArchiveWriter::Grow(std::size_t bytes)

@@ -35,13 +35,16 @@ private:
     std::string AddFile(const Entry& entry, std::string_view origin);
     std::string AddFolder(const Entry& entry, std::string_view origin);
     std::string AddMembers(const Entry& folder);
-    std::string AddHeader(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin);
+    std::string AddHead(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin);
+    void CloseRecord(std::size_t at); // everything behind its head is its content
+    std::size_t NextRecord() const { return m_nLength == 0 ? kHeaderSize : m_nLength; }
     std::string Grow(std::size_t bytes); // and see to it that they can be written to
     std::string Fail(std::string line);
     char* Data() { return static_cast<char*>(m_stream.GetData()); }
 
     IByteStream& m_stream;
     std::size_t m_nLength = 0; // of the stream
+    std::uint64_t m_sum = 0;   // of the records that are closed
     std::uint32_t m_nObjects = 0;
     std::vector<FileIdentity> m_within; // the folders that are being written, the outermost first
 };

@@ -76,10 +76,11 @@ TEST_F(ArchiveTest, SelectedObjectsAreReadBackInTheirOrder)
 
 TEST_F(ArchiveTest, EveryCutAndEveryChangedBitIsRefused)
 {
+    folder.Write("Ada/b.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");
     folder.Write("a.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");
     Open();
-    const std::string whole = BytesOf(Copy(Library(), {"a.bmp"}).Get());
-    ASSERT_EQ("[a.bmp]", Read(whole));
+    const std::string whole = BytesOf(Copy(Library(), {"Ada", "a.bmp"}).Get());
+    ASSERT_EQ("[Ada a.bmp]", Read(whole));
 
     for (std::size_t length = 0; length < whole.size(); ++length)
         EXPECT_EQ('!', Read(std::string_view(whole).substr(0, length))[0]) << "cut after " << length;
