@@ -4,6 +4,7 @@
 #include "Editor/frame/EditorTree.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Toolkit/window/Desktop.h"
+#include "Views/clipboard/Commands.h"
 
 #include <utility>
 
@@ -43,7 +44,7 @@ DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
     if (!HasAtoms(pDataObject))
         return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
     DROPEFFECT effect = CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
-    if (effect == DROPEFFECT_MOVE && m_list.IsEmptySpace(point) && !MayMove(*pDataObject, pContainer.Get()))
+    if (effect == DROPEFFECT_MOVE && m_list.IsEmptySpace(point) && GetVerdict() != PASTE_ANY)
         effect = DROPEFFECT_COPY;
     return SafeEffect(effect, pContainer.Get(), dwKeyState & MK_CONTROL);
 }

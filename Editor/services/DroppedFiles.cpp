@@ -74,17 +74,6 @@ DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bContr
     return effect == DROPEFFECT_COPY && !bControl && FolderBehind(pContainer) ? DROPEFFECT_NONE : effect;
 }
 
-bool MayMove(COleDataObject& data, IAtomContainer* pContainer)
-{
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    STGMEDIUM medium{};
-    if (!pEditor || !data.GetData(pEditor->GetClipboardFormat(), &medium))
-        return false;
-    const auto pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
-    ReleaseStgMedium(&medium);
-    return pArchive && CheckPaste(pArchive.Get(), pContainer, TRUE) == PASTE_ANY;
-}
-
 std::string DropError()
 {
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());

@@ -19,7 +19,6 @@ std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer);
 // A container that takes something as a copy only does not get it by a move. What comes into a phase also stays where
 // it is, but nobody wants a folder in itself who has not asked for a copy with Ctrl: none then.
 DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bControl);
-bool MayMove(COleDataObject& data, IAtomContainer* pContainer); // reads the atoms that are dragged
 
 // Why a drop was not taken as a whole, as far as the editor knows.
 std::string DropError();

@@ -70,6 +70,8 @@ public:
         return m_target.OnDrop(CWnd::FromHandle(place.hWnd), &object, effect, place.at) ? effect : DROPEFFECT_NONE;
     }
 
+    void WindowGone() override { m_target.Revoke(); }
+
 private:
     COleDropTarget& m_target;
 };
@@ -78,7 +80,7 @@ COleDropTarget::COleDropTarget() : m_site(std::make_unique<Site>(*this)) {}
 
 COleDropTarget::~COleDropTarget()
 {
-    Revoke();
+    COleDropTarget::Revoke();
 }
 
 BOOL COleDropTarget::Register(CWnd* pWnd)

@@ -23,7 +23,7 @@ public:
 
     // FALSE when it is registered already, the window has a drop target, or there is no window.
     BOOL Register(CWnd* pWnd);
-    void Revoke(); // also when the window is destroyed
+    virtual void Revoke(); // also called when the window is destroyed, after its last message
 
     // Both answer the effect that a drop would have; none here.
     virtual DROPEFFECT OnDragEnter(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point);

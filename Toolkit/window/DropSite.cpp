@@ -19,6 +19,13 @@ void toolkit::RevokeDropSite(HWND hWnd)
     s_sites.erase(hWnd);
 }
 
+void toolkit::ForgetDropSite(HWND hWnd)
+{
+    if (DropSite* const pSite = FindDropSite(hWnd))
+        pSite->WindowGone();
+    RevokeDropSite(hWnd);
+}
+
 toolkit::DropSite* toolkit::FindDropSite(HWND hWnd)
 {
     const auto found = s_sites.find(hWnd);

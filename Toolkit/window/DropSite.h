@@ -35,13 +35,15 @@ public:
     virtual bool Scroll(const DragPlace& place) = 0; // it did, towards the edge that the place is at
     // What has become of the data, which was to be treated so; `allowed` is all that its source lets be done.
     virtual DROPEFFECT Drop(const Data& data, const DragPlace& place, DROPEFFECT effect, DROPEFFECT allowed) = 0;
+    virtual void WindowGone() = 0; // the drag is not told to leave a window that is gone
 
 protected:
     ~DropSite() = default;
 };
 
 bool RegisterDropSite(HWND hWnd, DropSite* pSite); // false for a stale handle and when the window has one
-void RevokeDropSite(HWND hWnd);                    // also called when the window goes
-DropSite* FindDropSite(HWND hWnd);                 // NULL when the window has none
+void RevokeDropSite(HWND hWnd);
+void ForgetDropSite(HWND hWnd);    // the window goes: tells the site, and revokes it
+DropSite* FindDropSite(HWND hWnd); // NULL when the window has none
 
 } // namespace toolkit

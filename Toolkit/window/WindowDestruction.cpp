@@ -65,7 +65,7 @@ CWnd* Forget(WindowRecord& window)
     toolkit::ForgetCapture(hWnd);
     toolkit::ForgetMouse(hWnd);
     toolkit::DropTimers(hWnd);
-    toolkit::RevokeDropSite(hWnd);
+    toolkit::ForgetDropSite(hWnd);
     toolkit::ForgetPainting(window);
     if (window.IsTop())
         toolkit::TellDesktopOfDestruction(window);

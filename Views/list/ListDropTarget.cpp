@@ -1,7 +1,6 @@
 #include "Views/list/ListDropTarget.h"
 
 #include "Views/clipboard/Commands.h"
-#include "Views/clipboard/Drags.h"
 #include "Views/list/ObjectsList.h"
 
 CListDropTarget::CListDropTarget() : m_cfAtoms(views::AtomFormat()) {}
@@ -25,14 +24,15 @@ void CListDropTarget::ClearHighlight()
 
 DROPEFFECT CListDropTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
+    m_dwVerdict = PASTE_REFUSED;
     if (!Offers(pWnd, pDataObject))
         return DROPEFFECT_NONE;
     const DROPEFFECT effect = dwKeyState & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
-    const views::DraggedAtoms atoms(pDataObject, m_cfAtoms);
-    if (!atoms.GetArchive())
+    const auto pArchive = m_atoms.LookAt(pDataObject, m_cfAtoms).pArchive;
+    if (!pArchive)
         return DROPEFFECT_NONE;
     const int nRow = m_pList->HitTest(point);
-    return nRow < 0 ? OverEmptySpace(atoms.GetArchive(), effect) : OverRow(nRow, atoms.GetArchive(), effect);
+    return nRow < 0 ? OverEmptySpace(pArchive.Get(), effect) : OverRow(nRow, pArchive.Get(), effect);
 }
 
 // The host is asked, and may take the list away under the drag: nothing here is touched then.
@@ -40,9 +40,11 @@ DROPEFFECT CListDropTarget::OverEmptySpace(IArchive* pArchive, DROPEFFECT effect
 {
     const HWND hList = m_pList->m_hWnd;
     const auto pContainer = m_pList->ShareContainer();
-    const bool bAccepted = CheckPaste(pArchive, pContainer.Get(), effect == DROPEFFECT_MOVE) != PASTE_REFUSED;
+    const DWORD dwVerdict = CheckPaste(pArchive, pContainer.Get(), effect == DROPEFFECT_MOVE);
     if (!::IsWindow(hList))
         return DROPEFFECT_NONE;
+    m_dwVerdict = dwVerdict;
+    const bool bAccepted = dwVerdict != PASTE_REFUSED;
     if (bAccepted)
         ClearHighlight();
     m_nDropItem = -1;
@@ -58,6 +60,7 @@ DROPEFFECT CListDropTarget::OverRow(int nRow, IArchive* pArchive, DROPEFFECT eff
     const DWORD dwVerdict = CheckPaste(pArchive, pTarget.Get(), effect == DROPEFFECT_MOVE);
     if (!::IsWindow(hList))
         return DROPEFFECT_NONE;
+    m_dwVerdict = dwVerdict;
     if (dwVerdict != PASTE_REFUSED && m_nDropItem != nRow)
         m_pList->SetItemState(nRow, LVIS_DROPHILITED, LVIS_DROPHILITED);
     m_nDropItem = nRow;
@@ -70,10 +73,21 @@ BOOL CListDropTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT
     m_nDropItem = -1;
     if (!Offers(pWnd, pDataObject))
         return FALSE;
-    const views::DraggedAtoms atoms(pDataObject, m_cfAtoms);
-    if (!atoms.GetArchive())
+    const auto pArchive = m_atoms.TakeFrom(pDataObject, m_cfAtoms);
+    if (!pArchive)
         return FALSE;
     const int nRow = m_pList->HitTest(point);
     const auto pTarget = nRow < 0 ? m_pList->ShareContainer() : m_pList->ContainerInRow(nRow);
-    return PasteObjects(atoms.GetArchive(), pTarget.Get(), dropEffect == DROPEFFECT_MOVE);
+    return PasteObjects(pArchive.Get(), pTarget.Get(), dropEffect == DROPEFFECT_MOVE);
+}
+
+void CListDropTarget::OnDragLeave(CWnd*)
+{
+    m_atoms.Forget();
+}
+
+void CListDropTarget::Revoke()
+{
+    m_atoms.Forget();
+    COleDropTarget::Revoke();
 }

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "Toolkit/ole/DropTarget.h"
+#include "Views/clipboard/Drags.h"
 #include "Views/host/Api.h"
 
 class CObjectsList;
-class IArchive;
 
 // Takes atoms that are dropped on a list view: into the container that it shows, or, on a row whose atom is a
 // container, into that. The row is highlighted while it would take them.
@@ -20,6 +20,13 @@ public:
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
+    // Both only let go of what was read.
+    void OnDragLeave(CWnd* pWnd) override;
+    void Revoke() override;
+
+protected:
+    // What CheckPaste has said at the latest movement; PASTE_REFUSED when it was not asked.
+    DWORD GetVerdict() const { return m_dwVerdict; }
 
 private:
     bool Offers(CWnd* pWnd, COleDataObject* pDataObject) const;
@@ -30,4 +37,6 @@ private:
     const CLIPFORMAT m_cfAtoms; // under which atoms travel
     CObjectsList* m_pList = nullptr;
     int m_nDropItem = -1; // the row that the drag was over at its previous movement
+    DWORD m_dwVerdict = 0;
+    views::DraggedAtoms m_atoms;
 };

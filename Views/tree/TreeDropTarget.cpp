@@ -1,7 +1,6 @@
 #include "Views/tree/TreeDropTarget.h"
 
 #include "Views/clipboard/Commands.h"
-#include "Views/clipboard/Drags.h"
 #include "Views/tree/ObjectsTree.h"
 
 CTreeDropTarget::CTreeDropTarget() : m_cfAtoms(views::AtomFormat()) {}
@@ -41,15 +40,15 @@ DROPEFFECT CTreeDropTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, 
 DROPEFFECT CTreeDropTarget::OverItem(HTREEITEM hItem, COleDataObject* pDataObject, DROPEFFECT effect)
 {
     const HWND hTree = m_pTree->m_hWnd;
-    const views::DraggedAtoms atoms(pDataObject, m_cfAtoms);
-    if (!atoms.HasMedium())
+    const views::DraggedAtoms::Look atoms = m_atoms.LookAt(pDataObject, m_cfAtoms);
+    if (!atoms.bMedium)
         return DROPEFFECT_NONE;
-    if (!atoms.GetArchive()) {
+    if (!atoms.pArchive) {
         m_hDropItem = hItem;
         return DROPEFFECT_NONE;
     }
     const auto pTarget = m_pTree->ContainerInItem(hItem);
-    const DWORD dwVerdict = CheckPaste(atoms.GetArchive(), pTarget.Get(), effect == DROPEFFECT_MOVE);
+    const DWORD dwVerdict = CheckPaste(atoms.pArchive.Get(), pTarget.Get(), effect == DROPEFFECT_MOVE);
     if (!::IsWindow(hTree))
         return DROPEFFECT_NONE;
     if (dwVerdict != PASTE_REFUSED && m_hDropItem != hItem)
@@ -64,10 +63,21 @@ BOOL CTreeDropTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT
     m_hDropItem = kNoItem;
     if (!Offers(pWnd, pDataObject))
         return FALSE;
-    const views::DraggedAtoms atoms(pDataObject, m_cfAtoms);
-    const HTREEITEM hItem = atoms.GetArchive() ? m_pTree->HitTest(point) : nullptr;
+    const auto pArchive = m_atoms.TakeFrom(pDataObject, m_cfAtoms);
+    const HTREEITEM hItem = pArchive ? m_pTree->HitTest(point) : nullptr;
     if (!hItem)
         return FALSE;
     const auto pTarget = m_pTree->ContainerInItem(hItem);
-    return PasteObjects(atoms.GetArchive(), pTarget.Get(), dropEffect == DROPEFFECT_MOVE);
+    return PasteObjects(pArchive.Get(), pTarget.Get(), dropEffect == DROPEFFECT_MOVE);
+}
+
+void CTreeDropTarget::OnDragLeave(CWnd*)
+{
+    m_atoms.Forget();
+}
+
+void CTreeDropTarget::Revoke()
+{
+    m_atoms.Forget();
+    COleDropTarget::Revoke();
 }

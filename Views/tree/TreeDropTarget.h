@@ -2,6 +2,7 @@
 
 #include "Toolkit/controls/TreeView.h"
 #include "Toolkit/ole/DropTarget.h"
+#include "Views/clipboard/Drags.h"
 #include "Views/host/Api.h"
 
 class CObjectsTree;
@@ -17,6 +18,9 @@ public:
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
+    // Both only let go of what was read.
+    void OnDragLeave(CWnd* pWnd) override;
+    void Revoke() override;
 
 private:
     bool Offers(CWnd* pWnd, COleDataObject* pDataObject) const;
@@ -28,4 +32,5 @@ private:
     const CLIPFORMAT m_cfAtoms; // under which atoms travel
     CObjectsTree* m_pTree = nullptr;
     HTREEITEM m_hDropItem = kNoItem; // under the drag at its previous movement; NULL when that was outside all items
+    views::DraggedAtoms m_atoms;
 };

@@ -4,6 +4,7 @@
 #include "tests/views/InteractionTest.h"
 
 #include <algorithm>
+#include <filesystem>
 
 namespace
 {
@@ -34,6 +35,8 @@ protected:
         editor.TakeLedger();
     }
 
+    TempFolder m_folder; // of the other program
+
 private:
     void Drag(const CWnd& wnd, CPoint at, std::function<void()> script)
     {
@@ -43,8 +46,6 @@ private:
         desktop.Press(hWnd, at);
         desktop.MoveTo(hWnd, at + CPoint(3, 6));
     }
-
-    TempFolder m_folder;
 };
 
 TEST_F(DragTest, SelectedRowsAreDraggedTogetherIntoTheTree)
@@ -183,6 +184,45 @@ TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
     editor.Uninstall();
     list.reset();
     tree.reset();
+}
+
+TEST_F(DragTest, TheTransferFileIsReadOnceUnlessItChangesAndLetGoOfHoweverTheDragEnds)
+{
+    const auto over = [&](bool bList, int i) {
+        desktop.MoveTo(bList ? list->m_hWnd : tree->m_hWnd, (bList ? EmptyPoint() : ItemPoint(pBox)) + CPoint(i, 0));
+        return desktop.DragEffect();
+    };
+    for (const bool bList : {true, false}) {
+        archives.nStreams = 0;
+        DragIn("x\n");
+        for (int i = 0; i < 4; ++i)
+            EXPECT_EQ(i ? DROPEFFECT_MOVE : DROPEFFECT_NONE, over(bList, i));
+        EXPECT_EQ(1, archives.nStreams);
+        m_folder.Write("atoms", "x\na\n"); // which is there already
+        EXPECT_EQ(DROPEFFECT_NONE, over(bList, 5));
+        std::filesystem::remove(m_folder.At("atoms"));
+        EXPECT_EQ(DROPEFFECT_NONE, over(bList, 6));
+        EXPECT_EQ(0, FakeCounted::CountLive());
+
+        DragIn("y\n");
+        for (int i = 0; i < 3; ++i)
+            over(bList, i);
+        EXPECT_EQ(2, FakeCounted::CountLive()); // archive and stream
+        desktop.DragOut();
+        EXPECT_EQ(0, FakeCounted::CountLive());
+        over(bList, 0);
+        over(bList, 1);
+        desktop.Release(bList ? list->m_hWnd : tree->m_hWnd, bList ? EmptyPoint() : ItemPoint(pBox));
+        EXPECT_EQ(0, FakeCounted::CountLive());
+        EXPECT_EQ("y", pBox->members.back()->name);
+        pBox->Remove(pBox->members.back().Get());
+    }
+    DragIn("x\n");
+    over(false, 0);
+    over(false, 1);
+    tree->DestroyWindow();
+    EXPECT_EQ(0, FakeCounted::CountLive());
+    desktop.DragOut();
 }
 
 TEST_F(DragTest, ADragThatIsCancelledOrRefusedTakesNothingAway)

@@ -36,9 +36,10 @@ BOOL FakeArchives::MakeStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD d
 {
     EXPECT_EQ(sizeof(void*), dwSize);
     EXPECT_EQ(0u, dwExtra);
-    const auto& host = *static_cast<FakeArchives*>(pProvider);
+    auto& host = *static_cast<FakeArchives*>(pProvider);
     if (host.refusesStreams)
         return FALSE;
+    ++host.nStreams;
     *static_cast<IMemoryStream**>(pBuffer) = new FakeStream(!host.streamsHaveNoBlock);
     return TRUE;
 }

@@ -74,6 +74,7 @@ public:
     bool refusesStreams = false;
     bool refusesArchives = false;
     bool streamsHaveNoBlock = false;
+    int nStreams = 0; // made
 
 private:
     static BOOL MakeStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
