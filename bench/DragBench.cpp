@@ -1,0 +1,101 @@
+// What one movement of a drag costs over a list that would take it: a file of 100 MB in its transfer file, or a small
+// one.
+#include "Editor/archive/ArchiveWriter.h"
+#include "Editor/model/Library.h"
+#include "Editor/services/Services.h"
+#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/window/DragTracker.h"
+#include "Views/clipboard/clipboard.h"
+#include "bench/BenchWindow.h"
+
+#include <benchmark/benchmark.h>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+class NoPictures : public editor::PictureReader
+{
+public:
+    std::vector<std::string> Extensions() const override { return {"png"}; }
+    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "not read here"}; }
+};
+
+// A file of that size, and an empty library beside it.
+class DragFolder
+{
+public:
+    explicit DragFolder(std::int64_t nBytes) : m_path((fs::temp_directory_path() / "views-drag-XXXXXX").string())
+    {
+        if (!mkdtemp(m_path.data()))
+            throw std::runtime_error("no temporary folder");
+        fs::create_directory(At("library"));
+        std::ofstream(At("walk.png"), std::ios::binary) << std::string(static_cast<std::size_t>(nBytes), 'w');
+    }
+    ~DragFolder() { fs::remove_all(m_path); }
+    DragFolder(const DragFolder&) = delete;
+    DragFolder& operator=(const DragFolder&) = delete;
+
+    std::string At(const std::string& name) const { return m_path + '/' + name; }
+
+private:
+    std::string m_path;
+};
+
+// A drag of another program, by the path of its transfer file.
+class DraggedFile : public toolkit::OfferedData
+{
+public:
+    DraggedFile(const std::string& file, CLIPFORMAT format) : m_kind(toolkit::KindsOfFormat(format).front())
+    {
+        const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
+        editor::ArchiveWriter writer(*pArchive.Get());
+        if (!writer.AddPath(file, {}).empty() || !writer.Finish().empty())
+            throw std::runtime_error("no archive");
+        m_transferFile = FileFromArchive(pArchive.Get());
+    }
+
+    std::vector<std::string> GetKinds() override { return {m_kind}; }
+    std::optional<std::string> Render(std::string_view) override { return m_transferFile + std::string(1, '\0'); }
+
+private:
+    const std::string m_kind;
+    std::string m_transferFile;
+};
+
+void DragOverList(benchmark::State& state)
+{
+    const DragFolder folder(state.range(0));
+    setenv("TEMP", folder.At("").c_str(), 1);
+    const NoPictures reader;
+    const auto pPictures =
+        std::make_shared<editor::PictureStore>(reader, editor::PictureStore::Limits(), [](IAtom*) {});
+    editor::CAtomEditor atomEditor;
+    const editor::Services services(atomEditor);
+    std::string error;
+    const auto pLibrary = editor::CLibrary::Open(folder.At("library"), reader.Extensions(), pPictures, error);
+    {
+        bench::ListWindow window;
+        window.List().OnAtomEntered(pLibrary.Get(), nullptr);
+        const HWND hTop = ::GetParent(window.List().m_hWnd);
+        toolkit::DragTracker drag(std::make_shared<DraggedFile>(folder.At("walk.png"), atomEditor.GetClipboardFormat()),
+                                  DROPEFFECT_COPY | DROPEFFECT_MOVE);
+        drag.MoveTo(hTop, {500, 400}, MK_LBUTTON);
+        int x = 500;
+        for (auto _ : state) {
+            x = 1001 - x;
+            if (drag.MoveTo(hTop, {x, 400}, MK_LBUTTON) != DROPEFFECT_MOVE)
+                state.SkipWithError("not taken");
+        }
+    }
+    atomEditor.ForgetAtoms();
+    unsetenv("TEMP");
+}
+
+BENCHMARK(DragOverList)->ArgName("bytes")->Arg(1000)->Arg(100'000'000)->Unit(benchmark::kMicrosecond);
+
+} // namespace
