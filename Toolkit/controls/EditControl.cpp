@@ -1,8 +1,7 @@
 #include "Toolkit/controls/EditControl.h"
 
 #include "Toolkit/window/Desktop.h"
-
-#include <unordered_map>
+#include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit
 {
@@ -25,9 +24,9 @@ EditLayout::Align AlignOf(DWORD style)
 
 } // namespace
 
-EditControl::Handler EditControl::FindHandler(UINT message)
+LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    static const std::unordered_map<UINT, Handler> handlers{
+    static const HandlerTable<EditControl> handlers{
         {WM_CREATE, &EditControl::OnCreate},
         {WM_SIZE, &EditControl::OnSize},
         {WM_STYLECHANGED, &EditControl::OnLooksChanged},
@@ -72,15 +71,7 @@ EditControl::Handler EditControl::FindHandler(UINT message)
         {EM_POSFROMCHAR, &EditControl::OnPosFromChar},
         {EM_CHARFROMPOS, &EditControl::OnCharFromPos},
     };
-    const auto it = handlers.find(message);
-    return it == handlers.end() ? nullptr : it->second;
-}
-
-LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (const Handler handler = FindHandler(message))
-        return (this->*handler)(wParam, lParam);
-    return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    return handlers.Call(*this, m_hWnd, message, wParam, lParam);
 }
 
 LRESULT EditControl::OnCreate(WPARAM, LPARAM lParam)

@@ -29,8 +29,6 @@ protected:
     virtual void TextIsNew() {} // before anybody is told; must not notify
 
 private:
-    using Handler = LRESULT (EditControl::*)(WPARAM, LPARAM);
-
     // The left button is down: the selection reaches from where it went down to where it is.
     struct Drag
     {
@@ -44,10 +42,6 @@ private:
         std::string text;
         std::size_t caret = 0; // in it
     };
-
-    static Handler FindHandler(UINT message);
-    bool Is(DWORD style) const { return (GetWindowStyle(m_hWnd) & style) != 0; }
-    bool IsFocused() const { return GetFocus() == m_hWnd; }
 
     // Life and looks of the whole.
     LRESULT OnCreate(WPARAM, LPARAM lParam);
@@ -108,7 +102,6 @@ private:
     LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
     LRESULT OnSetCursor(WPARAM, LPARAM);
-    [[nodiscard]] bool TakeFocus();
     [[nodiscard]] bool BeginDrag(TextSpan from, bool byWords, CPoint at);
     void DragTo(CPoint at);
     void EndDrag();
@@ -131,7 +124,6 @@ private:
     void Show();      // all anew, the caret at once
     void ShowCaret(); // scrolls to it, too
     void RestartBlinking();
-    void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
 
     EditText m_text;
     EditHistory m_history;

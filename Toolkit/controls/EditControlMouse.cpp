@@ -56,14 +56,6 @@ LRESULT EditControl::OnSetCursor(WPARAM, LPARAM)
     return TRUE;
 }
 
-bool EditControl::TakeFocus()
-{
-    const HWND hWnd = m_hWnd;
-    if (GetFocus() != hWnd)
-        SetFocus(hWnd);
-    return IsWindow(hWnd);
-}
-
 bool EditControl::BeginDrag(TextSpan from, bool byWords, CPoint at)
 {
     const HWND hWnd = m_hWnd;

@@ -1,8 +1,7 @@
 #include "Toolkit/controls/ListControl.h"
 
 #include "Toolkit/controls/ListTracker.h"
-
-#include <unordered_map>
+#include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit
 {
@@ -24,9 +23,9 @@ const bool s_registered = [] {
 } // namespace
 
 // LVM_SORTITEMS is left to the default, which answers 0: there is nothing to sort.
-ListControl::Handler ListControl::FindHandler(UINT message)
+LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    static const std::unordered_map<UINT, Handler> handlers{
+    static const HandlerTable<ListControl> handlers{
         {WM_CREATE, &ListControl::OnCreate},
         {WM_SIZE, &ListControl::OnSize},
         {WM_PAINT, &ListControl::OnPaint},
@@ -65,21 +64,7 @@ ListControl::Handler ListControl::FindHandler(UINT message)
         {LVM_CANCELEDITLABEL, &ListControl::OnCancelEditLabel},
         {LVM_MOVEEDITLABEL, &ListControl::OnMoveEditLabel},
     };
-    const auto it = handlers.find(message);
-    return it == handlers.end() ? nullptr : it->second;
-}
-
-LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (const Handler handler = FindHandler(message))
-        return (this->*handler)(wParam, lParam);
-    return ::DefWindowProc(m_hWnd, message, wParam, lParam);
-}
-
-LRESULT ListControl::OnCreate(WPARAM, LPARAM)
-{
-    Measure();
-    return Relayout() ? 0 : -1;
+    return handlers.Call(*this, m_hWnd, message, wParam, lParam);
 }
 
 LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
@@ -96,23 +81,7 @@ LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
     if (m_press && m_press->row >= count)
         EndTracking();
     RedrawAll();
-    return Relayout() && (!m_label || m_label->row < count || FinishLabel(false));
-}
-
-LRESULT ListControl::OnGetImageList(WPARAM wParam, LPARAM)
-{
-    return wParam == LVSIL_NORMAL ? reinterpret_cast<LRESULT>(m_hImages) : 0;
-}
-
-LRESULT ListControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
-{
-    if (wParam != LVSIL_NORMAL)
-        return 0;
-    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
-    Measure();
-    RedrawAll();
-    static_cast<void>(Relayout());
-    return reinterpret_cast<LRESULT>(former);
+    return Relayout() && (m_editedRow < count || FinishLabel(false));
 }
 
 LRESULT ListControl::OnSetIconSpacing(WPARAM, LPARAM lParam)

@@ -5,14 +5,11 @@
 // notification nothing is taken for granted that was known before it.
 #pragma once
 
-#include "Toolkit/controls/LabelField.h"
+#include "Toolkit/controls/ItemControl.h"
 #include "Toolkit/controls/ListLabel.h"
 #include "Toolkit/controls/ListLayout.h"
 #include "Toolkit/controls/RowStates.h"
 #include "Toolkit/controls/RubberBand.h"
-#include "Toolkit/graphics/ImageList.h"
-#include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/NativeWindow.h"
 
 #include <optional>
 #include <utility>
@@ -20,26 +17,21 @@
 namespace toolkit
 {
 
-class ListControl : public NativeWindow, public LabelOwner
+class ListControl : public ItemControl
 {
 public:
-    explicit ListControl(HWND hWnd) : NativeWindow(hWnd) {}
+    using ItemControl::ItemControl;
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
     // From the tracker, which holds the capture while a button is down. Client coordinates.
     void TrackMove(WPARAM keys, CPoint at);
     void AutoScroll();
     void TrackingLost(HWND hTracker);
 
-    void LabelTyped() override { PlaceLabelField(); }
-    void LabelDone(bool taken) override;
     void LabelClickDue() override;
 
 private:
-    using Handler = LRESULT (ListControl::*)(WPARAM, LPARAM);
-
     // What the owner shows in a row.
     struct Face
     {
@@ -79,25 +71,17 @@ private:
         OnRelease onRelease;
         bool meansLabel = false; // unless a double click or a drag follows, its release begins the editing
     };
-    // A row and the field or clock that stands for it.
-    struct LabelEdit
-    {
-        int row;
-        HWND hField;
-    };
 
-    static Handler FindHandler(UINT message);
+    static constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
+
     static Keys KeysDown();
 
     // Count, pictures and measures.
-    LRESULT OnCreate(WPARAM, LPARAM);
     LRESULT OnGetItemCount(WPARAM, LPARAM) { return m_rows.Count(); }
     LRESULT OnSetItemCount(WPARAM wParam, LPARAM);
-    LRESULT OnGetImageList(WPARAM wParam, LPARAM);
-    LRESULT OnSetImageList(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetIconSpacing(WPARAM, LPARAM lParam);
     LRESULT OnArrange(WPARAM, LPARAM);
-    void Measure(); // takes over the picture's and the cell's size
+    void Measure() override;
 
     // States. The functions that change them notify.
     LRESULT OnGetNextItem(WPARAM wParam, LPARAM lParam);
@@ -114,7 +98,7 @@ private:
     // stays selected only with `add`. The row gets the focus, the anchor stays.
     [[nodiscard]] bool ExtendTo(int row, bool add, bool allBetween = false);
     RowSet RowsOf(const CellBlock& block) const;
-    bool IsSingle() const { return (GetWindowStyle(m_hWnd) & LVS_SINGLESEL) != 0; }
+    bool IsSingle() const { return Is(LVS_SINGLESEL); }
 
     // Scrolling.
     LRESULT OnSize(WPARAM, LPARAM);
@@ -124,7 +108,7 @@ private:
     LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetTopIndex(WPARAM, LPARAM) { return m_layout.FirstVisibleRow(); }
     LRESULT OnGetCountPerPage(WPARAM, LPARAM) { return m_layout.FullLinesPerPage() * m_layout.Columns(); }
-    [[nodiscard]] bool Relayout(); // the client area, the count or a measure is new
+    [[nodiscard]] bool Relayout() override;
     [[nodiscard]] bool UpdateScrollBar();
     [[nodiscard]] bool ScrollTo(std::int64_t position);
 
@@ -148,7 +132,6 @@ private:
     void DrawLabel(HDC hdc, const Label& label, UINT state);
     void DrawBand(HDC hdc);
     void Redraw(int row);
-    void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
     void RedrawStates(UINT states); // the visible rows that have any of them
     CellBlock VisibleCells() const { return m_layout.CellsTouching({CPoint(), m_layout.Client()}); }
 
@@ -158,7 +141,6 @@ private:
     LRESULT OnLButtonUp(WPARAM wParam, LPARAM lParam);
     LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
     LRESULT OnLButtonDblClk(WPARAM wParam, LPARAM lParam);
-    [[nodiscard]] bool TakeFocus();
     [[nodiscard]] bool BeginPress(WPARAM wParam, LPARAM lParam, bool right);
     [[nodiscard]] bool PressRow(Press& press);
     [[nodiscard]] bool PressEmpty(const Press& press);
@@ -174,18 +156,14 @@ private:
 
     // Editing a label in place.
     LRESULT OnEditLabel(WPARAM wParam, LPARAM);
-    LRESULT OnGetEditControl(WPARAM, LPARAM);
     LRESULT OnCancelEditLabel(WPARAM, LPARAM);
     LRESULT OnMoveEditLabel(WPARAM wParam, LPARAM);
-    [[nodiscard]] bool BeginLabel(int row); // m_label tells whether it did
+    [[nodiscard]] bool BeginLabel(int row); // m_hLabelField tells whether it did
     [[nodiscard]] bool AskLabelEdit(int row, std::string& text, bool* pAllowed);
-    [[nodiscard]] bool OpenLabelField(int row, const std::string& text);
-    [[nodiscard]] bool FinishLabel(bool taken);
-    void PlaceLabelField();
+    [[nodiscard]] bool FinishLabel(bool taken) override;
+    void PlaceLabelField() override;
+    bool IsEdited(int row) const { return m_hLabelField && row == m_editedRow; }
     bool MeansLabel(const Press& press, UINT hitFlags) const;
-    bool HasJustComeBack() const; // the user, to this window
-    void StartLabelClockFor(int row);
-    void StopLabelClock();
 
     // Keys and focus.
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
@@ -196,26 +174,21 @@ private:
     [[nodiscard]] bool PressSpace();
 
     // Notifications. All give false when the window is gone.
-    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const;
-    [[nodiscard]] bool TellPlain(UINT code) const;
     [[nodiscard]] bool TellClick(UINT code, int row, CPoint at) const;
     [[nodiscard]] bool AskChange(int row, UINT oldState, UINT newState, bool* pAllowed) const;
     [[nodiscard]] bool TellChange(int row, UINT oldState, UINT newState) const;
 
     RowStates m_rows;
     ListLayout m_layout;
-    HIMAGELIST m_hImages = nullptr; // the owner's
     std::optional<CSize> m_spacing; // as set; else it follows from the pictures
     RowRange m_hinted{0, 0};        // announced by the last hint, and not invalid since
     std::optional<Press> m_press;
     std::optional<RubberBand> m_band;
     HWND m_hTracker = nullptr; // while a button is down
     CPoint m_trackedAt;
-    std::optional<LabelEdit> m_label;      // being edited
-    std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
-    std::string m_labelShown;              // what the row showed when its editing began
-    DWORD m_focusedAt = 0;                 // tick
-    int m_nWheelRest = 0;                  // of the wheel's turn, in pixels times WHEEL_DELTA
+    int m_editedRow = -1;     // while the label's field is there
+    int m_clickedRow = -1;    // is edited next, once it is certain that no double click follows
+    std::string m_labelShown; // what the row showed when its editing began
     bool m_bAutoScrolls = false;
     bool m_bInRelayout = false;
 };

@@ -3,7 +3,6 @@
 // The control knows rows by number only. An owner that moves rows meanwhile says where the edited one is now; where it
 // does not and another label stands in the row at the end, the editing counts as cancelled: no row is ever given a
 // name that was meant for another.
-#include "Toolkit/base/Ticks.h"
 #include "Toolkit/controls/EditMessages.h"
 #include "Toolkit/controls/ListControl.h"
 
@@ -18,11 +17,6 @@ LRESULT ListControl::OnEditLabel(WPARAM wParam, LPARAM)
     return OnGetEditControl(0, 0);
 }
 
-LRESULT ListControl::OnGetEditControl(WPARAM, LPARAM)
-{
-    return m_label ? reinterpret_cast<LRESULT>(m_label->hField) : 0;
-}
-
 LRESULT ListControl::OnCancelEditLabel(WPARAM, LPARAM)
 {
     static_cast<void>(FinishLabel(false));
@@ -32,11 +26,11 @@ LRESULT ListControl::OnCancelEditLabel(WPARAM, LPARAM)
 LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
 {
     const int row = static_cast<int>(wParam);
-    if (!m_label)
+    if (!m_hLabelField)
         return FALSE;
     if (!m_rows.Has(row))
         return FinishLabel(false);
-    Redraw(std::exchange(m_label->row, row));
+    Redraw(std::exchange(m_editedRow, row));
     Redraw(row);
     PlaceLabelField();
     return TRUE;
@@ -44,14 +38,13 @@ LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
 
 bool ListControl::BeginLabel(int row)
 {
-    const HWND hWnd = m_hWnd;
     StopLabelClock();
-    if (!(GetWindowStyle(hWnd) & LVS_EDITLABELS) || !m_rows.Has(row))
+    if (!Is(LVS_EDITLABELS) || !m_rows.Has(row))
         return true;
     EndTracking();
     if (!TakeFocus())
         return false;
-    if (GetFocus() != hWnd || !m_rows.Has(row))
+    if (!IsFocused() || !m_rows.Has(row))
         return true; // refused
     if (!ScrollTo(m_layout.ScrollToShow(row, false)))
         return false;
@@ -59,7 +52,11 @@ bool ListControl::BeginLabel(int row)
     bool allowed = false;
     if (!AskLabelEdit(row, text, &allowed))
         return false;
-    return !allowed || m_label || !m_rows.Has(row) || OpenLabelField(row, text);
+    if (!allowed || m_hLabelField || !m_rows.Has(row))
+        return true;
+    m_editedRow = row;
+    Redraw(row);
+    return OpenLabelField(text, ES_CENTER);
 }
 
 // The owner may give another text than the label to begin with.
@@ -83,61 +80,40 @@ bool ListControl::AskLabelEdit(int row, std::string& text, bool* pAllowed)
     return true;
 }
 
-bool ListControl::OpenLabelField(int row, const std::string& text)
-{
-    const HWND hWnd = m_hWnd;
-    const HWND hField = CreateLabelField(hWnd, text, ES_CENTER);
-    if (!IsWindow(hWnd) || !hField)
-        return IsWindow(hWnd);
-    m_label = LabelEdit{row, hField};
-    Redraw(row);
-    PlaceLabelField();
-    ShowWindow(hField, SW_SHOW);
-    SetFocus(hField);
-    return IsWindow(hWnd);
-}
-
 // In the middle below the picture, as wide as its text needs, inside the client area as far as that goes.
 void ListControl::PlaceLabelField()
 {
-    if (!m_label)
+    if (!m_hLabelField)
         return;
-    const CRect room = m_layout.LabelRoom(m_label->row);
-    const CSize wanted = LabelFieldSize(m_label->hField);
+    const CRect room = m_layout.LabelRoom(m_editedRow);
+    const CSize wanted = LabelFieldSize(m_hLabelField);
     const int width = std::min<int>(std::max<int>(wanted.cx, m_layout.Cell().cx / 2), m_layout.Client().cx);
     const int left = std::clamp<int>(room.CenterPoint().x - width / 2, 0, m_layout.Client().cx - width);
-    MoveWindow(m_label->hField, left, room.top - kLabelFieldTop + 1, width, wanted.cy);
+    MoveWindow(m_hLabelField, left, room.top - kLabelFieldTop + 1, width, wanted.cy);
 }
 
 bool ListControl::FinishLabel(bool taken)
 {
-    if (!m_label)
+    if (!m_hLabelField)
         return true;
-    const HWND hWnd = m_hWnd;
-    const LabelEdit done = *std::exchange(m_label, std::nullopt);
-    std::string text(GetWindowText(done.hField).View());
-    Redraw(done.row);
-    DestroyWindow(done.hField); // the focus comes back, unless it is elsewhere already
-    if (!IsWindow(hWnd))
+    const int row = m_editedRow;
+    Redraw(row);
+    std::optional<std::string> text = CloseLabelField();
+    if (!text)
         return false;
 
-    if (taken && m_rows.Has(done.row)) {
-        const std::optional<Face> face = HintAndAsk(done.row);
+    if (taken && m_rows.Has(row)) {
+        const std::optional<Face> face = HintAndAsk(row);
         if (!face)
             return false;
         taken = face->text == m_labelShown;
     }
     NMLVDISPINFO info{};
     info.item.mask = LVIF_TEXT;
-    info.item.iItem = done.row;
-    info.item.pszText = taken && m_rows.Has(done.row) ? text.data() : nullptr;
-    info.item.cchTextMax = static_cast<int>(text.size()) + 1;
+    info.item.iItem = row;
+    info.item.pszText = taken && m_rows.Has(row) ? text->data() : nullptr;
+    info.item.cchTextMax = static_cast<int>(text->size()) + 1;
     return Tell(LVN_ENDLABELEDIT, info.hdr);
-}
-
-void ListControl::LabelDone(bool taken)
-{
-    static_cast<void>(FinishLabel(taken));
 }
 
 // A press on a label means its row alone, and means it for editing, when the row was so before and the press has not
@@ -146,36 +122,16 @@ bool ListControl::MeansLabel(const Press& press, UINT hitFlags) const
 {
     constexpr UINT kOwn = LVIS_SELECTED | LVIS_FOCUSED;
     return !press.right && !press.keys.shift && !press.keys.control && (hitFlags & LVHT_ONITEMLABEL) &&
-           (GetWindowStyle(m_hWnd) & LVS_EDITLABELS) && !HasJustComeBack() &&
-           (m_rows.State(press.row) & kOwn) == kOwn && m_rows.CountWith(LVIS_SELECTED) == 1;
-}
-
-// A click into a window that was not the active one comes right behind the focus that it brings.
-bool ListControl::HasJustComeBack() const
-{
-    return GetTickCount() - m_focusedAt < GetDoubleClickTime();
-}
-
-void ListControl::StartLabelClockFor(int row)
-{
-    StopLabelClock();
-    m_labelClick = LabelEdit{row, StartLabelClock(m_hWnd)};
-}
-
-void ListControl::StopLabelClock()
-{
-    if (m_labelClick)
-        DestroyWindow(std::exchange(m_labelClick, std::nullopt)->hField);
+           Is(LVS_EDITLABELS) && !HasJustComeBack() && (m_rows.State(press.row) & kOwn) == kOwn &&
+           m_rows.CountWith(LVIS_SELECTED) == 1;
 }
 
 void ListControl::LabelClickDue()
 {
-    if (!m_labelClick)
-        return;
-    const int row = m_labelClick->row;
+    const int row = m_clickedRow;
     StopLabelClock();
     const bool still = m_rows.Focus() == row && (m_rows.State(row) & LVIS_SELECTED) &&
-                       m_rows.CountWith(LVIS_SELECTED) == 1 && GetFocus() == m_hWnd && !m_press;
+                       m_rows.CountWith(LVIS_SELECTED) == 1 && IsFocused() && !m_press;
     if (still)
         static_cast<void>(BeginLabel(row));
 }

@@ -7,19 +7,6 @@
 namespace toolkit
 {
 
-namespace
-{
-
-constexpr int kDragDistance = 4;
-constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
-
-bool IsFar(CPoint from, CPoint to)
-{
-    return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y)) >= kDragDistance;
-}
-
-} // namespace
-
 LRESULT ListControl::OnLButtonDown(WPARAM wParam, LPARAM lParam)
 {
     static_cast<void>(BeginPress(wParam, lParam, false));
@@ -61,14 +48,6 @@ LRESULT ListControl::OnLButtonDblClk(WPARAM wParam, LPARAM lParam)
     }
     static_cast<void>(TellClick(NM_DBLCLK, press->row, press->at));
     return 0;
-}
-
-bool ListControl::TakeFocus()
-{
-    const HWND hWnd = m_hWnd;
-    if (GetFocus() != hWnd)
-        SetFocus(hWnd);
-    return IsWindow(hWnd);
 }
 
 bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
@@ -147,8 +126,10 @@ bool ListControl::EndPress(bool right)
         alive = ExtendTo(press.row, press.keys.control);
     if (!alive || !TellClick(right ? NM_RCLICK : NM_CLICK, press.row, press.at))
         return false;
-    if (press.meansLabel)
-        StartLabelClockFor(press.row);
+    if (press.meansLabel) {
+        m_clickedRow = press.row;
+        StartLabelClock();
+    }
     return true;
 }
 
@@ -188,7 +169,7 @@ void ListControl::TrackMove(WPARAM keys, CPoint at)
     if (!(keys & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
         return EndTracking();
     m_trackedAt = at;
-    if (!m_band && IsFar(m_press->at, at)) {
+    if (!m_band && IsDrag(m_press->at, at)) {
         if (m_press->row >= 0)
             return BeginDrag();
         if (!m_press->right && !IsSingle())

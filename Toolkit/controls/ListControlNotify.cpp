@@ -17,21 +17,6 @@ NMLISTVIEW StateChange(int row, UINT oldState, UINT newState)
 }
 } // namespace
 
-bool ListControl::Tell(UINT code, NMHDR& header, LRESULT* pAnswer) const
-{
-    const HWND hWnd = m_hWnd;
-    const LRESULT answer = Notify(code, header);
-    if (pAnswer)
-        *pAnswer = answer;
-    return IsWindow(hWnd);
-}
-
-bool ListControl::TellPlain(UINT code) const
-{
-    NMHDR header{};
-    return Tell(code, header);
-}
-
 bool ListControl::TellClick(UINT code, int row, CPoint at) const
 {
     NMITEMACTIVATE click{};

@@ -10,7 +10,6 @@ namespace
 {
 
 constexpr BYTE kBandFill = 40, kBandEdge = 170; // of 255
-constexpr BYTE kCutFade = 140;
 
 // A rectangle whose corners are cut by a pixel or two.
 void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
@@ -67,14 +66,14 @@ bool ListControl::DrawRows(HDC hdc, const CRect& rcPaint)
 
 void ListControl::DrawRow(HDC hdc, int row, const Face& face)
 {
-    const bool focused = GetFocus() == m_hWnd;
+    const bool focused = IsFocused();
     UINT state = m_rows.State(row);
-    if (!focused && !(GetWindowStyle(m_hWnd) & LVS_SHOWSELALWAYS))
+    if (!focused && !Is(LVS_SHOWSELALWAYS))
         state &= ~LVIS_SELECTED;
 
     const Label label = PlaceLabel(row, face.text);
     DrawPicture(hdc, row, face.image, state);
-    if (m_label && m_label->row == row)
+    if (IsEdited(row))
         return; // the field stands there
     DrawLabel(hdc, label, state);
     if (focused && (state & LVIS_FOCUSED))
@@ -83,20 +82,15 @@ void ListControl::DrawRow(HDC hdc, int row, const Face& face)
 
 void ListControl::DrawPicture(HDC hdc, int row, int image, UINT state)
 {
-    if (image < 0)
-        return;
-    const CRect rect = m_layout.IconRect(row);
-    const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && GetFocus() == m_hWnd);
+    const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && IsFocused());
     // The label tells of the selection already; half of its colour would leave little of a large picture.
-    ImageList_Draw(m_hImages, image, hdc, rect.left, rect.top, marked ? ILD_BLEND25 : ILD_NORMAL);
-    if (state & LVIS_CUT)
-        BlendRect(hdc, rect, GetSysColor(COLOR_WINDOW), kCutFade);
+    DrawImage(hdc, m_layout.IconRect(row).TopLeft(), image, marked ? ILD_BLEND25 : ILD_NORMAL, state & LVIS_CUT);
 }
 
 void ListControl::DrawLabel(HDC hdc, const Label& label, UINT state)
 {
     int ground = COLOR_WINDOW, ink = state & LVIS_CUT ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT;
-    if ((state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && GetFocus() == m_hWnd)) {
+    if ((state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && IsFocused())) {
         ground = COLOR_HIGHLIGHT;
         ink = COLOR_HIGHLIGHTTEXT;
     } else if (state & LVIS_SELECTED) {

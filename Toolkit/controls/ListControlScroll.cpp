@@ -18,26 +18,6 @@ std::int64_t PixelsPerStep(std::int64_t contentHeight)
     return contentHeight / kScrollBarRange + 1;
 }
 
-int EdgeWidth(HWND hWnd)
-{
-    const int edge = GetWindowExStyle(hWnd) & WS_EX_CLIENTEDGE ? kClientEdge : 0;
-    return 2 * (edge + (GetWindowStyle(hWnd) & WS_BORDER ? 1 : 0));
-}
-
-CSize ClientSize(HWND hWnd)
-{
-    CRect rect;
-    GetClientRect(hWnd, &rect);
-    return rect.Size();
-}
-
-int WidthWithoutScrollBar(HWND hWnd)
-{
-    CRect rect;
-    GetWindowRect(hWnd, &rect);
-    return rect.Width() - EdgeWidth(hWnd);
-}
-
 // Holds a flag of a window's object up; lets it down at the end unless the window is gone.
 class Raised
 {
@@ -68,11 +48,11 @@ bool ListControl::Relayout()
     const Raised inRelayout(hWnd, m_bInRelayout);
     CSize client;
     do {
-        client = ClientSize(hWnd);
+        client = ClientSize();
         m_layout.SetClient(client);
         if (!UpdateScrollBar())
             return false;
-    } while (!(ClientSize(hWnd) == client));
+    } while (!(ClientSize() == client));
     if (m_layout.Columns() != columns && m_band)
         EndTracking(); // its cells are no longer where they were
     PlaceLabelField();
@@ -90,7 +70,7 @@ bool ListControl::UpdateScrollBar()
     info.nPage = static_cast<int>(std::max<std::int64_t>(page / step, 1));
     info.nPos = static_cast<int>(m_layout.ScrollPosition() / step);
     // The bar must not stay only because it takes the width that makes it needed.
-    if (m_layout.ContentHeight(WidthWithoutScrollBar(hWnd)) <= page)
+    if (m_layout.ContentHeight(SizeWithoutBars().cx) <= page)
         info.nPage = info.nMax + 1;
     SetScrollInfo(hWnd, SB_VERT, info);
     return IsWindow(hWnd);

@@ -8,7 +8,6 @@ namespace
 {
 
 constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_CUT | LVIS_DROPHILITED;
-constexpr UINT kSelectedAndFocused = LVIS_SELECTED | LVIS_FOCUSED;
 
 // Up to so many rows lose or gain the selection one by one, each asked about. More than that do it as one change of
 // all rows where that comes to the same: a click after "select all" costs nothing that grows with the list.

@@ -1,7 +1,6 @@
 #include "Toolkit/controls/TreeControl.h"
 
-#include <unordered_map>
-#include <utility>
+#include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit
 {
@@ -17,9 +16,9 @@ const bool s_registered = [] {
 
 } // namespace
 
-TreeControl::Handler TreeControl::FindHandler(UINT message)
+LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    static const std::unordered_map<UINT, Handler> handlers{
+    static const HandlerTable<TreeControl> handlers{
         {WM_CREATE, &TreeControl::OnCreate},
         {WM_DESTROY, &TreeControl::OnDestroy},
         {WM_SIZE, &TreeControl::OnSize},
@@ -65,21 +64,7 @@ TreeControl::Handler TreeControl::FindHandler(UINT message)
         {TVM_GETEDITCONTROL, &TreeControl::OnGetEditControl},
         {TVM_ENDEDITLABELNOW, &TreeControl::OnEndEditLabelNow},
     };
-    const auto it = handlers.find(message);
-    return it == handlers.end() ? nullptr : it->second;
-}
-
-LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (const Handler handler = FindHandler(message))
-        return (this->*handler)(wParam, lParam);
-    return ::DefWindowProc(m_hWnd, message, wParam, lParam);
-}
-
-LRESULT TreeControl::OnCreate(WPARAM, LPARAM)
-{
-    Measure();
-    return Relayout() ? 0 : -1;
+    return handlers.Call(*this, m_hWnd, message, wParam, lParam);
 }
 
 // The items go with the window: each is announced, but the selection is not asked about any more.
@@ -96,22 +81,6 @@ LRESULT TreeControl::OnStyleChanged(WPARAM, LPARAM)
     RedrawAll();
     static_cast<void>(Relayout());
     return 0;
-}
-
-LRESULT TreeControl::OnGetImageList(WPARAM wParam, LPARAM)
-{
-    return wParam == TVSIL_NORMAL ? reinterpret_cast<LRESULT>(m_hImages) : 0;
-}
-
-LRESULT TreeControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
-{
-    if (wParam != TVSIL_NORMAL)
-        return 0;
-    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
-    Measure();
-    RedrawAll();
-    static_cast<void>(Relayout());
-    return reinterpret_cast<LRESULT>(former);
 }
 
 void TreeControl::Measure()

@@ -5,12 +5,9 @@
 // handle and looked up again, and nothing is taken for granted that was known before it.
 #pragma once
 
-#include "Toolkit/controls/LabelField.h"
+#include "Toolkit/controls/ItemControl.h"
 #include "Toolkit/controls/TreeItems.h"
 #include "Toolkit/controls/TreeLayout.h"
-#include "Toolkit/graphics/ImageList.h"
-#include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/NativeWindow.h"
 
 #include <optional>
 #include <string>
@@ -18,21 +15,16 @@
 namespace toolkit
 {
 
-class TreeControl : public NativeWindow, public LabelOwner
+class TreeControl : public ItemControl
 {
 public:
-    explicit TreeControl(HWND hWnd) : NativeWindow(hWnd) {}
+    using ItemControl::ItemControl;
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-    HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
-    void LabelTyped() override { PlaceLabelField(); }
-    void LabelDone(bool taken) override;
     void LabelClickDue() override;
 
 private:
-    using Handler = LRESULT (TreeControl::*)(WPARAM, LPARAM);
-
     // What the owner shows in an item; as far as it was asked for.
     struct Face
     {
@@ -53,12 +45,6 @@ private:
         CPoint at;
         bool right;
         bool meansLabel = false; // unless a double click or a drag follows, its release begins the editing
-    };
-    // An item and the field or clock that stands for its label.
-    struct LabelEdit
-    {
-        HTREEITEM hItem;
-        HWND hField;
     };
     // The labels typed for, and when the last letter came.
     struct Search
@@ -87,19 +73,12 @@ private:
 
     class NewItem;
 
-    static Handler FindHandler(UINT message);
-    bool Is(DWORD style) const { return (GetWindowStyle(m_hWnd) & style) != 0; }
-    bool IsFocused() const { return GetFocus() == m_hWnd; }
-
     // Life and looks of the whole.
-    LRESULT OnCreate(WPARAM, LPARAM);
     LRESULT OnDestroy(WPARAM, LPARAM);
     LRESULT OnStyleChanged(WPARAM, LPARAM);
-    LRESULT OnGetImageList(WPARAM wParam, LPARAM);
-    LRESULT OnSetImageList(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetIndent(WPARAM, LPARAM) { return TreeLayout::kIndent; }
     LRESULT OnGetItemHeight(WPARAM, LPARAM) { return m_layout.RowHeight(); }
-    void Measure(); // takes over the text's and the pictures' height
+    void Measure() override;
 
     // Items: making, changing, asking.
     LRESULT OnInsertItem(WPARAM, LPARAM lParam);
@@ -157,7 +136,7 @@ private:
     LRESULT OnEnsureVisible(WPARAM, LPARAM lParam);
     LRESULT OnGetVisibleCount(WPARAM, LPARAM) { return m_layout.FullRows(); }
     [[nodiscard]] bool RowsChanged(); // keeps the item at the top where it is, as long as that is not the first row
-    [[nodiscard]] bool Relayout();    // the client area, the rows or the width are new
+    [[nodiscard]] bool Relayout() override;
     [[nodiscard]] bool UpdateBarAtSide(int height);
     [[nodiscard]] bool UpdateBarBelow();
     [[nodiscard]] bool UpdateBar(int nBar, const SCROLLINFO& info);
@@ -199,7 +178,6 @@ private:
     Mark MarkOf(ItemIndex item) const;
     void Redraw(HTREEITEM hItem);
     void RedrawFrom(int row); // and all below it
-    void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
 
     // Mouse.
     LRESULT OnLButtonDown(WPARAM, LPARAM lParam);
@@ -209,26 +187,21 @@ private:
     LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
     LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
-    [[nodiscard]] bool TakeFocus();
     [[nodiscard]] bool BeginPress(const Hit& hit, CPoint at, bool right);
     [[nodiscard]] bool CancelPress(); // and gives the capture back
     void BeginDrag();
 
     // Editing a label in place.
     LRESULT OnEditLabel(WPARAM, LPARAM lParam);
-    LRESULT OnGetEditControl(WPARAM, LPARAM);
     LRESULT OnEndEditLabelNow(WPARAM wParam, LPARAM);
-    [[nodiscard]] bool BeginLabel(HTREEITEM hItem); // m_label tells whether it did
+    [[nodiscard]] bool BeginLabel(HTREEITEM hItem); // m_hLabelField tells whether it did
     [[nodiscard]] bool AskLabelEdit(HTREEITEM hItem, std::string& text, bool& allowed);
-    [[nodiscard]] bool OpenLabelField(HTREEITEM hItem, const std::string& text);
-    [[nodiscard]] bool FinishLabel(bool taken);
+    [[nodiscard]] bool FinishLabel(bool taken) override;
     [[nodiscard]] bool TakeLabel(HTREEITEM hItem, std::string& text);
     [[nodiscard]] bool CancelLabelWithin(HTREEITEM hTop); // which is about to be deleted
-    void PlaceLabelField();
+    void PlaceLabelField() override;
+    bool IsEdited(ItemIndex item) const { return m_hLabelField && item == m_items.Find(m_hEdited); }
     bool MeansLabel(const Hit& hit) const;
-    bool HasJustComeBack() const; // the user, to this window
-    void StartLabelClockFor(HTREEITEM hItem);
-    void StopLabelClock();
 
     // Keys and focus.
     LRESULT OnSetFocus(WPARAM, LPARAM);
@@ -248,8 +221,6 @@ private:
     [[nodiscard]] bool FindLabel(std::string prefix, bool afterCaret, HTREEITEM& hFound);
 
     // Notifications. All give false when the window is gone.
-    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const;
-    [[nodiscard]] bool TellPlain(UINT code, LRESULT* pAnswer = nullptr) const;
     [[nodiscard]] bool TellSelection(UINT code, HTREEITEM hOld, HTREEITEM hNew, UINT cause, LRESULT* pAnswer) const;
     [[nodiscard]] bool TellItem(UINT code, HTREEITEM hItem, UINT action, LRESULT* pAnswer = nullptr) const;
     [[nodiscard]] bool TellKey(UINT vkey, LPARAM lParam, LRESULT* pAnswer) const;
@@ -261,7 +232,6 @@ private:
 
     TreeItems m_items;
     TreeLayout m_layout;
-    HIMAGELIST m_hImages = nullptr; // the owner's
     HTREEITEM m_hCaret = nullptr;
     HTREEITEM m_hDropTarget = nullptr;
     HTREEITEM m_hTop = nullptr; // in the top row
@@ -270,11 +240,9 @@ private:
     int m_nDeleting = 0;        // deletions under way
     int m_nRelayouts = 0;       // under way, and of scroll bars
     std::optional<Press> m_press;
-    std::optional<LabelEdit> m_label;      // being edited
-    std::optional<LabelEdit> m_labelClick; // about to be, once it is certain that no double click follows
-    DWORD m_focusedAt = 0;                 // tick
+    HTREEITEM m_hEdited = nullptr;  // while the label's field is there
+    HTREEITEM m_hClicked = nullptr; // is edited next, once it is certain that no double click follows
     Search m_search;
-    int m_nWheelRest = 0;        // of the wheel's turn, in rows times WHEEL_DELTA
     bool m_bWidthStale = false;  // what made the content as wide as it is may be gone
     bool m_bCharIsTaken = false; // the key that is down was a command, or its owner kept it from the search
 };

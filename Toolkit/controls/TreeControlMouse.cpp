@@ -2,23 +2,10 @@
 // since it may become a drag, which leaves the selection alone.
 #include "Toolkit/controls/TreeControl.h"
 
-#include <cstdlib>
 #include <utility>
 
 namespace toolkit
 {
-
-namespace
-{
-
-constexpr int kDragDistance = 4;
-
-bool IsFar(CPoint from, CPoint to)
-{
-    return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y)) >= kDragDistance;
-}
-
-} // namespace
 
 LRESULT TreeControl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
@@ -51,8 +38,10 @@ LRESULT TreeControl::OnLButtonUp(WPARAM, LPARAM)
     LRESULT taken = 0;
     if (!CancelPress() || !TellPlain(NM_CLICK, &taken) || taken != 0 || !(hit.flags & TVHT_ONITEM))
         return 0;
-    if ((m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE)) && meansLabel)
-        StartLabelClockFor(hit.hItem);
+    if ((m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE)) && meansLabel) {
+        m_hClicked = hit.hItem;
+        StartLabelClock();
+    }
     return 0;
 }
 
@@ -85,7 +74,7 @@ LRESULT TreeControl::OnMouseMove(WPARAM wParam, LPARAM lParam)
 {
     if (m_press && !(wParam & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
         static_cast<void>(CancelPress());
-    else if (m_press && IsFar(m_press->at, CPoint(lParam)))
+    else if (m_press && IsDrag(m_press->at, CPoint(lParam)))
         BeginDrag();
     return 0;
 }
@@ -98,14 +87,6 @@ LRESULT TreeControl::OnCaptureChanged(WPARAM, LPARAM)
         Redraw(m_hCaret);
     }
     return 0;
-}
-
-bool TreeControl::TakeFocus()
-{
-    const HWND hWnd = m_hWnd;
-    if (GetFocus() != hWnd)
-        SetFocus(hWnd);
-    return IsWindow(hWnd);
 }
 
 bool TreeControl::BeginPress(const Hit& hit, CPoint at, bool right)

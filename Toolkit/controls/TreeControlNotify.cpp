@@ -12,21 +12,6 @@ constexpr UINT kPictures = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
 constexpr std::size_t kLabelBuffer = 512; // lent to the owner, who may name a text of its own instead
 } // namespace
 
-bool TreeControl::Tell(UINT code, NMHDR& header, LRESULT* pAnswer) const
-{
-    const HWND hWnd = m_hWnd;
-    const LRESULT answer = Notify(code, header);
-    if (pAnswer)
-        *pAnswer = answer;
-    return IsWindow(hWnd);
-}
-
-bool TreeControl::TellPlain(UINT code, LRESULT* pAnswer) const
-{
-    NMHDR header{};
-    return Tell(code, header, pAnswer);
-}
-
 TVITEM TreeControl::Describe(HTREEITEM hItem) const
 {
     TVITEM described{};

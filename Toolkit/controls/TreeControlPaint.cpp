@@ -10,7 +10,6 @@ namespace
 {
 
 constexpr BYTE kLine = 96; // of 255
-constexpr BYTE kCutFade = 140;
 constexpr int kButton = 9; // pixels, square
 constexpr int kSign = 5;   // the plus or minus inside
 
@@ -87,7 +86,7 @@ int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) con
     if (face.hasChildren && HasButtonAt(level))
         DrawButton(hdc, m_layout.ButtonSlot(row, level), m_items.IsExpanded(item) && m_items.ChildCount(item) > 0);
     DrawPicture(hdc, m_layout.IconAt(row, level), item, face);
-    if (!m_label || m_items.Find(m_label->hItem) != item) // else the field stands there
+    if (!IsEdited(item)) // else the field stands there
         DrawLabel(hdc, m_layout.LabelBox(row, level, textWidth), item, face.text);
     return m_layout.RightOf(level, textWidth);
 }
@@ -129,13 +128,7 @@ void TreeControl::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
 void TreeControl::DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const
 {
     const UINT state = m_items[item].state;
-    const int image = state & TVIS_SELECTED ? face.selectedImage : face.image;
-    if (image < 0)
-        return;
-    ImageList_Draw(m_hImages, image, hdc, at.x, at.y, ILD_NORMAL);
-    int cx = 0, cy = 0;
-    if ((state & TVIS_CUT) && ImageList_GetIconSize(m_hImages, &cx, &cy))
-        BlendRect(hdc, CRect(at, CSize(cx, cy)), GetSysColor(COLOR_WINDOW), kCutFade);
+    DrawImage(hdc, at, state & TVIS_SELECTED ? face.selectedImage : face.image, ILD_NORMAL, state & TVIS_CUT);
 }
 
 void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const

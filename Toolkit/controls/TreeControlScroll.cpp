@@ -15,22 +15,6 @@ namespace
 constexpr int kRowsPerNotch = 3;
 constexpr int kPixelsPerStep = TreeLayout::kIndent; // sideways
 
-CSize ClientSize(HWND hWnd)
-{
-    CRect rect;
-    GetClientRect(hWnd, &rect);
-    return rect.Size();
-}
-
-CSize SizeWithoutBars(HWND hWnd)
-{
-    const int edge =
-        (GetWindowExStyle(hWnd) & WS_EX_CLIENTEDGE ? kClientEdge : 0) + (GetWindowStyle(hWnd) & WS_BORDER ? 1 : 0);
-    CRect rect;
-    GetWindowRect(hWnd, &rect);
-    return {rect.Width() - 2 * edge, rect.Height() - 2 * edge};
-}
-
 // Where a scroll bar's message leads; the present position for one that leads nowhere.
 int TargetOf(HWND hWnd, int nBar, WPARAM wParam, int pos, int step, int page)
 {
@@ -84,9 +68,9 @@ bool TreeControl::Relayout()
         return true;
     const UnderWay relayout(m_hWnd, m_nRelayouts);
     const int top = m_layout.TopRow(), x = m_layout.X();
-    const CSize room = SizeWithoutBars(m_hWnd);
+    const CSize room = SizeWithoutBars();
     const bool certain = m_layout.Width() > room.cx;
-    m_layout.SetClient(ClientSize(m_hWnd));
+    m_layout.SetClient(ClientSize());
     if (!certain && !UpdateBarAtSide(room.cy))
         return false;
     if (!UpdateBarBelow() || !UpdateBarAtSide(m_layout.Client().cy) || !UpdateBarBelow())
@@ -122,7 +106,7 @@ bool TreeControl::UpdateBar(int nBar, const SCROLLINFO& info)
     SetScrollInfo(hWnd, nBar, info);
     if (!IsWindow(hWnd))
         return false;
-    m_layout.SetClient(ClientSize(hWnd));
+    m_layout.SetClient(ClientSize());
     return true;
 }
 

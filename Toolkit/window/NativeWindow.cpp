@@ -48,6 +48,14 @@ LRESULT toolkit::NativeWindow::Notify(UINT code, NMHDR& header) const
     return CallWindow(*pWindow->pParent, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
 
+bool toolkit::NativeWindow::TakeFocus()
+{
+    const HWND hWnd = m_hWnd;
+    if (GetFocus() != hWnd)
+        SetFocus(hWnd);
+    return IsWindow(hWnd);
+}
+
 // A handle has 32 bits, whatever the width of a pointer.
 DWORD GetClassLong(HWND hWnd, int nIndex)
 {

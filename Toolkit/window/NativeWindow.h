@@ -28,6 +28,11 @@ protected:
     // answer. The window may be gone afterwards: ask IsWindow.
     LRESULT Notify(UINT code, NMHDR& header) const;
 
+    bool Is(DWORD style) const { return (GetWindowStyle(m_hWnd) & style) != 0; } // any of these
+    bool IsFocused() const { return GetFocus() == m_hWnd; }
+    [[nodiscard]] bool TakeFocus(); // false when the window is gone; the focus may be refused all the same
+    void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
+
     const HWND m_hWnd;
 };
 
