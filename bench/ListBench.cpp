@@ -3,6 +3,8 @@
 #include "bench/BenchWindow.h"
 #include "bench/Memory.h"
 
+#include "Toolkit/window/Input.h"
+
 #include <benchmark/benchmark.h>
 
 namespace
@@ -95,6 +97,28 @@ void SelectAllAndClear(benchmark::State& state)
     }
 }
 
+// Shift+End from the second row on: the editor is asked and told of every row but the first. And back to the one row.
+void ExtendToTheEndAndBack(benchmark::State& state)
+{
+    ShownList shown(state);
+    CIconList& list = shown.window.List();
+    list.SetFocus();
+    shown.ScrollTo(0);
+    const auto press = [&](UINT vkey, bool shift) {
+        toolkit::InputKey(vkey, true, {shift});
+        toolkit::InputKey(vkey, false, {shift});
+        shown.window.Settle();
+    };
+    press(VK_HOME, false);
+    for (auto _ : state) {
+        press(VK_RIGHT, false);
+        press(VK_END, true);
+        if (list.GetSelectedCount() != list.GetItemCount() - 1)
+            state.SkipWithError("not selected");
+        press(VK_HOME, false);
+    }
+}
+
 // The editor tells of an atom that changed and is in sight: one row is read and painted again.
 void ChangeAnAtomInSight(benchmark::State& state)
 {
@@ -144,6 +168,7 @@ BENCHMARK(OpenContainer)->Apply(Sizes);
 BENCHMARK(JumpAndPaintAFrame)->Apply(Sizes);
 BENCHMARK(ScrollANotch)->Apply(Sizes);
 BENCHMARK(SelectAllAndClear)->Apply(Sizes);
+BENCHMARK(ExtendToTheEndAndBack)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomInSight)->Apply(Sizes);
 BENCHMARK(AppendAnAtom)->Arg(1000)->Iterations(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(MemoryPerRow)->Apply(Sizes)->Iterations(3);

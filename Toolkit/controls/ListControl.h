@@ -92,8 +92,9 @@ private:
     [[nodiscard]] bool ChangeAll(UINT state, UINT mask);
     [[nodiscard]] bool DeselectBut(const RowSet& kept);
     [[nodiscard]] bool Select(const RowSet& rows);
-    [[nodiscard]] bool SelectOnly(int row); // and the focus and the anchor
-    [[nodiscard]] bool Toggle(int row);     // and the focus and the anchor
+    [[nodiscard]] bool ChangeEach(const RowSet& rows, UINT selected); // LVIS_SELECTED or 0
+    [[nodiscard]] bool SelectOnly(int row);                           // and the focus and the anchor
+    [[nodiscard]] bool Toggle(int row);                               // and the focus and the anchor
     // Selects what lies between the anchor and the row, as a rectangle or as all rows from one to the other; the rest
     // stays selected only with `add`. The row gets the focus, the anchor stays.
     [[nodiscard]] bool ExtendTo(int row, bool add, bool allBetween = false);

@@ -10,7 +10,8 @@ namespace
 constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_CUT | LVIS_DROPHILITED;
 
 // Up to so many rows lose or gain the selection one by one, each asked about. More than that do it as one change of
-// all rows where that comes to the same: a click after "select all" costs nothing that grows with the list.
+// all rows, and the few that are to be otherwise are changed back: a click after "select all", or Shift+End after a few
+// steps down, costs nothing that grows with the list.
 constexpr int kOneByOne = 256;
 
 } // namespace
@@ -101,22 +102,25 @@ bool ListControl::ChangeAll(UINT state, UINT mask)
 bool ListControl::DeselectBut(const RowSet& kept)
 {
     const RowSet stays = m_rows.Selected().Within(kept);
-    if (m_rows.Selected().Count() - stays.Count() > std::max(kOneByOne, stays.Count()))
-        return ChangeAll(0, LVIS_SELECTED) && Select(stays);
     const RowSet goes = m_rows.Selected().Without(stays);
-    for (int row = goes.Next(-1); row >= 0; row = goes.Next(row))
-        if (!ChangeState(row, 0, LVIS_SELECTED))
-            return false;
-    return true;
+    if (goes.Count() > std::max(kOneByOne, stays.Count()))
+        return ChangeAll(0, LVIS_SELECTED) && ChangeEach(stays, LVIS_SELECTED);
+    return ChangeEach(goes, 0);
 }
 
 bool ListControl::Select(const RowSet& rows)
 {
     const RowSet added = rows.Without(m_rows.Selected());
-    if (added.Count() > kOneByOne && rows.Count() == m_rows.Count())
-        return ChangeAll(LVIS_SELECTED, LVIS_SELECTED);
-    for (int row = added.Next(-1); row >= 0; row = added.Next(row))
-        if (!ChangeState(row, LVIS_SELECTED, LVIS_SELECTED))
+    const RowSet others = RowSet({0, m_rows.Count()}).Without(m_rows.Selected()).Without(added);
+    if (added.Count() > std::max(kOneByOne, others.Count()))
+        return ChangeAll(LVIS_SELECTED, LVIS_SELECTED) && ChangeEach(others, 0);
+    return ChangeEach(added, LVIS_SELECTED);
+}
+
+bool ListControl::ChangeEach(const RowSet& rows, UINT selected)
+{
+    for (int row = rows.Next(-1); row >= 0; row = rows.Next(row))
+        if (!ChangeState(row, selected, LVIS_SELECTED))
             return false;
     return true;
 }

@@ -40,16 +40,25 @@ void RowSet::Insert(RowRange range)
 {
     if (range.IsEmpty())
         return;
-    Ranges spare{{range.first, range.end}}; // memory first, so that running out of it changes nothing
-    // Ranges that overlap or touch the new one become part of it.
+    // Ranges that overlap or touch the new one become part of it, in the first one's node: it needs memory only when it
+    // stands alone, and running out of it changes nothing.
     auto it = FirstEndingAfter(range.first - 1);
+    if (it == m_ranges.end() || it->first > range.end) {
+        m_ranges.emplace_hint(it, range.first, range.end);
+        m_nCount += range.Count();
+        return;
+    }
+    Ranges::node_type node;
     while (it != m_ranges.end() && it->first <= range.end) {
         range.first = std::min(range.first, it->first);
         range.end = std::max(range.end, it->second);
         m_nCount -= it->second - it->first;
-        it = m_ranges.erase(it);
+        const auto swallowed = it++;
+        if (node.empty())
+            node = m_ranges.extract(swallowed);
+        else
+            m_ranges.erase(swallowed);
     }
-    Ranges::node_type node = spare.extract(spare.begin());
     node.key() = range.first;
     node.mapped() = range.end;
     m_ranges.insert(it, std::move(node));

@@ -269,6 +269,25 @@ TEST_F(ListControlTest, AllRowsAreSelectedAndClearedAsOneChange)
     EXPECT_EQ(2, list.GetNextItem(-1, LVNI_FOCUSED)); // only one can have it
 }
 
+TEST_F(ListControlTest, MoreRowsThanAreLeftOutAreSelectedAsOneChange)
+{
+    Fill(1000000);
+    Click(2);
+    TakeLedger();
+    Key(VK_END, kShift);
+    EXPECT_EQ(999998, list.GetSelectedCount());
+    EXPECT_EQ(Ledger({"all? +selected", "all: +selected", "a? -selected", "a: -selected", "b? -selected",
+                      "b: -selected", "999999? +focused", "c? -focused", "c: -focused", "999999: +focused"}),
+              TakeLedger());
+
+    list.EnsureVisible(999000, FALSE);
+    Click(999000);
+    TakeLedger();
+    Key(VK_END, kShift); // a thousand of a million
+    EXPECT_EQ(1000, list.GetSelectedCount());
+    EXPECT_EQ(2 * 999u + 4, TakeLedger().size()); // each row's, and the focus
+}
+
 TEST_F(ListControlTest, StatesSetByMessageAreToldOnceEachAndOnlyWhenTheyChange)
 {
     EXPECT_TRUE(list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED));
