@@ -128,8 +128,6 @@ void QtDesktop::ShowCursor(toolkit::Cursor cursor)
         return;
     for (const auto& [hTop, pWindow] : m_parts->windows)
         pWindow->ShowShape(cursor);
-    if (cursor == toolkit::Cursor::Wait)
-        QGuiApplication::sync(); // what begins now keeps the event loop from telling the screen
 }
 
 void QtDesktop::TextInputChanged()
