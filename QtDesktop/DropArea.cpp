@@ -101,18 +101,22 @@ void DropArea::Enter(QDragEnterEvent& event)
 {
     m_tracker = std::make_shared<toolkit::DragTracker>(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
     m_receipt = IsOwn(event) ? QByteArray() : event.mimeData()->data(kReceiptKind);
+    m_dwKeys = KeyState(event);
     event.setDropAction(ToAction(Follow(event)));
     event.accept();
 }
 
 void DropArea::Move(QDragMoveEvent& event)
 {
+    m_dwKeys = KeyState(event);
     const DROPEFFECT effect = Follow(event);
     event.setDropAction(ToAction(effect));
     event.setAccepted(effect != DROPEFFECT_NONE);
 }
 
-// A refusal needs both, the action and the ignored event.
+// With the keys of the last movement, whose effect the user has seen: what another program's drop tells of them is how
+// they are when the drop arrives, and Ctrl may be up again by then. A refusal needs both, the action and the ignored
+// event.
 void DropArea::Drop(QDropEvent& event)
 {
     if (!m_tracker)
@@ -136,7 +140,7 @@ DROPEFFECT DropArea::Follow(const QDropEvent& event)
     if (!tracker)
         return DROPEFFECT_NONE;
     const QPoint at = event.position().toPoint();
-    return tracker->MoveTo(m_hTop, {at.x(), at.y()}, KeyState(event));
+    return tracker->MoveTo(m_hTop, {at.x(), at.y()}, m_dwKeys);
 }
 
 } // namespace qtdesktop

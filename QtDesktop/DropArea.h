@@ -21,10 +21,11 @@ public:
     void Drop(QDropEvent& event);
 
 private:
-    DROPEFFECT Follow(const QDropEvent& event);
+    DROPEFFECT Follow(const QDropEvent& event); // to where it is, with the keys noted
 
     const HWND m_hTop;
     std::shared_ptr<toolkit::DragTracker> m_tracker; // while a drag is over the window
+    DWORD m_dwKeys = 0;                              // that were down at its last movement
     QByteArray m_receipt;                            // where that drag's source wants to hear; empty: nowhere
 };
 

@@ -1,5 +1,8 @@
+#include "Toolkit/ole/DropTarget.h"
 #include "tests/desktop/DesktopTest.h"
 
+#include <QDropEvent>
+#include <QMimeData>
 #include <QWheelEvent>
 
 namespace
@@ -126,4 +129,33 @@ TEST_F(InputTest, TheWheelTurnsByNotchesAndATouchpadByPiecesThatAddUp)
     EXPECT_EQ("", AfterWheel({0, 6}));
     EXPECT_EQ("wheel 15", AfterWheel({0, 6})); // 3 are left over
     EXPECT_EQ("wheel 15", AfterWheel({0, 12}));
+}
+
+// Copies what is dropped while Ctrl is down, and moves it else.
+class CCopyTarget : public COleDropTarget
+{
+public:
+    DROPEFFECT OnDragEnter(CWnd*, COleDataObject*, DWORD dwKeys, CPoint) override { return EffectOf(dwKeys); }
+    DROPEFFECT OnDragOver(CWnd*, COleDataObject*, DWORD dwKeys, CPoint) override { return EffectOf(dwKeys); }
+    BOOL OnDrop(CWnd*, COleDataObject*, DROPEFFECT, CPoint) override { return TRUE; }
+
+private:
+    static DROPEFFECT EffectOf(DWORD dwKeys) { return dwKeys & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE; }
+};
+
+TEST_F(InputTest, CtrlThatIsUpBeforeTheDropArrivesStillCopies)
+{
+    CCopyTarget target;
+    ASSERT_TRUE(target.Register(&*m_probe));
+    QMimeData data;
+    data.setText("dragged");
+    const Qt::DropActions both = Qt::CopyAction | Qt::MoveAction;
+    QDragEnterEvent enter({10, 10}, both, &data, Qt::LeftButton, Qt::NoModifier);
+    QDragMoveEvent move({20, 10}, both, &data, Qt::LeftButton, Qt::ControlModifier);
+    QDropEvent drop({20, 10}, both, &data, Qt::NoButton, Qt::NoModifier);
+    for (QEvent* pEvent : std::initializer_list<QEvent*>{&enter, &move, &drop})
+        QCoreApplication::sendEvent(&Widget(), pEvent);
+    EXPECT_EQ(Qt::MoveAction, enter.dropAction());
+    EXPECT_EQ(Qt::CopyAction, move.dropAction());
+    EXPECT_EQ(Qt::CopyAction, drop.dropAction());
 }

@@ -154,8 +154,8 @@ TEST_F(TwoEditorsTest, ADragMovesFilesFromOneToTheOtherAndWithControlCopiesThem)
 {
     XDo({"keydown", "Control_L"});
     DragAcross(m_a, kEmpty);
-    XDo({"keyup", "Control_L"});
     EXPECT_EQ("left a.png b.png | right a.png", Files("left a.png b.png | right a.png"));
+    XDo({"keyup", "Control_L"});
     DragAcross(m_b, kEmpty);
     EXPECT_EQ("left a.png | right a.png b.png", Files("left a.png | right a.png b.png"));
     EXPECT_EQ(QImage(m_folder.filePath("left/a.png")), QImage(m_folder.filePath("right/b.png")));
