@@ -43,8 +43,11 @@ DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
     const auto pContainer = m_list.ContainerAt(point);
     if (!HasAtoms(pDataObject))
         return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
+    const bool bEmptySpace = m_list.IsEmptySpace(point);
+    if (bEmptySpace)
+        ForgetPlace();
     DROPEFFECT effect = CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
-    if (effect == DROPEFFECT_MOVE && m_list.IsEmptySpace(point) && GetVerdict() != PASTE_ANY)
+    if (effect == DROPEFFECT_MOVE && bEmptySpace && GetVerdict() != PASTE_ANY)
         effect = DROPEFFECT_COPY;
     return SafeEffect(effect, pContainer.Get(), dwKeyState & MK_CONTROL);
 }
@@ -58,6 +61,12 @@ BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFE
         return TRUE;
     TellLater(failed, DropError());
     return FALSE;
+}
+
+void CEditorListTarget::OnDragLeave(CWnd* pWnd)
+{
+    ForgetPlace();
+    CListDropTarget::OnDragLeave(pWnd);
 }
 
 DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
@@ -86,6 +95,7 @@ BOOL CEditorTreeTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFE
 void CEditorTreeTarget::OnDragLeave(CWnd* pWnd)
 {
     Highlight(nullptr);
+    ForgetPlace();
     CTreeDropTarget::OnDragLeave(pWnd);
 }
 

@@ -16,7 +16,8 @@ class CEditorTree;
 // Told once the drag is over, with the reason, of a drop that was not taken as a whole.
 using DropFailed = std::function<void(std::string)>;
 
-// Takes the place of the view's own target, and does what that does with atoms; but see SafeEffect.
+// Takes the place of the view's own target, and does what that does with atoms; but see SafeEffect. And nothing stays
+// highlighted where no drop would go: neither when the drag leaves nor, in a list, over empty space.
 class CEditorListTarget final : public CListDropTarget
 {
 public:
@@ -24,6 +25,7 @@ public:
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
+    void OnDragLeave(CWnd* pWnd) override;
 
 private:
     CEditorList& m_list;

@@ -159,6 +159,38 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
               desktop.TakeMessageBoxes());
 }
 
+TEST_F(DragTest, NothingStaysHighlightedHoweverTheDragEnds)
+{
+    Open();
+    const auto highlighted = [&] {
+        int nPlaces = Frame().GetList().GetNextItem(-1, LVNI_DROPHILITED) >= 0 ? 1 : 0;
+        for (HTREEITEM h = Tree().GetRootItem(); h; h = Tree().GetNextVisibleItem(h))
+            nPlaces += Tree().GetItemState(h, TVIS_DROPHILITED) != 0;
+        return nPlaces;
+    };
+    const std::function<void()> ends[] = {
+        [&] { desktop.DragOut(); },
+        [&] { desktop.Key(VK_ESCAPE); },
+        [&] {
+            desktop.MoveTo(Frame().m_hWnd, {3, 3});
+        },
+        [&] { desktop.MoveTo(List(), BelowTheRows()); },
+    };
+    for (const auto& end : ends) {
+        Drag(List(), PlaceOf("Ada"), [&] {
+            desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo"));
+            desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo") + CPoint(1, 0));
+            EXPECT_EQ(1, highlighted());
+            desktop.MoveTo(List(), PlaceOf("Bo"));
+            desktop.MoveTo(List(), PlaceOf("Bo") + CPoint(1, 0));
+            EXPECT_EQ(1, highlighted());
+            end();
+            EXPECT_EQ(0, highlighted());
+        });
+        EXPECT_EQ(0, highlighted());
+    }
+}
+
 TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
 {
     Open();
