@@ -2,12 +2,6 @@
 
 #include "Toolkit/graphics/Gdi.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QTimer>
-#include <map>
-#include <utility>
-
 namespace
 {
 
@@ -16,15 +10,14 @@ std::string At(LPARAM lParam)
     return " " + std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam));
 }
 
-const std::map<UINT, const char*> kMouse = {
-    {WM_MOUSEMOVE, "move"},        {WM_LBUTTONDOWN, "ldown"}, {WM_LBUTTONUP, "lup"},
-    {WM_LBUTTONDBLCLK, "ldouble"}, {WM_RBUTTONDOWN, "rdown"}, {WM_RBUTTONUP, "rup"},
+const std::map<UINT, const char*> kWithPlaces = {
+    {WM_MOUSEMOVE, "move"},    {WM_LBUTTONDOWN, "ldown"}, {WM_LBUTTONUP, "lup"}, {WM_LBUTTONDBLCLK, "ldouble"},
+    {WM_RBUTTONDOWN, "rdown"}, {WM_RBUTTONUP, "rup"},     {WM_SIZE, "size"},
 };
 
 const std::map<UINT, const char*> kKeys = {
-    {VK_F2, "F2"},       {VK_F5, "F5"},           {VK_TAB, "Tab"},          {VK_RETURN, "Return"},
-    {VK_SHIFT, "Shift"}, {VK_CONTROL, "Control"}, {VK_ADD, "Keypad+"},      {VK_MULTIPLY, "Keypad*"},
-    {VK_APPS, "Menu"},   {VK_BACK, "Backspace"},  {VK_SUBTRACT, "Keypad-"}, {VK_DELETE, "Delete"},
+    {VK_F2, "F2"},     {VK_TAB, "Tab"},        {VK_RETURN, "Return"}, {VK_ADD, "Keypad+"},
+    {VK_APPS, "Menu"}, {VK_BACK, "Backspace"}, {VK_DELETE, "Delete"},
 };
 
 std::string KeyName(WPARAM vkey)
@@ -33,14 +26,25 @@ std::string KeyName(WPARAM vkey)
     return it != kKeys.end() ? it->second : std::string(1, static_cast<char>(vkey));
 }
 
-std::string Held(WPARAM keys)
+// Empty when the message is none to note.
+std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    std::string held;
-    if (keys & MK_SHIFT)
-        held += " shift";
-    if (keys & MK_CONTROL)
-        held += " control";
-    return held;
+    if (const auto it = kWithPlaces.find(message); it != kWithPlaces.end())
+        return it->second + At(lParam) + (wParam & MK_CONTROL ? " control" : "");
+    switch (message) {
+    case WM_MOUSEWHEEL:
+        return "wheel " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam)));
+    case WM_KEYDOWN:
+        return "key " + KeyName(wParam);
+    case WM_CHAR:
+        return "char " + std::to_string(wParam);
+    case WM_MOUSELEAVE:
+        return "leave";
+    case WM_CLOSE:
+        return "close";
+    default:
+        return {};
+    }
 }
 
 } // namespace
@@ -52,54 +56,21 @@ CProbeWnd::CProbeWnd(CSize size)
 
 std::string CProbeWnd::TakeLog()
 {
-    std::string log;
-    for (const std::string& entry : std::exchange(m_log, {}))
-        log += (log.empty() ? "" : "; ") + entry;
-    return log;
+    return std::exchange(m_log, {});
 }
 
 LRESULT CProbeWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    switch (message) {
-    case WM_CLOSE:
-        m_bCloseAsked = true;
-        return 0;
-    case WM_PAINT:
+    LRESULT result = 0;
+    if (message == WM_PAINT)
         Paint();
-        return 0;
-    case WM_SIZE:
-        m_sized = CSize(LOWORD(static_cast<UINT_PTR>(lParam)), HIWORD(static_cast<UINT_PTR>(lParam)));
-        break;
-    case WM_APP:
-        if (m_onApp)
-            m_onApp();
-        return 0;
-    case WM_TIMER:
-        if (m_onTimer)
-            m_onTimer();
-        return 0;
-    default:
-        if (Note(message, wParam, lParam))
-            return 0;
-    }
-    return CWnd::WindowProc(message, wParam, lParam);
-}
-
-bool CProbeWnd::Note(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    if (const auto it = kMouse.find(message); it != kMouse.end())
-        m_log.push_back(it->second + At(lParam) + Held(wParam));
-    else if (message == WM_MOUSEWHEEL)
-        m_log.push_back("wheel " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))));
-    else if (message == WM_KEYDOWN)
-        m_log.push_back("key " + KeyName(wParam));
-    else if (message == WM_CHAR)
-        m_log.push_back("char " + std::to_string(wParam));
-    else if (message == WM_MOUSELEAVE)
-        m_log.push_back("leave");
+    else if (const std::string entry = Describe(message, wParam, lParam); !entry.empty())
+        m_log += (m_log.empty() ? "" : "; ") + entry;
     else
-        return false;
-    return true;
+        result = CWnd::WindowProc(message, wParam, lParam);
+    if (const auto it = m_after.find(message); it != m_after.end())
+        it->second();
+    return result;
 }
 
 void CProbeWnd::Paint()
@@ -108,8 +79,6 @@ void CProbeWnd::Paint()
     CRect client;
     GetClientRect(&client);
     ::FillSolidRect(dc, client, m_color);
-    if (m_onPaint)
-        m_onPaint();
 }
 
 void DesktopTest::SetUp()
@@ -147,4 +116,10 @@ void DesktopTest::Settle()
     toolkit::PostTask([&bDone] { bDone = true; });
     EXPECT_TRUE(RunUntil([&bDone] { return bDone; }));
     QCoreApplication::processEvents();
+}
+
+std::string DesktopTest::Heard()
+{
+    Settle();
+    return m_probe->TakeLog();
 }

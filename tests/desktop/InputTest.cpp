@@ -11,30 +11,22 @@ namespace
 class InputTest : public DesktopTest
 {
 protected:
-    std::string AfterMouse(const std::function<void()>& act)
+    std::string After(QEvent&& event)
     {
-        act();
-        Settle();
-        return m_probe->TakeLog();
+        QCoreApplication::sendEvent(&Widget(), &event);
+        return Heard();
     }
 
     std::string AfterKey(Qt::Key key, const QString& text = {}, Qt::KeyboardModifiers modifiers = {})
     {
-        QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-        QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
-        QCoreApplication::sendEvent(&Widget(), &press);
-        QCoreApplication::sendEvent(&Widget(), &release);
-        Settle();
-        return m_probe->TakeLog();
+        return After(QKeyEvent(QEvent::KeyPress, key, modifiers, text)) +
+               After(QKeyEvent(QEvent::KeyRelease, key, modifiers, text));
     }
 
     std::string AfterWheel(QPoint turn, Qt::KeyboardModifiers modifiers = {})
     {
-        QWheelEvent event(QPointF(5, 5), Widget().mapToGlobal(QPointF(5, 5)), {}, turn, Qt::NoButton, modifiers,
-                          Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(&Widget(), &event);
-        Settle();
-        return m_probe->TakeLog();
+        return After(QWheelEvent(QPointF(5, 5), Widget().mapToGlobal(QPointF(5, 5)), {}, turn, Qt::NoButton, modifiers,
+                                 Qt::NoScrollPhase, false));
     }
 };
 
@@ -42,29 +34,25 @@ protected:
 
 TEST_F(InputTest, ThePointerIsFollowedAndPressesLandWhereTheyWereMade)
 {
-    EXPECT_EQ("move 30,40", AfterMouse([&] { QTest::mouseMove(Window(), {30, 40}); }));
-    EXPECT_EQ("ldown 30,40 control", AfterMouse([&] {
-                  QTest::mousePress(Window(), Qt::LeftButton, Qt::ControlModifier, {30, 40});
-              }));
-    EXPECT_EQ("lup 30,40", AfterMouse([&] { QTest::mouseRelease(Window(), Qt::LeftButton, {}, {30, 40}); }));
-    EXPECT_EQ("move 8,9; rdown 8,9; rup 8,9", AfterMouse([&] {
-                  QTest::mouseClick(Window(), Qt::RightButton, {}, {8, 9});
-              }));
-    EXPECT_EQ("leave", AfterMouse([&] {
-                  QEvent leave(QEvent::Leave);
-                  QCoreApplication::sendEvent(&Widget(), &leave);
-              }));
+    QTest::mouseMove(Window(), {30, 40});
+    EXPECT_EQ("move 30,40", Heard());
+    QTest::mousePress(Window(), Qt::LeftButton, Qt::ControlModifier, {30, 40});
+    EXPECT_EQ("ldown 30,40 control", Heard());
+    QTest::mouseRelease(Window(), Qt::LeftButton, {}, {30, 40});
+    EXPECT_EQ("lup 30,40", Heard());
+    QTest::mouseClick(Window(), Qt::RightButton, {}, {8, 9});
+    EXPECT_EQ("move 8,9; rdown 8,9; rup 8,9", Heard());
+    EXPECT_EQ("leave", After(QEvent(QEvent::Leave)));
 }
 
 TEST_F(InputTest, TwoQuickClicksAreOneDoubleClick)
 {
     QTest::mouseClick(Window(), Qt::LeftButton, {}, {30, 40});
     QTest::mouseClick(Window(), Qt::LeftButton, {}, {30, 40});
-    Settle();
-    EXPECT_EQ("move 30,40; ldown 30,40; lup 30,40; ldouble 30,40; lup 30,40", m_probe->TakeLog());
+    EXPECT_EQ("move 30,40; ldown 30,40; lup 30,40; ldouble 30,40; lup 30,40", Heard());
 }
 
-TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAre)
+TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAreAndOnlyPrintableTextIsTyped)
 {
     ::SetFocus(m_probe->GetSafeHwnd());
     EXPECT_EQ("key F2", AfterKey(Qt::Key_F2));
@@ -77,11 +65,6 @@ TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAre)
     EXPECT_EQ("char 43", AfterKey(Qt::Key_Plus, "+"));
     EXPECT_EQ("key Menu", AfterKey(Qt::Key_Menu));
     EXPECT_EQ("key Backspace; char 8", AfterKey(Qt::Key_Backspace, "\b"));
-}
-
-TEST_F(InputTest, OnlyPrintableTextIsTyped)
-{
-    ::SetFocus(m_probe->GetSafeHwnd());
     EXPECT_EQ("key C; char 3", AfterKey(Qt::Key_C, "\x03", Qt::ControlModifier));
     EXPECT_EQ("key 1", AfterKey(Qt::Key_1, "1", Qt::ControlModifier));
     EXPECT_EQ("char 8364", AfterKey(Qt::Key_unknown, "€", Qt::GroupSwitchModifier));
@@ -89,33 +72,18 @@ TEST_F(InputTest, OnlyPrintableTextIsTyped)
     EXPECT_EQ("", AfterKey(Qt::Key_Dead_Acute));
 }
 
-TEST_F(InputTest, AModifierIsDownAsSoonAsItsKeyIs)
+TEST_F(InputTest, AKeyIsDownAsSoonAsItIsPressedAndWhileItRepeats)
 {
     ::SetFocus(m_probe->GetSafeHwnd());
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Control, {});
-    QCoreApplication::sendEvent(&Widget(), &press);
-    Settle();
+    After(QKeyEvent(QEvent::KeyPress, Qt::Key_Control, {}));
     EXPECT_LT(::GetKeyState(VK_CONTROL), 0);
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier);
-    QCoreApplication::sendEvent(&Widget(), &release);
-    Settle();
+    After(QKeyEvent(QEvent::KeyRelease, Qt::Key_Control, Qt::ControlModifier));
     EXPECT_GE(::GetKeyState(VK_CONTROL), 0);
-}
 
-TEST_F(InputTest, AHeldKeyRepeatsWithoutBeingReleased)
-{
-    ::SetFocus(m_probe->GetSafeHwnd());
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_Delete, {});
-    QKeyEvent release(QEvent::KeyRelease, Qt::Key_Delete, {}, {}, true);
-    QKeyEvent again(QEvent::KeyPress, Qt::Key_Delete, {}, {}, true);
-    for (QKeyEvent* pEvent : {&press, &release}) {
-        QCoreApplication::sendEvent(&Widget(), pEvent);
-        Settle();
-        EXPECT_LT(::GetKeyState(VK_DELETE), 0);
-    }
-    QCoreApplication::sendEvent(&Widget(), &again);
-    Settle();
-    EXPECT_EQ("key Delete; key Delete", m_probe->TakeLog());
+    EXPECT_EQ("key Delete", After(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {})));
+    EXPECT_EQ("", After(QKeyEvent(QEvent::KeyRelease, Qt::Key_Delete, {}, {}, true)));
+    EXPECT_LT(::GetKeyState(VK_DELETE), 0);
+    EXPECT_EQ("key Delete", After(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, {}, {}, true)));
 }
 
 TEST_F(InputTest, TheWheelTurnsByNotchesAndATouchpadByPiecesThatAddUp)

@@ -3,9 +3,7 @@
 
 #include "tests/desktop/DesktopTest.h"
 
-#include <QApplication>
 #include <QMenu>
-#include <QTimer>
 
 namespace
 {
@@ -30,14 +28,7 @@ protected:
     // Shows the menu and has the user do something once it is there; the chosen command.
     int Track(const std::function<void(QMenu&)>& user)
     {
-        QTimer look;
-        QObject::connect(&look, &QTimer::timeout, [&] {
-            if (auto* pMenu = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
-                look.stop();
-                user(*pMenu);
-            }
-        });
-        look.start(1);
+        const WhenShown<QMenu> watcher(user);
         return m_menu.TrackPopupMenu(TPM_RETURNCMD, 20, 20, &*m_probe);
     }
 

@@ -4,16 +4,27 @@
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <ostream>
 #include <string>
+#include <utility>
 
 namespace
 {
 
+constexpr QRgb kRed = qRgb(200, 30, 30);
+
 struct Outcome
 {
-    int status;
+    int status = 0;
     std::string out, err;
+
+    bool operator==(const Outcome&) const = default;
+    friend void PrintTo(const Outcome& outcome, std::ostream* pStream)
+    {
+        *pStream << outcome.status << ", said: " << outcome.out << ", complained: " << outcome.err;
+    }
 };
 
 class ProgramTest : public testing::Test
@@ -23,7 +34,7 @@ protected:
     {
         ASSERT_TRUE(QDir(m_folder.path()).mkpath("library/empty"));
         QImage picture(64, 48, QImage::Format_RGB32);
-        picture.fill(QColor(200, 30, 30));
+        picture.fill(kRed);
         ASSERT_TRUE(picture.save(m_folder.filePath("library/red.png")));
         m_environment.remove("DISPLAY");
         m_environment.remove("WAYLAND_DISPLAY");
@@ -45,10 +56,7 @@ protected:
 
     void ExpectRefusal(const QStringList& arguments, const std::string& line)
     {
-        const Outcome outcome = Run(arguments);
-        EXPECT_EQ(2, outcome.status);
-        EXPECT_EQ("editor: " + line + "\n", outcome.err);
-        EXPECT_EQ("", outcome.out);
+        EXPECT_EQ((Outcome{2, "", "editor: " + line + "\n"}), Run(arguments));
     }
 
     QFileInfoList Pictures() const { return QDir(m_folder.path()).entryInfoList({"*.png*"}, QDir::Files); }
@@ -75,36 +83,28 @@ TEST_F(ProgramTest, WhatCannotBeShownGivesStatusTwoAndOneLine)
 
 TEST_F(ProgramTest, AScreenshotShowsTheSettledWindowInTheSizeAskedFor)
 {
-    const Outcome outcome = Run({"--screenshot", Path("out.png"), "--size", "500x400", Path("library")});
-    EXPECT_EQ("", outcome.err + outcome.out);
-    EXPECT_EQ(0, outcome.status);
-    const QImage picture(Path("out.png"));
+    EXPECT_EQ(Outcome(), Run({"--screenshot", Path("out.png"), "--size", "500x400", Path("library")}));
+    const QImage picture = QImage(Path("out.png")).convertToFormat(QImage::Format_RGB32);
     ASSERT_EQ(QSize(500, 400), picture.size());
-    int nRed = 0; // the decoded picture is in it
-    for (int y = 0; y < 400; ++y) {
-        for (int x = 0; x < 500; ++x)
-            nRed += picture.pixelColor(x, y) == QColor(200, 30, 30);
-    }
-    EXPECT_GT(nRed, 500);
+    const auto* const pFirst = reinterpret_cast<const QRgb*>(picture.constBits());
+    EXPECT_LT(500, std::count(pFirst, pFirst + 500 * 400, kRed)) << "the decoded picture is in it";
 }
 
 TEST_F(ProgramTest, WithoutADisplayThePictureIsInAFileOfItsOwn)
 {
-    for (const char* pszDisplay : {"", ":4711"}) {
+    const std::pair<const char*, const char*> cases[] = {{"", "neither DISPLAY nor WAYLAND_DISPLAY is set"},
+                                                         {":4711", "the display ':4711' does not answer"}};
+    for (const auto& [pszDisplay, pszReason] : cases) {
         m_environment.insert("DISPLAY", pszDisplay);
         const Outcome outcome = Run({Path("library")});
-        EXPECT_EQ(0, outcome.status);
-        EXPECT_EQ("", outcome.err);
-        const std::string reason =
-            *pszDisplay ? "the display ':4711' does not answer" : "neither DISPLAY nor WAYLAND_DISPLAY is set";
-        const QFileInfoList pictures = Pictures();
-        ASSERT_EQ(1, pictures.size());
-        const QString path = pictures.front().filePath();
-        EXPECT_EQ("No window, for " + reason + "; its picture is in " + Text(path) + "\n", outcome.out);
-        EXPECT_EQ(QFile::ReadOwner | QFile::WriteOwner,
-                  pictures.front().permissions() & ~(QFile::ReadUser | QFile::WriteUser));
-        EXPECT_EQ(QSize(960, 640), QImage(path).size());
-        QFile::remove(path);
+        ASSERT_EQ(1, Pictures().size());
+        const QFileInfo picture = Pictures().front();
+        const std::string path = Text(picture.filePath());
+        EXPECT_EQ((Outcome{0, std::string("No window, for ") + pszReason + "; its picture is in " + path + "\n", ""}),
+                  outcome);
+        EXPECT_EQ(QFile::ReadOwner | QFile::WriteOwner, picture.permissions() & ~(QFile::ReadUser | QFile::WriteUser));
+        EXPECT_EQ(QSize(960, 640), QImage(picture.filePath()).size());
+        QFile::remove(picture.filePath());
     }
 }
 
@@ -115,10 +115,8 @@ TEST_F(ProgramTest, AScriptRunsWithoutAWindowAndItsStatusTells)
     file.write("list\nselect red.png\ncopy\nenter empty\npaste\nlist\nscreenshot \"" + Path("out.png").toUtf8() +
                "\"\nfly\n");
     file.close();
-    const Outcome outcome = Run({"--script", file.fileName(), "--size", "500x400", Path("library")});
-    EXPECT_EQ("empty\nred.png\nred.png\n", outcome.out);
-    EXPECT_EQ(Text(file.fileName()) + ":8: fly: unknown command\n", outcome.err);
-    EXPECT_EQ(1, outcome.status);
+    EXPECT_EQ((Outcome{1, "empty\nred.png\nred.png\n", Text(file.fileName()) + ":8: fly: unknown command\n"}),
+              Run({"--script", file.fileName(), "--size", "500x400", Path("library")}));
     EXPECT_EQ(QSize(500, 400), QImage(Path("out.png")).size());
     EXPECT_TRUE(QFile::exists(Path("library/empty/red.png")));
     EXPECT_EQ(QStringList(), QDir(m_folder.path()).entryList({"AE*"})) << "no transfer file is left";

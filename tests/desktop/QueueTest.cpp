@@ -3,48 +3,18 @@
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QMessageBox>
-#include <QMouseEvent>
-#include <QPointer>
 #include <thread>
 
 namespace
 {
-
-// Calls back with a message box as soon as it is shown, from Qt's loop.
-class BoxWatcher : public QObject
-{
-public:
-    explicit BoxWatcher(std::function<void(QMessageBox&)> onShown) : m_onShown(std::move(onShown))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* pObject, QEvent* pEvent) override
-    {
-        const QPointer<QMessageBox> pBox = qobject_cast<QMessageBox*>(pObject);
-        if (pBox && pEvent->type() == QEvent::Show)
-            QMetaObject::invokeMethod(
-                this,
-                [this, pBox] {
-                    if (pBox)
-                        m_onShown(*pBox);
-                },
-                Qt::QueuedConnection);
-        return false;
-    }
-
-private:
-    const std::function<void(QMessageBox&)> m_onShown;
-};
 
 class QueueTest : public DesktopTest
 {
 protected:
     int Ask(UINT nType, const std::function<void(QMessageBox&)>& onShown)
     {
-        const BoxWatcher watcher(onShown);
+        const WhenShown<QMessageBox> watcher(onShown);
         return ::MessageBox(m_probe->GetSafeHwnd(), "Delete <b>all</b>?", "Views", nType);
     }
 };
@@ -67,7 +37,7 @@ TEST_F(QueueTest, TheWaitCursorLetsNothingHappenInBetween)
 TEST_F(QueueTest, TimersTickWhileQtsLoopRuns)
 {
     int nTicks = 0;
-    m_probe->m_onTimer = [&] { ++nTicks; };
+    m_probe->m_after[WM_TIMER] = [&] { ++nTicks; };
     const DWORD before = m_desktop->Ticks();
     m_probe->SetTimer(1, 20);
     EXPECT_TRUE(RunUntil([&] { return nTicks == 3; }));
@@ -91,13 +61,13 @@ TEST_F(QueueTest, TasksFromOtherThreadsRunOnTheUserInterfaceThreadInOrder)
 
 TEST_F(QueueTest, APictureThatNeverRestsDoesNotStarveTheUser)
 {
-    m_probe->m_onPaint = [&] { m_probe->Invalidate(); };
+    m_probe->m_after[WM_PAINT] = [&] { m_probe->Invalidate(); };
     m_probe->Invalidate();
     QCoreApplication::processEvents();
     QTest::mousePress(Window(), Qt::LeftButton, {}, {30, 40});
     std::string log;
     EXPECT_TRUE(RunUntil([&] { return (log += m_probe->TakeLog()).ends_with("ldown 30,40"); }));
-    m_probe->m_onPaint = nullptr;
+    m_probe->m_after.clear();
     QTest::mouseRelease(Window(), Qt::LeftButton, {}, {30, 40});
 }
 
@@ -126,8 +96,8 @@ TEST_F(QueueTest, AMessageBoxOffersItsButtonsAndGivesTheAnswer)
 TEST_F(QueueTest, TheQueueGoesOnWhileAMessageBoxIsOpen)
 {
     QPointer<QMessageBox> pOpen;
-    m_probe->m_onApp = [&] { m_probe->SetTimer(1, 10); };
-    m_probe->m_onTimer = [&] {
+    m_probe->m_after[WM_APP] = [&] { m_probe->SetTimer(1, 10); };
+    m_probe->m_after[WM_TIMER] = [&] {
         m_probe->KillTimer(1);
         pOpen->button(QMessageBox::Yes)->click();
     };

@@ -49,15 +49,13 @@ TEST_F(WindowTest, WhatTheToolkitPaintsIsWhatTheScreenShows)
 TEST_F(WindowTest, TheUsersSizeAndTheProgramsSizeMeet)
 {
     Widget().resize(320, 90);
-    EXPECT_TRUE(RunUntil([&] { return m_probe->m_sized == CSize(320, 90); }));
-    Settle();
+    EXPECT_EQ("size 320,90", Heard());
     EXPECT_EQ(SurfacePicture(), Screen());
     EXPECT_EQ(QSize(320, 90), Screen().size());
 
     ::MoveWindow(m_probe->GetSafeHwnd(), 40, 50, 260, 70);
-    Settle();
+    EXPECT_EQ("size 260,70", Heard());
     EXPECT_EQ(QRect(40, 50, 260, 70), Widget().geometry());
-    EXPECT_EQ(CSize(260, 70), m_probe->m_sized);
 }
 
 TEST_F(WindowTest, AWindowBearsItsTitleAndHidesAndShows)
@@ -73,18 +71,10 @@ TEST_F(WindowTest, AWindowBearsItsTitleAndHidesAndShows)
 TEST_F(WindowTest, ClosingAsksTheProgramWhichMayStay)
 {
     EXPECT_FALSE(Widget().close());
-    EXPECT_TRUE(RunUntil([&] { return m_probe->m_bCloseAsked; }));
+    EXPECT_EQ("close", Heard());
     EXPECT_TRUE(Widget().isVisible());
 
     const HWND hProbe = m_probe->GetSafeHwnd();
     m_probe->DestroyWindow();
     EXPECT_EQ(nullptr, m_desktop->FindWidget(hProbe));
-}
-
-TEST_F(WindowTest, TheCursorIsTheToolkitsChoice)
-{
-    m_desktop->ShowCursor(toolkit::Cursor::Wait);
-    EXPECT_EQ(Qt::WaitCursor, Widget().cursor().shape());
-    m_desktop->ShowCursor(toolkit::Cursor::Arrow);
-    EXPECT_EQ(Qt::ArrowCursor, Widget().cursor().shape());
 }
