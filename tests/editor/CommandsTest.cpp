@@ -13,23 +13,8 @@ protected:
     CommandsTest()
     {
         folder.WriteBmp("Ada/a.bmp", 8, 8, 0xFF102030);
-        folder.WriteBmp("Ada/b.bmp");
-        folder.MakeFolder("Bo");
+        folder.Make("Ada/b.bmp Bo/");
     }
-
-    void Control(char key)
-    {
-        desktop.Hold({.control = true});
-        desktop.Key(static_cast<UINT>(key));
-        desktop.Hold({});
-        Settle();
-    }
-    void Press(UINT vkey)
-    {
-        desktop.Key(vkey);
-        Settle();
-    }
-    using Boxes = std::vector<std::string>;
 };
 
 TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
@@ -37,7 +22,7 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     Open();
     Control('C');
     Control('V');
-    EXPECT_EQ(Boxes({"Not everything was pasted: there are no objects on the clipboard"}), desktop.TakeMessageBoxes())
+    EXPECT_EQ(Ledger({"Not everything was pasted: there are no objects on the clipboard"}), TakeBoxes())
         << "nothing was selected";
 
     DoubleClick("Ada");
@@ -50,7 +35,7 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     Control('V');
     EXPECT_EQ("/Bo/ | [(*a.bmp) (b.bmp)] | 2 objects, 2 selected", Screen());
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
-    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger(), TakeBoxes());
 }
 
 TEST_F(CommandsTest, WhatIsCutGoesAndTheFocusStaysInItsPlace)
@@ -74,7 +59,7 @@ TEST_F(CommandsTest, RemovingAsksFirst)
     Open();
     DoubleClick("Ada");
     Press(VK_DELETE);
-    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger(), TakeBoxes());
     Click("a.bmp");
     desktop.Answer(IDNO);
     Press(VK_DELETE);
@@ -83,7 +68,7 @@ TEST_F(CommandsTest, RemovingAsksFirst)
     Control('A');
     desktop.Answer(IDYES);
     Press(VK_DELETE);
-    EXPECT_EQ(Boxes({"Views: Remove \"a.bmp\"?", "Views: Remove 2 objects?"}), desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Views: Remove \"a.bmp\"?", "Views: Remove 2 objects?"}), TakeBoxes());
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
     EXPECT_EQ("Ada/ Bo/", folder.Everything());
 }
@@ -106,7 +91,7 @@ TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
     desktop.Answer(IDYES);
     Press(VK_DELETE);
     EXPECT_EQ("/Ada/b.bmp/ | picture |  | b.bmp: 8 x 8 pixels", Screen()) << "on to the next one";
-    EXPECT_EQ(Frame().GetPictureView().m_hWnd, GetFocus());
+    EXPECT_EQ(Picture(), GetFocus());
     desktop.Answer(IDYES);
     Press(VK_DELETE);
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
@@ -129,14 +114,14 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
         Press(VK_F2);
         desktop.Type(pszName);
         Press(VK_RETURN);
-        return desktop.TakeMessageBoxes();
+        return TakeBoxes();
     };
-    EXPECT_EQ(Boxes(), rename("caf\xEF\xBF\xBD.bmp", ""));
+    EXPECT_EQ(Ledger(), rename("caf\xEF\xBF\xBD.bmp", ""));
     EXPECT_TRUE(std::filesystem::exists(folder.At("Bo/caf\xE9.bmp")));
     folder.WriteBmp("Bo/b.bmp");
-    EXPECT_EQ(Boxes({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b.bmp"));
+    EXPECT_EQ(Ledger({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b.bmp"));
     EXPECT_EQ("[(*c.bmp) caf\xEF\xBF\xBD.bmp]", Rows());
-    EXPECT_EQ(Boxes(), rename("c.bmp", "z.bmp"));
+    EXPECT_EQ(Ledger(), rename("c.bmp", "z.bmp"));
     EXPECT_TRUE(std::filesystem::exists(folder.At("Bo/z.bmp")));
 }
 
@@ -166,13 +151,12 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     Click("b.bmp");
     folder.Remove("Ada/b.bmp");
     Control('C');
-    EXPECT_EQ(Boxes({"Nothing was copied: b.bmp: no such file or directory"}), desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Nothing was copied: b.bmp: no such file or directory"}), TakeBoxes());
     Click("Poses");
     Control('C');
     DoubleClick("walk.phase");
     Control('V');
-    EXPECT_EQ(Boxes({"Not everything was pasted: walk.phase: it does not take these objects"}),
-              desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Not everything was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
     EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
 }
 

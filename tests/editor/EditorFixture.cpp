@@ -3,6 +3,8 @@
 #include "Editor/frame/Look.h"
 #include "Editor/model/LiveObjects.h"
 
+#include <algorithm>
+
 // The brush behind thumbnails stays from the first list on: it is no leak of a test.
 static const bool s_brushMade = (CThumbList(), true);
 
@@ -41,7 +43,7 @@ std::string EditorTest::Screen()
     std::string path;
     for (const std::string& part : Frame().GetPathBar().GetPath())
         path += path.empty() ? "/" : part + '/';
-    const bool isPicture = Frame().GetPictureView().IsWindowVisible();
+    const bool isPicture = IsWindowVisible(Picture());
     EXPECT_NE(isPicture, IsWindowVisible(List()) != FALSE);
     const editor::Status status = Frame().GetStatus();
     std::string text = path + " | " + (isPicture ? "picture" : Rows()) + " | " + status.text;
@@ -64,6 +66,38 @@ std::string EditorTest::Rows()
         text += (text.empty() ? "" : " ") + name;
     }
     return '[' + text + ']';
+}
+
+HTREEITEM EditorTest::FindItem(const std::string& label)
+{
+    HTREEITEM hItem = Tree().GetRootItem();
+    while (hItem && Tree().GetItemText(hItem).GetString() != label)
+        hItem = Tree().GetNextVisibleItem(hItem);
+    EXPECT_TRUE(hItem) << "no item " << label;
+    return hItem;
+}
+
+void EditorTest::Press(UINT vkey)
+{
+    desktop.Key(vkey);
+    Settle();
+}
+
+void EditorTest::Control(UINT vkey)
+{
+    desktop.Hold({.control = true});
+    desktop.Key(vkey);
+    desktop.Hold({});
+    Settle();
+}
+
+void EditorTest::Select(std::initializer_list<const char*> names)
+{
+    for (const char* pszName : names) {
+        Click(pszName);
+        desktop.Hold({.control = true});
+    }
+    desktop.Hold({});
 }
 
 void EditorTest::Click(const char* pszName)
@@ -119,4 +153,17 @@ CPoint EditorTest::PlaceOf(const char* pszName)
     }
     ADD_FAILURE() << "no row " << pszName;
     return {};
+}
+
+CPoint EditorTest::PlaceInTree(const std::string& label)
+{
+    CRect text;
+    EXPECT_TRUE(Tree().GetItemRect(FindItem(label), &text, TRUE));
+    return text.CenterPoint();
+}
+
+int EditorTest::CountInk(const toolkit::Surface& shown, COLORREF background)
+{
+    const int nPixels = shown.Width() * shown.Height();
+    return nPixels - static_cast<int>(std::count(shown.Row(0), shown.Row(0) + nPixels, toolkit::ToPixel(background)));
 }

@@ -22,18 +22,28 @@ protected:
     editor::EditorApp& App() { return *m_pApp; }
     editor::CMainFrame& Frame();
     HWND List() { return Frame().GetList().GetSafeHwnd(); }
+    HWND Picture() { return Frame().GetPictureView().GetSafeHwnd(); }
+    editor::CEditorTree& Tree() { return Frame().GetTree(); }
+    HTREEITEM FindItem(const std::string& label);
 
     // The path below the library, what is shown, and the status: "/Ada | [a (*b)] | 2 objects, 1 selected | detail".
     // Rows that are selected stand in brackets, the focused one bears a star.
     std::string Screen();
     std::string Rows();
 
+    Ledger TakeBoxes() { return desktop.TakeMessageBoxes(); }
+
+    void Press(UINT vkey);
+    void Control(UINT vkey); // with the key held
     void Click(const char* pszName);
+    void Select(std::initializer_list<const char*> names); // by clicks, all but the first with Control
     void DoubleClick(const char* pszName);
     void ClickPath(int nPart); // -1: the button that leads up
     void AltUp();
     toolkit::Pixel MiddleOf(HWND hWnd);
     CPoint PlaceOf(const char* pszName);
+    CPoint PlaceInTree(const std::string& label);
+    static int CountInk(const toolkit::Surface& shown, COLORREF background); // pixels of other colours
 
     TrashHome trash;
     TempFolder folder;

@@ -9,13 +9,6 @@ namespace
 class ListKindTest : public EditorTest
 {
 protected:
-    void Control(UINT vkey)
-    {
-        desktop.Hold({.control = true});
-        desktop.Key(vkey);
-        desktop.Hold({});
-        Settle();
-    }
     editor::CPane& Pane() { return static_cast<editor::CPane&>(*CWnd::FromHandle(GetParent(List()))); }
 };
 
@@ -49,16 +42,14 @@ TEST_F(ListKindTest, SwitchingKeepsWhatIsShownSelectedAndFocused)
 
 TEST_F(ListKindTest, AListChosenBehindAPictureIsThereWhenThePictureGoes)
 {
-    folder.WriteBmp("a.bmp");
-    folder.WriteBmp("b.bmp");
+    folder.Make("a.bmp b.bmp");
     Open();
     DoubleClick("b.bmp");
     Control('2');
-    EXPECT_TRUE(Frame().GetPictureView().IsWindowVisible());
+    EXPECT_TRUE(IsWindowVisible(Picture()));
     const HWND hThumbnails = List();
     EXPECT_FALSE(IsWindowVisible(hThumbnails));
-    desktop.Key(VK_BACK);
-    Settle();
+    Press(VK_BACK);
     EXPECT_EQ("/ | [a.bmp (*b.bmp)] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(hThumbnails, List());
     EXPECT_EQ(hThumbnails, GetFocus());
@@ -75,8 +66,7 @@ TEST_F(ListKindTest, PicturesScrolledPastAreNotRead)
     for (int i = 0; i < 30; ++i)
         desktop.Key(VK_NEXT);
     reader.AllowAll();
-    desktop.Key(VK_END);
-    Settle();
+    Press(VK_END);
     const Ledger reads = reader.TakeReads();
     EXPECT_LT(reads.size(), 2 * first) << "the pictures at the end, and those that had begun";
     EXPECT_NE(reads.end(), std::find(reads.begin(), reads.end(), "1299.bmp"));

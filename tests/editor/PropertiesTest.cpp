@@ -4,9 +4,6 @@
 #include "Toolkit/window/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
 
-#include <fstream>
-#include <iterator>
-
 namespace
 {
 
@@ -40,24 +37,12 @@ protected:
         return std::string(pane.GetDelay().GetWindowText()) + " ms, " + std::string(pane.GetRepeat().GetWindowText()) +
                " times | " + pane.GetText();
     }
-    void Control(UINT vkey)
-    {
-        desktop.Hold({.control = true});
-        desktop.Key(vkey);
-        desktop.Hold({});
-        Settle();
-    }
     void SelectBothPhases()
     {
         Click("run.phase");
         desktop.Hold({.shift = true});
         Click("walk.phase");
         desktop.Hold({});
-    }
-    std::string Text(const char* pszName) const
-    {
-        std::ifstream stream(folder.At(pszName), std::ios::binary);
-        return {std::istreambuf_iterator<char>(stream), {}};
     }
 };
 
@@ -77,18 +62,18 @@ TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKe
     EXPECT_EQ(List(), GetFocus());
     desktop.Key(VK_F4);
     desktop.Type("65");
-    EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
+    EXPECT_EQ("#delay 40\na.bmp\n", folder.Read("run.phase"));
     desktop.Key(VK_TAB);
     desktop.TakeClipboard({{"text/plain;charset=utf-8", "3"}});
     Control('V'); // as good as typed
     desktop.Key(VK_RETURN);
     EXPECT_EQ("65 ms, 3 times | 2 phases: not saved yet (Ctrl+S)", Shown());
-    EXPECT_EQ("#delay 40\na.bmp\n", Text("run.phase"));
+    EXPECT_EQ("#delay 40\na.bmp\n", folder.Read("run.phase"));
 
     Control('S');
     EXPECT_EQ("65 ms, 3 times | 2 phases", Shown());
-    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", Text("run.phase"));
-    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", folder.Read("run.phase"));
+    EXPECT_EQ("#repeat 3\n#delay 65\na.bmp\n", folder.Read("walk.phase"));
     EXPECT_EQ(List(), GetFocus());
 }
 
@@ -103,13 +88,13 @@ TEST_F(PropertiesTest, ClosingAsksWhatIsToBecomeOfWhatWasEntered)
         desktop.Answer(nAnswer);
         toolkit::InputClose(hFrame);
         desktop.Run();
-        return desktop.TakeMessageBoxes().size();
+        return TakeBoxes().size();
     };
     EXPECT_EQ(1u, close(IDCANCEL));
-    EXPECT_EQ("#delay 80\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ("#delay 80\na.bmp\n", folder.Read("walk.phase"));
     EXPECT_EQ("7 ms, 1 times | walk.phase: not saved yet (Ctrl+S)", Shown());
     EXPECT_EQ(1u, close(IDYES));
-    EXPECT_EQ("#delay 7\na.bmp\n", Text("walk.phase"));
+    EXPECT_EQ("#delay 7\na.bmp\n", folder.Read("walk.phase"));
     EXPECT_EQ(1, nClosed);
 }
 
@@ -124,8 +109,8 @@ TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlong)
     EXPECT_EQ("", Frame().GetCommands().Rename(pWalk, "stroll.phase"));
     Settle();
     Control('S');
-    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
-    EXPECT_EQ("#delay 7\na.bmp\n", Text("stroll.phase"));
+    EXPECT_EQ(Ledger(), TakeBoxes());
+    EXPECT_EQ("#delay 7\na.bmp\n", folder.Read("stroll.phase"));
 }
 
 TEST_F(PropertiesTest, WhatCannotBeSavedIsToldAndKept)
@@ -136,8 +121,7 @@ TEST_F(PropertiesTest, WhatCannotBeSavedIsToldAndKept)
     desktop.Type("7");
     folder.Remove("walk.phase");
     Control('S');
-    EXPECT_EQ(std::vector<std::string>({"Not everything was saved: walk.phase: no such file or directory"}),
-              desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Not everything was saved: walk.phase: no such file or directory"}), TakeBoxes());
     EXPECT_EQ("7 ms, 1 times | walk.phase: not saved yet (Ctrl+S)", Shown());
 }
 

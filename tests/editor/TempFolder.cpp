@@ -7,6 +7,7 @@
 #include <fstream>
 #include <iterator>
 #include <set>
+#include <sstream>
 #include <stdexcept>
 #include <stdlib.h>
 #include <sys/stat.h>
@@ -29,6 +30,13 @@ TempFolder::~TempFolder()
 {
     std::error_code ignored;
     fs::remove_all(m_path, ignored);
+}
+
+void TempFolder::Make(const std::string& paths) const
+{
+    std::istringstream stream(paths);
+    for (std::string path; stream >> path;)
+        path.back() == '/' ? MakeFolder(path) : WriteBmp(path);
 }
 
 void TempFolder::MakeFolder(const std::string& name) const

@@ -15,6 +15,8 @@ public:
     const std::string& Path() const { return m_path; }
     std::string At(const std::string& name) const { return m_path + '/' + name; }
 
+    // Folders and small BMP pictures, with what they lie in: "Ada/Poses/ Ada/a.bmp b.bmp". No name holds a blank.
+    void Make(const std::string& paths) const;
     void MakeFolder(const std::string& name) const;
     void Write(const std::string& name, const std::string& bytes) const;
     void WriteBmp(const std::string& name, int width = 8, int height = 8, unsigned color = 0xFF3080C0) const;
