@@ -50,11 +50,6 @@ LibraryTest::~LibraryTest()
     EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
 }
 
-std::string LibraryTest::Open()
-{
-    return Open(folder.Path());
-}
-
 std::string LibraryTest::Open(const std::string& path)
 {
     std::string error;
@@ -65,11 +60,9 @@ std::string LibraryTest::Open(const std::string& path)
 
 std::string LibraryTest::Members(IAtomContainer* pContainer)
 {
-    std::vector<void*> atoms(pContainer->GetCount());
-    pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.data(), IID_IAtom);
     std::string text;
-    for (void* const p : atoms) {
-        const auto pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(p));
+    for (UINT i = 0; i < pContainer->GetCount(); ++i) {
+        const auto pAtom = At(pContainer, i);
         text += text.empty() ? "" : " ";
         text += pAtom ? Name(pAtom.Get()) : "-";
         if (CStubRef<IPhase>::From(pAtom.Get()))
@@ -93,6 +86,13 @@ CStubRef<IAtom> LibraryTest::Find(IAtomContainer* pIn, const char* pszName)
     const BOOL bFound = pIn->FindAtom(pszName, pFound.Receive(), IID_IAtom);
     EXPECT_EQ(bFound != FALSE, static_cast<bool>(pFound));
     return pFound;
+}
+
+CStubRef<IAtom> LibraryTest::At(IAtomContainer* pIn, UINT nPlace)
+{
+    CStubRef<IAtom> pAtom;
+    pIn->GetAtoms(nPlace, 1, pAtom.Receive(), IID_IAtom);
+    return pAtom;
 }
 
 std::string LibraryTest::Name(IAtom* pAtom)

@@ -15,7 +15,7 @@ protected:
     ~LibraryTest() override;
 
     // An error's line instead of an exception: "! line".
-    std::string Open();
+    std::string Open() { return Open(folder.Path()); }
     std::string Open(const std::string& path);
     editor::CLibrary* Library() { return m_pLibrary.Get(); }
 
@@ -23,6 +23,7 @@ protected:
     static std::string Members(IAtomContainer* pContainer);
     static CStubRef<IAtomContainer> Container(IAtomContainer* pIn, const char* pszName);
     static CStubRef<IAtom> Find(IAtomContainer* pIn, const char* pszName);
+    static CStubRef<IAtom> At(IAtomContainer* pIn, UINT nPlace);
     static std::string Name(IAtom* pAtom);
     static std::string ShownName(IAtom* pAtom);
     static std::string Error(IAtom* pAtom); // empty without one

@@ -11,14 +11,8 @@ namespace
 
 TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
 {
-    folder.WriteBmp("ball.bmp");
-    folder.WriteBmp("Star.DIB");
+    folder.Make("ball.bmp Star.DIB readme.txt bmp .hidden.bmp .git/ Ada/");
     folder.Write("walk.phase", "ball.bmp\n");
-    folder.Write("readme.txt", "hello");
-    folder.Write("bmp", "no extension");
-    folder.WriteBmp(".hidden.bmp");
-    folder.MakeFolder(".git");
-    folder.MakeFolder("Ada");
     mkfifo(folder.At("pipe.bmp").c_str(), 0600);
 
     EXPECT_EQ("[Ada/ Star.DIB ball.bmp walk.phase>]", Open());
@@ -27,17 +21,9 @@ TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
     EXPECT_FALSE(Find(Library(), "BALL.BMP"));
 }
 
-TEST_F(LibraryTest, WhatCannotBeOpenedIsNamedWithTheReason)
-{
-    folder.Write("file.txt", "");
-
-    EXPECT_EQ("! " + folder.At("file.txt") + ": not a folder", Open(folder.At("file.txt")));
-    EXPECT_EQ("! " + folder.At("none") + ": no such file or directory", Open(folder.At("none")));
-}
-
 TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
 {
-    folder.WriteBmp("Ada/walk-1.bmp");
+    folder.Make("Ada/walk-1.bmp");
     folder.Write("Ada/walk.phase", "walk-1.bmp");
     Open();
     const auto pAda = Container(Library(), "Ada");
@@ -47,10 +33,9 @@ TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
         IAtom* const pConverted = pContainer;
         EXPECT_EQ(pConverted, CStubRef<IAtom>::From(pContainer).Get());
         EXPECT_EQ(pConverted, CStubRef<IAtom>::From(CStubRef<IAtomIcon>::From(pContainer).Get()).Get());
-        CStubRef<IAtom> pMember, pAgain, pHolder;
-        pContainer->GetAtoms(0, 1, pMember.Receive(), IID_IAtom);
-        pContainer->FindAtom(Name(pMember.Get()).c_str(), pAgain.Receive(), IID_IAtom);
-        EXPECT_EQ(pMember.Get(), pAgain.Get());
+        CStubRef<IAtom> pAgain, pHolder;
+        const auto pMember = At(pContainer, 0);
+        EXPECT_EQ(pMember.Get(), Find(pContainer, Name(pMember.Get()).c_str()).Get());
         EXPECT_TRUE(pContainer->FindAtomByID(pMember->GetID(), pAgain.Receive(), IID_IAtom));
         EXPECT_EQ(pMember.Get(), pAgain.Get());
         EXPECT_TRUE(pMember->GetContainer(pHolder.Receive(), IID_IAtom));
@@ -64,8 +49,7 @@ TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
 
 TEST_F(LibraryTest, AChildKeepsItsFoldersAliveAndAFolderOnlyThoseWhoAreHeld)
 {
-    folder.WriteBmp("Ada/Poses/one.bmp");
-    folder.WriteBmp("Ada/Poses/two.bmp");
+    folder.Make("Ada/Poses/one.bmp Ada/Poses/two.bmp");
     Open();
     const int nAlone = editor::g_nLiveObjects;
     CStubRef<IAtom> pOne;
@@ -80,10 +64,9 @@ TEST_F(LibraryTest, AChildKeepsItsFoldersAliveAndAFolderOnlyThoseWhoAreHeld)
     EXPECT_EQ(nAlone, editor::g_nLiveObjects);
 }
 
-TEST_F(LibraryTest, GetAtomsFillsEverySlotAlsoBehindTheLastMember)
+TEST_F(LibraryTest, GetAtomsFillsEverySlotAndABufferThatIsTooSmallForANameIsNotWrittenTo)
 {
-    folder.WriteBmp("a.bmp");
-    folder.WriteBmp("b.bmp");
+    folder.Make("a.bmp b.bmp");
     Open();
     void* slots[4] = {this, this, this, this};
 
@@ -95,40 +78,32 @@ TEST_F(LibraryTest, GetAtomsFillsEverySlotAlsoBehindTheLastMember)
     EXPECT_EQ(nullptr, slots[0]);
     Library()->GetAtoms(0, 1, slots, IID_IPhase);
     EXPECT_EQ(nullptr, slots[0]) << "a picture is no phase";
-}
 
-TEST_F(LibraryTest, NamesThatCannotBeShownAreReplacedForTheEyeOnly)
-{
-    const std::string names[] = {"Zo\xC3\xAB.bmp", "Zo\xEB.bmp", "two\nlines.bmp"};
-    for (const std::string& name : names)
-        folder.WriteBmp(name);
-    Open();
-
-    const auto shown = [&](const std::string& name) {
-        const auto pAtom = Find(Library(), name.c_str());
-        EXPECT_EQ(name, Name(pAtom.Get()));
-        const auto pDisp = CStubRef<IDispAtom>::From(pAtom.Get());
-        EXPECT_TRUE(!pDisp || CStubRef<IAtom>::From(pDisp.Get()).Get() == pAtom.Get());
-        return ShownName(pAtom.Get());
-    };
-    EXPECT_EQ("Zo\xC3\xAB.bmp", shown(names[0]));
-    EXPECT_EQ("Zo\xEF\xBF\xBD.bmp", shown(names[1]));
-    EXPECT_EQ("two\xEF\xBF\xBDlines.bmp", shown(names[2]));
-}
-
-TEST_F(LibraryTest, ABufferThatIsTooSmallForANameIsNotWrittenTo)
-{
-    folder.WriteBmp("a.bmp");
-    Open();
-    const auto pAtom = Find(Library(), "a.bmp");
+    const auto pAtom = At(Library(), 0);
     char buffer[6] = "?????";
     DWORD length = 5;
-
     EXPECT_FALSE(pAtom->GetName(buffer, &length));
     EXPECT_EQ(6u, length);
     EXPECT_STREQ("?????", buffer);
     EXPECT_TRUE(pAtom->GetName(buffer, &length));
     EXPECT_STREQ("a.bmp", buffer);
+}
+
+TEST_F(LibraryTest, NamesThatCannotBeShownAreReplacedForTheEyeOnly)
+{
+    const std::pair<const char*, const char*> names[] = {{"Zo\xC3\xAB.bmp", "Zo\xC3\xAB.bmp"},
+                                                         {"Zo\xEB.bmp", "Zo\xEF\xBF\xBD.bmp"},
+                                                         {"two\nlines.bmp", "two\xEF\xBF\xBDlines.bmp"}};
+    for (const auto& [pszName, pszShown] : names)
+        folder.WriteBmp(pszName);
+    Open();
+    for (const auto& [pszName, pszShown] : names) {
+        const auto pAtom = Find(Library(), pszName);
+        EXPECT_EQ(pszName, Name(pAtom.Get()));
+        EXPECT_EQ(pszShown, ShownName(pAtom.Get()));
+        const auto pDisp = CStubRef<IDispAtom>::From(pAtom.Get());
+        EXPECT_TRUE(!pDisp || CStubRef<IAtom>::From(pDisp.Get()).Get() == pAtom.Get());
+    }
 }
 
 TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
@@ -142,16 +117,14 @@ TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
     const auto pPhase = Container(Container(Library(), "Ada").Get(), "walk.phase");
 
     EXPECT_EQ("[walk-1.bmp ball.bmp walk-1.bmp lost.bmp x.bmp x.bmp]", Members(pPhase.Get()));
-    std::vector<CStubRef<IAtom>> links;
     std::string state;
     const auto pOrder = CStubRef<IPhase>::From(pPhase.Get());
     for (UINT i = 0; i < pPhase->GetCount(); ++i) {
-        pPhase->GetAtoms(i, 1, links.emplace_back().Receive(), IID_IAtom);
-        Icon(links.back().Get());
+        const auto pAtom = At(pPhase.Get(), i);
+        Icon(pAtom.Get());
         Settle();
-        const auto pLink = CStubRef<IImageLink>::From(links.back().Get());
-        state += std::to_string(pOrder->GetPosition(pLink.Get())) + ' ' + Icon(links.back().Get()) + ' ' +
-                 Error(links.back().Get()) + '\n';
+        const int nPlace = pOrder->GetPosition(CStubRef<IImageLink>::From(pAtom.Get()).Get());
+        state += std::to_string(nPlace) + ' ' + Icon(pAtom.Get()) + ' ' + Error(pAtom.Get()) + '\n';
     }
     EXPECT_EQ("0 405060 \n"
               "1 102030 \n"
@@ -172,19 +145,19 @@ TEST_F(LibraryTest, APhaseThatCannotBeReadSaysWhyAndIsEmpty)
     folder.Link("gone.phase", "nowhere");
     EXPECT_EQ("[binary.phase> folder.phase/ gone.phase> huge.phase>]", Open());
 
-    const auto error = [&](const char* pszName) {
+    const std::pair<const char*, const char*> errors[] = {{"binary.phase", "not a text"},
+                                                          {"gone.phase", "no such file or directory"},
+                                                          {"huge.phase", "too large for a phase"}};
+    for (const auto& [pszName, pszReason] : errors) {
         const auto pPhase = Container(Library(), pszName);
         EXPECT_EQ(0u, pPhase->GetCount());
-        return Error(pPhase.Get());
-    };
-    EXPECT_EQ("binary.phase: not a text", error("binary.phase"));
-    EXPECT_EQ("gone.phase: no such file or directory", error("gone.phase"));
-    EXPECT_EQ("huge.phase: too large for a phase", error("huge.phase"));
+        EXPECT_EQ(std::string(pszName) + ": " + pszReason, Error(pPhase.Get()));
+    }
 }
 
 TEST_F(LibraryTest, ALinkToAFolderThatHoldsItIsShownAndNotOpened)
 {
-    folder.WriteBmp("Ada/a.bmp");
+    folder.Make("Ada/a.bmp");
     folder.Link("Ada/up", "..");
     folder.Link("Ada/self", ".");
     folder.Link("friend", "Ada");
@@ -219,15 +192,13 @@ TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
 
 TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
 {
-    for (const char* name : {"a.bmp", "b.bmp", "c.bmp"})
-        folder.WriteBmp(name);
+    folder.Make("a.bmp b.bmp c.bmp");
     folder.Write("walk.phase", "a.bmp\nb.bmp\na.bmp\n");
     Open();
     const auto pA = Find(Library(), "a.bmp"), pB = Find(Library(), "b.bmp"), pC = Find(Library(), "c.bmp");
     const DWORD idB = pB->GetID(), idC = pC->GetID();
     const auto pPhase = Container(Library(), "walk.phase");
-    CStubRef<IAtom> pSecondA;
-    pPhase->GetAtoms(2, 1, pSecondA.Receive(), IID_IAtom);
+    const auto pSecondA = At(pPhase.Get(), 2);
 
     folder.Remove("b.bmp");
     folder.WriteBmp("aa.bmp");
@@ -248,9 +219,7 @@ TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
     Settle();
     EXPECT_EQ("b.bmp: no such file or directory", Error(pB.Get()));
     EXPECT_EQ("[new.bmp a.bmp]", Members(pPhase.Get()));
-    CStubRef<IAtom> pNowSecond;
-    pPhase->GetAtoms(1, 1, pNowSecond.Receive(), IID_IAtom);
-    EXPECT_EQ(pSecondA.Get(), pNowSecond.Get());
+    EXPECT_EQ(pSecondA.Get(), At(pPhase.Get(), 1).Get());
 
     folder.WriteBmp("b.bmp");
     Library()->ReadAgain();

@@ -35,8 +35,7 @@ TEST_F(PictureStoreTest, AnIconIsAPlaceholderUntilItsPictureArrives)
 
 TEST_F(PictureStoreTest, TheNewestWishIsReadFirstAndWhoWaitsTooLongAsksAgain)
 {
-    for (const char* name : {"1.bmp", "2.bmp", "3.bmp", "4.bmp", "5.bmp"})
-        folder.WriteBmp(name, 8, 8, 0xFF102030);
+    folder.Make("1.bmp 2.bmp 3.bmp 4.bmp 5.bmp");
     Open();
     const auto p1 = Atom("1.bmp"), p2 = Atom("2.bmp"), p3 = Atom("3.bmp"), p4 = Atom("4.bmp"), p5 = Atom("5.bmp");
     reader.Hold();
@@ -54,19 +53,16 @@ TEST_F(PictureStoreTest, TheNewestWishIsReadFirstAndWhoWaitsTooLongAsksAgain)
     Settle();
     EXPECT_EQ(Ledger({"1.bmp", "2.bmp", "5.bmp", "4.bmp"}), reader.TakeReads());
     EXPECT_EQ(Ledger({"1.bmp", "2.bmp", "5.bmp", "4.bmp"}), TakeArrivals());
-    EXPECT_EQ("102030", Icon(p2.Get()));
+    EXPECT_EQ("3080C0", Icon(p2.Get()));
 }
 
 TEST_F(PictureStoreTest, AllWhoWaitForOneFileHearOfItAndItIsReadOnce)
 {
-    folder.WriteBmp("ball.bmp");
+    folder.Make("ball.bmp");
     folder.Write("walk.phase", "ball.bmp\nball.bmp\n");
     Open();
     const auto pPhase = Container(Library(), "walk.phase");
-    CStubRef<IAtom> pFirst, pSecond;
-    pPhase->GetAtoms(0, 1, pFirst.Receive(), IID_IAtom);
-    pPhase->GetAtoms(1, 1, pSecond.Receive(), IID_IAtom);
-
+    const auto pFirst = At(pPhase.Get(), 0), pSecond = At(pPhase.Get(), 1);
     Icon(pFirst.Get());
     Icon(pSecond.Get());
     Settle();
@@ -76,9 +72,7 @@ TEST_F(PictureStoreTest, AllWhoWaitForOneFileHearOfItAndItIsReadOnce)
 
 TEST_F(PictureStoreTest, AfterARecheckOnlyFilesThatChangedAreReadAndToldOf)
 {
-    folder.WriteBmp("same.bmp", 8, 8, 0xFF102030);
-    folder.WriteBmp("new.bmp", 8, 8, 0xFF102030);
-    folder.WriteBmp("gone.bmp", 8, 8, 0xFF102030);
+    folder.Make("same.bmp new.bmp gone.bmp");
     Open();
     const auto pSame = Atom("same.bmp"), pNew = Atom("new.bmp"), pGone = Atom("gone.bmp");
     for (IAtom* pAtom : {pSame.Get(), pNew.Get(), pGone.Get()})
@@ -91,11 +85,11 @@ TEST_F(PictureStoreTest, AfterARecheckOnlyFilesThatChangedAreReadAndToldOf)
     folder.Remove("gone.bmp");
     pPictures->Recheck();
     for (IAtom* pAtom : {pSame.Get(), pNew.Get(), pGone.Get()})
-        EXPECT_EQ("102030", Icon(pAtom)) << "what is known serves until then";
+        EXPECT_EQ("3080C0", Icon(pAtom)) << "what is known serves until then";
     Settle();
     EXPECT_EQ(Ledger({"new.bmp"}), reader.TakeReads());
     EXPECT_EQ(2u, TakeArrivals().size());
-    EXPECT_EQ("102030", Icon(pSame.Get()));
+    EXPECT_EQ("3080C0", Icon(pSame.Get()));
     EXPECT_EQ("405060", Icon(pNew.Get()));
     EXPECT_EQ("broken", Icon(pGone.Get()));
 }
@@ -202,8 +196,7 @@ TEST_F(PictureStoreTest, AnIconGoesToTheSlotItIsGivenOrToANewOne)
 
 TEST_F(PictureStoreTest, AfterStoppingNobodyIsToldAnythingAndNothingIsRead)
 {
-    for (const char* name : {"1.bmp", "2.bmp"})
-        folder.WriteBmp(name);
+    folder.Make("1.bmp 2.bmp");
     Open();
     const auto p1 = Atom("1.bmp"), p2 = Atom("2.bmp");
     reader.Hold();

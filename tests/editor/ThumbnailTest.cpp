@@ -8,10 +8,8 @@ namespace
 class ThumbnailTest : public LibraryTest
 {
 protected:
-    CStubRef<IAtomThumbnail> Thumbnail(const char* pszName)
-    {
-        return CStubRef<IAtomThumbnail>::From(Find(Library(), pszName).Get());
-    }
+    static auto Thumbnail(const CStubRef<IAtom>& pAtom) { return CStubRef<IAtomThumbnail>::From(pAtom.Get()); }
+    auto Thumbnail(const char* pszName) { return Thumbnail(Find(Library(), pszName)); }
 
     // Drawn into 80 by 80 pixels of white: the picture's colour and place, or "none yet", "fails", "nothing".
     static std::string Drawn(IAtomThumbnail* pThumb, UINT nFrame = 0)
@@ -21,14 +19,13 @@ protected:
         CRect rect(10, 10, 90, 90);
         const BOOL bDrawn = pThumb->Draw(hdc, rect, 0, 2, nFrame);
         DeleteDC(hdc);
-        CRect place(100, 100, 0, 0);
+        CRect place;
         for (int y = 0; y < 100; ++y)
             for (int x = 0; x < 100; ++x)
                 if (surface.At(x, y) != 0xFFFFFFFF)
-                    place = {std::min(place.left, x), std::min(place.top, y), std::max(place.right, x + 1),
-                             std::max(place.bottom, y + 1)};
+                    place = place | CRect(x, y, x + 1, y + 1);
         if (!bDrawn)
-            return place.left > place.right ? "fails" : "fails, but draws";
+            return place.IsRectEmpty() ? "fails" : "fails, but draws";
         const toolkit::Pixel pixel = surface.At(place.left, place.top);
         if (pixel != surface.At(50, 50))
             return "none yet";
@@ -58,11 +55,8 @@ TEST_F(ThumbnailTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneFails)
     EXPECT_EQ("fails", Drawn(pBad.Get()));
 
     const auto pPhase = Container(Library(), "walk.phase");
-    CStubRef<IAtomThumbnail> pInside, pOutside;
-    pPhase->GetAtoms(0, 1, pInside.Receive(), IID_IAtomThumbnail);
-    pPhase->GetAtoms(1, 1, pOutside.Receive(), IID_IAtomThumbnail);
-    EXPECT_EQ("102030 at 10,30-90,70", Drawn(pInside.Get()));
-    EXPECT_EQ("fails", Drawn(pOutside.Get()));
+    EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(At(pPhase.Get(), 0)).Get()));
+    EXPECT_EQ("fails", Drawn(Thumbnail(At(pPhase.Get(), 1)).Get()));
     EXPECT_EQ(3u, reader.TakeReads().size());
 }
 
@@ -85,10 +79,9 @@ TEST_F(ThumbnailTest, AnAnimatedPictureIsDrawnFrameByFrame)
 
 TEST_F(ThumbnailTest, PicturesThatNobodySeesAnyMoreAreNotReadUntilSomeoneDoes)
 {
-    for (const char* name : {"1.bmp", "2.bmp", "3.bmp"})
-        folder.WriteBmp(name, 8, 8, 0xFF102030);
+    folder.Make("1.bmp 2.bmp 3.bmp");
     Open();
-    const auto p1 = Find(Library(), "1.bmp"), p2 = Find(Library(), "2.bmp"), p3 = Find(Library(), "3.bmp");
+    const auto p3 = Find(Library(), "3.bmp");
     reader.Hold();
     Drawn(Thumbnail("1.bmp").Get());
     reader.WaitForReads(1);
@@ -102,10 +95,10 @@ TEST_F(ThumbnailTest, PicturesThatNobodySeesAnyMoreAreNotReadUntilSomeoneDoes)
     reader.AllowAll();
     Settle();
     EXPECT_EQ(Ledger({"1.bmp", "3.bmp"}), reader.TakeReads());
-    EXPECT_EQ("102030 at 46,46-54,54", Drawn(Thumbnail("1.bmp").Get())) << "what had begun serves";
+    EXPECT_EQ("3080C0 at 46,46-54,54", Drawn(Thumbnail("1.bmp").Get())) << "what had begun serves";
     EXPECT_EQ("none yet", Drawn(Thumbnail("2.bmp").Get()));
     Settle();
-    EXPECT_EQ("102030 at 46,46-54,54", Drawn(Thumbnail("2.bmp").Get()));
+    EXPECT_EQ("3080C0 at 46,46-54,54", Drawn(Thumbnail("2.bmp").Get()));
 }
 
 } // namespace

@@ -3,15 +3,15 @@
 
 #include "tests/editor/TempFolder.h"
 
+#include <cstdlib>
+
 class TrashHome
 {
 public:
-    TrashHome();
-    ~TrashHome();
+    TrashHome() { Point(folder.Path()); }
+    ~TrashHome() { unsetenv("XDG_DATA_HOME"); }
 
-    TempFolder folder;                         // what lies in the trash is in Trash/files
-    void Point(const std::string& path) const; // the trash is below that path from now on
-
-private:
-    const std::string m_former;
+    TempFolder folder; // what lies in the trash is in Trash/files
+    // The trash is below that path from now on.
+    void Point(const std::string& path) const { setenv("XDG_DATA_HOME", path.c_str(), 1); }
 };
