@@ -1,51 +1,11 @@
 #include "Editor/services/AtomEditor.h"
 
-#include "Editor/services/StateHandler.h"
 #include "Toolkit/window/Wnd.h"
 #include "tests/editor/LibraryFixture.h"
+#include "tests/editor/StateSpy.h"
 
 namespace
 {
-
-// Writes down what it hears, and answers and acts as it is told.
-class Listener final : public editor::CStateHandler
-{
-public:
-    Listener(std::string name, LedgerBook& book) : m_name(std::move(name)), m_book(book) {}
-
-    BOOL OnAtomSelecting(IAtom*, IAtomContainer*) override { return Hear("selecting"); }
-    BOOL OnAtomSelected(IAtom*, IAtomContainer*) override { return Hear("selected"); }
-    BOOL OnAtomEntered(IAtom*, IAtomContainer*) override { return Hear("entered"); }
-    BOOL OnAtomRename(IAtom*, IAtomContainer*) override { return Hear("rename"); }
-    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override
-    {
-        if (!pairs)
-            *pCount = static_cast<DWORD>(active.size()) + 1; // one slot stays empty
-        for (std::size_t i = 0; pairs && i < active.size(); ++i) {
-            pairs[i].pAtom = CStubRef<IAtom>::Share(active[i]).Detach();
-            CStubRef<IAtomContainer> pContainer;
-            active[i]->GetContainer(pContainer.Receive(), IID_IAtomContainer);
-            pairs[i].pContainer = pContainer.Detach();
-        }
-        return pairs != nullptr;
-    }
-
-    BOOL answer = TRUE;
-    std::function<void()> onHear; // once
-    std::vector<IAtom*> active;
-
-private:
-    BOOL Hear(const char* pszWhat)
-    {
-        m_book.Write(m_name + ' ' + pszWhat);
-        if (const auto act = std::exchange(onHear, nullptr))
-            act();
-        return answer;
-    }
-
-    const std::string m_name;
-    LedgerBook& m_book;
-};
 
 class Frame final : public editor::PaneFrame
 {
@@ -68,8 +28,7 @@ class AtomEditorTest : public LibraryTest
 protected:
     AtomEditorTest()
     {
-        for (const char* name : {"a.bmp", "b.bmp"})
-            folder.WriteBmp(name);
+        folder.Make("a.bmp b.bmp");
         Open();
         pA = Find(Library(), "a.bmp");
         pB = Find(Library(), "b.bmp");
@@ -88,24 +47,20 @@ protected:
     }
     std::string ActivePairs(const char* pszRefused = "")
     {
-        struct Context
-        {
-            std::string names;
-            std::string refused;
-        } context{{}, pszRefused};
+        std::pair<std::string, std::string> context({}, pszRefused); // with the names so far
         const BOOL bResult = editor.EnumActivePairs(
             [](IAtom* pAtom, IAtomContainer*, void* p) -> BOOL {
-                auto& c = *static_cast<Context*>(p);
-                c.names += Name(pAtom) + ' ';
-                return Name(pAtom) != c.refused;
+                auto& [names, refused] = *static_cast<decltype(context)*>(p);
+                names += Name(pAtom) + ' ';
+                return Name(pAtom) != refused;
             },
             &context);
-        return context.names + (bResult ? "yes" : "no");
+        return context.first + (bResult ? "yes" : "no");
     }
 
     editor::CAtomEditor editor;
     LedgerBook book;
-    Listener one{"one", book}, two{"two", book}, three{"three", book};
+    StateSpy one{"one ", book}, two{"two ", book}, three{"three ", book};
     CStubRef<IAtom> pA, pB;
 };
 
@@ -116,9 +71,9 @@ TEST_F(AtomEditorTest, EveryHandlerButTheSenderHearsAndAnyOneMayVeto)
     one.answer = FALSE;
 
     EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomSelecting, pA.Get()));
-    EXPECT_EQ(Ledger({"one selecting", "two selecting"}), book.TakeLedger());
+    EXPECT_EQ(Ledger({"one selecting a.bmp", "two selecting a.bmp"}), book.TakeLedger());
     EXPECT_TRUE(Tell(&one, &IAEStateHandler::OnAtomSelecting, pA.Get())) << "its own answer does not count";
-    EXPECT_EQ(Ledger({"two selecting"}), book.TakeLedger());
+    EXPECT_EQ(Ledger({"two selecting a.bmp"}), book.TakeLedger());
     EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get())) << "told, not asked";
     book.TakeLedger();
     EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr)) << "the second one renames";
@@ -138,9 +93,9 @@ TEST_F(AtomEditorTest, HandlersComeAndGoWhileTheyAreCalled)
     };
 
     Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get());
-    EXPECT_EQ(Ledger({"one selected", "three entered"}), book.TakeLedger());
+    EXPECT_EQ(Ledger({"one selected a.bmp", "three entered a.bmp"}), book.TakeLedger());
     Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get());
-    EXPECT_EQ(Ledger({"three selected"}), book.TakeLedger());
+    EXPECT_EQ(Ledger({"three selected a.bmp"}), book.TakeLedger());
     editor.UnregisterHandler(12345);
 }
 
@@ -182,7 +137,7 @@ TEST_F(AtomEditorTest, TheSelectionIsThatOfTheFocusedViewElseOfTheLastToAnnounce
     book.TakeLedger();
     one.answer = FALSE;
     EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr));
-    EXPECT_EQ(Ledger({"one rename"}), book.TakeLedger()) << "nobody renames in its place";
+    EXPECT_EQ(Ledger({"one rename -"}), book.TakeLedger()) << "nobody renames in its place";
 
     Frame frame{view.GetSafeHwnd()};
     editor.SetFrame(&frame);

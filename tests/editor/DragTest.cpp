@@ -8,24 +8,7 @@ namespace
 class DragTest : public EditorTest
 {
 protected:
-    DragTest()
-    {
-        folder.WriteBmp("Ada/a.bmp");
-        folder.WriteBmp("Ada/b.bmp");
-        folder.WriteBmp("Ada/c.bmp");
-        folder.MakeFolder("Bo");
-    }
-
-    editor::CEditorTree& Tree() { return Frame().GetTree(); }
-    CPoint PlaceInTree(const std::string& label)
-    {
-        HTREEITEM hItem = Tree().GetRootItem();
-        while (hItem && Tree().GetItemText(hItem).GetString() != label)
-            hItem = Tree().GetNextVisibleItem(hItem);
-        CRect text;
-        EXPECT_TRUE(Tree().GetItemRect(hItem, &text, TRUE)) << label;
-        return text.CenterPoint();
-    }
+    DragTest() { folder.Make("Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/"); }
 
     // Presses there and moves on, which begins the drag; the script is what the user does then.
     void Drag(HWND hFrom, CPoint at, std::function<void()> script)
@@ -54,16 +37,6 @@ protected:
         GetClientRect(List(), &client);
         return {client.right / 2, client.bottom - 5};
     }
-    void Select(std::initializer_list<const char*> names)
-    {
-        desktop.Hold({});
-        for (const char* pszName : names) {
-            Click(pszName);
-            desktop.Hold({.control = true});
-        }
-        desktop.Hold({});
-    }
-    using Boxes = std::vector<std::string>;
 };
 
 TEST_F(DragTest, WhatIsDraggedFromTheListIntoTheTreeMovesOnTheDisk)
@@ -79,10 +52,13 @@ TEST_F(DragTest, WhatIsDraggedFromTheListIntoTheTreeMovesOnTheDisk)
     EXPECT_EQ("Ada/ Ada/b.bmp Bo/ Bo/a.bmp Bo/c.bmp", folder.Everything());
     EXPECT_EQ(picture, folder.Read("Bo/a.bmp"));
     EXPECT_EQ("/Ada/ | [*b.bmp] | 1 object", Screen());
-    EXPECT_EQ(Boxes(), desktop.TakeMessageBoxes());
+    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Bo"); });
+    EXPECT_EQ("Bo/ Bo/Ada/ Bo/Ada/b.bmp Bo/a.bmp Bo/c.bmp", folder.Everything());
+    EXPECT_EQ("/Bo/ | [a.bmp Ada c.bmp] | 3 objects", Screen());
+    EXPECT_EQ(Ledger(), TakeBoxes());
 }
 
-TEST_F(DragTest, WithControlItIsCopiedAndEscapeLeavesAllAsItWas)
+TEST_F(DragTest, WithControlItIsCopied)
 {
     Open();
     DoubleClick("Ada");
@@ -98,17 +74,28 @@ TEST_F(DragTest, WithControlItIsCopiedAndEscapeLeavesAllAsItWas)
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
     Drag(List(), PlaceOf("a.bmp"), copyTo([&] { DropOnList(BelowTheRows()); }));
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
+}
 
+TEST_F(DragTest, WhatIsGivenUpOrCannotGoThereStaysWhereItIs)
+{
+    folder.Make("Ada/Poses/p.bmp Bo/a.bmp");
+    Open();
+    DoubleClick("Ada");
     const std::string before = folder.Everything();
-    Drag(List(), PlaceOf("b.bmp"), [&] {
+    const auto drag = [&](HWND hFrom, CPoint at, std::function<void()> script) {
+        Drag(hFrom, at, std::move(script));
+        EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+        EXPECT_EQ(before, folder.Everything());
+    };
+    drag(List(), PlaceOf("b.bmp"), [&] {
         desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo"));
         desktop.Key(VK_ESCAPE);
     });
-    Drag(List(), PlaceOf("b.bmp"), [&] { DropOnList(BelowTheRows()); }); // where it is already
-    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
-    Drag(List(), PlaceOf("a.bmp"), [&] { DropOnTree("Bo"); }); // where there is one of that name
-    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
-    EXPECT_EQ(before, folder.Everything());
+    drag(List(), PlaceOf("b.bmp"), [&] { DropOnList(BelowTheRows()); }); // where it is already
+    drag(List(), PlaceOf("a.bmp"), [&] { DropOnTree("Bo"); });           // where there is one of that name
+    drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Ada"); });
+    drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(PlaceOf("Poses")); });
+    drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(BelowTheRows()); });
 }
 
 TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
@@ -129,25 +116,6 @@ TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
     EXPECT_EQ("Ada/ Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything()) << "the selection counts again";
 }
 
-TEST_F(DragTest, AFolderDoesNotGoIntoItselfNorBelow)
-{
-    folder.WriteBmp("Ada/Poses/p.bmp");
-    Open();
-    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Ada"); });
-    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
-    const std::string before = folder.Everything();
-    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(PlaceOf("Poses")); });
-    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
-    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(BelowTheRows()); });
-    EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
-    EXPECT_EQ(before, folder.Everything());
-
-    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Bo"); });
-    EXPECT_EQ("Bo/ Bo/Ada/ Bo/Ada/Poses/ Bo/Ada/Poses/p.bmp Bo/Ada/a.bmp Bo/Ada/b.bmp Bo/Ada/c.bmp",
-              folder.Everything());
-    EXPECT_EQ("/Bo/ | [Ada] | 1 object", Screen());
-}
-
 TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereItIs)
 {
     Open();
@@ -155,8 +123,7 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
     Drag(List(), PlaceOf("Bo"), [&] { DropOnTree("Ada"); });
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("Ada/ Ada/Bo/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
-    EXPECT_EQ(Boxes({"Not everything was taken: Ada: can only be copied there, not moved"}),
-              desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
 }
 
 TEST_F(DragTest, NothingStaysHighlightedHoweverTheDragEnds)
@@ -171,9 +138,7 @@ TEST_F(DragTest, NothingStaysHighlightedHoweverTheDragEnds)
     const std::function<void()> ends[] = {
         [&] { desktop.DragOut(); },
         [&] { desktop.Key(VK_ESCAPE); },
-        [&] {
-            desktop.MoveTo(Frame().m_hWnd, {3, 3});
-        },
+        [&] { desktop.MoveTo(Frame().m_hWnd, CPoint(3, 3)); },
         [&] { desktop.MoveTo(List(), BelowTheRows()); },
     };
     for (const auto& end : ends) {
@@ -198,8 +163,8 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
     desktop.Choose("Select all");
     desktop.Click(List(), BelowTheRows(), toolkit::MouseButton::Right);
     desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
-    EXPECT_EQ(Boxes({"[(Open) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | Select all | Refresh]",
-                     "[(Open) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select all) | Refresh]"}),
+    EXPECT_EQ(Ledger({"[(Open) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | Select all | Refresh]",
+                      "[(Open) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select all) | Refresh]"}),
               desktop.TakeMenus());
     Click("b.bmp");
     for (const char* pszCommand : {"Copy", "Paste"}) {
@@ -236,8 +201,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     desktop.DragIn({{"text/uri-list", uri("notes.txt") + uri("a.bmp")}});
     DropOnTree("Bo");
     Settle();
-    EXPECT_EQ(Boxes({"Not everything was taken: notes.txt: not a file that the library shows"}),
-              desktop.TakeMessageBoxes());
+    EXPECT_EQ(Ledger({"Not everything was taken: notes.txt: not a file that the library shows"}), TakeBoxes());
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp", folder.Everything());
     EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
 
@@ -251,9 +215,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ("file://" + folder.At("Ada/new%20one.bmp") + "\r\n", dragged);
 
     desktop.TakeClipboard({{"text/uri-list", uri("a.bmp")}});
-    desktop.Hold({.control = true});
-    desktop.Key('V');
-    desktop.Hold({});
+    Control('V');
     EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/a (3).bmp"));
 }
 
@@ -286,33 +248,7 @@ TEST_F(DragTest, AMoveThatTheDiskRefusesLeavesTheOriginals)
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("came under way", folder.Read("Bo/a.bmp"));
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
-    EXPECT_EQ(Boxes({"Not everything was taken: a.bmp: file exists"}), desktop.TakeMessageBoxes());
-}
-
-TEST_F(DragTest, ANameThatIsRefusedIsToldAndTheOldOneComesBack)
-{
-    Open();
-    DoubleClick("Ada");
-    Click("a.bmp");
-    const std::string tooLong = std::string(252, 'x') + ".bmp";
-    for (const char* pszName : {"b.bmp", "", "a/b.bmp", "a.txt", tooLong.c_str()}) {
-        desktop.Key(VK_F2);
-        desktop.Hold({.control = true});
-        desktop.Key('A');
-        desktop.Hold({});
-        desktop.Key(VK_DELETE);
-        desktop.Type(pszName);
-        desktop.Key(VK_RETURN);
-        Settle();
-    }
-    const std::string told = "The name was not changed: a.bmp: ";
-    EXPECT_EQ(
-        Boxes({told + "there is a \"b.bmp\" already", told + "a name must not be empty",
-               told + "a name must not hold \"/\"", told + "under the name \"a.txt\" it would be no picture any more",
-               told + "the name is too long (256 of at most 255 bytes)"}),
-        desktop.TakeMessageBoxes());
-    EXPECT_EQ("/Ada/ | [(*a.bmp) b.bmp c.bmp] | 3 objects, 1 selected | a.bmp: 8 x 8 pixels", Screen());
-    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+    EXPECT_EQ(Ledger({"Not everything was taken: a.bmp: file exists"}), TakeBoxes());
 }
 
 } // namespace

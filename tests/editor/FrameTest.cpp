@@ -1,48 +1,24 @@
 // Tree and list side by side, each following the other.
-#include "Editor/services/StateHandler.h"
 #include "tests/editor/EditorFixture.h"
+#include "tests/editor/StateSpy.h"
 
 #include <algorithm>
 
 namespace
 {
 
-// Writes down what the editor tells it, and may refuse every selection.
-class Spy final : public editor::CStateHandler
-{
-public:
-    explicit Spy(LedgerBook& book) : m_book(book) { m_dwCookie = Editor()->RegisterHandler(nullptr, this); }
-    ~Spy() { Editor()->UnregisterHandler(m_dwCookie); }
-
-    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer*) override { return Note("created", pAtom); }
-    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer*) override { return Note("deleted", pAtom); }
-    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer*) override { return Note("selected", pAtom); }
-    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer*) override { return Note("deselected", pAtom); }
-    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer*) override { return Note("entered", pAtom); }
-    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer*) override
-    {
-        Note("selecting", pAtom);
-        return !bRefuses;
-    }
-
-    bool bRefuses = false;
-
-private:
-    static CStubRef<IAtomEditor> Editor() { return CStubRef<IAtomEditor>::Adopt(GetAtomEditor()); }
-    BOOL Note(const std::string& what, IAtom* pAtom)
-    {
-        const editor::CMember* const pMember = editor::CMember::Of(pAtom);
-        m_book.Write(what + ' ' + (!pMember ? "-" : pMember->Container() ? pMember->ShownName() : "/"));
-        return TRUE;
-    }
-
-    LedgerBook& m_book;
-    DWORD m_dwCookie;
-};
-
 class FrameTest : public EditorTest
 {
 protected:
+    ~FrameTest() override
+    {
+        if (m_dwCookie)
+            Editor()->UnregisterHandler(m_dwCookie);
+    }
+
+    static CStubRef<IAtomEditor> Editor() { return CStubRef<IAtomEditor>::Adopt(GetAtomEditor()); }
+    void Listen() { m_dwCookie = Editor()->RegisterHandler(nullptr, &spy); }
+
     // Items with what they hold when they are expanded; a plus at those that can be, and brackets around the
     // selected one: "/[Ada[a.bmp] (Bo)+]".
     std::string Shown() { return Shown(Tree().GetRootItem()); }
@@ -97,6 +73,12 @@ protected:
         if (bRelease)
             desktop.Release(App().GetMainWindow(), {to + 3, 240});
     }
+
+    LedgerBook book;
+    StateSpy spy{{}, book};
+
+private:
+    DWORD m_dwCookie = 0;
 };
 
 TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
@@ -193,8 +175,7 @@ TEST_F(FrameTest, WhatIsOpenedIsToldOnceAndASelectionInTheTreeInItsOrder)
 {
     folder.Make("Ada/a.bmp Bo/b.bmp");
     Open();
-    LedgerBook book;
-    Spy spy(book);
+    Listen();
     EXPECT_EQ(Ledger({"created /"}), book.TakeLedger()) << "who comes later hears of what is there";
 
     DoubleClick("Ada");
@@ -206,7 +187,7 @@ TEST_F(FrameTest, WhatIsOpenedIsToldOnceAndASelectionInTheTreeInItsOrder)
     book.TakeLedger();
     ClickItem("Bo");
     EXPECT_EQ(Ledger({"selecting Bo", "deselected Ada", "entered Bo", "selected Bo"}), book.TakeLedger());
-    spy.bRefuses = true;
+    spy.answer = FALSE;
     ClickItem("Ada");
     EXPECT_EQ(Ledger({"selecting Ada"}), book.TakeLedger());
     EXPECT_EQ("/[Ada+ (Bo)+]", Shown());
@@ -264,8 +245,7 @@ TEST_F(FrameTest, AnotherLibraryTakesThePlaceOfTheFirst)
     DoubleClick("Poses");
     EXPECT_EQ("/[(Poses)+]", Shown());
     DoubleClick("a.bmp");
-    LedgerBook book;
-    Spy spy(book);
+    Listen();
     book.TakeLedger();
     Open(folder.At("Bo"));
     EXPECT_EQ("(/)[b.bmp]", Shown());
