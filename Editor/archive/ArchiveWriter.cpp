@@ -170,7 +170,7 @@ std::string ArchiveWriter::AddMembers(const Entry& folder)
     std::vector<std::string> names;
     if (const int error = ReadNames(folder.Handle(), names); error != 0)
         return Fail(Because(folder.Shown(), SystemErrorText(error)));
-    std::erase_if(names, TempEntry::IsLeftOver);
+    std::erase_if(names, TempEntry::IsOne);
     std::sort(names.begin(), names.end());
     for (const std::string& name : names)
         if (std::string error = AddEntry(Entry(folder.Handle(), name, folder.Shown() + '/' + name), {}); !error.empty())

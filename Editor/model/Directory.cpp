@@ -1,5 +1,7 @@
 #include "Editor/model/Directory.h"
 
+#include "Editor/model/TempEntry.h"
+
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -38,8 +40,11 @@ void Directory::ForEach(const std::function<bool(const char* pszName, bool isDir
         const dirent* const next = readdir(m_pDir);
         if (!next)
             break;
-        if (next->d_name[0] == '.')
+        if (next->d_name[0] == '.') {
+            if (TempEntry::IsOne(next->d_name))
+                m_tempNames.emplace_back(next->d_name);
             continue;
+        }
         const Kind kind = KindOf(*next);
         if (kind != Kind::Other && !entry(next->d_name, kind == Kind::Directory))
             return;

@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 #include <sys/types.h>
+#include <vector>
 
 namespace editor
 {
@@ -35,6 +36,8 @@ public:
     // nowhere counts as a file. Asks the disk about a single entry only when the directory itself does not tell its
     // kind.
     void ForEach(const std::function<bool(const char* pszName, bool isDirectory)>& entry);
+    // Among the names passed over, those of entries in the making or left over (TempEntry).
+    const std::vector<std::string>& GetTempNames() const { return m_tempNames; }
 
 private:
     enum class Kind
@@ -48,6 +51,7 @@ private:
     DIR* m_pDir = nullptr;
     int m_error = 0;
     DirectoryIdentity m_identity;
+    std::vector<std::string> m_tempNames;
 };
 
 } // namespace editor

@@ -3,6 +3,7 @@
 #include "Editor/model/FileText.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/Picture.h"
+#include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
 namespace editor
@@ -26,6 +27,7 @@ CContainer::Listing CFolder::Read()
     listing.table.Sort();
     if (directory.GetError() != 0)
         listing.error = SystemErrorText(directory.GetError());
+    RemoveLeftOvers(Path(), directory.GetTempNames());
     return listing;
 }
 

@@ -1,15 +1,20 @@
 #include "Editor/model/TempEntry.h"
 
-#include <array>
+#include "Editor/archive/Checksum.h"
+
 #include <cerrno>
 #include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <new>
+#include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
+#include <sys/utsname.h>
 
 namespace editor
 {
@@ -18,27 +23,58 @@ namespace
 
 constexpr std::string_view kBeginning = ".views-new-";
 
+std::string Hexadecimal(std::uint64_t number)
+{
+    char hex[17];
+    std::snprintf(hex, sizeof hex, "%016llx", static_cast<unsigned long long>(number));
+    return hex;
+}
+
+// How all names begin that are made on this machine.
+const std::string& Beginning()
+{
+    static const std::string s_beginning = [] {
+        std::ifstream file("/etc/machine-id");
+        std::string machine{std::istreambuf_iterator<char>(file), {}};
+        utsname system{};
+        if (uname(&system) == 0)
+            machine += system.nodename;
+        return std::string(kBeginning) + Hexadecimal(Checksum(machine)) + '-';
+    }();
+    return s_beginning;
+}
+
 std::string SecretName()
 {
-    std::array<unsigned char, 8> random{};
-    if (getrandom(random.data(), random.size(), 0) != static_cast<ssize_t>(random.size()))
+    std::uint64_t random = 0;
+    if (getrandom(&random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
         return {};
-    std::string name(kBeginning);
-    for (const unsigned char byte : random) {
-        char hex[3];
-        std::snprintf(hex, sizeof hex, "%02x", byte);
-        name += hex;
-    }
-    return name;
+    return Beginning() + Hexadecimal(random);
+}
+
+// Whoever has an entry in the making there holds a lock on the folder, which ends with the process: there is none.
+bool IsNobodyAtWork(int nFolder)
+{
+    return flock(nFolder, LOCK_EX | LOCK_NB) == 0 && flock(nFolder, LOCK_UN) == 0;
+}
+
+bool IsOwn(int nFolder, const std::string& name)
+{
+    struct stat status;
+    return fstatat(nFolder, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 && status.st_uid == geteuid();
 }
 
 } // namespace
 
+// A lock that is refused (somebody has locked the folder for purposes of their own) is done without: should the entry
+// be taken for a leftover, putting it into its place fails, and nothing half-done comes of it.
 TempEntry::TempEntry(const std::string& folder)
     : m_folder(folder), m_fd(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), m_name(SecretName())
 {
     if (!m_fd || m_name.empty())
         m_error = errno;
+    else
+        flock(m_fd.Get(), LOCK_SH | LOCK_NB);
 }
 
 TempEntry::~TempEntry()
@@ -51,7 +87,7 @@ try {
     return; // it stays, hidden, as after a crash
 }
 
-bool TempEntry::IsLeftOver(std::string_view name)
+bool TempEntry::IsOne(std::string_view name)
 {
     return name.starts_with(kBeginning);
 }
@@ -108,6 +144,17 @@ int RemoveForGood(const std::string& folder, const std::string& name)
     if (error)
         temp.PutAt(name);
     return error.value();
+}
+
+// They were seen before the lock is tried: what begins later is not among them.
+void RemoveLeftOvers(const std::string& folder, const std::vector<std::string>& seen)
+{
+    const FileHandle handle(seen.empty() ? -1 : open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!handle || !IsNobodyAtWork(handle.Get()))
+        return;
+    for (const std::string& name : seen)
+        if (name.starts_with(Beginning()) && IsOwn(handle.Get(), name))
+            RemoveForGood(folder, name);
 }
 
 } // namespace editor

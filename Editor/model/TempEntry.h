@@ -4,13 +4,15 @@
 #include "Editor/model/DiskFile.h"
 
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace editor
 {
 
 // Has a name of its own in the folder where it is to stand: hidden, and known to nobody beforehand. Whoever uses
 // it makes the file or folder of that name, and then puts it into its place. What has not been put there goes at the
-// end, with everything in it; after a crash it stays, hidden, and does no harm.
+// end, with everything in it; after a crash it stays, hidden, until the folder is read again (RemoveLeftOvers).
 //
 // Putting a finished file into its place makes it whole or not there for every program that looks, and after a
 // crash of this one. Against a failing machine it guards only what ReplaceFile writes: making certain of every new
@@ -27,8 +29,8 @@ public:
     int Folder() const { return m_fd.Get(); }
     const std::string& Name() const { return m_name; }
 
-    // Is it the name of one that a crash has left over? Such things are no part of what a folder holds.
-    static bool IsLeftOver(std::string_view name);
+    // Is it the name of one, in the making or left over from a crash? Such things are no part of what a folder holds.
+    static bool IsOne(std::string_view name);
 
     // The error number; 0: it is in its place.
     int PutAt(const std::string& name); // EEXIST when there is something of that name
@@ -48,5 +50,10 @@ int ReplaceFile(const std::string& path, std::string_view bytes);
 // Removes a file or a folder with everything in it, for good; links are removed, not followed. The error number. What
 // could not be removed is left under its name.
 int RemoveForGood(const std::string& folder, const std::string& name);
+
+// Removes those entries that crashes have left over in the folder. `seen` are the names of entries that were just
+// found there. Only what was made on this machine and is the user's own goes, and only while no program of this
+// machine has an entry in the making there: another machine's, in a folder on the network, may be.
+void RemoveLeftOvers(const std::string& folder, const std::vector<std::string>& seen);
 
 } // namespace editor

@@ -1,3 +1,4 @@
+#include "Editor/model/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
 #include "tests/editor/AsNobody.h"
 #include "tests/support/AllocationFailures.h"
@@ -181,12 +182,45 @@ TEST_F(DiskTest, ACrashHalfWayLeavesTheOldStateAndNothingThatIsSeenOrCarried)
     const std::string left = folder.Everything();
     EXPECT_NE(std::string::npos, left.find(" Bo/.views-new-")) << left;
     EXPECT_EQ("[Ada/ Bo/]", Open());
-    EXPECT_EQ("[]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ("", Paste(Copy(Library(), {"Ada"}).Get(), Container(Library(), "Bo").Get()));
+    EXPECT_EQ(3, std::distance(std::filesystem::directory_iterator(folder.At("Bo/Ada")), {}));
+    EXPECT_EQ("[Poses/ a.bmp walk.phase>]", Members(Container(Container(Library(), "Bo").Get(), "Ada").Get()));
+}
 
-    EXPECT_EQ("", Paste(pArchive.Get(), Container(Library(), "Bo").Get()));
-    EXPECT_EQ("[Poses/ a.bmp]", Members(Container(Library(), "Bo").Get()));
-    EXPECT_EQ("", Paste(Copy(Library(), {"Bo"}).Get(), Library()));
-    EXPECT_EQ(2, std::distance(std::filesystem::directory_iterator(folder.At("Bo (2)")), {}));
+TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInTheMaking)
+{
+    folder.MakeFolder("Ada");
+    const auto crash = [&](const std::string& inside) {
+        if (const pid_t child = fork(); child != 0)
+            return void(waitpid(child, nullptr, 0));
+        const editor::TempEntry temp(folder.At("Ada"));
+        folder.Write("Ada/" + temp.Name() + inside, "half");
+        _exit(0);
+    };
+    const auto read = [&] {
+        Open();
+        EXPECT_EQ("[]", Members(Container(Library(), "Ada").Get()));
+        return folder.Everything();
+    };
+    crash("/Poses/b.bmp");
+    {
+        const editor::TempEntry another(folder.At("Ada"));
+        folder.Write("Ada/" + another.Name(), "half");
+        EXPECT_NE(std::string::npos, read().find("/Poses/b.bmp")) << "somebody is at work";
+    }
+    EXPECT_EQ("Ada/", read());
+
+    folder.Write("Ada/.views-new-0123456789abcdef-0123456789abcdef", "another machine's");
+    crash("/Poses/b.bmp");
+    EXPECT_EQ("Ada/ Ada/.views-new-0123456789abcdef-0123456789abcdef", read());
+    crash("");
+    const std::string left = folder.Everything();
+    chmod(folder.Path().c_str(), 0777);
+    chmod(folder.At("Ada").c_str(), 0777);
+    const AsNobody nobody;
+    if (geteuid() != getuid()) {
+        EXPECT_EQ(left, read()) << "another user's";
+    }
 }
 
 TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
