@@ -34,6 +34,9 @@ public:
     BOOL AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RemoveAtom(IAtom* pAtom) override;
+    // The line that tells why the member with that identifier could not be removed, until another one is tried: also
+    // after changes that succeeded. Empty for one that was not tried.
+    std::string WhyItStayed(DWORD dwID) const { return m_stayed.first == dwID ? m_stayed.second : std::string(); }
     // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason.
     DWORD GetPermissions(IAtom* pAtom) override;
     BOOL ValidateName(CString& strName, DWORD dwReserved) override;
@@ -98,10 +101,11 @@ private:
     DWORD IdOf(const CMember& member) const;
     void Forget(const CMember& member);
 
-    std::unique_ptr<Contents> m_pContents; // NULL until the members are asked for
-    std::optional<bool> m_holdsAny;        // as far as it was asked for before they were
-    std::string m_validName;               // given by ValidateName, and used by no member yet
-    std::string m_failure;                 // of the last change; empty when it succeeded
+    std::unique_ptr<Contents> m_pContents;  // NULL until the members are asked for
+    std::optional<bool> m_holdsAny;         // as far as it was asked for before they were
+    std::string m_validName;                // given by ValidateName, and used by no member yet
+    std::string m_failure;                  // of the last change; empty when it succeeded
+    std::pair<DWORD, std::string> m_stayed; // which could not be removed, and why
 };
 
 } // namespace editor

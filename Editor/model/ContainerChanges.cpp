@@ -46,8 +46,10 @@ BOOL CContainer::RemoveAtom(IAtom* pAtom)
     const CMember* const pMember = CMember::Of(pAtom);
     if (!IsPresent(pMember))
         return Note(ShownName() + ": the object to be removed is not there any more");
-    if (!Note(Remove(*pMember)))
+    if (!Note(Remove(*pMember))) {
+        m_stayed = {pAtom->GetID(), m_failure};
         return FALSE;
+    }
     Drop(pMember->Index());
     return TRUE;
 }

@@ -1,7 +1,7 @@
 #include "Editor/services/ActiveMembers.h"
 
+#include "Editor/model/Container.h"
 #include "Editor/model/ErrorInfo.h"
-#include "Editor/model/Member.h"
 
 #include <utility>
 
@@ -33,11 +33,16 @@ std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
     return line.empty() ? std::move(otherwise) : line;
 }
 
+// The container's own error may be that of a change since: what else had been cut is put back.
 std::string WhyStillThere(const ActiveMembers& members)
 {
-    for (const ActiveMember& member : members)
-        if (member.IsThere())
-            return ErrorOf(member.pContainer.Get(), ShownNameOf(member.pAtom.Get()) + ": it cannot be removed");
+    for (const ActiveMember& member : members) {
+        if (!member.IsThere())
+            continue;
+        const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
+        const std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
+        return reason.empty() ? ShownNameOf(member.pAtom.Get()) + ": it cannot be removed" : reason;
+    }
     return {};
 }
 

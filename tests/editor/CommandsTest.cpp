@@ -158,6 +158,17 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     Control('V');
     EXPECT_EQ(Ledger({"Not everything was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
     EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
+
+    // What holds the trash itself cannot go; what went before it is put back.
+    folder.WriteBmp("Bo/a.bmp");
+    setenv("XDG_DATA_HOME", folder.At("Bo/data").c_str(), 1);
+    folder.MakeFolder("Bo/data");
+    Open();
+    DoubleClick("Bo");
+    Control('A');
+    Control('X');
+    EXPECT_EQ(Ledger({"Nothing was cut: data: invalid argument"}), TakeBoxes());
+    EXPECT_EQ("[(a.bmp) (data)]", Rows());
 }
 
 } // namespace
