@@ -12,7 +12,7 @@
 //            1  0
 //            2  length of the name
 //            2  length of the origin
-//            2  0
+//            2  permissions of the original, nine bits; 0: those of a new file
 //            8  time of the last change, in nanoseconds since 1970
 //            8  device and
 //            8  inode of the original: is it still there, and is something inside it?
@@ -49,7 +49,8 @@ enum class RecordKind : std::uint8_t
 struct ArchiveRecord
 {
     RecordKind kind = RecordKind::File;
-    std::int64_t changed = 0; // nanoseconds since 1970
+    std::uint16_t permissions = 0; // 0: those of a new file
+    std::int64_t changed = 0;      // nanoseconds since 1970
     FileIdentity identity;
     std::string_view head; // all before the content; this and what follows lies in the archive's bytes
     std::string_view name, origin, content;

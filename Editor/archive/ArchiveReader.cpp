@@ -89,12 +89,13 @@ bool RecordReader::Next(ArchiveRecord& record)
     const auto kind = NumberAt<std::uint8_t>(p);
     const std::size_t name = NumberAt<std::uint16_t>(p + 2);
     const std::size_t origin = NumberAt<std::uint16_t>(p + 4);
+    const auto permissions = NumberAt<std::uint16_t>(p + 6);
     const std::size_t content = NumberAt<std::uint32_t>(p + 32);
     const std::size_t room = m_rest.size() - kRecordSize;
-    if (!IsKind(kind) || p[1] != 0 || NumberAt<std::uint16_t>(p + 6) != 0 || name + origin > room ||
-        content > room - name - origin)
+    if (!IsKind(kind) || p[1] != 0 || permissions > 0777 || name + origin > room || content > room - name - origin)
         return false;
     record.kind = static_cast<RecordKind>(kind);
+    record.permissions = permissions;
     record.changed = NumberAt<std::int64_t>(p + 8);
     record.identity = {NumberAt<std::uint64_t>(p + 16), NumberAt<std::uint64_t>(p + 24)};
     record.head = m_rest.substr(0, kRecordSize + name + origin);

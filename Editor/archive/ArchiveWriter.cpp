@@ -72,6 +72,7 @@ public:
     const std::string& Name() const { return m_name; }
     bool IsFolder() const { return S_ISDIR(m_status.st_mode); }
     FileIdentity Identity() const { return {m_status.st_dev, m_status.st_ino}; }
+    std::uint16_t Permissions() const { return (m_status.st_mode & 0777) | S_IRUSR; } // it could be read
     std::int64_t Changed() const { return Nanoseconds(m_status.st_mtim); }
     std::uint64_t Size() const { return static_cast<std::uint64_t>(m_status.st_size); }
     int Handle() const { return m_fd.Get(); }
@@ -188,6 +189,7 @@ std::string ArchiveWriter::AddHead(RecordKind kind, std::string_view name, const
     PutNumber<std::uint8_t>(p, static_cast<std::uint8_t>(kind));
     PutNumber<std::uint16_t>(p + 2, static_cast<std::uint16_t>(name.size()));
     PutNumber<std::uint16_t>(p + 4, static_cast<std::uint16_t>(origin.size()));
+    PutNumber<std::uint16_t>(p + 6, kind == RecordKind::Link ? 0 : entry.Permissions());
     PutNumber<std::int64_t>(p + 8, entry.Changed());
     PutNumber<std::uint64_t>(p + 16, entry.Identity().device);
     PutNumber<std::uint64_t>(p + 24, entry.Identity().inode);

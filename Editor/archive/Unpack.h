@@ -9,8 +9,9 @@ namespace editor
 {
 
 // Makes the file or folder that the record holds, under that name in the folder: whole, or not at all. The name and
-// all in the record have been checked. It has the time of the original, and the permissions of a new file. Empty when
-// it is there; else one line that names the file and the reason, for instance that there is something of that name.
+// all in the record have been checked. It has the time of the original, and of its permissions those that a new file
+// may have; its folders their owner may always change. Empty when it is there; else one line that names the file and
+// the reason, for instance that there is something of that name.
 std::string Unpack(const std::string& folder, const std::string& name, const ArchiveRecord& record);
 
 } // namespace editor

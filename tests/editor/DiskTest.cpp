@@ -40,9 +40,13 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     folder.MakeFolder("Bo");
     const timespec times[2] = {{1'000'000'000, 5}, {1'000'000'000, 5}};
     utimensat(AT_FDCWD, folder.At("Ada/a.bmp").c_str(), times, 0);
+    chmod(folder.At("Ada/a.bmp").c_str(), 0462);
+    chmod(folder.At("Ada/Poses").c_str(), 0550);
     Open();
 
+    const mode_t former = umask(022);
     EXPECT_EQ("", CopyTo("Ada", {"Poses", "a.bmp"}, "Bo"));
+    umask(former);
     EXPECT_EQ("[Poses/ a.bmp]", Members(Container(Library(), "Bo").Get()));
     EXPECT_EQ(bytes, folder.Read("Bo/Poses/" + odd));
     for (const char* const pszFile : {"empty.bmp", ".notes", "walk.phase"})
@@ -53,6 +57,9 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     struct stat status;
     stat(folder.At("Bo/a.bmp").c_str(), &status);
     EXPECT_EQ(1'000'000'000, status.st_mtim.tv_sec);
+    EXPECT_EQ(0440u, status.st_mode & 07777) << "a private picture stays private";
+    stat(folder.At("Bo/Poses").c_str(), &status);
+    EXPECT_EQ(0750u, status.st_mode & 07777);
 }
 
 TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
