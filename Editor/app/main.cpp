@@ -2,10 +2,11 @@
 //
 // Shows a folder in a window. Without a display, or when a picture is asked for, it renders the same window into a
 // PNG file and ends; or it runs a script and ends. Exit status 2, after one line that says why, when nothing could be
-// shown; 1 when a command of a script failed.
+// shown; 1 when a command of a script failed; 128 and the signal's number when one asked it to end.
 #include "Editor/CommandLine.h"
 #include "Editor/EditorApp.h"
 #include "Editor/app/Display.h"
+#include "Editor/app/EndSignals.h"
 #include "Editor/app/ProgramIcon.h"
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
@@ -16,6 +17,7 @@
 #include "Toolkit/window/MessageBox.h"
 
 #include <QApplication>
+#include <QSocketNotifier>
 #include <csignal>
 #include <cstdio>
 
@@ -24,6 +26,7 @@ namespace
 
 constexpr int kCommandFailed = 1;
 constexpr int kNothingShown = 2;
+constexpr int kEndedBySignal = 128; // as shells say it
 
 int Refuse(const std::string& reason)
 {
@@ -38,8 +41,10 @@ void ShowOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& m
         std::fprintf(stderr, "editor: %s\n", qPrintable(message));
 }
 
-int Show(QApplication& application, const editor::CommandLine& line)
+int Show(QApplication& application, const editor::CommandLine& line, const editor::EndSignals& ending)
 {
+    const QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
+    QObject::connect(&asked, &QSocketNotifier::activated, &application, &QApplication::quit);
     application.setWindowIcon(editor::MakeProgramIcon());
     const editor::QtPictureReader reader;
     qtdesktop::QtDesktop desktop;
@@ -64,7 +69,7 @@ public:
     int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT nType) override { return nType & MB_YESNO ? IDNO : IDOK; }
 };
 
-int RunScript(const editor::CommandLine& line)
+int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
 {
     std::string text;
     if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
@@ -79,7 +84,8 @@ int RunScript(const editor::CommandLine& line)
                                    .takeScreenshot =
                                        [&](const std::string& path) {
                                            return WriteScreenshot(*desktop.FindWidget(editor.GetMainWindow()), path);
-                                       }});
+                                       },
+                                   .isToEnd = [&] { return ending.GetLast() != 0; }});
     const std::string failure = script.Run(line.script, text);
     if (!failure.empty())
         std::fprintf(stderr, "%s\n", failure.c_str());
@@ -120,6 +126,7 @@ int main(int argc, char* argv[])
     if (line.folder.empty())
         line.folder = editor::DefaultFolder();
     std::signal(SIGXFSZ, SIG_IGN); // a file that would be too large is an error of its writing, not the program's end
+    const editor::EndSignals ending;
 
     const bool bWindow = line.screenshot.empty() && line.script.empty();
     const editor::Display display = bWindow ? editor::FindDisplay() : editor::Display();
@@ -130,7 +137,8 @@ int main(int argc, char* argv[])
     QApplication application(argc, argv);
     application.setApplicationName("Views");
     application.setQuitOnLastWindowClosed(false); // the editor tells when it is closed
-    if (!line.script.empty())
-        return RunScript(line);
-    return display.usable ? Show(application, line) : TakeScreenshot(line, display.trouble);
+    const int nStatus = !line.script.empty() ? RunScript(line, ending)
+                        : display.usable     ? Show(application, line, ending)
+                                             : TakeScreenshot(line, display.trouble);
+    return ending.GetLast() != 0 ? kEndedBySignal + ending.GetLast() : nStatus;
 }

@@ -46,7 +46,7 @@ std::string Script::Run(const std::string& name, std::string_view text)
 {
     for (int nLine = 1; !text.empty(); ++nLine) {
         const std::size_t end = std::min(text.find('\n'), text.size());
-        const std::string reason = RunLine(text.substr(0, end));
+        const std::string reason = m_outside.isToEnd() ? "interrupted" : RunLine(text.substr(0, end));
         if (!reason.empty())
             return ToShown(name) + ':' + std::to_string(nLine) + ": " + ToShown(reason);
         text.remove_prefix(std::min(end + 1, text.size()));

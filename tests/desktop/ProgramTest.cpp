@@ -5,6 +5,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <algorithm>
+#include <csignal>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <string>
@@ -121,4 +122,21 @@ TEST_F(ProgramTest, AScriptRunsWithoutAWindowAndItsStatusTells)
     EXPECT_TRUE(QFile::exists(Path("library/empty/red.png")));
     EXPECT_EQ(QStringList(), QDir(m_folder.path()).entryList({"AE*"})) << "no transfer file is left";
     ExpectRefusal({"--script", Path("none"), Path("library")}, Text(Path("none")) + ": no such file or directory");
+}
+
+TEST_F(ProgramTest, AScriptThatIsInterruptedLeavesNoTransferFile)
+{
+    QProcess program;
+    program.setProcessEnvironment(m_environment);
+    program.start(EDITOR_PROGRAM, {"--script", "-", Path("library")});
+    program.write("select red.png\ncopy\n" + QByteArray("refresh\n").repeated(1'000'000));
+    program.closeWriteChannel();
+    const auto transferFiles = [&] { return QDir(m_folder.path()).entryList({"AE*"}); };
+    while (transferFiles().isEmpty() && !program.waitForFinished(10))
+        continue;
+    program.terminate();
+    EXPECT_TRUE(program.waitForFinished(60'000));
+    EXPECT_EQ(128 + SIGTERM, program.exitCode());
+    EXPECT_EQ(QStringList(), transferFiles());
+    EXPECT_TRUE(program.readAllStandardError().endsWith(": interrupted\n"));
 }

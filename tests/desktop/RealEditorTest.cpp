@@ -141,8 +141,9 @@ TEST_F(RealEditorTest, WhatOneHasCopiedTheOtherPastesUntilTheFirstIsClosed)
     Press(rightWindow, "ctrl+v");
     AwaitFiles("left a.png b.png | right a.png");
 
-    m_left.kill();
+    m_left.terminate();
     ASSERT_TRUE(m_left.waitForFinished(kPatience));
+    EXPECT_TRUE(QDir(m_folder.filePath("temp")).isEmpty());
     Press(rightWindow, "ctrl+v");
     EXPECT_NE("", FindWindow("Not everything was pasted"));
     AwaitFiles("left a.png b.png | right a.png");
