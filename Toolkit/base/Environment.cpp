@@ -2,11 +2,13 @@
 #include "Toolkit/base/Files.h"
 
 #include <cerrno>
+#include <climits>
 #include <cstdlib>
 #include <cstring>
 #include <string>
 #include <sys/random.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -24,6 +26,13 @@ const char* TemporaryFolder(const char* pszWanted)
         return pszWanted;
     const char* pszOfTheMachine = std::getenv("TMPDIR");
     return IsFolder(pszOfTheMachine) ? pszOfTheMachine : "/tmp";
+}
+
+// Whoever is handed the path may stand elsewhere. As it is where nobody knows where this program stands.
+std::string Absolute(const std::string& folder)
+{
+    char here[PATH_MAX];
+    return folder.front() != kSeparator && getcwd(here, sizeof here) ? std::string(here) + kSeparator + folder : folder;
 }
 
 bool IsTaken(const std::string& path)
@@ -61,7 +70,7 @@ std::string RandomName()
 
 char* _tempnam(const char* pszFolder, const char* pszPrefix)
 try {
-    std::string start = TemporaryFolder(pszFolder);
+    std::string start = Absolute(TemporaryFolder(pszFolder));
     if (start.back() != kSeparator)
         start += kSeparator;
     start += pszPrefix ? pszPrefix : "";

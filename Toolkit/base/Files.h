@@ -55,9 +55,9 @@ TOOLKIT_API BOOL CloseHandle(HANDLE hFile); // FALSE for a stale handle
 // Takes the name away, also while the file is open: who has it open keeps its content. Of a link, the link itself.
 TOOLKIT_API BOOL DeleteFile(LPCSTR pszName);
 
-// A path that nothing has and nobody can guess: the folder, the prefix, and 26 letters and digits drawn at random.
-// Allocated with malloc: the caller frees it. A folder that is NULL, empty or not there is replaced by the machine's
-// own for temporary files: $TMPDIR, else /tmp. NULL when memory runs out.
+// An absolute path that nothing has and nobody can guess: the folder, the prefix, 26 letters and digits drawn at
+// random. Allocated with malloc: the caller frees it. A folder that is NULL, empty or not there is replaced by the
+// machine's own for temporary files: $TMPDIR, else /tmp. NULL when memory runs out.
 TOOLKIT_API char* _tempnam(const char* pszFolder, const char* pszPrefix);
 
 // How long the variable's value is, without its terminating zero, when it fits in the buffer of nSize bytes; else

@@ -237,6 +237,11 @@ TEST_F(TemporaryNameTest, NamesLieInTheFolderAndAreNeverTheSame)
     EXPECT_EQ(0u, fs::path(first).filename().string().rfind("AE", 0));
     EXPECT_EQ(2u + 26, fs::path(second).filename().string().size());
     EXPECT_NE(first, second);
+    const fs::path here = fs::current_path();
+    fs::current_path(m_folder);
+    EXPECT_EQ(fs::canonical(m_folder) / ".", fs::path(Name(".")).parent_path())
+        << "whoever is told it stands elsewhere";
+    fs::current_path(here);
 }
 
 TEST_F(TemporaryNameTest, AFolderThatIsNotThereIsReplacedByTheMachinesOwn)
