@@ -25,7 +25,7 @@ bool IsDevice(std::string_view name)
                        [&](std::string_view device) { return toolkit::CompareNoCase(stem, device) == 0; });
 }
 
-// Takes a number as in " (2)" off the end of the stem; 1 when there is none.
+// Takes a number as in " (2)" off the end of the stem; 1 when there is none, or one so large that it is no count.
 int TakeNumber(std::string_view& stem)
 {
     const std::size_t open = stem.rfind(" (");
@@ -35,7 +35,7 @@ int TakeNumber(std::string_view& stem)
     const char* const pLast = stem.data() + stem.size() - 1;
     int number = 0;
     const auto [pEnd, error] = std::from_chars(pFirst, pLast, number);
-    if (error != std::errc() || pEnd != pLast || number < 2 || number > kMostCopies || *pFirst == '0')
+    if (error != std::errc() || pEnd != pLast || number < 2 || number > kMostCopies / 2 || *pFirst == '0')
         return 1;
     stem = stem.substr(0, open);
     return number;

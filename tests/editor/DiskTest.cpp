@@ -66,6 +66,7 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
 {
     folder.WriteBmp("Walk.bmp");
     folder.WriteBmp("Walk (7).bmp");
+    folder.WriteBmp("Walk (1000000).bmp");
     folder.WriteBmp("v1.2 (1)/x.bmp");
     folder.Write("readme", "not shown, yet there");
     Open();
@@ -77,6 +78,7 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ(folder.Read("Walk.bmp"), folder.Read("Walk (3).bmp"));
     EXPECT_EQ("wALK (4).BMP", ValidName(Library(), "wALK.BMP")) << "but for the case";
     EXPECT_EQ("Walk (8).bmp", ValidName(Library(), "Walk (7).bmp"));
+    EXPECT_EQ("Walk (1000000) (2).bmp", ValidName(Library(), "Walk (1000000).bmp")) << "no count";
     EXPECT_EQ("v1.2 (1) (2)", ValidName(Library(), "v1.2 (1)"));
     EXPECT_EQ("README (2)", ValidName(Library(), "README"));
     EXPECT_EQ("free.bmp", ValidName(Library(), "free.bmp"));
