@@ -127,7 +127,10 @@ std::string Script::EnterOne(const std::string& part)
 
 std::string Script::Select(const Words& words)
 {
+    CStubRef<CMember> pStar;
     if (words.size() == 1 && words[0] == "*") {
+        if (Find(words[0], pStar).empty())
+            return "*: stands for all, and for one of them";
         Frame().GetList().SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
         return {};
     }

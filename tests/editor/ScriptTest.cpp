@@ -58,6 +58,7 @@ TEST_F(ScriptTest, CommandsActLikeTheUsersOwn)
 
 TEST_F(ScriptTest, TheFirstThatFailsEndsItWithFileLineAndReason)
 {
+    folder.MakeFolder("Bo/*");
     const std::pair<const char*, const char*> failures[] = {
         {"\n\nfly\nlist", "test.txt:3: fly: unknown command"},
         {"select \"Ada", "test.txt:1: a quote is not closed"},
@@ -71,13 +72,14 @@ TEST_F(ScriptTest, TheFirstThatFailsEndsItWithFileLineAndReason)
         {"rename Ada Bo", "test.txt:1: rename: Ada: there is a \"Bo\" already"},
         {"rename Ada x/y", "test.txt:1: rename: Ada: a name must not hold \"/\""},
         {"select Bo Zoe", "test.txt:1: select: Zoe: not in "},
+        {"enter Bo\nselect *", "test.txt:2: select: *: stands for all, and for one of them"},
         {"screenshot full.png", "test.txt:1: screenshot: no space left on device"},
     };
     for (const auto& [pszText, pszFailure] : failures) {
         const Ledger told = Run(pszText);
         EXPECT_EQ(0u, told.back().find(std::string("! ") + pszFailure)) << told.back();
     }
-    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/one.bmp Ada/a b.bmp Bo/", folder.Everything());
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/one.bmp Ada/a b.bmp Bo/ Bo/*/", folder.Everything());
 }
 
 TEST(ScriptWordsTest, QuotesHoldBlanksQuotesAndBackslashes)
