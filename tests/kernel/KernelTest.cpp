@@ -1,4 +1,5 @@
-#include "Kernel/Kernel.h"
+#include "tests/kernel/FakeCounted.h"
+#include "tests/kernel/FakeService.h"
 
 #include <gtest/gtest.h>
 #include <latch>
@@ -32,28 +33,6 @@ TEST(InterfaceIdTest, ANameHasOneNumberOfItsOwnWhicheverThreadAsks)
         EXPECT_EQ(asked[0], ids);
 }
 
-// A service whose calls wait until they are let go.
-struct WaitingProvider : SERVICEPROVIDER
-{
-    WaitingProvider() : SERVICEPROVIDER{&s_table} {}
-
-    std::latch entered{1}, mayLeave{1};
-    std::atomic<bool> left = false;
-
-    static BOOL Serve(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
-    {
-        auto& self = *static_cast<WaitingProvider*>(pProvider);
-        EXPECT_EQ(4u, dwSize);
-        EXPECT_EQ(0u, dwExtra);
-        *static_cast<DWORD*>(pBuffer) = 7;
-        self.entered.count_down();
-        self.mayLeave.wait();
-        self.left = true;
-        return TRUE;
-    }
-    static constexpr SERVICETABLE s_table{&Serve};
-};
-
 TEST(ServiceTest, AProviderIsNotTakenAwayDuringACall)
 {
     SERVICEREC& record = *SRVN_GetUniqueServiceID("WaitingSv");
@@ -61,73 +40,62 @@ TEST(ServiceTest, AProviderIsNotTakenAwayDuringACall)
     EXPECT_NE(&record, SRVN_GetUniqueServiceID("OtherSv"));
     EXPECT_EQ(nullptr, record.provider.load());
 
-    WaitingProvider provider;
-    EXPECT_EQ(nullptr, SRVN_InstallProvider("WaitingSv", &provider));
-    DWORD answer = 0;
+    std::latch entered{1}, mayLeave{1};
+    std::atomic<bool> left = false;
+    FakeService service("WaitingSv", [&](void*, DWORD, DWORD) {
+        entered.count_down();
+        mayLeave.wait();
+        return left = true;
+    });
+    EXPECT_EQ(&service, record.provider.load());
     std::jthread caller([&] {
         const CReadLock lock(record.lock);
-        SERVICEPROVIDER* const p = record.provider;
-        p->pTable->pfnServiceProc(p, &answer, sizeof answer, 0);
+        service.pTable->pfnServiceProc(record.provider, nullptr, 0, 0);
     });
-    provider.entered.wait();
+    entered.wait();
     std::jthread remover([&] {
-        EXPECT_EQ(&provider, SRVN_InstallProvider("WaitingSv", nullptr));
-        EXPECT_TRUE(provider.left);
+        EXPECT_EQ(&service, SRVN_InstallProvider("WaitingSv", nullptr));
+        EXPECT_TRUE(left);
     });
-    provider.mayLeave.count_down();
+    mayLeave.count_down();
     caller.join();
     remover.join();
-    EXPECT_EQ(7u, answer);
     EXPECT_EQ(nullptr, record.provider.load());
 }
 
-// An object with one interface besides its base.
-class Thing final : public virtual CStubBaseInterface
+class Thing final : public FakeCounted
 {
 public:
-    explicit Thing(int& nLive) : m_nLive(nLive) { ++m_nLive; }
-    ~Thing() { --m_nLive; }
-
-    void AddRef() override { ++m_nReferences; }
-    void Release() override
-    {
-        if (--m_nReferences == 0)
-            delete this;
-    }
     void GetInterface(DWORD id, void** out) override
     {
         *out = id == INT_GetUniqueInterfaceID("IThing") ? static_cast<CStubBaseInterface*>(this) : nullptr;
         if (*out)
             AddRef();
     }
-
-private:
-    int& m_nLive;
-    int m_nReferences = 1;
 };
 
 TEST(KernelObjectTest, MakesObjectsByClassNameAsTheAskedInterface)
 {
-    int nLive = 0;
+    const DWORD thing = INT_GetUniqueInterfaceID("IThing");
     IKernel* const pKernel = KRNL_GetKernel();
     EXPECT_EQ(1, KRNL_CountReferences());
-    KRNL_RegisterClass("CThing", [&nLive] { return new Thing(nLive); });
+    KRNL_RegisterClass("CThing", [] { return new Thing; });
     KRNL_RegisterClass("CNothing", [] { return nullptr; });
 
-    void* pThing = &nLive;
-    EXPECT_FALSE(pKernel->CreateObject("CUnknown", &pThing, INT_GetUniqueInterfaceID("IThing")));
+    void* pThing = pKernel;
+    EXPECT_FALSE(pKernel->CreateObject("CUnknown", &pThing, thing));
     EXPECT_EQ(nullptr, pThing);
-    EXPECT_FALSE(pKernel->CreateObject("CNothing", &pThing, INT_GetUniqueInterfaceID("IThing")));
+    EXPECT_FALSE(pKernel->CreateObject("CNothing", &pThing, thing));
     EXPECT_FALSE(pKernel->CreateObject("CThing", &pThing, INT_GetUniqueInterfaceID("IOther")));
-    EXPECT_EQ(0, nLive); // made, asked in vain, and gone
+    EXPECT_EQ(0, FakeCounted::CountLive()); // made, asked in vain, and gone
 
-    EXPECT_TRUE(pKernel->CreateObject("CThing", &pThing, INT_GetUniqueInterfaceID("IThing")));
-    EXPECT_EQ(1, nLive);
+    EXPECT_TRUE(pKernel->CreateObject("CThing", &pThing, thing));
+    EXPECT_EQ(1, FakeCounted::CountLive());
     static_cast<CStubBaseInterface*>(pThing)->Release(); // one reference, the caller's
-    EXPECT_EQ(0, nLive);
+    EXPECT_EQ(0, FakeCounted::CountLive());
 
     KRNL_RegisterClass("CThing", nullptr);
-    EXPECT_FALSE(pKernel->CreateObject("CThing", &pThing, INT_GetUniqueInterfaceID("IThing")));
+    EXPECT_FALSE(pKernel->CreateObject("CThing", &pThing, thing));
     pKernel->Release();
     EXPECT_EQ(0, KRNL_CountReferences());
 }

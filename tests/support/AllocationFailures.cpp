@@ -76,11 +76,14 @@ int CountAllocations(const std::function<void()>& call)
     return s_nAllocations - nBefore;
 }
 
-int FailEveryAllocation(const std::function<void()>& call)
+int FailEveryAllocation(const std::function<void()>& call, const std::function<void()>& check)
 {
     for (int nth = 1;; ++nth) {
-        const FailAllocation failure(nth);
-        call();
+        {
+            const FailAllocation failure(nth);
+            call();
+        }
+        check();
         if (!FailAllocation::HasFailed())
             return nth - 1;
     }

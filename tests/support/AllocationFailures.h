@@ -22,5 +22,7 @@ public:
 int CountAllocations(const std::function<void()>& call);
 
 // Runs the call again and again, letting its first allocation fail, then its second, and so on, until it runs
-// through without a failure. Returns how many times it failed.
-int FailEveryAllocation(const std::function<void()>& call);
+// through without a failure; and each time what checks the outcome, with memory enough. Returns how many times it
+// failed.
+int FailEveryAllocation(
+    const std::function<void()>& call, const std::function<void()>& check = [] {});

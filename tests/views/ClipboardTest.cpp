@@ -8,42 +8,19 @@
 #include "Toolkit/ole/DataSource.h"
 #include "Toolkit/window/MessageBox.h"
 #include "Views/clipboard/TransferFileOwner.h"
-#include "tests/editor/TempFolder.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/views/FakeArchive.h"
-#include "tests/views/ViewTest.h"
+#include "tests/views/InteractionTest.h"
 
 #include <cstdlib>
-#include <filesystem>
-
-namespace fs = std::filesystem;
 
 namespace
 {
 
-using ArchiveRef = CStubRef<IArchive>;
-
-class ClipboardTest : public ViewTest
+class ClipboardTest : public TransferTest
 {
 protected:
-    ClipboardTest() : pBox(MakeBox({"a", "b", "c"})), pBag(MakeBox("bag", {"d", "e"}))
-    {
-        setenv("TEMP", folder.Path().c_str(), 1);
-        resources.AddString(0xE013, "Remove?");
-        editor.format = RegisterClipboardFormat("Atoms of the fake");
-        for (FakeContainer* p : {pBox, pBag}) {
-            p->permissions = APF_ACCEPT | APF_REMOVE;
-            p->pLedger = &editor.ledger;
-        }
-    }
-    ~ClipboardTest() override
-    {
-        EmptyClipboard();
-        unsetenv("TEMP");
-        editor.pairs.clear();
-        EXPECT_EQ(Ledger(), Files());
-        EXPECT_EQ(0, toolkit::CountGlobalBlocks());
-    }
+    ClipboardTest() { pBag->Add("e"); }
+    ~ClipboardTest() override { EmptyClipboard(); }
 
     void Activate(const std::vector<std::pair<FakeContainer*, const char*>>& pairs)
     {
@@ -56,19 +33,6 @@ protected:
         COleDataSource::FlushClipboard();
         (new COleDataSource)->SetClipboard();
     }
-    static ArchiveRef Holding(const std::string& bytes)
-    {
-        auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
-        SetBytes(pArchive.Get(), bytes);
-        return pArchive;
-    }
-    Ledger Files() const
-    {
-        Ledger files;
-        for (const fs::path& path : fs::directory_iterator(folder.Path()))
-            files.push_back(path.filename());
-        return files;
-    }
     // What a paste would find; "-" when there is nothing of ours.
     std::string OnClipboard() const
     {
@@ -80,18 +44,6 @@ protected:
         ReleaseStgMedium(&medium);
         return pArchive ? BytesOf(pArchive.Get()) : "gone";
     }
-    static std::string Members(const FakeContainer* pIn)
-    {
-        std::string strNames;
-        for (const AtomRef& p : pIn->members)
-            strNames += (strNames.empty() ? "" : " ") + p->name;
-        return strNames;
-    }
-
-    TempFolder folder;
-    FakeArchives archives;
-    FakeContainer* const pBox;
-    FakeContainer* const pBag;
 };
 
 TEST_F(ClipboardTest, ACopyLivesOnDiskUntilTheClipboardLetsGoOfIt)
@@ -100,15 +52,15 @@ TEST_F(ClipboardTest, ACopyLivesOnDiskUntilTheClipboardLetsGoOfIt)
     EXPECT_TRUE(CopyObjects(FALSE));
     EXPECT_EQ(Ledger({"writes 2"}), editor.TakeLedger());
     EXPECT_EQ("a\nb\n", OnClipboard());
-    const Ledger first = Files();
-    EXPECT_EQ(1u, first.size());
+    const std::string first = folder.Everything();
+    EXPECT_EQ(1, CountFiles());
 
     Activate({{pBox, "c"}});
     EXPECT_TRUE(CopyObjects(FALSE)); // the first one's atoms are read back, released and gone
     EXPECT_EQ(Ledger({"writes 1", "reads"}), editor.TakeLedger());
     EXPECT_EQ("c\n", OnClipboard());
-    EXPECT_EQ(1u, Files().size());
-    EXPECT_NE(first, Files());
+    EXPECT_EQ(1, CountFiles());
+    EXPECT_NE(first, folder.Everything());
 
     editor.Uninstall(); // an editor that has gone is no reason to leave a file behind
     EmptyClipboard();
@@ -130,7 +82,7 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
 {
     Activate({{pBox, "c"}});
     EXPECT_TRUE(CopyObjects(FALSE));
-    const Ledger kept = Files();
+    const std::string kept = folder.Everything();
     Activate({{pBox, "a"}, {pBag, "d"}, {pBox, "b"}});
     pBag->permissionsFor["d"] = APF_ACCEPT;
     editor.TakeLedger();
@@ -142,14 +94,14 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
         editor.TakeLedger());
     EXPECT_EQ("b c a / d e", Members(pBox) + " / " + Members(pBag));
     EXPECT_EQ("c\n", OnClipboard());
-    EXPECT_EQ(kept, Files());
+    EXPECT_EQ(kept, folder.Everything());
 
     Activate({{pBox, "a"}, {pBag, "d"}, {pBox, "b"}});
     editor.goesOnAfterRefusal = true;
     pBox->refused = {"removes a", "adds b as b"};
     EXPECT_FALSE(CopyObjects(TRUE));
     EXPECT_EQ("c a / d e", Members(pBox) + " / " + Members(pBag));
-    EXPECT_EQ(kept, Files());
+    EXPECT_EQ(kept, folder.Everything());
 
     pBag->permissionsFor["d"] = APF_ACCEPT;
     Activate({{pBag, "d"}});
@@ -179,15 +131,16 @@ TEST_F(ClipboardTest, WithoutMemoryNothingIsLost)
 {
     Activate({{pBox, "a"}});
     pBox->pLedger = nullptr;
-    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
+    const auto copy = [] {
         try {
-            const FailAllocation failure(nth);
             CopyObjects(FALSE);
         } catch (const CMemoryException&) { // of the host's or the clipboard's
         }
-        EXPECT_EQ(OnClipboard() == "a\n" ? 1u : 0u, Files().size()) << nth;
+    };
+    FailEveryAllocation(copy, [&] {
+        EXPECT_EQ(OnClipboard() == "a\n" ? 1 : 0, CountFiles());
         EXPECT_GE(1u, desktop.TakeMessageBoxes().size());
-    }
+    });
     EXPECT_EQ("a\n", OnClipboard());
 }
 
@@ -287,7 +240,7 @@ TEST_F(ClipboardTest, ATransferFileGoesWithItsOwnersLastReference)
     EXPECT_EQ(S_OK, pOwner->QueryInterface(IID_IUnknown, &p));
     EXPECT_EQ(static_cast<IUnknown*>(pOwner), p);
     EXPECT_EQ(1u, pOwner->Release());
-    EXPECT_EQ(1u, Files().size());
+    EXPECT_EQ(1, CountFiles());
     EXPECT_EQ(0u, pOwner->Release());
     EXPECT_EQ(Ledger({"reads"}), editor.TakeLedger());
 

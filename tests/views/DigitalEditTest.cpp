@@ -39,15 +39,26 @@ protected:
     {
         field.SetRange(nMin, nMax);
         field.SetValue(nValue);
-        Key(VK_END);
+        desktop.Key(VK_END);
         pane.nChanges = 0;
     }
-    void Key(UINT vkey) { desktop.Key(vkey); }
     void Control(char letter)
     {
         desktop.Hold({.control = true});
         desktop.Key(static_cast<UINT>(letter));
         desktop.Hold({});
+    }
+    // "Home", "Back", "Delete": the keys; "All": all is selected; "Cut": Ctrl+X; else a text that is typed.
+    void Do(const std::string& step)
+    {
+        if (step == "All")
+            field.SetSel(0, -1);
+        else if (step == "Cut")
+            Control('X');
+        else if (step == "Home" || step == "Back" || step == "Delete")
+            desktop.Key(step == "Home" ? VK_HOME : step == "Back" ? VK_BACK : VK_DELETE);
+        else
+            desktop.Type(step.c_str());
     }
     void Paste(const std::string& text) // over all there is
     {
@@ -57,21 +68,19 @@ protected:
         Control('V');
     }
 
-    // "[10] 2": the text, in brackets what is selected of it, and how many changes the parent was told of since the
-    // last time. "different" when it is in that state.
+    // "[10] 2 = 10": the text, in brackets what is selected of it, how many changes the parent was told of since the
+    // last time, and the value when it is another text. "different" when it is in that state.
     std::string State()
     {
-        std::string text(field.GetWindowText());
-        int nStart = 0, nEnd = 0;
+        const std::string text(field.GetWindowText());
+        int nStart = 0, nEnd = 0, nValue = 4711;
         field.GetSel(nStart, nEnd);
+        std::string state = text;
         if (nStart != nEnd)
-            text.insert(static_cast<std::size_t>(nEnd), "]").insert(static_cast<std::size_t>(nStart), "[");
-        return text + " " + std::to_string(std::exchange(pane.nChanges, 0)) + (field.IsDifferent() ? " different" : "");
-    }
-    std::string Value() const
-    {
-        int nValue = 4711;
-        return field.GetValue(nValue) ? std::to_string(nValue) : nValue == 4711 ? "none" : "touched";
+            state.insert(static_cast<std::size_t>(nEnd), "]").insert(static_cast<std::size_t>(nStart), "[");
+        state += " " + std::to_string(std::exchange(pane.nChanges, 0)) + (field.IsDifferent() ? " different" : "");
+        const std::string value = field.GetValue(nValue) ? std::to_string(nValue) : nValue == 4711 ? "none" : "touched";
+        return value == text ? state : state + " = " + value;
     }
 
     Pane pane;
@@ -80,63 +89,35 @@ protected:
 
 } // namespace
 
-TEST_F(DigitalEditTest, ANumberBeyondTheRangeIsPulledBackAsItIsTyped)
+TEST_F(DigitalEditTest, OnlyDigitsAndALeadingMinusAreTakenAndTheNumberIsPulledIntoTheRange)
 {
-    Begin(0, 100, 100);
-    desktop.Type("5");
-    EXPECT_EQ("100 2", State()) << "1005, and what it became";
-    Begin(0, 100, 4);
-    desktop.Type("2");
-    EXPECT_EQ("42 1", State());
-    Begin(10, 20, 15);
-    Key(VK_BACK);
-    EXPECT_EQ("10 2", State()) << "1 is below the range";
-    Begin(-50, 50, -6);
-    desktop.Type("0");
-    EXPECT_EQ("-50 2", State());
-}
-
-TEST_F(DigitalEditTest, OnlyDigitsAndALeadingMinusWhereTheRangeHasOneAreTaken)
-{
-    Begin(0, 100, 7);
-    desktop.Type("a +.é");
-    EXPECT_EQ("7 0", State());
-    Key(VK_HOME);
-    desktop.Type("-");
-    EXPECT_EQ("7 0", State());
-
-    Begin(-50, 50, 7);
-    desktop.Type("-");
-    EXPECT_EQ("7 0", State()) << "not at the start";
-    Key(VK_HOME);
-    desktop.Type("-");
-    EXPECT_EQ("-7 1", State());
-    field.SetSel(0, -1);
-    desktop.Type("-");
-    EXPECT_EQ("- 1", State()) << "in place of all";
-    EXPECT_EQ("none", Value());
-    desktop.Type("3");
-    EXPECT_EQ("-3 1", State());
-    EXPECT_EQ("-3", Value());
-    Key(VK_BACK);
-    EXPECT_EQ("- 1", State()) << "control characters pass";
-}
-
-TEST_F(DigitalEditTest, AnEmptiedFieldIsRefilledAndSelectedSoThatADigitReplacesIt)
-{
-    Begin(10, 20, 12);
-    field.SetSel(0, -1);
-    Key(VK_DELETE);
-    EXPECT_EQ("[10] 2", State());
-    Begin(-5, 5, 3);
-    Key(VK_BACK);
-    EXPECT_EQ("[0] 2", State());
-    desktop.Type("4");
-    EXPECT_EQ("4 1", State());
-    Begin(-20, -10, -15);
-    field.SetSel(0, -1);
-    Control('X');
-    EXPECT_EQ("[-10] 3", State()) << "0 is above the range";
+    const struct
+    {
+        int nMin, nMax, nValue;
+        std::vector<std::string> steps;
+        const char* pszState;
+    } rows[] = {
+        {0, 100, 100, {"5"}, "100 2"}, // 1005, and what it became
+        {0, 100, 4, {"2"}, "42 1"},
+        {10, 20, 15, {"Back"}, "10 2"}, // 1 is below the range
+        {-50, 50, -6, {"0"}, "-50 2"},
+        {0, 100, 7, {"a +.é", "Home", "-"}, "7 0"},
+        {-50, 50, 7, {"-"}, "7 0"}, // not at the start
+        {-50, 50, 7, {"Home", "-"}, "-7 1"},
+        {-50, 50, 7, {"All", "-"}, "- 1 = none"}, // in place of all
+        {-50, 50, 7, {"All", "-", "3"}, "-3 2"},
+        {-50, 50, 7, {"All", "-", "3", "Back"}, "- 3 = none"}, // control characters pass
+        {10, 20, 12, {"All", "Delete"}, "[10] 2"},             // emptied, refilled and selected
+        {-5, 5, 3, {"Back"}, "[0] 2"},
+        {-5, 5, 3, {"Back", "4"}, "4 3"},
+        {-20, -10, -15, {"All", "Cut"}, "[-10] 3"}, // 0 is above the range
+    };
+    for (const auto& row : rows) {
+        Begin(row.nMin, row.nMax, row.nValue);
+        for (const std::string& step : row.steps)
+            Do(step);
+        EXPECT_EQ(row.pszState, State()) << row.steps.back();
+    }
     field.SetWindowText("");
     EXPECT_EQ("[-10] 3", State());
 }
@@ -146,13 +127,12 @@ TEST_F(DigitalEditTest, ValuesThatAreSetArePulledIntoTheRangeWhichHoldsFromTheNe
     field.SetRange(100, 0);
     field.SetValue(500);
     EXPECT_EQ("100 2", State());
-    EXPECT_EQ("100", Value());
     field.SetValue(-1);
     EXPECT_EQ("0 2", State());
     field.SetValue(30);
     field.SetRange(40, 50);
     EXPECT_EQ("30 1", State());
-    Key(VK_END);
+    desktop.Key(VK_END);
     desktop.Type("1");
     EXPECT_EQ("50 2", State());
 }
@@ -160,45 +140,36 @@ TEST_F(DigitalEditTest, ValuesThatAreSetArePulledIntoTheRangeWhichHoldsFromTheNe
 TEST_F(DigitalEditTest, WhatIsPastedIsNotFilteredAndReadAsFarAsItIsANumber)
 {
     Begin(0, 100, 0);
-    Paste("  42abc");
-    EXPECT_EQ("  42abc 1", State());
-    EXPECT_EQ("42", Value());
-    Paste("  420abc");
-    EXPECT_EQ("100 2", State());
-    Paste("four");
-    EXPECT_EQ("four 1", State());
-    EXPECT_EQ("none", Value());
-    Paste("+7");
-    EXPECT_EQ("+7 1", State());
-    EXPECT_EQ("7", Value());
-    Paste("- 7");
-    EXPECT_EQ("- 7 1", State()) << "no digit follows the sign";
-    EXPECT_EQ("none", Value());
+    const std::pair<const char*, const char*> rows[] = {
+        {"  42abc", "  42abc 1 = 42"}, {"  420abc", "100 2"}, {"four", "four 1 = none"}, {"+7", "+7 1 = 7"},
+        {"- 7", "- 7 1 = none"}, // no digit follows the sign
+    };
+    for (const auto& [pszText, pszState] : rows) {
+        Paste(pszText);
+        EXPECT_EQ(pszState, State());
+    }
     Control('Z');
-    EXPECT_EQ("[+7] 1", State()) << "undone";
+    EXPECT_EQ("[+7] 1 = 7", State()) << "undone";
 }
 
 TEST_F(DigitalEditTest, TheMixedValueIsSelectedWithTheFocusAndAnyKeyEndsIt)
 {
     Begin(10, 20, 12);
     field.SetDifferent();
-    EXPECT_EQ("<Different> 1 different", State());
-    EXPECT_EQ("none", Value());
+    EXPECT_EQ("<Different> 1 different = none", State());
     pane.SetFocus();
     field.SetFocus();
-    EXPECT_EQ("[<Different>] 0 different", State());
-    Key(VK_SHIFT);
+    EXPECT_EQ("[<Different>] 0 different = none", State());
+    desktop.Key(VK_SHIFT);
     EXPECT_EQ("[10] 2", State());
 
     field.SetDifferent();
-    pane.nChanges = 0;
     desktop.Type("1");
-    EXPECT_EQ("10 4", State()) << "emptied, refilled, then 1, which is below the range";
+    EXPECT_EQ("10 5", State()) << "emptied, refilled, then 1, which is below the range";
     field.SetRange(0, 100);
     field.SetDifferent();
-    pane.nChanges = 0;
     desktop.Type("5");
-    EXPECT_EQ("5 3", State());
+    EXPECT_EQ("5 4", State());
     field.SetDifferent();
     field.SetValue(8);
     EXPECT_EQ("8 2", State());
@@ -208,16 +179,15 @@ TEST_F(DigitalEditTest, TheMixedValueInCapitalsCountsAsSuchButIsNoMoreThanText)
 {
     Begin(0, 100, 8);
     Paste("<DIFFERENT>");
-    EXPECT_EQ("<DIFFERENT> 1 different", State());
+    EXPECT_EQ("<DIFFERENT> 1 different = none", State());
     pane.SetFocus();
     field.SetFocus();
-    EXPECT_EQ("<DIFFERENT> 0 different", State());
-    Key(VK_SHIFT);
-    EXPECT_EQ("<DIFFERENT> 0 different", State());
-    Key(VK_BACK);
-    EXPECT_EQ("<DIFFERENT 1", State());
+    desktop.Key(VK_SHIFT);
+    EXPECT_EQ("<DIFFERENT> 0 different = none", State());
+    desktop.Key(VK_BACK);
+    EXPECT_EQ("<DIFFERENT 1 = none", State());
     Paste("<Different>");
-    EXPECT_EQ("<Different> 1 different", State());
+    EXPECT_EQ("<Different> 1 different = none", State());
 
     field.DestroyWindow();
     EXPECT_TRUE(field.IsDifferent());
@@ -227,14 +197,14 @@ TEST_F(DigitalEditTest, TheMixedValueInCapitalsCountsAsSuchButIsNoMoreThanText)
 
 TEST(NumbersTest, TextBecomesTheNumberThatItBeginsWith)
 {
-    int nValue = 1;
-    EXPECT_FALSE(StrToIntExA("", STIF_DEFAULT, &nValue));
-    EXPECT_FALSE(StrToIntExA("+-1", STIF_DEFAULT, &nValue));
-    EXPECT_EQ(1, nValue);
-    EXPECT_TRUE(StrToIntExA(" \t-2147483648x", STIF_DEFAULT, &nValue));
-    EXPECT_EQ(INT_MIN, nValue);
-    EXPECT_TRUE(StrToIntExA("4294967297", STIF_DEFAULT, &nValue));
-    EXPECT_EQ(1, nValue) << "the lower 32 bits";
+    const auto number = [](const char* pszText) {
+        int nValue = 1;
+        return StrToIntExA(pszText, STIF_DEFAULT, &nValue) ? nValue : nValue == 1 ? 0 : -1;
+    };
+    EXPECT_EQ(0, number(""));
+    EXPECT_EQ(0, number("+-1"));
+    EXPECT_EQ(INT_MIN, number(" \t-2147483648x"));
+    EXPECT_EQ(1, number("4294967297")) << "the lower 32 bits";
 
     char buffer[33];
     EXPECT_STREQ("-2147483648", _itoa(INT_MIN, buffer, 10));

@@ -1,7 +1,8 @@
 #include "tests/views/FakeArchive.h"
 
+#include "Views/clipboard/clipboard.h"
+
 #include <cstring>
-#include <gtest/gtest.h>
 
 void FakeStream::Seek(DWORD dwOffset, DWORD dwOrigin)
 {
@@ -17,31 +18,30 @@ void FakeArchive::GetInterface(DWORD id, void** out)
 }
 
 FakeArchives::FakeArchives()
+    : streams("ConstructMemoryStream", [this](void* pBuffer, DWORD dwSize, DWORD dwExtra) {
+          EXPECT_EQ(sizeof(void*), dwSize);
+          EXPECT_EQ(0u, dwExtra);
+          if (refusesStreams)
+              return FALSE;
+          ++nStreams;
+          *static_cast<IMemoryStream**>(pBuffer) = new FakeStream(!streamsHaveNoBlock);
+          return TRUE;
+      })
 {
-    static constexpr SERVICETABLE s_table{&MakeStream};
-    pTable = &s_table;
-    SRVN_InstallProvider("ConstructMemoryStream", this);
     KRNL_RegisterClass("CArchiveImp",
                        [this]() -> CStubBaseInterface* { return refusesArchives ? nullptr : new FakeArchive; });
 }
 
 FakeArchives::~FakeArchives()
 {
-    SRVN_InstallProvider("ConstructMemoryStream", nullptr);
     KRNL_RegisterClass("CArchiveImp", nullptr);
-    EXPECT_EQ(0, FakeCounted::CountLive());
 }
 
-BOOL FakeArchives::MakeStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
+ArchiveRef Holding(const std::string& bytes)
 {
-    EXPECT_EQ(sizeof(void*), dwSize);
-    EXPECT_EQ(0u, dwExtra);
-    auto& host = *static_cast<FakeArchives*>(pProvider);
-    if (host.refusesStreams)
-        return FALSE;
-    ++host.nStreams;
-    *static_cast<IMemoryStream**>(pBuffer) = new FakeStream(!host.streamsHaveNoBlock);
-    return TRUE;
+    auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
+    SetBytes(pArchive.Get(), bytes);
+    return pArchive;
 }
 
 std::string BytesOf(IByteStream* pStream)

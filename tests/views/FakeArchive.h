@@ -1,35 +1,12 @@
 // Archives and memory streams of the fake host, and the services that make them.
 #pragma once
 
-#include "Kernel/Kernel.h"
 #include "Views/host/host.h"
+#include "tests/kernel/FakeCounted.h"
+#include "tests/kernel/FakeService.h"
 
 #include <string>
 #include <vector>
-
-// What counted objects of the fake have in common.
-class FakeCounted : public virtual CStubBaseInterface
-{
-public:
-    FakeCounted() { ++s_nLive; }
-    FakeCounted(const FakeCounted&) = delete;
-    FakeCounted& operator=(const FakeCounted&) = delete;
-
-    void AddRef() override { ++m_nReferences; }
-    void Release() override
-    {
-        if (--m_nReferences == 0)
-            delete this;
-    }
-    static int CountLive() { return s_nLive; }
-
-protected:
-    virtual ~FakeCounted() { --s_nLive; }
-
-private:
-    static inline int s_nLive = 0;
-    int m_nReferences = 1;
-};
 
 class FakeStream final : public FakeCounted, public IMemoryStream
 {
@@ -63,22 +40,21 @@ private:
 };
 
 // The services, installed for as long as this lives.
-class FakeArchives : public SERVICEPROVIDER
+class FakeArchives
 {
 public:
     FakeArchives();
     ~FakeArchives();
-    FakeArchives(const FakeArchives&) = delete;
-    FakeArchives& operator=(const FakeArchives&) = delete;
 
     bool refusesStreams = false;
     bool refusesArchives = false;
     bool streamsHaveNoBlock = false;
     int nStreams = 0; // made
-
-private:
-    static BOOL MakeStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    FakeService streams;
 };
 
+using ArchiveRef = CStubRef<IArchive>;
+
+ArchiveRef Holding(const std::string& bytes); // a new one
 std::string BytesOf(IByteStream* pStream);
 void SetBytes(IByteStream* pStream, const std::string& bytes);

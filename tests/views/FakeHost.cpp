@@ -10,6 +10,7 @@
 #include "tests/views/FakeArchive.h"
 
 #include <algorithm>
+#include <concepts>
 #include <cstring>
 #include <gtest/gtest.h>
 #include <memory>
@@ -34,18 +35,28 @@ FakeAtom* AsFake(IAtom* pAtom)
     return dynamic_cast<FakeAtom*>(pAtom);
 }
 
+const std::string& Word(const std::string& word)
+{
+    return word;
+}
+
+std::string Word(std::integral auto number)
+{
+    return std::to_string(number);
+}
+
+// All the parts, one after the other.
+template <class... Parts>
+std::string Words(const Parts&... parts)
+{
+    return (Word(parts) + ...);
+}
+
 } // namespace
 
 std::string NameOf(IAtom* pAtom)
 {
     return pAtom ? AsFake(pAtom)->name : "-";
-}
-
-void FakeAtom::Release()
-{
-    ASSERT_GT(m_nReferences, 0);
-    if (--m_nReferences == 0)
-        delete this;
 }
 
 void* FakeAtom::Find(DWORD id)
@@ -100,7 +111,7 @@ BOOL FakeAtom::GetContainer(void** ppOut, DWORD dwInterfaceId)
 BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
 {
     if (pLedger)
-        pLedger->push_back("icon " + name + " " + std::to_string(pRequest->cx) + "x" + std::to_string(pRequest->cy));
+        pLedger->push_back(Words("icon ", name, " ", pRequest->cx, "x", pRequest->cy));
     if (iconFails)
         return FALSE;
     pRequest->hIcon = CreateIconFromSurface(toolkit::Surface(CSize(pRequest->cx, pRequest->cy), 0xFF00FF00));
@@ -110,10 +121,8 @@ BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
 BOOL FakeAtom::Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame)
 {
     if (pLedger)
-        pLedger->push_back("draw " + name + " at " + std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" +
-                           std::to_string(rect.right) + "," + std::to_string(rect.bottom) + " (" +
-                           std::to_string(dwReserved) + ", " + std::to_string(dwMode) + ", " + std::to_string(nFrame) +
-                           ")");
+        pLedger->push_back(Words("draw ", name, " at ", rect.left, ",", rect.top, "-", rect.right, ",", rect.bottom,
+                                 " (", dwReserved, ", ", dwMode, ", ", nFrame, ")"));
     FillSolidRect(hdc, CRect(rect.left, rect.top, rect.CenterPoint().x, rect.bottom), RGB(0, 0, 255));
     return !thumbFails;
 }
@@ -141,8 +150,9 @@ FakeAtom* FakeContainer::Add(FakeAtom* pNew)
 
 AtomRef FakeContainer::Remove(FakeAtom* pMember)
 {
-    const auto found =
-        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p.Get() == pMember; });
+    const auto found = std::ranges::find(members, pMember, &AtomRef::Get);
+    if (found == members.end())
+        return nullptr;
     AtomRef pRemoved = std::move(*found);
     members.erase(found);
     return pRemoved;
@@ -150,8 +160,7 @@ AtomRef FakeContainer::Remove(FakeAtom* pMember)
 
 FakeAtom* FakeContainer::Named(const std::string& strName) const
 {
-    const auto found =
-        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p->name == strName; });
+    const auto found = std::ranges::find(members, strName, [](const AtomRef& p) { return p->name; });
     return found == members.end() ? nullptr : found->Get();
 }
 
@@ -168,13 +177,11 @@ void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInt
 
 BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
 {
-    const auto found =
-        std::find_if(members.begin(), members.end(), [&](const AtomRef& p) { return p->GetID() == dwID; });
-    if (ppOut) {
+    const auto found = std::ranges::find(members, dwID, [](const AtomRef& p) { return p->GetID(); });
+    if (ppOut)
         *ppOut = nullptr;
-        if (found != members.end())
-            (*found)->GetInterface(dwInterfaceId, ppOut);
-    }
+    if (ppOut && found != members.end())
+        (*found)->GetInterface(dwInterfaceId, ppOut);
     return found != members.end();
 }
 
@@ -218,10 +225,7 @@ BOOL FakeContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOu
 
 BOOL FakeContainer::RemoveAtom(IAtom* pAtom)
 {
-    if (!Does("removes " + ::NameOf(pAtom)) || !FindAtomByID(pAtom->GetID(), nullptr, 0))
-        return FALSE;
-    Remove(AsFake(pAtom));
-    return TRUE;
+    return Does("removes " + ::NameOf(pAtom)) && Remove(AsFake(pAtom));
 }
 
 DWORD FakeContainer::GetPermissions(IAtom* pAtom)
@@ -258,68 +262,48 @@ void* FakeContainer::Find(DWORD id)
     return FakeAtom::Find(id);
 }
 
-FakeEditor::FakeEditor()
-{
-    static constexpr SERVICETABLE s_editorTable{&GiveEditor};
-    static constexpr SERVICETABLE s_errorTable{&ShowError};
-    m_editorProvider.pTable = &s_editorTable;
-    m_errorProvider.pTable = &s_errorTable;
-    m_editorProvider.pEditor = m_errorProvider.pEditor = this;
-    Install();
-}
-
-FakeEditor::~FakeEditor()
-{
-    Uninstall();
-}
-
 void FakeEditor::Install()
 {
-    SRVN_InstallProvider("GetAtomEditorSv", &m_editorProvider);
-    SRVN_InstallProvider("ShowErrorSv", &m_errorProvider);
+    m_editorService.Install();
+    m_errorService.Install();
 }
 
 void FakeEditor::Uninstall()
 {
-    SRVN_InstallProvider("GetAtomEditorSv", nullptr);
-    SRVN_InstallProvider("ShowErrorSv", nullptr);
+    m_editorService.Uninstall();
+    m_errorService.Uninstall();
 }
 
-BOOL FakeEditor::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
+BOOL FakeEditor::GiveEditor(void* pBuffer, DWORD dwSize, DWORD dwExtra)
 {
     EXPECT_EQ(sizeof(void*), dwSize);
     EXPECT_EQ(0u, dwExtra);
-    FakeEditor* const pEditor = static_cast<Provider*>(pProvider)->pEditor;
-    pEditor->AddRef();
-    *static_cast<IAtomEditor**>(pBuffer) = pEditor;
+    AddRef();
+    *static_cast<IAtomEditor**>(pBuffer) = this;
     return TRUE;
 }
 
-BOOL FakeEditor::ShowError(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra)
+BOOL FakeEditor::ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra)
 {
     EXPECT_EQ(sizeof(ERRORREQUEST), dwSize);
     EXPECT_EQ(0u, dwExtra);
     const auto& request = *static_cast<ERRORREQUEST*>(pBuffer);
-    const auto* pFailed = static_cast<FakeAtom*>(request.pError);
-    static_cast<Provider*>(pProvider)->pEditor->ledger.push_back(std::string("error \"") + request.pszCaption +
-                                                                 "\" of " + (pFailed ? pFailed->name : "-"));
+    ledger.push_back(Words("error \"", request.pszCaption, "\" of ", ::NameOf(static_cast<FakeAtom*>(request.pError))));
     return TRUE;
 }
 
-DWORD FakeEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
+DWORD FakeEditor::RegisterHandler(HWND, IAEStateHandler* handler)
 {
-    ledger.push_back(NameOf(handler) + " registers");
-    m_handlers.push_back({++m_nLastCookie, hWnd, handler});
+    ledger.push_back(handlerNames[handler] + " registers");
+    m_handlers[++m_nLastCookie] = handler;
     return m_nLastCookie;
 }
 
 void FakeEditor::UnregisterHandler(DWORD cookie)
 {
-    const auto found =
-        std::find_if(m_handlers.begin(), m_handlers.end(), [&](const Handler& h) { return h.cookie == cookie; });
-    ASSERT_NE(m_handlers.end(), found);
-    ledger.push_back(NameOf(found->pHandler) + " unregisters");
-    m_handlers.erase(found);
+    ASSERT_TRUE(m_handlers.contains(cookie));
+    ledger.push_back(handlerNames[m_handlers[cookie]] + " unregisters");
+    m_handlers.erase(cookie);
 }
 
 BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
@@ -328,23 +312,23 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
     EXPECT_EQ(0u, reserved);
     const std::string strOperation = NameOf(operation);
     const bool bAsks = strOperation.starts_with("Pre") || strOperation.ends_with("ing");
-    ledger.push_back(NameOf(sender) + (bAsks ? " asks " : " tells ") + strOperation + "(" + ::NameOf(atom) + " in " +
-                     ::NameOf(container) + ")");
+    ledger.push_back(Words(sender ? handlerNames[sender] : "nobody", bAsks ? " asks " : " tells ", strOperation, "(",
+                           ::NameOf(atom), " in ", ::NameOf(container), ")"));
     if (const auto hook = onNotify) // a copy: it may take itself away
         hook(operation, atom);
 
     BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
-    for (const Handler& handler : std::vector<Handler>(m_handlers)) {
-        if (handler.pHandler != sender || !skipsSender)
-            bAgreed &= (handler.pHandler->*operation)(atom, container) != FALSE;
+    for (const auto& [cookie, pHandler] : std::map(m_handlers)) {
+        if (pHandler != sender || !skipsSender)
+            bAgreed &= (pHandler->*operation)(atom, container) != FALSE;
     }
     return bAgreed;
 }
 
 void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
 {
-    ledger.push_back("pane " + std::to_string(kind) + " \"" + caption + "\"" +
-                     (GetIconSize(icon) == CSize(16, 16) ? " with icon" : ""));
+    const bool bHasIcon = GetIconSize(icon) == CSize(16, 16);
+    ledger.push_back(Words("pane ", kind, " \"", caption, "\"", bHasIcon ? " with icon" : ""));
 }
 
 void FakeEditor::RemovePane(DWORD kind, HWND)
@@ -448,18 +432,5 @@ std::string FakeEditor::NameOf(AEStateOperation operation)
         {&IAEStateHandler::OnAtomEntered, "OnAtomEntered"},
         {&IAEStateHandler::OnAtomRename, "OnAtomRename"},
     };
-    for (const auto& [op, pszName] : s_names) {
-        if (op == operation)
-            return pszName;
-    }
-    return "?";
-}
-
-std::string FakeEditor::NameOf(IAEStateHandler* pHandler) const
-{
-    for (const auto& [p, strName] : m_names) {
-        if (p == pHandler)
-            return strName;
-    }
-    return pHandler ? "someone" : "nobody";
+    return std::ranges::find(s_names, operation, &std::pair<AEStateOperation, const char*>::first)->second;
 }

@@ -7,9 +7,10 @@
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/HeldPair.h"
 #include "Views/host/host.h"
+#include "tests/kernel/FakeCounted.h"
+#include "tests/kernel/FakeService.h"
 #include "tests/support/Ledger.h"
 
-#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -19,7 +20,8 @@
 class FakeContainer;
 
 // An atom with whatever interfaces its members give it.
-class FakeAtom : public virtual IAtom,
+class FakeAtom : public FakeCounted,
+                 public virtual IAtom,
                  public IDispAtom,
                  public IAtomIcon,
                  public IAtomThumbnail,
@@ -28,9 +30,7 @@ class FakeAtom : public virtual IAtom,
                  public ICharacterLibrary
 {
 public:
-    explicit FakeAtom(std::string strName) : name(std::move(strName)) { ++s_nLive; }
-    FakeAtom(const FakeAtom&) = delete;
-    FakeAtom& operator=(const FakeAtom&) = delete;
+    explicit FakeAtom(std::string strName) : name(std::move(strName)) {}
 
     std::string name;
     bool nameFails = false;
@@ -50,11 +50,6 @@ public:
     int nNameReads = 0;        // names filled in, lengths asked for not counted
     Ledger* pLedger = nullptr; // where icons, thumbnails and what a container is asked to do, are written down
 
-    int CountReferences() const { return m_nReferences; }
-    static int CountLive() { return s_nLive; }
-
-    void AddRef() override { ++m_nReferences; }
-    void Release() override;
     void GetInterface(DWORD id, void** out) override;
     DWORD GetID() override { return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(this)); }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;
@@ -67,12 +62,7 @@ public:
     BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
 protected:
-    virtual ~FakeAtom() { --s_nLive; }
     virtual void* Find(DWORD id); // the interface, borrowed
-
-private:
-    static inline int s_nLive = 0;
-    int m_nReferences = 1;
 };
 
 using AtomRef = CStubRef<FakeAtom>;
@@ -123,9 +113,6 @@ using ContainerRef = CStubRef<FakeContainer>;
 class FakeEditor final : public IAtomEditor
 {
 public:
-    FakeEditor();
-    ~FakeEditor();
-
     Ledger TakeLedger() { return std::exchange(ledger, {}); }
     // Refuse an asking operation, for every atom or for those of a name.
     void Veto(AEStateOperation operation, const std::string& strName = "")
@@ -133,14 +120,13 @@ public:
         m_vetoes.insert(NameOf(operation) + strName);
     }
     void Allow() { m_vetoes.clear(); }
-    // The name under which a handler appears in the ledger.
-    void Call(IAEStateHandler* pHandler, std::string strName) { m_names.emplace_back(pHandler, std::move(strName)); }
     void Install();
     void Uninstall();
     int CountHandlers() const { return static_cast<int>(m_handlers.size()); }
     int CountReferences() const { return m_nReferences; }
 
     Ledger ledger;
+    std::map<IAEStateHandler*, std::string> handlerNames; // in the ledger
     CStubRef<IAtom> active;
     std::vector<views::HeldPair> pairs; // active, as EnumActivePairs and WriteActiveObjects take them
     bool goesOnAfterRefusal = false;    // EnumActivePairs
@@ -172,25 +158,13 @@ public:
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:
-    struct Provider : SERVICEPROVIDER
-    {
-        FakeEditor* pEditor;
-    };
-    struct Handler
-    {
-        DWORD cookie;
-        HWND hWnd;
-        IAEStateHandler* pHandler;
-    };
-
-    static BOOL GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
-    static BOOL ShowError(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    BOOL GiveEditor(void* pBuffer, DWORD dwSize, DWORD dwExtra);
+    BOOL ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra);
     static std::string NameOf(AEStateOperation operation);
-    std::string NameOf(IAEStateHandler* pHandler) const;
 
-    Provider m_editorProvider, m_errorProvider;
-    std::vector<std::pair<IAEStateHandler*, std::string>> m_names;
-    std::vector<Handler> m_handlers;
+    FakeService m_editorService{"GetAtomEditorSv", std::bind_front(&FakeEditor::GiveEditor, this)};
+    FakeService m_errorService{"ShowErrorSv", std::bind_front(&FakeEditor::ShowError, this)};
+    std::map<DWORD, IAEStateHandler*> m_handlers; // by cookie
     std::set<std::string> m_vetoes;
     DWORD m_nLastCookie = 100;
     int m_nReferences = 0;

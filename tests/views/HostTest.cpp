@@ -15,7 +15,7 @@ class HostTest : public testing::Test
 protected:
     ~HostTest() override
     {
-        EXPECT_EQ(0, FakeAtom::CountLive());
+        EXPECT_EQ(0, FakeCounted::CountLive());
         EXPECT_EQ(0, editor.CountReferences());
     }
 
@@ -24,10 +24,9 @@ protected:
 
 TEST_F(HostTest, LoadingTheLibraryAsksTheKernelForElevenNumbersAndOneServiceInOrder)
 {
-    const std::vector<std::string> expected{
-        "id IPhase",    "id IImageLink",   "id IArchive",       "id ICharacterLibrary",
-        "id IAtom",     "id IDispAtom",    "id IAtomContainer", "id IAEStateHandler",
-        "id IAtomIcon", "id IMyErrorInfo", "id IAtomThumbnail", "service ConstructMemoryStream"};
+    const Ledger expected{"id IPhase",    "id IImageLink",   "id IArchive",       "id ICharacterLibrary",
+                          "id IAtom",     "id IDispAtom",    "id IAtomContainer", "id IAEStateHandler",
+                          "id IAtomIcon", "id IMyErrorInfo", "id IAtomThumbnail", "service ConstructMemoryStream"};
     EXPECT_EQ(expected, KernelCallsAtLoad());
     EXPECT_EQ(INT_GetUniqueInterfaceID("IAtom"), IID_IAtom);
     EXPECT_EQ(INT_GetUniqueInterfaceID("IAtomThumbnail"), IID_IAtomThumbnail);
@@ -83,36 +82,27 @@ TEST_F(HostTest, EveryOperationStandsAtItsPositionInTheTable)
                         &Editor::WriteActiveObjects, &Editor::GetClipboardFormat, &Editor::GetActiveAtom));
 }
 
-struct Provider : SERVICEPROVIDER
-{
-    explicit Provider(SERVICEPROC proc) : SERVICEPROVIDER{&table}, table{proc} {}
-    SERVICETABLE table;
-};
-
 TEST_F(HostTest, AServiceCallHoldsTheLockForTheProvidersAnswerAlone)
 {
     SERVICEREC* const pRecord = SRVN_GetUniqueServiceID("TestSv");
     DWORD buffer = 5;
     KernelCalls().clear();
     EXPECT_FALSE(CallService(pRecord, &buffer, sizeof buffer, 0)); // no provider: the lock is left alone
-    EXPECT_EQ(std::vector<std::string>(), KernelCalls());
+    EXPECT_EQ(Ledger(), KernelCalls());
     EXPECT_EQ(5u, buffer);
 
-    Provider serving([](SERVICEPROVIDER*, void* pBuffer, DWORD dwSize, DWORD dwExtra) -> BOOL {
+    int nAnswer = 3;
+    FakeService service("TestSv", [&](void* pBuffer, DWORD dwSize, DWORD dwExtra) {
         KernelCalls().push_back("served " + std::to_string(dwSize) + " " + std::to_string(dwExtra));
         *static_cast<DWORD*>(pBuffer) = 6;
-        return 3;
+        return nAnswer;
     });
-    SRVN_InstallProvider("TestSv", &serving);
     KernelCalls().clear();
     EXPECT_EQ(3, CallService(pRecord, &buffer, sizeof buffer, 9));
-    EXPECT_EQ((std::vector<std::string>{"wait", "served 4 9", "done"}), KernelCalls());
+    EXPECT_EQ(Ledger({"wait", "served 4 9", "done"}), KernelCalls());
     EXPECT_EQ(6u, buffer);
-
-    Provider refusing([](SERVICEPROVIDER*, void*, DWORD, DWORD) -> BOOL { return FALSE; });
-    SRVN_InstallProvider("TestSv", &refusing);
+    nAnswer = FALSE;
     EXPECT_FALSE(CallService(pRecord, &buffer, sizeof buffer, 0));
-    SRVN_InstallProvider("TestSv", nullptr);
 }
 
 TEST_F(HostTest, TheEditorComesWithAReferenceAndItsServiceIsLookedUpOnce)
@@ -124,12 +114,12 @@ TEST_F(HostTest, TheEditorComesWithAReferenceAndItsServiceIsLookedUpOnce)
         EXPECT_EQ(static_cast<IAtomEditor*>(&editor), pEditor.Get());
         EXPECT_EQ(1, editor.CountReferences());
     }
-    EXPECT_EQ((std::vector<std::string>{"wait", "done"}), KernelCalls());
+    EXPECT_EQ(Ledger({"wait", "done"}), KernelCalls());
 
     editor.Uninstall();
     KernelCalls().clear();
     EXPECT_EQ(nullptr, GetAtomEditor());
-    EXPECT_EQ(std::vector<std::string>(), KernelCalls());
+    EXPECT_EQ(Ledger(), KernelCalls());
 }
 
 TEST_F(HostTest, AnErrorIsShownUnderTheHostsCaption)
@@ -152,16 +142,13 @@ TEST_F(HostTest, AnErrorIsShownUnderTheHostsCaption)
 TEST_F(HostTest, OnlyASecondBlockBlocksTheFocus)
 {
     EXPECT_FALSE(FocusBlock::IsInFocusBlock());
+    FocusBlock own;
+    EXPECT_FALSE(FocusBlock::IsInFocusBlock());
     {
-        FocusBlock own;
-        EXPECT_FALSE(FocusBlock::IsInFocusBlock());
-        {
-            FocusBlock hosts;
-            EXPECT_TRUE(FocusBlock::IsInFocusBlock());
-            EXPECT_EQ(&own, &(own = hosts));
-            EXPECT_TRUE(FocusBlock::IsInFocusBlock());
-        }
-        EXPECT_FALSE(FocusBlock::IsInFocusBlock());
+        FocusBlock hosts;
+        EXPECT_TRUE(FocusBlock::IsInFocusBlock());
+        EXPECT_EQ(&own, &(own = hosts));
+        EXPECT_TRUE(FocusBlock::IsInFocusBlock());
     }
     EXPECT_FALSE(FocusBlock::IsInFocusBlock());
     static_assert(sizeof(FocusBlock) == 1 && !std::is_copy_constructible_v<FocusBlock>);

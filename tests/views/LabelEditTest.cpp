@@ -56,8 +56,9 @@ TEST_F(LabelEditTest, ANameThatIsRefusedOrNotGivenChangesNothing)
 {
     pBox->refused = {"renames a to taken"};
     ASSERT_TRUE(EditRow(0));
-    EXPECT_EQ(Ledger({"box finds taken", "box permits a", "box renames a to taken", "error \"Not renamed\" of box"}),
-              Enter("taken"));
+    EXPECT_EQ(
+        Ledger({"box finds taken", "box permits a", "box renames a to taken", "error \"It was not renamed\" of box"}),
+        Enter("taken"));
     EXPECT_EQ("[(*a) b c]", list->State());
 
     for (const bool bList : {true, false}) {

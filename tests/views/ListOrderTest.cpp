@@ -121,10 +121,7 @@ TEST_F(ListOrderTest, ANameOfAnImpossibleLengthIsReportedAndEqualToAnyOther)
 {
     FakeContainer* const pBox = MakeBox({"b", "a"});
     pBox->Named("a")->nameIsEndless = true;
-    ProbeList& list = MakeList({});
-    list.ShowWindow(SW_HIDE);
-    list.SetRootAtom(pBox);
-    EXPECT_EQ("b a", list.Names());
+    EXPECT_EQ("b a", HideList(pBox).Names());
     const std::vector<std::string> told = desktop.TakeMessageBoxes(); // as often as the sort compares the two
     EXPECT_EQ(std::set<std::string>{": Out of memory."}, std::set<std::string>(told.begin(), told.end()));
 }
@@ -134,9 +131,7 @@ TEST_F(ListOrderTest, ALoadReadsEachNameOnce)
     FakeContainer* const pBox = MakeBox({});
     for (int i = 0; i < 500; ++i)
         pBox->Add("atom " + std::to_string(i * 7919 % 500));
-    ProbeList& list = MakeList({});
-    list.ShowWindow(SW_HIDE);
-    list.SetRootAtom(pBox);
+    HideList(pBox);
     for (const AtomRef& pMember : pBox->members)
         EXPECT_EQ(1, pMember->nNameReads);
 }

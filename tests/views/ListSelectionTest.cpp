@@ -6,20 +6,33 @@ using toolkit::MouseButton;
 namespace
 {
 
+const Ledger kTold{"list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)"};
+const Ledger kSave{"nobody asks PreSaveAtom(world in -)"};
+
 class ListSelectionTest : public ListTest
 {
 protected:
+    // What is said when the focus comes to it from the field.
+    Ledger TakeFocus(const CWnd& wnd)
+    {
+        field.SetFocus();
+        editor.TakeLedger();
+        ::SetFocus(wnd.m_hWnd);
+        return editor.TakeLedger();
+    }
+    // So that a change of the focus asks for a save.
+    void Activate(FakeAtom* pAtom) { editor.active = CStubRef<IAtom>::Share(pAtom); }
+
     FakeContainer* const box = MakeBox({"a", "b", "c"});
+    ProbeList& list = ShowList(box);
 };
 
 TEST_F(ListSelectionTest, AClickIsAskedForAndThenTold)
 {
-    ProbeList& list = ShowList(box);
     Click(list, 1);
     EXPECT_EQ("[a (*b) c]", list.State());
     EXPECT_TRUE(HasFocus(list));
-    EXPECT_EQ(Ledger({"list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)"}),
-              editor.TakeLedger());
+    EXPECT_EQ(kTold, editor.TakeLedger());
     Click(list, 2);
     EXPECT_EQ(Ledger({"list asks OnAtomDeselecting(b in box)", "list tells OnAtomDeselected(b in box)",
                       "list asks OnAtomSelecting(c in box)", "list tells OnAtomSelected(c in box)"}),
@@ -32,7 +45,6 @@ TEST_F(ListSelectionTest, AClickIsAskedForAndThenTold)
 
 TEST_F(ListSelectionTest, AVetoByAnyHandlerKeepsTheRowAsItWas)
 {
-    ProbeList& list = ShowList(box);
     ShowList(box, {.x = 400, .name = "other"});
     editor.Veto(&IAEStateHandler::OnAtomSelecting);
     Click(list, 1);
@@ -48,39 +60,30 @@ TEST_F(ListSelectionTest, AnotherListMirrorsAndAsksButDoesNotTell)
 {
     for (const bool bSkipsSender : {false, true}) {
         editor.skipsSender = bSkipsSender;
-        ProbeList& list = ShowList(box);
         ProbeList& other = ShowList(box, {.x = 400, .name = "other"});
+        list.SetRootAtom(box);
         Click(list, 1);
         EXPECT_EQ("[a (*b) c]", list.State());
         EXPECT_EQ("[a *b c]", other.State());
-        EXPECT_EQ(Ledger({"list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)",
-                          "other asks OnAtomSelecting(b in box)"}),
-                  editor.TakeLedger());
-        list.DestroyWindow();
+        EXPECT_EQ(Ledger({kTold[0], kTold[1], "other asks OnAtomSelecting(b in box)"}), editor.TakeLedger());
         other.DestroyWindow();
     }
 }
 
 TEST_F(ListSelectionTest, KeysSelectLikeTheMouseAndAllRowsAreToldAtOnce)
 {
-    ProbeList& list = ShowList(box);
     Click(list, 0);
-    editor.TakeLedger();
     desktop.Key(VK_RIGHT);
     EXPECT_EQ("[a (*b) c]", list.State());
-    EXPECT_EQ("list tells OnAtomSelected(b in box)", editor.TakeLedger().back());
+    EXPECT_EQ(kTold[1], editor.TakeLedger().back());
 
     list.SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
     EXPECT_EQ("[*a (*b) *c]", list.State());
     EXPECT_EQ(Ledger({"list tells OnAtomSelected(- in box)"}), editor.TakeLedger());
     list.SetItemState(-1, 0, LVIS_SELECTED);
     EXPECT_EQ(Ledger({"list tells OnAtomDeselected(- in box)"}), editor.TakeLedger());
-}
 
-TEST_F(ListSelectionTest, AHiddenListNeitherAsksNorTells)
-{
-    ProbeList& list = ShowList(box);
-    list.ShowWindow(SW_HIDE);
+    list.ShowWindow(SW_HIDE); // a hidden list neither asks nor tells
     list.SetItemState(1, LVIS_SELECTED, LVIS_SELECTED);
     list.SetItemState(-1, 0, LVIS_SELECTED);
     EXPECT_EQ(Ledger(), editor.TakeLedger());
@@ -88,43 +91,31 @@ TEST_F(ListSelectionTest, AHiddenListNeitherAsksNorTells)
 
 TEST_F(ListSelectionTest, GainingTheFocusOffersASaveAndTellsTheSelectionAgain)
 {
-    ProbeList& list = ShowList(box);
     Click(list, 1);
-    field.SetFocus();
-    editor.active = CStubRef<IAtom>::Share(box->Named("a"));
-    editor.TakeLedger();
-    list.SetFocus();
-    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)", "list asks OnAtomSelecting(b in box)",
-                      "list tells OnAtomSelected(b in box)"}),
-              editor.TakeLedger());
+    Activate(box->Named("a"));
+    EXPECT_EQ(Ledger({kSave[0], kTold[0], kTold[1]}), TakeFocus(list));
+    Activate(world.Get()); // without a container and no library: nothing to save
+    EXPECT_EQ(kTold, TakeFocus(list));
 
-    editor.active = CStubRef<IAtom>::Share(world.Get()); // without a container and no library: nothing to save
-    field.SetFocus();
-    list.SetFocus();
-    EXPECT_EQ(Ledger({"list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)"}),
-              editor.TakeLedger());
+    Activate(box->Named("a"));
+    const FocusBlock block; // in which the focus changes without a word
+    EXPECT_EQ(Ledger(), TakeFocus(list));
+    EXPECT_TRUE(HasFocus(list));
 }
 
 TEST_F(ListSelectionTest, ASelectionChangedFromOutsideIsNotToldAgainAtTheNextFocus)
 {
-    ProbeList& list = ShowList(box);
     list.SetFocus();
     field.SetFocus();
     list.OnAtomSelected(box->Named("b"), box);
-    editor.TakeLedger();
-    list.SetFocus();
-    EXPECT_EQ(Ledger(), editor.TakeLedger());
-    field.SetFocus();
-    list.SetFocus(); // once only
-    EXPECT_EQ(Ledger({"list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)"}),
-              editor.TakeLedger());
+    EXPECT_EQ(Ledger(), TakeFocus(list));
+    EXPECT_EQ(kTold, TakeFocus(list)); // once only
 }
 
 TEST_F(ListSelectionTest, ARefusedSaveSendsTheFocusBackAndDropsTheClick)
 {
-    ProbeList& list = ShowList(box);
     list.OnAtomSelected(box->Named("b"), box);
-    editor.active = CStubRef<IAtom>::Share(box->Named("a"));
+    Activate(box->Named("a"));
     field.SetFocus();
     editor.Veto(&IAEStateHandler::PreSaveAtom);
     editor.TakeLedger();
@@ -132,24 +123,10 @@ TEST_F(ListSelectionTest, ARefusedSaveSendsTheFocusBackAndDropsTheClick)
         Click(list, 2, button);
         EXPECT_TRUE(HasFocus(field));
         EXPECT_EQ("[a *b c]", list.State());
-        EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)"}), editor.TakeLedger());
+        EXPECT_EQ(kSave, editor.TakeLedger());
     }
     editor.Allow();
-    list.SetFocus(); // the refused attempts have changed nothing: the selection still comes from outside
-    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)"}), editor.TakeLedger());
-}
-
-TEST_F(ListSelectionTest, InAFocusBlockTheFocusChangesWithoutAWord)
-{
-    ProbeList& list = ShowList(box);
-    Click(list, 1);
-    field.SetFocus();
-    editor.active = CStubRef<IAtom>::Share(box->Named("a"));
-    editor.TakeLedger();
-    const FocusBlock block;
-    list.SetFocus();
-    EXPECT_TRUE(HasFocus(list));
-    EXPECT_EQ(Ledger(), editor.TakeLedger());
+    EXPECT_EQ(kSave, TakeFocus(list)); // the refused attempts have changed nothing: the selection comes from outside
 }
 
 // An icon list that writes down what it posts to itself.
@@ -173,42 +150,36 @@ protected:
 
 TEST_F(ListSelectionTest, LosingTheFocusOrGainingItInABlockReleasesTheButtonAtTheCursor)
 {
-    PostingList list;
-    ASSERT_TRUE(list.Create(&frame));
-    list.MoveWindow(CRect(100, 0, 390, 400));
-    list.ShowWindow(SW_SHOW);
-    desktop.Run();
-    EXPECT_EQ(Ledger({"sort"}), list.posted);
+    PostingList posting;
+    Place(posting, CRect(100, 0, 390, 400), "posting");
+    EXPECT_EQ(Ledger({"sort"}), std::exchange(posting.posted, {}));
     desktop.MoveTo(frame.m_hWnd, {90, 50}); // left of the list
     CPoint cursor = desktop.CursorPos();
-    list.ScreenToClient(&cursor);
+    posting.ScreenToClient(&cursor);
     EXPECT_GT(0, cursor.x);
-    const std::string strUp = "up " + std::to_string(cursor.x) + "," + std::to_string(cursor.y) + " keys 0";
+    const Ledger up{"up " + std::to_string(cursor.x) + "," + std::to_string(cursor.y) + " keys 0"};
 
-    list.posted.clear();
-    list.SetFocus();
-    desktop.Run();
-    EXPECT_EQ(Ledger(), list.posted);
-    field.SetFocus();
-    desktop.Run();
-    EXPECT_EQ(Ledger({strUp}), list.posted);
+    const auto postedAtFocus = [&](CWnd& wnd) {
+        wnd.SetFocus();
+        desktop.Run();
+        return std::exchange(posting.posted, {});
+    };
+    EXPECT_EQ(Ledger(), postedAtFocus(posting));
+    EXPECT_EQ(up, postedAtFocus(field));
     const FocusBlock block;
-    list.SetFocus();
-    desktop.Run();
-    EXPECT_EQ(Ledger({strUp, strUp}), list.posted);
+    EXPECT_EQ(up, postedAtFocus(posting));
 }
 
 TEST_F(ListSelectionTest, ARefusedSaveBetweenTwoListsAsksOnce)
 {
-    ProbeList& list = ShowList(box);
     ProbeList& other = ShowList(box, {.x = 400, .name = "other"});
     Click(list, 1);
-    editor.active = CStubRef<IAtom>::Share(box->Named("a"));
+    Activate(box->Named("a"));
     editor.Veto(&IAEStateHandler::PreSaveAtom);
     editor.TakeLedger();
     Click(other, 2);
     EXPECT_TRUE(HasFocus(list)); // it got the focus back inside the other's handler, and said nothing
-    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)"}), editor.TakeLedger());
+    EXPECT_EQ(kSave, editor.TakeLedger());
 }
 
 } // namespace

@@ -5,12 +5,8 @@ std::string ProbeList::State() const
     std::string strState;
     for (int i = 0; i < GetItemCount(); ++i) {
         const OBJPAIR* pPair = Pair(i);
-        std::string strRow = NameOf(pPair ? pPair->pAtom : nullptr);
-        if (GetItemState(i, LVIS_SELECTED))
-            strRow = "*" + strRow;
-        if (GetItemState(i, LVIS_FOCUSED))
-            strRow = "(" + strRow + ")";
-        strState += (strState.empty() ? "" : " ") + strRow;
+        const std::string strRow = (GetItemState(i, LVIS_SELECTED) ? "*" : "") + NameOf(pPair ? pPair->pAtom : nullptr);
+        strState += (i ? " " : "") + (GetItemState(i, LVIS_FOCUSED) ? "(" + strRow + ")" : strRow);
     }
     return "[" + strState + "]";
 }
@@ -23,17 +19,21 @@ std::string ProbeList::Names() const
     return strNames;
 }
 
+void ProbeList::Write(const char* pszHook, int nItem, IAtom* pAtom, IAtomContainer* pContainer, const CACHEDATA& data)
+{
+    m_hooks.push_back(pszHook + (" " + std::to_string(nItem) + " " + NameOf(pAtom) + " in " + NameOf(pContainer)) +
+                      " \"" + data.strText.GetString() + "\"");
+}
+
 void ProbeList::OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData)
 {
-    m_hooks.push_back("uncache " + std::to_string(nItem) + " " + NameOf(pAtom) + " in " + NameOf(pContainer) + " \"" +
-                      pData->strText.GetString() + "\"");
+    Write("uncache", nItem, pAtom, pContainer, *pData);
     CIconList::OnUncacheItem(nItem, pAtom, pContainer, pData);
 }
 
 void ProbeList::OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData)
 {
-    m_hooks.push_back("cache " + std::to_string(nItem) + " " + NameOf(pAtom) + " in " + NameOf(pContainer) + " \"" +
-                      pData->strText.GetString() + "\"");
+    Write("cache", nItem, pAtom, pContainer, *pData);
     CIconList::OnCacheItem(nItem, pAtom, pContainer, pData);
 }
 
@@ -41,6 +41,20 @@ void ProbeList::OnClearContext()
 {
     m_hooks.push_back("clear");
     CIconList::OnClearContext();
+}
+
+CPoint PointOf(const CListCtrl& list, int nRow)
+{
+    CRect rect;
+    EXPECT_TRUE(list.GetItemRect(nRow, &rect, LVIR_ICON));
+    return rect.CenterPoint();
+}
+
+CPoint EmptyPoint(const CListCtrl& list)
+{
+    CRect rect;
+    list.GetClientRect(&rect);
+    return {rect.right - 3, rect.bottom - 3};
 }
 
 ListTest::ListTest()
@@ -52,13 +66,8 @@ ListTest::ListTest()
 
 ProbeList& ListTest::MakeList(const Shape& shape)
 {
-    ProbeList& list = *m_lists.emplace_back(std::make_unique<ProbeList>(hooks, shape.passive));
-    editor.Call(&list, shape.name);
-    EXPECT_TRUE(list.Create(&frame));
-    list.MoveWindow(CRect(shape.x, 0, shape.x + 390, 400));
-    list.ShowWindow(SW_SHOW);
-    desktop.Run();
-    return list;
+    m_lists.push_back(std::make_unique<ProbeList>(hooks, shape.passive));
+    return Place(*m_lists.back(), CRect(shape.x, 0, shape.x + 390, 400), shape.name);
 }
 
 ProbeList& ListTest::ShowList(FakeContainer* pContainer, const Shape& shape)
@@ -71,23 +80,19 @@ ProbeList& ListTest::ShowList(FakeContainer* pContainer, const Shape& shape)
     return list;
 }
 
+ProbeList& ListTest::HideList(FakeContainer* pContainer)
+{
+    ProbeList& list = MakeList({});
+    list.ShowWindow(SW_HIDE);
+    list.SetRootAtom(pContainer);
+    editor.TakeLedger();
+    TakeHooks();
+    return list;
+}
+
 void ListTest::Click(ProbeList& list, int nRow, toolkit::MouseButton button)
 {
     desktop.Click(list.m_hWnd, PointOf(list, nRow), button);
-}
-
-CPoint ListTest::PointOf(ProbeList& list, int nRow) const
-{
-    CRect rect;
-    EXPECT_TRUE(list.GetItemRect(nRow, &rect, LVIR_ICON));
-    return rect.CenterPoint();
-}
-
-CPoint ListTest::EmptyPoint(ProbeList& list) const
-{
-    CRect rect;
-    list.GetClientRect(&rect);
-    return {rect.right - 3, rect.bottom - 3};
 }
 
 void ListTest::Hint(CListCtrl& list, int nFrom, int nTo)
@@ -96,11 +101,17 @@ void ListTest::Hint(CListCtrl& list, int nFrom, int nTo)
     EXPECT_EQ(0, frame.SendMessage(WM_NOTIFY, hint.hdr.idFrom, reinterpret_cast<LPARAM>(&hint)));
 }
 
-std::string ListTest::Shown(CListCtrl& list, int nRow)
+std::string ListTest::Shown(CListCtrl& list, int nFirst, int nLast)
 {
-    NMLVDISPINFO info{{list.m_hWnd, list.GetDlgCtrlID(), LVN_GETDISPINFO}, {}};
-    info.item.mask = LVIF_TEXT | LVIF_IMAGE;
-    info.item.iItem = nRow;
-    frame.SendMessage(WM_NOTIFY, info.hdr.idFrom, reinterpret_cast<LPARAM>(&info));
-    return info.item.pszText ? info.item.pszText + std::string(" ") + std::to_string(info.item.iImage) : "";
+    std::string strShown;
+    for (int i = nFirst; i <= nLast; ++i) {
+        NMLVDISPINFO info{{list.m_hWnd, list.GetDlgCtrlID(), LVN_GETDISPINFO}, {}};
+        info.item.mask = LVIF_TEXT | LVIF_IMAGE;
+        info.item.iItem = i;
+        frame.SendMessage(WM_NOTIFY, info.hdr.idFrom, reinterpret_cast<LPARAM>(&info));
+        strShown += i > nFirst ? ", " : "";
+        if (info.item.pszText)
+            strShown += info.item.pszText + std::string(" ") + std::to_string(info.item.iImage);
+    }
+    return strShown;
 }

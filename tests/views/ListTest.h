@@ -24,8 +24,13 @@ protected:
     void OnClearContext() override;
 
 private:
+    void Write(const char* pszHook, int nItem, IAtom* pAtom, IAtomContainer* pContainer, const CACHEDATA& data);
+
     Ledger& m_hooks;
 };
+
+CPoint PointOf(const CListCtrl& list, int nRow); // the middle of its picture
+CPoint EmptyPoint(const CListCtrl& list);        // in no row
 
 class ListTest : public ViewTest
 {
@@ -42,13 +47,16 @@ protected:
     ProbeList& ShowList(FakeContainer* pContainer, const Shape& shape); // showing it, all news taken
     ProbeList& ShowList(FakeContainer* pContainer) { return ShowList(pContainer, Shape()); }
 
+    // Showing it, but not visible: a test hints the rows it wants.
+    ProbeList& HideList(FakeContainer* pContainer);
+
     void Click(ProbeList& list, int nRow, toolkit::MouseButton button = toolkit::MouseButton::Left);
-    CPoint PointOf(ProbeList& list, int nRow) const; // the middle of its picture
-    CPoint EmptyPoint(ProbeList& list) const;        // in no row
     // The rows' picture is asked for, as the control does when it draws.
     void Hint(CListCtrl& list, int nFrom, int nTo);
-    // "a 2": the text and the picture that the list gives for a row; "" when it gives nothing.
-    std::string Shown(CListCtrl& list, int nRow);
+    // "a 2, b 0": the texts and the pictures that the list gives for these rows; "" for a row for which it gives
+    // nothing.
+    std::string Shown(CListCtrl& list, int nRow) { return Shown(list, nRow, nRow); }
+    std::string Shown(CListCtrl& list, int nFirst, int nLast);
     Ledger TakeHooks() { return std::exchange(hooks, {}); }
 
     Ledger hooks;

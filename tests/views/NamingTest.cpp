@@ -1,107 +1,85 @@
 // Names: what atoms may be called, and who hears of a new name.
-#include "Toolkit/graphics/Resources.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/support/DesktopTest.h"
-#include "tests/views/FakeHost.h"
+#include "tests/views/InteractionTest.h"
 
 namespace
 {
 
-class NamingTest : public DesktopTest
+class NamingTest : public TransferTest
 {
 protected:
-    NamingTest() : box(ContainerRef::Adopt(new FakeContainer("box")))
-    {
-        resources.AddString(0xE012, "Not renamed");
-        resources.Join();
-        pA = box->Add("a");
-        box->Add("b");
-        box->permissions = APF_RENAME | APF_REMOVE;
-        box->pLedger = &editor.ledger;
-    }
-    ~NamingTest() override
-    {
-        EXPECT_EQ(1, box->CountReferences());
-        box.Release();
-        EXPECT_EQ(0, FakeAtom::CountLive());
-        EXPECT_EQ(0, editor.CountReferences());
-    }
-
-    CResourceModule resources;
-    FakeEditor editor;
-    ContainerRef box;
-    FakeAtom* pA;
+    FakeAtom* const pA = pBox->Named("a");
 };
 
 TEST_F(NamingTest, ARenameIsANewAtomAndThenTheEndOfTheOldOne)
 {
     const auto pOld = AtomRef::Share(pA);
-    EXPECT_TRUE(RenameObject(pA, box.Get(), "c"));
+    EXPECT_TRUE(RenameObject(pA, pBox, "c"));
     EXPECT_EQ(Ledger({"box finds c", "box permits a", "box renames a to c", "nobody tells OnCreateAtom(c in box)",
                       "nobody tells OnDeleteAtom(a in box)"}),
               editor.TakeLedger());
     EXPECT_EQ(1, pOld->CountReferences());
 
-    EXPECT_TRUE(RenameObject(box->Named("c"), nullptr, "d")); // in the container that holds it
+    EXPECT_TRUE(RenameObject(pBox->Named("c"), nullptr, "d")); // in the container that holds it
     EXPECT_EQ("nobody tells OnCreateAtom(d in box)", editor.TakeLedger()[3]);
 
     editor.Uninstall(); // renamed all the same, but no one has heard of it
-    EXPECT_FALSE(RenameObject(box->Named("d"), box.Get(), "e"));
-    EXPECT_TRUE(box->Named("e"));
+    EXPECT_FALSE(RenameObject(pBox->Named("d"), pBox, "e"));
+    EXPECT_TRUE(pBox->Named("e"));
 }
 
 TEST_F(NamingTest, WhatIsNotRenamedIsToldToNobody)
 {
-    EXPECT_TRUE(RenameObject(pA, box.Get(), "a")); // bears that name already
+    EXPECT_TRUE(RenameObject(pA, pBox, "a")); // bears that name already
     EXPECT_EQ(Ledger({"box finds a"}), editor.TakeLedger());
 
-    box->permissionsFor["a"] = ~APF_RENAME;
-    EXPECT_FALSE(RenameObject(pA, box.Get(), "c"));
+    pBox->permissionsFor["a"] = ~APF_RENAME;
+    EXPECT_FALSE(RenameObject(pA, pBox, "c"));
     EXPECT_EQ(Ledger({"box finds c", "box permits a"}), editor.TakeLedger());
 
     const auto pOrphan = AtomRef::Adopt(new FakeAtom("orphan"));
     EXPECT_FALSE(RenameObject(pOrphan.Get(), nullptr, "c"));
-    EXPECT_FALSE(RenameObject(nullptr, box.Get(), "c"));
+    EXPECT_FALSE(RenameObject(nullptr, pBox, "c"));
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 }
 
 TEST_F(NamingTest, ARefusedRenameIsShownWithTheContainersReason)
 {
-    box->refused = {"renames a to b"}; // another member's name is no obstacle before the container says so
-    EXPECT_FALSE(RenameObject(pA, box.Get(), "b"));
-    EXPECT_EQ(Ledger({"box finds b", "box permits a", "box renames a to b", "error \"Not renamed\" of box"}),
+    pBox->refused = {"renames a to b"}; // another member's name is no obstacle before the container says so
+    EXPECT_FALSE(RenameObject(pA, pBox, "b"));
+    EXPECT_EQ(Ledger({"box finds b", "box permits a", "box renames a to b", "error \"It was not renamed\" of box"}),
               editor.TakeLedger());
     EXPECT_EQ(Ledger(), desktop.TakeMessageBoxes());
 
     std::optional<FailAllocation> failure;
-    box->onCall = [&](const std::string& strCall) {
+    pBox->onCall = [&](const std::string& strCall) {
         if (strCall.starts_with("renames"))
             failure.emplace(1); // the caption does not come about
     };
-    EXPECT_FALSE(RenameObject(pA, box.Get(), "b"));
+    EXPECT_FALSE(RenameObject(pA, pBox, "b"));
     EXPECT_EQ(Ledger({": Out of memory."}), desktop.TakeMessageBoxes());
 }
 
 TEST_F(NamingTest, TheContainerSaysWhetherANameMayChangeAndWhatACopyIsCalled)
 {
-    EXPECT_EQ(2, CanRenameObject(pA, box.Get()));
+    EXPECT_EQ(2, CanRenameObject(pA, pBox));
     EXPECT_EQ(2, CanRenameObject(pA, nullptr));
-    box->permissionsFor["a"] = APF_REMOVE;
+    pBox->permissionsFor["a"] = APF_REMOVE;
     EXPECT_EQ(0, CanRenameObject(pA, nullptr));
     const auto pOrphan = AtomRef::Adopt(new FakeAtom("orphan"));
     EXPECT_EQ(0, CanRenameObject(pOrphan.Get(), nullptr));
 
     CString strName("as it was");
-    box->refused = {"validates a"};
-    EXPECT_FALSE(GetValidName(pA, box.Get(), strName));
+    pBox->refused = {"validates a"};
+    EXPECT_FALSE(GetValidName(pA, pBox, strName));
     pOrphan->nameFails = true;
-    EXPECT_FALSE(GetValidName(pOrphan.Get(), box.Get(), strName));
+    EXPECT_FALSE(GetValidName(pOrphan.Get(), pBox, strName));
     EXPECT_EQ("as it was", strName);
 
-    box->refused.clear();
+    pBox->refused.clear();
     const int nFailures = FailEveryAllocation([&] {
-        const BOOL bValid = GetValidName(pA, box.Get(), strName);
+        const BOOL bValid = GetValidName(pA, pBox, strName);
         EXPECT_EQ(bValid ? "a (2)" : "as it was", strName);
     });
     EXPECT_LT(0, nFailures);

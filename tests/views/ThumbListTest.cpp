@@ -59,11 +59,19 @@ protected:
             std::fill_n(folder.Row(y) + 20, 20, toolkit::ToPixel(kFolder));
         resources.AddBitmap(1006, folder);
         resources.AddBitmap(1011, toolkit::Surface({20, 20}, toolkit::ToPixel(kMarker)));
-        box = MakeBox({"a", "b", "c", "d"});
         for (const AtomRef& pMember : box->members)
             pMember->pLedger = &drawn;
-        box->Named("a")->hasIcon = box->Named("b")->hasIcon = true;
-        box->Named("a")->nFrames = 1;
+        a->hasIcon = b->hasIcon = true;
+        a->nFrames = 1;
+    }
+
+    FakeContainer* AddContainer(const std::string& strName, int nFrames)
+    {
+        auto* const pNew = new FakeContainer(strName);
+        pNew->nFrames = nFrames;
+        pNew->pLedger = &drawn;
+        box->Add(pNew);
+        return pNew;
     }
 
     // Not shown: a test hints the rows it wants.
@@ -96,14 +104,17 @@ protected:
         DeleteDC(hdc);
         return Difference(Picture(fills), image);
     }
-    CPoint PointOf(const CThumbList& list, int nRow) const
+    // Moves there; whether the animation's timer, stopped before, has been started again.
+    bool Animates(CThumbList& list, CPoint at)
     {
-        CRect rect;
-        EXPECT_TRUE(list.GetItemRect(nRow, &rect, LVIR_ICON));
-        return rect.CenterPoint();
+        list.KillTimer(1234);
+        desktop.MoveTo(list.m_hWnd, at);
+        return toolkit::CountWindows().timers != 0;
     }
 
-    FakeContainer* box;
+    FakeContainer* const box = MakeBox({"a", "b", "c", "d"});
+    FakeAtom* const a = box->Named("a");
+    FakeAtom* const b = box->Named("b");
     Ledger drawn;
 
 private:
@@ -116,14 +127,10 @@ TEST_F(ThumbListTest, APictureIsTheThumbnailElseTheIconElseTheFolder)
     EXPECT_EQ(1, CountImages(list));
     EXPECT_EQ("", ImageDifference(list, 0, kFolderFills));
 
-    auto* const pInner = new FakeContainer("e");
-    box->Add(pInner);
-    pInner->nFrames = 3;
-    pInner->pLedger = &drawn;
+    AddContainer("e", 3);
     list.SetRootAtom(box);
     Hint(list, 0, 4);
-    EXPECT_EQ("a 1 b 2 c 3 d 4 e 5", Shown(list, 0) + " " + Shown(list, 1) + " " + Shown(list, 2) + " " +
-                                         Shown(list, 3) + " " + Shown(list, 4));
+    EXPECT_EQ("a 1, b 2, c 3, d 4, e 5", Shown(list, 0, 4));
     EXPECT_EQ(Ledger({"draw a at 24,24-104,104 (0, 2, 0)", "icon b 48x48", "draw e at 24,24-104,104 (0, 2, 0)"}),
               drawn);
     EXPECT_EQ("", ImageDifference(list, 1, kThumbFills));
@@ -134,14 +141,9 @@ TEST_F(ThumbListTest, APictureIsTheThumbnailElseTheIconElseTheFolder)
 
 TEST_F(ThumbListTest, WhatFailsGivesTheFolderWithoutAMarker)
 {
-    auto* const pThumb = new FakeContainer("e");
-    auto* const pIcon = new FakeContainer("f");
-    pThumb->nFrames = 1;
-    pThumb->hasIcon = pIcon->hasIcon = true;
-    pThumb->thumbFails = pIcon->iconFails = true;
-    pThumb->pLedger = pIcon->pLedger = &drawn;
-    box->Add(pThumb);
-    box->Add(pIcon);
+    FakeContainer* const pThumb = AddContainer("e", 1);
+    FakeContainer* const pIcon = AddContainer("f", 0);
+    pThumb->hasIcon = pIcon->hasIcon = pThumb->thumbFails = pIcon->iconFails = true;
     CThumbList& list = MakeHidden();
     Hint(list, 4, 5);
     EXPECT_EQ(Ledger({"draw e at 24,24-104,104 (0, 2, 0)", "icon f 48x48"}), drawn);
@@ -155,7 +157,7 @@ TEST_F(ThumbListTest, WithoutTheHostsBitmapsPicturesAreBlankAndNeverAnotherRows)
     CThumbList& list = MakeHidden();
     EXPECT_EQ("", ImageDifference(list, 0, {}));
     Hint(list, 0, 0);
-    list.OnChangeAtom(box->Named("a"), nullptr); // its image is free
+    list.OnChangeAtom(a, nullptr); // its image is free
     Hint(list, 2, 2);
     EXPECT_EQ("c 1", Shown(list, 2));
     EXPECT_EQ("", ImageDifference(list, 1, {}));
@@ -166,26 +168,17 @@ TEST_F(ThumbListTest, ImagesOfRowsThatLeftArePaintedOverTheOldestFirst)
 {
     CThumbList& list = MakeHidden();
     Hint(list, 0, 1);
-    EXPECT_EQ(1, list.OnChangeAtom(box->Named("b"), nullptr));
-    EXPECT_EQ(1, list.OnChangeAtom(box->Named("a"), nullptr));
-    Hint(list, 2, 2);
-    EXPECT_EQ("c 2", Shown(list, 2));
+    EXPECT_EQ(1, list.OnChangeAtom(b, nullptr));
+    EXPECT_EQ(1, list.OnChangeAtom(a, nullptr));
+    for (const int nRow : {2, 0, 3})
+        Hint(list, nRow, nRow);
+    EXPECT_EQ("a 1, , c 2, d 3", Shown(list, 0, 3));
     EXPECT_EQ("", ImageDifference(list, 2, kFolderFills));
-    Hint(list, 0, 0);
-    EXPECT_EQ("a 1", Shown(list, 0));
-    Hint(list, 3, 3);
-    EXPECT_EQ("d 3", Shown(list, 3));
-
     list.SetRootAtom(box);
     Hint(list, 0, 3);
     EXPECT_EQ(5, CountImages(list)) << "one more than before, for b";
-}
 
-TEST_F(ThumbListTest, ANewWindowBeginsWithItsFolderPictureAlone)
-{
-    CThumbList& list = MakeHidden();
-    Hint(list, 0, 3);
-    list.DestroyWindow();
+    list.DestroyWindow(); // a new window begins with its folder picture alone
     ASSERT_TRUE(list.Create(&frame));
     EXPECT_EQ(1, CountImages(list));
     list.SetRootAtom(box);
@@ -197,7 +190,7 @@ TEST_F(ThumbListTest, WhereMemoryRunsOutARowHasNoPictureOrTheFolderAndTheNextOne
 {
     CThumbList& list = MakeHidden();
     const int nFailures = FailEveryAllocation([&] {
-        list.OnChangeAtom(box->Named("a"), nullptr);
+        list.OnChangeAtom(a, nullptr);
         Hint(list, 0, 0);
     });
     EXPECT_GT(nFailures, 5);
@@ -214,23 +207,18 @@ TEST_F(ThumbListTest, TheAnimatedThumbnailsTheMousePassedOverAreHeldUntilTheRows
     pAnimated->nFrames = 2;
     CThumbList& list = MakeShown();
     EXPECT_EQ(1, toolkit::CountWindows().timers);
-    list.KillTimer(1234);
-    const int nBefore = pAnimated->CountReferences(), nStill = box->Named("a")->CountReferences();
+    const int nBefore = pAnimated->CountReferences(), nStill = a->CountReferences();
 
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 0)); // a single frame
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 1)); // an icon
-    desktop.MoveTo(list.m_hWnd, {695, 395});
-    EXPECT_EQ(0, toolkit::CountWindows().timers);
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 2));
-    EXPECT_EQ(1, toolkit::CountWindows().timers);
-    list.KillTimer(1234);
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 0));
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 2)); // known already
-    EXPECT_EQ(0, toolkit::CountWindows().timers);
+    EXPECT_FALSE(Animates(list, PointOf(list, 0))); // a single frame
+    EXPECT_FALSE(Animates(list, PointOf(list, 1))); // an icon
+    EXPECT_FALSE(Animates(list, {695, 395}));
+    EXPECT_TRUE(Animates(list, PointOf(list, 2)));
+    EXPECT_FALSE(Animates(list, PointOf(list, 0)));
+    EXPECT_FALSE(Animates(list, PointOf(list, 2))); // known already
     EXPECT_EQ(nBefore + 1, pAnimated->CountReferences());
-    EXPECT_EQ(nStill, box->Named("a")->CountReferences());
+    EXPECT_EQ(nStill, a->CountReferences());
 
-    list.SetRootAtom(box->Named("a")); // no container: the view is emptied
+    list.SetRootAtom(a); // no container: the view is emptied
     EXPECT_EQ(1, pAnimated->CountReferences());
     list.SetRootAtom(box);
     desktop.MoveTo(list.m_hWnd, PointOf(list, 2));
@@ -241,11 +229,10 @@ TEST_F(ThumbListTest, TheAnimatedThumbnailsTheMousePassedOverAreHeldUntilTheRows
 TEST_F(ThumbListTest, TheTimerRunsWhileTheViewIsShownAndChangesNothing)
 {
     CThumbList& list = MakeShown();
-    const std::string before = ImageDifference(list, 1, kThumbFills);
+    EXPECT_EQ("", ImageDifference(list, 1, kThumbFills));
     drawn.clear();
     desktop.Advance(500);
     EXPECT_EQ(Ledger(), drawn);
-    EXPECT_EQ("", before);
     list.ShowWindow(SW_HIDE);
     EXPECT_EQ(0, toolkit::CountWindows().timers);
 }

@@ -5,15 +5,12 @@
 #include "Toolkit/ole/StgMedium.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
-#include "tests/editor/TempFolder.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/support/DesktopTest.h"
-#include "tests/views/FakeArchive.h"
+#include "tests/views/InteractionTest.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -24,41 +21,21 @@ namespace fs = std::filesystem;
 namespace
 {
 
-using ArchiveRef = CStubRef<IArchive>;
-
-class TransferFileTest : public DesktopTest
+class TransferFileTest : public TransferTest
 {
 protected:
-    TransferFileTest() { SetTemp(folder.Path()); }
     ~TransferFileTest() override
     {
-        unsetenv("TEMP");
-        EXPECT_EQ(0, KRNL_CountReferences());
-        EXPECT_EQ(0, toolkit::CountOpenFiles());
-        EXPECT_EQ(0, toolkit::CountGlobalBlocks());
+        fs::remove_all(folder.Path());
+        folder.MakeFolder("");
     }
 
     static void SetTemp(const std::string& strFolder) { setenv("TEMP", strFolder.c_str(), 1); }
-    static ArchiveRef Holding(const std::string& bytes)
-    {
-        auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
-        SetBytes(pArchive.Get(), bytes);
-        return pArchive;
-    }
-    static std::string Read(const std::string& path)
-    {
-        std::ifstream file(path, std::ios::binary);
-        return {std::istreambuf_iterator<char>(file), {}};
-    }
     // What an archive of that file holds; "-" without one.
     static std::string Fetched(const std::string& path)
     {
         const auto pArchive = ArchiveRef::Adopt(ArchiveFromFile(path.c_str()));
         return pArchive ? BytesOf(pArchive.Get()) : "-";
-    }
-    std::size_t CountFiles() const
-    {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(folder.Path()), {}));
     }
     // The exit status of a child process that does it.
     template <class Work>
@@ -72,8 +49,6 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     }
 
-    TempFolder folder;
-    FakeArchives archives;
     const std::string bytes = std::string("any\0bytes\n\xFF", 11) + std::string(100000, 'x');
 };
 
@@ -82,7 +57,7 @@ TEST_F(TransferFileTest, BytesComeBackFromAFileOfTheirOwnThatIsForItsOwnersEyesO
     const mode_t former = umask(0);
     const CString strPath = FileFromArchive(Holding(bytes).Get());
     umask(former);
-    EXPECT_EQ(bytes, Read(strPath.GetString()));
+    EXPECT_EQ(bytes, TempFolder::ReadFile(strPath.GetString()));
     EXPECT_EQ(bytes, Fetched(strPath.GetString()));
     struct stat status;
     ASSERT_EQ(0, lstat(strPath, &status));
@@ -104,7 +79,7 @@ TEST_F(TransferFileTest, TheFileLiesWhereTheEnvironmentSays)
         EXPECT_EQ(folder.Path(), path.parent_path());
         EXPECT_TRUE(path.filename().string().starts_with("AE")) << path;
     }
-    EXPECT_EQ(2u, CountFiles());
+    EXPECT_EQ(2, CountFiles());
 
     // The machine's own folder takes the place of one that is not there.
     const TempFolder machines;
@@ -145,7 +120,7 @@ TEST_F(TransferFileTest, AHandleHoldsThePathAndNothingElse)
         strPath = block.Get();
         EXPECT_EQ(strPath.size() + 1, GlobalSize(hPath));
     }
-    EXPECT_EQ(bytes, Read(strPath));
+    EXPECT_EQ(bytes, TempFolder::ReadFile(strPath));
 
     STGMEDIUM medium{};
     medium.tymed = TYMED_HGLOBAL;
@@ -166,17 +141,14 @@ TEST_F(TransferFileTest, AHandleHoldsThePathAndNothingElse)
     GlobalFree(hPath);
     EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(hPath));
     EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(nullptr));
-}
 
-TEST_F(TransferFileTest, APathWithoutAnEndIsReadNoFurtherThanItsBlock)
-{
     folder.Write("file", "bytes");
-    const std::string strPath = folder.At("file");
-    void* const hPath = GlobalAlloc(GMEM_MOVEABLE, strPath.size());
-    strPath.copy(static_cast<char*>(GlobalLock(hPath)), strPath.size());
-    GlobalUnlock(hPath);
-    EXPECT_EQ("bytes", BytesOf(ArchiveRef::Adopt(ArchiveFromHGLOBAL(hPath)).Get()));
-    GlobalFree(hPath);
+    const std::string strEndless = folder.At("file"); // read no further than its block
+    void* const hEndless = GlobalAlloc(GMEM_MOVEABLE, strEndless.size());
+    strEndless.copy(static_cast<char*>(GlobalLock(hEndless)), strEndless.size());
+    GlobalUnlock(hEndless);
+    EXPECT_EQ("bytes", BytesOf(ArchiveRef::Adopt(ArchiveFromHGLOBAL(hEndless)).Get()));
+    GlobalFree(hEndless);
 }
 
 TEST_F(TransferFileTest, WhatHasBecomeOfAFileMeanwhileGivesNoArchive)
@@ -192,28 +164,12 @@ TEST_F(TransferFileTest, WhatHasBecomeOfAFileMeanwhileGivesNoArchive)
     fs::resize_file(folder.At("kept"), 3); // what is left is for the editor to judge
     EXPECT_EQ("byt", Fetched(folder.At("kept")));
 
-    // Another process has it open.
-    int ready[2], done[2];
-    ASSERT_TRUE(pipe(ready) == 0 && pipe(done) == 0);
-    const pid_t child = fork();
-    if (child == 0) {
-        char byte = 'x';
-        close(done[1]);
-        const bool bOpen = CreateFile(folder.At("kept").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr) !=
-                           INVALID_HANDLE_VALUE;
-        _exit(bOpen && write(ready[1], &byte, 1) == 1 && read(done[0], &byte, 1) == 0 ? 0 : 1);
-    }
-    char byte;
-    close(ready[1]);
-    EXPECT_EQ(1, read(ready[0], &byte, 1));
-    EXPECT_EQ("-", Fetched(folder.At("kept")));
-    close(done[1]);
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(0, status);
+    const auto isShut = [&] { return Fetched(folder.At("kept")) == "-" ? 0 : 1; };
+    EXPECT_EQ(0, InChild([&] {
+                  CreateFile(folder.At("kept").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+                  return InChild(isShut); // to another process
+              }));
     EXPECT_EQ("byt", Fetched(folder.At("kept")));
-    for (const int fd : {ready[0], done[0]})
-        close(fd);
 }
 
 TEST_F(TransferFileTest, WithoutAStreamOrAnArchiveThereIsNothing)
@@ -227,32 +183,29 @@ TEST_F(TransferFileTest, WithoutAStreamOrAnArchiveThereIsNothing)
     archives.refusesArchives = true;
     EXPECT_TRUE(hasNone());
     archives.refusesArchives = false;
-    SRVN_InstallProvider("ConstructMemoryStream", nullptr);
+    archives.streams.Uninstall();
     EXPECT_TRUE(hasNone());
-    SRVN_InstallProvider("ConstructMemoryStream", &archives);
+    archives.streams.Install();
 
     archives.streamsHaveNoBlock = true;
     EXPECT_EQ("-", Fetched(folder.At("file")));
     EXPECT_EQ("", FileFromArchive(ArchiveRef::Adopt(ConstructMemoryArchive()).Get()));
     EXPECT_EQ("", FileFromArchive(nullptr));
     EXPECT_EQ(nullptr, HGLOBALFromArchive(nullptr));
-    EXPECT_EQ(1u, CountFiles());
+    EXPECT_EQ(1, CountFiles());
 }
 
 TEST_F(TransferFileTest, WithoutMemoryThereIsNoFileAndTheUserIsToldOnce)
 {
     const auto pArchive = Holding(bytes);
-    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
-        void* hPath = nullptr;
-        {
-            const FailAllocation failure(nth);
-            hPath = HGLOBALFromArchive(pArchive.Get());
-        }
+    void* hPath = nullptr;
+    const auto check = [&] {
         EXPECT_EQ(FailAllocation::HasFailed(), !hPath);
-        EXPECT_EQ(hPath ? 1u : 0u, CountFiles());
+        EXPECT_EQ(hPath ? 1 : 0, CountFiles());
         EXPECT_GE(hPath ? 0u : 1u, desktop.TakeMessageBoxes().size());
         (new CTransferFileOwner(hPath))->Release();
-    }
+    };
+    FailEveryAllocation([&] { hPath = HGLOBALFromArchive(pArchive.Get()); }, check);
 }
 
 } // namespace

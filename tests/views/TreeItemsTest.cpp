@@ -153,11 +153,7 @@ TEST_F(TreeItemsTest, WithoutMemoryLessIsShownButNothingWrong)
     FakeContainer* const pBox = MakeBox("box", {"c", "b", "a"});
     ProbeTree& tree = MakeTree();
     std::set<std::string> states;
-    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
-        {
-            const FailAllocation failure(nth);
-            tree.OnCreateAtom(pBox, nullptr);
-        }
+    const auto check = [&] {
         const std::string strState = tree.State();
         for (const AtomRef& pMember : pBox->members)
             EXPECT_EQ(tree.GetItem(pMember.Get()) != nullptr, strState.find(pMember->name, 4) != std::string::npos);
@@ -166,7 +162,8 @@ TEST_F(TreeItemsTest, WithoutMemoryLessIsShownButNothingWrong)
         EXPECT_EQ("", tree.State());
         EXPECT_EQ(1, pBox->CountReferences());
         EXPECT_EQ(1, pBox->Named("a")->CountReferences());
-    }
+    };
+    FailEveryAllocation([&] { tree.OnCreateAtom(pBox, nullptr); }, check);
     EXPECT_EQ((std::set<std::string>{"", "box [a b c]", "box [a b]", "box [a c]", "box [b c]"}), states);
     desktop.TakeMessageBoxes();
 }

@@ -23,6 +23,13 @@ std::string ProbeTree::Labels(FakeAtom* pParent) const
     return strLabels;
 }
 
+CPoint ProbeTree::PointOf(FakeAtom* pAtom) const
+{
+    CRect rect;
+    EXPECT_TRUE(GetItemRect(GetItem(pAtom), &rect, TRUE)) << pAtom->name;
+    return rect.CenterPoint();
+}
+
 void ProbeTree::OnGetDispInfo(TVDISPINFO* pInfo)
 {
     nLabels += (pInfo->item.mask & TVIF_TEXT) != 0;
@@ -42,13 +49,8 @@ TreeTest::TreeTest()
 
 ProbeTree& TreeTest::MakeTree(bool bPassive)
 {
-    ProbeTree& tree = *m_trees.emplace_back(std::make_unique<ProbeTree>(bPassive));
-    editor.Call(&tree, "tree");
-    EXPECT_TRUE(tree.Create(&frame));
-    tree.MoveWindow(CRect(0, 0, 390, 380));
-    tree.ShowWindow(SW_SHOW);
-    desktop.Run();
-    return tree;
+    m_trees.push_back(std::make_unique<ProbeTree>(bPassive));
+    return Place(*m_trees.back(), CRect(0, 0, 390, 380), "tree");
 }
 
 ProbeTree& TreeTest::ShowTree(bool bPassive)
@@ -70,9 +72,7 @@ void TreeTest::Expand(ProbeTree& tree, FakeAtom* pAtom)
 
 void TreeTest::Click(ProbeTree& tree, FakeAtom* pAtom)
 {
-    CRect rect;
-    EXPECT_TRUE(tree.GetItemRect(tree.GetItem(pAtom), &rect, TRUE)) << pAtom->name;
-    desktop.Click(tree.m_hWnd, rect.CenterPoint());
+    desktop.Click(tree.m_hWnd, tree.PointOf(pAtom));
 }
 
 void TreeTest::Select(ProbeTree& tree, FakeAtom* pAtom)

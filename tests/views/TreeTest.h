@@ -17,6 +17,7 @@ public:
     // item without an atom.
     std::string State(HTREEITEM hParent = TVI_ROOT) const;
     std::string Labels(FakeAtom* pParent) const; // "a, b *"
+    CPoint PointOf(FakeAtom* pAtom) const;       // the middle of its label
 
     int nLabels = 0; // answered
     std::function<void(TVDISPINFO*)> onDispInfo;

@@ -18,6 +18,17 @@ protected:
     FakeContainer* MakeBox(const std::string& strName, const std::vector<std::string>& names);
     FakeContainer* MakeBox(const std::vector<std::string>& names) { return MakeBox("box", names); }
 
+    // Creates the view in the frame and shows it.
+    template <class View>
+    View& Place(View& view, const CRect& rect, const char* pszName)
+    {
+        editor.handlerNames[&view] = pszName;
+        EXPECT_TRUE(view.Create(&frame));
+        view.MoveWindow(rect);
+        view.ShowWindow(SW_SHOW);
+        desktop.Run();
+        return view;
+    }
     static bool HasFocus(const CWnd& wnd) { return ::GetFocus() == wnd.m_hWnd; }
 
     CResourceModule resources;

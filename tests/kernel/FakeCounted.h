@@ -1,0 +1,31 @@
+// What counted objects of a fake host have in common.
+#pragma once
+
+#include "Kernel/StubBaseInterface.h"
+
+#include <gtest/gtest.h>
+
+class FakeCounted : public virtual CStubBaseInterface
+{
+public:
+    FakeCounted() { ++s_nLive; }
+    FakeCounted(const FakeCounted&) = delete;
+    FakeCounted& operator=(const FakeCounted&) = delete;
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override
+    {
+        ASSERT_GT(m_nReferences, 0);
+        if (--m_nReferences == 0)
+            delete this;
+    }
+    int CountReferences() const { return m_nReferences; }
+    static int CountLive() { return s_nLive; } // of all classes
+
+protected:
+    virtual ~FakeCounted() { --s_nLive; }
+
+private:
+    static inline int s_nLive = 0;
+    int m_nReferences = 1;
+};
