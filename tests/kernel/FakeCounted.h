@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+template <class Kind>
 class FakeCounted : public virtual CStubBaseInterface
 {
 public:
@@ -20,7 +21,7 @@ public:
             delete this;
     }
     int CountReferences() const { return m_nReferences; }
-    static int CountLive() { return s_nLive; } // of all classes
+    static int CountLive() { return s_nLive; } // of the kind
 
 protected:
     virtual ~FakeCounted() { --s_nLive; }

@@ -63,7 +63,7 @@ TEST(ServiceTest, AProviderIsNotTakenAwayDuringACall)
     EXPECT_EQ(nullptr, record.provider.load());
 }
 
-class Thing final : public FakeCounted
+class Thing final : public FakeCounted<Thing>
 {
 public:
     void GetInterface(DWORD id, void** out) override
@@ -87,12 +87,12 @@ TEST(KernelObjectTest, MakesObjectsByClassNameAsTheAskedInterface)
     EXPECT_EQ(nullptr, pThing);
     EXPECT_FALSE(pKernel->CreateObject("CNothing", &pThing, thing));
     EXPECT_FALSE(pKernel->CreateObject("CThing", &pThing, INT_GetUniqueInterfaceID("IOther")));
-    EXPECT_EQ(0, FakeCounted::CountLive()); // made, asked in vain, and gone
+    EXPECT_EQ(0, Thing::CountLive()); // made, asked in vain, and gone
 
     EXPECT_TRUE(pKernel->CreateObject("CThing", &pThing, thing));
-    EXPECT_EQ(1, FakeCounted::CountLive());
+    EXPECT_EQ(1, Thing::CountLive());
     static_cast<CStubBaseInterface*>(pThing)->Release(); // one reference, the caller's
-    EXPECT_EQ(0, FakeCounted::CountLive());
+    EXPECT_EQ(0, Thing::CountLive());
 
     KRNL_RegisterClass("CThing", nullptr);
     EXPECT_FALSE(pKernel->CreateObject("CThing", &pThing, thing));

@@ -202,18 +202,18 @@ TEST_F(DragTest, TheTransferFileIsReadOnceUnlessItChangesAndLetGoOfHoweverTheDra
         EXPECT_EQ(DROPEFFECT_NONE, over(bList, 5));
         std::filesystem::remove(m_folder.At("atoms"));
         EXPECT_EQ(DROPEFFECT_NONE, over(bList, 6));
-        EXPECT_EQ(0, FakeCounted::CountLive());
+        EXPECT_EQ(0, FakeArchive::CountLive());
 
         DragIn("y\n");
         for (int i = 0; i < 3; ++i)
             over(bList, i);
-        EXPECT_EQ(2, FakeCounted::CountLive()); // archive and stream
+        EXPECT_EQ(2, FakeArchive::CountLive()); // archive and stream
         desktop.DragOut();
-        EXPECT_EQ(0, FakeCounted::CountLive());
+        EXPECT_EQ(0, FakeArchive::CountLive());
         over(bList, 0);
         over(bList, 1);
         desktop.Release(bList ? list->m_hWnd : tree->m_hWnd, bList ? EmptyPoint() : ItemPoint(pBox));
-        EXPECT_EQ(0, FakeCounted::CountLive());
+        EXPECT_EQ(0, FakeArchive::CountLive());
         EXPECT_EQ("y", pBox->members.back()->name);
         pBox->Remove(pBox->members.back().Get());
     }
@@ -221,7 +221,7 @@ TEST_F(DragTest, TheTransferFileIsReadOnceUnlessItChangesAndLetGoOfHoweverTheDra
     over(false, 0);
     over(false, 1);
     tree->DestroyWindow();
-    EXPECT_EQ(0, FakeCounted::CountLive());
+    EXPECT_EQ(0, FakeArchive::CountLive());
     desktop.DragOut();
 }
 

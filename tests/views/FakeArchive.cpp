@@ -35,6 +35,7 @@ FakeArchives::FakeArchives()
 FakeArchives::~FakeArchives()
 {
     KRNL_RegisterClass("CArchiveImp", nullptr);
+    EXPECT_EQ(0, FakeArchive::CountLive());
 }
 
 ArchiveRef Holding(const std::string& bytes)

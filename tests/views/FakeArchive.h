@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-class FakeStream final : public FakeCounted, public IMemoryStream
+class FakeStream final : public FakeCounted<IByteStream>, public IMemoryStream
 {
 public:
     explicit FakeStream(bool bHasBlock) : m_bHasBlock(bHasBlock) {}
@@ -25,7 +25,7 @@ private:
     const bool m_bHasBlock;
 };
 
-class FakeArchive final : public FakeCounted, public IArchive
+class FakeArchive final : public FakeCounted<IByteStream>, public IArchive
 {
 public:
     void GetInterface(DWORD id, void** out) override;

@@ -20,7 +20,7 @@
 class FakeContainer;
 
 // An atom with whatever interfaces its members give it.
-class FakeAtom : public FakeCounted,
+class FakeAtom : public FakeCounted<FakeAtom>,
                  public virtual IAtom,
                  public IDispAtom,
                  public IAtomIcon,

@@ -15,10 +15,10 @@ std::string Walk(const CObjectsListCache& cache)
     return strRows;
 }
 
-void Store(CObjectsListCache& cache, std::initializer_list<int> rows, DWORD dwTick = 0)
+void Store(CObjectsListCache& cache, std::initializer_list<int> rows)
 {
     for (const int nRow : rows)
-        cache.Store(nRow, {dwTick, nRow, ""});
+        cache.Store(nRow, {0, nRow, ""});
 }
 
 TEST(ObjectsListCacheTest, IsWalkedBucketByBucketTheLatestRowFirst)
@@ -43,23 +43,6 @@ TEST(ObjectsListCacheTest, IsWalkedBucketByBucketTheLatestRowFirst)
     cache.RemoveAll();
     EXPECT_EQ("", Walk(cache));
     EXPECT_EQ(0, cache.GetCount());
-}
-
-TEST(ObjectsListCacheTest, TheOldestRowIsTheFirstOfTheMostAgedAndNeverOneOfThisMillisecond)
-{
-    CObjectsListCache cache;
-    EXPECT_EQ(-1, cache.FindOldest(100));
-    Store(cache, {0, 1, 2, 40}, 100);
-    EXPECT_EQ(-1, cache.FindOldest(100));
-    EXPECT_EQ(2, cache.FindOldest(101)); // all are as old: the map's first
-    cache.Touch(2, 101);
-    EXPECT_EQ(1, cache.FindOldest(101));
-    cache.Touch(40, 99);
-    EXPECT_EQ(40, cache.FindOldest(101));
-
-    cache.Touch(0, 0xFFFFFFF0); // before the counter wrapped: 32 milliseconds ago
-    Store(cache, {1, 2, 40}, 0);
-    EXPECT_EQ(0, cache.FindOldest(16));
 }
 
 TEST(ObjectsListCacheTest, RowsMoveUpIntoTheSpareMapInWalkingOrder)

@@ -53,20 +53,6 @@ TEST_F(TreeDisplayTest, LabelsAreAskedForEachTimeAndMarkWhatIsModified)
     EXPECT_EQ("other", tree.Labels(box));
 }
 
-TEST_F(TreeDisplayTest, ANameIsEditedWithoutTheMarkOfAModifiedAtom)
-{
-    box->permissions = APF_RENAME;
-    ProbeTree& tree = ShowTree();
-    for (const bool isModified : {true, false}) {
-        a->name = isModified ? "a" : "a *"; // which is a name like any other
-        a->isModified = isModified;
-        const HWND hField = tree.EditLabel(tree.GetItem(a));
-        EXPECT_EQ(a->name, ::GetWindowText(hField).GetString());
-        tree.EndEditLabelNow(TRUE);
-        desktop.Run();
-    }
-}
-
 TEST_F(TreeDisplayTest, APaintAsksForWhatIsVisibleAndAChangeRepaintsAtOnce)
 {
     for (int i = 0; i < 300; ++i)

@@ -21,7 +21,7 @@ ViewTest::~ViewTest()
     editor.active.Release();
     desktop.Run();
 
-    EXPECT_EQ(0, FakeCounted::CountLive());
+    EXPECT_EQ(0, FakeAtom::CountLive());
     EXPECT_EQ(0, editor.CountReferences());
     EXPECT_EQ(0, KRNL_CountReferences());
     EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
