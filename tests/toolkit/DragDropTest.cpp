@@ -115,6 +115,19 @@ protected:
         return TakeLedger();
     }
 
+    Ledger DragToRight()
+    {
+        return Drag([this] { desktop.Release(right.m_hWnd, {10, 50}); });
+    }
+
+    // What is written when it is dragged there, and then the rest.
+    static Ledger OverRight(const Ledger& rest)
+    {
+        Ledger lines{"left enter 30,50", "left leave", "right enter 10,50", "right over 10,50"};
+        lines.insert(lines.end(), rest.begin(), rest.end());
+        return lines;
+    }
+
     SpyWnd frame{"frame", *this, {}}, left{"left", *this, {WM_LBUTTONUP}}, right{"right", *this, {WM_VSCROLL}};
     SpyTarget leftTarget{"left", *this}, rightTarget{"right", *this};
     std::unique_ptr<COleDataSource> source;
@@ -152,62 +165,44 @@ TEST_F(DragDropTest, EscapeAnotherButtonAndTheEndOfTheScriptCancel)
     EXPECT_EQ(cancelled, Drag([] {}));
 }
 
-TEST_F(DragDropTest, ADropThatIsRefusedHasNoEffect)
+TEST_F(DragDropTest, TheTargetSaysWhatBecomesOfADrop)
 {
     rightTarget.takes = FALSE;
-    const auto drop = [&] { desktop.Release(right.m_hWnd, {10, 50}); };
-    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "right enter 10,50", "right over 10,50",
-                      "right drop 10,50 move path", "dragged: none"}),
-              Drag(drop));
+    EXPECT_EQ(OverRight({"right drop 10,50 move path", "dragged: none"}), DragToRight());
+    rightTarget.performed = DROPEFFECT_COPY; // it has handled it all itself, though a move was asked for
+    EXPECT_EQ(OverRight({"dragged: copy"}), DragToRight());
     rightTarget.over = DROPEFFECT_NONE;
-    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "right enter 10,50", "right over 10,50", "right leave",
-                      "dragged: none"}),
-              Drag(drop));
-}
-
-TEST_F(DragDropTest, ATargetThatHandlesTheWholeDropItselfSaysWhatItDid)
-{
-    rightTarget.performed = DROPEFFECT_COPY; // though a move was asked for
-    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "right enter 10,50", "right over 10,50", "dragged: copy"}),
-              Drag([&] {
-                  desktop.Release(right.m_hWnd, {10, 50});
-              }));
+    EXPECT_EQ(OverRight({"right leave", "dragged: none"}), DragToRight());
 }
 
 TEST_F(DragDropTest, TheSourceSaysWhatMayBeDone)
 {
-    const auto drop = [&] { desktop.Release(right.m_hWnd, {10, 50}); };
     allowed = DROPEFFECT_COPY; // instead of a move
-    EXPECT_EQ("right drop 10,50 copy path", Drag(drop).at(4));
+    EXPECT_EQ(OverRight({"right drop 10,50 copy path", "dragged: copy"}), DragToRight());
     allowed = DROPEFFECT_MOVE; // never instead of a copy
     desktop.Hold({.control = true});
-    EXPECT_EQ("dragged: none", Drag(drop).back());
+    EXPECT_EQ("dragged: none", DragToRight().back());
 }
 
 TEST_F(DragDropTest, AWindowThatIsNoTargetLeavesItToItsParent)
 {
     rightTarget.Revoke();
-    EXPECT_EQ("dragged: none", Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }).back());
+    EXPECT_EQ("dragged: none", DragToRight().back());
     EXPECT_TRUE(rightTarget.Register(&frame));
     EXPECT_FALSE(rightTarget.Register(&right)); // it is registered
     EXPECT_FALSE(SpyTarget("second", *this).Register(&frame));
     EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "right enter 110,50", "right over 110,50",
                       "right drop 110,50 move path", "dragged: move"}),
-              Drag([&] {
-                  desktop.Release(right.m_hWnd, {10, 50});
-              }));
+              DragToRight());
 }
 
-TEST_F(DragDropTest, ADragWhoseDataIsGoneEnds)
+TEST_F(DragDropTest, ADragEndsWithItsDataButOutlivesItsSourcesWindow)
 {
     EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "dragged: none"}), Drag([&] {
                   source.reset();
                   desktop.Release(right.m_hWnd, {10, 50}); // there is nothing left to drop
               }));
-}
-
-TEST_F(DragDropTest, ADragOutlivesItsSourcesWindow)
-{
+    MakeSource();
     EXPECT_EQ(Ledger({"left enter 30,50", "right enter 10,50", "right over 10,50", "right drop 10,50 move path",
                       "dragged: move"}),
               Drag([&] {
@@ -223,12 +218,12 @@ TEST_F(DragDropTest, ATargetThatGoesUnderWayIsAskedNoMore)
     fleeting->Register(&right);
     fleeting->atOver = [&] { fleeting.reset(); };
     const Ledger gone{"left enter 30,50", "left leave", "fleeting enter 10,50", "fleeting over 10,50", "dragged: none"};
-    EXPECT_EQ(gone, Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }));
+    EXPECT_EQ(gone, DragToRight());
 
     fleeting = std::make_unique<SpyTarget>("fleeting", *this);
     fleeting->Register(&right);
     fleeting->atDropEx = [&] { fleeting.reset(); };
-    EXPECT_EQ(gone, Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }));
+    EXPECT_EQ(gone, DragToRight());
 
     rightTarget.Register(&right);
     rightTarget.atOver = [&] { right.DestroyWindow(); };
@@ -243,7 +238,7 @@ TEST_F(DragDropTest, ATargetThatGoesUnderWayIsAskedNoMore)
 TEST_F(DragDropTest, RunningOutOfMemoryInATargetIsReportedAndHasNoEffect)
 {
     rightTarget.atOver = [] { AfxThrowMemoryException(); };
-    EXPECT_EQ("dragged: none", Drag([&] { desktop.Release(right.m_hWnd, {10, 50}); }).back());
+    EXPECT_EQ("dragged: none", DragToRight().back());
     EXPECT_EQ(std::vector<std::string>({": Out of memory."}), desktop.TakeMessageBoxes());
 }
 

@@ -17,12 +17,23 @@ BOOL FieldParent::OnCommand(WPARAM wParam, LPARAM lParam)
 
 std::string FieldState(HWND hField)
 {
+    if (!hField)
+        return "-";
     std::string text(GetWindowText(hField));
     DWORD start = 0, end = 0;
     SendMessage(hField, EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
     if (start == end)
         return text.insert(start, "|");
     return text.insert(end, "]").insert(start, "[");
+}
+
+CRect FieldRect(HWND hField)
+{
+    CRect rect;
+    GetWindowRect(hField, &rect);
+    CPoint corner;
+    ClientToScreen(GetParent(hField), &corner);
+    return rect - corner;
 }
 
 void EditTest::SetUp()

@@ -14,8 +14,9 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 };
 
-// "ab[cd]e": the text with the selection in brackets, or with the caret as a bar.
+// "ab[cd]e": the text with the selection in brackets, or with the caret as a bar; "-" where there is no field.
 std::string FieldState(HWND hField);
+CRect FieldRect(HWND hField); // in its parent's client area
 
 class EditTest : public DesktopTest
 {
@@ -25,6 +26,7 @@ protected:
     std::string State() const { return FieldState(edit.m_hWnd); }
     void Set(LPCSTR pszText); // and the caret at its end; the ledger is empty then
     void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+    std::string AfterKey(UINT vkey, toolkit::Modifiers modifiers = {}) { return Key(vkey, modifiers), State(); }
     Ledger TakeLedger() { return top.book.TakeLedger(); }
     CPoint At(int position) const; // the position's own pixel column, in the line's middle
     // What the clipboard holds as text, as another program reads it; "-" for none.

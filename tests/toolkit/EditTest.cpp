@@ -18,8 +18,7 @@ TEST_F(EditTest, TypedTextGoesInPlaceOfTheSelectionAndTheParentHearsOfEachLetter
     TakeLedger();
     Key(VK_RETURN);
     Key(VK_TAB);
-    Key(VK_ESCAPE);
-    EXPECT_EQ("x|", State());
+    EXPECT_EQ("x|", AfterKey(VK_ESCAPE));
     EXPECT_EQ(Ledger(), TakeLedger());
 }
 
@@ -47,45 +46,33 @@ TEST_F(EditTest, KeysMoveTheCaretByCharactersAndWordsAndSelectWithShift)
     Set("walk le\u0301ft");
     Key(VK_LEFT);
     Key(VK_LEFT);
-    Key(VK_LEFT);
-    EXPECT_EQ("walk l|e\u0301ft", State()) << "never between a letter and its mark";
+    EXPECT_EQ("walk l|e\u0301ft", AfterKey(VK_LEFT)) << "never between a letter and its mark";
     Key(VK_LEFT, kBoth);
-    Key(VK_LEFT, kBoth);
-    EXPECT_EQ("[walk l]e\u0301ft", State());
-    Key(VK_RIGHT);
-    EXPECT_EQ("walk l|e\u0301ft", State()) << "an arrow leaves the selection at its end";
-    Key(VK_END, kShift);
-    EXPECT_EQ("walk l[e\u0301ft]", State());
+    EXPECT_EQ("[walk l]e\u0301ft", AfterKey(VK_LEFT, kBoth));
+    EXPECT_EQ("walk l|e\u0301ft", AfterKey(VK_RIGHT)) << "an arrow leaves the selection at its end";
+    EXPECT_EQ("walk l[e\u0301ft]", AfterKey(VK_END, kShift));
     Key(VK_RIGHT, kShift);
-    Key(VK_HOME, kShift);
-    EXPECT_EQ("[walk l]e\u0301ft", State());
+    EXPECT_EQ("[walk l]e\u0301ft", AfterKey(VK_HOME, kShift));
     Key(VK_HOME);
-    Key(VK_RIGHT, kControl);
-    EXPECT_EQ("walk |le\u0301ft", State());
+    EXPECT_EQ("walk |le\u0301ft", AfterKey(VK_RIGHT, kControl));
     EXPECT_EQ(Ledger(), TakeLedger()) << "moving is no change";
 }
 
 TEST_F(EditTest, DeletingTakesWholeCharactersWordsOrTheSelection)
 {
     Set("a be\u0301 cd");
-    Key(VK_BACK);
-    EXPECT_EQ("a be\u0301 c|", State());
-    Key(VK_BACK, kControl);
-    EXPECT_EQ("a be\u0301 |", State());
+    EXPECT_EQ("a be\u0301 c|", AfterKey(VK_BACK));
+    EXPECT_EQ("a be\u0301 |", AfterKey(VK_BACK, kControl));
     Key(VK_LEFT);
-    Key(VK_BACK);
-    EXPECT_EQ("a b| ", State());
+    EXPECT_EQ("a b| ", AfterKey(VK_BACK));
     Key(VK_HOME);
-    Key(VK_DELETE);
-    EXPECT_EQ("| b ", State());
-    Key(VK_DELETE, kControl);
-    EXPECT_EQ("|b ", State());
+    EXPECT_EQ("| b ", AfterKey(VK_DELETE));
+    EXPECT_EQ("|b ", AfterKey(VK_DELETE, kControl));
     TakeLedger();
     Key(VK_BACK);
     EXPECT_EQ(Ledger(), TakeLedger()) << "nothing before the start";
     Key('A', kControl);
-    Key(VK_DELETE);
-    EXPECT_EQ("|", State());
+    EXPECT_EQ("|", AfterKey(VK_DELETE));
 }
 
 TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)
@@ -94,28 +81,22 @@ TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)
     Key('C', kControl);
     EXPECT_EQ("-", Clipboard()) << "nothing is selected";
     edit.SetSel(5, -1);
-    Key('X', kControl);
-    EXPECT_EQ("walk |", State());
+    EXPECT_EQ("walk |", AfterKey('X', kControl));
     EXPECT_EQ("left", Clipboard());
     Key('V', kControl);
-    Key(VK_INSERT, kShift);
-    EXPECT_EQ("walk leftleft|", State());
-    Key('Z', kControl);
-    EXPECT_EQ("walk left|", State());
-    Key(VK_BACK, kAlt);
-    EXPECT_EQ("walk leftleft|", State()) << "undone twice is done again";
+    EXPECT_EQ("walk leftleft|", AfterKey(VK_INSERT, kShift));
+    EXPECT_EQ("walk left|", AfterKey('Z', kControl));
+    EXPECT_EQ("walk leftleft|", AfterKey(VK_BACK, kAlt)) << "undone twice is done again";
 
     edit.SetSel(0, 4);
     Key(VK_INSERT, kControl);
     EXPECT_EQ("walk", Clipboard());
-    Key(VK_DELETE, kShift);
-    EXPECT_EQ("| leftleft", State());
+    EXPECT_EQ("| leftleft", AfterKey(VK_DELETE, kShift));
 
     TakeClipboard("\r\nfirst \tline\nsecond");
     Key('A', kControl);
     TakeLedger();
-    Key('V', kControl);
-    EXPECT_EQ("first \tline|", State()) << "a single line takes one line";
+    EXPECT_EQ("first \tline|", AfterKey('V', kControl)) << "a single line takes one line";
     EXPECT_EQ(Ledger({"update", "change"}), TakeLedger());
 }
 
@@ -148,12 +129,10 @@ TEST_F(EditTest, TheLimitCutsWhatIsTypedOrPastedBetweenCharactersAndSaysSo)
     edit.LimitText(4);
     Set("abc");
     TakeClipboard("€");
-    Key('V', kControl);
-    EXPECT_EQ("abc|", State());
+    EXPECT_EQ("abc|", AfterKey('V', kControl));
     EXPECT_EQ(Ledger({"too long"}), TakeLedger());
     TakeClipboard("xyz");
-    Key('V', kControl);
-    EXPECT_EQ("abcx|", State());
+    EXPECT_EQ("abcx|", AfterKey('V', kControl));
     EXPECT_EQ(Ledger({"update", "change", "too long"}), TakeLedger());
     edit.SetSel(0, 2);
     desktop.Type("ä");
@@ -163,8 +142,7 @@ TEST_F(EditTest, TheLimitCutsWhatIsTypedOrPastedBetweenCharactersAndSaysSo)
     desktop.Type("z");
     Key(VK_BACK);
     Key('V', kControl);
-    Key('Z', kControl);
-    EXPECT_EQ("ä|cx", State());
+    EXPECT_EQ("ä|cx", AfterKey('Z', kControl));
     edit.SetSel(0, -1);
     Key('X', kControl);
     EXPECT_EQ("äcx", Clipboard()) << "a read-only field can be copied from";
@@ -182,8 +160,7 @@ TEST_F(EditTest, PositionsAreBytesAndOnesInsideACharacterCountAsItsStart)
     EXPECT_EQ("a€e\u0301x|", State()) << "the caret was at the end";
     edit.SetSel(4, 1);
     EXPECT_EQ("a[€]e\u0301x", State());
-    Key(VK_LEFT, kShift);
-    EXPECT_EQ("[a€]e\u0301x", State()) << "the second position is the caret's";
+    EXPECT_EQ("[a€]e\u0301x", AfterKey(VK_LEFT, kShift)) << "the second position is the caret's";
     edit.ReplaceSel("b", TRUE);
     EXPECT_EQ("b|e\u0301x", State());
     EXPECT_TRUE(edit.Undo());
@@ -228,8 +205,7 @@ TEST_F(EditTest, TheContextMenuOffersWhatCanBeDoneNow)
     desktop.Click(edit.m_hWnd, At(1), MouseButton::Right);
     EXPECT_EQ("[walk]", State());
     desktop.Choose("Cut");
-    Key(VK_APPS);
-    EXPECT_EQ("|", State());
+    EXPECT_EQ("|", AfterKey(VK_APPS));
     EXPECT_EQ("walk", Clipboard());
     edit.SetReadOnly();
     Key(VK_F10, kShift);

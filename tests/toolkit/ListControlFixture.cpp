@@ -125,18 +125,21 @@ void LedgerList::OnEvent(NMHDR* pHeader, LRESULT*)
 void ListControlTest::SetUp()
 {
     ASSERT_TRUE(top.CreateEx(0, "", "", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 600, 320), nullptr, 0));
-    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_SHOWSELALWAYS | LVS_OWNERDATA, CRect(0, 0, 330, 300), &top,
-                            kControlID));
     ASSERT_TRUE(other.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(400, 0, 500, 100), &top, kControlID + 1));
-
     ASSERT_TRUE(images.Create(48, 48, ILC_COLOR32, 0, 4));
     const HBITMAP hRed = CreateBitmapFromSurface(Surface({48, 48}, ToPixel(RGB(255, 0, 0))));
     ImageList_Add(images.GetSafeHandle(), hRed, nullptr);
     DeleteBitmap(hRed);
-    list.SetImageList(&images, LVSIL_NORMAL);
+    ShowList(LVS_SHOWSELALWAYS);
     Fill(6);
     list.SetFocus();
     TakeLedger();
+}
+
+void ListControlTest::ShowList(DWORD style)
+{
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_OWNERDATA | style, CRect(0, 0, 330, 300), &top, kControlID));
+    list.SetImageList(&images, LVSIL_NORMAL);
 }
 
 void ListControlTest::Fill(int rows)

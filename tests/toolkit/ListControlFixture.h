@@ -48,7 +48,8 @@ class ListControlTest : public DesktopTest
 protected:
     void SetUp() override;
 
-    void Fill(int rows); // and paints; the ledger is empty then
+    void ShowList(DWORD style); // after it was destroyed, again
+    void Fill(int rows);        // and paints; the ledger is empty then
 
     CPoint IconOf(int row) const;
     CPoint LabelOf(int row) const;
@@ -57,7 +58,9 @@ protected:
     Ledger TakeLedger() { return list.TakeLedger(); }
 
     void Click(int row, toolkit::Modifiers modifiers = {});
+    std::string AfterClick(int row, toolkit::Modifiers modifiers = {}) { return Click(row, modifiers), State(); }
     void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+    std::string AfterKey(UINT vkey, toolkit::Modifiers modifiers = {}) { return Key(vkey, modifiers), State(); }
     void Drag(CPoint from, CPoint to, toolkit::Modifiers modifiers = {}); // the button stays down
 
     static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false};

@@ -8,8 +8,7 @@ namespace
 
 TEST_F(ListControlTest, AClickSelectsOneRowAloneAndTellsEachStep)
 {
-    Click(1);
-    EXPECT_EQ("[a (*b) c d e f]", State());
+    EXPECT_EQ("[a (*b) c d e f]", AfterClick(1));
     EXPECT_EQ(Ledger({"b? +selected +focused", "b: +selected +focused", "click b"}), TakeLedger());
 
     desktop.Press(list.m_hWnd, LabelOf(4));
@@ -31,13 +30,11 @@ TEST_F(ListControlTest, ARefusedChangeLeavesTheRowAsItWas)
 {
     Click(0);
     list.refuses = [](const std::string& line) { return line == "b? +selected +focused" || line == "c? -selected"; };
-    Click(1);
-    EXPECT_EQ("[(a) b c d e f]", State());
+    EXPECT_EQ("[(a) b c d e f]", AfterClick(1));
 
     Click(2);
     TakeLedger();
-    Click(3);
-    EXPECT_EQ("[a b *c (*d) e f]", State());
+    EXPECT_EQ("[a b *c (*d) e f]", AfterClick(3));
     EXPECT_EQ(Ledger({"c? -selected", "d? +selected +focused", "c? -focused", "c: -focused", "d: +selected +focused",
                       "click d"}),
               TakeLedger());
@@ -81,20 +78,16 @@ TEST_F(ListControlTest, ControlTogglesWhenTheButtonIsReleased)
 TEST_F(ListControlTest, ShiftTakesTheRectangleBetweenTheAnchorAndTheRow)
 {
     Click(1);
-    Click(5, kShift);
-    EXPECT_EQ("[a *b *c d *e (*f)]", State());
-    Click(3, kShift); // from the same anchor
-    EXPECT_EQ("[*a *b c (*d) *e f]", State());
+    EXPECT_EQ("[a *b *c d *e (*f)]", AfterClick(5, kShift));
+    EXPECT_EQ("[*a *b c (*d) *e f]", AfterClick(3, kShift)); // from the same anchor
     TakeLedger();
-    Click(0, kShift); // one of several selected: only at the release
-    EXPECT_EQ("[(*a) *b c d e f]", State());
+    EXPECT_EQ("[(*a) *b c d e f]", AfterClick(0, kShift)); // one of several selected: only at the release
     EXPECT_EQ(Ledger({"d? -selected", "d: -selected", "e? -selected", "e: -selected", "a? +focused", "d? -focused",
                       "d: -focused", "a: +focused", "click a"}),
               TakeLedger());
 
     Click(5, kControl);
-    Click(2, {true, true, false}); // beside what is selected
-    EXPECT_EQ("[*a *b (*c) d e *f]", State());
+    EXPECT_EQ("[*a *b (*c) d e *f]", AfterClick(2, {true, true, false})); // beside what is selected
 }
 
 TEST_F(ListControlTest, APressOnOneOfSeveralSelectedRowsWaits)
@@ -187,28 +180,24 @@ TEST_F(ListControlTest, AReleaseWithoutAPressDoesNothingAndOneSentEndsAPress)
 
 TEST_F(ListControlTest, KeysMoveTheFocusAndWithItTheSelection)
 {
-    const auto press = [&](UINT vkey, Modifiers modifiers = {}) {
-        Key(vkey, modifiers);
-        return State();
-    };
-    EXPECT_EQ("[(*a) b c d e f]", press(VK_RIGHT)); // the first key comes to the first row
-    EXPECT_EQ("[a (*b) c d e f]", press(VK_RIGHT));
-    EXPECT_EQ("[a b c d (*e) f]", press(VK_DOWN));
-    EXPECT_EQ("[a b c d (*e) f]", press(VK_DOWN));
-    EXPECT_EQ("[a b c (*d) e f]", press(VK_LEFT));
-    EXPECT_EQ("[a b (*c) d e f]", press(VK_LEFT)); // on to the line before
-    EXPECT_EQ("[a b *c (d) e f]", press(VK_RIGHT, kControl));
-    EXPECT_EQ("[a b *c (*d) e f]", press(VK_SPACE, kControl));
-    EXPECT_EQ("[a b *c (d) e f]", press(VK_SPACE, kControl));
-    EXPECT_EQ("[a b c (*d) e f]", press(VK_SPACE));
-    EXPECT_EQ("[(*a) b c *d e f]", press(VK_UP, kShift));
-    EXPECT_EQ("[*a (*b) c *d *e f]", press(VK_RIGHT, kShift));
-    EXPECT_EQ("[a b c *d *e (*f)]", press(VK_END, kShift)); // all rows to the end
-    EXPECT_EQ("[(*a) b c d e f]", press(VK_HOME));
+    EXPECT_EQ("[(*a) b c d e f]", AfterKey(VK_RIGHT)); // the first key comes to the first row
+    EXPECT_EQ("[a (*b) c d e f]", AfterKey(VK_RIGHT));
+    EXPECT_EQ("[a b c d (*e) f]", AfterKey(VK_DOWN));
+    EXPECT_EQ("[a b c d (*e) f]", AfterKey(VK_DOWN));
+    EXPECT_EQ("[a b c (*d) e f]", AfterKey(VK_LEFT));
+    EXPECT_EQ("[a b (*c) d e f]", AfterKey(VK_LEFT)); // on to the line before
+    EXPECT_EQ("[a b *c (d) e f]", AfterKey(VK_RIGHT, kControl));
+    EXPECT_EQ("[a b *c (*d) e f]", AfterKey(VK_SPACE, kControl));
+    EXPECT_EQ("[a b *c (d) e f]", AfterKey(VK_SPACE, kControl));
+    EXPECT_EQ("[a b c (*d) e f]", AfterKey(VK_SPACE));
+    EXPECT_EQ("[(*a) b c *d e f]", AfterKey(VK_UP, kShift));
+    EXPECT_EQ("[*a (*b) c *d *e f]", AfterKey(VK_RIGHT, kShift));
+    EXPECT_EQ("[a b c *d *e (*f)]", AfterKey(VK_END, kShift)); // all rows to the end
+    EXPECT_EQ("[(*a) b c d e f]", AfterKey(VK_HOME));
     list.SetItemCount(5);
-    press(VK_RIGHT);
-    EXPECT_EQ("[a b (*c) d e]", press(VK_RIGHT));
-    EXPECT_EQ("[a b c d (*e)]", press(VK_DOWN)); // the last line does not reach so far
+    Key(VK_RIGHT);
+    EXPECT_EQ("[a b (*c) d e]", AfterKey(VK_RIGHT));
+    EXPECT_EQ("[a b c d (*e)]", AfterKey(VK_DOWN)); // the last line does not reach so far
 }
 
 TEST_F(ListControlTest, PagesKeepTheColumnAndTheFocusComesIntoSight)
@@ -316,8 +305,7 @@ TEST_F(ListControlTest, ASingleSelectionListNeverHasTwoSelected)
 {
     ModifyStyle(list.m_hWnd, 0, LVS_SINGLESEL);
     Click(0);
-    Click(2, kShift);
-    EXPECT_EQ("[a b (*c) d e f]", State());
+    EXPECT_EQ("[a b (*c) d e f]", AfterClick(2, kShift));
     Click(3, kControl);
     EXPECT_EQ("d", Selected());
     Key('A', kControl);
@@ -381,8 +369,7 @@ TEST_F(ListControlUpsetTest, TheOwnerMayDestroyTheListInAnyNotification)
     int n = 1;
     while (Upset(n, [&] { list.DestroyWindow(); })) {
         EXPECT_EQ(nullptr, list.m_hWnd) << "at notification " << n;
-        ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_SHOWSELALWAYS, CRect(0, 0, 330, 300), &top, 7));
-        list.SetImageList(&images, LVSIL_NORMAL);
+        ShowList(LVS_SHOWSELALWAYS);
         Fill(40);
         list.SetFocus();
         ++n;

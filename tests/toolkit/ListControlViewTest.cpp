@@ -36,6 +36,12 @@ protected:
 
     COLORREF ColorAt(CPoint client) { return ToColor(desktop.Dump(list.m_hWnd).At(client.x, client.y)); }
 
+    std::string AfterSweep(CPoint to)
+    {
+        desktop.MoveTo(list.m_hWnd, to);
+        return Selected();
+    }
+
     CRect Part(int row, int area) const
     {
         CRect rect;
@@ -51,14 +57,10 @@ TEST_F(ListControlViewTest, TheRubberBandSelectsWhatItTouchesWhileItMoves)
     TakeLedger();
     desktop.Press(list.m_hWnd, start);
     EXPECT_EQ("", Selected());
-    desktop.MoveTo(list.m_hWnd, {230, 60});
-    EXPECT_EQ("b", Selected());
-    desktop.MoveTo(list.m_hWnd, {260, 130});
-    EXPECT_EQ("bcef", Selected());
-    desktop.MoveTo(list.m_hWnd, {10, 130});
-    EXPECT_EQ("ad", Selected());
-    desktop.MoveTo(list.m_hWnd, start + CPoint(1, 1));
-    EXPECT_EQ("", Selected());
+    EXPECT_EQ("b", AfterSweep({230, 60}));
+    EXPECT_EQ("bcef", AfterSweep({260, 130}));
+    EXPECT_EQ("ad", AfterSweep({10, 130}));
+    EXPECT_EQ("", AfterSweep(start + CPoint(1, 1)));
     desktop.MoveTo(list.m_hWnd, {160, 30});
     TakeLedger();
     desktop.Release(list.m_hWnd, {160, 30});
@@ -73,14 +75,11 @@ TEST_F(ListControlViewTest, WithControlTheRubberBandTogglesAgainstWhatItBeganWit
     Click(1, kControl);
     Drag({105, 90}, {160, 10}, kControl); // over b
     EXPECT_EQ("a", Selected());
-    desktop.MoveTo(list.m_hWnd, {160, 130}); // over e instead
-    EXPECT_EQ("abe", Selected());
+    EXPECT_EQ("abe", AfterSweep({160, 130})); // over e instead
     desktop.Release(list.m_hWnd, {160, 130});
     Drag({105, 90}, {10, 10}, kShift); // over a, which stays
-    desktop.MoveTo(list.m_hWnd, {10, 130});
-    EXPECT_EQ("abde", Selected());
-    desktop.MoveTo(list.m_hWnd, {10, 10});
-    EXPECT_EQ("abe", Selected());
+    EXPECT_EQ("abde", AfterSweep({10, 130}));
+    EXPECT_EQ("abe", AfterSweep({10, 10}));
     desktop.Release(list.m_hWnd, {10, 10});
 }
 

@@ -1,6 +1,7 @@
 #include "Toolkit/controls/ListLayout.h"
 
 #include "Toolkit/controls/ListLabel.h"
+#include "tests/toolkit/Ruler.h"
 
 #include <gtest/gtest.h>
 
@@ -112,25 +113,6 @@ TEST(ListLayoutTest, AWiderViewKeepsTheRowAtItsTop)
     EXPECT_EQ(0, layout.ScrollPosition());
 }
 
-// Counts what it is asked; each code point is ten pixels wide.
-class TenPixelEngine : public TextEngine
-{
-public:
-    TenPixelEngine() { InstallTextEngine(this); }
-    ~TenPixelEngine() override { InstallTextEngine(nullptr); }
-
-    int LineHeight() const override { return 13; }
-    int Measure(std::string_view text, FontStyle) override
-    {
-        ++measured;
-        return 10 *
-               static_cast<int>(std::count_if(text.begin(), text.end(), [](char c) { return (c & 0xC0) != 0x80; }));
-    }
-    void Draw(Surface&, const CRect&, CPoint, std::string_view, COLORREF, FontStyle) override {}
-
-    int measured = 0;
-};
-
 std::string Wrapped(std::string_view text, int width = 100, int maxLines = 2)
 {
     std::string all;
@@ -143,7 +125,7 @@ std::string Wrapped(std::string_view text, int width = 100, int maxLines = 2)
 
 TEST(ListLabelTest, ANameIsBrokenWhereItReadsBest)
 {
-    TenPixelEngine engine;
+    Ruler ruler;
     EXPECT_EQ("short", Wrapped("short"));
     EXPECT_EQ("ten chars.", Wrapped("ten chars."));
     EXPECT_EQ("a walk in|the sun", Wrapped("a walk in the sun"));
@@ -166,12 +148,12 @@ TEST(ListLabelTest, ANameIsBrokenWhereItReadsBest)
 
 TEST(ListLabelTest, ALongNameIsMeasuredAFewTimesOnly)
 {
-    TenPixelEngine engine;
+    Ruler ruler;
     WrapLabel(std::string(4000, 'x'), 100, 2);
-    EXPECT_LT(engine.measured, 40);
-    engine.measured = 0;
+    EXPECT_LT(ruler.asked, 40);
+    ruler.asked = 0;
     WrapLabel("IMG_20240611_174502.jpeg", 100, 2);
-    EXPECT_LT(engine.measured, 20);
+    EXPECT_LT(ruler.asked, 20);
 }
 
 } // namespace

@@ -63,22 +63,22 @@ TEST_F(QueueTest, WhatWasPostedToADestroyedWindowIsDropped)
 
 TEST_F(QueueTest, TimersKeepTheirPeriodAndAreOwedOneMessageAtMost)
 {
+    const auto after = [this](DWORD milliseconds) {
+        desktop.Advance(milliseconds);
+        return TakeLedger();
+    };
     desktop.SetTicks(0xFFFFFFF0); // the clock wraps around meanwhile
     EXPECT_EQ(7u, SetTimer(frame.m_hWnd, 7, 30));
     SetTimer(frame.m_hWnd, 8, 1); // 10 at least
-    desktop.Advance(29);
-    EXPECT_EQ(Ledger({"frame TIMER 8", "frame TIMER 8"}), TakeLedger());
+    EXPECT_EQ(Ledger({"frame TIMER 8", "frame TIMER 8"}), after(29));
     KillTimer(frame.m_hWnd, 8);
     SetTimer(frame.m_hWnd, 7, 30); // anew
-    desktop.Advance(29);
-    EXPECT_EQ(Ledger(), TakeLedger());
-    desktop.Advance(1);
-    EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
+    EXPECT_EQ(Ledger(), after(29));
+    EXPECT_EQ(Ledger({"frame TIMER 7"}), after(1));
     desktop.SetTicks(desktop.Ticks() + 1000); // the machine was busy
     desktop.Run();
     EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
-    desktop.Advance(30);
-    EXPECT_EQ(Ledger({"frame TIMER 7"}), TakeLedger());
+    EXPECT_EQ(Ledger({"frame TIMER 7"}), after(30));
     EXPECT_TRUE(KillTimer(frame.m_hWnd, 7));
     EXPECT_FALSE(KillTimer(frame.m_hWnd, 7));
     EXPECT_EQ(desktop.Ticks(), GetTickCount());

@@ -110,15 +110,16 @@ TEST_F(ScrollingTest, TheThumbIsDraggedFromEndToEnd)
 {
     SetScrollInfo(rows.m_hWnd, SB_VERT, {0, kGreatest, 1000, 0, 0});
     TakeLedger();
+    const auto after = [this](CPoint to) {
+        desktop.MoveTo(rows.m_hWnd, to);
+        return rows.Pos();
+    };
     desktop.Press(rows.m_hWnd, {93, 10});
     EXPECT_EQ(rows.m_hWnd, GetCapture());
-    desktop.MoveTo(rows.m_hWnd, {93, 10 + 272}); // the track less the thumb
-    EXPECT_EQ(kGreatest - 999, rows.Pos());
-    desktop.MoveTo(rows.m_hWnd, {500, 10 + 136}); // beside the bar, too
-    EXPECT_EQ((kGreatest - 999) / 2, rows.Pos());
+    EXPECT_EQ(kGreatest - 999, after({93, 10 + 272}));        // the track less the thumb
+    EXPECT_EQ((kGreatest - 999) / 2, after({500, 10 + 136})); // beside the bar, too
     desktop.MoveTo(rows.m_hWnd, {93, 11});
-    desktop.MoveTo(rows.m_hWnd, {93, 10});
-    EXPECT_EQ(0, rows.Pos());
+    EXPECT_EQ(0, after({93, 10}));
     desktop.Release(rows.m_hWnd, {93, 10});
     EXPECT_EQ(nullptr, GetCapture());
     EXPECT_EQ(Ledger({"rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 8"}),
@@ -127,33 +128,31 @@ TEST_F(ScrollingTest, TheThumbIsDraggedFromEndToEnd)
     SetScrollInfo(rows.m_hWnd, SB_VERT, {0, kGreatest, 1000, 1234567, 0});
     desktop.Press(rows.m_hWnd, {93, 10});
     desktop.MoveTo(rows.m_hWnd, {93, 50});
-    desktop.MoveTo(rows.m_hWnd, {93, 10}); // back where it was taken
-    EXPECT_EQ(1234567, rows.Pos());
-    rows.DestroyWindow(); // in the middle of it
+    EXPECT_EQ(1234567, after({93, 10})); // back where it was taken
+    rows.DestroyWindow();                // in the middle of it
     desktop.MoveTo(frame.m_hWnd, {93, 60});
     desktop.Release(frame.m_hWnd, {93, 60});
 }
 
 TEST_F(ScrollingTest, APressOnTheTrackPagesUntilTheThumbIsUnderTheMouse)
 {
+    const auto after = [this](DWORD milliseconds) {
+        desktop.Advance(milliseconds);
+        return rows.Pos();
+    };
     SetScrollInfo(rows.m_hWnd, SB_VERT, {0, 999, 100, 0, 0});
     desktop.Press(rows.m_hWnd, {93, 150}); // the thumb is 30 long
     EXPECT_EQ(100, rows.Pos());
-    desktop.Advance(399);
-    EXPECT_EQ(100, rows.Pos());
-    desktop.Advance(1 + 50);
-    EXPECT_EQ(300, rows.Pos());
-    desktop.Advance(5000);
-    EXPECT_EQ(500, rows.Pos()); // it has arrived
+    EXPECT_EQ(100, after(399));
+    EXPECT_EQ(300, after(1 + 50));
+    EXPECT_EQ(500, after(5000)); // it has arrived
     desktop.MoveTo(rows.m_hWnd, {93, 290});
-    desktop.Advance(1000);
-    EXPECT_EQ(900, rows.Pos());
+    EXPECT_EQ(900, after(1000));
     desktop.Release(rows.m_hWnd, {93, 290});
     desktop.Press(rows.m_hWnd, {93, 5});
     EXPECT_EQ(800, rows.Pos());
     desktop.Release(rows.m_hWnd, {93, 5});
-    desktop.Advance(1000);
-    EXPECT_EQ(800, rows.Pos());
+    EXPECT_EQ(800, after(1000));
 }
 
 TEST_F(ScrollingTest, TheThumbShowsThatTheMouseIsOnIt)

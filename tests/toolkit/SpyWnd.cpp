@@ -2,42 +2,78 @@
 
 namespace
 {
-const std::map<UINT, std::string> kNames = {
-    {WM_NCCREATE, "NCCREATE"},
-    {WM_CREATE, "CREATE"},
-    {WM_SIZE, "SIZE"},
-    {WM_MOVE, "MOVE"},
-    {WM_SHOWWINDOW, "SHOWWINDOW"},
-    {WM_DESTROY, "DESTROY"},
-    {WM_NCDESTROY, "NCDESTROY"},
-    {WM_SETFOCUS, "SETFOCUS"},
-    {WM_KILLFOCUS, "KILLFOCUS"},
-    {WM_PAINT, "PAINT"},
-    {WM_TIMER, "TIMER"},
-    {WM_USER, "USER"},
-    {WM_APP, "APP"},
-    {WM_MOUSEMOVE, "MOUSEMOVE"},
-    {WM_MOUSELEAVE, "MOUSELEAVE"},
-    {WM_LBUTTONDOWN, "LBUTTONDOWN"},
-    {WM_LBUTTONUP, "LBUTTONUP"},
-    {WM_LBUTTONDBLCLK, "LBUTTONDBLCLK"},
-    {WM_RBUTTONDOWN, "RBUTTONDOWN"},
-    {WM_RBUTTONUP, "RBUTTONUP"},
-    {WM_CONTEXTMENU, "CONTEXTMENU"},
-    {WM_CAPTURECHANGED, "CAPTURECHANGED"},
-    {WM_KEYDOWN, "KEYDOWN"},
-    {WM_KEYUP, "KEYUP"},
-    {WM_SYSKEYDOWN, "SYSKEYDOWN"},
-    {WM_CHAR, "CHAR"},
-    {WM_MOUSEWHEEL, "MOUSEWHEEL"},
-    {WM_VSCROLL, "VSCROLL"},
-    {WM_ENABLE, "ENABLE"},
-    {WM_CLOSE, "CLOSE"},
+enum class Says
+{
+    Nothing,
+    Number,
+    Code,
+    Place,
+    Focus,
+    Menu,
+    Wheel
+}; // what follows the message's name
+
+const std::map<UINT, std::pair<std::string, Says>> kMessages = {
+    {WM_NCCREATE, {"NCCREATE", Says::Nothing}},
+    {WM_CREATE, {"CREATE", Says::Nothing}},
+    {WM_SIZE, {"SIZE", Says::Place}},
+    {WM_MOVE, {"MOVE", Says::Place}},
+    {WM_SHOWWINDOW, {"SHOWWINDOW", Says::Number}},
+    {WM_DESTROY, {"DESTROY", Says::Nothing}},
+    {WM_NCDESTROY, {"NCDESTROY", Says::Nothing}},
+    {WM_SETFOCUS, {"SETFOCUS", Says::Focus}},
+    {WM_KILLFOCUS, {"KILLFOCUS", Says::Focus}},
+    {WM_PAINT, {"PAINT", Says::Nothing}},
+    {WM_TIMER, {"TIMER", Says::Number}},
+    {WM_USER, {"USER", Says::Number}},
+    {WM_APP, {"APP", Says::Number}},
+    {WM_MOUSEMOVE, {"MOUSEMOVE", Says::Place}},
+    {WM_MOUSELEAVE, {"MOUSELEAVE", Says::Nothing}},
+    {WM_LBUTTONDOWN, {"LBUTTONDOWN", Says::Place}},
+    {WM_LBUTTONUP, {"LBUTTONUP", Says::Place}},
+    {WM_LBUTTONDBLCLK, {"LBUTTONDBLCLK", Says::Place}},
+    {WM_RBUTTONDOWN, {"RBUTTONDOWN", Says::Place}},
+    {WM_RBUTTONUP, {"RBUTTONUP", Says::Place}},
+    {WM_CONTEXTMENU, {"CONTEXTMENU", Says::Menu}},
+    {WM_CAPTURECHANGED, {"CAPTURECHANGED", Says::Nothing}},
+    {WM_KEYDOWN, {"KEYDOWN", Says::Number}},
+    {WM_KEYUP, {"KEYUP", Says::Number}},
+    {WM_SYSKEYDOWN, {"SYSKEYDOWN", Says::Number}},
+    {WM_CHAR, {"CHAR", Says::Number}},
+    {WM_MOUSEWHEEL, {"MOUSEWHEEL", Says::Wheel}},
+    {WM_VSCROLL, {"VSCROLL", Says::Code}},
+    {WM_CLOSE, {"CLOSE", Says::Nothing}},
 };
 
-std::string Point(LPARAM lParam)
+std::string Name(HWND hWnd)
 {
-    return std::string(" ") + std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam));
+    return std::string(::GetWindowText(hWnd));
+}
+
+std::string Place(LPARAM lParam)
+{
+    return std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam));
+}
+
+std::string Parameters(Says says, WPARAM wParam, LPARAM lParam)
+{
+    const HWND hOther = reinterpret_cast<HWND>(wParam);
+    switch (says) {
+    case Says::Number:
+        return " " + std::to_string(wParam);
+    case Says::Code:
+        return " " + std::to_string(LOWORD(wParam));
+    case Says::Place:
+        return " " + Place(lParam);
+    case Says::Focus:
+        return " " + (hOther ? Name(hOther) : "-") + " (" + Name(::GetFocus()) + ")";
+    case Says::Menu:
+        return " " + Name(hOther) + " " + Place(lParam);
+    case Says::Wheel:
+        return " " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))) + " at " + Place(lParam);
+    default:
+        return "";
+    }
 }
 } // namespace
 
@@ -50,47 +86,12 @@ bool SpyWnd::Show(CWnd* pParent, const CRect& rect, DWORD style, DWORD exStyle)
     return CreateEx(exStyle, "", m_name.c_str(), WS_VISIBLE | style | (pParent ? WS_CHILD : 0), rect, pParent, 1);
 }
 
-std::string SpyWnd::Describe(UINT message, WPARAM wParam, LPARAM lParam) const
-{
-    const std::string line = m_name + " " + kNames.at(message);
-    const auto other = [&] { return std::string(" ") + std::string(::GetWindowText(reinterpret_cast<HWND>(wParam))); };
-    switch (message) {
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-        return line + (wParam ? other() : std::string(" -")) + " (" + std::string(::GetWindowText(::GetFocus())) + ")";
-    case WM_SHOWWINDOW:
-    case WM_TIMER:
-    case WM_USER:
-    case WM_APP:
-    case WM_KEYDOWN:
-    case WM_KEYUP:
-    case WM_SYSKEYDOWN:
-    case WM_CHAR:
-        return line + " " + std::to_string(wParam);
-    case WM_VSCROLL:
-        return line + " " + std::to_string(LOWORD(wParam));
-    case WM_SIZE:
-    case WM_MOVE:
-    case WM_MOUSEMOVE:
-    case WM_LBUTTONDOWN:
-    case WM_LBUTTONUP:
-    case WM_LBUTTONDBLCLK:
-    case WM_RBUTTONDOWN:
-    case WM_RBUTTONUP:
-        return line + Point(lParam);
-    case WM_CONTEXTMENU:
-        return line + other() + Point(lParam);
-    case WM_MOUSEWHEEL:
-        return line + " " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))) + " at" + Point(lParam);
-    default:
-        return line;
-    }
-}
-
 LRESULT SpyWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_messages.count(message))
-        m_book.Write(Describe(message, wParam, lParam));
+    if (m_messages.count(message)) {
+        const auto& [name, says] = kMessages.at(message);
+        m_book.Write(m_name + " " + name + Parameters(says, wParam, lParam));
+    }
     const HWND hWnd = m_hWnd;
     if (const auto it = m_actions.find(message); it != m_actions.end()) {
         const std::function<void()> action = it->second; // may replace itself, or end this object
@@ -105,7 +106,7 @@ LRESULT SpyWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 BOOL SpyWnd::PreTranslateMessage(MSG* pMsg)
 {
     if (m_messages.count(pMsg->message))
-        m_book.Write(m_name + " is asked of " + kNames.at(pMsg->message));
+        m_book.Write(m_name + " is asked of " + kMessages.at(pMsg->message).first);
     return CWnd::PreTranslateMessage(pMsg);
 }
 

@@ -30,8 +30,6 @@ protected:
     LedgerBook& m_book;
 
 private:
-    std::string Describe(UINT message, WPARAM wParam, LPARAM lParam) const;
-
     const std::set<UINT> m_messages;
     std::map<UINT, std::function<void()>> m_actions;
     std::map<UINT, LRESULT> m_answers;

@@ -9,24 +9,24 @@ constexpr int kRowHeight = 20;
 } // namespace
 
 BEGIN_MESSAGE_MAP(LedgerTree, CTreeCtrl)
-    ON_NOTIFY_REFLECT(TVN_SELCHANGING, OnSelChanging)
-    ON_NOTIFY_REFLECT(TVN_SELCHANGED, OnSelChanged)
-    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnExpanding)
-    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDED, OnExpanded)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGING, OnSelection)
+    ON_NOTIFY_REFLECT(TVN_SELCHANGED, OnSelection)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnBranch)
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDED, OnBranch)
     ON_NOTIFY_REFLECT(TVN_DELETEITEM, OnDelete)
-    ON_NOTIFY_REFLECT(TVN_BEGINDRAG, OnBeginDrag)
-    ON_NOTIFY_REFLECT(TVN_BEGINRDRAG, OnBeginRDrag)
+    ON_NOTIFY_REFLECT(TVN_BEGINDRAG, OnDrag)
+    ON_NOTIFY_REFLECT(TVN_BEGINRDRAG, OnDrag)
     ON_NOTIFY_REFLECT(TVN_BEGINLABELEDIT, OnBeginEdit)
     ON_NOTIFY_REFLECT(TVN_ENDLABELEDIT, OnEndEdit)
     ON_NOTIFY_REFLECT(TVN_SETDISPINFO, OnSetDispInfo)
     ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnDispInfo)
     ON_NOTIFY_REFLECT(TVN_KEYDOWN, OnTreeKey)
-    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
-    ON_NOTIFY_REFLECT(NM_RCLICK, OnRClick)
-    ON_NOTIFY_REFLECT(NM_DBLCLK, OnDblClk)
-    ON_NOTIFY_REFLECT(NM_RETURN, OnReturn)
-    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnGotFocus)
-    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnLostFocus)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnEvent)
+    ON_NOTIFY_REFLECT(NM_RCLICK, OnEvent)
+    ON_NOTIFY_REFLECT(NM_DBLCLK, OnEvent)
+    ON_NOTIFY_REFLECT(NM_RETURN, OnEvent)
+    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
+    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -71,36 +71,26 @@ void LedgerTree::Write(const std::string& line, LRESULT* pResult)
     meanwhile(line);
 }
 
-void LedgerTree::WriteChange(const char* verb, const NMTREEVIEW& change, LRESULT* pResult)
-{
-    const char* const causes[] = {"", " by mouse", " by key"};
-    Write(verb + (" " + NameOf(change.itemOld.hItem)) + " -> " + NameOf(change.itemNew.hItem) + causes[change.action],
-          pResult);
-}
-
 void LedgerTree::WriteItem(const char* verb, const TVITEM& item, LRESULT* pResult)
 {
     Write(std::string(verb) + " " + *reinterpret_cast<const std::string*>(item.lParam), pResult);
 }
 
-void LedgerTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
+void LedgerTree::OnSelection(NMTREEVIEW* pChange, LRESULT* pResult)
 {
-    WriteChange("selecting", *pChange, pResult);
+    const char* const causes[] = {"", " by mouse", " by key"};
+    const std::string verb = pChange->hdr.code == TVN_SELCHANGING ? "selecting " : "selected ";
+    Write(verb + NameOf(pChange->itemOld.hItem) + " -> " + NameOf(pChange->itemNew.hItem) + causes[pChange->action],
+          pResult);
 }
 
-void LedgerTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
+void LedgerTree::OnBranch(NMTREEVIEW* pNews, LRESULT* pResult)
 {
-    WriteChange("selected", *pChange, pResult);
-}
-
-void LedgerTree::OnExpanding(NMTREEVIEW* pNews, LRESULT* pResult)
-{
-    WriteItem(pNews->action == TVE_EXPAND ? "expanding" : "collapsing", pNews->itemNew, pResult);
-}
-
-void LedgerTree::OnExpanded(NMTREEVIEW* pNews, LRESULT*)
-{
-    WriteItem(pNews->action == TVE_EXPAND ? "expanded" : "collapsed", pNews->itemNew);
+    const bool asks = pNews->hdr.code == TVN_ITEMEXPANDING;
+    if (pNews->action == TVE_EXPAND)
+        WriteItem(asks ? "expanding" : "expanded", pNews->itemNew, pResult);
+    else
+        WriteItem(asks ? "collapsing" : "collapsed", pNews->itemNew, pResult);
 }
 
 void LedgerTree::OnDelete(NMTREEVIEW* pNews, LRESULT*)
@@ -108,14 +98,9 @@ void LedgerTree::OnDelete(NMTREEVIEW* pNews, LRESULT*)
     WriteItem("deleted", pNews->itemOld);
 }
 
-void LedgerTree::OnBeginDrag(NMTREEVIEW* pDrag, LRESULT*)
+void LedgerTree::OnDrag(NMTREEVIEW* pDrag, LRESULT*)
 {
-    WriteItem("drag", pDrag->itemNew);
-}
-
-void LedgerTree::OnBeginRDrag(NMTREEVIEW* pDrag, LRESULT*)
-{
-    WriteItem("right drag", pDrag->itemNew);
+    WriteItem(pDrag->hdr.code == TVN_BEGINDRAG ? "drag" : "right drag", pDrag->itemNew);
 }
 
 void LedgerTree::OnBeginEdit(NMTVDISPINFO* pInfo, LRESULT* pResult)
@@ -157,39 +142,12 @@ void LedgerTree::OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult)
     *pResult = refuses("key " + std::string(1, static_cast<char>(pKey->wVKey)));
 }
 
-void LedgerTree::OnClick(NMHDR*, LRESULT* pResult)
+void LedgerTree::OnEvent(NMHDR* pHeader, LRESULT* pResult)
 {
-    Write("click", pResult);
-}
-
-void LedgerTree::OnRClick(NMHDR*, LRESULT* pResult)
-{
-    Write("right click", pResult);
-}
-
-void LedgerTree::OnDblClk(NMHDR*, LRESULT* pResult)
-{
-    Write("double click", pResult);
-}
-
-void LedgerTree::OnReturn(NMHDR*, LRESULT*)
-{
-    Write("return");
-}
-
-void LedgerTree::OnGotFocus(NMHDR*, LRESULT*)
-{
-    Write("focus comes");
-}
-
-void LedgerTree::OnLostFocus(NMHDR*, LRESULT*)
-{
-    Write("focus goes");
-}
-
-void LedgerTree::OnContextMenu(CWnd*, CPoint)
-{
-    Write("menu");
+    static const std::map<UINT, std::string> names{{NM_CLICK, "click"},          {NM_RCLICK, "right click"},
+                                                   {NM_DBLCLK, "double click"},  {NM_RETURN, "return"},
+                                                   {NM_SETFOCUS, "focus comes"}, {NM_KILLFOCUS, "focus goes"}};
+    Write(names.at(pHeader->code), pResult);
 }
 
 void TreeControlTest::SetUp()

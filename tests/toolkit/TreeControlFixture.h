@@ -28,30 +28,21 @@ public:
     LedgerBook book;
 
 protected:
-    afx_msg void OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult);
-    afx_msg void OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult);
-    afx_msg void OnExpanding(NMTREEVIEW* pNews, LRESULT* pResult);
-    afx_msg void OnExpanded(NMTREEVIEW* pNews, LRESULT* pResult);
+    afx_msg void OnSelection(NMTREEVIEW* pChange, LRESULT* pResult);
+    afx_msg void OnBranch(NMTREEVIEW* pNews, LRESULT* pResult);
     afx_msg void OnDelete(NMTREEVIEW* pNews, LRESULT* pResult);
-    afx_msg void OnBeginDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
-    afx_msg void OnBeginRDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
+    afx_msg void OnDrag(NMTREEVIEW* pDrag, LRESULT* pResult);
     afx_msg void OnBeginEdit(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnEndEdit(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult);
-    afx_msg void OnClick(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnRClick(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnDblClk(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnReturn(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnGotFocus(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnLostFocus(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
+    afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()
 
 private:
     void Write(const std::string& line, LRESULT* pResult = nullptr);
-    void WriteChange(const char* verb, const NMTREEVIEW& change, LRESULT* pResult);
     void WriteItem(const char* verb, const TVITEM& item, LRESULT* pResult = nullptr);
 
     mutable std::list<std::string> m_names; // what each item's lParam points to

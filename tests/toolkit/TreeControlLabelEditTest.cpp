@@ -19,19 +19,17 @@ protected:
     }
 
     HWND Field() const { return tree.GetEditControl(); }
-    std::string FieldText() const { return Field() ? FieldState(Field()) : "-"; }
-    CRect FieldRect() const // in the tree's client area
-    {
-        CRect rect;
-        GetWindowRect(Field(), &rect);
-        CPoint corner;
-        ClientToScreen(tree.m_hWnd, &corner);
-        return rect - corner;
-    }
-    void SlowClick(const std::string& name)
+    std::string FieldText() const { return FieldState(Field()); }
+    std::string AfterSlowClick(const std::string& name)
     {
         Click(name);
         desktop.Advance(GetDoubleClickTime());
+        return FieldText();
+    }
+    std::string TwoSecondsLater()
+    {
+        desktop.Advance(2000);
+        return FieldText();
     }
     void Begin(const std::string& name)
     {
@@ -84,46 +82,40 @@ TEST_F(TreeLabelEditTest, ANameIsTakenByEnterAndByTheFocusElsewhereAndLeftByEsca
 
 TEST_F(TreeLabelEditTest, OnlyASlowSecondClickOnTheSelectedLabelStartsIt)
 {
-    SlowClick("c"); // selects it only
-    EXPECT_EQ("-", FieldText());
-    SlowClick("c");
-    EXPECT_EQ("[c]", FieldText());
+    EXPECT_EQ("-", AfterSlowClick("c")); // selects it only
+    EXPECT_EQ("[c]", AfterSlowClick("c"));
     desktop.Key(VK_ESCAPE);
     desktop.Click(tree.m_hWnd, IconOf("c"));
-    desktop.Advance(2000);
-    EXPECT_EQ("-", FieldText()) << "not its label";
+    EXPECT_EQ("-", TwoSecondsLater()) << "not its label";
     desktop.DoubleClick(tree.m_hWnd, LabelOf("c").CenterPoint());
-    desktop.Advance(2000);
-    EXPECT_EQ("-", FieldText());
+    EXPECT_EQ("-", TwoSecondsLater());
     other.SetFocus();
-    SlowClick("c");
-    EXPECT_EQ("-", FieldText()) << "the click only brought the user back";
+    EXPECT_EQ("-", AfterSlowClick("c")) << "the click only brought the user back";
     Click("c");
     Key(VK_DOWN);
-    desktop.Advance(2000);
-    EXPECT_EQ("-", FieldText()) << "a key came between";
+    EXPECT_EQ("-", TwoSecondsLater()) << "a key came between";
 }
 
 TEST_F(TreeLabelEditTest, TheFieldLiesOnItsLabelStaysWithItAndGrowsToTheTreesEdge)
 {
     Begin("c");
-    EXPECT_EQ(LabelOf("c").left, FieldRect().left);
-    EXPECT_EQ(LabelOf("c").top, FieldRect().top);
-    const int width = FieldRect().Width();
+    EXPECT_EQ(LabelOf("c").left, FieldRect(Field()).left);
+    EXPECT_EQ(LabelOf("c").top, FieldRect(Field()).top);
+    const int width = FieldRect(Field()).Width();
     tree.Add("aa", TVI_ROOT, TVI_FIRST);
     desktop.Run();
-    EXPECT_EQ(LabelOf("c").top, FieldRect().top) << "its row moved down";
+    EXPECT_EQ(LabelOf("c").top, FieldRect(Field()).top) << "its row moved down";
     desktop.Type("a longer name");
-    EXPECT_LT(width, FieldRect().Width());
+    EXPECT_LT(width, FieldRect(Field()).Width());
     desktop.Type(" that would need far more room than the tree has to its right");
-    EXPECT_EQ(300, FieldRect().right);
+    EXPECT_EQ(300, FieldRect(Field()).right);
 
     tree.Expand(tree.Find("a"), TVE_COLLAPSE);
     desktop.Run();
-    EXPECT_GT(0, FieldRect().bottom) << "out of sight with its item";
+    EXPECT_GT(0, FieldRect(Field()).bottom) << "out of sight with its item";
     tree.Expand(tree.Find("a"), TVE_EXPAND);
     desktop.Run();
-    EXPECT_EQ(LabelOf("c").top, FieldRect().top);
+    EXPECT_EQ(LabelOf("c").top, FieldRect(Field()).top);
     EXPECT_EQ(Field(), ::GetFocus());
 }
 
