@@ -15,6 +15,16 @@ bool IsThere(CMember* pMember)
     return !pMember->Container() || pMember->Container()->FindAtomByID(pMember->GetID(), nullptr, 0);
 }
 
+// The innermost container that is still there, or the member itself when all of them are.
+CMember* WhatIsLeftOf(CMember* pMember)
+{
+    CMember* pLeft = pMember;
+    for (; pMember; pMember = pMember->Container())
+        if (!IsThere(pMember))
+            pLeft = pMember->Container();
+    return pLeft;
+}
+
 } // namespace
 
 CContainer* CMainFrame::ShownContainer() const
@@ -139,13 +149,11 @@ void CMainFrame::OnMoved(const std::string& reason)
     ShowFailure(IDS_MOVE_FAILED, reason);
 }
 
-// For the innermost container that is still there.
+// What was not saved of a phase that went has gone with it: in the archive that took it away, or by the user's wish.
 void CMainFrame::LeaveWhatIsGone()
 {
-    CMember* pStay = Shown();
-    for (CMember* pMember = Shown(); pMember; pMember = pMember->Container())
-        if (!IsThere(pMember))
-            pStay = pMember->Container();
+    std::erase_if(m_modified, [](const auto& pPhase) { return WhatIsLeftOf(pPhase.Get()) != pPhase.Get(); });
+    CMember* const pStay = WhatIsLeftOf(Shown());
     if (pStay && pStay != Shown())
         GoTo(pStay);
 }

@@ -10,12 +10,15 @@
 namespace editor
 {
 
+class CPhase;
+
 struct LibraryContext
 {
     std::string rootPath;                       // absolute, with neither links nor a slash at its end
     std::vector<std::string> pictureExtensions; // sorted
     std::shared_ptr<PictureStore> pPictures;
     DWORD nextId = 1;
+    std::vector<const CPhase*> unsaved; // whose timing is set and not saved
 };
 
 } // namespace editor

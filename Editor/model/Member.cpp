@@ -60,6 +60,11 @@ std::string CMember::PathInLibrary() const
     return path.starts_with(inside) ? path.substr(inside.size()) : std::string();
 }
 
+const std::vector<const CPhase*>& CMember::UnsavedPhases() const
+{
+    return Context().unsaved;
+}
+
 std::string CMember::ErrorLine() const
 {
     const std::string reason = ErrorReason();

@@ -12,6 +12,7 @@ namespace editor
 {
 
 class CContainer;
+class CPhase;
 struct LibraryContext;
 
 // An atom in its place in a container, which it keeps alive; the library itself has none. It knows its index and
@@ -32,8 +33,9 @@ public:
     std::string ShownName() const;                               // valid UTF-8 in one line
     virtual std::string Path() const;                            // on disk
     std::string PathInLibrary() const; // from the library on; empty for the library, and for what lies outside
-    virtual std::string ErrorReason() const { return {}; } // what is wrong with it; empty when nothing is known
-    std::string ErrorLine() const;                         // the name to it; empty without a reason
+    const std::vector<const CPhase*>& UnsavedPhases() const; // of the whole library
+    virtual std::string ErrorReason() const { return {}; }   // what is wrong with it; empty when nothing is known
+    std::string ErrorLine() const;                           // the name to it; empty without a reason
 
     void AddRef() override { ++m_nRefs; }
     void Release() override;

@@ -35,10 +35,17 @@ PhaseTiming CPhase::SavedTiming() const
 
 void CPhase::SetTiming(const PhaseTiming& timing)
 {
-    if (timing == SavedTiming())
-        m_timing.reset();
-    else
-        m_timing = timing;
+    KeepTiming(timing == SavedTiming() ? std::nullopt : std::optional(timing));
+}
+
+// The library knows all phases that are not saved.
+void CPhase::KeepTiming(std::optional<PhaseTiming> timing)
+{
+    std::vector<const CPhase*>& unsaved = Context().unsaved;
+    std::erase(unsaved, this);
+    if (timing)
+        unsaved.push_back(this);
+    m_timing = timing;
 }
 
 // Of the file as it is now: lines that others have written meanwhile stay.
@@ -50,8 +57,10 @@ std::string CPhase::SaveTiming()
     if (const std::string reason = ReadPhaseText(Path(), text); !reason.empty())
         return ShownName() + ": " + reason;
     std::string failure = Save(WithTiming(std::move(text), *m_timing));
-    if (failure.empty())
-        m_savedTiming = std::exchange(m_timing, std::nullopt);
+    if (failure.empty()) {
+        m_savedTiming = m_timing;
+        KeepTiming(std::nullopt);
+    }
     return failure;
 }
 

@@ -20,6 +20,7 @@ class CPhase : public CContainer, public IPhase
 {
 public:
     CPhase(CContainer* pContainer, UINT nIndex) : CContainer(pContainer, nIndex) {}
+    ~CPhase() override { KeepTiming(std::nullopt); }
 
     std::string_view LineOf(const CMember& link) const { return CContainer::NameOf(link); }
 
@@ -46,6 +47,7 @@ protected:
 
 private:
     PhaseTiming SavedTiming() const;
+    void KeepTiming(std::optional<PhaseTiming> timing);
     std::string LineOf(const ArchiveRecord& record) const;
     std::string ReadUnchanged(std::string& text);
     std::string Save(const std::string& text);

@@ -74,7 +74,8 @@ public:
     // All of the archive is checked before its first object is handed out. FALSE, too, when a container did not take an
     // object: who is dropping objects is not to believe that all were taken.
     BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
-    // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why.
+    // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why. They are
+    // written as the user sees them: what is not saved of a phase is in the archive, and still not on the disk.
     BOOL WriteActiveObjects(IArchive* archive) override;
     CLIPFORMAT GetClipboardFormat() override;
     void GetActiveAtom(void** out, DWORD interfaceId) override;

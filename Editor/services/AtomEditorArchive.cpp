@@ -5,6 +5,7 @@
 #include "Editor/model/FileText.h"
 #include "Editor/model/Member.h"
 #include "Editor/services/AtomEditor.h"
+#include "Editor/services/UnsavedPhases.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/ole/ClipboardFormat.h"
 
@@ -18,6 +19,7 @@ struct Writing
     ArchiveWriter writer;
     std::string error;
     int nAtoms = 0;
+    std::vector<const CPhase*> unsaved; // of the atoms' library
 };
 
 std::string WriteAtom(ArchiveWriter& writer, IAtom* pAtom)
@@ -37,6 +39,8 @@ BOOL WriteActivePair(IAtom* pAtom, IAtomContainer*, void* pContext)
 {
     auto& writing = *static_cast<Writing*>(pContext);
     writing.error = WriteAtom(writing.writer, pAtom);
+    if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.nAtoms == 0)
+        writing.unsaved = pMember->UnsavedPhases();
     ++writing.nAtoms;
     return writing.error.empty();
 }
@@ -76,11 +80,13 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
     if (!archive)
         return FALSE;
     try {
-        Writing writing{ArchiveWriter(*archive), {}, 0};
+        Writing writing{ArchiveWriter(*archive), {}, 0, {}};
         if (EnumActivePairs(&WriteActivePair, &writing) && writing.nAtoms > 0)
             writing.error = writing.writer.Finish();
         else if (writing.error.empty())
             writing.error = "Nothing is selected.";
+        if (writing.error.empty())
+            writing.error = PutUnsaved(*archive, writing.unsaved);
         if (!writing.error.empty())
             Empty(*archive);
         return NoteArchiveError(std::move(writing.error));

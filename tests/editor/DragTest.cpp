@@ -1,4 +1,5 @@
 // Objects dragged with the mouse, between list and tree; what lies on the disk afterwards. And their menu.
+#include "Toolkit/window/Input.h"
 #include "Toolkit/window/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
 
@@ -232,6 +233,44 @@ TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)
     EXPECT_EQ(DROPEFFECT_COPY, desktop.DragEffect());
     EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/walk.phase Bo/", folder.Everything());
+}
+
+TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
+{
+    folder.Write("Bo/Poses/walk.phase", "#delay 80\n");
+    Open();
+    DoubleClick("Bo");
+    DoubleClick("Poses");
+    const auto setDelay = [&](const char* pszDelay) {
+        Click("walk.phase");
+        desktop.Key(VK_F4);
+        desktop.Type(pszDelay);
+        desktop.Key(VK_RETURN);
+        ::SetFocus(List());
+    };
+    setDelay("7");
+    desktop.Hold({.control = true});
+    Drag(List(), PlaceOf("walk.phase"), [&] { DropOnTree("Bo"); });
+    desktop.Hold({});
+    EXPECT_EQ("#delay 7\n", folder.Read("Bo/walk.phase"));
+    EXPECT_EQ("#delay 80\n", folder.Read("Bo/Poses/walk.phase"));
+
+    AltUp();
+    Drag(List(), PlaceOf("Poses"), [&] { DropOnTree("Ada"); });
+    EXPECT_EQ(DROPEFFECT_MOVE, desktop.DragEffect());
+    EXPECT_EQ("#delay 7\n", folder.Read("Ada/Poses/walk.phase"));
+
+    setDelay("9"); // in Bo
+    desktop.Hold({.control = true});
+    desktop.Key('X');
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/walk.phase Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+    desktop.Key('V');
+    desktop.Hold({});
+    EXPECT_EQ("#delay 9\n", folder.Read("Bo/walk.phase"));
+
+    toolkit::InputClose(Frame().m_hWnd);
+    desktop.Run();
+    EXPECT_EQ(1, nClosed) << "what has gone is not to be saved";
 }
 
 TEST_F(DragTest, AMoveThatTheDiskRefusesLeavesTheOriginals)
