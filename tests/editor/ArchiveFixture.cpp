@@ -18,18 +18,6 @@ ArchiveTest::~ArchiveTest()
     EXPECT_EQ(0, editor.CountReferences());
 }
 
-BOOL ArchiveTest::Selection::OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount)
-{
-    *pCount = static_cast<DWORD>(atoms.size());
-    for (std::size_t i = 0; pairs && i < atoms.size(); ++i) {
-        pairs[i].pAtom = CStubRef<IAtom>::Share(atoms[i]).Detach();
-        CStubRef<IAtomContainer> pContainer;
-        atoms[i]->GetContainer(pContainer.Receive(), IID_IAtomContainer);
-        pairs[i].pContainer = pContainer.Detach();
-    }
-    return pairs != nullptr;
-}
-
 CStubRef<IArchive> ArchiveTest::MakeArchive(std::string_view bytes)
 {
     const auto pStream = CStubRef<IByteStream>::Adopt(new editor::CMemoryStream);
@@ -48,7 +36,7 @@ std::string ArchiveTest::BytesOf(IArchive* pArchive)
 
 CStubRef<IArchive> ArchiveTest::Copy(const std::vector<IAtom*>& atoms)
 {
-    m_selection.atoms = atoms;
+    m_selection.active = atoms;
     auto pArchive = MakeArchive("what was there before");
     const BOOL bWritten = editor.WriteActiveObjects(pArchive.Get());
     EXPECT_EQ(bWritten != FALSE, editor.GetArchiveError().empty());
@@ -56,94 +44,97 @@ CStubRef<IArchive> ArchiveTest::Copy(const std::vector<IAtom*>& atoms)
     return pArchive;
 }
 
-CStubRef<IArchive> ArchiveTest::Copy(IAtomContainer* pIn, const std::vector<const char*>& names)
+CStubRef<IArchive> ArchiveTest::Copy(const std::string& in, const std::vector<const char*>& names)
 {
+    const auto pIn = Container(in);
     std::vector<CStubRef<IAtom>> held;
     std::vector<IAtom*> atoms;
     for (const char* const pszName : names)
-        atoms.push_back(held.emplace_back(Find(pIn, pszName)).Get());
+        atoms.push_back(held.emplace_back(Find(pIn.Get(), pszName)).Get());
     return Copy(atoms);
 }
 
-std::string ArchiveTest::CopyError(IAtomContainer* pIn, const std::vector<const char*>& names)
+std::string ArchiveTest::CopyError(const std::string& in, const std::vector<const char*>& names)
 {
-    Copy(pIn, names);
+    Copy(in, names);
     return editor.GetArchiveError();
 }
 
-std::string ArchiveTest::Read(IArchive* pArchive)
+BOOL ArchiveTest::ReadEach(const CStubRef<IArchive>& pArchive, std::function<BOOL(IAtom*)> take)
+{
+    const ARCHIVEATOMPROC call = [](IAtom* pAtom, void* pTake) -> BOOL {
+        return (*static_cast<std::function<BOOL(IAtom*)>*>(pTake))(pAtom);
+    };
+    return editor.ReadArchive(call, pArchive.Get(), &take);
+}
+
+std::string ArchiveTest::Read(const CStubRef<IArchive>& pArchive)
 {
     std::string names;
-    const ARCHIVEATOMPROC note = [](IAtom* pAtom, void* pNames) -> BOOL {
-        auto& text = *static_cast<std::string*>(pNames);
-        text += (text.empty() ? "" : " ") + Name(pAtom);
+    const auto note = [&](IAtom* pAtom) -> BOOL {
+        names += (names.empty() ? "" : " ") + Name(pAtom);
         return TRUE;
     };
-    if (editor.ReadArchive(note, pArchive, &names))
+    if (ReadEach(pArchive, note))
         return '[' + names + ']';
     EXPECT_EQ("", names) << "handed out before the whole was checked";
     return "! " + editor.GetArchiveError();
 }
 
-std::string ArchiveTest::Paste(IArchive* pArchive, IAtomContainer* pInto, bool bMove)
+std::string ArchiveTest::Paste(const CStubRef<IArchive>& pArchive, const std::string& into, bool bMove)
 {
-    struct Context
-    {
-        IAtomContainer* pInto;
-        bool bMove;
-        std::string failures;
-    } context{pInto, bMove, {}};
-    const ARCHIVEATOMPROC paste = [](IAtom* pAtom, void* p) -> BOOL {
-        auto& c = *static_cast<Context*>(p);
-        const std::string name = c.bMove ? Name(pAtom) : ValidName(c.pInto, Name(pAtom));
+    const auto pInto = Container(into);
+    std::string failures;
+    const auto paste = [&](IAtom* pAtom) -> BOOL {
+        const std::string name = bMove ? Name(pAtom) : ValidName(Name(pAtom), into);
         CStubRef<IAtom> pNew;
-        if (!c.pInto->GetPermissions(pAtom)) {
-            c.failures += Name(pAtom) + ": not permitted\n";
+        if (!pInto->GetPermissions(pAtom)) {
+            failures += Name(pAtom) + ": not permitted\n";
             return TRUE;
         }
-        if (!c.pInto->AddAtom(pAtom, 0, name.c_str(), pNew.Receive(), IID_IAtom))
-            c.failures += Error(c.pInto) + '\n';
+        if (!pInto->AddAtom(pAtom, 0, name.c_str(), pNew.Receive(), IID_IAtom))
+            failures += Error(pInto.Get()) + '\n';
         EXPECT_EQ(static_cast<bool>(pNew), Error(pAtom).empty());
         return TRUE;
     };
-    const BOOL bRead = editor.ReadArchive(paste, pArchive, &context);
+    const BOOL bRead = ReadEach(pArchive, paste);
     EXPECT_EQ(editor.GetArchiveError().empty(), bRead != FALSE) << "what was not taken is no success";
-    return context.failures;
+    return failures;
 }
 
-std::string ArchiveTest::Permissions(IArchive* pArchive, IAtomContainer* pInto)
+std::string ArchiveTest::Permissions(const CStubRef<IArchive>& pArchive, const std::string& into)
 {
-    std::pair<IAtomContainer*, DWORD> asked(pInto, 0xFFFFFFFF);
-    const ARCHIVEATOMPROC ask = [](IAtom* pAtom, void* p) -> BOOL {
-        auto& [pContainer, dwAnswer] = *static_cast<decltype(asked)*>(p);
-        dwAnswer = pContainer->GetPermissions(pAtom);
+    const auto pInto = Container(into);
+    DWORD dwAnswer = 0xFFFFFFFF;
+    EXPECT_FALSE(ReadEach(pArchive, [&](IAtom* pAtom) -> BOOL {
+        dwAnswer = pInto->GetPermissions(pAtom);
         return FALSE;
-    };
-    EXPECT_FALSE(editor.ReadArchive(ask, pArchive, &asked));
-    return asked.second == (APF_ACCEPT | APF_ACCEPTCOPY) ? "accept copy"
-           : asked.second == APF_ACCEPTCOPY              ? "copy"
-           : asked.second == 0                           ? "none"
-                                                         : "?";
+    }));
+    return dwAnswer == (APF_ACCEPT | APF_ACCEPTCOPY) ? "accept copy"
+           : dwAnswer == APF_ACCEPTCOPY              ? "copy"
+           : dwAnswer == 0                           ? "none"
+                                                     : "?";
 }
 
-std::string ArchiveTest::ValidName(IAtomContainer* pIn, const std::string& name)
+std::string ArchiveTest::ValidName(const std::string& name, const std::string& in)
 {
     CString valid(name.c_str());
-    return pIn->ValidateName(valid, 0) ? std::string(valid.View()) : "?";
+    return Container(in)->ValidateName(valid, 0) ? std::string(valid.View()) : "?";
 }
 
-std::string ArchiveTest::Remove(IAtomContainer* pIn, const char* pszName)
+std::string ArchiveTest::Remove(const std::string& in, const char* pszName)
 {
-    const auto pAtom = Find(pIn, pszName);
-    return pIn->RemoveAtom(pAtom.Get()) ? std::string() : Error(pIn);
+    const auto pIn = Container(in);
+    return pIn->RemoveAtom(Find(pIn.Get(), pszName).Get()) ? std::string() : Error(pIn.Get());
 }
 
-std::string ArchiveTest::Rename(IAtomContainer* pIn, const char* pszName, const std::string& newName)
+std::string ArchiveTest::Rename(const std::string& in, const char* pszName, const std::string& newName)
 {
-    const auto pAtom = Find(pIn, pszName);
+    const auto pIn = Container(in);
+    const auto pAtom = Find(pIn.Get(), pszName);
     CStubRef<IAtom> pNew;
     if (!pIn->RenameAtom(pAtom.Get(), newName.c_str(), pNew.Receive(), IID_IAtom))
-        return Error(pIn);
+        return Error(pIn.Get());
     EXPECT_NE(pAtom.Get(), pNew.Get());
     EXPECT_EQ(newName, Name(pNew.Get()));
     EXPECT_EQ(pszName, Name(pAtom.Get())) << "the former atom is still what it was";

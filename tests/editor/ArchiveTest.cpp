@@ -68,10 +68,10 @@ TEST_F(ArchiveTest, SelectedObjectsAreReadBackInTheirOrder)
     folder.WriteBmp("Zo\xC3\xAB \xEB\n.bmp");
     Open();
 
-    const auto pArchive = Copy(Library(), {"walk.phase", "Zo\xC3\xAB \xEB\n.bmp", "Ada", "empty.bmp", "b.bmp"});
-    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive.Get()));
-    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive.Get())) << "again from the start";
-    EXPECT_EQ("Nothing is selected.", CopyError(Library(), {}));
+    const auto pArchive = Copy("", {"walk.phase", "Zo\xC3\xAB \xEB\n.bmp", "Ada", "empty.bmp", "b.bmp"});
+    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive));
+    EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive)) << "again from the start";
+    EXPECT_EQ("Nothing is selected.", CopyError("", {}));
 }
 
 TEST_F(ArchiveTest, EveryCutAndEveryChangedBitIsRefused)
@@ -79,7 +79,7 @@ TEST_F(ArchiveTest, EveryCutAndEveryChangedBitIsRefused)
     folder.Write("Ada/b.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");
     folder.Write("a.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");
     Open();
-    const std::string whole = BytesOf(Copy(Library(), {"Ada", "a.bmp"}).Get());
+    const std::string whole = BytesOf(Copy("", {"Ada", "a.bmp"}).Get());
     ASSERT_EQ("[Ada a.bmp]", Read(whole));
 
     for (std::size_t length = 0; length < whole.size(); ++length)
@@ -153,15 +153,15 @@ TEST_F(ArchiveTest, NoArchiveOfTheCollectionBreaksAPromiseOrLeavesTheFolder)
 {
     folder.MakeFolder("library/Ada");
     Open(folder.At("library"));
-    const auto pAda = Container(Library(), "Ada");
+    const auto pAda = Container("Ada");
     int nFiles = 0;
     for (const auto& entry : std::filesystem::directory_iterator(ARCHIVE_CORPUS)) {
         const std::string bytes = TempFolder::ReadFile(entry.path().string());
         ++nFiles;
         EXPECT_EQ("", fuzz::CheckArchive(bytes)) << entry.path();
         const auto pArchive = MakeArchive(bytes);
-        if (Read(pArchive.Get())[0] != '!')
-            Paste(pArchive.Get(), pAda.Get());
+        if (Read(pArchive)[0] != '!')
+            Paste(pArchive, "Ada");
     }
     EXPECT_LT(10, nFiles);
     EXPECT_LT(0u, pAda->GetCount());
@@ -180,14 +180,14 @@ TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarried)
     mkfifo(folder.At("Ada/Poses/pipe").c_str(), 0600);
     Open();
 
-    EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder", CopyError(Library(), {"a.bmp", "Ada"}));
-    EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError(Library(), {"Bo"}));
-    EXPECT_EQ("con.bmp: the name stands for a device on other systems", CopyError(Library(), {"con.bmp"}));
-    const auto pGone = Find(Library(), "gone.bmp");
+    EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder", CopyError("", {"a.bmp", "Ada"}));
+    EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError("", {"Bo"}));
+    EXPECT_EQ("con.bmp: the name stands for a device on other systems", CopyError("", {"con.bmp"}));
+    const auto pGone = Find("gone.bmp");
     folder.Remove("gone.bmp");
     Copy({pGone.Get()});
     EXPECT_EQ("gone.bmp: no such file or directory", editor.GetArchiveError());
-    EXPECT_EQ("", CopyError(Library(), {"a.bmp"}));
+    EXPECT_EQ("", CopyError("", {"a.bmp"}));
     EXPECT_FALSE(CStubRef<IMyErrorInfo>::From(&editor));
 }
 
@@ -196,7 +196,7 @@ TEST_F(ArchiveTest, AnObjectIsLentToACallbackWithAContextAndGivenToOneWithout)
     folder.WriteBmp("a.bmp");
     folder.WriteBmp("b.bmp");
     Open();
-    const auto pArchive = Copy(Library(), {"a.bmp", "b.bmp"});
+    const auto pArchive = Copy("", {"a.bmp", "b.bmp"});
     std::vector<CStubRef<IAtom>> kept;
 
     EXPECT_TRUE(editor.ReadArchive(

@@ -30,8 +30,8 @@ protected:
     {
         folder.Make("a.bmp b.bmp");
         Open();
-        pA = Find(Library(), "a.bmp");
-        pB = Find(Library(), "b.bmp");
+        pA = Find("a.bmp");
+        pB = Find("b.bmp");
     }
     ~AtomEditorTest() override { EXPECT_EQ(0, editor.CountReferences()); }
 

@@ -15,12 +15,11 @@ namespace
 class DiskTest : public ArchiveTest
 {
 protected:
-    // A copy of what is in one folder of the library, pasted into another.
+    // A copy of what is in one container, pasted into another.
     std::string CopyTo(const char* pszFrom, const std::vector<const char*>& names, const char* pszInto,
                        bool bMove = false)
     {
-        return Paste(Copy(Container(Library(), pszFrom).Get(), names).Get(), Container(Library(), pszInto).Get(),
-                     bMove);
+        return Paste(Copy(pszFrom, names), pszInto, bMove);
     }
 };
 
@@ -47,7 +46,7 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     const mode_t former = umask(022);
     EXPECT_EQ("", CopyTo("Ada", {"Poses", "a.bmp"}, "Bo"));
     umask(former);
-    EXPECT_EQ("[Poses/ a.bmp]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ("[Poses/ a.bmp]", Members("Bo"));
     EXPECT_EQ(bytes, folder.Read("Bo/Poses/" + odd));
     for (const char* const pszFile : {"empty.bmp", ".notes", "walk.phase"})
         EXPECT_EQ(folder.Read(std::string("Ada/Poses/") + pszFile), folder.Read(std::string("Bo/Poses/") + pszFile));
@@ -70,29 +69,29 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     folder.WriteBmp("v1.2 (1)/x.bmp");
     folder.Write("readme", "not shown, yet there");
     Open();
-    const auto pArchive = Copy(Library(), {"Walk.bmp"});
+    const auto pArchive = Copy("", {"Walk.bmp"});
 
-    EXPECT_EQ("", Paste(pArchive.Get(), Library()));
-    EXPECT_EQ("", Paste(pArchive.Get(), Library()));
-    EXPECT_TRUE(Find(Library(), "Walk (2).bmp"));
+    EXPECT_EQ("", Paste(pArchive, ""));
+    EXPECT_EQ("", Paste(pArchive, ""));
+    EXPECT_TRUE(Find("Walk (2).bmp"));
     EXPECT_EQ(folder.Read("Walk.bmp"), folder.Read("Walk (3).bmp"));
-    EXPECT_EQ("wALK (4).BMP", ValidName(Library(), "wALK.BMP")) << "but for the case";
-    EXPECT_EQ("Walk (8).bmp", ValidName(Library(), "Walk (7).bmp"));
-    EXPECT_EQ("Walk (1000000) (2).bmp", ValidName(Library(), "Walk (1000000).bmp")) << "no count";
-    EXPECT_EQ("v1.2 (1) (2)", ValidName(Library(), "v1.2 (1)"));
-    EXPECT_EQ("README (2)", ValidName(Library(), "README"));
-    EXPECT_EQ("free.bmp", ValidName(Library(), "free.bmp"));
-    EXPECT_EQ("a-b-c", ValidName(Library(), "a/b\\c"));
+    EXPECT_EQ("wALK (4).BMP", ValidName("wALK.BMP")) << "but for the case";
+    EXPECT_EQ("Walk (8).bmp", ValidName("Walk (7).bmp"));
+    EXPECT_EQ("Walk (1000000) (2).bmp", ValidName("Walk (1000000).bmp")) << "no count";
+    EXPECT_EQ("v1.2 (1) (2)", ValidName("v1.2 (1)"));
+    EXPECT_EQ("README (2)", ValidName("README"));
+    EXPECT_EQ("free.bmp", ValidName("free.bmp"));
+    EXPECT_EQ("a-b-c", ValidName("a/b\\c"));
     struct stat status;
     stat(folder.Path().c_str(), &status);
     const timespec clockStandsStill[2] = {status.st_atim, status.st_mtim};
-    EXPECT_EQ("", Rename(Library(), "Walk (7).bmp", "free.bmp"));
+    EXPECT_EQ("", Rename("", "Walk (7).bmp", "free.bmp"));
     EXPECT_EQ(0, utimensat(AT_FDCWD, folder.Path().c_str(), clockStandsStill, 0));
-    EXPECT_EQ("free (2).bmp", ValidName(Library(), "free.bmp"));
-    EXPECT_EQ("Walk (7).bmp", ValidName(Library(), "Walk (7).bmp"));
-    EXPECT_EQ("_con.bmp", ValidName(Library(), "con.bmp"));
-    EXPECT_EQ("hidden", ValidName(Library(), "..hidden"));
-    EXPECT_EQ("?", ValidName(Library(), ".."));
+    EXPECT_EQ("free (2).bmp", ValidName("free.bmp"));
+    EXPECT_EQ("Walk (7).bmp", ValidName("Walk (7).bmp"));
+    EXPECT_EQ("_con.bmp", ValidName("con.bmp"));
+    EXPECT_EQ("hidden", ValidName("..hidden"));
+    EXPECT_EQ("?", ValidName(".."));
 }
 
 TEST_F(DiskTest, ALongNameIsShortenedBetweenCharacters)
@@ -104,20 +103,19 @@ TEST_F(DiskTest, ALongNameIsShortenedBetweenCharacters)
     folder.WriteBmp(longest);
     Open();
 
-    EXPECT_EQ("", Paste(Copy(Library(), {longest.c_str()}).Get(), Library()));
+    EXPECT_EQ("", Paste(Copy("", {longest.c_str()}), ""));
     const std::string copy = longest.substr(0, longest.size() - 4 - 4) + " (2).bmp";
-    EXPECT_TRUE(Find(Library(), copy.c_str()));
-    EXPECT_TRUE(Find(Library(), longest.c_str()));
+    EXPECT_TRUE(Find(copy.c_str()));
+    EXPECT_TRUE(Find(longest.c_str()));
 }
 
 TEST_F(DiskTest, AMoveKeepsTheNameAndNeverReplacesWhatIsThere)
 {
-    folder.WriteBmp("Ada/a.bmp");
-    folder.WriteBmp("Ada/b.bmp");
+    folder.Make("Ada/a.bmp Ada/b.bmp");
     folder.Write("Bo/a.bmp", "Bo's own");
     Open();
-    const auto pBo = Container(Library(), "Bo");
-    EXPECT_EQ("[a.bmp]", Members(pBo.Get()));
+    const auto pBo = Container("Bo");
+    EXPECT_EQ("[a.bmp]", Members("Bo"));
     folder.Write("Bo/b.bmp", "came while nobody looked");
 
     EXPECT_EQ("a.bmp: file exists\nb.bmp: file exists\n", CopyTo("Ada", {"a.bmp", "b.bmp"}, "Bo", true));
@@ -128,7 +126,7 @@ TEST_F(DiskTest, AMoveKeepsTheNameAndNeverReplacesWhatIsThere)
     EXPECT_EQ("", CopyTo("Ada", {"a.bmp"}, "Bo", true));
     EXPECT_EQ("", Error(pBo.Get())) << "the last change succeeded";
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
-    EXPECT_EQ("[a.bmp]", Members(pBo.Get())) << "once, and what it has not heard of is not in it";
+    EXPECT_EQ("[a.bmp]", Members("Bo")) << "once, and what it has not heard of is not in it";
 }
 
 TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
@@ -138,18 +136,18 @@ TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
     folder.Write("Ada/Poses/deep/large.bmp", std::string(200'000, 'x'));
     folder.MakeFolder("Bo");
     Open();
-    const auto pArchive = Copy(Container(Library(), "Ada").Get(), {"Poses", "large.bmp", "small.bmp"});
+    const auto pArchive = Copy("Ada", {"Poses", "large.bmp", "small.bmp"});
     rlimit former;
     getrlimit(RLIMIT_FSIZE, &former);
     const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
     const rlimit limit{100'000, former.rlim_max};
     setrlimit(RLIMIT_FSIZE, &limit);
 
-    const std::string failures = Paste(pArchive.Get(), Container(Library(), "Bo").Get());
+    const std::string failures = Paste(pArchive, "Bo");
     setrlimit(RLIMIT_FSIZE, &former);
     std::signal(SIGXFSZ, formerHandler);
     EXPECT_EQ("Poses/deep/large.bmp: file too large\nlarge.bmp: file too large\n", failures);
-    EXPECT_EQ("[small.bmp]", Members(Container(Library(), "Bo").Get()));
+    EXPECT_EQ("[small.bmp]", Members("Bo"));
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/deep/ Ada/Poses/deep/large.bmp Ada/large.bmp Ada/small.bmp Bo/ Bo/small.bmp",
               folder.Everything());
 }
@@ -182,18 +180,18 @@ TEST_F(DiskTest, ACrashHalfWayLeavesTheOldStateAndNothingThatIsSeenOrCarried)
     folder.Write("Ada/walk.phase", lines);
     folder.MakeFolder("Bo");
     Open();
-    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
-    const auto pArchive = Copy(pAda.Get(), {"Poses", "a.bmp"});
+    const auto pAda = Container("Ada"), pBo = Container("Bo");
+    const auto pArchive = Copy("Ada", {"Poses", "a.bmp"});
 
-    CrashWhileWriting(100'000, [&] { Paste(pArchive.Get(), pBo.Get()); });
-    CrashWhileWriting(10'000, [&] { Remove(Container(pAda.Get(), "walk.phase").Get(), "b.bmp"); });
+    CrashWhileWriting(100'000, [&] { Paste(pArchive, "Bo"); });
+    CrashWhileWriting(10'000, [&] { Remove("Ada/walk.phase", "b.bmp"); });
     EXPECT_EQ(lines, folder.Read("Ada/walk.phase"));
     const std::string left = folder.Everything();
     EXPECT_NE(std::string::npos, left.find(" Bo/.views-new-")) << left;
     EXPECT_EQ("[Ada/ Bo/]", Open());
-    EXPECT_EQ("", Paste(Copy(Library(), {"Ada"}).Get(), Container(Library(), "Bo").Get()));
+    EXPECT_EQ("", Paste(Copy("", {"Ada"}), "Bo"));
     EXPECT_EQ(3, std::distance(std::filesystem::directory_iterator(folder.At("Bo/Ada")), {}));
-    EXPECT_EQ("[Poses/ a.bmp walk.phase>]", Members(Container(Container(Library(), "Bo").Get(), "Ada").Get()));
+    EXPECT_EQ("[Poses/ a.bmp walk.phase>]", Members("Bo/Ada"));
 }
 
 TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInTheMaking)
@@ -208,7 +206,7 @@ TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInT
     };
     const auto read = [&] {
         Open();
-        EXPECT_EQ("[]", Members(Container(Library(), "Ada").Get()));
+        EXPECT_EQ("[]", Members("Ada"));
         return folder.Everything();
     };
     crash("/Poses/b.bmp");
@@ -234,14 +232,12 @@ TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInT
 
 TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
 {
-    folder.WriteBmp("Ada/a.bmp");
-    folder.WriteBmp("Ada/secret.bmp");
+    folder.Make("Ada/a.bmp Ada/secret.bmp Bo/");
     folder.Write("Ada/walk.phase", "a.bmp\n");
-    folder.MakeFolder("Bo");
     Open();
-    const auto pAda = Container(Library(), "Ada");
-    const auto pPhase = Container(pAda.Get(), "walk.phase");
-    const auto pArchive = Copy(pAda.Get(), {"a.bmp"});
+    const auto pAda = Container("Ada");
+    const auto pPhase = Container("Ada/walk.phase");
+    const auto pArchive = Copy("Ada", {"a.bmp"});
     chmod(folder.Path().c_str(), 0755);
     chmod(folder.At("Ada/secret.bmp").c_str(), 0);
     const std::string before = folder.Everything();
@@ -249,13 +245,13 @@ TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
     if (eaccess(folder.At("Ada").c_str(), W_OK) == 0)
         GTEST_SKIP() << "this user may change everything";
 
-    EXPECT_EQ("secret.bmp: permission denied", CopyError(pAda.Get(), {"secret.bmp"}));
-    EXPECT_EQ("none", Permissions(pArchive.Get(), Container(Library(), "Bo").Get()));
-    EXPECT_EQ("a.bmp: permission denied", Remove(pAda.Get(), "a.bmp"));
-    EXPECT_EQ("a.bmp: permission denied", Rename(pAda.Get(), "a.bmp", "b.bmp"));
-    EXPECT_EQ("walk.phase: permission denied", Remove(pPhase.Get(), "a.bmp"));
-    EXPECT_EQ("[a.bmp secret.bmp walk.phase>]", Members(pAda.Get()));
-    EXPECT_EQ("[a.bmp]", Members(pPhase.Get()));
+    EXPECT_EQ("secret.bmp: permission denied", CopyError("Ada", {"secret.bmp"}));
+    EXPECT_EQ("none", Permissions(pArchive, "Bo"));
+    EXPECT_EQ("a.bmp: permission denied", Remove("Ada", "a.bmp"));
+    EXPECT_EQ("a.bmp: permission denied", Rename("Ada", "a.bmp", "b.bmp"));
+    EXPECT_EQ("walk.phase: permission denied", Remove("Ada/walk.phase", "a.bmp"));
+    EXPECT_EQ("[a.bmp secret.bmp walk.phase>]", Members("Ada"));
+    EXPECT_EQ("[a.bmp]", Members("Ada/walk.phase"));
     EXPECT_EQ(before, folder.Everything());
 }
 
@@ -267,45 +263,43 @@ TEST_F(DiskTest, RenamingMakesAnotherAtomAndRefusesWhatWouldHideOrReplaceAFile)
     folder.Write("Ada/x.bmp", "x");
     folder.WriteBmp("gone.bmp");
     Open();
-    const DWORD id = Find(Library(), "a.bmp")->GetID();
+    const DWORD id = Find("a.bmp")->GetID();
 
-    EXPECT_EQ("", Rename(Library(), "a.bmp", "c.dib"));
+    EXPECT_EQ("", Rename("", "a.bmp", "c.dib"));
     EXPECT_EQ("a", folder.Read("c.dib"));
-    EXPECT_NE(id, Find(Library(), "c.dib")->GetID());
-    EXPECT_EQ("", Rename(Library(), "Ada", "Bo.png"));
-    EXPECT_EQ("[x.bmp]", Members(Container(Library(), "Bo.png").Get()));
-    EXPECT_EQ("", Rename(Library(), "c.dib", "C.dib")) << "another spelling";
+    EXPECT_NE(id, Find("c.dib")->GetID());
+    EXPECT_EQ("", Rename("", "Ada", "Bo.png"));
+    EXPECT_EQ("[x.bmp]", Members("Bo.png"));
+    EXPECT_EQ("", Rename("", "c.dib", "C.dib")) << "another spelling";
 
     folder.Remove("gone.bmp");
     const std::string before = folder.Everything();
-    EXPECT_EQ("b.bmp: there is a \"C.dib\" already", Rename(Library(), "b.bmp", "C.dib"));
-    EXPECT_EQ("b.bmp: a name must not be empty", Rename(Library(), "b.bmp", ""));
-    EXPECT_EQ("b.bmp: a name must not hold \"/\"", Rename(Library(), "b.bmp", "../b.bmp"));
-    EXPECT_EQ("b.bmp: a name that begins with a dot would hide it", Rename(Library(), "b.bmp", ".b.bmp"));
-    EXPECT_EQ("b.bmp: under the name \"b\" it would be no picture any more", Rename(Library(), "b.bmp", "b"));
+    EXPECT_EQ("b.bmp: there is a \"C.dib\" already", Rename("", "b.bmp", "C.dib"));
+    EXPECT_EQ("b.bmp: a name must not be empty", Rename("", "b.bmp", ""));
+    EXPECT_EQ("b.bmp: a name must not hold \"/\"", Rename("", "b.bmp", "../b.bmp"));
+    EXPECT_EQ("b.bmp: a name that begins with a dot would hide it", Rename("", "b.bmp", ".b.bmp"));
+    EXPECT_EQ("b.bmp: under the name \"b\" it would be no picture any more", Rename("", "b.bmp", "b"));
     EXPECT_EQ("b.bmp: the name is too long (304 of at most 255 bytes)",
-              Rename(Library(), "b.bmp", std::string(300, 'b') + ".bmp"));
-    EXPECT_EQ("gone.bmp: no such file or directory", Rename(Library(), "gone.bmp", "there.bmp"));
-    EXPECT_EQ("a.bmp: a line of a phase bears the name of its picture",
-              Rename(Container(Library(), "walk.phase").Get(), "a.bmp", "b.bmp"));
+              Rename("", "b.bmp", std::string(300, 'b') + ".bmp"));
+    EXPECT_EQ("gone.bmp: no such file or directory", Rename("", "gone.bmp", "there.bmp"));
+    EXPECT_EQ("a.bmp: a line of a phase bears the name of its picture", Rename("walk.phase", "a.bmp", "b.bmp"));
     EXPECT_EQ(before, folder.Everything());
-    EXPECT_EQ("[Bo.png/ C.dib b.bmp gone.bmp walk.phase>]", Members(Library()));
+    EXPECT_EQ("[Bo.png/ C.dib b.bmp gone.bmp walk.phase>]", Members(""));
 }
 
 TEST_F(DiskTest, WhatIsRemovedIsInTheTrashAndItsAtomGoes)
 {
-    folder.WriteBmp("a.bmp");
+    folder.Make("a.bmp gone.bmp");
     folder.Write("Ada/x.bmp", "x");
-    folder.WriteBmp("gone.bmp");
     Open();
-    const auto pA = Find(Library(), "a.bmp");
+    const auto pA = Find("a.bmp");
     const DWORD id = pA->GetID();
 
-    EXPECT_EQ("", Remove(Library(), "a.bmp"));
-    EXPECT_EQ("", Remove(Library(), "Ada"));
+    EXPECT_EQ("", Remove("", "a.bmp"));
+    EXPECT_EQ("", Remove("", "Ada"));
     folder.Remove("gone.bmp");
-    EXPECT_EQ("", Remove(Library(), "gone.bmp")) << "what has vanished may go";
-    EXPECT_EQ("[]", Members(Library()));
+    EXPECT_EQ("", Remove("", "gone.bmp")) << "what has vanished may go";
+    EXPECT_EQ("[]", Members(""));
     EXPECT_FALSE(Library()->FindAtomByID(id, nullptr, 0));
     EXPECT_FALSE(Library()->RemoveAtom(pA.Get()));
     EXPECT_EQ(0u, Library()->GetPermissions(pA.Get()));
@@ -315,11 +309,10 @@ TEST_F(DiskTest, WhatIsRemovedIsInTheTrashAndItsAtomGoes)
 
 TEST_F(DiskTest, WithoutMemoryACopyIsWholeOrNotThereAndNothingIsLeftBehind)
 {
-    folder.WriteBmp("Ada/Poses/b.bmp");
+    folder.Make("Ada/Poses/b.bmp Bo/");
     folder.Write("Ada/walk.phase", "Poses/b.bmp\n");
-    folder.MakeFolder("Bo");
     Open();
-    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
+    const auto pAda = Container("Ada"), pBo = Container("Bo");
     const std::string original = folder.Everything();
     const auto pPoses = Find(pAda.Get(), "Poses"), pWalk = Find(pAda.Get(), "walk.phase");
     const auto pArchive = Copy({pPoses.Get(), pWalk.Get()});
@@ -346,29 +339,24 @@ TEST_F(DiskTest, WithoutMemoryACopyIsWholeOrNotThereAndNothingIsLeftBehind)
         EXPECT_TRUE(!std::filesystem::exists(folder.At("Bo/Poses")) || pasted == folder.Read("Ada/Poses/b.bmp")) << nth;
     }
     EXPECT_EQ(original + " Bo/Poses/ Bo/Poses/b.bmp Bo/walk.phase", folder.Everything());
-    EXPECT_EQ("[Poses/ walk.phase>]", Members(pBo.Get()));
+    EXPECT_EQ("[Poses/ walk.phase>]", Members("Bo"));
 }
 
 TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
 {
-    folder.WriteBmp("Ada/Poses/one.bmp");
-    folder.MakeFolder("Bo");
+    folder.Make("Ada/Poses/one.bmp Bo/");
     folder.Link("friend", "Ada");
     folder.Link("Bo/deep", "../Ada/Poses");
     Open();
-    const auto pAda = Container(Library(), "Ada");
-    const auto pArchive = Copy(Library(), {"Ada"});
+    const auto pArchive = Copy("", {"Ada"});
 
-    EXPECT_EQ("accept copy", Permissions(pArchive.Get(), Container(Library(), "Bo").Get()));
-    for (const auto& pInside : {Container(Library(), "Ada"), Container(pAda.Get(), "Poses"),
-                                Container(Container(Library(), "friend").Get(), "Poses"),
-                                Container(Container(Library(), "Bo").Get(), "deep")})
-        EXPECT_EQ("copy", Permissions(pArchive.Get(), pInside.Get()));
-    const auto pPoses = Container(pAda.Get(), "Poses");
+    EXPECT_EQ("accept copy", Permissions(pArchive, "Bo"));
+    for (const char* pszInside : {"Ada", "Ada/Poses", "friend/Poses", "Bo/deep"})
+        EXPECT_EQ("copy", Permissions(pArchive, pszInside));
     const std::string refusal = "Ada: can only be copied there, not moved\n";
-    EXPECT_EQ(refusal, Paste(pArchive.Get(), pPoses.Get(), true)) << "the original would go, and the new one with it";
-    EXPECT_EQ("", Paste(pArchive.Get(), pPoses.Get()));
-    EXPECT_EQ(refusal, Paste(pArchive.Get(), pPoses.Get(), true)) << "as little after a copy";
+    EXPECT_EQ(refusal, Paste(pArchive, "Ada/Poses", true)) << "the original would go, and the new one with it";
+    EXPECT_EQ("", Paste(pArchive, "Ada/Poses"));
+    EXPECT_EQ(refusal, Paste(pArchive, "Ada/Poses", true)) << "as little after a copy";
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/Ada/ Ada/Poses/Ada/Poses/ Ada/Poses/Ada/Poses/one.bmp Ada/Poses/one.bmp Bo/ "
               "Bo/deep friend",
               folder.Everything());
@@ -376,9 +364,8 @@ TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
 
 TEST_F(DiskTest, APhaseThatIsCopiedStillLeadsToItsPictures)
 {
-    for (const char* const pszPicture :
-         {"Ada/walk 1.bmp", "Props/ball.bmp", "Bo/own.bmp", "Bo/twin.bmp", "Ada/twin.bmp"})
-        folder.WriteBmp(pszPicture);
+    folder.Make("Props/ball.bmp Bo/own.bmp Bo/twin.bmp Ada/twin.bmp");
+    folder.WriteBmp("Ada/walk 1.bmp");
     folder.Write("Ada/walk.phase", "# a walk\r\n  walk 1.bmp \r\nProps/ball.bmp\r\ntwin.bmp\r\nlost.bmp");
     Open();
 
@@ -390,36 +377,34 @@ TEST_F(DiskTest, APhaseThatIsCopiedStillLeadsToItsPictures)
 
 TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
 {
-    folder.WriteBmp("Ada/a.bmp");
-    folder.WriteBmp("#b.bmp");
-    folder.WriteBmp("Ada/b.bmp");
+    folder.Make("Ada/a.bmp Ada/b.bmp #b.bmp");
     folder.WriteBmp("end \n.bmp");
     folder.Write("Ada/walk.phase", "# a walk\na.bmp\n\nlost.bmp\na.bmp");
     folder.Write("Ada/run.phase", "");
     Open();
-    const auto pAda = Container(Library(), "Ada");
-    const auto pWalk = Container(pAda.Get(), "walk.phase"), pRun = Container(pAda.Get(), "run.phase");
-    const auto pTop = Copy(Library(), {"#b.bmp"});
+    const auto pAda = Container("Ada");
+    const auto pWalk = Container("Ada/walk.phase"), pRun = Container("Ada/run.phase");
+    const auto pTop = Copy("", {"#b.bmp"});
 
-    EXPECT_EQ("copy", Permissions(pTop.Get(), pWalk.Get())) << "the picture stays where it is";
-    EXPECT_EQ("none", Permissions(Copy(Library(), {"Ada"}).Get(), pWalk.Get()));
-    EXPECT_EQ("none", Permissions(Copy(Library(), {"end \n.bmp"}).Get(), pWalk.Get()));
-    EXPECT_EQ("#b.bmp: can only be copied there, not moved\n", Paste(pTop.Get(), pWalk.Get(), true));
-    EXPECT_EQ("", Paste(pTop.Get(), pWalk.Get()));
-    EXPECT_EQ("", Paste(Copy(pAda.Get(), {"b.bmp"}).Get(), pWalk.Get()));
-    EXPECT_EQ("", Remove(pWalk.Get(), "a.bmp"));
+    EXPECT_EQ("copy", Permissions(pTop, "Ada/walk.phase")) << "the picture stays where it is";
+    EXPECT_EQ("none", Permissions(Copy("", {"Ada"}), "Ada/walk.phase"));
+    EXPECT_EQ("none", Permissions(Copy("", {"end \n.bmp"}), "Ada/walk.phase"));
+    EXPECT_EQ("#b.bmp: can only be copied there, not moved\n", Paste(pTop, "Ada/walk.phase", true));
+    EXPECT_EQ("", Paste(pTop, "Ada/walk.phase"));
+    EXPECT_EQ("", Paste(Copy("Ada", {"b.bmp"}), "Ada/walk.phase"));
+    EXPECT_EQ("", Remove("Ada/walk.phase", "a.bmp"));
     EXPECT_EQ("# a walk\n\nlost.bmp\na.bmp\n./#b.bmp\nb.bmp\n", folder.Read("Ada/walk.phase"));
-    EXPECT_EQ("[lost.bmp a.bmp #b.bmp b.bmp]", Members(pWalk.Get()));
-    EXPECT_EQ("", Error(Find(pWalk.Get(), "#b.bmp").Get()));
+    EXPECT_EQ("[lost.bmp a.bmp #b.bmp b.bmp]", Members("Ada/walk.phase"));
+    EXPECT_EQ("", Error(Find(Container("Ada/walk.phase").Get(), "#b.bmp").Get()));
 
-    const auto pLinks = Copy(pWalk.Get(), {"#b.bmp", "a.bmp"});
-    EXPECT_EQ("accept copy", Permissions(pLinks.Get(), pRun.Get()));
-    EXPECT_EQ("none", Permissions(pLinks.Get(), pAda.Get()));
-    EXPECT_EQ("", Paste(pLinks.Get(), pRun.Get(), true));
-    EXPECT_EQ("[#b.bmp a.bmp]", Members(pRun.Get()));
-    EXPECT_EQ("lost.bmp: no such file or directory", CopyError(pWalk.Get(), {"lost.bmp"}));
+    const auto pLinks = Copy("Ada/walk.phase", {"#b.bmp", "a.bmp"});
+    EXPECT_EQ("accept copy", Permissions(pLinks, "Ada/run.phase"));
+    EXPECT_EQ("none", Permissions(pLinks, "Ada"));
+    EXPECT_EQ("", Paste(pLinks, "Ada/run.phase", true));
+    EXPECT_EQ("[#b.bmp a.bmp]", Members("Ada/run.phase"));
+    EXPECT_EQ("lost.bmp: no such file or directory", CopyError("Ada/walk.phase", {"lost.bmp"}));
     folder.Write("Ada/run.phase", "b.bmp\n");
-    EXPECT_EQ("run.phase: was changed by another program; read it again first", Remove(pRun.Get(), "a.bmp"));
+    EXPECT_EQ("run.phase: was changed by another program; read it again first", Remove("Ada/run.phase", "a.bmp"));
     EXPECT_EQ("b.bmp\n", folder.Read("Ada/run.phase"));
 }
 
@@ -429,13 +414,13 @@ TEST_F(DiskTest, ManyMembersComeAndGoAndAllAreFoundUnderTheirNames)
         folder.WriteBmp("Ada/" + std::to_string(i) + ".bmp");
     folder.MakeFolder("Bo");
     Open();
-    const auto pAda = Container(Library(), "Ada"), pBo = Container(Library(), "Bo");
+    const auto pAda = Container("Ada"), pBo = Container("Bo");
     std::vector<CStubRef<IAtom>> held;
     std::vector<IAtom*> atoms;
     for (int i = 99; i >= 0; --i)
         atoms.push_back(held.emplace_back(Find(pAda.Get(), (std::to_string(i) + ".bmp").c_str())).Get());
 
-    EXPECT_EQ("", Paste(Copy(atoms).Get(), pBo.Get(), true));
+    EXPECT_EQ("", Paste(Copy(atoms), "Bo", true));
     for (const CStubRef<IAtom>& pAtom : held)
         EXPECT_TRUE(pAtom->GetID() % 2 == 0 || pAda->RemoveAtom(pAtom.Get()));
     EXPECT_EQ(50u, pAda->GetCount());

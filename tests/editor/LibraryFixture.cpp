@@ -73,10 +73,13 @@ std::string LibraryTest::Members(IAtomContainer* pContainer)
     return '[' + text + ']';
 }
 
-CStubRef<IAtomContainer> LibraryTest::Container(IAtomContainer* pIn, const char* pszName)
+CStubRef<IAtomContainer> LibraryTest::Container(const std::string& path)
 {
-    CStubRef<IAtomContainer> pFound;
-    pIn->FindAtom(pszName, pFound.Receive(), IID_IAtomContainer);
+    auto pFound = CStubRef<IAtomContainer>::Share(Library());
+    for (const std::filesystem::path& name : std::filesystem::path(path)) {
+        const auto pIn = std::exchange(pFound, {});
+        EXPECT_TRUE(pIn && pIn->FindAtom(name.c_str(), pFound.Receive(), IID_IAtomContainer)) << path;
+    }
     return pFound;
 }
 

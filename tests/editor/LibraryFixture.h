@@ -21,8 +21,10 @@ protected:
 
     // The members by name, in the container's order: "[Ada/ ball.bmp walk.phase>]"; missing ones as "-".
     static std::string Members(IAtomContainer* pContainer);
-    static CStubRef<IAtomContainer> Container(IAtomContainer* pIn, const char* pszName);
+    std::string Members(const std::string& path) { return Members(Container(path).Get()); }
+    CStubRef<IAtomContainer> Container(const std::string& path); // in the library, which is ""
     static CStubRef<IAtom> Find(IAtomContainer* pIn, const char* pszName);
+    CStubRef<IAtom> Find(const char* pszName) { return Find(Library(), pszName); }
     static CStubRef<IAtom> At(IAtomContainer* pIn, UINT nPlace);
     static std::string Name(IAtom* pAtom);
     static std::string ShownName(IAtom* pAtom);

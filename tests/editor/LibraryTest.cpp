@@ -16,9 +16,9 @@ TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
     mkfifo(folder.At("pipe.bmp").c_str(), 0600);
 
     EXPECT_EQ("[Ada/ Star.DIB ball.bmp walk.phase>]", Open());
-    EXPECT_EQ("[]", Members(Container(Library(), "Ada").Get()));
-    EXPECT_FALSE(Find(Library(), "readme.txt"));
-    EXPECT_FALSE(Find(Library(), "BALL.BMP"));
+    EXPECT_EQ("[]", Members("Ada"));
+    EXPECT_FALSE(Find("readme.txt"));
+    EXPECT_FALSE(Find("BALL.BMP"));
 }
 
 TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
@@ -26,8 +26,8 @@ TEST_F(LibraryTest, OneObjectIsTheSameAtomWhicheverWayItIsReached)
     folder.Make("Ada/walk-1.bmp");
     folder.Write("Ada/walk.phase", "walk-1.bmp");
     Open();
-    const auto pAda = Container(Library(), "Ada");
-    const auto pPhase = Container(pAda.Get(), "walk.phase");
+    const auto pAda = Container("Ada");
+    const auto pPhase = Container("Ada/walk.phase");
 
     for (IAtomContainer* pContainer : {static_cast<IAtomContainer*>(Library()), pAda.Get(), pPhase.Get()}) {
         IAtom* const pConverted = pContainer;
@@ -54,7 +54,7 @@ TEST_F(LibraryTest, AChildKeepsItsFoldersAliveAndAFolderOnlyThoseWhoAreHeld)
     const int nAlone = editor::g_nLiveObjects;
     CStubRef<IAtom> pOne;
     {
-        const auto pPoses = Container(Container(Library(), "Ada").Get(), "Poses");
+        const auto pPoses = Container("Ada/Poses");
         EXPECT_EQ("[one.bmp two.bmp]", Members(pPoses.Get()));
         pOne = Find(pPoses.Get(), "one.bmp");
     }
@@ -98,7 +98,7 @@ TEST_F(LibraryTest, NamesThatCannotBeShownAreReplacedForTheEyeOnly)
         folder.WriteBmp(pszName);
     Open();
     for (const auto& [pszName, pszShown] : names) {
-        const auto pAtom = Find(Library(), pszName);
+        const auto pAtom = Find(pszName);
         EXPECT_EQ(pszName, Name(pAtom.Get()));
         EXPECT_EQ(pszShown, ShownName(pAtom.Get()));
         const auto pDisp = CStubRef<IDispAtom>::From(pAtom.Get());
@@ -114,7 +114,7 @@ TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
     folder.Write("Ada/walk.phase",
                  "# a walk\r\nwalk-1.bmp\r\n\n  Props/ball.bmp  \nwalk-1.bmp\nlost.bmp\n../../x.bmp\n/etc/x.bmp");
     Open();
-    const auto pPhase = Container(Container(Library(), "Ada").Get(), "walk.phase");
+    const auto pPhase = Container("Ada/walk.phase");
 
     EXPECT_EQ("[walk-1.bmp ball.bmp walk-1.bmp lost.bmp x.bmp x.bmp]", Members(pPhase.Get()));
     std::string state;
@@ -149,7 +149,7 @@ TEST_F(LibraryTest, APhaseThatCannotBeReadSaysWhyAndIsEmpty)
                                                           {"gone.phase", "no such file or directory"},
                                                           {"huge.phase", "too large for a phase"}};
     for (const auto& [pszName, pszReason] : errors) {
-        const auto pPhase = Container(Library(), pszName);
+        const auto pPhase = Container(pszName);
         EXPECT_EQ(0u, pPhase->GetCount());
         EXPECT_EQ(std::string(pszName) + ": " + pszReason, Error(pPhase.Get()));
     }
@@ -163,14 +163,14 @@ TEST_F(LibraryTest, ALinkToAFolderThatHoldsItIsShownAndNotOpened)
     folder.Link("friend", "Ada");
     folder.Link("gone.bmp", "nowhere.bmp");
     EXPECT_EQ("[Ada/ friend/ gone.bmp]", Open());
-    const auto pAda = Container(Library(), "Ada");
-    const auto pUp = Container(pAda.Get(), "up");
+    const auto pAda = Container("Ada");
+    const auto pUp = Container("Ada/up");
 
-    EXPECT_EQ("[a.bmp self/ up/]", Members(pAda.Get()));
-    EXPECT_EQ("[a.bmp self/ up/]", Members(Container(Library(), "friend").Get())) << "not a ring by itself";
+    EXPECT_EQ("[a.bmp self/ up/]", Members("Ada"));
+    EXPECT_EQ("[a.bmp self/ up/]", Members("friend")) << "not a ring by itself";
     EXPECT_EQ("[]", Members(pUp.Get()));
     EXPECT_EQ("up: a link to a folder that holds it, not opened", Error(pUp.Get()));
-    EXPECT_EQ("[]", Members(Container(pAda.Get(), "self").Get()));
+    EXPECT_EQ("[]", Members(Container("Ada/self").Get()));
     EXPECT_EQ("", Error(pAda.Get()));
 }
 
@@ -183,7 +183,7 @@ TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
     if (eaccess(folder.At("secret").c_str(), R_OK) == 0)
         GTEST_SKIP() << "this user may read everything";
     EXPECT_EQ("[secret/]", Open());
-    const auto pSecret = Container(Library(), "secret");
+    const auto pSecret = Container("secret");
 
     EXPECT_EQ("[]", Members(pSecret.Get()));
     EXPECT_EQ("secret: permission denied", Error(pSecret.Get()));
@@ -195,9 +195,9 @@ TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
     folder.Make("a.bmp b.bmp c.bmp");
     folder.Write("walk.phase", "a.bmp\nb.bmp\na.bmp\n");
     Open();
-    const auto pA = Find(Library(), "a.bmp"), pB = Find(Library(), "b.bmp"), pC = Find(Library(), "c.bmp");
+    const auto pA = Find("a.bmp"), pB = Find("b.bmp"), pC = Find("c.bmp");
     const DWORD idB = pB->GetID(), idC = pC->GetID();
-    const auto pPhase = Container(Library(), "walk.phase");
+    const auto pPhase = Container("walk.phase");
     const auto pSecondA = At(pPhase.Get(), 2);
 
     folder.Remove("b.bmp");
@@ -207,8 +207,8 @@ TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
     dynamic_cast<editor::CContainer*>(pPhase.Get())->ReadAgain();
 
     EXPECT_EQ("[a.bmp aa.bmp c.bmp walk.phase>]", Members(Library()));
-    EXPECT_EQ(pA.Get(), Find(Library(), "a.bmp").Get());
-    EXPECT_EQ(pC.Get(), Find(Library(), "c.bmp").Get());
+    EXPECT_EQ(pA.Get(), Find("a.bmp").Get());
+    EXPECT_EQ(pC.Get(), Find("c.bmp").Get());
     EXPECT_EQ(idC, pC->GetID());
     EXPECT_TRUE(Library()->FindAtomByID(idC, nullptr, 0));
     EXPECT_FALSE(Library()->FindAtomByID(idB, nullptr, 0)) << "gone";
@@ -223,8 +223,8 @@ TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
 
     folder.WriteBmp("b.bmp");
     Library()->ReadAgain();
-    EXPECT_NE(pB.Get(), Find(Library(), "b.bmp").Get()) << "another file";
-    EXPECT_NE(idB, Find(Library(), "b.bmp")->GetID());
+    EXPECT_NE(pB.Get(), Find("b.bmp").Get()) << "another file";
+    EXPECT_NE(idB, Find("b.bmp")->GetID());
 }
 
 TEST_F(LibraryTest, AHundredThousandFilesCostLittleUntilTheyAreShown)

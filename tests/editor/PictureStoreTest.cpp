@@ -6,10 +6,7 @@ namespace
 {
 
 class PictureStoreTest : public LibraryTest
-{
-protected:
-    CStubRef<IAtom> Atom(const char* pszName) { return Find(Library(), pszName); }
-};
+{};
 
 TEST_F(PictureStoreTest, AnIconIsAPlaceholderUntilItsPictureArrives)
 {
@@ -17,7 +14,7 @@ TEST_F(PictureStoreTest, AnIconIsAPlaceholderUntilItsPictureArrives)
     folder.Write("bad.bmp", "BMPnot");
     folder.MakeFolder("Ada");
     Open();
-    const auto pBall = Atom("ball.bmp"), pBad = Atom("bad.bmp"), pAda = Atom("Ada");
+    const auto pBall = Find("ball.bmp"), pBad = Find("bad.bmp"), pAda = Find("Ada");
     EXPECT_EQ(Ledger{}, reader.TakeReads()) << "nothing is read at opening";
 
     EXPECT_EQ("folder", Icon(pAda.Get()));
@@ -37,7 +34,7 @@ TEST_F(PictureStoreTest, TheNewestWishIsReadFirstAndWhoWaitsTooLongAsksAgain)
 {
     folder.Make("1.bmp 2.bmp 3.bmp 4.bmp 5.bmp");
     Open();
-    const auto p1 = Atom("1.bmp"), p2 = Atom("2.bmp"), p3 = Atom("3.bmp"), p4 = Atom("4.bmp"), p5 = Atom("5.bmp");
+    const auto p1 = Find("1.bmp"), p2 = Find("2.bmp"), p3 = Find("3.bmp"), p4 = Find("4.bmp"), p5 = Find("5.bmp");
     reader.Hold();
     Icon(p1.Get());
     reader.WaitForReads(1);
@@ -61,7 +58,7 @@ TEST_F(PictureStoreTest, AllWhoWaitForOneFileHearOfItAndItIsReadOnce)
     folder.Make("ball.bmp");
     folder.Write("walk.phase", "ball.bmp\nball.bmp\n");
     Open();
-    const auto pPhase = Container(Library(), "walk.phase");
+    const auto pPhase = Container("walk.phase");
     const auto pFirst = At(pPhase.Get(), 0), pSecond = At(pPhase.Get(), 1);
     Icon(pFirst.Get());
     Icon(pSecond.Get());
@@ -74,7 +71,7 @@ TEST_F(PictureStoreTest, AfterARecheckOnlyFilesThatChangedAreReadAndToldOf)
 {
     folder.Make("same.bmp new.bmp gone.bmp");
     Open();
-    const auto pSame = Atom("same.bmp"), pNew = Atom("new.bmp"), pGone = Atom("gone.bmp");
+    const auto pSame = Find("same.bmp"), pNew = Find("new.bmp"), pGone = Find("gone.bmp");
     for (IAtom* pAtom : {pSame.Get(), pNew.Get(), pGone.Get()})
         Icon(pAtom);
     Settle();
@@ -103,7 +100,7 @@ TEST_F(PictureStoreTest, WhatWasNotWantedForTheLongestLeavesTheMemoryFirst)
     limits.bytes = 2 * 32 * 32 * 4 + 2000; // two of them
     limits.threads = 1;
     editor::PictureStore small(reader, limits, [](IAtom*) {});
-    const auto pAtom = Atom("1.bmp");
+    const auto pAtom = Find("1.bmp");
     const auto want = [&](const char* pszName) {
         const bool isThere = small.Find(folder.At(pszName), {48, 48}, pAtom.Get()).pPicture != nullptr;
         EXPECT_TRUE(desktop.RunUntil([&] { return small.IsIdle(); }));
@@ -123,7 +120,7 @@ TEST_F(PictureStoreTest, OneFileIsReadAgainForALargerSizeOnlyWhenThatShowsMore)
     folder.WriteBmp("small.bmp", 20, 10);
     folder.WriteBmp("large.bmp", 400, 200);
     Open();
-    const auto pAtom = Atom("small.bmp");
+    const auto pAtom = Find("small.bmp");
     const auto sizeOf = [&](const char* pszName, CSize size) {
         pPictures->Find(folder.At(pszName), size, pAtom.Get());
         Settle();
@@ -145,7 +142,7 @@ TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
     folder.WriteBmp("large.bmp", 900, 900);
     folder.WriteBmp("other.bmp");
     Open();
-    const auto pAtom = Atom("large.bmp");
+    const auto pAtom = Find("large.bmp");
     const auto isThere = [&](CSize size) {
         return pPictures->Find(folder.At("large.bmp"), size, pAtom.Get()).pPicture != nullptr;
     };
@@ -166,7 +163,7 @@ TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
     reader.WaitForReads(3);
     EXPECT_FALSE(isThere({710, 710}));
     EXPECT_FALSE(isThere({700, 700}));
-    Icon(Atom("other.bmp").Get()); // goes before what is wished for again
+    Icon(Find("other.bmp").Get()); // goes before what is wished for again
     reader.Allow(1);
     reader.WaitForReads(4);
     desktop.Run();
@@ -180,7 +177,7 @@ TEST_F(PictureStoreTest, AnIconGoesToTheSlotItIsGivenOrToANewOne)
 {
     folder.MakeFolder("Ada");
     Open();
-    const auto pIcon = CStubRef<IAtomIcon>::From(Atom("Ada").Get());
+    const auto pIcon = CStubRef<IAtomIcon>::From(Find("Ada").Get());
     CImageList images;
     images.Create(32, 32, ILC_COLOR32, 0, 4);
 
@@ -198,7 +195,7 @@ TEST_F(PictureStoreTest, AfterStoppingNobodyIsToldAnythingAndNothingIsRead)
 {
     folder.Make("1.bmp 2.bmp");
     Open();
-    const auto p1 = Atom("1.bmp"), p2 = Atom("2.bmp");
+    const auto p1 = Find("1.bmp"), p2 = Find("2.bmp");
     reader.Hold();
     Icon(p1.Get());
     reader.WaitForReads(1);

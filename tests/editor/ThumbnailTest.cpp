@@ -9,7 +9,7 @@ class ThumbnailTest : public LibraryTest
 {
 protected:
     static auto Thumbnail(const CStubRef<IAtom>& pAtom) { return CStubRef<IAtomThumbnail>::From(pAtom.Get()); }
-    auto Thumbnail(const char* pszName) { return Thumbnail(Find(Library(), pszName)); }
+    auto Thumbnail(const char* pszName) { return Thumbnail(Find(pszName)); }
 
     // Drawn into 80 by 80 pixels of white: the picture's colour and place, or "none yet", "fails", "nothing".
     static std::string Drawn(IAtomThumbnail* pThumb, UINT nFrame = 0)
@@ -54,7 +54,7 @@ TEST_F(ThumbnailTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneFails)
     EXPECT_EQ("405060 at 42,45-58,55", Drawn(pSmall.Get()));
     EXPECT_EQ("fails", Drawn(pBad.Get()));
 
-    const auto pPhase = Container(Library(), "walk.phase");
+    const auto pPhase = Container("walk.phase");
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(At(pPhase.Get(), 0)).Get()));
     EXPECT_EQ("fails", Drawn(Thumbnail(At(pPhase.Get(), 1)).Get()));
     EXPECT_EQ(3u, reader.TakeReads().size());
@@ -81,7 +81,7 @@ TEST_F(ThumbnailTest, PicturesThatNobodySeesAnyMoreAreNotReadUntilSomeoneDoes)
 {
     folder.Make("1.bmp 2.bmp 3.bmp");
     Open();
-    const auto p3 = Find(Library(), "3.bmp");
+    const auto p3 = Find("3.bmp");
     reader.Hold();
     Drawn(Thumbnail("1.bmp").Get());
     reader.WaitForReads(1);
