@@ -1,5 +1,4 @@
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/base/HandleTable.h"
 #include "Toolkit/base/String.h"
 #include "Toolkit/base/Text.h"
 
@@ -77,30 +76,6 @@ TEST(StringTest, ATextTooLongForItsLengthFindsNoMemory)
     EXPECT_THROW(CString{huge}, CMemoryException);
     EXPECT_THROW(text += huge, CMemoryException);
     EXPECT_STREQ("before", text);
-}
-
-struct Thing
-{
-    int n;
-};
-
-TEST(HandleTableTest, AStaleHandleFindsNothingAlsoWhenItsSlotIsTakenAgain)
-{
-    toolkit::HandleTable<HBITMAP, Thing> table;
-    const HBITMAP first = table.Add(std::make_unique<Thing>(Thing{1}));
-    ASSERT_NE(nullptr, first);
-    EXPECT_EQ(1, table.Find(first)->n);
-    EXPECT_EQ(nullptr, table.Find(nullptr));
-
-    EXPECT_EQ(1, table.Remove(first)->n);
-    EXPECT_EQ(nullptr, table.Find(first));
-    EXPECT_EQ(nullptr, table.Remove(first));
-
-    const HBITMAP second = table.Add(std::make_unique<Thing>(Thing{2}));
-    EXPECT_NE(first, second);
-    EXPECT_EQ(nullptr, table.Find(first));
-    EXPECT_EQ(2, table.Find(second)->n);
-    EXPECT_EQ(1, table.GetCount());
 }
 
 } // namespace

@@ -10,8 +10,10 @@ BOOL FieldParent::OnCommand(WPARAM wParam, LPARAM lParam)
                                                    {EN_CHANGE, "change"},
                                                    {EN_MAXTEXT, "too long"}};
     const auto it = names.find(HIWORD(wParam));
-    if (it != names.end() && LOWORD(wParam) == 1)
+    if (it != names.end() && LOWORD(wParam) == 1) {
         book.Write(it->second);
+        meanwhile(it->second);
+    }
     return CWnd::OnCommand(wParam, lParam);
 }
 

@@ -4,11 +4,14 @@
 #include "Toolkit/controls/Edit.h"
 #include "tests/support/DesktopTest.h"
 
+#include <functional>
+
 // Writes what its fields notify: "change", "focus comes" ...
 class FieldParent : public CWnd
 {
 public:
     LedgerBook book;
+    std::function<void(const std::string& line)> meanwhile = [](const std::string&) {};
 
 protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;

@@ -299,32 +299,17 @@ TEST_F(EditTest, WhatAnInputMethodComposesIsSeenButNoPartOfTheText)
     EXPECT_EQ(nullptr, FocusedTextInput());
 }
 
-// What a handler does to the field meanwhile is what counts.
 TEST_F(EditTest, AFieldThatIsDestroyedOrSetAnewByWhoHearsOfItsChangeIsSafe)
 {
-    class Parent : public CWnd
-    {
-    public:
-        CEdit* pEdit = nullptr;
-
-    protected:
-        BOOL OnCommand(WPARAM wParam, LPARAM) override
-        {
-            if (HIWORD(wParam) == EN_UPDATE && pEdit->GetWindowText() == "ab")
-                pEdit->SetWindowText("anew");
-            if (HIWORD(wParam) == EN_CHANGE && pEdit->GetWindowText().GetLength() > 5)
-                pEdit->DestroyWindow();
-            return TRUE;
-        }
-    } parent;
-    ASSERT_TRUE(parent.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(200, 0, 300, 50), &top, 3));
-    CEdit field;
-    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 20), &parent, 1));
-    parent.pEdit = &field;
-    field.SetFocus();
+    top.meanwhile = [this](const std::string& line) {
+        if (line == "update" && edit.GetWindowText() == "ab")
+            edit.SetWindowText("anew");
+        if (line == "change" && edit.GetWindowText().GetLength() > 5)
+            edit.DestroyWindow();
+    };
     desktop.Type("ab");
-    EXPECT_EQ("|anew", FieldState(field.m_hWnd));
+    EXPECT_EQ("|anew", State());
     desktop.Type("xyz");
-    EXPECT_EQ(nullptr, field.m_hWnd);
-    EXPECT_EQ(parent.m_hWnd, ::GetFocus());
+    EXPECT_EQ(nullptr, edit.m_hWnd);
+    EXPECT_EQ(top.m_hWnd, ::GetFocus());
 }

@@ -139,30 +139,6 @@ TEST_F(FilesTest, AnUnsharedFileIsNobodyElses)
     EXPECT_TRUE(CloseHandle(hShared));
 }
 
-TEST_F(FilesTest, ALockEndsWithTheProcessThatHeldIt)
-{
-    const std::string path = At("a");
-    Write(path, "theirs");
-    int ready[2], done[2];
-    ASSERT_EQ(0, pipe(ready));
-    ASSERT_EQ(0, pipe(done));
-    const pid_t pid = fork();
-    if (pid == 0) {
-        char c = Open(path, GENERIC_READ, OPEN_EXISTING) != INVALID_HANDLE_VALUE ? '+' : '-';
-        c = write(ready[1], &c, 1) == 1 ? c : '-';
-        _exit(read(done[0], &c, 1) == 1 ? 0 : 1);
-    }
-    char c = 0;
-    ASSERT_EQ(1, read(ready[0], &c, 1));
-    EXPECT_EQ('+', c);
-    EXPECT_EQ(ERROR_SHARING_VIOLATION, WhyNot(path, GENERIC_READ, OPEN_EXISTING));
-    ASSERT_EQ(1, write(done[1], &c, 1));
-    waitpid(pid, nullptr, 0);
-    EXPECT_EQ("theirs", Read(path));
-    for (const int fd : {ready[0], ready[1], done[0], done[1]})
-        close(fd);
-}
-
 TEST_F(FilesTest, APositionMovesAndTellsWhereItIs)
 {
     Write(At("a"), "0123456789");
@@ -229,23 +205,15 @@ private:
     std::string m_former;
 };
 
-TEST_F(TemporaryNameTest, NamesLieInTheFolderAndAreNeverTheSame)
+TEST_F(TemporaryNameTest, NamesLieInTheFolderOrTheMachinesOwnAndAreNeverTheSame)
 {
     const std::string first = Name(m_folder.c_str()), second = Name((m_folder + "/").c_str());
     EXPECT_EQ(m_folder, fs::path(first).parent_path());
     EXPECT_EQ(m_folder, fs::path(second).parent_path());
-    EXPECT_EQ(0u, fs::path(first).filename().string().rfind("AE", 0));
+    EXPECT_TRUE(fs::path(first).filename().string().starts_with("AE"));
     EXPECT_EQ(2u + 26, fs::path(second).filename().string().size());
     EXPECT_NE(first, second);
-    const fs::path here = fs::current_path();
-    fs::current_path(m_folder);
-    EXPECT_EQ(fs::canonical(m_folder) / ".", fs::path(Name(".")).parent_path())
-        << "whoever is told it stands elsewhere";
-    fs::current_path(here);
-}
 
-TEST_F(TemporaryNameTest, AFolderThatIsNotThereIsReplacedByTheMachinesOwn)
-{
     setenv("TMPDIR", m_folder.c_str(), 1);
     for (const char* pszFolder : {"", "/no/such/folder", static_cast<const char*>(nullptr)})
         EXPECT_EQ(m_folder, fs::path(Name(pszFolder)).parent_path());

@@ -17,6 +17,16 @@ protected:
         inner.Show(&a, {5, 5, 25, 25});
     }
 
+    // What was written since the last time, only lines with one of the words.
+    Ledger LinesWith(std::initializer_list<std::string_view> words)
+    {
+        Ledger lines = TakeLedger();
+        std::erase_if(lines, [&](const std::string& line) {
+            return std::none_of(words.begin(), words.end(), [&](auto word) { return line.find(word) != line.npos; });
+        });
+        return lines;
+    }
+
     static const std::set<UINT> kInput;
     SpyWnd frame{"frame", *this, kInput}, a{"a", *this, kInput}, b{"b", *this, kInput}, inner{"inner", *this, kInput};
 };
@@ -69,11 +79,7 @@ TEST_F(InputTest, TwoQuickPressesInOnePlaceAreADoubleClick)
     const auto press = [&](CWnd& wnd, CPoint at, MouseButton button = MouseButton::Left) {
         desktop.Press(wnd.m_hWnd, at, button);
         desktop.Release(wnd.m_hWnd, at, button);
-        Ledger lines = TakeLedger();
-        std::erase_if(lines, [](const std::string& line) {
-            return line.find("DOWN") == line.npos && line.find("DBL") == line.npos;
-        });
-        return lines.empty() ? std::string() : lines.front();
+        return LinesWith({"BUTTONDOWN", "DBLCLK"}).at(0);
     };
     EXPECT_EQ("b LBUTTONDOWN 10,10", press(b, {10, 10}));
     desktop.Advance(499);
@@ -107,9 +113,7 @@ TEST_F(InputTest, TheContextMenuIsAskedForByTheRightButtonAndTwoKeysAndGoesUpToW
     const Ledger byKey = {"inner CONTEXTMENU inner -1,-1", "a CONTEXTMENU inner -1,-1"};
     const auto key = [&](UINT vkey) {
         desktop.Key(vkey);
-        Ledger lines = TakeLedger();
-        std::erase_if(lines, [](const std::string& line) { return line.find("CONTEXT") == line.npos; });
-        return lines;
+        return LinesWith({"CONTEXT"});
     };
     EXPECT_EQ(byKey, key(VK_APPS));
     EXPECT_EQ(Ledger(), key(VK_F10));
@@ -167,24 +171,7 @@ TEST_F(InputTest, KeysAreOfferedToTheFocusAndItsAncestorsBeforeTheyAreHandled)
 
 TEST_F(InputTest, KeysBecomeTheCharactersTheyType)
 {
-    std::vector<WPARAM> typed;
-    class Listener : public CWnd
-    {
-    public:
-        explicit Listener(std::vector<WPARAM>& chars) : m_chars(chars) {}
-
-    protected:
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message == WM_CHAR)
-                m_chars.push_back(wParam);
-            return CWnd::WindowProc(message, wParam, lParam);
-        }
-        std::vector<WPARAM>& m_chars;
-    } listener(typed);
-    listener.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 9, 9), &frame, 2);
-    listener.SetFocus();
-
+    SetFocus(b.m_hWnd);
     desktop.Type("aé\U0001F600\n\xFF");
     desktop.Key(VK_ESCAPE);
     desktop.Key(VK_LEFT);
@@ -192,7 +179,7 @@ TEST_F(InputTest, KeysBecomeTheCharactersTheyType)
     desktop.Key('C');
     EXPECT_GT(0, GetKeyState(VK_CONTROL));
     desktop.Hold({});
-    EXPECT_EQ(std::vector<WPARAM>({'a', 0xE9, 0x1F600, VK_ESCAPE, 3}), typed);
+    EXPECT_EQ(Ledger({"b CHAR 97", "b CHAR 233", "b CHAR 128512", "b CHAR 27", "b CHAR 3"}), LinesWith({"b CHAR"}));
 }
 
 TEST_F(InputTest, ADesktopMovesSizesAndClosesATopLevelWindow)

@@ -146,7 +146,7 @@ TEST_F(ListLabelEditTest, TheFieldGrowsWithItsTextUpToTheListsEdges)
     EXPECT_EQ(client.right, FieldRect(Field()).right);
 }
 
-TEST_F(ListLabelEditTest, TheFieldFollowsItsRowAndARowThatGoesEndsIt)
+TEST_F(ListLabelEditTest, TheFieldFollowsItsRowAndNoOtherRowIsEverGivenItsName)
 {
     Fill(60);
     Begin(4);
@@ -171,10 +171,7 @@ TEST_F(ListLabelEditTest, TheFieldFollowsItsRowAndARowThatGoesEndsIt)
     list.SetItemCount(3);
     EXPECT_EQ(Ledger({"focus comes", "edited e not"}), TakeLedger());
     EXPECT_EQ(nullptr, Field());
-}
 
-TEST_F(ListLabelEditTest, ANameMeantForOneRowIsNeverGivenToAnother)
-{
     Begin(1);
     desktop.Type("left");
     list.text = [](int row) { return LedgerList::NameOf(row + 1); }; // rows moved, and nobody said where to

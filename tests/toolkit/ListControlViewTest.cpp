@@ -83,30 +83,37 @@ TEST_F(ListControlViewTest, WithControlTheRubberBandTogglesAgainstWhatItBeganWit
     desktop.Release(list.m_hWnd, {10, 10});
 }
 
-TEST_F(ListControlViewTest, TheRubberBandScrollsTheListAtItsEdge)
+TEST_F(ListControlViewTest, TheRubberBandScrollsAtTheEdgeEvenAListThatKeepsMouseMovesAndTimers)
 {
-    Drag(kEmpty, {230, 330});
-    EXPECT_EQ("behk", Selected());
-    desktop.Advance(150);
-    const CRect before = Part(0, LVIR_ICON);
-    EXPECT_GT(0, before.top);
-    desktop.MoveTo(list.m_hWnd, {230, 200});
-    desktop.Advance(2000);
-    EXPECT_EQ(before, Part(0, LVIR_ICON)); // inside again, it stays
-    desktop.MoveTo(list.m_hWnd, {230, 330});
-    desktop.Advance(2000);
-    EXPECT_EQ(10, list.GetSelectedCount()); // down to the last line
-    EXPECT_EQ(28, list.GetNextItem(27, LVNI_SELECTED));
-    const int scrolled = list.GetTopIndex();
-    desktop.MoveTo(list.m_hWnd, {230, 200});
-    desktop.Wheel(list.m_hWnd, {230, 200}, 1);
-    EXPECT_GT(scrolled, list.GetTopIndex()); // the corner stays under the mouse
-    EXPECT_GT(10, list.GetSelectedCount());
-    desktop.MoveTo(list.m_hWnd, {230, -50});
-    desktop.Advance(3000);
-    EXPECT_EQ(0, list.GetTopIndex());
-    EXPECT_EQ("b", Selected());
-    desktop.Release(list.m_hWnd, {230, -50});
+    for (const bool keeps : {false, true}) {
+        list.keepsMouseMoves = keeps;
+        Drag(IconOf(0), IconOf(4));
+        EXPECT_EQ("drag a", TakeLedger().back());
+        desktop.Release(list.m_hWnd, IconOf(4));
+
+        Drag(kEmpty, {230, 330});
+        EXPECT_EQ("behk", Selected());
+        desktop.Advance(150);
+        const CRect before = Part(0, LVIR_ICON);
+        EXPECT_GT(0, before.top);
+        desktop.MoveTo(list.m_hWnd, {230, 200});
+        desktop.Advance(2000);
+        EXPECT_EQ(before, Part(0, LVIR_ICON)); // inside again, it stays
+        desktop.MoveTo(list.m_hWnd, {230, 330});
+        desktop.Advance(2000);
+        EXPECT_EQ(10, list.GetSelectedCount()); // down to the last line
+        EXPECT_EQ(28, list.GetNextItem(27, LVNI_SELECTED));
+        const int scrolled = list.GetTopIndex();
+        desktop.MoveTo(list.m_hWnd, {230, 200});
+        desktop.Wheel(list.m_hWnd, {230, 200}, 1);
+        EXPECT_GT(scrolled, list.GetTopIndex()); // the corner stays under the mouse
+        EXPECT_GT(10, list.GetSelectedCount());
+        desktop.MoveTo(list.m_hWnd, {230, -50});
+        desktop.Advance(3000);
+        EXPECT_EQ(0, list.GetTopIndex());
+        EXPECT_EQ("b", Selected());
+        desktop.Release(list.m_hWnd, {230, -50});
+    }
 }
 
 TEST_F(ListControlViewTest, TheRubberBandIsDrawnAndLeavesNoTrace)
@@ -129,18 +136,6 @@ TEST_F(ListControlViewTest, TheRubberBandIsDrawnAndLeavesNoTrace)
     list.SetFocus();
 
     ExpectSame(before, desktop.Dump(list.m_hWnd));
-}
-
-TEST_F(ListControlViewTest, AListThatKeepsMouseMovesAndTimersIsDraggedAndBandedAllTheSame)
-{
-    list.keepsMouseMoves = true;
-    Drag(IconOf(0), IconOf(4));
-    EXPECT_EQ("drag a", TakeLedger().back());
-    desktop.Release(list.m_hWnd, IconOf(4));
-    Drag(kEmpty, {230, 330});
-    desktop.Advance(2000);
-    EXPECT_EQ(10, list.GetSelectedCount());
-    desktop.Release(list.m_hWnd, {230, 330});
 }
 
 TEST_F(ListControlViewTest, APointHitsExactlyWhatWasPainted)

@@ -2,6 +2,7 @@
 
 namespace
 {
+// What follows the message's name.
 enum class Says
 {
     Nothing,
@@ -11,7 +12,7 @@ enum class Says
     Focus,
     Menu,
     Wheel
-}; // what follows the message's name
+};
 
 const std::map<UINT, std::pair<std::string, Says>> kMessages = {
     {WM_NCCREATE, {"NCCREATE", Says::Nothing}},

@@ -128,7 +128,7 @@ TEST_F(TreeControlTest, SelectingAHiddenItemOpensTheWayToIt)
     EXPECT_EQ("a (b (c)) *d", State());
 }
 
-TEST_F(TreeControlTest, AnOwnerThatMovesTheFocusWhileItIsAskedSeesNoOtherChange)
+TEST_F(TreeControlTest, AnOwnerThatSelectsOrTakesTheFocusWhileItIsAskedOrToldWins)
 {
     Fill("a b");
     tree.meanwhile = [this](const std::string& line) {
@@ -137,10 +137,7 @@ TEST_F(TreeControlTest, AnOwnerThatMovesTheFocusWhileItIsAskedSeesNoOtherChange)
     };
     tree.SelectItem((*this)["b"]);
     EXPECT_EQ(Ledger({"selecting - -> b", "focus comes", "selected - -> b"}), TakeLedger());
-}
 
-TEST_F(TreeControlTest, AnOwnerThatSelectsWhileItIsAskedOrToldWins)
-{
     Fill("a b c d");
     tree.SelectItem((*this)["a"]);
     TakeLedger();
