@@ -140,8 +140,29 @@ TEST_F(ClipboardTest, WithoutMemoryNothingIsLost)
     FailEveryAllocation(copy, [&] {
         EXPECT_EQ(OnClipboard() == "a\n" ? 1 : 0, CountFiles());
         EXPECT_GE(1u, desktop.TakeMessageBoxes().size());
+        EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
     });
     EXPECT_EQ("a\n", OnClipboard());
+}
+
+TEST_F(ClipboardTest, TheWaitCursorShowsWhileObjectsAreWorkedOnAndNotWhileOneLooks)
+{
+    const auto pArchive = Holding("x\n");
+    std::string strCursors;
+    pBox->onCall = [&](const std::string&) {
+        strCursors += desktop.CurrentCursor() == toolkit::Cursor::Wait ? "w" : "-";
+    };
+    CheckPaste(pArchive.Get(), pBox, FALSE);
+    EXPECT_EQ("-", strCursors);
+    PasteObjects(pArchive.Get(), pBox, TRUE);
+    Activate({{pBox, "a"}});
+    CopyObjects(TRUE);
+    Activate({{pBox, "b"}});
+    desktop.Answer(IDYES);
+    RemoveObjects(TRUE);
+    desktop.TakeMessageBoxes();
+    EXPECT_EQ("-wwwwww", strCursors);
+    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
 }
 
 TEST_F(ClipboardTest, RemovingAsksAndGivesTheFocusBack)
