@@ -8,6 +8,7 @@
 #include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
+#include <filesystem>
 #include <utility>
 
 namespace editor
@@ -156,8 +157,14 @@ std::string CPhase::ReadUnchanged(std::string& text)
     return isSame ? std::string() : "was changed by another program; read it again first";
 }
 
+// A library from elsewhere may hold links to anything of the user's: a line among the commands that a shell runs is
+// one.
 std::string CPhase::Save(const std::string& text)
 {
+    std::error_code unreadable;
+    const std::string real = std::filesystem::canonical(Path(), unreadable).string();
+    if (!unreadable && KindOfName(real) != MemberKind::Phase)
+        return ShownName() + ": a link to a file that is no phase";
     const int error = ReplaceFile(Path(), text);
     return error == 0 ? std::string() : ShownName() + ": " + SystemErrorText(error);
 }

@@ -14,8 +14,9 @@ namespace editor
 // part of the path as their name.
 //
 // Pictures of the same library that are added become lines at the end; removing a link takes its line away, and its
-// picture stays. Each of these changes is saved at once, the file as a whole. Lines cannot be renamed. The timing alone
-// is kept until it is saved, and the phase is modified so long; whoever changes it keeps the phase alive.
+// picture stays. Each of these changes is saved at once, the file as a whole; what a link leads to must be called a
+// phase, too. Lines cannot be renamed. The timing alone is kept until it is saved, and the phase is modified so long;
+// whoever changes it keeps the phase alive.
 class CPhase : public CContainer, public IPhase
 {
 public:

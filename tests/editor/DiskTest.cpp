@@ -408,6 +408,23 @@ TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
     EXPECT_EQ("b.bmp\n", folder.Read("Ada/run.phase"));
 }
 
+TEST_F(DiskTest, ThroughALinkAPhaseIsChangedAndNothingElseThatIsTheUsers)
+{
+    folder.Write("library/$(ls).bmp", "");
+    folder.Write("profile", "ls\n");
+    folder.Write("far.phase", "");
+    folder.Link("library/evil.phase", "../profile");
+    folder.Link("library/walk.phase", "../far.phase");
+    Open(folder.At("library"));
+    const auto pArchive = Copy("", {"$(ls).bmp"});
+
+    EXPECT_EQ("evil.phase: a link to a file that is no phase\n", Paste(pArchive, "evil.phase"));
+    EXPECT_EQ("ls\n", folder.Read("profile"));
+    EXPECT_EQ("", Paste(pArchive, "walk.phase"));
+    EXPECT_EQ("$(ls).bmp\n", folder.Read("far.phase"));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.At("library/walk.phase")));
+}
+
 TEST_F(DiskTest, ManyMembersComeAndGoAndAllAreFoundUnderTheirNames)
 {
     for (int i = 0; i < 100; ++i)
