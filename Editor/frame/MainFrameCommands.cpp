@@ -25,6 +25,14 @@ CMember* WhatIsLeftOf(CMember* pMember)
     return pLeft;
 }
 
+bool UserAgrees(const std::string& question)
+{
+    const HWND hFocus = ::GetFocus();
+    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION);
+    ::SetFocus(hFocus);
+    return nAnswer == IDYES;
+}
+
 } // namespace
 
 CContainer* CMainFrame::ShownContainer() const
@@ -78,17 +86,21 @@ void CMainFrame::CutSelection()
         ShowFailure(IDS_CUT_FAILED, Cut());
 }
 
+// What goes to the trash can be fetched back; what no trash takes, the user is asked about once more.
 void CMainFrame::RemoveSelection()
 {
-    if (m_commands.CountSelected() == 0)
+    if (m_commands.CountSelected() == 0 || !UserAgrees(m_commands.RemoveQuestion()))
         return;
-    const HWND hFocus = ::GetFocus();
-    const int nAnswer = AfxMessageBox(m_commands.RemoveQuestion().c_str(), MB_YESNO | MB_ICONQUESTION);
-    ::SetFocus(hFocus);
-    if (nAnswer != IDYES)
-        return;
-    const PermanentRemoval agreed; // of what no trash takes
-    ShowFailure(IDS_REMOVE_FAILED, Remove());
+    const int nMissed = CountMissedTrashes();
+    std::string reason = Remove();
+    if (CountMissedTrashes() > nMissed && m_commands.CountSelected() > 0) {
+        const std::string question = m_commands.RemoveQuestion();
+        if (!UserAgrees(reason + ".\n\n" + question.substr(0, question.size() - 1) + " for good?"))
+            return;
+        const PermanentRemoval agreed;
+        reason = Remove();
+    }
+    ShowFailure(IDS_REMOVE_FAILED, std::move(reason));
 }
 
 void CMainFrame::PasteHere()

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kInfoEnding = ".trashinfo";
 constexpr std::size_t kLongestEnding = 15;                        // of a name, that is kept as an extension
 constexpr std::size_t kLongestStem = kLongestName - 15 - 10 - 10; // leaves room for an extension, a number, the above
-int g_nAllowed = 0;
+int g_nAllowed = 0, g_nMissed = 0;
 
 // One trash; what lies on another file system than it cannot be moved there.
 struct Trash
@@ -211,10 +211,17 @@ std::string RemoveFromDisk(const std::string& path)
     if (eaccess(file.parent_path().c_str(), W_OK | X_OK) != 0)
         return SystemErrorText(errno);
     const TrashResult result = MoveToTrash(path);
-    if (!result.isNoTrash || !PermanentRemoval::IsAllowed())
+    if (!result.isNoTrash || !PermanentRemoval::IsAllowed()) {
+        g_nMissed += result.isNoTrash;
         return result.reason;
+    }
     const int error = RemoveForGood(file.parent_path().string(), file.filename().string());
     return error == 0 ? std::string() : SystemErrorText(error);
+}
+
+int CountMissedTrashes()
+{
+    return g_nMissed;
 }
 
 } // namespace editor

@@ -18,7 +18,8 @@ struct TrashResult
 TrashResult MoveToTrash(const std::string& path);
 
 // What cannot be moved to a trash is refused, unless the user has agreed to lose it: while one of these lives, such
-// things are removed for good. A command that has asked the user makes one; cutting and dragging do not.
+// things are removed for good. A command that has asked the user about just that makes one; cutting and dragging do
+// not.
 class PermanentRemoval
 {
 public:
@@ -33,5 +34,7 @@ public:
 // Moves it to the trash or, when that is allowed, removes it for good. Empty when it is gone from its place, also
 // when it was not there any more; else the reason.
 std::string RemoveFromDisk(const std::string& path);
+// How many removals were refused so far only because there was no trash for what was to go.
+int CountMissedTrashes();
 
 } // namespace editor

@@ -1,5 +1,6 @@
 // Objects copied, cut, pasted and removed by their keys, on the disk.
 #include "Toolkit/window/MessageBox.h"
+#include "tests/editor/AsNobody.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <filesystem>
@@ -71,6 +72,35 @@ TEST_F(CommandsTest, RemovingAsksFirst)
     EXPECT_EQ(Ledger({"Views: Remove \"a.bmp\"?", "Views: Remove 2 objects?"}), TakeBoxes());
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
     EXPECT_EQ("Ada/ Bo/", folder.Everything());
+}
+
+TEST_F(CommandsTest, WhatNoTrashTakesIsRemovedForGoodOnlyAfterAQuestionOfItsOwn)
+{
+    Open();
+    DoubleClick("Ada");
+    Control('A');
+    folder.Write("blocked", "");
+    trash.Point(folder.At("blocked"));
+    for (const char* const pszFolder : {"", "Ada"})
+        std::filesystem::permissions(folder.At(pszFolder), std::filesystem::perms::all);
+    const auto id = static_cast<uid_t>(100'000 + getpid());
+    const std::string top = "/dev/shm/.Trash-" + std::to_string(id);
+    const AsNobody somebody(id);
+    if (geteuid() != id || !folder.Path().starts_with("/dev/shm/"))
+        GTEST_SKIP() << "needs the superuser and a file system in memory";
+
+    std::filesystem::create_symlink("/tmp", top); // no trash
+    const Ledger questions{"Views: Remove 2 objects?",
+                           "Views: a.bmp: not removed, there is no trash on its file system.\n\n"
+                           "Remove 2 objects for good?"};
+    for (const int nAnswer : {IDNO, IDYES}) {
+        desktop.Answer(IDYES);
+        desktop.Answer(nAnswer);
+        Press(VK_DELETE);
+        EXPECT_EQ(questions, TakeBoxes());
+        EXPECT_EQ(nAnswer == IDYES ? "Ada/ Bo/ blocked" : "Ada/ Ada/a.bmp Ada/b.bmp Bo/ blocked", folder.Everything());
+    }
+    std::filesystem::remove(top);
 }
 
 TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
