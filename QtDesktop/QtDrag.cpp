@@ -20,6 +20,14 @@ constexpr int kLookMilliseconds = 50;
 
 std::optional<DROPEFFECT> s_ownDrop;
 
+// Another program that is offered files deals with them itself: it is to copy them, unless the user holds Shift or it
+// thinks otherwise. On Wayland the program's own windows hear nothing but what is proposed, and that is to be a move.
+Qt::DropAction ProposedAction(DROPEFFECT allowed)
+{
+    const bool bCopy = (allowed & DROPEFFECT_COPY) && !IsProposalTrusted();
+    return bCopy ? Qt::CopyAction : allowed & DROPEFFECT_MOVE ? Qt::MoveAction : Qt::IgnoreAction;
+}
+
 // What the drag belongs to: no window, which might go under way. Ends the drag when its data is gone.
 class DragOwner : public QObject
 {
@@ -53,8 +61,7 @@ DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allo
     const auto pDrag = new QDrag(&owner);
     pDrag->setMimeData(new OfferedMime(data, receiver.GetAddress()));
     s_ownDrop.reset();
-    const Qt::DropAction told =
-        pDrag->exec(ToActions(allowed), allowed & DROPEFFECT_MOVE ? Qt::MoveAction : Qt::IgnoreAction);
+    const Qt::DropAction told = pDrag->exec(ToActions(allowed), ProposedAction(allowed));
     if (const auto own = std::exchange(s_ownDrop, std::nullopt))
         return *own;
     if (told == Qt::IgnoreAction)

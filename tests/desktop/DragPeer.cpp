@@ -2,12 +2,15 @@
 // a line at a time.
 //
 // Usage: drag_peer NAME X [MODE]. Modes: "refuse" says so at the drop; "hold" stays inside a drop until a line comes
-// in; "vanish" destroys its window at the drop; "forget" deletes what it drags once that has moved.
+// in; "vanish" destroys its window at the drop; "forget" deletes what it drags once that has moved; "foreign" is a
+// program of another kind, which does what is proposed.
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/ole/DataSource.h"
 #include "Toolkit/ole/DropTarget.h"
 
 #include <QApplication>
+#include <QDropEvent>
+#include <QWidget>
 #include <cstring>
 #include <iostream>
 #include <string>
@@ -125,6 +128,26 @@ private:
     PeerTarget& m_target;
 };
 
+class ForeignWnd : public QWidget
+{
+public:
+    ForeignWnd(const char* pszName, int x)
+    {
+        setWindowTitle(pszName);
+        setGeometry(x, 50, 200, 200);
+        setAcceptDrops(true);
+        show();
+    }
+
+protected:
+    void dragEnterEvent(QDragEnterEvent* pEvent) override { pEvent->acceptProposedAction(); }
+    void dropEvent(QDropEvent* pEvent) override
+    {
+        Say(pEvent->proposedAction() == Qt::CopyAction ? "is to copy" : "is to move");
+        pEvent->acceptProposedAction();
+    }
+};
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -132,6 +155,12 @@ int main(int argc, char* argv[])
     const QApplication application(argc, argv);
     qtdesktop::QtDesktop desktop;
     desktop.SetDropPatience(2000);
+    std::unique_ptr<ForeignWnd> foreign;
+    if (argc > 3 && std::string(argv[3]) == "foreign") {
+        foreign = std::make_unique<ForeignWnd>(argv[1], std::atoi(argv[2]));
+        Say("ready");
+        return QApplication::exec();
+    }
     PeerTarget target(argc > 3 ? argv[3] : "");
     PeerWnd window(argv[1], target);
     if (!window.Show(std::atoi(argv[2])) || !target.Register(&window))

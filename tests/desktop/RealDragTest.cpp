@@ -47,6 +47,20 @@ TEST_F(RealDragTest, ADragHasTheEffectThatTheOtherProgramConfirms)
     }
 }
 
+TEST_F(RealDragTest, AProgramOfAnotherKindIsToCopyUnlessTheUserSaysOtherwise)
+{
+    Program right;
+    StartPeer(right, {"right", "600", "foreign"});
+    DragTo(700, 150);
+    EXPECT_EQ("is to copy", Line(right));
+    EXPECT_EQ("dragged copy", Line(m_left));
+    XDo("keydown Shift_L");
+    DragTo(700, 150);
+    XDo("keyup Shift_L");
+    EXPECT_EQ("is to move", Line(right));
+    EXPECT_EQ("dragged copy", Line(m_left)) << "and the files are left to it";
+}
+
 TEST_F(RealDragTest, ADropOnItselfAndOneOnNothingNeedNobodysWord)
 {
     DragTo(220, 100);
