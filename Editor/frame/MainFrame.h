@@ -1,6 +1,7 @@
 // The editor's window: the path at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
+#include "Editor/frame/DraggedOut.h"
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/EditorTree.h"
 #include "Editor/frame/Pane.h"
@@ -77,6 +78,7 @@ public:
     CMenu* CreateContextMenu() override;
     void OnMoving() override;
     void OnMoved(const std::string& reason) override;
+    void OnCopied(const ActiveMembers& members) override;
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -91,6 +93,7 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnClose();
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
@@ -116,6 +119,8 @@ private:
     template <class Change>
     std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();
+    void AwaitNextLook();
+    void ReadAgain(CContainer& container); // the list keeps its selection
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     void ShowFailure(UINT nCaptionID, std::string reason);
@@ -148,6 +153,7 @@ private:
     CStubRef<CMember> m_pShown;
     CStubRef<CMember> m_pCreated; // what came last, until the next news
     Position m_beforeMove;        // while a drag's originals go
+    DraggedOut m_draggedOut;
     CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
     CPathBar m_pathBar;
     CPane m_treePane, m_listPane, m_picturePane;

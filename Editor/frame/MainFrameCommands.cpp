@@ -10,6 +10,8 @@ namespace editor
 namespace
 {
 
+constexpr UINT_PTR kLookTimer = 1;
+
 bool IsThere(CMember* pMember)
 {
     return !pMember->Container() || pMember->Container()->FindAtomByID(pMember->GetID(), nullptr, 0);
@@ -141,8 +143,10 @@ CMainFrame::Position CMainFrame::RememberPosition()
     return {CStubRef<CMember>::Share(Shown()), m_pList->Remember()};
 }
 
+// What was not saved of a phase that went has gone with it: in the archive that took it away, or by the user's wish.
 void CMainFrame::GoOnAt(const Position& position)
 {
+    std::erase_if(m_modified, [](const auto& pPhase) { return WhatIsLeftOf(pPhase.Get()) != pPhase.Get(); });
     LeaveWhatIsGone();
     if (Shown() == position.pShown.Get() && !IsPictureShown())
         m_pList->Restore(position.list);
@@ -161,13 +165,37 @@ void CMainFrame::OnMoved(const std::string& reason)
     ShowFailure(IDS_MOVE_FAILED, reason);
 }
 
-// What was not saved of a phase that went has gone with it: in the archive that took it away, or by the user's wish.
 void CMainFrame::LeaveWhatIsGone()
 {
-    std::erase_if(m_modified, [](const auto& pPhase) { return WhatIsLeftOf(pPhase.Get()) != pPhase.Get(); });
     CMember* const pStay = WhatIsLeftOf(Shown());
     if (pStay && pStay != Shown())
         GoTo(pStay);
+}
+
+void CMainFrame::OnCopied(const ActiveMembers& members)
+{
+    m_draggedOut = DraggedOut(members);
+    AwaitNextLook();
+}
+
+void CMainFrame::AwaitNextLook()
+{
+    if (const unsigned nPause = m_draggedOut.NextLook())
+        SetTimer(kLookTimer, nPause);
+    else
+        KillTimer(kLookTimer);
+}
+
+void CMainFrame::OnTimer(UINT_PTR)
+{
+    const auto changed = m_draggedOut.Look();
+    for (const auto& pContainer : changed)
+        ReadAgain(*pContainer.Get());
+    if (!changed.empty()) {
+        LeaveWhatIsGone();
+        UpdateStatus();
+    }
+    AwaitNextLook();
 }
 
 // The frame may be gone by the time that a drop's failure is told.

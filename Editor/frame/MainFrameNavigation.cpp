@@ -30,11 +30,16 @@ void CMainFrame::Refresh()
     const auto pContainer = CStubRef<CContainer>::Share(dynamic_cast<CContainer*>(Shown()));
     if (!pContainer)
         return;
-    const CEditorList::State state = m_pList->Remember();
-    pContainer->ReadAgain();
-    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer.Get(), 0);
-    m_pList->Restore(state);
+    ReadAgain(*pContainer.Get());
     UpdateStatus();
+}
+
+void CMainFrame::ReadAgain(CContainer& container)
+{
+    const CEditorList::State state = m_pList->Remember();
+    container.ReadAgain();
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, &container, 0);
+    m_pList->Restore(state);
 }
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)

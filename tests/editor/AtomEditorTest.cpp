@@ -18,6 +18,7 @@ public:
     CMenu* CreateContextMenu() override { return nullptr; }
     void OnMoving() override {}
     void OnMoved(const std::string&) override {}
+    void OnCopied(const editor::ActiveMembers&) override {}
 
 private:
     const HWND m_hWnd;

@@ -220,6 +220,24 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/a (3).bmp"));
 }
 
+TEST_F(DragTest, WhatAnotherProgramHasMovedAfterAllIsNotShownAnyMore)
+{
+    Open();
+    DoubleClick("Ada");
+    Select({"a.bmp", "b.bmp"});
+    Drag(List(), PlaceOf("a.bmp"), [&] {
+        desktop.DragOut();
+        desktop.DropOutside(DROPEFFECT_COPY);
+    });
+    EXPECT_EQ("/Ada/ | [(*a.bmp) (b.bmp) c.bmp] | 3 objects, 2 selected", Screen());
+    desktop.Advance(2000);
+    folder.Remove("Ada/a.bmp"); // it takes its time
+    desktop.Advance(4000);
+    Settle();
+    EXPECT_EQ("/Ada/ | [(*b.bmp) c.bmp] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("Ada/ Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+}
+
 TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)
 {
     folder.Write("Ada/walk.phase", "");
