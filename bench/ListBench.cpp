@@ -1,9 +1,8 @@
 // What an icon list costs: opening a container, frames in the middle of it, selecting, one atom more or changed.
+#include "Toolkit/window/Input.h"
 #include "bench/BenchHost.h"
 #include "bench/BenchWindow.h"
 #include "bench/Memory.h"
-
-#include "Toolkit/window/Input.h"
 
 #include <benchmark/benchmark.h>
 
@@ -132,6 +131,17 @@ void ChangeAnAtomInSight(benchmark::State& state)
     }
 }
 
+// Of one that is out of sight: nothing is to be done.
+void ChangeAnAtomOutOfSight(benchmark::State& state)
+{
+    ShownList shown(state);
+    unsigned number = 0;
+    for (auto _ : state) {
+        number = (number + 7919) % shown.container.GetCount();
+        shown.window.List().OnChangeAtom(&shown.container.Member(number), &shown.container);
+    }
+}
+
 // An atom more, appended, selected and scrolled to.
 void AppendAnAtom(benchmark::State& state)
 {
@@ -170,6 +180,7 @@ BENCHMARK(ScrollANotch)->Apply(Sizes);
 BENCHMARK(SelectAllAndClear)->Apply(Sizes);
 BENCHMARK(ExtendToTheEndAndBack)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomInSight)->Apply(Sizes);
+BENCHMARK(ChangeAnAtomOutOfSight)->Apply(Sizes);
 BENCHMARK(AppendAnAtom)->Arg(1000)->Iterations(2000)->Unit(benchmark::kMicrosecond);
 BENCHMARK(MemoryPerRow)->Apply(Sizes)->Iterations(3);
 

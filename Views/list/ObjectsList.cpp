@@ -192,6 +192,7 @@ void CObjectsList::ClearContext()
     m_pCache->RemoveAll();
     m_nCacheFrom = m_nCacheTo = 0;
     m_nOrdered = 0;
+    m_doubted.clear();
     std::exchange(m_atoms, {}).clear(); // an atom's end may come back here: there are no rows any more
     m_pContainer.Release();
     OnClearContext();

@@ -7,6 +7,7 @@
 #include "Views/list/ListDropTarget.h"
 #include "Views/list/ObjectsListCache.h"
 
+#include <unordered_set>
 #include <vector>
 
 class IAtomEditor;
@@ -123,8 +124,10 @@ private:
     void ShowPane();
     void RemovePane();
 
-    int FindRow(IAtom* pAtom) const; // the first row whose atom compares equal, -1: none
-    void CheckOrder(IAtom* pChanged);
+    int FindRow(IAtom* pAtom);                        // the first row whose atom compares equal, -1: none
+    void DoubtOrder(IAtom* pChanged, int nCachedRow); // -1: it is not cached
+    void SettleDoubts();
+    void CheckOrder(int nRow);
     void RemoveRow(int nItem);
     void ReloadContainer(IAtomContainer* pContainer);
 
@@ -164,5 +167,6 @@ private:
     BOOL m_bPaneShown = FALSE;
     int m_nEdited = -1;  // the row whose label is being edited
     CString m_strEdited; // the name that its editing began with
-    int m_nOrdered = 0;  // rows before this one stand in the order of their names
+    int m_nOrdered = 0;  // rows before this one stand in the order of their names, but for those of the next
+    std::unordered_set<const IAtom*> m_doubted; // atoms that may have a new name; perhaps gone, and never followed
 };

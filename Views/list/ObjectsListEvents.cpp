@@ -91,12 +91,11 @@ void CObjectsList::RemoveRow(int nItem)
 // Only a cached row can show what is out of date; others are read when they are next hinted.
 BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
-    if (pAtom)
-        CheckOrder(pAtom); // also when nothing else is done: rows must be found afterwards
-    if (!m_bSync || !pAtom)
+    if (!pAtom)
         return TRUE;
     const int nRow = FindCachedRow(pAtom);
-    if (nRow < 0)
+    DoubtOrder(pAtom, nRow); // also when nothing else is done: rows must be found afterwards
+    if (!m_bSync || nRow < 0)
         return TRUE;
     UncacheRow(nRow);
     m_pCache->Remove(nRow);

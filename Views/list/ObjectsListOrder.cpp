@@ -60,8 +60,9 @@ void CObjectsList::UpdateIndexes()
 
 // In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
 // for names that have changed without a word.
-int CObjectsList::FindRow(IAtom* pAtom) const
+int CObjectsList::FindRow(IAtom* pAtom)
 {
+    SettleDoubts();
     const auto compare = [pAtom](const CStubRef<IAtom>& pRow) { return CompareFunc(&pRow, &pAtom); };
     const auto isSame = [&](const CStubRef<IAtom>& pRow) { return pRow && compare(pRow) == 0; };
     const auto isBefore = [&](const CStubRef<IAtom>& pRow) { return compare(pRow) < 0; };
@@ -78,16 +79,38 @@ int CObjectsList::FindRow(IAtom* pAtom) const
     return static_cast<int>(found - m_atoms.begin());
 }
 
-// A new name may put its row out of order: from there on rows are no longer found by halving.
-void CObjectsList::CheckOrder(IAtom* pChanged)
+// A new name may put its row out of order. The row of an atom that is out of sight is looked for when that matters, and
+// then together with all others: news of atoms come in great numbers, as their pictures are read.
+void CObjectsList::DoubtOrder(IAtom* pChanged, int nCachedRow)
 {
-    const auto orderedEnd = m_atoms.begin() + m_nOrdered;
-    const auto row =
-        std::find_if(m_atoms.begin(), orderedEnd, [&](const auto& pRow) { return pRow.Get() == pChanged; });
-    if (row == orderedEnd)
+    if (nCachedRow >= 0)
+        return CheckOrder(nCachedRow);
+    if (m_nOrdered == 0)
         return;
-    const bool bAfterFormer = row == m_atoms.begin() || CompareFunc(&row[-1], &row[0]) <= 0;
-    const bool bBeforeNext = row + 1 == orderedEnd || CompareFunc(&row[0], &row[1]) <= 0;
+    try {
+        m_doubted.insert(pChanged);
+    } catch (const CMemoryException&) {
+        m_nOrdered = 0; // no room to remember it
+    }
+}
+
+void CObjectsList::SettleDoubts()
+{
+    const auto doubted = std::exchange(m_doubted, {});
+    for (int i = 0; !doubted.empty() && i < m_nOrdered; ++i) {
+        if (doubted.contains(m_atoms[static_cast<std::size_t>(i)].Get()))
+            CheckOrder(i);
+    }
+}
+
+// From a row that is out of order on rows are no longer found by halving.
+void CObjectsList::CheckOrder(int nRow)
+{
+    if (nRow >= m_nOrdered)
+        return;
+    const auto row = m_atoms.begin() + nRow;
+    const bool bAfterFormer = nRow == 0 || CompareFunc(&row[-1], &row[0]) <= 0;
+    const bool bBeforeNext = nRow + 1 == m_nOrdered || CompareFunc(&row[0], &row[1]) <= 0;
     if (!bAfterFormer || !bBeforeNext)
-        m_nOrdered = static_cast<int>(row - m_atoms.begin());
+        m_nOrdered = nRow;
 }
