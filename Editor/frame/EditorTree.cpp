@@ -67,6 +67,11 @@ BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     return TRUE;
 }
 
+BOOL CEditorTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    return RefreshItem(pAtom);
+}
+
 BOOL CEditorTree::OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer)
 {
     const FocusKeeper keeper(m_hWnd);

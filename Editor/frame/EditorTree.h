@@ -23,6 +23,8 @@ public:
 
     // Members that are new on the disk come, too.
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    // Only its own row is drawn anew: each picture that has been read is told of, and no other label changes with it.
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     // The focus stays where the user has opened something.
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
 

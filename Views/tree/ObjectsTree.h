@@ -69,7 +69,8 @@ public:
     // Always TRUE. Removes the atom with all below it, unless it comes with a container that is not shown. For atom
     // NULL, removes those of the container's items whose atoms it no longer holds; costs one question for each.
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override; // TRUE when the atom is shown
+    // TRUE when the atom is shown. Everything in sight is drawn anew at once: other labels may change with the atom's.
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -107,6 +108,10 @@ protected:
     // shown or no container. Costs n log n, or one look at each member when nothing is new.
     BOOL ShowMembers(IAtom* pAtom);
     bool AreMembersShown(HTREEITEM hItem) const;
+
+    // For a derived class whose host tells of every atom that looks different now: the atom's icon is fetched again,
+    // and its row alone is drawn anew, with the next paint. FALSE when the atom is not shown.
+    BOOL RefreshItem(IAtom* pAtom);
 
     // The item that shows the atom, the last one if there are several; NULL when none does.
     HTREEITEM GetItem(IAtom* pAtom) const;

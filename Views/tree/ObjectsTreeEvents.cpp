@@ -38,15 +38,25 @@ BOOL CObjectsTree::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     return TRUE;
 }
 
-// The label needs nothing, it is asked for again; the icon is fetched again.
 BOOL CObjectsTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    if (!RefreshItem(pAtom))
+        return FALSE;
+    Invalidate(TRUE);
+    UpdateWindow();
+    return TRUE;
+}
+
+// The label needs nothing, it is asked for again.
+BOOL CObjectsTree::RefreshItem(IAtom* pAtom)
 {
     const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
     if (!hItem)
         return FALSE;
     m_iconSlots.GiveUp(hItem);
-    Invalidate(TRUE);
-    UpdateWindow();
+    CRect row;
+    if (GetItemRect(hItem, &row, FALSE))
+        InvalidateRect(&row);
     return TRUE;
 }
 

@@ -219,6 +219,19 @@ TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
     EXPECT_EQ("/[Ada[b.bmp c.bmp] (Bo)+]", Shown());
 }
 
+TEST_F(FrameTest, APictureThatArrivesDrawsItsOwnRowAlone)
+{
+    folder.Make("a.bmp b.bmp c.bmp");
+    Open();
+    CStubRef<IAtom> pAtom;
+    Frame().ShownContainer()->FindAtom("b.bmp", pAtom.Receive(), IID_IAtom);
+    EXPECT_TRUE(Tree().OnChangeAtom(pAtom.Get(), nullptr));
+    CRect row, noted;
+    EXPECT_TRUE(Tree().GetItemRect(FindItem("b.bmp"), &row, FALSE));
+    EXPECT_TRUE(::GetUpdateRect(Tree().m_hWnd, &noted));
+    EXPECT_EQ(row, noted);
+}
+
 TEST_F(FrameTest, ExpandingEverythingEndsAtARingOfLinksAndAtTooMuch)
 {
     folder.Make("Ada/Poses/one.bmp Huge/ Zoe/a.bmp");
