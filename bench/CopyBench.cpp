@@ -2,11 +2,11 @@
 // beside `cp -r` of the same files. Both in the disk's cache, neither waiting for the disk itself.
 #include "Editor/model/Library.h"
 #include "Editor/services/Services.h"
-#include "Editor/services/StateHandler.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/ole/DataObject.h"
 #include "Toolkit/ole/DataSource.h"
 #include "Views/clipboard/clipboard.h"
+#include "Views/host/StateHandler.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -77,7 +77,7 @@ CopyFolder& Folder()
 }
 
 // All members of a container are selected.
-class Selection final : public editor::CStateHandler
+class Selection final : public CStateHandler
 {
 public:
     explicit Selection(IAtomContainer* pContainer) : m_pContainer(pContainer) {}

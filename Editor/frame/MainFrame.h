@@ -13,7 +13,7 @@
 #include "Editor/frame/StatusBar.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/Commands.h"
-#include "Editor/services/StateHandler.h"
+#include "Views/host/StateHandler.h"
 
 namespace editor
 {

@@ -2,10 +2,10 @@
 
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
-#include "Editor/services/StateHandler.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/ole/DataObject.h"
 #include "Views/clipboard/clipboard.h"
+#include "Views/host/StateHandler.h"
 
 #include <utility>
 

@@ -28,5 +28,6 @@
 #include "Views/host/IPhase.h"
 #include "Views/host/InterfaceIds.h"
 #include "Views/host/Services.h"
+#include "Views/host/StateHandler.h"
 #include "Views/host/StubRef.h"
 #include "Views/host/TopLevelAtom.h"

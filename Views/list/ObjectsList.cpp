@@ -69,17 +69,6 @@ LRESULT CObjectsList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
-void CObjectsList::GetInterface(DWORD id, void** out)
-{
-    *out = nullptr;
-    if (id == IID_IAEStateHandler)
-        *out = static_cast<IAEStateHandler*>(this);
-    else if (id == STUB_BASE_INTERFACE_ID)
-        *out = static_cast<CStubBaseInterface*>(this);
-    if (*out)
-        AddRef();
-}
-
 CStubRef<IAtomEditor> CObjectsList::EditorToTell() const
 {
     return CStubRef<IAtomEditor>::Adopt(m_bPassive ? nullptr : GetAtomEditor());

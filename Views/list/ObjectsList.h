@@ -4,6 +4,7 @@
 #include "Toolkit/controls/ListCtrl.h"
 #include "Views/host/HeldPair.h"
 #include "Views/host/IAtom.h"
+#include "Views/host/StateHandler.h"
 #include "Views/list/ListDropTarget.h"
 #include "Views/list/ObjectsListCache.h"
 
@@ -20,7 +21,7 @@ class IAtomEditor;
 // passive view loads and shows rows, but is told nothing, tells and asks nothing, and shows no pane.
 //
 // A derived class destroys its window in its own destructor, so that its hooks are there when the rows go.
-class VIEWS_API CObjectsList : public CListCtrl, public IAEStateHandler
+class VIEWS_API CObjectsList : public CListCtrl, public CStateHandler
 {
 public:
     using CACHEDATA = CObjectsListCache::CACHEDATA;
@@ -51,21 +52,11 @@ protected:
     virtual void OnClearContext();
 
 public:
-    // Views are not counted: these two do nothing.
-    void AddRef() override {}
-    void Release() override {}
-    void GetInterface(DWORD id, void** out) override;
-    void StubReserved4(DWORD) override {}
-
-    BOOL PreRenameAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL PreSaveAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomDeselecting(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override;

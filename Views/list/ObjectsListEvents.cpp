@@ -7,26 +7,6 @@
 
 #include <algorithm>
 
-BOOL CObjectsList::PreRenameAtom(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsList::PreSaveAtom(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsList::OnAtomSelecting(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsList::OnAtomDeselecting(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
 // New atoms come last, whatever the order of the others, and are what the user goes on with.
 BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {

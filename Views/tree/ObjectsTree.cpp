@@ -76,17 +76,6 @@ BOOL CObjectsTree::PreTranslateMessage(MSG* pMsg)
     return CTreeCtrl::PreTranslateMessage(pMsg);
 }
 
-void CObjectsTree::GetInterface(DWORD id, void** out)
-{
-    *out = nullptr;
-    if (id == IID_IAEStateHandler)
-        *out = static_cast<IAEStateHandler*>(this);
-    else if (id == STUB_BASE_INTERFACE_ID)
-        *out = static_cast<CStubBaseInterface*>(this);
-    if (*out)
-        AddRef();
-}
-
 // Without the bitmap the tree works, but shows no pictures.
 int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {

@@ -4,6 +4,7 @@
 #include "Toolkit/controls/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/HeldPair.h"
+#include "Views/host/StateHandler.h"
 #include "Views/tree/TreeIconSlots.h"
 
 #include <memory>
@@ -26,7 +27,7 @@ class IAtomIcon;
 // removed. An atom announced below itself is ignored: such a tree would have no end.
 //
 // A passive tree shows what is announced like any other, but has no pane, and its selection is its own affair.
-class VIEWS_API CObjectsTree : public CTreeCtrl, public virtual CStubBaseInterface, public virtual IAEStateHandler
+class VIEWS_API CObjectsTree : public CTreeCtrl, public virtual CStateHandler
 {
 public:
     CObjectsTree() : CObjectsTree(FALSE) {}
@@ -55,14 +56,6 @@ protected:
     virtual void OnGetDispInfo(TVDISPINFO* pInfo);
 
 public:
-    // Views are not counted: these two do nothing.
-    void AddRef() override {}
-    void Release() override {}
-    void GetInterface(DWORD id, void** out) override;
-    void StubReserved4(DWORD) override {}
-
-    BOOL PreRenameAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL PreSaveAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     // TRUE when the atom is shown now. Costs n log n for an atom with n members, log n for one more among n siblings
     // in the order of their labels.
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -71,10 +64,6 @@ public:
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     // TRUE when the atom is shown. Everything in sight is drawn anew at once: other labels may change with the atom's.
     BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnAtomDeselecting(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override; // always TRUE; selects its item, if any
     BOOL OnAtomRename(IAtom* pAtom, IAtomContainer* pContainer) override;  // for atom NULL only
     // The tree has one pair or none; with none *pCount stays as it was.

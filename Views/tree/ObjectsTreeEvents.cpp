@@ -1,37 +1,7 @@
 // What the tree does when the editor asks or tells it of atoms. Atoms that come and go are in ObjectsTreeItems.cpp.
 #include "Views/tree/ObjectsTree.h"
 
-BOOL CObjectsTree::PreRenameAtom(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsTree::PreSaveAtom(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsTree::OnAtomSelecting(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsTree::OnAtomDeselecting(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
 // The tree follows what is opened, not what is selected.
-BOOL CObjectsTree::OnAtomSelected(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
-BOOL CObjectsTree::OnAtomDeselected(IAtom*, IAtomContainer*)
-{
-    return TRUE;
-}
-
 BOOL CObjectsTree::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
 {
     SelectAtom(pAtom);

@@ -1,12 +1,12 @@
 // A handler that writes down what the editor tells it, and answers and acts as the test says.
 #pragma once
 
-#include "Editor/services/StateHandler.h"
+#include "Views/host/StateHandler.h"
 #include "tests/support/Ledger.h"
 
 #include <functional>
 
-class StateSpy final : public editor::CStateHandler
+class StateSpy final : public CStateHandler
 {
 public:
     // Its lines begin with the prefix: "one selecting a.bmp". The library is called "/".

@@ -1,18 +1,17 @@
-// A state handler that agrees to everything and has nothing selected: override what matters.
 #pragma once
 
-#include "Views/host/host.h"
+#include "Views/host/IAEStateHandler.h"
 
-namespace editor
-{
-
+// A state handler that agrees to everything, takes no notice of anything and has nothing selected: override what
+// matters. The views are made from it; hosts may be, too.
+//
 // Not counted: whoever registers it sees to it that it is unregistered before it goes.
-class CStateHandler : public IAEStateHandler
+class VIEWS_API CStateHandler : public IAEStateHandler
 {
 public:
     void AddRef() override {}
     void Release() override {}
-    void GetInterface(DWORD id, void** out) override;
+    void GetInterface(DWORD id, void** out) override; // IAEStateHandler and CStubBaseInterface
 
     BOOL PreRenameAtom(IAtom*, IAtomContainer*) override { return TRUE; }
     BOOL PreSaveAtom(IAtom*, IAtomContainer*) override { return TRUE; }
@@ -30,5 +29,3 @@ public:
 protected:
     ~CStateHandler() = default;
 };
-
-} // namespace editor
