@@ -36,7 +36,7 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     } catch (const CMemoryException&) {
         // As without the bitmap.
     }
-    m_freeImages.clear(); // a former window's
+    m_freeImages.Clear(); // a former window's
     m_nDefaultImage = 0;
     SetImageList(&m_images, LVSIL_NORMAL);
     return 0;
@@ -46,7 +46,7 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData)
 {
     const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
-    const int nFree = TakeFreeImage();
+    const int nFree = m_freeImages.Take();
     int nImage = -1;
     try {
         nImage = pIcon ? pIcon->AddToImageList(m_images.GetSafeHandle(), nFree) : -1;
@@ -58,33 +58,6 @@ void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData
 
 void CIconList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
 {
-    if (pData->nImage == m_nDefaultImage)
-        return;
-    try {
-        m_freeImages.push_back(pData->nImage);
-    } catch (const CMemoryException&) {
-        // The image is not used again.
-    }
-}
-
-// Nothing to do: the images of all rows are free by now.
-void CIconList::OnClearContext() {}
-
-BOOL CIconList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
-{
-    return CObjectsList::OnDeleteAtom(pAtom, pContainer) ? TRUE : FALSE;
-}
-
-BOOL CIconList::OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer)
-{
-    return CObjectsList::OnChangeAtom(pAtom, pContainer) ? TRUE : FALSE;
-}
-
-int CIconList::TakeFreeImage()
-{
-    if (m_freeImages.empty())
-        return -1;
-    const int nImage = m_freeImages.front();
-    m_freeImages.pop_front();
-    return nImage;
+    if (pData->nImage != m_nDefaultImage)
+        m_freeImages.Add(pData->nImage);
 }

@@ -2,9 +2,8 @@
 #pragma once
 
 #include "Toolkit/graphics/ImageList.h"
+#include "Views/list/FreeImages.h"
 #include "Views/list/ObjectsList.h"
-
-#include <deque>
 
 // Pictures are 48 pixels wide and as high as the host's bitmap resource 1006, whose first picture serves atoms without
 // an icon. The images of rows that leave the cache are used again for rows that enter it, the longest unused
@@ -15,21 +14,15 @@ public:
     explicit CIconList(int bPassive = 0);
     ~CIconList() override;
 
-    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-
 protected:
     void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
     void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
-    void OnClearContext() override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     DECLARE_MESSAGE_MAP()
 
 private:
-    int TakeFreeImage(); // -1: none is free
-
     CImageList m_images; // grows, never shrinks while the window lives
     int m_nDefaultImage = 0;
-    std::deque<int> m_freeImages; // images of rows that have left the cache
+    views::FreeImages m_freeImages;
 };

@@ -1,7 +1,5 @@
 #include "Views/list/ThumbList.h"
 
-#include "Toolkit/base/Exception.h"
-
 namespace
 {
 
@@ -48,7 +46,7 @@ int CThumbList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     if (CObjectsList::OnCreate(lpCreateStruct) == -1)
         return -1;
     m_images.Create(kExtent, kExtent, ILC_COLOR32, 0, kImagesToGrow);
-    m_freeImages.clear(); // a former window's
+    m_freeImages.Clear(); // a former window's
     SetImageList(&m_images, LVSIL_NORMAL);
     AddThumbnail(0);
     return 0;
@@ -59,7 +57,7 @@ void CThumbList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pDat
 {
     const auto pThumb = CStubRef<IAtomThumbnail>::From(pAtom);
     const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
-    const UINT nFree = TakeFreeImage();
+    const UINT nFree = static_cast<UINT>(m_freeImages.Take());
     UINT nImage = kNone;
     if (pThumb)
         nImage = AddThumbnail(pThumb.Get(), nFree, 0);
@@ -72,34 +70,11 @@ void CThumbList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pDat
 
 void CThumbList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
 {
-    try {
-        m_freeImages.push_back(pData->nImage);
-    } catch (const CMemoryException&) {
-        // The image is not used again.
-    }
+    m_freeImages.Add(pData->nImage);
 }
 
 // The images of all rows are free by now.
 void CThumbList::OnClearContext()
 {
     ClearAnimation();
-}
-
-BOOL CThumbList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
-{
-    return CObjectsList::OnDeleteAtom(pAtom, pContainer) ? TRUE : FALSE;
-}
-
-BOOL CThumbList::OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer)
-{
-    return CObjectsList::OnChangeAtom(pAtom, pContainer) ? TRUE : FALSE;
-}
-
-UINT CThumbList::TakeFreeImage()
-{
-    if (m_freeImages.empty())
-        return kNone;
-    const int nImage = m_freeImages.front();
-    m_freeImages.pop_front();
-    return static_cast<UINT>(nImage);
 }

@@ -4,10 +4,10 @@
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/IAtomIcon.h"
 #include "Views/host/IAtomThumbnail.h"
+#include "Views/list/FreeImages.h"
 #include "Views/list/MaskedBitmap.h"
 #include "Views/list/ObjectsList.h"
 
-#include <deque>
 #include <unordered_map>
 
 // Pictures are 128 by 128 pixels: the atom's thumbnail, else its icon, else the host's folder picture (bitmap resource
@@ -24,9 +24,6 @@ public:
     explicit CThumbList(int bPassive = 0);
     CThumbList(UINT nPaneKind, UINT nResourceID, int bPassive); // as CObjectsList takes them
     ~CThumbList() override;
-
-    BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
-    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
 
 protected:
     void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
@@ -73,14 +70,13 @@ private:
 
     bool PaintPicture(HDC hdc, DrawFn fn, void* context, BOOL bContainer) const;
     UINT StoreImage(UINT nIndex, HBITMAP hPicture);
-    UINT TakeFreeImage(); // -1: none is free
     void StartTimer();
     void ClearAnimation();
 
     CImageList m_images; // grows, never shrinks while the window lives; image 0 is the folder picture
     views::MaskedBitmap m_folderBitmap, m_markerBitmap;
     std::unordered_map<int, ANIMDATA> m_animations; // by row, as it was when the mouse passed over it
-    std::deque<int> m_freeImages;                   // of rows that have left the cache; -1 among them for rows without
+    views::FreeImages m_freeImages;                 // -1 among them, of rows without an image
 
     static BackBrush s_backBrush;
 };
