@@ -3,11 +3,28 @@
 #include "Editor/resources/Pictograms.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace editor
 {
 namespace
 {
+
+constexpr std::pair<UINT, LPCSTR> kTexts[] = {
+    {IDS_NAME_FAILED, "The name cannot be shown"},
+    {IDS_NOT_INSERTED, "An object could not be added to the tree."},
+    {IDS_TREE_PANE, "Library"},
+    {IDS_RENAME_FAILED, "The name was not changed"},
+    {IDS_CONFIRM_REMOVE, "Remove the selected objects?"},
+    {IDS_COPY_FAILED, "Nothing was copied"},
+    {IDS_CUT_FAILED, "Nothing was cut"},
+    {IDS_PASTE_FAILED, "Not everything was pasted"},
+    {IDS_REMOVE_FAILED, "Not everything was removed"},
+    {IDS_SAVE_FAILED, "Not everything was saved"},
+    {IDS_DRAG_FAILED, "Nothing can be dragged"},
+    {IDS_MOVE_FAILED, "Not everything went from its former place"},
+    {IDS_DROP_FAILED, "Not everything was taken"},
+};
 
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
 
@@ -41,19 +58,8 @@ void AddPane(CResourceModule& module, UINT nID, LPCSTR pszCaption, Pictogram ico
 
 void AddEditorResources(CResourceModule& module)
 {
-    module.AddString(IDS_NAME_FAILED, "The name cannot be shown");
-    module.AddString(IDS_NOT_INSERTED, "An object could not be added to the tree.");
-    module.AddString(IDS_TREE_PANE, "Library");
-    module.AddString(IDS_RENAME_FAILED, "The name was not changed");
-    module.AddString(IDS_CONFIRM_REMOVE, "Remove the selected objects?");
-    module.AddString(IDS_COPY_FAILED, "Nothing was copied");
-    module.AddString(IDS_CUT_FAILED, "Nothing was cut");
-    module.AddString(IDS_PASTE_FAILED, "Not everything was pasted");
-    module.AddString(IDS_REMOVE_FAILED, "Not everything was removed");
-    module.AddString(IDS_SAVE_FAILED, "Not everything was saved");
-    module.AddString(IDS_DRAG_FAILED, "Nothing can be dragged");
-    module.AddString(IDS_MOVE_FAILED, "Not everything went from its former place");
-    module.AddString(IDS_DROP_FAILED, "Not everything was taken");
+    for (const auto& [nID, pszText] : kTexts)
+        module.AddString(nID, pszText);
     module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
     module.AddBitmap(IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
     module.AddBitmap(IDB_TREE_ITEMS,
