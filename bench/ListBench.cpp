@@ -20,6 +20,12 @@ struct ShownList
         window.Settle();
     }
 
+    void Press(UINT vkey, bool bShift)
+    {
+        for (const bool bDown : {true, false})
+            toolkit::InputKey(vkey, bDown, {bShift});
+        window.Settle();
+    }
     int Middle() const { return static_cast<int>(container.MemberCount() / 2); }
     void ScrollTo(int nRow)
     {
@@ -103,19 +109,35 @@ void ExtendToTheEndAndBack(benchmark::State& state)
     CIconList& list = shown.window.List();
     list.SetFocus();
     shown.ScrollTo(0);
-    const auto press = [&](UINT vkey, bool shift) {
-        toolkit::InputKey(vkey, true, {shift});
-        toolkit::InputKey(vkey, false, {shift});
-        shown.window.Settle();
-    };
-    press(VK_HOME, false);
+    shown.Press(VK_HOME, false);
     for (auto _ : state) {
-        press(VK_RIGHT, false);
-        press(VK_END, true);
+        shown.Press(VK_RIGHT, false);
+        shown.Press(VK_END, true);
         if (list.GetSelectedCount() != list.GetItemCount() - 1)
             state.SkipWithError("not selected");
-        press(VK_HOME, false);
+        shown.Press(VK_HOME, false);
     }
+}
+
+// Shift+Page Down and back, with the first column selected from the top to the middle.
+void ExtendByAPageAndBack(benchmark::State& state)
+{
+    ShownList shown(state);
+    CIconList& list = shown.window.List();
+    list.SetFocus();
+    shown.Press(VK_HOME, false);
+    shown.Press(VK_DOWN, false);
+    const int nColumns = list.GetNextItem(-1, LVNI_FOCUSED);
+    shown.Press(VK_HOME, false);
+    list.SetItemState(shown.Middle() / nColumns * nColumns, LVIS_FOCUSED, LVIS_FOCUSED);
+    shown.Press(VK_PRIOR, true);
+    const int nSelected = list.GetSelectedCount();
+    for (auto _ : state) {
+        shown.Press(VK_NEXT, true);
+        shown.Press(VK_PRIOR, true);
+    }
+    if (list.GetSelectedCount() != nSelected)
+        state.SkipWithError("not as before");
 }
 
 // The editor tells of an atom that changed and is in sight: one row is read and painted again.
@@ -179,6 +201,7 @@ BENCHMARK(JumpAndPaintAFrame)->Apply(Sizes);
 BENCHMARK(ScrollANotch)->Apply(Sizes);
 BENCHMARK(SelectAllAndClear)->Apply(Sizes);
 BENCHMARK(ExtendToTheEndAndBack)->Apply(Sizes);
+BENCHMARK(ExtendByAPageAndBack)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomInSight)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomOutOfSight)->Apply(Sizes);
 BENCHMARK(AppendAnAtom)->Arg(1000)->Iterations(2000)->Unit(benchmark::kMicrosecond);
