@@ -36,11 +36,13 @@ std::string Take(HGLOBAL hMem)
     return bytes.Get() ? std::string(bytes.Get(), GlobalSize(hMem)) : "nothing";
 }
 
-void Fill(COleDataSource& source, const std::string& text)
+std::unique_ptr<COleDataSource> Offer(const std::string& text)
 {
     const HGLOBAL hMem = GlobalAlloc(GMEM_MOVEABLE, text.size());
     std::memcpy(toolkit::GlobalLocker<char>(hMem).Get(), text.data(), text.size());
-    source.CacheGlobalData(kAtoms, hMem);
+    auto pSource = std::make_unique<COleDataSource>();
+    pSource->CacheGlobalData(kAtoms, hMem);
+    return pSource;
 }
 
 class PeerTarget : public COleDropTarget
@@ -103,16 +105,13 @@ protected:
 private:
     void Drag()
     {
-        m_target.source = std::make_unique<COleDataSource>();
-        Fill(*m_target.source, "from " + m_name);
+        m_target.source = Offer("from " + m_name);
         Say("dragged " + Name(m_target.source->DoDragDrop(DROPEFFECT_COPY | DROPEFFECT_MOVE)));
     }
 
     void Copy()
     {
-        auto pSource = std::make_unique<COleDataSource>();
-        Fill(*pSource, "from " + m_name);
-        pSource.release()->SetClipboard();
+        Offer("from " + m_name).release()->SetClipboard();
         Say("copied");
     }
 

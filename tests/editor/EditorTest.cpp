@@ -181,7 +181,7 @@ TEST_F(EditorTest, OfAHundredThousandPicturesOnlyThoseInSightAreRead)
     EXPECT_LT(reader.TakeReads().size(), 100u);
 }
 
-TEST_F(EditorTest, WhatCannotBeOpenedLeavesEverythingAsItWas)
+TEST_F(EditorTest, WhatCannotBeOpenedLeavesEverythingAsItWasAndAfterClosingAFolderCanBeOpenedAgain)
 {
     folder.Make("a.bmp");
     folder.Write("file", "");
@@ -192,12 +192,7 @@ TEST_F(EditorTest, WhatCannotBeOpenedLeavesEverythingAsItWas)
     Click("a.bmp");
     EXPECT_EQ(folder.At("file") + ": not a folder", Open(folder.At("file")));
     EXPECT_EQ("/ | [(*a.bmp)] | 1 object, 1 selected | a.bmp: 8 x 8 pixels", Screen());
-}
 
-TEST_F(EditorTest, ClosingTheWindowTellsTheProgramAndAFolderCanBeOpenedAgain)
-{
-    folder.Make("a.bmp");
-    Open();
     toolkit::InputClose(App().GetMainWindow());
     desktop.Run();
     EXPECT_EQ(1, nClosed);

@@ -23,7 +23,7 @@ class PropertiesTest : public EditorTest
 protected:
     PropertiesTest()
     {
-        folder.WriteBmp("a.bmp");
+        folder.Make("a.bmp");
         folder.Write("run.phase", "#delay 40\na.bmp\n");
         folder.Write("walk.phase", "#delay 80\na.bmp\n");
     }
@@ -37,12 +37,12 @@ protected:
         return std::string(pane.GetDelay().GetWindowText()) + " ms, " + std::string(pane.GetRepeat().GetWindowText()) +
                " times | " + pane.GetText();
     }
-    void SelectBothPhases()
+    void SetDelayOfWalk(const char* pszDelay)
     {
-        Click("run.phase");
-        desktop.Hold({.shift = true});
+        Open();
         Click("walk.phase");
-        desktop.Hold({});
+        desktop.Key(VK_F4);
+        desktop.Type(pszDelay);
     }
 };
 
@@ -52,7 +52,7 @@ TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKe
     EXPECT_EQ("Select a phase to set its timing.", Shown());
     Click("run.phase");
     EXPECT_EQ("40 ms, 1 times | run.phase", Shown());
-    SelectBothPhases();
+    Select({"run.phase", "walk.phase"});
     EXPECT_EQ("<Different> ms, 1 times | 2 phases", Shown());
 
     desktop.Key(VK_F4);
@@ -79,10 +79,7 @@ TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKe
 
 TEST_F(PropertiesTest, ClosingAsksWhatIsToBecomeOfWhatWasEntered)
 {
-    Open();
-    Click("walk.phase");
-    desktop.Key(VK_F4);
-    desktop.Type("7");
+    SetDelayOfWalk("7");
     const HWND hFrame = Frame().GetSafeHwnd();
     const auto close = [&](int nAnswer) {
         desktop.Answer(nAnswer);
@@ -98,31 +95,22 @@ TEST_F(PropertiesTest, ClosingAsksWhatIsToBecomeOfWhatWasEntered)
     EXPECT_EQ(1, nClosed);
 }
 
-TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlong)
+TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlongAndWhatCannotBeSavedIsToldAndKept)
 {
-    Open();
-    Click("walk.phase");
-    desktop.Key(VK_F4);
-    desktop.Type("7");
+    SetDelayOfWalk("7");
     desktop.Key(VK_RETURN);
     editor::CMember* const pWalk = editor::CMember::Of(Frame().GetList().GetAtom(2).Get());
     EXPECT_EQ("", Frame().GetCommands().Rename(pWalk, "stroll.phase"));
     Settle();
+    const std::string stroll = folder.Read("stroll.phase");
+    folder.Remove("stroll.phase");
+    Control('S');
+    EXPECT_EQ(Ledger({"Not everything was saved: stroll.phase: no such file or directory"}), TakeBoxes());
+    EXPECT_EQ("7 ms, 1 times | stroll.phase: not saved yet (Ctrl+S)", Shown());
+    folder.Write("stroll.phase", stroll);
     Control('S');
     EXPECT_EQ(Ledger(), TakeBoxes());
     EXPECT_EQ("#delay 7\na.bmp\n", folder.Read("stroll.phase"));
-}
-
-TEST_F(PropertiesTest, WhatCannotBeSavedIsToldAndKept)
-{
-    Open();
-    Click("walk.phase");
-    desktop.Key(VK_F4);
-    desktop.Type("7");
-    folder.Remove("walk.phase");
-    Control('S');
-    EXPECT_EQ(Ledger({"Not everything was saved: walk.phase: no such file or directory"}), TakeBoxes());
-    EXPECT_EQ("7 ms, 1 times | walk.phase: not saved yet (Ctrl+S)", Shown());
 }
 
 } // namespace
