@@ -75,8 +75,8 @@ TEST_F(AtomEditorTest, EveryHandlerButTheSenderHearsAndAnyOneMayVeto)
     EXPECT_EQ(Ledger({"one selecting a.bmp", "two selecting a.bmp"}), book.TakeLedger());
     EXPECT_TRUE(Tell(&one, &IAEStateHandler::OnAtomSelecting, pA.Get())) << "its own answer does not count";
     EXPECT_EQ(Ledger({"two selecting a.bmp"}), book.TakeLedger());
-    EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomSelected, pA.Get())) << "told, not asked";
-    book.TakeLedger();
+    EXPECT_TRUE(Tell(&two, &IAEStateHandler::OnAtomSelected, pA.Get())) << "told, not asked";
+    EXPECT_EQ(Ledger({"one selected a.bmp"}), book.TakeLedger());
     EXPECT_TRUE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr)) << "the second one renames";
     two.answer = FALSE;
     EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr));

@@ -1,10 +1,8 @@
 #include "Editor/model/LiveObjects.h"
-#include "tests/editor/AsNobody.h"
 #include "tests/editor/LibraryFixture.h"
 #include "tests/support/AllocationFailures.h"
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace
 {
@@ -172,22 +170,6 @@ TEST_F(LibraryTest, ALinkToAFolderThatHoldsItIsShownAndNotOpened)
     EXPECT_EQ("up: a link to a folder that holds it, not opened", Error(pUp.Get()));
     EXPECT_EQ("[]", Members(Container("Ada/self").Get()));
     EXPECT_EQ("", Error(pAda.Get()));
-}
-
-TEST_F(LibraryTest, AFolderThatMayNotBeReadSaysSo)
-{
-    folder.MakeFolder("secret");
-    chmod(folder.Path().c_str(), 0755);
-    chmod(folder.At("secret").c_str(), 0);
-    const AsNobody nobody;
-    if (eaccess(folder.At("secret").c_str(), R_OK) == 0)
-        GTEST_SKIP() << "this user may read everything";
-    EXPECT_EQ("[secret/]", Open());
-    const auto pSecret = Container("secret");
-
-    EXPECT_EQ("[]", Members(pSecret.Get()));
-    EXPECT_EQ("secret: permission denied", Error(pSecret.Get()));
-    EXPECT_EQ("! " + folder.At("secret") + ": permission denied", Open(folder.At("secret")));
 }
 
 TEST_F(LibraryTest, ReadAgainKeepsTheAtomsOfWhatIsStillThere)
