@@ -20,11 +20,18 @@ public:
         if (--m_nReferences == 0)
             delete this;
     }
+    void GetInterface(DWORD id, void** out) override
+    {
+        *out = Find(id);
+        if (*out)
+            AddRef();
+    }
     int CountReferences() const { return m_nReferences; }
     static int CountLive() { return s_nLive; } // of the kind
 
 protected:
     virtual ~FakeCounted() { --s_nLive; }
+    virtual void* Find(DWORD) { return nullptr; } // the interface, borrowed
 
 private:
     static inline int s_nLive = 0;

@@ -65,12 +65,9 @@ TEST(ServiceTest, AProviderIsNotTakenAwayDuringACall)
 
 class Thing final : public FakeCounted<Thing>
 {
-public:
-    void GetInterface(DWORD id, void** out) override
+    void* Find(DWORD id) override
     {
-        *out = id == INT_GetUniqueInterfaceID("IThing") ? static_cast<CStubBaseInterface*>(this) : nullptr;
-        if (*out)
-            AddRef();
+        return id == INT_GetUniqueInterfaceID("IThing") ? static_cast<CStubBaseInterface*>(this) : nullptr;
     }
 };
 

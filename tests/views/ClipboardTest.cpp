@@ -217,25 +217,23 @@ TEST_F(ClipboardTest, PastedAtomsKeepTheirNamesOnlyWhenTheyMove)
 
 TEST_F(ClipboardTest, TheVerdictIsThatOfTheLastAtomLookedAt)
 {
-    const auto check = [&](const char* pszNames, BOOL bMove) {
+    pBox->permissionsFor = {
+        {"copy", APF_ACCEPTCOPY}, {"both", APF_ACCEPT | APF_ACCEPTCOPY}, {"neither", ~(APF_ACCEPT | APF_ACCEPTCOPY)}};
+    const auto verdict = [&](const char* pszNames, BOOL bMove) {
         return CheckPaste(Holding(pszNames).Get(), pBox, bMove);
     };
-    EXPECT_EQ(0xFFFFFFFF, check("x\n", TRUE));
+    EXPECT_EQ(0xFFFFFFFF, verdict("x\n", TRUE));
     EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x"}), editor.TakeLedger());
-    EXPECT_EQ(0xFFFFFFFF, check("x\na\n", FALSE));
+    EXPECT_EQ(0xFFFFFFFF, verdict("x\na\n", FALSE)); // a name is no obstacle to a copy
     EXPECT_EQ(Ledger({"reads", "box permits x", "box permits a"}), editor.TakeLedger());
-    EXPECT_EQ(0u, check("x\na\ny\n", TRUE)); // there is an a already
+    EXPECT_EQ(0u, verdict("x\na\ny\n", TRUE)); // nothing is looked at after the obstacle
     EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x", "box permits a", "box finds a"}), editor.TakeLedger());
-    EXPECT_EQ(0u, check("", FALSE));
-    EXPECT_EQ(0xFFFFFFFF, check("nameless\nx\n", TRUE)); // no name to look for, and no further
-
-    pBox->permissions = APF_ACCEPTCOPY;
-    pBox->permissionsFor = {{"both", APF_ACCEPT | APF_ACCEPTCOPY}, {"neither", ~(APF_ACCEPT | APF_ACCEPTCOPY)}};
-    EXPECT_EQ(1u, check("both\nx\n", FALSE));
-    EXPECT_EQ(0xFFFFFFFF, check("x\nboth\n", FALSE));
-    editor.TakeLedger();
-    EXPECT_EQ(0u, check("neither\nx\n", FALSE));
+    EXPECT_EQ(0u, verdict("neither\nx\n", FALSE));
     EXPECT_EQ(Ledger({"reads", "box permits neither"}), editor.TakeLedger());
+    EXPECT_EQ(0u, verdict("", FALSE));
+    EXPECT_EQ(0xFFFFFFFF, verdict("nameless\nx\n", TRUE)); // no name to look for, and no further
+    EXPECT_EQ(1u, verdict("both\ncopy\n", FALSE));
+    EXPECT_EQ(0xFFFFFFFF, verdict("copy\nboth\n", FALSE));
     EXPECT_EQ(0u, CheckPaste(Holding("x\n").Get(), nullptr, FALSE));
 }
 

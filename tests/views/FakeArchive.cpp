@@ -10,13 +10,6 @@ void FakeStream::Seek(DWORD dwOffset, DWORD dwOrigin)
     m_nPosition = dwOffset;
 }
 
-void FakeArchive::GetInterface(DWORD id, void** out)
-{
-    *out = id == IID_IArchive ? static_cast<IArchive*>(this) : nullptr;
-    if (*out)
-        AddRef();
-}
-
 FakeArchives::FakeArchives()
     : streams("ConstructMemoryStream", [this](void* pBuffer, DWORD dwSize, DWORD dwExtra) {
           EXPECT_EQ(sizeof(void*), dwSize);

@@ -13,7 +13,6 @@ class FakeStream final : public FakeCounted<IByteStream>, public IMemoryStream
 public:
     explicit FakeStream(bool bHasBlock) : m_bHasBlock(bHasBlock) {}
 
-    void GetInterface(DWORD, void** out) override { *out = nullptr; }
     void Seek(DWORD dwOffset, DWORD dwOrigin) override;
     DWORD GetLength() override { return static_cast<DWORD>(m_bytes.size()) - 1; }
     void SetEnd() override { m_bytes.resize(m_nPosition + 1); }
@@ -28,7 +27,6 @@ private:
 class FakeArchive final : public FakeCounted<IByteStream>, public IArchive
 {
 public:
-    void GetInterface(DWORD id, void** out) override;
     void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
     void Seek(DWORD dwOffset, DWORD dwOrigin) override { m_pStream->Seek(dwOffset, dwOrigin); }
     DWORD GetLength() override { return m_pStream->GetLength(); }
@@ -36,6 +34,8 @@ public:
     void* GetData() override { return m_pStream->GetData(); }
 
 private:
+    void* Find(DWORD id) override { return id == IID_IArchive ? static_cast<IArchive*>(this) : nullptr; }
+
     CStubRef<IByteStream> m_pStream;
 };
 

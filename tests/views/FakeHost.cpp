@@ -78,13 +78,6 @@ void* FakeAtom::Find(DWORD id)
     return id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
 }
 
-void FakeAtom::GetInterface(DWORD id, void** out)
-{
-    *out = Find(id);
-    if (*out)
-        AddRef();
-}
-
 BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
 {
     if (!pBuffer && nameIsEndless) {
@@ -110,8 +103,7 @@ BOOL FakeAtom::GetContainer(void** ppOut, DWORD dwInterfaceId)
 
 BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
 {
-    if (pLedger)
-        pLedger->push_back(Words("icon ", name, " ", pRequest->cx, "x", pRequest->cy));
+    Write(Words("icon ", name, " ", pRequest->cx, "x", pRequest->cy));
     if (iconFails)
         return FALSE;
     pRequest->hIcon = CreateIconFromSurface(toolkit::Surface(CSize(pRequest->cx, pRequest->cy), 0xFF00FF00));
@@ -120,17 +112,15 @@ BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
 
 BOOL FakeAtom::Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame)
 {
-    if (pLedger)
-        pLedger->push_back(Words("draw ", name, " at ", rect.left, ",", rect.top, "-", rect.right, ",", rect.bottom,
-                                 " (", dwReserved, ", ", dwMode, ", ", nFrame, ")"));
+    Write(Words("draw ", name, " at ", rect.left, ",", rect.top, "-", rect.right, ",", rect.bottom, " (", dwReserved,
+                ", ", dwMode, ", ", nFrame, ")"));
     FillSolidRect(hdc, CRect(rect.left, rect.top, rect.CenterPoint().x, rect.bottom), RGB(0, 0, 255));
     return !thumbFails;
 }
 
 int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
 {
-    if (pLedger)
-        pLedger->push_back("icon " + name + " at " + std::to_string(nReplace));
+    Write(Words("icon ", name, " at ", nReplace));
     if (iconNeedsTooMuch)
         AfxThrowMemoryException();
     if (iconFails)
@@ -187,8 +177,7 @@ BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
 
 bool FakeContainer::Does(const std::string& strCall)
 {
-    if (pLedger)
-        pLedger->push_back(name + " " + strCall);
+    Write(name + " " + strCall);
     if (const auto hook = onCall)
         hook(strCall);
     return !refused.contains(strCall);

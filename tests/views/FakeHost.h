@@ -50,7 +50,6 @@ public:
     int nNameReads = 0;        // names filled in, lengths asked for not counted
     Ledger* pLedger = nullptr; // where icons, thumbnails and what a container is asked to do, are written down
 
-    void GetInterface(DWORD id, void** out) override;
     DWORD GetID() override { return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(this)); }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
@@ -62,7 +61,12 @@ public:
     BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
 protected:
-    virtual void* Find(DWORD id); // the interface, borrowed
+    void* Find(DWORD id) override;
+    void Write(const std::string& line)
+    {
+        if (pLedger)
+            pLedger->push_back(line);
+    }
 };
 
 using AtomRef = CStubRef<FakeAtom>;

@@ -88,16 +88,6 @@ TEST_F(ListEventsTest, ADeletedAtomsPlaceIsSelected)
     EXPECT_FALSE(list.OnAtomRename(nullptr, nullptr)); // no row has the focus
 }
 
-TEST_F(ListEventsTest, OfAtomsWithTheSameNameTheFirstRowIsMeant)
-{
-    Rename("b", "twin");
-    Rename("c", "TWIN");
-    EXPECT_EQ("[a *twin TWIN d]", WithSelected("TWIN"));
-    Delete("TWIN");
-    EXPECT_EQ("[a (*TWIN) d]", list.State()); // the row of twin went
-    EXPECT_EQ(1, box->Named("twin")->CountReferences());
-}
-
 TEST_F(ListEventsTest, AnAtomIsFoundWhereverItsNameHasLedIt)
 {
     for (const char* pszName : {"e", "f", "g"})

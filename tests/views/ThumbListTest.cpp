@@ -226,29 +226,25 @@ TEST_F(ThumbListTest, TheAnimatedThumbnailsTheMousePassedOverAreHeldUntilTheRows
     EXPECT_EQ(1, pAnimated->CountReferences());
 }
 
-TEST_F(ThumbListTest, TheTimerRunsWhileTheViewIsShownAndChangesNothing)
-{
-    CThumbList& list = MakeShown();
-    EXPECT_EQ("", ImageDifference(list, 1, kThumbFills));
-    drawn.clear();
-    desktop.Advance(500);
-    EXPECT_EQ(Ledger(), drawn);
-    list.ShowWindow(SW_HIDE);
-    EXPECT_EQ(0, toolkit::CountWindows().timers);
-}
-
-TEST_F(ThumbListTest, ThePaneIsTheThumbnailPaneAndRowsAreClickedAndSwept)
+TEST_F(ThumbListTest, ThePaneIsTheThumbnailPaneAndItsTimerRunsWhileItIsShownAndChangesNothing)
 {
     resources.AddString(1009, "Pictures");
     CThumbList& list = MakeShown();
     EXPECT_EQ("pane 1 \"Pictures\"", editor.TakeLedger().at(1));
-    desktop.Press(list.m_hWnd, {690, 390});
+    EXPECT_EQ("", ImageDifference(list, 1, kThumbFills));
+    drawn.clear();
+    desktop.Advance(500);
+    EXPECT_EQ(Ledger(), drawn);
+
+    desktop.Press(list.m_hWnd, {690, 390}); // rows are swept and clicked as ever
     desktop.MoveTo(list.m_hWnd, {600, 300});
     desktop.MoveTo(list.m_hWnd, PointOf(list, 1));
     desktop.Release(list.m_hWnd, PointOf(list, 1));
     EXPECT_EQ(3, list.GetSelectedCount());
     desktop.Click(list.m_hWnd, PointOf(list, 0));
     EXPECT_EQ(1, list.GetSelectedCount());
+    list.ShowWindow(SW_HIDE);
+    EXPECT_EQ(0, toolkit::CountWindows().timers);
 }
 
 } // namespace

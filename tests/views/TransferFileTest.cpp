@@ -175,7 +175,6 @@ TEST_F(TransferFileTest, WhatHasBecomeOfAFileMeanwhileGivesNoArchive)
 TEST_F(TransferFileTest, WithoutAStreamOrAnArchiveThereIsNothing)
 {
     folder.Write("file", "bytes");
-    const auto pEmpty = Holding("");
     const auto hasNone = [&] { return !ConstructMemoryArchive() && !ArchiveFromFile(folder.At("file").c_str()); };
     archives.refusesStreams = true;
     EXPECT_TRUE(hasNone());

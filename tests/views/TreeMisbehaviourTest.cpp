@@ -42,24 +42,6 @@ TEST_F(TreeMisbehaviourTest, AContainerBelowItselfIsNotShownAgainAndMembersThatV
     pInner->members.clear(); // it holds itself
 }
 
-TEST_F(TreeMisbehaviourTest, AnAtomInTwoContainersIsRemovedWithEach)
-{
-    FakeContainer* const pOther = MakeBox("other", {});
-    FakeAtom* const b = Find("b");
-    pOther->members.push_back(AtomRef::Share(b));
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ("world [box [a b c] other [b]]", tree.State());
-    AtomRef pKept = box->Remove(b);
-    tree.OnDeleteAtom(nullptr, box);
-    EXPECT_EQ("world [box [a c] other [b]]", tree.State());
-
-    box->members.push_back(std::move(pKept));
-    tree.OnCreateAtom(b, box);
-    Remove(tree, pOther); // whose member is the one in the box by now
-    EXPECT_EQ("world [box [a c]]", tree.State());
-    EXPECT_EQ(2, b->CountReferences());
-}
-
 // While a click goes from a to b. What is said of c while the click is only asked for, or the tree hears of b itself
 // after that, does not count.
 TEST_F(TreeMisbehaviourTest, AHandlerMayRemoveTheAtomItIsToldAboutOrSelectSomethingElse)
