@@ -95,7 +95,7 @@ TEST_F(ClipboardTest, FormatsAreNumbersForNames)
     EXPECT_EQ(Ledger(), toolkit::KindsOfFormat(0xFFFF));
 }
 
-TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSource)
+TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSourceOrWhatReplacesItsBlock)
 {
     EXPECT_EQ("nothing", Paste(m_atoms));
     COleDataSource* pSource = MakeSource();
@@ -110,6 +110,11 @@ TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSource)
     MakeSource()->SetClipboard();
     EXPECT_EQ(Ledger({"released"}), TakeLedger());
     EXPECT_EQ("path", Paste(m_atoms));
+
+    const std::unique_ptr<COleDataSource> source(MakeSource());
+    source->CacheGlobalData(m_atoms, Block("other"));
+    EXPECT_EQ(Ledger({"released"}), TakeLedger());
+    source->Empty();
 }
 
 TEST_F(ClipboardTest, AFlushLeavesPlainCopiesAndLetsTheSourceGo)
@@ -186,14 +191,6 @@ TEST_F(ClipboardTest, AFilesNameIsForThisProgramAlone)
     EXPECT_EQ("", desktop.PublishedKinds());
     COleDataSource::FlushClipboard();
     EXPECT_EQ("nothing", Paste(m_atoms));
-}
-
-TEST_F(ClipboardTest, CachingAgainReplacesAndEmptyReleases)
-{
-    const std::unique_ptr<COleDataSource> source(MakeSource());
-    source->CacheGlobalData(m_atoms, Block("other"));
-    EXPECT_EQ(Ledger({"released"}), TakeLedger());
-    source->Empty();
 }
 
 TEST_F(ClipboardTest, WithoutMemoryNothingIsLostOrReleasedTwice)

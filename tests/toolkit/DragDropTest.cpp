@@ -265,8 +265,14 @@ TEST_F(DragDropTest, ADragThatRestsAtAnEdgeScrolls)
         ledger);
 }
 
-TEST_F(DragDropTest, AnotherProgramsDragComesIn)
+TEST_F(DragDropTest, OursGoesOutToAnotherProgramAndItsDragComesIn)
 {
+    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "dragged: copy"}), Drag([&] {
+                  EXPECT_EQ("application/x-atoms", desktop.DraggedKinds());
+                  EXPECT_EQ("path", desktop.ReadDragged("application/x-atoms"));
+                  desktop.DropOutside(DROPEFFECT_COPY);
+              }));
+
     desktop.DragIn({{"text/uri-list", "file:///a"}, {"application/x-atoms", "theirs"}}, DROPEFFECT_COPY);
     desktop.MoveTo(right.m_hWnd, {10, 50});
     desktop.MoveTo(right.m_hWnd, {20, 50});
@@ -284,15 +290,6 @@ TEST_F(DragDropTest, AnotherProgramsDragComesIn)
     desktop.MoveTo(right.m_hWnd, {10, 50});
     desktop.Key(VK_ESCAPE);
     EXPECT_EQ(Ledger({"right enter 10,50 without atoms", "right leave"}), TakeLedger());
-}
-
-TEST_F(DragDropTest, AnotherProgramTakesWhatIsDraggedOut)
-{
-    EXPECT_EQ(Ledger({"left enter 30,50", "left leave", "dragged: copy"}), Drag([&] {
-                  EXPECT_EQ("application/x-atoms", desktop.DraggedKinds());
-                  EXPECT_EQ("path", desktop.ReadDragged("application/x-atoms"));
-                  desktop.DropOutside(DROPEFFECT_COPY);
-              }));
 }
 
 TEST_F(DragDropTest, ADragInsideADragIsRefused)

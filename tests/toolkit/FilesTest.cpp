@@ -76,7 +76,7 @@ int InAnotherProcess(const std::function<int()>& check)
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-TEST_F(FilesTest, AFileComesAndGoesAsTheDispositionSays)
+TEST_F(FilesTest, AFileComesAndGoesAsTheDispositionSaysAndANewOneIsItsOwnersAlone)
 {
     const std::string path = At("a");
     EXPECT_EQ(ERROR_FILE_NOT_FOUND, WhyNot(path, GENERIC_READ, OPEN_EXISTING));
@@ -91,10 +91,7 @@ TEST_F(FilesTest, AFileComesAndGoesAsTheDispositionSays)
     EXPECT_TRUE(DeleteFile(path.c_str()));
     EXPECT_FALSE(DeleteFile(path.c_str()));
     EXPECT_EQ(ERROR_FILE_NOT_FOUND, GetLastError());
-}
 
-TEST_F(FilesTest, ANewFileIsItsOwnersAlone)
-{
     const mode_t former = umask(0);
     Write(At("a"), "secret");
     umask(former);

@@ -11,7 +11,7 @@
 namespace
 {
 
-TEST(GlobalMemoryTest, ABlockHasExactlyTheSizeThatWasAskedFor)
+TEST(GlobalMemoryTest, ABlockHasExactlyTheSizeThatWasAskedForAndAnotherSizeKeepsWhatFits)
 {
     const HGLOBAL hMem = GlobalAlloc(GHND, 17);
     EXPECT_EQ(17u, GlobalSize(hMem));
@@ -24,6 +24,14 @@ TEST(GlobalMemoryTest, ABlockHasExactlyTheSizeThatWasAskedFor)
     EXPECT_NE(nullptr, hEmpty);
     EXPECT_EQ(nullptr, GlobalLock(hEmpty));
     EXPECT_EQ(nullptr, GlobalFree(hEmpty));
+
+    const HGLOBAL hWalk = GlobalAlloc(GMEM_MOVEABLE, 4);
+    std::memcpy(toolkit::GlobalLocker<char>(hWalk).Get(), "walk", 4);
+    EXPECT_EQ(hWalk, GlobalReAlloc(hWalk, 6, GMEM_ZEROINIT));
+    EXPECT_EQ(0, std::memcmp(toolkit::GlobalLocker<char>(hWalk).Get(), "walk\0\0", 6));
+    EXPECT_EQ(hWalk, GlobalReAlloc(hWalk, 2, 0));
+    EXPECT_EQ(2u, GlobalSize(hWalk));
+    GlobalFree(hWalk);
 }
 
 TEST(GlobalMemoryTest, ALockedBlockIsNeitherFreedNorResized)
@@ -58,17 +66,6 @@ TEST(GlobalMemoryTest, AFreedBlockIsRefused)
     EXPECT_EQ(4u, GlobalSize(hOther));
     GlobalFree(hOther);
     EXPECT_EQ(nBefore, toolkit::CountGlobalBlocks());
-}
-
-TEST(GlobalMemoryTest, AnotherSizeKeepsTheHandleAndWhatFits)
-{
-    const HGLOBAL hMem = GlobalAlloc(GMEM_MOVEABLE, 4);
-    std::memcpy(toolkit::GlobalLocker<char>(hMem).Get(), "walk", 4);
-    EXPECT_EQ(hMem, GlobalReAlloc(hMem, 6, GMEM_ZEROINIT));
-    EXPECT_EQ(0, std::memcmp(toolkit::GlobalLocker<char>(hMem).Get(), "walk\0\0", 6));
-    EXPECT_EQ(hMem, GlobalReAlloc(hMem, 2, 0));
-    EXPECT_EQ(2u, GlobalSize(hMem));
-    GlobalFree(hMem);
 }
 
 TEST(GlobalMemoryTest, WithoutMemoryThereIsNoHandleAndNoException)

@@ -116,7 +116,7 @@ TEST_F(GraphicsTest, BlendsByAlphaWithoutDriftAtTheEnds)
     EXPECT_EQ(0x80800000, surface.At(0, 1)); // over nothing the colour stays half transparent
 }
 
-TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheirAlpha)
+TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheAlphaOfEachPixel)
 {
     const HBITMAP hPicture = CreateBitmapFromSurface(MakePicture({"R r", "GGG"}));
     const HDC hdcMemory = CreateCompatibleDC(hdc);
@@ -145,16 +145,13 @@ TEST_F(GraphicsTest, PicturesAreCopiedOrDrawnByTheirAlpha)
     EXPECT_EQ(hPicture, SelectBitmap(hdcMemory, hOwn));
     EXPECT_TRUE(DeleteDC(hdcMemory));
     EXPECT_TRUE(DeleteBitmap(hPicture));
-}
 
-TEST_F(GraphicsTest, AWidePictureBlendsEachPixelByItsOwnAlpha)
-{
     Begin({82, 1});
     const std::string red(17, 'R'), blue(15, 'B');
-    const HBITMAP hPicture =
+    const HBITMAP hWide =
         CreateBitmapFromSurface(MakePicture({red + std::string(20, ' ') + std::string(30, 'r') + blue}));
-    AlphaBlt(hdc, 0, 0, hPicture);
-    DeleteBitmap(hPicture);
+    AlphaBlt(hdc, 0, 0, hWide);
+    DeleteBitmap(hWide);
     EXPECT_EQ((Rows{red + std::string(20, '.') + std::string(30, '?') + blue}), ShowPicture(surface));
     for (int x = 37; x < 67; ++x)
         EXPECT_EQ(0xFFFF7F7F, surface.At(x, 0));

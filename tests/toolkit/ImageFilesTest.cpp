@@ -43,7 +43,7 @@ Rows Shown(const Bytes& file)
     return picture ? ShowPicture(*picture) : Rows{"no picture"};
 }
 
-TEST(BmpTest, ReadsBothDirectionsAndDepths)
+TEST(BmpTest, ReadsBothDirectionsAndDepthsAndWhatItHasWritten)
 {
     // Two rows of a red and a green, then two blue pixels, each row filled up to four bytes.
     const std::vector<std::uint8_t> rows{0, 0, 255, 0, 255, 0, 9, 9, 255, 0, 0, 255, 0, 0, 9, 9};
@@ -52,12 +52,9 @@ TEST(BmpTest, ReadsBothDirectionsAndDepths)
 
     EXPECT_EQ((Rows{"R#"}), Shown(MakeBmp(2, 1, 32, {0, 0, 255, 0, 0, 0, 0, 0}))); // no alpha anywhere
     EXPECT_EQ((Rows{"rR "}), Shown(MakeBmp(3, 1, 32, {0, 0, 255, 128, 0, 0, 255, 255, 7, 7, 7, 0})));
-}
 
-TEST(BmpTest, WhatWasWrittenIsReadAgain)
-{
-    const Rows rows{"R G", "rB.", "#Y "};
-    EXPECT_EQ(rows, Shown(toolkit::EncodeBmp(MakePicture(rows))));
+    const Rows written{"R G", "rB.", "#Y "};
+    EXPECT_EQ(written, Shown(toolkit::EncodeBmp(MakePicture(written))));
 }
 
 TEST(BmpTest, AnyOtherBytesAreNoPicture)

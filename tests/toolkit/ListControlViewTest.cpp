@@ -50,7 +50,7 @@ protected:
     }
 };
 
-TEST_F(ListControlViewTest, TheRubberBandSelectsWhatItTouchesWhileItMoves)
+TEST_F(ListControlViewTest, TheRubberBandSelectsWhatItTouchesAndWithControlTogglesAgainstWhatItBeganWith)
 {
     Click(5);
     const CPoint start = kEmpty;
@@ -67,10 +67,7 @@ TEST_F(ListControlViewTest, TheRubberBandSelectsWhatItTouchesWhileItMoves)
     EXPECT_EQ("b", Selected());
     EXPECT_EQ(Ledger(), TakeLedger()); // no click
     EXPECT_EQ(5, list.GetNextItem(-1, LVNI_FOCUSED));
-}
 
-TEST_F(ListControlViewTest, WithControlTheRubberBandTogglesAgainstWhatItBeganWith)
-{
     Click(0);
     Click(1, kControl);
     Drag({105, 90}, {160, 10}, kControl); // over b
@@ -188,7 +185,7 @@ TEST_F(ListControlViewTest, OnlyRowsInSightAreAskedFor)
     EXPECT_EQ(999990, list.GetTopIndex());
 }
 
-TEST_F(ListControlViewTest, TheWheelTurnsAboutACellANotchAndLosesNothing)
+TEST_F(ListControlViewTest, TheWheelTurnsAboutACellANotchAndTheScrollBarIsThereOnlyWhenItIsNeeded)
 {
     const auto topOfA = [&] { return Part(0, LVIR_ICON).top; };
     const int start = topOfA();
@@ -200,10 +197,7 @@ TEST_F(ListControlViewTest, TheWheelTurnsAboutACellANotchAndLosesNothing)
     list.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
     list.SendMessage(WM_VSCROLL, SB_LINEUP);
     EXPECT_EQ(start - 96 - 300 + 2 * 32, topOfA());
-}
 
-TEST_F(ListControlViewTest, TheScrollBarIsThereOnlyWhenItIsNeeded)
-{
     const auto width = [&] {
         CRect client;
         list.GetClientRect(&client);

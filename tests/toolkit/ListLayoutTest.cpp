@@ -87,7 +87,7 @@ TEST(ListLayoutTest, TheLongestListHasItsRowsWhereTheyBelong)
     EXPECT_EQ(layout.MaxScroll(), layout.ScrollToShow(kMost - 1, false));
 }
 
-TEST(ListLayoutTest, ARowIsShownByTheShortestWay)
+TEST(ListLayoutTest, ARowIsShownByTheShortestWayAndStaysAtTheTopOfAWiderView)
 {
     ListLayout layout = MakeLayout(100);
     layout.ScrollTo(100);
@@ -99,11 +99,8 @@ TEST(ListLayoutTest, ARowIsShownByTheShortestWay)
     EXPECT_EQ(0, layout.ScrollToShow(0, true));
     layout.SetClient({330, 50}); // lower than a cell
     EXPECT_EQ(192, layout.ScrollToShow(6, false));
-}
 
-TEST(ListLayoutTest, AWiderViewKeepsTheRowAtItsTop)
-{
-    ListLayout layout = MakeLayout(1000);
+    layout = MakeLayout(1000);
     layout.ScrollTo(40 * 96 + 10); // row 120
     layout.SetClient({500, 300});
     EXPECT_EQ(5, layout.Columns());
@@ -123,7 +120,7 @@ std::string Wrapped(std::string_view text, int width = 100, int maxLines = 2)
     return all;
 }
 
-TEST(ListLabelTest, ANameIsBrokenWhereItReadsBest)
+TEST(ListLabelTest, ANameIsBrokenWhereItReadsBestWithFewLooks)
 {
     Ruler ruler;
     EXPECT_EQ("short", Wrapped("short"));
@@ -144,11 +141,8 @@ TEST(ListLabelTest, ANameIsBrokenWhereItReadsBest)
     EXPECT_EQ("", Wrapped(" \t "));
     EXPECT_EQ("W|...", Wrapped("WWW", 5)); // too narrow for anything
     EXPECT_EQ("W", Wrapped("W", 5));
-}
 
-TEST(ListLabelTest, ALongNameIsMeasuredAFewTimesOnly)
-{
-    Ruler ruler;
+    ruler.asked = 0;
     WrapLabel(std::string(4000, 'x'), 100, 2);
     EXPECT_LT(ruler.asked, 40);
     ruler.asked = 0;

@@ -44,23 +44,6 @@ TEST_F(QueueTest, PostedMessagesComeBeforeInputThenPaintsThenTimers)
     EXPECT_FALSE(toolkit::RunOneMessage());
 }
 
-TEST_F(QueueTest, WhatWasPostedToADestroyedWindowIsDropped)
-{
-    const int nBefore = toolkit::CountWindows().posted;
-    SpyWnd child("child", *this, kQueued);
-    child.Show(&frame, {0, 0, 10, 10});
-    child.PostMessage(WM_USER, 1);
-    frame.PostMessage(WM_USER, 2);
-    SetTimer(child.m_hWnd, 1, 10);
-    EXPECT_EQ(nBefore + 2, toolkit::CountWindows().posted);
-    child.DestroyWindow();
-    EXPECT_EQ(nBefore + 1, toolkit::CountWindows().posted);
-    EXPECT_EQ(0, toolkit::CountWindows().timers);
-    TakeLedger();
-    desktop.Advance(20);
-    EXPECT_EQ(Ledger({"frame USER 2", "frame PAINT"}), TakeLedger());
-}
-
 TEST_F(QueueTest, TimersKeepTheirPeriodAndAreOwedOneMessageAtMost)
 {
     const auto after = [this](DWORD milliseconds) {

@@ -102,7 +102,7 @@ TEST(TextEngineTest, DrawsInsideTheClipOnly)
     EXPECT_EQ("...........", rows[7]);
 }
 
-TEST(TextEngineTest, TooLongATextIsCutBetweenCodePointsAndEndsInDots)
+TEST(TextEngineTest, TooLongATextIsCutBetweenCodePointsWithFewLooks)
 {
     Ruler ruler;
     EXPECT_EQ("walking", Ellipsize("walking", 70, kRegular));
@@ -112,11 +112,8 @@ TEST(TextEngineTest, TooLongATextIsCutBetweenCodePointsAndEndsInDots)
     EXPECT_EQ("äö...", Ellipsize("äöüß€€", 50, kRegular));
     EXPECT_EQ("e\u0301...", Ellipsize("e\u0301e\u0301e\u0301e\u0301e\u0301", 51, kRegular)); // no e without its mark
     EXPECT_EQ("", Ellipsize("", 0, kRegular));
-}
 
-TEST(TextEngineTest, AVeryLongTextIsMeasuredFewTimes)
-{
-    Ruler ruler;
+    ruler.asked = 0;
     EXPECT_EQ(std::string(997, 'x') + "...", Ellipsize(std::string(5000, 'x'), 10009, kRegular));
     EXPECT_GE(15, ruler.asked);
 }

@@ -3,8 +3,9 @@
 
 #include <chrono>
 #include <gtest/gtest.h>
-#include <memory>
+#include <map>
 #include <random>
+#include <set>
 
 using namespace toolkit;
 
@@ -18,57 +19,41 @@ ItemIndex Add(TreeItems& items, ItemIndex parent, int place)
     return item;
 }
 
-// What the items must come to: plain vectors.
-struct Model
-{
-    ItemIndex item;
-    Model* parent;
-    bool expanded = false;
-    std::vector<std::unique_ptr<Model>> children;
-
-    void ShownRows(std::vector<ItemIndex>& rows) const
-    {
-        for (const auto& child : children) {
-            rows.push_back(child->item);
-            if (child->expanded)
-                child->ShownRows(rows);
-        }
-    }
-};
-
+// Changes the items at random, and what they must come to: plain vectors.
 class RandomTree
 {
 public:
-    explicit RandomTree(unsigned seed) : m_random(seed) { m_nodes.push_back(&m_root); }
+    explicit RandomTree(unsigned seed) : m_random(seed) {}
 
     void Step()
     {
-        Model& node = *m_nodes[Below(m_nodes.size())];
+        const ItemIndex item = std::next(m_children.begin(), static_cast<int>(Below(m_children.size())))->first;
         switch (Below(8)) {
         case 0:
-            return Delete(node);
+            return Delete(item);
         case 1:
-            return Shuffle(node);
+            std::shuffle(m_children[item].begin(), m_children[item].end(), m_random);
+            return items.Arrange(item, m_children[item]);
         case 2:
         case 3:
-            return Turn(node);
+            return Turn(item);
         default:
-            return Insert(node);
+            return Insert(item);
         }
     }
 
     void Check() const
     {
         std::vector<ItemIndex> rows;
-        m_root.ShownRows(rows);
+        AddShownRows(kRootItem, rows);
         ASSERT_EQ(static_cast<int>(rows.size()), items.RowCount());
         for (int row = 0; row < items.RowCount(); ++row) {
             ASSERT_EQ(rows[static_cast<std::size_t>(row)], items.AtRow(row));
             ASSERT_EQ(row, items.RowOf(items.AtRow(row)));
         }
-        for (const Model* node : m_nodes)
-            CheckChildren(*node);
-        EXPECT_EQ(static_cast<int>(m_nodes.size()) - 1, items.Count());
+        for (const auto& [item, children] : m_children)
+            CheckChildren(item, children);
+        EXPECT_EQ(static_cast<int>(m_children.size()) - 1, items.Count());
     }
 
     TreeItems items;
@@ -76,59 +61,64 @@ public:
 private:
     std::size_t Below(std::size_t end) { return m_random() % end; }
 
-    void Insert(Model& parent)
+    void Insert(ItemIndex parent)
     {
-        const std::size_t place = Below(parent.children.size() + 1);
-        auto node =
-            std::make_unique<Model>(Model{Add(items, parent.item, static_cast<int>(place)), &parent, false, {}});
-        m_nodes.push_back(node.get());
-        parent.children.insert(parent.children.begin() + static_cast<std::ptrdiff_t>(place), std::move(node));
+        std::vector<ItemIndex>& siblings = m_children[parent];
+        const auto place = static_cast<int>(Below(siblings.size() + 1));
+        const ItemIndex item = Add(items, parent, place);
+        siblings.insert(siblings.begin() + place, item);
+        m_parents[item] = parent;
+        m_children[item];
     }
 
-    void Delete(Model& node)
+    void Delete(ItemIndex item)
     {
-        if (&node == &m_root || !node.children.empty())
+        if (item == kRootItem || !m_children[item].empty())
             return;
-        items.Delete(node.item);
-        std::erase(m_nodes, &node);
-        std::erase_if(node.parent->children, [&](const auto& child) { return child.get() == &node; });
+        items.Delete(item);
+        std::erase(m_children[m_parents[item]], item);
+        m_children.erase(item);
+        m_expanded.erase(item);
     }
 
-    void Turn(Model& node)
+    void Turn(ItemIndex item)
     {
-        if (&node == &m_root)
+        if (item == kRootItem)
             return;
-        node.expanded = !node.expanded;
-        items.SetExpanded(node.item, node.expanded);
+        const bool expands = m_expanded.insert(item).second;
+        if (!expands)
+            m_expanded.erase(item);
+        items.SetExpanded(item, expands);
     }
 
-    void Shuffle(Model& node)
+    void AddShownRows(ItemIndex parent, std::vector<ItemIndex>& rows) const
     {
-        std::shuffle(node.children.begin(), node.children.end(), m_random);
-        std::vector<ItemIndex> order;
-        for (const auto& child : node.children)
-            order.push_back(child->item);
-        items.Arrange(node.item, order);
+        for (const ItemIndex child : m_children.at(parent)) {
+            rows.push_back(child);
+            if (m_expanded.count(child))
+                AddShownRows(child, rows);
+        }
     }
 
-    void CheckChildren(const Model& node) const
+    void CheckChildren(ItemIndex parent, const std::vector<ItemIndex>& children) const
     {
-        ASSERT_EQ(static_cast<int>(node.children.size()), items.ChildCount(node.item));
-        ItemIndex item = items.FirstChild(node.item), former = kNoItem;
-        for (int place = 0; place < items.ChildCount(node.item); ++place) {
-            ASSERT_EQ(node.children[static_cast<std::size_t>(place)]->item, item);
-            ASSERT_EQ(item, items.ChildAt(node.item, place));
+        ASSERT_EQ(static_cast<int>(children.size()), items.ChildCount(parent));
+        ItemIndex item = items.FirstChild(parent), former = kNoItem;
+        for (int place = 0; place < items.ChildCount(parent); ++place) {
+            ASSERT_EQ(children[static_cast<std::size_t>(place)], item);
+            ASSERT_EQ(item, items.ChildAt(parent, place));
             ASSERT_EQ(place, items.PlaceOf(item));
             ASSERT_EQ(former, items.Previous(item));
             former = std::exchange(item, items.Next(item));
         }
         EXPECT_EQ(kNoItem, item);
-        EXPECT_EQ(former, items.LastChild(node.item));
+        EXPECT_EQ(former, items.LastChild(parent));
     }
 
     std::mt19937 m_random;
-    Model m_root{kRootItem, nullptr, true, {}};
-    std::vector<Model*> m_nodes;
+    std::map<ItemIndex, std::vector<ItemIndex>> m_children{{kRootItem, {}}};
+    std::map<ItemIndex, ItemIndex> m_parents;
+    std::set<ItemIndex> m_expanded;
 };
 
 TEST(TreeItemsTest, RowsAndNeighboursFollowAnyHistoryOfChanges)
