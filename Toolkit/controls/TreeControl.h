@@ -135,7 +135,8 @@ private:
     LRESULT OnMouseWheel(WPARAM wParam, LPARAM);
     LRESULT OnEnsureVisible(WPARAM, LPARAM lParam);
     LRESULT OnGetVisibleCount(WPARAM, LPARAM) { return m_layout.FullRows(); }
-    [[nodiscard]] bool RowsChanged(); // keeps the item at the top where it is, as long as that is not the first row
+    // From that row on; keeps the item at the top where it is, as long as that is not the first row.
+    [[nodiscard]] bool RowsChanged(int from);
     [[nodiscard]] bool Relayout() override;
     [[nodiscard]] bool UpdateBarAtSide(int height);
     [[nodiscard]] bool UpdateBarBelow();

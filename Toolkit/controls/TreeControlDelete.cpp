@@ -100,10 +100,7 @@ bool TreeControl::Remove(HTREEITEM hItem)
         return true;
     }
     ForgetWidth();
-    if (!RowsChanged())
-        return false;
-    RedrawFrom(from);
-    return true;
+    return RowsChanged(from);
 }
 
 } // namespace toolkit

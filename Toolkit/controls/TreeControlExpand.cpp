@@ -62,11 +62,8 @@ bool TreeControl::ShowChildren(HTREEITEM hItem, bool expanded, UINT cause, bool&
     if (holdsTop && m_items.IsShown(item))
         m_hTop = hItem;
     const int row = m_items.RowOf(item);
-    if (row >= 0) {
-        if (!RowsChanged())
-            return false;
-        RedrawFrom(row);
-    }
+    if (row >= 0 && !RowsChanged(row))
+        return false;
     return !holdsCaret || Select(hItem, cause);
 }
 

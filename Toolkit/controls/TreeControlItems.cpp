@@ -110,14 +110,10 @@ bool TreeControl::FindPlace(HTREEITEM hNew, HTREEITEM hParent, HTREEITEM hInsert
 
 bool TreeControl::ShowPlaced(ItemIndex item, ItemIndex parent)
 {
-    if (m_items.IsShown(item)) {
-        const int from = RowAbove(item);
-        if (!RowsChanged())
-            return false;
-        RedrawFrom(from);
-    } else if (m_items.ChildCount(parent) == 1) {
+    if (m_items.IsShown(item))
+        return RowsChanged(RowAbove(item));
+    if (m_items.ChildCount(parent) == 1)
         Redraw(m_items.HandleOf(parent)); // its button appears
-    }
     return true;
 }
 

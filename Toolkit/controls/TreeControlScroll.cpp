@@ -38,14 +38,17 @@ int TargetOf(HWND hWnd, int nBar, WPARAM wParam, int pos, int step, int page)
 
 } // namespace
 
-bool TreeControl::RowsChanged()
+bool TreeControl::RowsChanged(int from)
 {
     m_layout.SetRows(m_items.RowCount());
     const ItemIndex top = m_items.Find(m_hTop);
     if (m_layout.TopRow() > 0 && top != kNoItem)
         m_layout.ScrollToRow(m_items.RowOf(top));
     KeepTopRow();
-    return Relayout();
+    if (!Relayout())
+        return false;
+    RedrawFrom(from);
+    return true;
 }
 
 void TreeControl::KeepTopRow()

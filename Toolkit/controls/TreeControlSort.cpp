@@ -194,10 +194,7 @@ bool TreeControl::Rearrange(ItemIndex parent, std::span<const ItemIndex> order)
     if (row < 0 || !m_items.IsExpanded(parent))
         return true;
     KeepTopRow();
-    if (!RowsChanged())
-        return false;
-    RedrawFrom(row);
-    return true;
+    return RowsChanged(row);
 }
 
 } // namespace toolkit
