@@ -101,20 +101,20 @@ bool ListControl::ChangeAll(UINT state, UINT mask)
 
 bool ListControl::DeselectBut(const RowSet& kept)
 {
+    const RowSet goes = m_rows.Selected().Without(kept);
+    if (goes.Count() <= std::max(kOneByOne, m_rows.Selected().Count() - goes.Count()))
+        return ChangeEach(goes, 0);
     const RowSet stays = m_rows.Selected().Within(kept);
-    const RowSet goes = m_rows.Selected().Without(stays);
-    if (goes.Count() > std::max(kOneByOne, stays.Count()))
-        return ChangeAll(0, LVIS_SELECTED) && ChangeEach(stays, LVIS_SELECTED);
-    return ChangeEach(goes, 0);
+    return ChangeAll(0, LVIS_SELECTED) && ChangeEach(stays, LVIS_SELECTED);
 }
 
 bool ListControl::Select(const RowSet& rows)
 {
     const RowSet added = rows.Without(m_rows.Selected());
+    if (added.Count() <= std::max(kOneByOne, m_rows.Count() - m_rows.Selected().Count() - added.Count()))
+        return ChangeEach(added, LVIS_SELECTED);
     const RowSet others = RowSet({0, m_rows.Count()}).Without(m_rows.Selected()).Without(added);
-    if (added.Count() > std::max(kOneByOne, others.Count()))
-        return ChangeAll(LVIS_SELECTED, LVIS_SELECTED) && ChangeEach(others, 0);
-    return ChangeEach(added, LVIS_SELECTED);
+    return ChangeAll(LVIS_SELECTED, LVIS_SELECTED) && ChangeEach(others, 0);
 }
 
 bool ListControl::ChangeEach(const RowSet& rows, UINT selected)

@@ -42,7 +42,8 @@ void RowSet::Insert(RowRange range)
         return;
     // Ranges that overlap or touch the new one become part of it, in the first one's node: it needs memory only when it
     // stands alone, and running out of it changes nothing.
-    auto it = FirstEndingAfter(range.first - 1);
+    const bool comesLast = m_ranges.empty() || m_ranges.rbegin()->second < range.first; // as a rule
+    auto it = comesLast ? m_ranges.end() : FirstEndingAfter(range.first - 1);
     if (it == m_ranges.end() || it->first > range.end) {
         m_ranges.emplace_hint(it, range.first, range.end);
         m_nCount += range.Count();
@@ -100,12 +101,14 @@ void RowSet::Clear()
 RowSet RowSet::Without(const RowSet& other) const
 {
     RowSet rest;
+    auto hole = IsEmpty() ? other.m_ranges.end() : other.FirstEndingAfter(m_ranges.begin()->first);
     for (const auto& [first, end] : m_ranges) {
         int from = first;
-        for (RowRange gone = other.NextRange(from - 1); !gone.IsEmpty() && gone.first < end;
-             gone = other.NextRange(gone.end)) {
-            rest.Insert({from, gone.first});
-            from = gone.end;
+        for (; hole != other.m_ranges.end() && hole->first < end; ++hole) {
+            rest.Insert({from, hole->first});
+            from = std::max(from, hole->second);
+            if (from >= end)
+                break; // it may reach into the next range
         }
         rest.Insert({from, end});
     }
