@@ -20,6 +20,7 @@ namespace
 {
 
 constexpr std::size_t kLargest = std::numeric_limits<DWORD>::max();
+constexpr int kMostRepeated = 1000; // folders that links lead to once more
 
 std::int64_t Nanoseconds(const timespec& time)
 {
@@ -153,6 +154,8 @@ std::string ArchiveWriter::AddFolder(const Entry& entry, std::string_view origin
 {
     if (std::find(m_within.begin(), m_within.end(), entry.Identity()) != m_within.end())
         return Fail(Because(entry.Shown(), "a link to a folder that holds it"));
+    if (!m_folders.insert(entry.Identity()).second && ++m_nRepeated > kMostRepeated)
+        return Fail(Because(entry.Shown(), "one of too many links to folders that are carried already"));
     if (m_within.size() + 1 >= kDeepestFolder)
         return Fail(Because(entry.Shown(), "too many folders inside each other"));
     const std::size_t at = NextRecord();

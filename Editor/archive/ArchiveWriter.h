@@ -4,6 +4,7 @@
 #include "Editor/archive/ArchiveFormat.h"
 #include "Views/host/host.h"
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -15,14 +16,15 @@ namespace editor
 // nothing can be added any more and the stream is empty.
 //
 // Files are read straight into the stream; besides it, memory is taken for the names of one folder at a time and of
-// those it is in.
+// those it is in, and for a note of every folder.
 class ArchiveWriter
 {
 public:
     explicit ArchiveWriter(IByteStream& stream); // borrowed
 
     // A file or a folder with everything in it, hidden files too; links are followed. A folder in which something
-    // cannot be carried (a pipe, a link that leads nowhere or to a folder that holds it) is not carried at all.
+    // cannot be carried (a pipe, a link that leads nowhere or to a folder that holds it) is not carried at all, and
+    // neither is one whose links lead to the same folders again and again: a few of them hold more than any disk.
     std::string AddPath(const std::string& path, std::string_view origin);
     // A line of a phase, for the picture at that path.
     std::string AddLink(std::string_view name, const std::string& path, std::string_view origin);
@@ -47,6 +49,8 @@ private:
     std::uint64_t m_sum = 0;   // of the records that are closed
     std::uint32_t m_nObjects = 0;
     std::vector<FileIdentity> m_within; // the folders that are being written, the outermost first
+    std::set<FileIdentity> m_folders;   // all that were
+    int m_nRepeated = 0;                // folders that were written more than once
 };
 
 } // namespace editor

@@ -1,6 +1,7 @@
 // Files on the disk, as the system hands them out.
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -37,7 +38,7 @@ struct FileIdentity
 {
     std::uint64_t device = 0;
     std::uint64_t inode = 0;
-    friend bool operator==(const FileIdentity&, const FileIdentity&) = default;
+    friend auto operator<=>(const FileIdentity&, const FileIdentity&) = default;
 };
 bool IsFile(const std::string& path, const FileIdentity& identity); // does the path lead there?
 

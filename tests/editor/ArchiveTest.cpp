@@ -163,10 +163,18 @@ TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarried)
     folder.Make("a.bmp gone.bmp con.bmp Ada/Poses/ Bo/");
     folder.Link("Bo/self", ".");
     mkfifo(folder.At("Ada/Poses/pipe").c_str(), 0600);
+    for (char c = 'a'; c < 'z'; ++c) // two ways from each to the next
+        for (const char* const pszWay : {"1", "2"}) {
+            folder.MakeFolder(std::string("maze/") + c);
+            folder.Link(std::string("maze/") + c + '/' + pszWay, std::string("../") + static_cast<char>(c + 1));
+        }
+    folder.MakeFolder("maze/z");
     Open();
 
     EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder", CopyError("", {"a.bmp", "Ada"}));
     EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError("", {"Bo"}));
+    EXPECT_TRUE(CopyError("", {"maze"}).ends_with(": one of too many links to folders that are carried already"));
+    EXPECT_EQ("", CopyError("maze", {"w", "x", "y", "z"}));
     EXPECT_EQ("con.bmp: the name stands for a device on other systems", CopyError("", {"con.bmp"}));
     const auto pGone = Find("gone.bmp");
     folder.Remove("gone.bmp");
