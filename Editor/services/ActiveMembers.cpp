@@ -41,7 +41,9 @@ std::string WhyStillThere(const ActiveMembers& members)
             continue;
         const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
         const std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
-        return reason.empty() ? ShownNameOf(member.pAtom.Get()) + ": it cannot be removed" : reason;
+        if (reason.empty() && !(member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE))
+            return ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
+        return reason;
     }
     return {};
 }

@@ -23,7 +23,7 @@ ActiveMembers GetActiveMembers(IAtomEditor& editor);
 std::string ShownNameOf(IAtom* pAtom);
 // What the container says went wrong last, in one line.
 std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise);
-// The reason for the first one that is still where it was; empty when none is.
+// The reason for the first one that is still where it was; empty when none is, or when nobody has tried to remove it.
 std::string WhyStillThere(const ActiveMembers& members);
 
 } // namespace editor

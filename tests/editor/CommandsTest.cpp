@@ -199,6 +199,10 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     Control('X');
     EXPECT_EQ(Ledger({"Nothing was cut: data: invalid argument"}), TakeBoxes());
     EXPECT_EQ("[(a.bmp) (data)]", Rows());
+    setenv("TEMP", "/proc", 1); // where nobody can make a file
+    Control('X');
+    unsetenv("TEMP");
+    EXPECT_EQ(Ledger({"Nothing was cut: no file can be made for it"}), TakeBoxes());
 }
 
 } // namespace
