@@ -43,17 +43,23 @@ DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
     const auto pContainer = m_list.ContainerAt(point);
     if (!HasAtoms(pDataObject))
         return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
-    const bool bEmptySpace = m_list.IsEmptySpace(point);
-    if (bEmptySpace)
-        ForgetPlace();
-    DROPEFFECT effect = CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
-    if (effect == DROPEFFECT_MOVE && bEmptySpace && GetVerdict() != PASTE_ANY)
-        effect = DROPEFFECT_COPY;
-    return SafeEffect(effect, pContainer.Get(), dwKeyState & MK_CONTROL);
+    return m_hovered.EffectAt(m_list.RowAt(point), pContainer, dwKeyState & MK_CONTROL, [&] {
+        return SafeEffect(FindEffect(pWnd, pDataObject, dwKeyState, point), pContainer.Get(), dwKeyState & MK_CONTROL);
+    });
+}
+
+DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
+{
+    if (m_list.RowAt(point) >= 0)
+        return CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
+    ForgetPlace();
+    const DROPEFFECT effect = CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
+    return effect == DROPEFFECT_MOVE && GetVerdict() != PASTE_ANY ? DROPEFFECT_COPY : effect;
 }
 
 BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
+    m_hovered.Forget();
     if (!HasAtoms(pDataObject))
         return DropFiles(pDataObject, m_list.ContainerAt(point).Get(), m_failed);
     const DropFailed failed = m_failed;
@@ -65,6 +71,7 @@ BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFE
 
 void CEditorListTarget::OnDragLeave(CWnd* pWnd)
 {
+    m_hovered.Forget();
     ForgetPlace();
     CListDropTarget::OnDragLeave(pWnd);
 }
@@ -73,8 +80,11 @@ DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
 {
     const auto pContainer = m_tree.ContainerAt(point);
     if (HasAtoms(pDataObject))
-        return SafeEffect(CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point), pContainer.Get(),
-                          dwKeyState & MK_CONTROL);
+        return m_hovered.EffectAt(
+            reinterpret_cast<INT_PTR>(m_tree.HitTest(point)), pContainer, dwKeyState & MK_CONTROL, [&] {
+                return SafeEffect(CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point), pContainer.Get(),
+                                  dwKeyState & MK_CONTROL);
+            });
     const bool bTaken = pDataObject && OffersFilesFor(*pDataObject, pContainer.Get());
     Highlight(bTaken ? m_tree.HitTest(point) : nullptr);
     return bTaken ? DROPEFFECT_COPY : DROPEFFECT_NONE;
@@ -83,6 +93,7 @@ DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
 BOOL CEditorTreeTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
     Highlight(nullptr);
+    m_hovered.Forget();
     if (!HasAtoms(pDataObject))
         return DropFiles(pDataObject, m_tree.ContainerAt(point).Get(), m_failed);
     const DropFailed failed = m_failed;
@@ -95,6 +106,7 @@ BOOL CEditorTreeTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFE
 void CEditorTreeTarget::OnDragLeave(CWnd* pWnd)
 {
     Highlight(nullptr);
+    m_hovered.Forget();
     ForgetPlace();
     CTreeDropTarget::OnDragLeave(pWnd);
 }

@@ -16,6 +16,33 @@ class CEditorTree;
 // Told once the drag is over, with the reason, of a drop that was not taken as a whole.
 using DropFailed = std::function<void(std::string)>;
 
+// What a drop would do where the drag was last. While it stays over the same row or item, neither what is dragged nor
+// the container is looked at again, which takes its time when that is much; the drop itself looks anew.
+class HoveredPlace
+{
+public:
+    template <class Find>
+    DROPEFFECT EffectAt(INT_PTR nItem, const CStubRef<IAtomContainer>& pContainer, bool bControl, Find find)
+    {
+        const bool bSame = m_bKnown && nItem == m_nItem && pContainer.Get() == m_pContainer.Get();
+        if (!bSame || bControl != m_bControl) {
+            m_effect = find();
+            m_bKnown = true;
+            m_nItem = nItem;
+            m_pContainer = CStubRef<IAtomContainer>::Share(pContainer.Get());
+            m_bControl = bControl;
+        }
+        return m_effect;
+    }
+    void Forget() { *this = {}; }
+
+private:
+    bool m_bKnown = false, m_bControl = false;
+    INT_PTR m_nItem = 0;
+    CStubRef<IAtomContainer> m_pContainer;
+    DROPEFFECT m_effect = DROPEFFECT_NONE;
+};
+
 // Takes the place of the view's own target, and does what that does with atoms; but see SafeEffect. And nothing stays
 // highlighted where no drop would go: neither when the drag leaves nor, in a list, over empty space.
 class CEditorListTarget final : public CListDropTarget
@@ -28,8 +55,11 @@ public:
     void OnDragLeave(CWnd* pWnd) override;
 
 private:
+    DROPEFFECT FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point);
+
     CEditorList& m_list;
     const DropFailed m_failed;
+    HoveredPlace m_hovered; // by atoms
 };
 
 class CEditorTreeTarget final : public CTreeDropTarget
@@ -46,6 +76,7 @@ private:
 
     CEditorTree& m_tree;
     const DropFailed m_failed;
+    HoveredPlace m_hovered;             // by atoms
     HTREEITEM m_hHighlighted = nullptr; // by files
 };
 

@@ -37,7 +37,7 @@ public:
     virtual CSize PictureSize() const = 0;               // at which rows wish for pictures
     std::vector<CStubRef<IAtom>> AtomsInSight() const;   // sorted by address
 
-    bool IsEmptySpace(CPoint client) const { return m_view.HitTest(client) < 0; }
+    int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
 

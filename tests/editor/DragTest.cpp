@@ -2,6 +2,7 @@
 #include "Toolkit/window/Input.h"
 #include "Toolkit/window/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
+#include "tests/support/AllocationFailures.h"
 
 namespace
 {
@@ -125,6 +126,30 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("Ada/ Ada/Bo/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
     EXPECT_EQ(Ledger({"Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
+}
+
+TEST_F(DragTest, WhatIsDraggedIsLookedAtOncePerPlace)
+{
+    constexpr int kFiles = 100;
+    for (int i = 0; i < kFiles; ++i)
+        folder.WriteBmp("Ada/n" + std::to_string(i) + ".bmp", 1, 1);
+    Open();
+    DoubleClick("Ada");
+    desktop.Hold({.control = true});
+    desktop.Key('A');
+    desktop.Hold({});
+    Drag(List(), PlaceOf("a.bmp"), [&] {
+        const auto moveTo = [&](HWND hWnd, CPoint at) { return CountAllocations([&] { desktop.MoveTo(hWnd, at); }); };
+        const CPoint bo = PlaceInTree("Bo"), ada = PlaceInTree("Ada");
+        moveTo(Tree().m_hWnd, bo);
+        EXPECT_LT(kFiles, moveTo(Tree().m_hWnd, bo + CPoint(1, 0)));
+        EXPECT_GT(kFiles, moveTo(Tree().m_hWnd, bo));
+        EXPECT_EQ(DROPEFFECT_MOVE, desktop.DragEffect());
+        moveTo(Tree().m_hWnd, ada);
+        EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
+        EXPECT_LT(kFiles, moveTo(Tree().m_hWnd, bo));
+        EXPECT_EQ(DROPEFFECT_MOVE, desktop.DragEffect());
+    });
 }
 
 TEST_F(DragTest, NothingStaysHighlightedHoweverTheDragEnds)
