@@ -53,7 +53,9 @@ TEST_F(ScriptTest, CommandsActLikeTheUsersOwn)
     EXPECT_EQ("/Bo/ | [(*one.bmp) c.bmp] | 2 objects, 1 selected | one.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(Ledger({"c.bmp", "new.bmp"}), Run("delete\nlist\nopen \"" + folder.Path() + "\"\n" +
                                                 "enter Bo/c.bmp\nenter ..\nselect c.bmp\nrename c.bmp new.bmp\nlist"));
-    EXPECT_EQ("Ada/ Ada/Poses/ Ada/a b.bmp Bo/ Bo/new.bmp", folder.Everything());
+    folder.WriteBmp("Bo/NEW.bmp");
+    EXPECT_EQ(Ledger({"NEW.bmp"}), Run("refresh\nselect new.bmp\ndelete\nlist"));
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/a b.bmp Bo/ Bo/NEW.bmp", folder.Everything());
 }
 
 TEST_F(ScriptTest, TheFirstThatFailsEndsItWithFileLineAndReason)
