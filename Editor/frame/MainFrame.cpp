@@ -2,6 +2,7 @@
 
 #include "Editor/frame/ContextMenu.h"
 #include "Editor/frame/Look.h"
+#include "Editor/model/Phase.h"
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
 
@@ -96,7 +97,9 @@ BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (pAtom && pAtom == m_picture.GetAtom())
         m_picture.OnPictureArrived();
-    UpdateStatus();
+    m_statusBar.Invalidate();
+    if (dynamic_cast<CPhase*>(CMember::Of(pAtom)))
+        m_properties.Update(); // looks through all that is selected: not for each picture that has been read
     return TRUE;
 }
 
