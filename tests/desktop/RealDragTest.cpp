@@ -1,6 +1,8 @@
 // Drags and the clipboard between two programs.
 #include "tests/desktop/XServerTest.h"
 
+#include <list>
+
 namespace
 {
 
@@ -38,9 +40,10 @@ protected:
 TEST_F(RealDragTest, ADragHasTheEffectThatTheOtherProgramConfirms)
 {
     const std::pair<const char*, const char*> cases[] = {{"take", "move"}, {"refuse", "none"}, {"hold", "copy"}};
+    std::list<Program> targets; // the latest lies on top
     for (const auto& [pszMode, pszEffect] : cases) {
-        Program right;
-        StartPeer(right, {"right", "600", pszMode});
+        Program& right = targets.emplace_back();
+        StartPeer(right, {pszMode, "600", pszMode});
         DragTo(700, 150);
         EXPECT_EQ("drop move from left", Line(right));
         EXPECT_EQ(std::string("dragged ") + pszEffect, Line(m_left));

@@ -71,8 +71,8 @@ void XServerTest::Drag(QPoint from, QPoint to)
 {
     QString steps = "mousemove " + At(from) + " mousedown 1";
     for (int i = 1; i <= 4; ++i)
-        steps += " sleep 0.05 mousemove " + At(from + QPoint(8 * i, 0));
+        steps += " sleep 0.1 mousemove " + At(from + QPoint(8 * i, 0));
     for (int i = 1; i <= 5; ++i)
-        steps += " sleep 0.08 mousemove " + At(from + (to - from) * i / 5);
-    XDo(steps + " sleep 0.08 mousemove_relative 2 0 sleep 0.2 mouseup 1");
+        steps += " sleep 0.1 mousemove " + At(from + (to - from) * i / 5);
+    XDo(steps + " sleep 0.1 mousemove_relative 2 0 sleep 0.6 mouseup 1");
 }
