@@ -9,9 +9,8 @@ namespace
 
 constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_CUT | LVIS_DROPHILITED;
 
-// Up to so many rows lose or gain the selection one by one, each asked about. More than that do it as one change of
-// all rows, and the few that are to be otherwise are changed back: a click after "select all", or Shift+End after a few
-// steps down, costs nothing that grows with the list.
+// Up to so many rows lose or gain the selection one by one, each asked about. When more than that lose it, or gain it
+// so that all have it, it is one change of all rows: a click after "select all" costs nothing that grows with the list.
 constexpr int kOneByOne = 256;
 
 } // namespace
@@ -111,10 +110,10 @@ bool ListControl::DeselectBut(const RowSet& kept)
 bool ListControl::Select(const RowSet& rows)
 {
     const RowSet added = rows.Without(m_rows.Selected());
-    if (added.Count() <= std::max(kOneByOne, m_rows.Count() - m_rows.Selected().Count() - added.Count()))
-        return ChangeEach(added, LVIS_SELECTED);
-    const RowSet others = RowSet({0, m_rows.Count()}).Without(m_rows.Selected()).Without(added);
-    return ChangeAll(LVIS_SELECTED, LVIS_SELECTED) && ChangeEach(others, 0);
+    const bool bThenAll = m_rows.Selected().Count() + added.Count() == m_rows.Count();
+    if (bThenAll && added.Count() > kOneByOne)
+        return ChangeAll(LVIS_SELECTED, LVIS_SELECTED);
+    return ChangeEach(added, LVIS_SELECTED); // however many: each may be refused
 }
 
 bool ListControl::ChangeEach(const RowSet& rows, UINT selected)
