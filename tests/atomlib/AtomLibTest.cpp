@@ -81,14 +81,10 @@ TEST_F(AtomLibTest, TheTransparentColourShowsTheGround)
               }),
               ShowPicture(surface));
     EXPECT_EQ(CPoint(0, 0), offset);
-}
 
-TEST_F(AtomLibTest, WhatIsHalfTransparentAfterShrinkingIsBlendedWithoutTheTransparentColour)
-{
-    const HBITMAP hPicture = Bitmap({"RB", "RB"});
-    const HBITMAP hMask = bitmaps.emplace_back(CreateMaskBitmap(hPicture, kRed));
-    EXPECT_NE(0, Draw({0, 0, 1, 1}, hPicture, hMask));
-    EXPECT_EQ(0xFF7F7FFF, surface.At(0, 0)); // half blue on white, no red in it
+    const HBITMAP hHalves = Bitmap({"RB", "RB"});
+    EXPECT_NE(0, Draw({0, 3, 1, 4}, hHalves, bitmaps.emplace_back(CreateMaskBitmap(hHalves, kRed))));
+    EXPECT_EQ(0xFF7F7FFF, surface.At(0, 3)); // after shrinking half blue on white, no red in it
 }
 
 TEST_F(AtomLibTest, RefusesWhatItCannotDrawAndDrawsNothing)

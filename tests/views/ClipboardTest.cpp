@@ -110,7 +110,7 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
     EXPECT_EQ(Ledger({"writes 1", "enumerates", "bag permits d"}), editor.TakeLedger());
 }
 
-TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAsItWas)
+TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAndTheAtomsAsTheyWere)
 {
     Activate({{pBox, "a"}});
     EXPECT_TRUE(CopyObjects(FALSE));
@@ -124,6 +124,14 @@ TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAsItWas)
     EXPECT_FALSE(CopyObjects(TRUE));
     setenv("TEMP", folder.Path().c_str(), 1);
     EXPECT_EQ("a\n", OnClipboard());
+
+    const auto pArchive = Holding("x\n");
+    editor.Uninstall(); // without an editor nothing happens at all
+    EXPECT_FALSE(CopyObjects(FALSE));
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_FALSE(RemoveObjects(TRUE)); // nor is anything asked
+    EXPECT_FALSE(PasteObjects(pArchive.Get(), pBox, FALSE));
+    EXPECT_EQ(0u, CheckPaste(pArchive.Get(), pBox, FALSE));
     EXPECT_EQ("a b c", Members(pBox));
 }
 
@@ -235,19 +243,6 @@ TEST_F(ClipboardTest, TheVerdictIsThatOfTheLastAtomLookedAt)
     EXPECT_EQ(1u, verdict("both\ncopy\n", FALSE));
     EXPECT_EQ(0xFFFFFFFF, verdict("copy\nboth\n", FALSE));
     EXPECT_EQ(0u, CheckPaste(Holding("x\n").Get(), nullptr, FALSE));
-}
-
-TEST_F(ClipboardTest, NothingHappensWithoutAnEditor)
-{
-    Activate({{pBox, "a"}});
-    const auto pArchive = Holding("x\n");
-    editor.Uninstall();
-    EXPECT_FALSE(CopyObjects(FALSE));
-    EXPECT_FALSE(CopyObjects(TRUE));
-    EXPECT_FALSE(RemoveObjects(TRUE)); // nor is anything asked
-    EXPECT_FALSE(PasteObjects(pArchive.Get(), pBox, FALSE));
-    EXPECT_EQ(0u, CheckPaste(pArchive.Get(), pBox, FALSE));
-    EXPECT_EQ("a b c", Members(pBox));
 }
 
 TEST_F(ClipboardTest, ATransferFileGoesWithItsOwnersLastReference)

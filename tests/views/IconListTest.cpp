@@ -55,13 +55,8 @@ TEST_F(IconListTest, PicturesOfRowsThatLeftAreUsedAgainTheOldestFirst)
     Hint(list, 0, 2);
     EXPECT_EQ("a 4, b 3, c 2", Shown(list, 0, 2));
     EXPECT_EQ(5, CountImages(list));
-}
 
-TEST_F(IconListTest, ANewWindowBeginsWithoutTheFormersPictures)
-{
-    ProbeList& list = HideList(box);
-    Hint(list, 0, 2);
-    list.DestroyWindow();
+    list.DestroyWindow(); // a new window begins without the former's pictures
     ASSERT_TRUE(list.Create(&frame));
     list.SetRootAtom(box);
     Hint(list, 0, 1);

@@ -68,29 +68,26 @@ TEST_F(TreeDisplayTest, APaintAsksForWhatIsVisibleAndAChangeRepaintsAtOnce)
     EXPECT_EQ(0, tree.nLabels);
 }
 
-TEST_F(TreeDisplayTest, ANameThatCannotBeReadIsReportedAndNothingMoreIsAnswered)
+TEST_F(TreeDisplayTest, ANameThatCannotBeReadIsReportedAndWithoutMemoryForItTheLabelIsMissing)
 {
     ProbeTree& tree = ShowTree();
     a->nameFails = a->isModified = true;
     tree.onDispInfo = [](TVDISPINFO*) { FAIL() << "the hook is not called"; };
-    const TVITEM item = Ask(tree, a, TVIF_TEXT | TVIF_IMAGE | TVIF_CHILDREN);
+    TVITEM item = Ask(tree, a, TVIF_TEXT | TVIF_IMAGE | TVIF_CHILDREN);
     EXPECT_STREQ("Unnamed", item.pszText);
     EXPECT_EQ(0, item.iImage);
-    EXPECT_EQ(-7, item.cChildren);
+    EXPECT_EQ(-7, item.cChildren); // nothing more is answered
     EXPECT_EQ(Ledger({"error \"Unreadable\" of a"}), editor.TakeLedger());
-}
 
-TEST_F(TreeDisplayTest, WithoutMemoryTheLabelIsMissingAndTheRequestGoesOn)
-{
-    ProbeTree& tree = ShowTree();
+    tree.onDispInfo = nullptr;
+    a->nameFails = false;
     a->name.assign(1000, 'a'); // more than the buffer has held so far
-    TVITEM item{};
     {
         const FailAllocation failure(1);
         item = Ask(tree, a, TVIF_TEXT | TVIF_CHILDREN);
     }
     EXPECT_EQ(nullptr, item.pszText);
-    EXPECT_EQ(0, item.cChildren);
+    EXPECT_EQ(0, item.cChildren); // the request goes on
     EXPECT_EQ(std::vector<std::string>({": Out of memory."}), desktop.TakeMessageBoxes());
 }
 
