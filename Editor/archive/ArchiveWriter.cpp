@@ -146,8 +146,24 @@ std::string ArchiveWriter::AddFile(const Entry& entry, std::string_view origin)
         return error;
     if (error = ReadAll(entry.Handle(), Data() + content, entry.Size()); !error.empty())
         return Fail(Because(entry.Shown(), error));
+    if (error = ReplaceContent(content, entry); !error.empty())
+        return error;
     CloseRecord(at);
     return {};
+}
+
+std::string ArchiveWriter::ReplaceContent(std::size_t at, const Entry& entry)
+{
+    if (!m_replacement)
+        return {};
+    const auto other = m_replacement(entry.Name(), entry.Identity(), {Data() + at, m_nLength - at});
+    if (!other)
+        return {};
+    m_nLength = at;
+    std::string error = Grow(other->size());
+    if (error.empty())
+        std::copy(other->begin(), other->end(), Data() + at);
+    return error;
 }
 
 std::string ArchiveWriter::AddFolder(const Entry& entry, std::string_view origin)

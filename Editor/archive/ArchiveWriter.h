@@ -4,6 +4,8 @@
 #include "Editor/archive/ArchiveFormat.h"
 #include "Views/host/host.h"
 
+#include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -20,7 +22,13 @@ namespace editor
 class ArchiveWriter
 {
 public:
+    // Asked about every file, by its name, identity and content: what to carry in place of the content, if anything.
+    using Replacement = std::function<std::optional<std::string>(std::string_view name, const FileIdentity& identity,
+                                                                 std::string_view content)>;
+
     explicit ArchiveWriter(IByteStream& stream); // borrowed
+
+    void SetReplacement(Replacement replacement) { m_replacement = std::move(replacement); }
 
     // A file or a folder with everything in it, hidden files too; links are followed. A folder in which something
     // cannot be carried (a pipe, a link that leads nowhere or to a folder that holds it) is not carried at all, and
@@ -36,6 +44,7 @@ private:
     std::string AddEntry(const Entry& entry, std::string_view origin);
     std::string AddFile(const Entry& entry, std::string_view origin);
     std::string AddFolder(const Entry& entry, std::string_view origin);
+    std::string ReplaceContent(std::size_t at, const Entry& entry); // of the file that ends the stream
     std::string AddMembers(const Entry& folder);
     std::string AddHead(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin);
     void CloseRecord(std::size_t at); // everything behind its head is its content
@@ -45,6 +54,7 @@ private:
     char* Data() { return static_cast<char*>(m_stream.GetData()); }
 
     IByteStream& m_stream;
+    Replacement m_replacement;
     std::size_t m_nLength = 0; // of the stream
     std::uint64_t m_sum = 0;   // of the records that are closed
     std::uint32_t m_nObjects = 0;

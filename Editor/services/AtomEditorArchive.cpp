@@ -19,7 +19,6 @@ struct Writing
     ArchiveWriter writer;
     std::string error;
     int nAtoms = 0;
-    std::vector<const CPhase*> unsaved; // of the atoms' library
 };
 
 std::string WriteAtom(ArchiveWriter& writer, IAtom* pAtom)
@@ -38,9 +37,10 @@ std::string WriteAtom(ArchiveWriter& writer, IAtom* pAtom)
 BOOL WriteActivePair(IAtom* pAtom, IAtomContainer*, void* pContext)
 {
     auto& writing = *static_cast<Writing*>(pContext);
-    writing.error = WriteAtom(writing.writer, pAtom);
     if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.nAtoms == 0)
-        writing.unsaved = pMember->UnsavedPhases();
+        writing.writer.SetReplacement(
+            [unsaved = pMember->UnsavedPhases()](const auto&... file) { return TextWithUnsaved(unsaved, file...); });
+    writing.error = WriteAtom(writing.writer, pAtom);
     ++writing.nAtoms;
     return writing.error.empty();
 }
@@ -80,13 +80,11 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
     if (!archive)
         return FALSE;
     try {
-        Writing writing{ArchiveWriter(*archive), {}, 0, {}};
+        Writing writing{ArchiveWriter(*archive), {}, 0};
         if (EnumActivePairs(&WriteActivePair, &writing) && writing.nAtoms > 0)
             writing.error = writing.writer.Finish();
         else if (writing.error.empty())
             writing.error = "Nothing is selected.";
-        if (writing.error.empty())
-            writing.error = PutUnsaved(*archive, writing.unsaved);
         if (!writing.error.empty())
             Empty(*archive);
         return NoteArchiveError(std::move(writing.error));

@@ -3,15 +3,17 @@
 
 #include "Editor/model/Phase.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace editor
 {
 
-// The archive was written from the disk, where their timing is not yet. Those of the phases that are in it, at any
-// depth, get their timing there; the disk stays as it is. Costs nothing without such a phase, else the time to copy the
-// archive. Empty when done, else one line with the reason.
-std::string PutUnsaved(IArchive& archive, const std::vector<const CPhase*>& unsaved);
+// What travels of a file with that name and text: the text with its timing, when it is the file of one of the phases.
+// Nothing for every other file. The disk stays as it is.
+std::optional<std::string> TextWithUnsaved(const std::vector<const CPhase*>& unsaved, std::string_view name,
+                                           const FileIdentity& identity, std::string_view text);
 
 } // namespace editor
