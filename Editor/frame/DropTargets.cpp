@@ -2,7 +2,6 @@
 
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/EditorTree.h"
-#include "Editor/services/DroppedFiles.h"
 #include "Toolkit/window/Desktop.h"
 #include "Views/clipboard/Commands.h"
 
@@ -36,6 +35,19 @@ BOOL DropFiles(COleDataObject* pData, IAtomContainer* pContainer, const DropFail
     return bAll;
 }
 
+// `dropAtoms` is what the view's own target does. The target may be gone afterwards: `failed` is a copy.
+template <class DropAtoms>
+BOOL Drop(COleDataObject* pData, const CStubRef<IAtomContainer>& pContainer, const DropFailed failed,
+          DropAtoms dropAtoms)
+{
+    if (!HasAtoms(pData))
+        return DropFiles(pData, pContainer.Get(), failed);
+    if (dropAtoms())
+        return TRUE;
+    TellLater(failed, DropError());
+    return FALSE;
+}
+
 } // namespace
 
 DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
@@ -43,9 +55,8 @@ DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
     const auto pContainer = m_list.ContainerAt(point);
     if (!HasAtoms(pDataObject))
         return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
-    return m_hovered.EffectAt(m_list.RowAt(point), pContainer, dwKeyState & MK_CONTROL, [&] {
-        return SafeEffect(FindEffect(pWnd, pDataObject, dwKeyState, point), pContainer.Get(), dwKeyState & MK_CONTROL);
-    });
+    return m_hovered.EffectAt(m_list.RowAt(point), pContainer, dwKeyState & MK_CONTROL,
+                              [&] { return FindEffect(pWnd, pDataObject, dwKeyState, point); });
 }
 
 DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
@@ -60,13 +71,8 @@ DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject
 BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
     m_hovered.Forget();
-    if (!HasAtoms(pDataObject))
-        return DropFiles(pDataObject, m_list.ContainerAt(point).Get(), m_failed);
-    const DropFailed failed = m_failed;
-    if (CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point))
-        return TRUE;
-    TellLater(failed, DropError());
-    return FALSE;
+    return Drop(pDataObject, m_list.ContainerAt(point), m_failed,
+                [&] { return CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point); });
 }
 
 void CEditorListTarget::OnDragLeave(CWnd* pWnd)
@@ -80,11 +86,8 @@ DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
 {
     const auto pContainer = m_tree.ContainerAt(point);
     if (HasAtoms(pDataObject))
-        return m_hovered.EffectAt(
-            reinterpret_cast<INT_PTR>(m_tree.HitTest(point)), pContainer, dwKeyState & MK_CONTROL, [&] {
-                return SafeEffect(CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point), pContainer.Get(),
-                                  dwKeyState & MK_CONTROL);
-            });
+        return m_hovered.EffectAt(reinterpret_cast<INT_PTR>(m_tree.HitTest(point)), pContainer, dwKeyState & MK_CONTROL,
+                                  [&] { return CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point); });
     const bool bTaken = pDataObject && OffersFilesFor(*pDataObject, pContainer.Get());
     Highlight(bTaken ? m_tree.HitTest(point) : nullptr);
     return bTaken ? DROPEFFECT_COPY : DROPEFFECT_NONE;
@@ -94,13 +97,8 @@ BOOL CEditorTreeTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFE
 {
     Highlight(nullptr);
     m_hovered.Forget();
-    if (!HasAtoms(pDataObject))
-        return DropFiles(pDataObject, m_tree.ContainerAt(point).Get(), m_failed);
-    const DropFailed failed = m_failed;
-    if (CTreeDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point))
-        return TRUE;
-    TellLater(failed, DropError());
-    return FALSE;
+    return Drop(pDataObject, m_tree.ContainerAt(point), m_failed,
+                [&] { return CTreeDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point); });
 }
 
 void CEditorTreeTarget::OnDragLeave(CWnd* pWnd)

@@ -1,6 +1,7 @@
 // What the editor's views take besides atoms: files from other programs. And what they do not take.
 #pragma once
 
+#include "Editor/services/DroppedFiles.h"
 #include "Views/list/ListDropTarget.h"
 #include "Views/tree/TreeDropTarget.h"
 
@@ -16,8 +17,9 @@ class CEditorTree;
 // Told once the drag is over, with the reason, of a drop that was not taken as a whole.
 using DropFailed = std::function<void(std::string)>;
 
-// What a drop would do where the drag was last. While it stays over the same row or item, neither what is dragged nor
-// the container is looked at again, which takes its time when that is much; the drop itself looks anew.
+// What a drop would do where the drag was last, at the most what is safe there (SafeEffect). While it stays over the
+// same row or item, neither what is dragged nor the container is looked at again, which takes its time when that is
+// much; the drop itself looks anew.
 class HoveredPlace
 {
 public:
@@ -26,7 +28,7 @@ public:
     {
         const bool bSame = m_bKnown && nItem == m_nItem && pContainer.Get() == m_pContainer.Get();
         if (!bSame || bControl != m_bControl) {
-            m_effect = find();
+            m_effect = SafeEffect(find(), pContainer.Get(), bControl);
             m_bKnown = true;
             m_nItem = nItem;
             m_pContainer = CStubRef<IAtomContainer>::Share(pContainer.Get());
