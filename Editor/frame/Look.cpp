@@ -2,6 +2,7 @@
 
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/window/WindowApi.h"
 
 namespace editor
 {
@@ -69,6 +70,14 @@ void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text, COLORREF co
 int TextWidth(std::string_view text, toolkit::FontStyle style)
 {
     return toolkit::CurrentTextEngine().Measure(text, style);
+}
+
+void FillBottomBar(HDC hdc, HWND hBar)
+{
+    CRect client;
+    GetClientRect(hBar, &client);
+    FillSolidRect(hdc, client, BarColor());
+    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
 }
 
 void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture)

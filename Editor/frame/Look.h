@@ -34,6 +34,9 @@ void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text, COLORREF co
                   toolkit::FontStyle style = toolkit::FontStyle::Regular);
 int TextWidth(std::string_view text, toolkit::FontStyle style = toolkit::FontStyle::Regular);
 
+// What a bar at the bottom lies on, with a line above it: the window's whole client area.
+void FillBottomBar(HDC hdc, HWND hBar);
+
 // In the middle of the rectangle.
 void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
 

@@ -86,10 +86,7 @@ std::string CPropertiesPane::GetText() const
 
 BOOL CPropertiesPane::OnEraseBkgnd(HDC hdc)
 {
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
+    FillBottomBar(hdc, m_hWnd);
     return TRUE;
 }
 

@@ -18,10 +18,7 @@ BOOL CStatusBar::Create(CWnd* pParent)
 
 BOOL CStatusBar::OnEraseBkgnd(HDC hdc)
 {
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
+    FillBottomBar(hdc, m_hWnd);
     return TRUE;
 }
 
