@@ -24,7 +24,6 @@ public:
     // Installs the editor's services and resources; one editor at a time. The reader is borrowed and outlives the
     // editor, the desktop, too.
     EditorApp(const PictureReader& reader, Options options);
-    explicit EditorApp(const PictureReader& reader) : EditorApp(reader, Options()) {}
     ~EditorApp(); // closes the frame, waits for the threads
     EditorApp(const EditorApp&) = delete;
     EditorApp& operator=(const EditorApp&) = delete;
