@@ -96,8 +96,7 @@ void CMainFrame::RemoveSelection()
     const int nMissed = CountMissedTrashes();
     std::string reason = Remove();
     if (CountMissedTrashes() > nMissed && m_commands.CountSelected() > 0) {
-        const std::string question = m_commands.RemoveQuestion();
-        if (!UserAgrees(reason + ".\n\n" + question.substr(0, question.size() - 1) + " for good?"))
+        if (!UserAgrees(reason + ".\n\n" + m_commands.RemoveQuestion(Removal::ForGood)))
             return;
         const PermanentRemoval agreed;
         reason = Remove();

@@ -67,11 +67,12 @@ int Commands::CountSelected() const
     return static_cast<int>(GetActiveMembers(m_editor).size());
 }
 
-std::string Commands::RemoveQuestion() const
+std::string Commands::RemoveQuestion(Removal removal) const
 {
     const ActiveMembers members = GetActiveMembers(m_editor);
-    return members.size() == 1 ? "Remove \"" + ShownNameOf(members.front().pAtom.Get()) + "\"?"
-                               : "Remove " + std::to_string(members.size()) + " objects?";
+    const std::string what = members.size() == 1 ? '"' + ShownNameOf(members.front().pAtom.Get()) + '"'
+                                                 : std::to_string(members.size()) + " objects";
+    return "Remove " + what + (removal == Removal::ForGood ? " for good?" : "?");
 }
 
 void Commands::Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer)

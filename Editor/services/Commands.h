@@ -10,6 +10,12 @@
 namespace editor
 {
 
+enum class Removal
+{
+    ToTheTrash,
+    ForGood
+};
+
 // The library's commands (Views/clipboard/clipboard.h), with the reason told when something was not done: one line that
 // names the object where there is one. Empty: all of it was done.
 class Commands
@@ -18,8 +24,8 @@ public:
     explicit Commands(CAtomEditor& editor) : m_editor(editor) {} // borrowed
 
     int CountSelected() const; // active objects that are in a container
-    // What a removal would be asked about: 'Remove "walk.png"?'
-    std::string RemoveQuestion() const;
+    // What a removal would be asked about: 'Remove "walk.png"?', 'Remove 3 objects for good?'
+    std::string RemoveQuestion(Removal removal = Removal::ToTheTrash) const;
 
     // These and no others become the selected members of the container, if it is shown.
     void Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer);
