@@ -145,7 +145,8 @@ private:
     [[nodiscard]] bool ScrollToX(int x);
     [[nodiscard]] bool ScrollIntoView(HTREEITEM hItem);
     [[nodiscard]] bool Reveal(HTREEITEM hItem, bool* pExpanded = nullptr); // expands ancestors and scrolls
-    void KeepTopRow();                                                     // whatever item comes to lie there
+    void KeepPlace();                                                      // whatever has come to lie there
+    void FollowPlace(); // the window shows another one: all is drawn anew
     void ForgetWidth();
 
     // Places.
@@ -235,7 +236,8 @@ private:
     TreeLayout m_layout;
     HTREEITEM m_hCaret = nullptr;
     HTREEITEM m_hDropTarget = nullptr;
-    HTREEITEM m_hTop = nullptr; // in the top row
+    HTREEITEM m_hTop = nullptr; // in the top row, as the window shows it
+    int m_nLeft = 0;            // the content's x at the left edge, likewise
     int m_nDropMarks = 0;       // items with TVIS_DROPHILITED
     int m_nSelecting = 0;       // changes of the selection under way
     int m_nDeleting = 0;        // deletions under way

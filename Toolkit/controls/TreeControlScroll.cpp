@@ -44,16 +44,26 @@ bool TreeControl::RowsChanged(int from)
     const ItemIndex top = m_items.Find(m_hTop);
     if (m_layout.TopRow() > 0 && top != kNoItem)
         m_layout.ScrollToRow(m_items.RowOf(top));
-    KeepTopRow();
     if (!Relayout())
         return false;
     RedrawFrom(from);
     return true;
 }
 
-void TreeControl::KeepTopRow()
+void TreeControl::KeepPlace()
 {
     m_hTop = m_items.HandleOf(m_items.AtRow(m_layout.TopRow()));
+    m_nLeft = m_layout.X();
+}
+
+// Whatever has scrolled the layout meanwhile, be it only that it was clamped to less content.
+void TreeControl::FollowPlace()
+{
+    const HTREEITEM hTop = m_hTop;
+    const int left = m_nLeft;
+    KeepPlace();
+    if (m_hTop != hTop || m_nLeft != left)
+        RedrawAll();
 }
 
 void TreeControl::ForgetWidth()
@@ -70,7 +80,6 @@ bool TreeControl::Relayout()
     if (m_nRelayouts > 0) // a bar comes or goes: it is looked after below
         return true;
     const UnderWay relayout(m_hWnd, m_nRelayouts);
-    const int top = m_layout.TopRow(), x = m_layout.X();
     const CSize room = SizeWithoutBars();
     const bool certain = m_layout.Width() > room.cx;
     m_layout.SetClient(ClientSize());
@@ -78,9 +87,7 @@ bool TreeControl::Relayout()
         return false;
     if (!UpdateBarBelow() || !UpdateBarAtSide(m_layout.Client().cy) || !UpdateBarBelow())
         return false;
-    if (m_layout.TopRow() != top || m_layout.X() != x)
-        RedrawAll();
-    KeepTopRow();
+    FollowPlace();
     PlaceLabelField();
     return true;
 }
@@ -140,7 +147,7 @@ bool TreeControl::ScrollToRow(int row)
         ScrollWindow(m_hWnd, 0, -rows * m_layout.RowHeight());
     else
         RedrawAll();
-    KeepTopRow();
+    KeepPlace();
     StopLabelClock();
     PlaceLabelField();
     return UpdateBarAtSide(m_layout.Client().cy);
@@ -157,6 +164,7 @@ bool TreeControl::ScrollToX(int x)
         ScrollWindow(m_hWnd, -pixels, 0);
     else
         RedrawAll();
+    KeepPlace();
     PlaceLabelField();
     return UpdateBarBelow();
 }

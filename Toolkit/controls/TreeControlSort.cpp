@@ -193,7 +193,7 @@ bool TreeControl::Rearrange(ItemIndex parent, std::span<const ItemIndex> order)
     const int row = parent == kRootItem ? 0 : m_items.RowOf(parent);
     if (row < 0 || !m_items.IsExpanded(parent))
         return true;
-    KeepTopRow();
+    KeepPlace();
     return RowsChanged(row);
 }
 

@@ -198,6 +198,14 @@ TEST_F(TreeControlTest, PartialPaintingComesToTheSamePixels)
         [this] { tree.SendMessage(WM_HSCROLL, SB_LINEDOWN); },
         [this] { tree.SendMessage(WM_VSCROLL, SB_LINEUP); },
         [this] { tree.MoveWindow(CRect(0, 0, 200, 190)); },
+        [this] { Fill("a b c d e f g [h i j k] l m n o p q"); },
+        [this] { tree.SelectSetFirstVisible((*this)["q"]); },
+        [this] { tree.DeleteItem((*this)["p"]); }, // what is above the end moves down
+        [this] { tree.Expand((*this)["g"], TVE_COLLAPSE); },
+        [this] { Fill("a [" + std::string(60, 'm') + "] " + std::string(40, 'n')); },
+        [this] { tree.SendMessage(WM_HSCROLL, SB_PAGEDOWN); },
+        [this] { tree.SendMessage(WM_HSCROLL, SB_PAGEDOWN); },
+        [this] { tree.Expand((*this)["a"], TVE_COLLAPSE); }, // and to the right
     };
     int step = 0;
     for (const auto& change : changes) {
