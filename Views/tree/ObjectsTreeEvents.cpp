@@ -17,16 +17,15 @@ BOOL CObjectsTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
     return TRUE;
 }
 
-// The label needs nothing, it is asked for again.
+// The control asks for the label again, and whether the item still stands where it belongs before it looks for the
+// place of another.
 BOOL CObjectsTree::RefreshItem(IAtom* pAtom)
 {
     const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
     if (!hItem)
         return FALSE;
     m_iconSlots.GiveUp(hItem);
-    CRect row;
-    if (GetItemRect(hItem, &row, FALSE))
-        InvalidateRect(&row);
+    SetItemText(hItem, LPSTR_TEXTCALLBACK);
     return TRUE;
 }
 

@@ -83,6 +83,13 @@ TEST_F(TreeOrderTest, AnAnnouncementReadsEachNameAFewTimesAndOneAtomMoreOnlyAFew
     tree.OnCreateAtom(pBox->Add("picture 5"), pBox);
     EXPECT_LE(tree.nLabels, 20);
     EXPECT_TRUE(ExpectedLabels(pBox) == tree.Labels(pBox));
+
+    FakeAtom* const pMiddle = pBox->members.front().Get();
+    pMiddle->displayName = "z"; // greater than all that stand behind it
+    tree.OnChangeAtom(pMiddle, pBox);
+    FakeAtom* const pNew = pBox->Add("picture 9999999");
+    tree.OnCreateAtom(pNew, pBox);
+    EXPECT_EQ(tree.GetItem(pMiddle), tree.GetNextSiblingItem(tree.GetItem(pNew)));
 }
 
 } // namespace
