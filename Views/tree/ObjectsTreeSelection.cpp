@@ -41,6 +41,8 @@ BOOL CObjectsTree::Notify(AEStateOperation operation, HTREEITEM hItem)
 void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
 {
     m_bFocusFromSelChange = !m_bHasFocus;
+    if (IsWithin(pChange->itemNew.hItem, pChange->itemOld.hItem))
+        m_iconSlots.ItemsHidden(); // it may have been collapsed: that is told only when this has been told
     if (!m_bPassive && !MayChangeSelection(*pChange)) {
         *pResult = -1;
         return;

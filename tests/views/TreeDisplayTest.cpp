@@ -130,6 +130,16 @@ TEST_F(TreeDisplayTest, IconsAreLentToItemsThatAreShown)
     desktop.Run();
     EXPECT_EQ(Ledger({"icon i at 5"}), TakeIcons());
     EXPECT_EQ(5, Ask(tree, box->Named("i"), TVIF_IMAGE).iImage);
+
+    tree.OnCreateAtom(AddIcon(pLast, "k"), pLast);
+    Select(tree, box->Named("i"));
+    EXPECT_EQ(Ledger({"icon k at -1"}), TakeIcons());
+    editor.onNotify = [&](AEStateOperation operation, IAtom*) {
+        if (operation == &IAEStateHandler::OnAtomDeselected)
+            tree.OnCreateAtom(AddIcon(pLast, "p"), pLast), tree.UpdateWindow();
+    };
+    tree.Expand(tree.GetItem(box), TVE_COLLAPSE); // hides what is selected: already as that is told
+    EXPECT_EQ(Ledger({"icon p at 5"}), TakeIcons());
 }
 
 } // namespace
