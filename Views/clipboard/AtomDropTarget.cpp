@@ -23,7 +23,7 @@ DROPEFFECT CAtomDropTarget::WantedEffect(DWORD dwKeyState)
 
 bool CAtomDropTarget::Offers(CWnd* pWnd, COleDataObject* pDataObject) const
 {
-    return pWnd == m_pView && pDataObject && pDataObject->IsDataAvailable(m_cfAtoms);
+    return m_pView && pWnd == m_pView && pDataObject && pDataObject->IsDataAvailable(m_cfAtoms);
 }
 
 std::optional<DWORD> CAtomDropTarget::Check(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect)
@@ -38,6 +38,8 @@ std::optional<DWORD> CAtomDropTarget::Check(IArchive* pArchive, IAtomContainer* 
 
 BOOL CAtomDropTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
+    if (!m_pView)
+        return FALSE;
     ForgetPlace();
     if (!Offers(pWnd, pDataObject))
         return FALSE;

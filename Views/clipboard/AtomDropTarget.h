@@ -10,7 +10,7 @@
 
 // Takes atoms that are dropped on a view. Which container is meant, and what is highlighted, the view's own class says.
 //
-// The host is asked while a drag moves, and may take the view away under it.
+// The host is asked while a drag moves, and may take the view away under it. Before there is a view nothing is taken.
 class VIEWS_API CAtomDropTarget : public COleDropTarget
 {
 public:

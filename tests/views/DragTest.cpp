@@ -1,6 +1,7 @@
 // Dragging atoms out of the views and dropping them on them, by the mouse.
 #include "Toolkit/ole/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
+#include "Views/tree/TreeDropTarget.h"
 #include "tests/views/InteractionTest.h"
 
 #include <algorithm>
@@ -159,6 +160,12 @@ TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
         tryDrop(wnd, at);
     }
     EXPECT_EQ("a b c", Members(pBox));
+
+    CTreeDropTarget treeTarget; // has no view
+    CListDropTarget listTarget;
+    COleDataObject data;
+    for (auto* pTarget : std::initializer_list<CAtomDropTarget*>{&treeTarget, &listTarget})
+        EXPECT_FALSE(pTarget->OnDrop(nullptr, &data, DROPEFFECT_MOVE, {}));
 
     // Views made without an editor take nothing ever.
     list.reset();
