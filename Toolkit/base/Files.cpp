@@ -240,26 +240,6 @@ DWORD GetFileSize(HANDLE hFile, DWORD* pdwHigh)
     return SplitPosition(status.st_size, pdwHigh);
 }
 
-DWORD SetFilePointer(HANDLE hFile, LONG nDistance, LONG* pHigh, DWORD dwMethod)
-{
-    static_assert(FILE_BEGIN == SEEK_SET && FILE_CURRENT == SEEK_CUR && FILE_END == SEEK_END);
-    const int fd = FindFile(hFile);
-    const std::int64_t distance =
-        pHigh ? static_cast<std::int64_t>(static_cast<std::uint64_t>(static_cast<DWORD>(*pHigh)) << 32 |
-                                          static_cast<DWORD>(nDistance))
-              : nDistance;
-    if (fd < 0 || dwMethod > FILE_END) {
-        SetLastError(fd < 0 ? ERROR_INVALID_HANDLE : ERROR_INVALID_PARAMETER);
-        return INVALID_SET_FILE_POINTER;
-    }
-    const std::int64_t position = lseek64(fd, distance, static_cast<int>(dwMethod));
-    if (position < 0) {
-        SetLastError(errno == EINVAL ? ERROR_NEGATIVE_SEEK : ERROR_GEN_FAILURE);
-        return INVALID_SET_FILE_POINTER;
-    }
-    return SplitPosition(position, reinterpret_cast<DWORD*>(pHigh));
-}
-
 BOOL CloseHandle(HANDLE hFile)
 {
     const bool bClosed = TakeFile(hFile) != nullptr;

@@ -27,11 +27,7 @@ inline constexpr DWORD OPEN_ALWAYS = 4;   // either; kept
 inline constexpr DWORD FILE_ATTRIBUTE_NORMAL = 0x80;
 inline constexpr DWORD FILE_ATTRIBUTE_TEMPORARY = 0x100;
 
-inline constexpr DWORD FILE_BEGIN = 0;
-inline constexpr DWORD FILE_CURRENT = 1;
-inline constexpr DWORD FILE_END = 2;
 inline constexpr DWORD INVALID_FILE_SIZE = 0xFFFFFFFF;
-inline constexpr DWORD INVALID_SET_FILE_POINTER = 0xFFFFFFFF;
 
 struct SECURITY_ATTRIBUTES;
 struct OVERLAPPED;
@@ -49,8 +45,6 @@ TOOLKIT_API BOOL WriteFile(HANDLE hFile, const void* pBuffer, DWORD nBytes, DWOR
 // The low 32 bits; the high ones into *pdwHigh, which may be NULL. INVALID_FILE_SIZE may be a size's low bits:
 // GetLastError tells, which is ERROR_SUCCESS then.
 TOOLKIT_API DWORD GetFileSize(HANDLE hFile, DWORD* pdwHigh);
-// Moves the position; the new one, as above. Without pHigh the distance is a signed 32-bit one.
-TOOLKIT_API DWORD SetFilePointer(HANDLE hFile, LONG nDistance, LONG* pHigh, DWORD dwMethod);
 TOOLKIT_API BOOL CloseHandle(HANDLE hFile); // FALSE for a stale handle
 // Takes the name away, also while the file is open: who has it open keeps its content. Of a link, the link itself.
 TOOLKIT_API BOOL DeleteFile(LPCSTR pszName);

@@ -59,22 +59,6 @@ try {
     return Refuse<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
 }
 
-HGLOBAL GlobalReAlloc(HGLOBAL hMem, std::size_t nBytes, UINT uFlags)
-try {
-    Block* pBlock = FindBlock(hMem);
-    if (!pBlock)
-        return nullptr;
-    if (pBlock->locks > 0)
-        return Refuse<HGLOBAL>(ERROR_ACCESS_DENIED, nullptr);
-    Bytes bytes = MakeBytes(nBytes, uFlags & GMEM_ZEROINIT);
-    std::copy_n(pBlock->bytes.get(), std::min(nBytes, pBlock->size), bytes.get());
-    pBlock->bytes = std::move(bytes);
-    pBlock->size = nBytes;
-    return hMem;
-} catch (const std::bad_alloc&) {
-    return Refuse<HGLOBAL>(ERROR_NOT_ENOUGH_MEMORY, nullptr);
-}
-
 void* GlobalLock(HGLOBAL hMem)
 {
     Block* pBlock = FindBlock(hMem);

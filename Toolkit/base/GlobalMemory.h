@@ -14,9 +14,6 @@ inline constexpr UINT GHND = GMEM_MOVEABLE | GMEM_ZEROINIT;
 
 // NULL when memory runs out, or without GMEM_MOVEABLE. A block of 0 bytes has a handle but nothing to lock.
 TOOLKIT_API HGLOBAL GlobalAlloc(UINT uFlags, std::size_t nBytes);
-// Another size, keeping what fits; new bytes are zero with GMEM_ZEROINIT, else undetermined. The handle stays. NULL,
-// and nothing changes, for a stale handle, a locked block, or when memory runs out.
-TOOLKIT_API HGLOBAL GlobalReAlloc(HGLOBAL hMem, std::size_t nBytes, UINT uFlags);
 // The bytes, at one place until the last lock is given back; NULL for a stale handle and for an empty block.
 TOOLKIT_API void* GlobalLock(HGLOBAL hMem);
 // TRUE while locks are left. FALSE, with ERROR_SUCCESS, when that was the last one; with ERROR_NOT_LOCKED when there

@@ -44,7 +44,6 @@ TOOLKIT_API HBITMAP SelectBitmap(HDC hdc, HBITMAP hBitmap); // the former one; N
 TOOLKIT_API COLORREF SetTextColor(HDC hdc, COLORREF color); // the former one; black at first
 TOOLKIT_API toolkit::FontStyle SetFontStyle(HDC hdc, toolkit::FontStyle style);
 TOOLKIT_API BOOL IntersectClipRect(HDC hdc, const RECT& rect);
-TOOLKIT_API BOOL ExcludeClipRect(HDC hdc, const RECT& rect);
 TOOLKIT_API BOOL RectVisible(HDC hdc, const RECT& rect); // does the clip let any of it through?
 TOOLKIT_API int SaveDC(HDC hdc);                         // clip, colours, font and origin; the depth, from 1
 TOOLKIT_API BOOL RestoreDC(HDC hdc, int nSaved);         // back to that depth; -1: the last one
@@ -68,14 +67,11 @@ inline constexpr UINT BF_RECT = BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM;
 TOOLKIT_API BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color);
 TOOLKIT_API BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush);
 TOOLKIT_API BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha); // 255 covers, 0 leaves
-TOOLKIT_API BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush);              // one pixel wide, inside
 TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverting: drawn twice it is gone
 TOOLKIT_API BOOL DrawEdge(HDC hdc, const RECT& rect, UINT edge, UINT flags); // BDR_* or EDGE_*, BF_*
 TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text);      // top left of the line; background kept
 TOOLKIT_API CSize GetTextExtent(HDC hdc, std::string_view text);
-TOOLKIT_API BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource); // copies
-TOOLKIT_API BOOL AlphaBlt(HDC hdc, int x, int y, HBITMAP hSource); // the whole bitmap, by its alpha
-TOOLKIT_API BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon);     // at its own size, by its alpha
+TOOLKIT_API BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon); // at its own size, by its alpha
 
 namespace toolkit
 {
@@ -84,7 +80,7 @@ namespace toolkit
 TOOLKIT_API HDC CreateSurfaceDC(Surface& target, CPoint origin, Region clip);
 TOOLKIT_API bool IsDrawnOn(HDC hdc); // has anything come through its clip since it was made?
 
-// Draws a part of a picture by its alpha, the part's top left corner at `at`.
+// Draws a part of a picture by its alpha, the part's top left corner at `at`. Not of the surface that is drawn on.
 TOOLKIT_API BOOL DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part);
 
 // The pixels behind a handle; NULL when refused. Valid until the object is changed or deleted.

@@ -87,18 +87,6 @@ BOOL IntersectClipRect(HDC hdc, const RECT& rect)
     return TRUE;
 }
 
-BOOL ExcludeClipRect(HDC hdc, const RECT& rect)
-{
-    DeviceContext* pContext = FindContext(hdc);
-    if (!pContext)
-        return FALSE;
-    toolkit::DrawState& state = pContext->State();
-    state.clip.Offset(CPoint() - state.origin);
-    state.clip.Subtract(rect);
-    state.clip.Offset(state.origin);
-    return TRUE;
-}
-
 BOOL RectVisible(HDC hdc, const RECT& rect)
 {
     const DeviceContext* pContext = FindContext(hdc);

@@ -36,25 +36,6 @@ CRect Place(std::int64_t x, std::int64_t y, CSize size)
     return {Clamp(x), Clamp(y), Clamp(x + size.cx), Clamp(y + size.cy)};
 }
 
-// Calls draw(target row, source row, count) for each visible row of a picture's part put at x, y.
-template <class Draw>
-void VisitPictureRows(const DeviceContext& context, CPoint at, const Surface& picture, const CRect& part, Draw draw)
-{
-    const CRect inside = part & picture.Bounds();
-    const CRect place =
-        Place(std::int64_t{at.x} + inside.left - part.left, std::int64_t{at.y} + inside.top - part.top, inside.Size());
-    if (&picture == &context.Target()) { // what is drawn is what was there before
-        const Surface copy = toolkit::Crop(picture, inside);
-        return VisitPictureRows(context, place.TopLeft(), copy, copy.Bounds(), draw);
-    }
-    context.VisitVisible(place, [&](const CRect& visible) {
-        const CPoint shift = inside.TopLeft() - place.TopLeft() - context.Origin();
-        for (int y = visible.top; y < visible.bottom; ++y)
-            draw(context.Target().Row(y) + visible.left, picture.Row(y + shift.y) + visible.left + shift.x,
-                 visible.Width());
-    });
-}
-
 // A handle is never so small as a system colour's index.
 std::optional<COLORREF> ColorOf(HBRUSH hBrush)
 {
@@ -111,16 +92,6 @@ BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha)
     return TRUE;
 }
 
-BOOL FrameRect(HDC hdc, const RECT& rect, HBRUSH hBrush)
-{
-    const std::optional<COLORREF> color = ColorOf(hBrush);
-    if (!color || !FindContext(hdc))
-        return FALSE;
-    for (const CRect& side : EdgeOf(rect))
-        FillSolidRect(hdc, side, *color);
-    return TRUE;
-}
-
 // The top left corner is always a dot, so that the dots move with the rectangle.
 BOOL DrawFocusRect(HDC hdc, const RECT& rect)
 {
@@ -159,25 +130,6 @@ CSize GetTextExtent(HDC hdc, std::string_view text)
     return {engine.Measure(text, pContext->State().fontStyle), engine.LineHeight()};
 }
 
-BOOL BitBlt(HDC hdc, int x, int y, int cx, int cy, HDC hdcSource, int xSource, int ySource)
-{
-    const DeviceContext* pContext = FindContext(hdc);
-    const DeviceContext* pSource = FindContext(hdcSource);
-    if (!pContext || !pSource)
-        return FALSE;
-    const CPoint origin = pSource->Origin();
-    const CRect part = Place(std::int64_t{xSource} + origin.x, std::int64_t{ySource} + origin.y, {cx, cy});
-    VisitPictureRows(*pContext, {x, y}, pSource->Target(), part,
-                     [](Pixel* to, const Pixel* from, int count) { std::copy_n(from, count, to); });
-    return TRUE;
-}
-
-BOOL AlphaBlt(HDC hdc, int x, int y, HBITMAP hSource)
-{
-    const Surface* pPicture = toolkit::BitmapSurface(hSource);
-    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture, pPicture->Bounds());
-}
-
 BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon)
 {
     const Surface* pPicture = toolkit::IconSurface(hIcon);
@@ -189,7 +141,14 @@ BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRec
     const DeviceContext* pContext = FindContext(hdc);
     if (!pContext)
         return FALSE;
-    VisitPictureRows(*pContext, at, picture, part,
-                     [](Pixel* to, const Pixel* from, int count) { BlendRow(to, from, count); });
+    const CRect inside = part & picture.Bounds();
+    const CRect place =
+        Place(std::int64_t{at.x} + inside.left - part.left, std::int64_t{at.y} + inside.top - part.top, inside.Size());
+    pContext->VisitVisible(place, [&](const CRect& visible) {
+        const CPoint shift = inside.TopLeft() - place.TopLeft() - pContext->Origin();
+        for (int y = visible.top; y < visible.bottom; ++y)
+            BlendRow(pContext->Target().Row(y) + visible.left, picture.Row(y + shift.y) + visible.left + shift.x,
+                     visible.Width());
+    });
     return TRUE;
 }

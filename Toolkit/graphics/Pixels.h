@@ -22,23 +22,6 @@ constexpr Pixel ScalePixel(Pixel pixel, std::uint32_t part)
     return even | odd;
 }
 
-// From colours as they are to colours times alpha, and back; back is exact where nothing was lost on the way.
-constexpr Pixel Premultiplied(Pixel straight)
-{
-    return ScalePixel(straight | 0xFF000000u, straight >> 24);
-}
-
-constexpr Pixel Straight(Pixel pixel)
-{
-    const std::uint32_t alpha = pixel >> 24;
-    if (alpha == 0)
-        return 0;
-    const auto channel = [=](int shift) {
-        return std::min(255u, ((pixel >> shift & 0xFF) * 255 + alpha / 2) / alpha) << shift;
-    };
-    return alpha << 24 | channel(16) | channel(8) | channel(0);
-}
-
 // What is seen when `above` lies on `below`.
 constexpr Pixel Over(Pixel above, Pixel below)
 {

@@ -1,7 +1,7 @@
 #include "tests/editor/BmpReader.h"
 
-#include "Toolkit/graphics/ImageFiles.h"
 #include "Toolkit/graphics/Scale.h"
+#include "tests/support/BmpFile.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -43,7 +43,7 @@ editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize, i
     Pass(path);
     std::ifstream stream(path, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    auto picture = toolkit::DecodeBmp(std::as_bytes(std::span(bytes)));
+    auto picture = DecodeBmp(bytes);
     if (!picture)
         return {{}, {}, "not a BMP picture"};
     CSize own = picture->Bounds().Size();

@@ -1,6 +1,6 @@
 #include "tests/editor/TempFolder.h"
 
-#include "Toolkit/graphics/ImageFiles.h"
+#include "tests/support/BmpFile.h"
 
 #include <cstdio>
 #include <fcntl.h>
@@ -52,8 +52,7 @@ void TempFolder::Write(const std::string& name, const std::string& bytes) const
 
 void TempFolder::WriteBmp(const std::string& name, int width, int height, unsigned color) const
 {
-    const auto bytes = toolkit::EncodeBmp(toolkit::Surface({width, height}, color));
-    Write(name, {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    Write(name, EncodeBmp(toolkit::Surface({width, height}, color)));
 }
 
 std::string TempFolder::ReadFile(const std::string& path)

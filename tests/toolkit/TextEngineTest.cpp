@@ -86,8 +86,9 @@ TEST(TextEngineTest, CombiningMarksStandOnTheirLetterWithoutWidth)
 TEST(TextEngineTest, DrawsInsideTheClipOnly)
 {
     toolkit::Surface surface({11, 14}, 0xFFFFFFFF);
-    const HDC hdc = toolkit::CreateSurfaceDC(surface, {1, -3}, toolkit::Region({2, 1, 9, 7}));
-    ExcludeClipRect(hdc, CRect(3, 0, 4, 99));
+    toolkit::Region clip({2, 1, 9, 7});
+    clip.Subtract({4, 0, 5, 99});
+    const HDC hdc = toolkit::CreateSurfaceDC(surface, {1, -3}, clip);
     SetTextColor(hdc, RGB(255, 0, 0));
     EXPECT_EQ(CSize(14, 14), GetTextExtent(hdc, "HH"));
     EXPECT_TRUE(TextOut(hdc, -2, 0, "HH"));
