@@ -180,10 +180,12 @@ LRESULT TreeControl::OnSetItem(WPARAM, LPARAM lParam)
     const ItemIndex item = pItem ? m_items.Find(pItem->hItem) : kNoItem;
     if (item == kNoItem)
         return FALSE;
+    const bool asked = m_items[item].asksForText;
     Assign(item, *pItem);
     if (pItem->mask & TVIF_TEXT) {
         DoubtOrder(m_items[item].parent);
-        ForgetWidth();
+        if (!asked || !m_items[item].asksForText)
+            ForgetWidth(); // of a label that is asked for the width is seen when it is painted
     }
     if (pItem->mask & kSeen)
         Redraw(pItem->hItem);
