@@ -31,7 +31,14 @@ void CEdit::ReplaceSel(LPCSTR pszNew, BOOL bCanUndo)
     SendMessage(EM_REPLACESEL, static_cast<WPARAM>(bCanUndo), reinterpret_cast<LPARAM>(pszNew));
 }
 
+CPoint CEdit::PosFromChar(UINT nChar) const
+{
+    return m_hWnd ? CPoint(SendMessage(EM_POSFROMCHAR, nChar)) : CPoint(-1, -1);
+}
+
 int CEdit::CharFromPos(CPoint pt) const
 {
+    if (!m_hWnd)
+        return -1;
     return static_cast<int>(SendMessage(EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)));
 }

@@ -15,8 +15,8 @@ public:
     void SetSel(int nStart, int nEnd, BOOL bNoScroll = FALSE); // 0, -1: all of it; unless told not to, shows the caret
     void ScrollCaret() { SendMessage(EM_SCROLLCARET); }
     void ReplaceSel(LPCSTR pszNew, BOOL bCanUndo = FALSE);
-    CPoint PosFromChar(UINT nChar) const { return CPoint(SendMessage(EM_POSFROMCHAR, nChar)); } // client
-    int CharFromPos(CPoint pt) const;
+    CPoint PosFromChar(UINT nChar) const; // client; (-1, -1) without a window
+    int CharFromPos(CPoint pt) const;     // -1 without a window
 
     void LimitText(int nBytes = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nBytes)); }
     UINT GetLimitText() const { return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT)); }

@@ -13,6 +13,8 @@ BOOL CListCtrl::PreCreateWindow(CREATESTRUCT& cs)
 
 int CListCtrl::GetNextItem(int nItem, UINT nFlags) const
 {
+    if (!m_hWnd)
+        return -1;
     return static_cast<int>(SendMessage(LVM_GETNEXTITEM, static_cast<WPARAM>(nItem), static_cast<LPARAM>(nFlags)));
 }
 
@@ -37,11 +39,11 @@ BOOL CListCtrl::GetItemRect(int nItem, RECT* pRect, int nArea) const
 
 int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
 {
-    LVHITTESTINFO info{pt, 0, -1};
-    const int nItem = static_cast<int>(SendMessage(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)));
+    LVHITTESTINFO info{pt, LVHT_NOWHERE, -1};
+    SendMessage(LVM_HITTEST, 0, reinterpret_cast<LPARAM>(&info)); // the answer of a failure would be a row
     if (pFlags)
         *pFlags = info.flags;
-    return nItem;
+    return info.iItem;
 }
 
 BOOL CListCtrl::EnsureVisible(int nItem, BOOL bPartialOK)

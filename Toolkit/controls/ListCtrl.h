@@ -1,4 +1,5 @@
-// CListCtrl: the list control as an object. Each operation is one message to the control.
+// CListCtrl: the list control as an object. Each operation is one message to the control. Without a window each answers
+// what means none: 0, FALSE or NULL, and -1 where a row is asked for.
 #pragma once
 
 #include "Toolkit/controls/ListView.h"

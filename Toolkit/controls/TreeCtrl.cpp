@@ -106,7 +106,7 @@ BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const
 
 HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
 {
-    TVHITTESTINFO info{pt, 0, nullptr};
+    TVHITTESTINFO info{pt, TVHT_NOWHERE, nullptr};
     const HTREEITEM hItem = HitTest(&info);
     if (pFlags)
         *pFlags = info.flags;

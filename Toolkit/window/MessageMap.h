@@ -94,6 +94,7 @@ protected:                                                                      
 #define ON_WM_LBUTTONUP() TOOLKIT_ENTRY(WM_LBUTTONUP, CallMouse, OnLButtonUp)
 #define ON_WM_LBUTTONDBLCLK() TOOLKIT_ENTRY(WM_LBUTTONDBLCLK, CallMouse, OnLButtonDblClk)
 #define ON_WM_RBUTTONDOWN() TOOLKIT_ENTRY(WM_RBUTTONDOWN, CallMouse, OnRButtonDown)
+#define ON_WM_RBUTTONDBLCLK() TOOLKIT_ENTRY(WM_RBUTTONDBLCLK, CallMouse, OnRButtonDblClk)
 #define ON_WM_RBUTTONUP() TOOLKIT_ENTRY(WM_RBUTTONUP, CallMouse, OnRButtonUp)
 #define ON_WM_MOUSEMOVE() TOOLKIT_ENTRY(WM_MOUSEMOVE, CallMouse, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() TOOLKIT_ENTRY(WM_MOUSEWHEEL, CallWheel, OnMouseWheel)

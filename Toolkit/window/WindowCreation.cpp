@@ -1,5 +1,6 @@
 #include "Toolkit/window/WindowCreation.h"
 
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/NativeClasses.h"
 #include "Toolkit/window/WindowApi.h"
@@ -11,7 +12,8 @@ namespace
 {
 using toolkit::WindowRecord;
 
-// The record, above its siblings, with its class's behaviour; NULL when parent or class are not there.
+// The record, above its siblings, with its class's behaviour; NULL when parent or class are not there. Raises
+// CMemoryException.
 HWND AddWindow(const CREATESTRUCT& cs, CWnd* pOwner)
 {
     WindowRecord* pParent = toolkit::FindRecord(cs.hwndParent);
@@ -55,7 +57,12 @@ bool AcceptsCreation(HWND hWnd, CREATESTRUCT cs)
 
 HWND toolkit::MakeWindow(const CREATESTRUCT& cs, CWnd* pOwner)
 {
-    const HWND hWnd = AddWindow(cs, pOwner);
+    HWND hWnd = nullptr;
+    try {
+        hWnd = AddWindow(cs, pOwner);
+    } catch (const CMemoryException&) {
+        // There is no window, as when it refuses.
+    }
     if (!hWnd) {
         if (pOwner)
             WndAccess::PostNcDestroy(*pOwner);

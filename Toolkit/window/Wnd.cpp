@@ -78,6 +78,23 @@ void CWnd::MoveWindow(const RECT& rect)
     ::MoveWindow(m_hWnd, place.left, place.top, place.Width(), place.Height());
 }
 
+void CWnd::GetClientRect(RECT* pRect) const
+{
+    *pRect = {};
+    ::GetClientRect(m_hWnd, pRect);
+}
+
+void CWnd::GetWindowRect(RECT* pRect) const
+{
+    *pRect = {};
+    ::GetWindowRect(m_hWnd, pRect);
+}
+
+CWnd* CWnd::SetFocus()
+{
+    return m_hWnd ? FromHandle(::SetFocus(m_hWnd)) : nullptr;
+}
+
 LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
 {
     return ::SendMessage(m_hWnd, message, wParam, lParam);

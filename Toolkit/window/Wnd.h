@@ -15,8 +15,8 @@ public:
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
 
-    // Makes the window and attaches it. FALSE when PreCreateWindow, WM_NCCREATE or WM_CREATE refused; there is
-    // no window then.
+    // Makes the window and attaches it. FALSE when PreCreateWindow, WM_NCCREATE or WM_CREATE refused or memory ran out;
+    // there is no window then.
     BOOL CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, const RECT& rect, CWnd* pParent,
                   UINT nID);
     virtual BOOL DestroyWindow();
@@ -34,8 +34,8 @@ public:
     DWORD GetExStyle() const { return ::GetWindowExStyle(m_hWnd); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     CString GetWindowText() const { return ::GetWindowText(m_hWnd); }
-    void GetClientRect(RECT* pRect) const { ::GetClientRect(m_hWnd, pRect); }
-    void GetWindowRect(RECT* pRect) const { ::GetWindowRect(m_hWnd, pRect); }
+    void GetClientRect(RECT* pRect) const; // empty without a window, and so is the next
+    void GetWindowRect(RECT* pRect) const;
     void ClientToScreen(POINT* pPoint) const { ::ClientToScreen(m_hWnd, pPoint); }
     void ScreenToClient(POINT* pPoint) const { ::ScreenToClient(m_hWnd, pPoint); }
 
@@ -43,7 +43,7 @@ public:
     BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     void MoveWindow(const RECT& rect);
     void SetWindowText(LPCSTR pszText) { ::SetWindowText(m_hWnd, pszText); }
-    CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
+    CWnd* SetFocus(); // without a window the focus stays where it is
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
     void InvalidateRect(const RECT* pRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, pRect, bErase); }
@@ -89,6 +89,7 @@ protected:
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
