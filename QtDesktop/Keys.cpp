@@ -15,12 +15,19 @@ struct Key
 };
 
 constexpr Key kKeys[] = {
-    {Qt::Key_Backspace, VK_BACK}, {Qt::Key_Tab, VK_TAB},     {Qt::Key_Backtab, VK_TAB},     {Qt::Key_Return, VK_RETURN},
-    {Qt::Key_Enter, VK_RETURN},   {Qt::Key_Shift, VK_SHIFT}, {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Alt, VK_MENU},
-    {Qt::Key_Escape, VK_ESCAPE},  {Qt::Key_Space, VK_SPACE}, {Qt::Key_PageUp, VK_PRIOR},    {Qt::Key_PageDown, VK_NEXT},
-    {Qt::Key_End, VK_END},        {Qt::Key_Home, VK_HOME},   {Qt::Key_Left, VK_LEFT},       {Qt::Key_Up, VK_UP},
-    {Qt::Key_Right, VK_RIGHT},    {Qt::Key_Down, VK_DOWN},   {Qt::Key_Insert, VK_INSERT},   {Qt::Key_Delete, VK_DELETE},
-    {Qt::Key_Menu, VK_APPS},
+    {Qt::Key_Backspace, VK_BACK},  {Qt::Key_Tab, VK_TAB},
+    {Qt::Key_Backtab, VK_TAB},     {Qt::Key_Return, VK_RETURN},
+    {Qt::Key_Enter, VK_RETURN},    {Qt::Key_Shift, VK_SHIFT},
+    {Qt::Key_Control, VK_CONTROL}, {Qt::Key_Alt, VK_MENU},
+    {Qt::Key_Escape, VK_ESCAPE},   {Qt::Key_Space, VK_SPACE},
+    {Qt::Key_PageUp, VK_PRIOR},    {Qt::Key_PageDown, VK_NEXT},
+    {Qt::Key_End, VK_END},         {Qt::Key_Home, VK_HOME},
+    {Qt::Key_Left, VK_LEFT},       {Qt::Key_Up, VK_UP},
+    {Qt::Key_Right, VK_RIGHT},     {Qt::Key_Down, VK_DOWN},
+    {Qt::Key_Insert, VK_INSERT},   {Qt::Key_Delete, VK_DELETE},
+    {Qt::Key_Menu, VK_APPS},       {Qt::Key_CapsLock, VK_CAPITAL},
+    {Qt::Key_Plus, VK_OEM_PLUS},   {Qt::Key_Comma, VK_OEM_COMMA},
+    {Qt::Key_Minus, VK_OEM_MINUS}, {Qt::Key_Period, VK_OEM_PERIOD},
 };
 
 constexpr Key kKeypad[] = {
@@ -32,7 +39,7 @@ constexpr Key kKeypad[] = {
 UINT Find(std::span<const Key> keys, int key)
 {
     const auto it = std::find_if(keys.begin(), keys.end(), [key](const Key& entry) { return entry.qt == key; });
-    return it == keys.end() ? 0 : it->vkey;
+    return it == keys.end() ? VK_UNKNOWN : it->vkey;
 }
 
 bool IsPrintable(const QString& text)
@@ -78,7 +85,7 @@ UINT ToVirtualKey(const QKeyEvent& event)
     if (key >= Qt::Key_F1 && key <= Qt::Key_F24)
         return VK_F1 + static_cast<UINT>(key - Qt::Key_F1);
     if (event.modifiers().testFlag(Qt::KeypadModifier)) {
-        if (const UINT vkey = Find(kKeypad, key))
+        if (const UINT vkey = Find(kKeypad, key); vkey != VK_UNKNOWN)
             return vkey;
     }
     return Find(kKeys, key);

@@ -14,7 +14,7 @@ toolkit::Modifiers ToModifiers(Qt::KeyboardModifiers modifiers);
 // The modifiers once the event has happened: a modifier's own key counts at once.
 toolkit::Modifiers ModifiersAfter(const QKeyEvent& event);
 
-// The virtual key; 0 for a key that the toolkit does not know.
+// The virtual key; VK_UNKNOWN for a key that the toolkit does not know.
 UINT ToVirtualKey(const QKeyEvent& event);
 
 // What the key types, in UTF-8: printable text only. Control, Alt and the system's key make a command of it;

@@ -207,8 +207,7 @@ void QtWindow::leaveEvent(QEvent*)
 
 void QtWindow::keyPressEvent(QKeyEvent* pEvent)
 {
-    if (const UINT vkey = ToVirtualKey(*pEvent))
-        toolkit::InputKey(vkey, true, ModifiersAfter(*pEvent));
+    toolkit::InputKey(ToVirtualKey(*pEvent), true, ModifiersAfter(*pEvent));
     if (const std::string text = TypedText(*pEvent); !text.empty())
         toolkit::InputText(text);
 }
@@ -217,8 +216,7 @@ void QtWindow::keyReleaseEvent(QKeyEvent* pEvent)
 {
     if (pEvent->isAutoRepeat()) // the key is still down
         return;
-    if (const UINT vkey = ToVirtualKey(*pEvent))
-        toolkit::InputKey(vkey, false, ModifiersAfter(*pEvent));
+    toolkit::InputKey(ToVirtualKey(*pEvent), false, ModifiersAfter(*pEvent));
 }
 
 void QtWindow::Discard(std::unique_ptr<QtWindow> window)

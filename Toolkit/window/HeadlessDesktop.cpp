@@ -24,7 +24,20 @@ UINT KeyOfCharacter(char32_t c)
 {
     if (c >= 'a' && c <= 'z')
         return static_cast<UINT>(c - 'a' + 'A');
-    return (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == ' ' ? static_cast<UINT>(c) : 0;
+    if ((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == ' ')
+        return static_cast<UINT>(c);
+    switch (c) {
+    case '+':
+        return VK_OEM_PLUS;
+    case ',':
+        return VK_OEM_COMMA;
+    case '-':
+        return VK_OEM_MINUS;
+    case '.':
+        return VK_OEM_PERIOD;
+    default:
+        return VK_UNKNOWN;
+    }
 }
 } // namespace
 
@@ -111,11 +124,9 @@ void toolkit::HeadlessDesktop::Type(std::string_view utf8)
     while (!utf8.empty()) {
         const CodePoint c = DecodeUtf8(utf8);
         const UINT vkey = KeyOfCharacter(c.value);
-        if (vkey != 0)
-            InputKey(vkey, true, m_modifiers);
+        InputKey(vkey, true, m_modifiers);
         InputText(utf8.substr(0, static_cast<std::size_t>(c.bytes)));
-        if (vkey != 0)
-            InputKey(vkey, false, m_modifiers);
+        InputKey(vkey, false, m_modifiers);
         utf8.remove_prefix(static_cast<std::size_t>(c.bytes));
     }
     Run();

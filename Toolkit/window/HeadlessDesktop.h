@@ -40,8 +40,8 @@ public:
 
     // Keys, to the focus. Modifiers hold for mouse and keys until changed.
     void Hold(Modifiers modifiers);
-    void Key(UINT vkey); // down and up
-    void Type(std::string_view utf8);
+    void Key(UINT vkey);              // down and up
+    void Type(std::string_view utf8); // a key for each character
 
     // Lets the time pass, a timer at a time, each handled when it is due.
     void Advance(DWORD nMilliseconds);

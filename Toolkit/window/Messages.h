@@ -106,7 +106,8 @@ inline constexpr UINT VK_TAB = 0x09;
 inline constexpr UINT VK_RETURN = 0x0D;
 inline constexpr UINT VK_SHIFT = 0x10;
 inline constexpr UINT VK_CONTROL = 0x11;
-inline constexpr UINT VK_MENU = 0x12; // Alt
+inline constexpr UINT VK_MENU = 0x12;    // Alt
+inline constexpr UINT VK_CAPITAL = 0x14; // CapsLock
 inline constexpr UINT VK_ESCAPE = 0x1B;
 inline constexpr UINT VK_SPACE = 0x20;
 inline constexpr UINT VK_PRIOR = 0x21;
@@ -129,6 +130,11 @@ inline constexpr UINT VK_F4 = 0x73;
 inline constexpr UINT VK_F5 = 0x74;
 inline constexpr UINT VK_F6 = 0x75;
 inline constexpr UINT VK_F10 = 0x79;
+inline constexpr UINT VK_OEM_PLUS = 0xBB;
+inline constexpr UINT VK_OEM_COMMA = 0xBC;
+inline constexpr UINT VK_OEM_MINUS = 0xBD;
+inline constexpr UINT VK_OEM_PERIOD = 0xBE;
+inline constexpr UINT VK_UNKNOWN = 0xFF; // any key that has no code here: its press is told like every other
 
 // Scroll bars: which one, and what WM_VSCROLL and WM_HSCROLL carry in the low word of wParam.
 inline constexpr int SB_HORZ = 0;

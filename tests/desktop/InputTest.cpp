@@ -62,14 +62,16 @@ TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAreAndOnlyPrintableTextIsTyped)
     EXPECT_EQ("key Tab; char 9", AfterKey(Qt::Key_Backtab, "", Qt::ShiftModifier));
     EXPECT_EQ("key Return; char 13", AfterKey(Qt::Key_Enter, "\r", Qt::KeypadModifier));
     EXPECT_EQ("key Keypad+; char 43", AfterKey(Qt::Key_Plus, "+", Qt::KeypadModifier));
-    EXPECT_EQ("char 43", AfterKey(Qt::Key_Plus, "+"));
+    EXPECT_EQ("key +; char 43", AfterKey(Qt::Key_Plus, "+"));
+    EXPECT_EQ("key -; char 45", AfterKey(Qt::Key_Minus, "-"));
+    EXPECT_EQ("key CapsLock", AfterKey(Qt::Key_CapsLock));
     EXPECT_EQ("key Menu", AfterKey(Qt::Key_Menu));
     EXPECT_EQ("key Backspace; char 8", AfterKey(Qt::Key_Backspace, "\b"));
     EXPECT_EQ("key C; char 3", AfterKey(Qt::Key_C, "\x03", Qt::ControlModifier));
     EXPECT_EQ("key 1", AfterKey(Qt::Key_1, "1", Qt::ControlModifier));
-    EXPECT_EQ("char 8364", AfterKey(Qt::Key_unknown, "€", Qt::GroupSwitchModifier));
-    EXPECT_EQ("char 128512", AfterKey(Qt::Key_unknown, "😀"));
-    EXPECT_EQ("", AfterKey(Qt::Key_Dead_Acute));
+    EXPECT_EQ("key other; char 8364", AfterKey(Qt::Key_unknown, "€", Qt::GroupSwitchModifier));
+    EXPECT_EQ("key other; char 128512", AfterKey(Qt::Key_unknown, "😀"));
+    EXPECT_EQ("key other", AfterKey(Qt::Key_Dead_Acute));
 }
 
 TEST_F(InputTest, AKeyIsDownAsSoonAsItIsPressedAndWhileItRepeats)

@@ -180,6 +180,9 @@ TEST_F(InputTest, KeysBecomeTheCharactersTheyType)
     EXPECT_GT(0, GetKeyState(VK_CONTROL));
     desktop.Hold({});
     EXPECT_EQ(Ledger({"b CHAR 97", "b CHAR 233", "b CHAR 128512", "b CHAR 27", "b CHAR 3"}), LinesWith({"b CHAR"}));
+    desktop.Type("7-\"");
+    EXPECT_EQ(Ledger({"b KEYDOWN 55", "b CHAR 55", "b KEYDOWN 189", "b CHAR 45", "b KEYDOWN 255", "b CHAR 34"}),
+              LinesWith({"b CHAR", "b KEYDOWN"})); // each is a key's
 }
 
 TEST_F(InputTest, ADesktopMovesSizesAndClosesATopLevelWindow)

@@ -166,10 +166,14 @@ TEST_F(DigitalEditTest, TheMixedValueIsSelectedWithTheFocusAndAnyKeyEndsIt)
     field.SetDifferent();
     desktop.Type("1");
     EXPECT_EQ("10 5", State()) << "emptied, refilled, then 1, which is below the range";
-    field.SetRange(0, 100);
+    field.SetRange(-50, 100);
     field.SetDifferent();
     desktop.Type("5");
     EXPECT_EQ("5 4", State());
+    field.SetDifferent();
+    field.SetSel(11, 11);
+    desktop.Type("-5"); // the minus is a key, too
+    EXPECT_EQ("-5 5", State());
     field.SetDifferent();
     field.SetValue(8);
     EXPECT_EQ("8 2", State());
