@@ -187,9 +187,8 @@ private:
     std::optional<RubberBand> m_band;
     HWND m_hTracker = nullptr; // while a button is down
     CPoint m_trackedAt;
-    int m_editedRow = -1;     // while the label's field is there
-    int m_clickedRow = -1;    // is edited next, once it is certain that no double click follows
-    std::string m_labelShown; // what the row showed when its editing began
+    int m_editedRow = -1;  // while the label's field is there
+    int m_clickedRow = -1; // is edited next, once it is certain that no double click follows
     bool m_bAutoScrolls = false;
     bool m_bInRelayout = false;
 };

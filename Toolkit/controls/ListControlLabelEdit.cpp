@@ -1,8 +1,8 @@
 // How the list control has a label edited in place.
 //
-// The control knows rows by number only. An owner that moves rows meanwhile says where the edited one is now; where it
-// does not and another label stands in the row at the end, the editing counts as cancelled: no row is ever given a
-// name that was meant for another.
+// The control knows rows by number only. An owner that moves rows meanwhile says where the edited one is now, so that
+// no row is ever given a name that was meant for another. What the row shows may change: what was typed is taken all
+// the same.
 #include "Toolkit/controls/EditMessages.h"
 #include "Toolkit/controls/ListControl.h"
 
@@ -65,7 +65,7 @@ bool ListControl::AskLabelEdit(int row, std::string& text, bool* pAllowed)
     const std::optional<Face> face = HintAndAsk(row);
     if (!face)
         return false;
-    m_labelShown = text = face->text;
+    text = face->text;
     NMLVDISPINFO info{};
     info.item.mask = LVIF_TEXT;
     info.item.iItem = row;
@@ -102,12 +102,6 @@ bool ListControl::FinishLabel(bool taken)
     if (!text)
         return false;
 
-    if (taken && m_rows.Has(row)) {
-        const std::optional<Face> face = HintAndAsk(row);
-        if (!face)
-            return false;
-        taken = face->text == m_labelShown;
-    }
     NMLVDISPINFO info{};
     info.item.mask = LVIF_TEXT;
     info.item.iItem = row;
