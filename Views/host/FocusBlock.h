@@ -9,12 +9,12 @@
 class VIEWS_API FocusBlock
 {
 public:
-    FocusBlock() { ++FocusBlockCounter; }
-    ~FocusBlock() { --FocusBlockCounter; }
-    FocusBlock(const FocusBlock&) = delete;                    // a block is a scope, of which there is no copy
-    FocusBlock& operator=(const FocusBlock&) { return *this; } // changes nothing: both scopes stay open
+    FocusBlock();
+    ~FocusBlock();
+    FocusBlock(const FocusBlock&) = delete;   // a block is a scope, of which there is no copy
+    FocusBlock& operator=(const FocusBlock&); // changes nothing: both scopes stay open
 
-    static BOOL IsInFocusBlock() { return FocusBlockCounter > 1; } // more than the asker's own
+    static BOOL IsInFocusBlock(); // TRUE with another one than the asker's own
 
 private:
     static int FocusBlockCounter;
