@@ -27,7 +27,7 @@ protected:
     static DROPEFFECT WantedEffect(DWORD dwKeyState); // a move, or a copy with Ctrl
     bool Offers(CWnd* pWnd, COleDataObject* pDataObject) const;
     views::DraggedAtoms::Look LookAt(COleDataObject* pDataObject) { return m_atoms.LookAt(pDataObject, m_cfAtoms); }
-    // What CheckPaste says of a drop that has the effect. Nothing when the view is gone: this may be, too.
+    // What CheckPaste says of a drop that has the effect. Nothing when the view's window is gone.
     std::optional<DWORD> Check(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect);
     // What Check has found last.
     DWORD GetVerdict() const { return m_dwVerdict; }

@@ -1,9 +1,8 @@
 #include "Views/list/ObjectsList.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/graphics/Resources.h"
+#include "Views/host/AddPane.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/IconHolder.h"
 #include "Views/host/Services.h"
 #include "Views/list/MemberOrder.h"
 
@@ -14,6 +13,7 @@ constexpr UINT kControlID = 0xE900;
 constexpr DWORD kStyle =
     WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | LVS_ICON | LVS_OWNERDATA | LVS_EDITLABELS | LVS_SHOWSELALWAYS;
 static_assert(kStyle == 0x46001208);
+constexpr int kLoadTries = 10;
 
 } // namespace
 
@@ -28,6 +28,8 @@ BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
     ON_NOTIFY_REFLECT(LVN_BEGINDRAG, OnBeginDrag)
     ON_WM_RBUTTONDOWN()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDBLCLK()
     ON_WM_RBUTTONUP()
     ON_WM_LBUTTONUP()
     ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, OnItemChanged)
@@ -80,8 +82,11 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
 
     m_bSync = TRUE;
-    if (const auto pEditor = EditorToTell())
-        m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    m_bClosing = false;
+    m_bHasFocus = m_bFocusFromSelChange = FALSE;
+    const auto pEditor = EditorToTell();
+    if (pEditor && !m_registration.Begin(pEditor.Get(), m_hWnd, this))
+        return -1;
     m_dropTarget.Register(this);
     UpdateIndexes();
     return 0;
@@ -89,8 +94,8 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CObjectsList::OnDestroy()
 {
-    if (const auto pEditor = EditorToTell())
-        pEditor->UnregisterHandler(m_dwHandlerCookie);
+    m_bClosing = true;
+    m_registration.End();
     CListCtrl::OnDestroy();
     ClearContext();
 }
@@ -110,81 +115,99 @@ BOOL CObjectsList::SetRootAtom(IAtom* pRoot)
     return OnAtomEntered(pRoot, pContainer.Get());
 }
 
-// The members of pAtom become the rows. pAtom must not live by this view's references, which go first.
+// The members of pAtom become the rows, unless whoever is asked or told on the way has something else shown.
 BOOL CObjectsList::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
 {
-    if (!m_bSync)
+    if (!IsListening())
         return TRUE;
 
-    ClearContext();
-    m_pContainer.QueryFrom(pAtom);
-    if (m_pContainer) {
-        LoadMembers();
-        ShowPane();
-    } else {
+    const auto pHeld = CStubRef<IAtom>::Share(pAtom); // it may have lived by the view's references, which go
+    const unsigned nLoad = ClearContext();
+    auto pContainer = CStubRef<IAtomContainer>::From(pAtom);
+    if (nLoad != m_nLoads)
+        return TRUE;
+    m_pContainer = std::move(pContainer);
+    if (!m_pContainer)
         RemovePane();
-    }
+    else if (LoadMembers(nLoad))
+        ShowPane();
     return TRUE;
 }
 
-// Without memory for the rows there are none, and the user has been told.
-void CObjectsList::LoadMembers()
+// Members that come or go while they are read are read anew; not for ever, for a host may announce some each time.
+bool CObjectsList::LoadMembers(unsigned nLoad)
+{
+    const auto pContainer = ShareContainer();
+    views::AtomArray atoms;
+    bool bByName = false;
+    for (int nTries = 0; nTries < kLoadTries && nLoad == m_nLoads && (nTries == 0 || m_bMembersChanged); ++nTries) {
+        m_bLoading = true;
+        m_bMembersChanged = false;
+        bByName = ReadMembers(pContainer.Get(), atoms);
+    }
+    if (nLoad != m_nLoads)
+        return false;
+    m_bLoading = false;
+    m_atoms.swap(atoms);
+    m_nOrdered = bByName ? static_cast<int>(m_atoms.size()) : 0;
+    SetItemCount(static_cast<int>(m_atoms.size()));
+    return nLoad == m_nLoads;
+}
+
+// Without memory for the members there are none, and the user has been told. True when names alone order them.
+bool CObjectsList::ReadMembers(IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms)
 {
     try {
-        views::AtomArray atoms(m_pContainer->GetCount());
+        atoms = views::AtomArray(pContainer->GetCount());
         if (!atoms.empty())
-            m_pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
-        const bool bByName = views::OrderMembers(atoms, &CompareFunc);
-        m_atoms = std::move(atoms);
-        m_nOrdered = bByName ? static_cast<int>(m_atoms.size()) : 0;
+            pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
+        return views::OrderMembers(atoms, &CompareFunc);
     } catch (CMemoryException& e) {
         e.ReportError();
+        atoms.clear();
+        return false;
     }
-    SetItemCount(static_cast<int>(m_atoms.size()));
 }
 
 void CObjectsList::ShowPane()
 {
-    if (m_bPaneShown)
-        return;
-    const auto pEditor = EditorToTell();
+    const auto pEditor = m_bPaneShown ? nullptr : EditorToTell();
     if (!pEditor)
         return;
-
-    CString strCaption;
-    views::IconHolder hIcon;
-    try {
-        strCaption.LoadString(m_nResourceID);
-        hIcon.reset(::LoadIcon(LOWORD(m_nResourceID)));
-    } catch (CMemoryException& e) {
-        e.ReportError(); // the pane comes without what is missing
-    }
-    pEditor->AddPane(m_nPaneKind, m_hWnd, strCaption, hIcon.get());
     m_bPaneShown = TRUE;
+    views::AddPane(pEditor.Get(), m_nPaneKind, m_hWnd, m_nResourceID, m_nResourceID, "");
 }
 
 void CObjectsList::RemovePane()
 {
-    if (!m_bPaneShown)
+    const auto pEditor = m_bPaneShown ? EditorToTell() : nullptr;
+    if (!pEditor)
         return;
-    if (const auto pEditor = EditorToTell()) {
-        pEditor->RemovePane(m_nPaneKind, m_hWnd);
-        m_bPaneShown = FALSE;
-    }
+    m_bPaneShown = FALSE;
+    pEditor->RemovePane(m_nPaneKind, m_hWnd);
 }
 
-void CObjectsList::ClearContext()
+unsigned CObjectsList::ClearContext()
 {
+    const unsigned nLoad = ++m_nLoads;
     MoveLabelEdit(-1);
+    if (nLoad != m_nLoads)
+        return nLoad;
     UncacheAll();
     SetItemCount(0);
     m_pCache->RemoveAll();
     m_nCacheFrom = m_nCacheTo = 0;
     m_nOrdered = 0;
+    m_bLoading = false;
     m_doubted.clear();
-    std::exchange(m_atoms, {}).clear(); // an atom's end may come back here: there are no rows any more
-    m_pContainer.Release();
-    OnClearContext();
+    ++m_nRowMoves;
+    {
+        const auto pContainer = std::move(m_pContainer); // goes after the atoms
+        const auto atoms = std::exchange(m_atoms, {});   // an atom's end may come back here: there are no rows any more
+    }
+    if (nLoad == m_nLoads)
+        OnClearContext();
+    return nLoad;
 }
 
 void CObjectsList::OnClearContext() {}
@@ -220,6 +243,11 @@ CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
     if (!pPair)
         return {};
     return HELDPAIR::Share(pPair->pAtom, pPair->pContainer);
+}
+
+CStubRef<IAtom> CObjectsList::HoldAtom(int nItem) const
+{
+    return HoldPair(nItem).pAtom;
 }
 
 CStubRef<IAtomContainer> CObjectsList::ContainerInRow(int nItem) const

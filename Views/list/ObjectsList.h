@@ -2,6 +2,8 @@
 #pragma once
 
 #include "Toolkit/controls/ListCtrl.h"
+#include "Views/clipboard/EditedName.h"
+#include "Views/host/HandlerRegistration.h"
 #include "Views/host/HeldPair.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/StateHandler.h"
@@ -34,7 +36,7 @@ public:
     // A child window without extent, not shown yet, with the control identifier 0xE900.
     BOOL Create(CWnd* pParent);
     // Shows the members of an atom that is a container; any other atom empties the view. FALSE for NULL. Does nothing,
-    // and says TRUE, before there is a window.
+    // and says TRUE, without a window.
     BOOL SetRootAtom(IAtom* pRoot);
     // Registered when the window is made. A host that has a target of its own revokes this one.
     CListDropTarget& GetDropTarget() { return m_dropTarget; }
@@ -68,7 +70,7 @@ protected:
 
     // Comparators for qsort over IAtom pointers: image links of one phase by their positions in it, all others by
     // name without regard to case; NULL comes last. CompareFunc1 says 1 when the first sorts after the second, else
-    // 0. Each keeps the names it read last, so neither may be entered again from the host's answers.
+    // 0. A name that cannot be read is the one that was read last in its place.
     static int CompareFunc(const void* p1, const void* p2);
     static int CompareFunc1(const void* p1, const void* p2);
 
@@ -85,6 +87,8 @@ protected:
     afx_msg void OnBeginDrag(NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult);
@@ -107,22 +111,31 @@ private:
     bool IsShown(IAtomContainer* pContainer) const { return pContainer && pContainer == m_pContainer.Get(); }
 
     CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor and for a passive view
+    bool IsListening() const { return m_bSync && m_hWnd && !m_bClosing; } // to the editor
+    bool HasFocus() const { return m_hWnd && ::GetFocus() == m_hWnd; }
 
     void UpdateIndexes();
-    void ClearContext();
+    // What m_nLoads is now: while it stays so, nothing else has been shown since.
+    unsigned ClearContext();
     void GoToItem(UINT nItem);
-    void LoadMembers();
+    bool LoadMembers(unsigned nLoad); // false: something else has been shown meanwhile
+    static bool ReadMembers(IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms);
     void ShowPane();
     void RemovePane();
 
-    int FindRow(IAtom* pAtom);                        // the first row whose atom compares equal, -1: none
+    CStubRef<IAtom> HoldAtom(int nItem) const; // empty when there is no such row or no atom in it
+    int FindRow(IAtom* pAtom);                 // the first row whose atom compares equal, -1: none
+    int FindEqualRow(IAtom* pAtom) const;
     void DoubtOrder(IAtom* pChanged, int nCachedRow); // -1: it is not cached
     void SettleDoubts();
     void CheckOrder(int nRow);
+    bool NoteWhileLoading();
     void RemoveRow(int nItem);
     void ReloadContainer(IAtomContainer* pContainer);
 
     bool CacheRow(int nItem);
+    bool ReserveRecord();                                     // false without memory, which the user has been told
+    bool AwaitsRecord(int nItem, const HELDPAIR& pair) const; // the row is still the pair's and not cached
     bool ReadText(IAtom* pAtom, CString& strText);
     void EvictOne();
     void UncacheRow(int nItem);
@@ -135,6 +148,7 @@ private:
     void SetAllSelected(bool bSelected);
     void ClearSelection();
     void SelectRow(int nItem); // and give it the focus; nothing for -1
+    bool WelcomesFocus(CWnd* pOldWnd);
     void AnnounceSelection();
     void PostButtonUp();
     bool TakeFocus();              // false when it was refused
@@ -150,14 +164,21 @@ private:
     BOOL m_bSync = FALSE;
     const UINT m_nPaneKind;
     const UINT m_nResourceID;
-    DWORD m_dwHandlerCookie = 0;
+    views::HandlerRegistration m_registration;
     CListDropTarget m_dropTarget;
     BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
     BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
+    bool m_bFocusLost = false;          // since the last OnSetFocus began
+    bool m_bPressDropped = false;       // the last press, whose focus was refused
     const BOOL m_bPassive;
     BOOL m_bPaneShown = FALSE;
-    int m_nEdited = -1;  // the row whose label is being edited
-    CString m_strEdited; // the name that its editing began with
-    int m_nOrdered = 0;  // rows before this one stand in the order of their names, but for those of the next
+    bool m_bClosing = false;        // the window is being destroyed: nothing is shown any more
+    bool m_bLoading = false;        // the container is being asked for its members
+    bool m_bMembersChanged = false; // while they are read
+    unsigned m_nLoads = 0;          // how often the view has been emptied
+    unsigned m_nRowMoves = 0;       // how often rows have got other numbers
+    int m_nEdited = -1;             // the row whose label is being edited
+    views::EditedName m_editedName;
+    int m_nOrdered = 0; // rows before this one stand in the order of their names, but for those of the next
     std::unordered_set<const IAtom*> m_doubted; // atoms that may have a new name; perhaps gone, and never followed
 };

@@ -34,7 +34,8 @@ void CObjectsList::OnOdCacheHint(NMLVCACHEHINT* pHint, LRESULT* pResult)
 }
 
 // False when the rest of the hint must wait: the row's name could not be read, and the user has been told. The row is
-// not stored then, so the next hint that covers it tries again.
+// not stored then, so the next hint that covers it tries again. Nor is it when whoever was asked has given the row to
+// another atom, or had it cached.
 bool CObjectsList::CacheRow(int nItem)
 {
     const HELDPAIR pair = HoldPair(nItem);
@@ -43,18 +44,39 @@ bool CObjectsList::CacheRow(int nItem)
     CACHEDATA data;
     if (!ReadText(pair.pAtom.Get(), data.strText))
         return false;
-    try {
-        m_pCache->Reserve(); // now: a row announced to the hook is stored
-    } catch (CMemoryException& e) {
-        e.ReportError();
+    if (!AwaitsRecord(nItem, pair))
+        return true;
+    if (!ReserveRecord())
         return false;
-    }
     OnCacheItem(nItem, pair.pAtom.Get(), pair.pContainer.Get(), &data);
+    if (!AwaitsRecord(nItem, pair) || !ReserveRecord()) {
+        OnUncacheItem(nItem, nullptr, nullptr, &data);
+        return true;
+    }
     if (m_pCache->GetCount() > kCacheLimit)
         EvictOne();
     data.dwTick = GetTickCount();
     m_pCache->Store(nItem, std::move(data));
     return true;
+}
+
+// Before the hook is called and once more afterwards, for others may have been stored meanwhile.
+bool CObjectsList::ReserveRecord()
+{
+    try {
+        m_pCache->Reserve();
+        return true;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return false;
+    }
+}
+
+bool CObjectsList::AwaitsRecord(int nItem, const HELDPAIR& pair) const
+{
+    const OBJPAIR* const pNow = PairAt(nItem);
+    return pNow && pNow->pAtom == pair.pAtom.Get() && pNow->pContainer == pair.pContainer.Get() &&
+           !m_pCache->Find(nItem);
 }
 
 // The display name where there is one, else the name. Without memory for it the text is empty, and the row goes on.

@@ -10,7 +10,7 @@
 // New atoms come last, whatever the order of the others, and are what the user goes on with.
 BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
-    if (!m_bSync || !pAtom || !IsShown(pContainer))
+    if (!IsListening() || !pAtom || !IsShown(pContainer) || NoteWhileLoading())
         return TRUE;
     try {
         m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
@@ -18,30 +18,47 @@ BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
         e.ReportError();
         return TRUE;
     }
-    SetItemCount(static_cast<int>(pContainer->GetCount()));
+    const UINT nCount = pContainer->GetCount();
+    if (!IsShown(pContainer))
+        return TRUE;
+    SetItemCount(static_cast<int>(nCount));
     const views::UpdateLock lock(this);
     ClearSelection();
-    SelectRow(GetItemCount() - 1);
+    if (IsShown(pContainer))
+        SelectRow(GetItemCount() - 1);
     return TRUE;
 }
 
 BOOL CObjectsList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
-    if (!m_bSync || !IsShown(pContainer))
+    if (!IsListening() || !IsShown(pContainer))
         return TRUE;
     if (!pAtom) {
         ReloadContainer(pContainer);
         return TRUE;
     }
+    if (NoteWhileLoading())
+        return TRUE;
     const int nRow = FindRow(pAtom);
     if (nRow < 0)
         return TRUE;
 
     RemoveRow(nRow);
-    SetItemCount(static_cast<int>(pContainer->GetCount()));
+    const UINT nCount = pContainer->GetCount();
+    if (!IsShown(pContainer)) // whoever heard of it has had something else shown
+        return TRUE;
+    SetItemCount(static_cast<int>(nCount));
     ClearSelection();
-    SelectRow(std::min(nRow, GetItemCount() - 1));
+    if (IsShown(pContainer))
+        SelectRow(std::min(nRow, GetItemCount() - 1));
     return TRUE;
+}
+
+// True when the members are just being read, and so will be once more.
+bool CObjectsList::NoteWhileLoading()
+{
+    m_bMembersChanged |= m_bLoading;
+    return m_bLoading;
 }
 
 void CObjectsList::ReloadContainer(IAtomContainer* pContainer)
@@ -50,7 +67,7 @@ void CObjectsList::ReloadContainer(IAtomContainer* pContainer)
     const views::UpdateLock lock(this);
     const auto pEditor = EditorToTell();
     OnAtomEntered(pContainer, nullptr);
-    if (pEditor)
+    if (pEditor && m_hWnd)
         pEditor->NotifyHandlers(this, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);
 }
 
@@ -62,6 +79,7 @@ void CObjectsList::RemoveRow(int nItem)
     const auto pRow = m_atoms.begin() + nItem;
     const CStubRef<IAtom> pRemoved = std::move(*pRow); // its end may come back here: the row is gone by then
     m_atoms.erase(pRow);
+    ++m_nRowMoves;
     if (nItem < m_nOrdered)
         --m_nOrdered;
     if (nItem <= m_nEdited)
@@ -73,9 +91,9 @@ BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (!pAtom)
         return TRUE;
-    const int nRow = FindCachedRow(pAtom);
-    DoubtOrder(pAtom, nRow); // also when nothing else is done: rows must be found afterwards
-    if (!m_bSync || nRow < 0)
+    DoubtOrder(pAtom, FindCachedRow(pAtom)); // also when nothing else is done: rows must be found afterwards
+    const int nRow = IsListening() ? FindCachedRow(pAtom) : -1;
+    if (nRow < 0)
         return TRUE;
     UncacheRow(nRow);
     m_pCache->Remove(nRow);
@@ -85,7 +103,7 @@ BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 
 BOOL CObjectsList::OnAtomRename(IAtom*, IAtomContainer*)
 {
-    if (!m_bSync)
+    if (!IsListening())
         return FALSE;
     const int nFocused = GetNextItem(-1, LVNI_FOCUSED);
     return nFocused >= 0 && EditLabel(nFocused) != nullptr;
@@ -104,12 +122,12 @@ BOOL CObjectsList::OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount)
         *pCount = nCount;
         return FALSE;
     }
-    for (int nRow = -1; (nRow = GetNextItem(nRow, LVNI_SELECTED)) >= 0;) {
+    // What a slot gives back may end there, and have more rows selected than there is room for.
+    OBJPAIR* const pEnd = pairs + *pCount;
+    for (int nRow = -1; pairs != pEnd && (nRow = GetNextItem(nRow, LVNI_SELECTED)) >= 0;) {
         HELDPAIR pair = HoldPair(nRow);
-        if (!pair)
-            continue;
-        pair.MoveTo(*pairs);
-        ++pairs;
+        if (pair)
+            pair.MoveTo(*pairs++);
     }
     return TRUE;
 }

@@ -1,12 +1,11 @@
 // Renaming in the list view: the label of a row is edited in place.
+#include "Toolkit/base/Exception.h"
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
 #include "Views/list/ObjectsList.h"
 
-// Whoever is asked may have moved or removed the row: then there is nothing to edit. What is edited is the atom's own
-// name, whatever the label shows in its place: a name that the user leaves as it is stays as it is.
+// Whoever is asked may have moved or removed the row: then there is nothing to edit.
 void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     *pResult = -1;
@@ -16,16 +15,16 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
         return;
     if (!m_bPassive && !Notify(pEditor.Get(), &IAEStateHandler::PreRenameAtom, pair))
         return;
-    const OBJPAIR* pNow = PairAt(pInfo->item.iItem);
-    if (!pNow || pNow->pAtom != pair.pAtom.Get())
-        return;
     try {
-        if (views::ReadName(pair.pAtom.Get(), &IAtom::GetName, m_strEdited))
-            pInfo->item.pszText = const_cast<LPSTR>(m_strEdited.GetString()); // read, never written
+        if (const LPSTR pszName = m_editedName.Begin(pair.pAtom.Get()))
+            pInfo->item.pszText = pszName;
     } catch (CMemoryException& e) {
         e.ReportError();
         return;
     }
+    const OBJPAIR* pNow = PairAt(pInfo->item.iItem);
+    if (!pNow || pNow->pAtom != pair.pAtom.Get())
+        return;
     m_nEdited = pInfo->item.iItem;
     *pResult = 0;
 }
@@ -34,12 +33,8 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 void CObjectsList::OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     m_nEdited = -1;
-    *pResult = -1;
     const HELDPAIR pair = HoldPair(pInfo->item.iItem);
-    if (!pair || !pInfo->item.pszText)
-        return;
-    if (RenameObject(pair.pAtom.Get(), pair.pContainer.Get(), pInfo->item.pszText))
-        *pResult = 0;
+    *pResult = m_editedName.End(pair.pAtom.Get(), pair.pContainer.Get(), pInfo->item.pszText) ? 0 : -1;
 }
 
 // The control knows rows by their numbers alone: it is told where the edited one is, so that the name that is being

@@ -29,17 +29,32 @@ void CObjectsList::OnBeginDrag(NMHDR*, LRESULT* pResult)
     *pResult = pEditor ? 0 : -1;
 }
 
-// The focus comes before the click, which is dropped when the focus is refused.
+// The focus comes before the click, which is dropped when the focus is refused; and then so is the press that would
+// make a double click of it.
 void CObjectsList::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    if (TakeFocus())
+    m_bPressDropped = !TakeFocus();
+    if (!m_bPressDropped)
         CListCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CObjectsList::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    if (TakeFocus())
+    m_bPressDropped = !TakeFocus();
+    if (!m_bPressDropped)
         CListCtrl::OnRButtonDown(nFlags, point);
+}
+
+void CObjectsList::OnLButtonDblClk(UINT nFlags, CPoint point)
+{
+    if (!m_bPressDropped && TakeFocus())
+        CListCtrl::OnLButtonDblClk(nFlags, point);
+}
+
+void CObjectsList::OnRButtonDblClk(UINT nFlags, CPoint point)
+{
+    if (!m_bPressDropped && TakeFocus())
+        CListCtrl::OnRButtonDblClk(nFlags, point);
 }
 
 void CObjectsList::OnLButtonUp(UINT nFlags, CPoint point)
@@ -54,7 +69,7 @@ void CObjectsList::OnRButtonUp(UINT nFlags, CPoint point)
 
 bool CObjectsList::TakeFocus()
 {
-    if (::GetFocus() != m_hWnd)
+    if (!HasFocus())
         SetFocus();
-    return ::GetFocus() == m_hWnd;
+    return HasFocus();
 }

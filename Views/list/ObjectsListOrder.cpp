@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <ranges>
 
 namespace
 {
@@ -38,18 +39,32 @@ int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
     }
 }
 
+struct NAMES
+{
+    CString strA, strB;
+};
+
+// The names read last are taken along: whoever is asked for a name may have other atoms compared.
+int CompareAtoms(IAtom* a, IAtom* b, NAMES& last)
+{
+    NAMES names = std::move(last);
+    const int nOrder = CompareAtoms(a, b, names.strA, names.strB);
+    last = std::move(names);
+    return nOrder;
+}
+
 } // namespace
 
 int CObjectsList::CompareFunc(const void* p1, const void* p2)
 {
-    static CString s_strName1, s_strName2;
-    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_strName1, s_strName2);
+    static NAMES s_last;
+    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_last);
 }
 
 int CObjectsList::CompareFunc1(const void* p1, const void* p2)
 {
-    static CString s_strName1, s_strName2;
-    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_strName1, s_strName2) > 0 ? 1 : 0;
+    static NAMES s_last;
+    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_last) > 0 ? 1 : 0;
 }
 
 // An owner-data control has nothing to sort; the order is made when members are loaded.
@@ -58,25 +73,39 @@ void CObjectsList::UpdateIndexes()
     PostMessage(LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareFunc));
 }
 
-// In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
-// for names that have changed without a word.
+// Whoever is asked for a name may have moved the rows. Then the atom's own row is meant, and nobody is asked again.
 int CObjectsList::FindRow(IAtom* pAtom)
 {
+    const unsigned nRowMoves = m_nRowMoves;
     SettleDoubts();
-    const auto compare = [pAtom](const CStubRef<IAtom>& pRow) { return CompareFunc(&pRow, &pAtom); };
-    const auto isSame = [&](const CStubRef<IAtom>& pRow) { return pRow && compare(pRow) == 0; };
-    const auto isBefore = [&](const CStubRef<IAtom>& pRow) { return compare(pRow) < 0; };
+    const int nRow = FindEqualRow(pAtom);
+    if (nRowMoves == m_nRowMoves)
+        return nRow;
+    const auto found = std::ranges::find(m_atoms, pAtom, &CStubRef<IAtom>::Get);
+    return found == m_atoms.end() ? -1 : static_cast<int>(found - m_atoms.begin());
+}
 
-    const auto orderedEnd = m_atoms.begin() + m_nOrdered;
-    auto found = std::partition_point(m_atoms.begin(), orderedEnd, isBefore);
-    if (found == orderedEnd || !isSame(*found))
-        found = std::find_if(orderedEnd, m_atoms.end(), isSame);
-    if (found == m_atoms.end()) {
-        found = std::find_if(m_atoms.begin(), orderedEnd, isSame);
-        if (found == orderedEnd)
-            return -1;
-    }
-    return static_cast<int>(found - m_atoms.begin());
+// In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
+// for names that have changed without a word.
+int CObjectsList::FindEqualRow(IAtom* pAtom) const
+{
+    const auto compare = [pAtom](const CStubRef<IAtom>& pRow) { return CompareFunc(&pRow, &pAtom); };
+    const auto isBefore = [&](int nRow) { return compare(HoldAtom(nRow)) < 0; };
+    const auto isSame = [&](int nRow) {
+        const CStubRef<IAtom> pRow = HoldAtom(nRow);
+        return pRow && compare(pRow) == 0;
+    };
+    const int nOrdered = m_nOrdered;
+    const auto ordered = std::views::iota(0, nOrdered);
+    const auto others = std::views::iota(nOrdered, static_cast<int>(m_atoms.size()));
+
+    const auto halved = std::ranges::partition_point(ordered, isBefore);
+    if (halved != ordered.end() && isSame(*halved))
+        return *halved;
+    if (const auto found = std::ranges::find_if(others, isSame); found != others.end())
+        return *found;
+    const auto found = std::ranges::find_if(ordered, isSame);
+    return found != ordered.end() ? *found : -1;
 }
 
 // A new name may put its row out of order. The row of an atom that is out of sight is looked for when that matters, and
@@ -108,9 +137,11 @@ void CObjectsList::CheckOrder(int nRow)
 {
     if (nRow >= m_nOrdered)
         return;
-    const auto row = m_atoms.begin() + nRow;
-    const bool bAfterFormer = nRow == 0 || CompareFunc(&row[-1], &row[0]) <= 0;
-    const bool bBeforeNext = nRow + 1 == m_nOrdered || CompareFunc(&row[0], &row[1]) <= 0;
+    const auto pFormer = HoldAtom(nRow - 1);
+    const auto pRow = HoldAtom(nRow);
+    const auto pNext = nRow + 1 < m_nOrdered ? HoldAtom(nRow + 1) : nullptr;
+    const bool bAfterFormer = !pFormer || CompareFunc(&pFormer, &pRow) <= 0;
+    const bool bBeforeNext = !pNext || CompareFunc(&pRow, &pNext) <= 0;
     if (!bAfterFormer || !bBeforeNext)
-        m_nOrdered = nRow;
+        m_nOrdered = std::min(m_nOrdered, nRow);
 }

@@ -69,7 +69,7 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!pair)
         return;
     const views::SyncPause pause(m_bSync);
-    if (::GetFocus() == m_hWnd) // else the change mirrors another view's, which has told everyone
+    if (HasFocus()) // else the change mirrors another view's, which has told everyone
         Notify(pEditor.Get(), operation, pair);
 }
 
@@ -87,7 +87,7 @@ BOOL CObjectsList::OnAtomDeselected(IAtom* pAtom, IAtomContainer* pContainer)
 
 void CObjectsList::MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected)
 {
-    if (!m_bSync)
+    if (!IsListening())
         return;
     const views::SyncPause pause(m_bSync);
     if (!pAtom) {
@@ -140,25 +140,32 @@ void CObjectsList::SelectRow(int nItem)
 
 void CObjectsList::OnSetFocus(CWnd* pOldWnd)
 {
+    m_bFocusLost = false;
     const FocusBlock block;
     if (FocusBlock::IsInFocusBlock()) {
         PostButtonUp();
         CListCtrl::OnSetFocus(pOldWnd);
         return;
     }
-    if (!m_bPassive) {
-        const BOOL bFromSelChange = m_bFocusFromSelChange;
-        if (!views::OfferSave()) {
-            if (pOldWnd)
-                pOldWnd->SetFocus();
-            m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
-            return;
-        }
-        AnnounceSelection();
-    }
+    if (!m_bPassive && !WelcomesFocus(pOldWnd))
+        return;
     m_bFocusFromSelChange = FALSE;
-    m_bHasFocus = TRUE;
+    m_bHasFocus = !m_bFocusLost;
     CListCtrl::OnSetFocus(pOldWnd);
+}
+
+// False when it was refused, and given back. Whoever is asked may destroy the window that had it, or move it on.
+bool CObjectsList::WelcomesFocus(CWnd* pOldWnd)
+{
+    const HWND hOldWnd = pOldWnd ? pOldWnd->m_hWnd : nullptr;
+    if (!views::OfferSave()) {
+        if (hOldWnd)
+            ::SetFocus(hOldWnd);
+        return false;
+    }
+    if (!m_bFocusLost)
+        AnnounceSelection();
+    return true;
 }
 
 // The view that has the focus is the one whose selection counts. Nothing to tell when the selection was made from
@@ -180,6 +187,7 @@ void CObjectsList::OnKillFocus(CWnd* pNewWnd)
     CListCtrl::OnKillFocus(pNewWnd);
     m_bFocusFromSelChange = FALSE;
     m_bHasFocus = FALSE;
+    m_bFocusLost = true;
     PostButtonUp();
 }
 

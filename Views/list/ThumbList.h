@@ -70,6 +70,7 @@ private:
 
     bool PaintPicture(HDC hdc, DrawFn fn, void* context, BOOL bContainer) const;
     UINT StoreImage(UINT nIndex, HBITMAP hPicture);
+    IAtom* AtomIn(int nItem) const; // borrowed; NULL when there is none
     void StartTimer();
     void ClearAnimation();
 

@@ -16,14 +16,18 @@ void CThumbList::OnMouseMove(UINT, CPoint point)
     const int nItem = HitTest(point);
     if (nItem < 0 || nItem >= GetItemCount() || m_animations.contains(nItem))
         return;
-    const auto* const pPair = reinterpret_cast<const OBJPAIR*>(GetItemData(nItem));
-    if (!pPair)
-        return;
-    auto pThumb = CStubRef<IAtomThumbnail>::From(pPair->pAtom);
-    if (!pThumb || pThumb->GetFrameCount() <= 1)
+    const auto pAtom = CStubRef<IAtom>::Share(AtomIn(nItem));
+    auto pThumb = CStubRef<IAtomThumbnail>::From(pAtom.Get());
+    if (!pThumb || pThumb->GetFrameCount() <= 1 || AtomIn(nItem) != pAtom.Get())
         return;
     m_animations.emplace(nItem, ANIMDATA{0, std::move(pThumb)});
     StartTimer();
+}
+
+IAtom* CThumbList::AtomIn(int nItem) const
+{
+    const auto* const pPair = reinterpret_cast<const OBJPAIR*>(GetItemData(nItem));
+    return pPair ? pPair->pAtom : nullptr;
 }
 
 void CThumbList::OnTimer(UINT_PTR) {}

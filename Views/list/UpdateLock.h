@@ -11,17 +11,21 @@ namespace views
 class UpdateLock
 {
 public:
-    explicit UpdateLock(const CWnd* pWnd) : m_bLocked(pWnd && ::LockWindowUpdate(pWnd->GetSafeHwnd())) {}
+    explicit UpdateLock(const CWnd* pWnd) : m_hWnd(pWnd ? pWnd->GetSafeHwnd() : nullptr)
+    {
+        if (m_hWnd && !::LockWindowUpdate(m_hWnd))
+            m_hWnd = nullptr;
+    }
     ~UpdateLock()
     {
-        if (m_bLocked)
+        if (::IsWindow(m_hWnd)) // one that is gone has taken the lock along
             ::LockWindowUpdate(nullptr);
     }
     UpdateLock(const UpdateLock&) = delete;
     UpdateLock& operator=(const UpdateLock&) = delete;
 
 private:
-    const bool m_bLocked;
+    HWND m_hWnd; // NULL: nothing is held back
 };
 
 } // namespace views

@@ -131,6 +131,33 @@ int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
     return nImage;
 }
 
+void RestlessAtom::Do(int nth, std::function<void()> fn)
+{
+    m_nUntil = nth;
+    deed = std::move(fn);
+}
+
+void RestlessAtom::Stir()
+{
+    if (deed && --m_nUntil == 0)
+        std::exchange(deed, nullptr)();
+}
+
+BOOL RestlessAtom::GetName(char* pBuffer, DWORD* pLength)
+{
+    const BOOL bRead = FakeAtom::GetName(pBuffer, pLength);
+    if (pBuffer)
+        Stir();
+    return bRead;
+}
+
+int RestlessAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
+{
+    const int nImage = FakeAtom::AddToImageList(hImageList, nReplace);
+    Stir();
+    return nImage;
+}
+
 FakeAtom* FakeContainer::Add(FakeAtom* pNew)
 {
     pNew->parent = this;
@@ -284,8 +311,11 @@ BOOL FakeEditor::ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra)
 DWORD FakeEditor::RegisterHandler(HWND, IAEStateHandler* handler)
 {
     ledger.push_back(handlerNames[handler] + " registers");
-    m_handlers[++m_nLastCookie] = handler;
-    return m_nLastCookie;
+    const DWORD nCookie = ++m_nLastCookie;
+    m_handlers[nCookie] = handler;
+    if (onJoin)
+        onJoin();
+    return nCookie;
 }
 
 void FakeEditor::UnregisterHandler(DWORD cookie)
@@ -318,6 +348,8 @@ void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
 {
     const bool bHasIcon = GetIconSize(icon) == CSize(16, 16);
     ledger.push_back(Words("pane ", kind, " \"", caption, "\"", bHasIcon ? " with icon" : ""));
+    if (onJoin)
+        onJoin();
 }
 
 void FakeEditor::RemovePane(DWORD kind, HWND)

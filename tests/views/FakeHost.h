@@ -71,6 +71,23 @@ protected:
 
 using AtomRef = CStubRef<FakeAtom>;
 
+// An atom that does something else while it says its name or gives its picture.
+class RestlessAtom : public FakeAtom
+{
+public:
+    using FakeAtom::FakeAtom;
+
+    std::function<void()> deed; // none once it is done
+
+    void Do(int nth, std::function<void()> fn); // when it is asked for the nth time from now on
+    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
+
+private:
+    void Stir();
+    int m_nUntil = 0;
+};
+
 // A container, and a phase when it is told so. What it is asked to do with members is written down, in words: "box
 // removes b".
 class FakeContainer : public FakeAtom, public IAtomContainer, public IPhase
@@ -140,6 +157,8 @@ public:
     std::string menu; // the only item of its context menu, with the command 7; none without a text
     bool skipsSender = false;
     std::function<void(AEStateOperation, IAtom*)> onNotify; // runs before the handlers are called
+
+    std::function<void()> onJoin; // runs when a handler has registered or a pane is added
 
     void AddRef() override { ++m_nReferences; }
     void Release() override { --m_nReferences; }

@@ -119,9 +119,13 @@ TEST_F(ListSelectionTest, ARefusedSaveSendsTheFocusBackAndDropsTheClick)
         EXPECT_TRUE(HasFocus(field));
         EXPECT_EQ("[a *b c]", list.State());
         EXPECT_EQ(kSave, editor.TakeLedger());
+        desktop.Press(list.m_hWnd, PointOf(list, 2), button); // a double click
+        desktop.Release(list.m_hWnd, PointOf(list, 2), button);
+        EXPECT_EQ("[a *b c]", list.State());
+        EXPECT_EQ(Ledger(), editor.TakeLedger());
     }
     editor.Allow();
-    EXPECT_EQ(kSave, TakeFocus(list)); // the refused attempts have changed nothing: the selection comes from outside
+    EXPECT_EQ(Ledger({kSave[0], kTold[0], kTold[1]}), TakeFocus(list)); // an ordinary one again
 }
 
 // An icon list that writes down what it posts to itself.
