@@ -1,10 +1,8 @@
 // The tree view's life, from Create to its window's end.
 #include "Views/tree/ObjectsTree.h"
 
-#include "Toolkit/base/Exception.h"
-#include "Toolkit/graphics/Resources.h"
+#include "Views/host/AddPane.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/IconHolder.h"
 #include "Views/host/Services.h"
 #include "Views/tree/TreeDropTarget.h"
 
@@ -43,6 +41,8 @@ BEGIN_MESSAGE_MAP(CObjectsTree, CTreeCtrl)
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONDBLCLK()
     ON_WM_LBUTTONUP()
     ON_WM_RBUTTONUP()
     ON_WM_KEYDOWN()
@@ -84,12 +84,9 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
     m_bClosing = false;
     m_bHasFocus = m_bFocusFromSelChange = FALSE;
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (pEditor && !m_bPassive)
-        ShowPane(pEditor.Get());
     m_nOpenImage = m_nDefaultImage = -1;
-    if (pEditor)
-        m_dwHandlerCookie = pEditor->RegisterHandler(m_hWnd, this);
+    if (!JoinEditor(m_hWnd))
+        return -1;
     m_pDropTarget->Register(this);
     m_iconSlots.Clear();
     m_images.Create(kImages, kImageWidth, kImagesToGrow, kTransparent);
@@ -99,26 +96,22 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
     return 0;
 }
 
-void CObjectsTree::ShowPane(IAtomEditor* pEditor)
+// False when the window went while the editor was told of it.
+bool CObjectsTree::JoinEditor(HWND hWnd)
 {
-    views::IconHolder hIcon;
-    try {
-        hIcon.reset(::LoadIcon(kPaneIcon));
-        CString strCaption;
-        strCaption.LoadString(kPaneCaption);
-        pEditor->AddPane(kPaneKind, m_hWnd, strCaption, hIcon.get());
-    } catch (CMemoryException& e) {
-        e.ReportError();
-        pEditor->AddPane(kPaneKind, m_hWnd, kFallbackCaption, hIcon.get());
-    }
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pEditor)
+        return true;
+    if (!m_bPassive)
+        views::AddPane(pEditor.Get(), kPaneKind, hWnd, kPaneCaption, kPaneIcon, kFallbackCaption);
+    return ::IsWindow(hWnd) && m_registration.Begin(pEditor.Get(), hWnd, this);
 }
 
 // An item that OnDeleteAtom refuses goes without it. One that an outer call is removing just now is passed by.
 void CObjectsTree::OnDestroy()
 {
     m_bClosing = true;
-    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
-        pEditor->UnregisterHandler(m_dwHandlerCookie);
+    m_registration.End();
     SelectItem(nullptr); // or it would move on with each item that goes
 
     HTREEITEM hPassed = nullptr;

@@ -3,6 +3,8 @@
 
 #include "Toolkit/controls/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
+#include "Views/clipboard/EditedName.h"
+#include "Views/host/HandlerRegistration.h"
 #include "Views/host/HeldPair.h"
 #include "Views/host/StateHandler.h"
 #include "Views/tree/TreeIconSlots.h"
@@ -13,7 +15,6 @@
 #include <vector>
 
 class CTreeDropTarget;
-class IAtomEditor;
 class IAtomIcon;
 
 // One item for each atom announced; an announced container's members become items below it at once, and theirs below
@@ -119,6 +120,8 @@ protected:
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
@@ -138,7 +141,7 @@ private:
     // regard to case.
     static int MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
-    void ShowPane(IAtomEditor* pEditor);
+    bool JoinEditor(HWND hWnd);
 
     bool IsItem(HTREEITEM hItem) const;            // false for one that is gone
     TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
@@ -182,10 +185,13 @@ private:
     int m_nOpenImage = -1;    // for an expanded item with children
     int m_nDefaultImage = -1; // for any other atom without an icon
     CString m_strLabel;       // the label asked for last; the control reads it there until it asks again
-    DWORD m_dwHandlerCookie = 0;
+    views::EditedName m_editedName;
+    views::HandlerRegistration m_registration;
     const BOOL m_bPassive;
     BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
     BOOL m_bFocusFromSelChange = FALSE; // the selection is changing, or has changed, without the focus
+    bool m_bFocusLost = false;          // since the last OnSetFocus began
+    bool m_bPressDropped = false;       // the last press, whose focus was refused
     const std::unique_ptr<CTreeDropTarget> m_pDropTarget;
     bool m_bOnDemand = false; // members become items only when they are asked for
     bool m_bClosing = false;  // the window is being destroyed: nothing new is shown

@@ -27,21 +27,36 @@ void CObjectsTree::OnBeginDrag(NMTREEVIEW*, LRESULT* pResult)
         views::DragActiveAtoms(pEditor.Get());
 }
 
-// The focus comes before the click, which is dropped when the focus is refused.
+// The focus comes before the click, which is dropped when the focus is refused; and then so is the press that would
+// make a double click of it.
 void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    if (TakeFocus())
+    m_bPressDropped = !TakeFocus();
+    if (!m_bPressDropped)
         CTreeCtrl::OnLButtonDown(nFlags, point);
+}
+
+void CObjectsTree::OnLButtonDblClk(UINT nFlags, CPoint point)
+{
+    if (!m_bPressDropped && TakeFocus())
+        CTreeCtrl::OnLButtonDblClk(nFlags, point);
+}
+
+void CObjectsTree::OnRButtonDblClk(UINT nFlags, CPoint point)
+{
+    if (!m_bPressDropped && TakeFocus())
+        CTreeCtrl::OnRButtonDblClk(nFlags, point);
 }
 
 // A tree that has the focus selects what the button is pressed on; the control is not asked.
 void CObjectsTree::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    if (::GetFocus() != m_hWnd) {
-        if (TakeFocus())
-            CTreeCtrl::OnRButtonDown(nFlags, point);
+    const bool bFocused = ::GetFocus() == m_hWnd;
+    m_bPressDropped = !TakeFocus();
+    if (m_bPressDropped)
         return;
-    }
+    if (!bFocused)
+        return CTreeCtrl::OnRButtonDown(nFlags, point);
     UINT nPart = 0;
     const HTREEITEM hItem = HitTest(point, &nPart);
     if (!hItem || !(nPart & TVHT_ONITEM))

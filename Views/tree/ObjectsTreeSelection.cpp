@@ -44,6 +44,7 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
     if (IsWithin(pChange->itemNew.hItem, pChange->itemOld.hItem))
         m_iconSlots.ItemsHidden(); // it may have been collapsed: that is told only when this has been told
     if (!m_bPassive && !MayChangeSelection(*pChange)) {
+        m_bFocusFromSelChange = FALSE; // there is no change that the focus could come with
         *pResult = -1;
         return;
     }
@@ -69,6 +70,7 @@ BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
     if (!m_bPassive)
         Notify(&IAEStateHandler::OnAtomDeselected, pChange->itemOld.hItem);
     GoOnSelected(pChange->itemNew.hItem);
+    m_bFocusFromSelChange = FALSE; // the change is over; a refused focus may have left it set
     *pResult = 0;
     return FALSE; // the parent window hears of it, too
 }
@@ -90,12 +92,13 @@ void CObjectsTree::GoOnSelected(HTREEITEM hItem)
 
 void CObjectsTree::OnSetFocus(CWnd* pOldWnd)
 {
+    m_bFocusLost = false;
     const FocusBlock block;
     if (!FocusBlock::IsInFocusBlock()) {
         if (!m_bPassive && !WelcomesFocus(pOldWnd))
             return;
         m_bFocusFromSelChange = FALSE;
-        m_bHasFocus = TRUE;
+        m_bHasFocus = !m_bFocusLost; // whoever was asked may have moved it on
     }
     CTreeCtrl::OnSetFocus(pOldWnd);
 }
@@ -128,6 +131,7 @@ bool CObjectsTree::AnnounceSelection()
 void CObjectsTree::OnKillFocus(CWnd* pNewWnd)
 {
     CTreeCtrl::OnKillFocus(pNewWnd);
+    m_bFocusLost = true;
     m_bHasFocus = FALSE;
     m_bFocusFromSelChange = FALSE;
 }

@@ -245,13 +245,13 @@ TEST_F(DragTest, ADragEndsCleanlyWhateverIsDestroyedUnderIt)
 {
     // The view that it came from: what it dragged is moved all the same.
     DragRow(0, [&] {
-        list.reset();
+        list->DestroyWindow();
         desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
         desktop.Release(tree->m_hWnd, ItemPoint(pBag));
     });
     EXPECT_EQ("b c / d a", Members(pBox) + " / " + Members(pBag));
     DragItem(pBag, [&] {
-        tree.reset();
+        tree->DestroyWindow();
         desktop.Release(frame.m_hWnd, {5, 5});
     });
 
@@ -264,15 +264,15 @@ TEST_F(DragTest, ADragEndsCleanlyWhateverIsDestroyedUnderIt)
             desktop.MoveTo(tree->m_hWnd, at);
             desktop.MoveTo(tree->m_hWnd, at + CPoint(1, 0));
             if (!*pszCall)
-                tree.reset();
+                tree->DestroyWindow();
             pBag->onCall = [&](const std::string& strCall) {
                 if (strCall == pszCall)
-                    tree.reset();
+                    tree->DestroyWindow();
             };
             desktop.Release(frame.m_hWnd, {400 + at.x + 3, at.y + 3});
         });
         pBag->onCall = nullptr;
-        EXPECT_FALSE(tree) << pszCall;
+        EXPECT_FALSE(tree->m_hWnd) << pszCall;
         EXPECT_FALSE(desktop.IsDragging());
     }
 

@@ -129,6 +129,26 @@ TEST_F(LabelEditTest, ANameGoesToTheAtomItWasMeantForHoweverRowsMove)
     EXPECT_EQ("0 x / d", Members(pBox) + " / " + Members(pBag));
 }
 
+TEST_F(LabelEditTest, WhatIsTypedIsTakenThoughTheNameHasChangedMeanwhileAndAFieldLeftAsItIsUndoesNothing)
+{
+    world->permissions = APF_RENAME;
+    for (const char* pszTyped : {"", "x"}) {
+        list->SetRootAtom(pBox); // it follows the tree
+        ASSERT_TRUE(EditRow(1));
+        FakeAtom* const pAtom = pBox->members[1].Get();
+        pAtom->name += "!";
+        list->OnChangeAtom(pAtom, pBox);
+        EXPECT_EQ(*pszTyped ? 1 : 0, std::ranges::count(Enter(pszTyped), "box renames b!! to x"));
+        EXPECT_EQ(*pszTyped ? "a c x" : "a b! c", Members(pBox));
+
+        ASSERT_TRUE(EditItem(pBag));
+        pBag->name += "!";
+        tree->OnChangeAtom(pBag, world.Get());
+        Enter(pszTyped);
+        EXPECT_EQ(*pszTyped ? "box x" : "box bag!", Members(world.Get()));
+    }
+}
+
 // The focus leaves the field then, which takes the name as it does everywhere.
 TEST_F(LabelEditTest, AViewThatGoesTakesItsFieldAlong)
 {
@@ -155,7 +175,7 @@ TEST_F(LabelEditTest, ASlowSecondClickEditsAndTheViewMayGoMeanwhile)
     desktop.Type("x");
     pBox->onCall = [&](const std::string& strCall) {
         if (strCall == "renames a to x")
-            list.reset();
+            list->DestroyWindow();
     };
     desktop.Key(VK_RETURN);
     pBox->onCall = nullptr;

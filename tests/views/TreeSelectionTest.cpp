@@ -190,4 +190,23 @@ TEST_F(TreeSelectionTest, TheSelectedAtomIsGivenWithReferencesAloneOrAsTheOneAct
     CStubRef<IAtom>::Adopt(pair.pAtom).Release();
 }
 
+TEST_F(TreeSelectionTest,
+       AFocusRefusedToAChangeOfTheSelectionIsOrdinaryAtTheNextClickAndADroppedPressMakesNoDoubleClick)
+{
+    ProbeTree& tree = ShowUnfocusedTree();
+    editor.Veto(&IAEStateHandler::PreSaveAtom);
+    tree.OnAtomEntered(b, box);
+    EXPECT_EQ(kBSelected, tree.State());
+    editor.TakeLedger();
+    desktop.DoubleClick(tree.m_hWnd, tree.PointOf(box));
+    EXPECT_EQ(kSave, editor.TakeLedger());
+    EXPECT_EQ(kBSelected, tree.State());
+    EXPECT_TRUE(tree.GetItemState(tree.GetItem(box), TVIS_EXPANDED));
+
+    editor.Allow();
+    Click(tree, b);
+    EXPECT_EQ(kSave + Ledger({"tree asks OnAtomSelecting(b in box)", "tree tells OnAtomSelected(b in box)"}),
+              editor.TakeLedger());
+}
+
 } // namespace
