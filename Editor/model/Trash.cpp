@@ -49,34 +49,48 @@ std::string DataHome()
     return home.empty() ? home : home + "/.local/share";
 }
 
-bool IsSameDevice(const std::string& a, dev_t device)
+bool IsSameDevice(const std::string& path, dev_t device)
 {
     struct stat status;
-    return lstat(a.c_str(), &status) == 0 && status.st_dev == device;
+    return lstat(path.c_str(), &status) != 0 || status.st_dev == device; // what goes wrong is met again there
 }
 
-bool IsOwnFolder(const std::string& path)
+// The folder, made when it is not there yet. The error number; ENOTDIR where something else than a folder of the
+// user's own bears the name.
+int MakeFolder(const std::string& path)
 {
+    if (mkdir(path.c_str(), 0700) == 0)
+        return 0;
+    if (errno != EEXIST)
+        return errno;
     struct stat status;
-    return lstat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == geteuid();
+    if (lstat(path.c_str(), &status) != 0)
+        return errno;
+    return S_ISDIR(status.st_mode) && status.st_uid == geteuid() ? 0 : ENOTDIR;
 }
 
-bool MakeFolders(const std::string& path)
-{
-    std::error_code ignored;
-    fs::create_directories(fs::path(path).parent_path(), ignored);
-    for (const std::string& folder : {path, path + "/files", path + "/info"})
-        if ((mkdir(folder.c_str(), 0700) != 0 && errno != EEXIST) || !IsOwnFolder(folder))
-            return false;
-    return true;
-}
-
-std::string TopOf(const std::string& folder, dev_t device)
+// Empty, or why the topmost folder of the file system cannot be told.
+std::string FindTop(const std::string& folder, dev_t device, std::string& found)
 {
     fs::path top = folder;
-    while (top.has_relative_path() && IsSameDevice(top.parent_path().string(), device))
-        top = top.parent_path();
-    return top.string();
+    for (; top.has_relative_path(); top = top.parent_path()) {
+        struct stat status;
+        if (lstat(top.parent_path().c_str(), &status) != 0)
+            return SystemErrorText(errno);
+        if (status.st_dev != device)
+            break;
+    }
+    found = top.string();
+    return {};
+}
+
+// Is it on that file system, or will it be once it is made?
+bool WillBeOn(fs::path path, dev_t device)
+{
+    struct stat status;
+    while (stat(path.c_str(), &status) != 0 && path.has_relative_path())
+        path = path.parent_path();
+    return status.st_dev == device;
 }
 
 // The folder for all users counts only when it is a real one, in which nobody can touch what is another's.
@@ -89,17 +103,39 @@ std::string SharedTrash(const std::string& top)
     return path + '/' + std::to_string(geteuid());
 }
 
-// Where a trash for what lies in the folder may be, the best first.
-std::vector<Trash> TrashesFor(const std::string& folder, dev_t device)
+// Where a trash for what lies on the device may be, the best first.
+std::vector<Trash> TrashesFor(const std::string& top, dev_t device)
 {
     std::vector<Trash> trashes;
-    if (const std::string home = DataHome(); !home.empty())
+    if (const std::string home = DataHome(); !home.empty() && WillBeOn(home, device))
         trashes.push_back({home + "/Trash", {}});
-    const std::string top = TopOf(folder, device);
     if (const std::string shared = SharedTrash(top); !shared.empty())
         trashes.push_back({shared, top});
     trashes.push_back({fs::path(top) / (".Trash-" + std::to_string(geteuid())), top});
     return trashes;
+}
+
+// What may be at the top of a file system need not be: not where users may make nothing there, where no folders can be
+// made, and where something else bears the name.
+bool CannotHaveTrash(const std::string& top, int error)
+{
+    const bool bForbidden = error == EACCES || error == EROFS;
+    return error == ENOTDIR || error == EPERM || error == EOPNOTSUPP ||
+           (bForbidden && eaccess(top.c_str(), W_OK | X_OK) != 0);
+}
+
+// The error number; `bNone`: this trash is not there, and none is missed.
+int MakeTrash(const Trash& trash, bool& bNone)
+{
+    std::error_code error;
+    if (trash.below.empty())
+        fs::create_directories(fs::path(trash.path).parent_path(), error);
+    int failure = error ? error.value() : MakeFolder(trash.path);
+    bNone = failure != 0 && !trash.below.empty() && CannotHaveTrash(trash.below, failure);
+    for (const char* const pszPart : {"/files", "/info"})
+        if (failure == 0)
+            failure = MakeFolder(trash.path + pszPart);
+    return failure;
 }
 
 std::string PercentEncoded(std::string_view path)
@@ -169,7 +205,8 @@ int PutUnderFreeName(const Trash& trash, const std::string& path)
 
 } // namespace
 
-// A trash belongs to the file system that the file is on, whatever links lead to its folder.
+// A trash belongs to the file system that the file is on, whatever links lead to its folder. Where one cannot be made,
+// the next one serves; but a disk that is full or broken has a trash all the same.
 TrashResult MoveToTrash(const std::string& path)
 {
     std::error_code missing;
@@ -178,13 +215,22 @@ TrashResult MoveToTrash(const std::string& path)
     if (missing || stat(folder.c_str(), &status) != 0)
         return {SystemErrorText(missing ? missing.value() : errno), false};
     const std::string real = (fs::path(folder) / fs::path(path).filename()).string();
-    for (const Trash& trash : TrashesFor(folder, status.st_dev)) {
-        if (!MakeFolders(trash.path) || !IsSameDevice(trash.path, status.st_dev))
+    std::string top;
+    if (std::string trouble = FindTop(folder, status.st_dev, top); !trouble.empty())
+        return {std::move(trouble), false};
+    int failure = 0; // of the first that is missed
+    for (const Trash& trash : TrashesFor(top, status.st_dev)) {
+        bool bNone = false;
+        if (const int error = MakeTrash(trash, bNone); error != 0) {
+            failure = failure == 0 && !bNone ? error : failure;
             continue;
-        const int error = PutUnderFreeName(trash, real);
+        }
+        const int error = IsSameDevice(trash.path, status.st_dev) ? PutUnderFreeName(trash, real) : EXDEV;
         if (error != EXDEV) // one file system mounted twice counts as two
             return {error == 0 ? std::string() : SystemErrorText(error), false};
     }
+    if (failure != 0)
+        return {"not removed, the trash cannot be made: " + SystemErrorText(failure), false};
     return {"not removed, there is no trash on its file system", true};
 }
 

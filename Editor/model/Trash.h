@@ -9,7 +9,8 @@ namespace editor
 // Moves a file or folder (a link itself, not what it leads to) to the trash of its file system: the user's own
 // ($XDG_DATA_HOME/Trash) when it lies there, else the one at the top of the file system (.Trash/UID or .Trash-UID).
 // Nothing is ever copied. Empty when it is there. Else nothing has changed, `reason` tells why, and `isNoTrash`
-// whether it is only that this file system has no trash that could be used.
+// whether it is only that this file system has no trash, and none can be on it for this user: a trash that cannot be
+// made because the disk is full or broken, or the user's home is protected, is missed.
 struct TrashResult
 {
     std::string reason;
