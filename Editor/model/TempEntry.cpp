@@ -8,9 +8,8 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <new>
+#include <optional>
 #include <sys/file.h>
 #include <sys/random.h>
 #include <sys/stat.h>
@@ -30,24 +29,32 @@ std::string Hexadecimal(std::uint64_t number)
     return hex;
 }
 
-// How all names begin that are made on this machine.
+// Which machine this is; nothing, and errno tells why, when that cannot be read. Not every system has a number.
+std::optional<std::string> Machine()
+{
+    char number[64];
+    const FileHandle file(open("/etc/machine-id", O_RDONLY | O_CLOEXEC));
+    const ssize_t size = file ? read(file.Get(), number, sizeof number) : 0;
+    if (size < 0 || (!file && errno != ENOENT))
+        return std::nullopt;
+    utsname system{};
+    return std::string(number, static_cast<std::size_t>(size)) + (uname(&system) == 0 ? system.nodename : "");
+}
+
+// How all names begin that are made on this machine; empty when that cannot be told, and errno says why.
 const std::string& Beginning()
 {
-    static const std::string s_beginning = [] {
-        std::ifstream file("/etc/machine-id");
-        std::string machine{std::istreambuf_iterator<char>(file), {}};
-        utsname system{};
-        if (uname(&system) == 0)
-            machine += system.nodename;
-        return std::string(kBeginning) + Hexadecimal(Checksum(machine)) + '-';
-    }();
+    static std::string s_beginning;
+    if (s_beginning.empty())
+        if (const auto machine = Machine())
+            s_beginning = std::string(kBeginning) + Hexadecimal(Checksum(*machine)) + '-';
     return s_beginning;
 }
 
 std::string SecretName()
 {
     std::uint64_t random = 0;
-    if (getrandom(&random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
+    if (Beginning().empty() || getrandom(&random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
         return {};
     return Beginning() + Hexadecimal(random);
 }
@@ -68,10 +75,11 @@ bool IsOwn(int nFolder, const std::string& name)
 
 // A lock that is refused (somebody has locked the folder for purposes of their own) is done without: should the entry
 // be taken for a leftover, putting it into its place fails, and nothing half-done comes of it.
-TempEntry::TempEntry(const std::string& folder)
-    : m_folder(folder), m_fd(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)), m_name(SecretName())
+TempEntry::TempEntry(const std::string& folder) : m_folder(folder), m_name(SecretName())
 {
-    if (!m_fd || m_name.empty())
+    if (!m_name.empty())
+        m_fd = FileHandle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_fd)
         m_error = errno;
     else
         flock(m_fd.Get(), LOCK_SH | LOCK_NB);
@@ -89,7 +97,12 @@ try {
 
 bool TempEntry::IsOne(std::string_view name)
 {
-    return name.starts_with(kBeginning);
+    constexpr std::size_t kDigits = 16;
+    if (!name.starts_with(kBeginning) || name.size() != kBeginning.size() + 2 * kDigits + 1)
+        return false;
+    name.remove_prefix(kBeginning.size());
+    return name[kDigits] == '-' && name.find_first_not_of("0123456789abcdef-") == name.npos &&
+           name.find('-') == name.rfind('-');
 }
 
 int TempEntry::PutAt(const std::string& name)
@@ -150,7 +163,7 @@ int RemoveForGood(const std::string& folder, const std::string& name)
 void RemoveLeftOvers(const std::string& folder, const std::vector<std::string>& seen)
 {
     const FileHandle handle(seen.empty() ? -1 : open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!handle || !IsNobodyAtWork(handle.Get()))
+    if (!handle || Beginning().empty() || !IsNobodyAtWork(handle.Get()))
         return;
     for (const std::string& name : seen)
         if (name.starts_with(Beginning()) && IsOwn(handle.Get(), name))
