@@ -44,8 +44,12 @@ bool WriteWhole(const CString& strPath, const void* pData, DWORD dwLength)
 {
     views::FileHandle file(::CreateFile(strPath, GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                                         FILE_ATTRIBUTE_TEMPORARY | FILE_ATTRIBUTE_NORMAL, nullptr));
-    if (!file)
+    if (!file) {
+        const DWORD dwError = ::GetLastError();
+        ::DeleteFile(strPath); // made, and of no use: nobody else can have a file of that name
+        ::SetLastError(dwError);
         return false;
+    }
     DWORD dwWritten = 0;
     ::WriteFile(file.Get(), pData, dwLength, &dwWritten, nullptr);
     file.Close();
