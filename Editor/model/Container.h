@@ -37,7 +37,9 @@ public:
     // The line that tells why the member with that identifier could not be removed, until another one is tried: also
     // after changes that succeeded. Empty for one that was not tried.
     std::string WhyItStayed(DWORD dwID) const { return m_stayed.first == dwID ? m_stayed.second : std::string(); }
-    // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason.
+    // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason. For
+    // what was read from an archive the container's IMyErrorInfo tells why it is refused, where there is more to be
+    // said than that the container does not take such objects.
     DWORD GetPermissions(IAtom* pAtom) override;
     BOOL ValidateName(CString& strName, DWORD dwReserved) override;
 
@@ -65,7 +67,7 @@ protected:
         MemberKind kind = MemberKind::Picture;
     };
     virtual DWORD MemberPermissions() const = 0;
-    virtual DWORD PermissionsFor(const ArchiveRecord& record) = 0;
+    virtual DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) = 0;
     virtual std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) = 0;
     virtual std::string Rename(const CMember& member, const std::string& name, Entry& renamed) = 0;
     virtual std::string Remove(const CMember& member) = 0;

@@ -56,8 +56,10 @@ BOOL CContainer::RemoveAtom(IAtom* pAtom)
 
 DWORD CContainer::GetPermissions(IAtom* pAtom)
 {
-    if (const CArchivedAtom* const pArchived = CArchivedAtom::Of(pAtom))
-        return PermissionsFor(pArchived->Record());
+    if (const CArchivedAtom* const pArchived = CArchivedAtom::Of(pAtom)) {
+        m_failure.clear();
+        return PermissionsFor(pArchived->Record(), m_failure);
+    }
     return IsPresent(CMember::Of(pAtom)) ? MemberPermissions() : 0;
 }
 
@@ -75,7 +77,8 @@ BOOL CContainer::ValidateName(CString& strName, DWORD)
 std::string CContainer::TroubleOfMove(const ArchiveRecord& record, std::string_view name)
 {
     const bool bCopied = std::exchange(m_validName, {}) == name;
-    if (bCopied || PermissionsFor(record) != APF_ACCEPTCOPY)
+    std::string trouble;
+    if (bCopied || PermissionsFor(record, trouble) != APF_ACCEPTCOPY)
         return {};
     return ToShown(name) + ": can only be copied there, not moved";
 }

@@ -1,8 +1,10 @@
 #include "Editor/model/FileText.h"
 
+#include "Toolkit/base/LastError.h"
 #include "Toolkit/base/Text.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <system_error>
 
 namespace editor
@@ -55,6 +57,26 @@ std::string SystemErrorText(int error)
     if (!text.empty())
         text[0] = ToLower(text[0]);
     return text;
+}
+
+std::string LastErrorText()
+{
+    constexpr std::pair<DWORD, int> kKnown[] = {
+        {ERROR_SUCCESS, 0},
+        {ERROR_FILE_NOT_FOUND, ENOENT},
+        {ERROR_PATH_NOT_FOUND, ENOENT},
+        {ERROR_ACCESS_DENIED, EACCES},
+        {ERROR_TOO_MANY_OPEN_FILES, EMFILE},
+        {ERROR_NOT_ENOUGH_MEMORY, ENOMEM},
+        {ERROR_DISK_FULL, ENOSPC},
+        {ERROR_FILE_TOO_LARGE, EFBIG},
+        {ERROR_SHARING_VIOLATION, EBUSY},
+        {ERROR_FILE_EXISTS, EEXIST},
+    };
+    const auto known = std::find_if(std::begin(kKnown), std::end(kKnown),
+                                    [error = GetLastError()](const auto& one) { return one.first == error; });
+    const int error = known == std::end(kKnown) ? EIO : known->second;
+    return error == 0 ? std::string() : SystemErrorText(error);
 }
 
 std::string ExtensionOf(std::string_view name)

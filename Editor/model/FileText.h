@@ -13,6 +13,8 @@ bool IsShownAsItIs(std::string_view text); // is there nothing of that kind in i
 
 // What an error number of the system means, beginning in lower case: "permission denied".
 std::string SystemErrorText(int error);
+// The same for the error of the last call to the toolkit that failed; empty without one.
+std::string LastErrorText();
 
 // The part behind the last dot, in lower case as far as ASCII goes; empty without one.
 std::string ExtensionOf(std::string_view name);

@@ -65,12 +65,16 @@ std::string FormerFolder(const std::string& root, std::string_view origin)
 
 } // namespace
 
-DWORD CFolder::PermissionsFor(const ArchiveRecord& record)
+DWORD CFolder::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
 {
     MemberKind kind;
-    const std::string path = Path();
-    if (!CanShow(record, record.name, kind) || eaccess(path.c_str(), W_OK | X_OK) != 0)
+    if (!CanShow(record, record.name, kind))
         return 0;
+    const std::string path = Path();
+    if (eaccess(path.c_str(), W_OK | X_OK) != 0) {
+        trouble = FailureOf(Name(), SystemErrorText(errno));
+        return 0;
+    }
     const bool isOwnHolder = record.kind == RecordKind::Folder && HoldsOrIs(record.identity, path);
     return isOwnHolder ? APF_ACCEPTCOPY : APF_ACCEPT | APF_ACCEPTCOPY;
 }
@@ -89,7 +93,9 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, E
     std::string text;
     if (added.kind == MemberKind::Phase && !record.origin.empty() && IsPhaseText(record.content)) {
         const std::string& root = Context().rootPath;
-        text = Relocated(record.content, FormerFolder(root, record.origin), path, root);
+        text = record.content;
+        if (std::string trouble = Relocate(text, FormerFolder(root, record.origin), path, root); !trouble.empty())
+            return FailureOf(name, trouble);
         adapted.content = text;
     }
     const bool bCurrent = m_taken.IsCurrent(path);

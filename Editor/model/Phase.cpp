@@ -8,6 +8,8 @@
 #include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
+#include <algorithm>
+#include <cerrno>
 #include <filesystem>
 #include <utility>
 
@@ -100,19 +102,20 @@ toolkit::Surface CPhase::DrawIcon(CSize size)
     return PaintPictogram(Pictogram::Phase, size);
 }
 
-DWORD CPhase::PermissionsFor(const ArchiveRecord& record)
+DWORD CPhase::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
 {
-    if (LineOf(record).empty())
+    if (LineOf(record, trouble).empty())
         return 0;
     return record.kind == RecordKind::Link ? APF_ACCEPT | APF_ACCEPTCOPY : APF_ACCEPTCOPY;
 }
 
 std::string CPhase::Add(const ArchiveRecord& record, const std::string& name, Entry& added)
 {
-    added = {LineOf(record), MemberKind::Link};
+    std::string trouble, text;
+    added = {LineOf(record, trouble), MemberKind::Link};
     if (added.name.empty())
-        return ToShown(name) + ": only pictures of the same library can be put into a phase";
-    std::string text;
+        return trouble.empty() ? ToShown(name) + ": only pictures of the same library can be put into a phase"
+                               : trouble;
     std::string reason = ReadUnchanged(text);
     return !reason.empty() ? ShownName() + ": " + reason : Save(WithLine(std::move(text), added.name));
 }
@@ -124,28 +127,92 @@ std::string CPhase::Rename(const CMember& member, const std::string&, Entry&)
 
 std::string CPhase::Remove(const CMember& member)
 {
+    const auto gone = std::find_if(m_going.begin(), m_going.end(), [&](const Going& g) { return g.pLink == &member; });
+    if (gone != m_going.end()) {
+        gone->bRemoved = true;
+        return {};
+    }
     std::string text;
     if (const std::string reason = ReadUnchanged(text); !reason.empty())
         return ShownName() + ": " + reason;
-    const auto nLine = static_cast<std::size_t>(static_cast<const CImageLink&>(member).Position());
-    const PictureLine line = PictureLines(text)[nLine];
-    return Save(text.erase(line.at, line.size));
+    std::vector<Going> going = LinesToGo(member, text);
+    std::string failure = Save(Without(text, going));
+    if (failure.empty() && going.size() > 1) {
+        for (Going& one : going)
+            one.bRemoved = one.pLink == &member;
+        m_going = std::move(going);
+        m_formerText = std::move(text);
+    }
+    return failure;
 }
 
-// The line for what a record holds: empty unless it is a picture of this very library that is still there.
-std::string CPhase::LineOf(const ArchiveRecord& record) const
+std::vector<CPhase::Going> CPhase::LinesToGo(const CMember& first, std::string_view text)
+{
+    std::vector<const CMember*> links = std::exchange(m_expected, {});
+    if (std::find(links.begin(), links.end(), &first) == links.end())
+        links = {&first};
+    const std::vector<PictureLine> lines = PictureLines(text);
+    std::vector<Going> going;
+    for (const CMember* const pLink : links) {
+        if (const int nLine = static_cast<const CImageLink*>(pLink)->Position(); nLine >= 0) {
+            const PictureLine& line = lines[static_cast<std::size_t>(nLine)];
+            going.push_back({pLink, line.at, line.size, true});
+        }
+    }
+    std::sort(going.begin(), going.end(), [](const Going& a, const Going& b) { return a.at < b.at; });
+    return going;
+}
+
+std::string CPhase::Without(std::string_view text, const std::vector<Going>& going)
+{
+    std::string left;
+    std::size_t done = 0;
+    for (const Going& line : going) {
+        if (!line.bRemoved)
+            continue;
+        left.append(text, done, line.at - done);
+        done = line.at + line.size;
+    }
+    return left.append(text, done, text.npos);
+}
+
+void CPhase::EndRemovals()
+{
+    m_expected.clear();
+    BringBack();
+    m_formerText.clear();
+}
+
+std::string CPhase::BringBack()
+{
+    const std::vector<Going> going = std::exchange(m_going, {});
+    const bool bAll = std::all_of(going.begin(), going.end(), [](const Going& line) { return line.bRemoved; });
+    return bAll ? std::string() : Save(Without(m_formerText, going));
+}
+
+// The line for what a record holds: empty unless it is a picture of this very library that is still there. `trouble`
+// becomes the reason when that cannot be told.
+std::string CPhase::LineOf(const ArchiveRecord& record, std::string& trouble) const
 {
     const std::string path = Context().rootPath + '/' + std::string(record.origin);
     const bool isPicture =
         record.kind == RecordKind::Link || (record.kind == RecordKind::File && KindOfName(path) == MemberKind::Picture);
-    if (record.origin.empty() || !isPicture || !IsFile(path, record.identity))
+    if (record.origin.empty() || !isPicture)
         return {};
-    return LineFor(path, Container()->Path(), Context().rootPath);
+    errno = 0;
+    const bool bThere = IsFile(path, record.identity);
+    int error = bThere ? 0 : errno;
+    const std::string line = bThere ? LineFor(path, Container()->Path(), Context().rootPath, error) : std::string();
+    if (error != 0)
+        trouble = ToShown(record.name) + ": " + SystemErrorText(error);
+    return line;
 }
 
 // What stands in the file between its lines is not to be lost, and what another program wrote there neither.
 std::string CPhase::ReadUnchanged(std::string& text)
 {
+    if (!BringBack().empty())
+        return "lines that were to stay cannot be written";
     const MemberTable& table = Table();
     std::string reason = ReadPhaseText(Path(), text);
     if (!reason.empty())

@@ -25,6 +25,11 @@ public:
 
     std::string_view LineOf(const CMember& link) const { return CContainer::NameOf(link); }
 
+    // Links that are about to be removed, one after the other: their lines leave the file together, with the first of
+    // them. Lines whose links were not removed by the end come back. The links are borrowed until then.
+    void BeginRemovals(std::vector<const CMember*> links) { m_expected = std::move(links); }
+    void EndRemovals();
+
     int GetPosition(IImageLink* pLink) override; // from 0; -1 for what is no member
 
     PhaseTiming GetTiming() const; // as it was set or, failing that, as the file says; the usual one without a file
@@ -40,7 +45,7 @@ protected:
     toolkit::Surface DrawIcon(CSize size) override;
 
     DWORD MemberPermissions() const override { return APF_REMOVE; }
-    DWORD PermissionsFor(const ArchiveRecord& record) override; // for a picture, a copy only: it becomes a line
+    DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) override; // a picture becomes a line
     std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) override;
     std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
     std::string Remove(const CMember& member) override;
@@ -49,12 +54,25 @@ protected:
 private:
     PhaseTiming SavedTiming() const;
     void KeepTiming(std::optional<PhaseTiming> timing);
-    std::string LineOf(const ArchiveRecord& record) const;
+    std::string LineOf(const ArchiveRecord& record, std::string& trouble) const;
     std::string ReadUnchanged(std::string& text);
     std::string Save(const std::string& text);
+    struct Going
+    {
+        const CMember* pLink;
+        std::size_t at, size;  // its line, in the text as it was
+        bool bRemoved = false; // not the line alone
+    };
+    static std::string Without(std::string_view text, const std::vector<Going>& going); // the lines removed
+    std::vector<Going> LinesToGo(const CMember& first, std::string_view text);
+    std::string BringBack();
 
     std::optional<PhaseTiming> m_timing;              // set, and not saved
     mutable std::optional<PhaseTiming> m_savedTiming; // as last read
+
+    std::vector<const CMember*> m_expected; // links to be removed
+    std::vector<Going> m_going;             // whose lines have gone together, in their order
+    std::string m_formerText;               // with these lines
 };
 
 } // namespace editor

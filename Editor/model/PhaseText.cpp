@@ -30,6 +30,11 @@ bool IsInside(const std::string& path, const std::string& root)
     return path.size() > root.size() && path.starts_with(root) && (root.ends_with('/') || path[root.size()] == '/');
 }
 
+bool LeadsNowhere(int error)
+{
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+}
+
 // As a line that is read back as just this path; empty when there is none.
 std::string Written(std::string line)
 {
@@ -88,39 +93,51 @@ PicturePlace FindPicture(std::string_view picture, const std::string& folder, co
             continue;
         if (access(path.c_str(), F_OK) == 0)
             return {path, true};
+        if (!LeadsNowhere(errno))
+            return {path, false, errno};
         if (missed.path.empty())
             missed.path = path;
     }
     return missed;
 }
 
-std::string LineFor(const std::string& path, const std::string& folder, const std::string& root)
+std::string LineFor(const std::string& path, const std::string& folder, const std::string& root, int& error)
 {
+    error = 0;
     if (!IsInside(path, root))
         return {};
-    const std::string fromRoot = Written(fs::path(path).lexically_relative(root));
-    if (!IsInside(path, folder) && FindPicture(fromRoot, folder, root).path == path)
-        return fromRoot;
+    if (!IsInside(path, folder)) {
+        const std::string fromRoot = Written(fs::path(path).lexically_relative(root));
+        const PicturePlace found = FindPicture(fromRoot, folder, root);
+        error = found.error;
+        if (found.path == path || error != 0)
+            return error == 0 ? fromRoot : std::string();
+    }
     return Written(fs::path(path).lexically_relative(folder));
 }
 
-std::string Relocated(std::string_view text, const std::string& formerFolder, const std::string& folder,
-                      const std::string& root)
+std::string Relocate(std::string& text, const std::string& formerFolder, const std::string& folder,
+                     const std::string& root)
 {
     std::string moved;
     std::size_t done = 0;
     for (const PictureLine& line : PictureLines(text)) {
-        if (FindPicture(line.picture, folder, root).isThere)
+        const PicturePlace there = FindPicture(line.picture, folder, root);
+        if (there.isThere)
             continue;
-        const PicturePlace former = FindPicture(line.picture, formerFolder, root);
-        const std::string now = former.isThere ? LineFor(former.path, folder, root) : std::string();
+        const PicturePlace former = there.error ? there : FindPicture(line.picture, formerFolder, root);
+        int error = former.error;
+        const std::string now = former.isThere ? LineFor(former.path, folder, root, error) : std::string();
+        if (error != 0)
+            return ToShown(line.picture) + ": " + SystemErrorText(error);
         if (now.empty())
             continue;
         const auto at = static_cast<std::size_t>(line.picture.data() - text.data());
         moved.append(text, done, at - done).append(now);
         done = at + line.picture.size();
     }
-    return moved.append(text, done, text.npos);
+    text = moved.append(text, done, text.npos);
+    return {};
 }
 
 std::string WithLine(std::string text, std::string_view line)

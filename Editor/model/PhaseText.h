@@ -29,17 +29,20 @@ struct PicturePlace
 {
     std::string path;
     bool isThere = false;
+    int error = 0; // why that cannot be told
 };
 PicturePlace FindPicture(std::string_view picture, const std::string& folder, const std::string& root);
 
 // What names the picture at `path` in a phase in `folder`: the shortest way that leads there. Empty when no line can
-// name it: it lies outside the library, or its name holds the end of a line.
-std::string LineFor(const std::string& path, const std::string& folder, const std::string& root);
+// name it: it lies outside the library, or its name holds the end of a line; or, with an error number, when nobody can
+// tell what a line would lead to.
+std::string LineFor(const std::string& path, const std::string& folder, const std::string& root, int& error);
 
-// The text of a phase that comes to `folder` from `formerFolder`, in the same library. Lines that lead to no
-// picture any more are rewritten to lead to where they led to; all else stays byte for byte.
-std::string Relocated(std::string_view text, const std::string& formerFolder, const std::string& folder,
-                      const std::string& root);
+// The text is that of a phase that comes to `folder` from `formerFolder`, in the same library. Lines that lead to no
+// picture any more are rewritten to lead to where they led to; all else stays byte for byte. Empty when it is done;
+// else the picture and the reason why nobody can tell where a line leads to.
+std::string Relocate(std::string& text, const std::string& formerFolder, const std::string& folder,
+                     const std::string& root);
 
 // With the line behind the last one; the text ends as its lines do.
 std::string WithLine(std::string text, std::string_view line);

@@ -1,6 +1,7 @@
 // The objects that a command acts on, held for as long as it takes.
 #pragma once
 
+#include "Editor/model/Phase.h"
 #include "Views/host/host.h"
 
 #include <string>
@@ -19,6 +20,19 @@ struct ActiveMember
 using ActiveMembers = std::vector<ActiveMember>;
 
 ActiveMembers GetActiveMembers(IAtomEditor& editor);
+
+// While it lives, lines of a phase that are removed with the others are removed together: the phase is written once.
+class JointRemoval
+{
+public:
+    explicit JointRemoval(const ActiveMembers& members);
+    ~JointRemoval();
+    JointRemoval(const JointRemoval&) = delete;
+    JointRemoval& operator=(const JointRemoval&) = delete;
+
+private:
+    std::vector<CStubRef<CPhase>> m_phases;
+};
 
 std::string ShownNameOf(IAtom* pAtom);
 // What the container says went wrong last, in one line.

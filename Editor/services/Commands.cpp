@@ -1,5 +1,6 @@
 #include "Editor/services/Commands.h"
 
+#include "Editor/model/FileText.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Toolkit/base/Exception.h"
@@ -15,6 +16,7 @@ namespace
 {
 
 constexpr const char* kNothingSelected = "nothing is selected";
+constexpr const char* kNoFile = "no file can be made for it";
 
 // Hears which objects come into a container.
 class Arrivals final : public CStateHandler
@@ -42,6 +44,13 @@ private:
     const DWORD m_dwCookie;
 };
 
+// Objects travel in a file of their own, which the library makes and reads.
+std::string NoFile(const char* pszTrouble)
+{
+    const std::string why = LastErrorText();
+    return why.empty() ? pszTrouble : pszTrouble + (": " + why);
+}
+
 CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
 {
     COleDataObject data;
@@ -51,12 +60,14 @@ CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
         return nullptr;
     }
     CStubRef<IArchive> pArchive;
+    ::SetLastError(ERROR_SUCCESS);
     if (data.GetData(cfAtoms, &medium)) {
         pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
         ReleaseStgMedium(&medium);
     }
     if (!pArchive)
-        trouble = "what was copied is not there any more";
+        trouble = ::GetLastError() == ERROR_FILE_NOT_FOUND ? "what was copied is not there any more"
+                                                           : NoFile("what was copied cannot be read");
     return pArchive;
 }
 
@@ -86,9 +97,10 @@ std::string Commands::Copy()
 try {
     if (CountSelected() == 0)
         return kNothingSelected;
+    ::SetLastError(ERROR_SUCCESS);
     if (CopyObjects(FALSE))
         return {};
-    return m_editor.GetArchiveError().empty() ? "no file can be made for it" : m_editor.GetArchiveError();
+    return m_editor.GetArchiveError().empty() ? NoFile(kNoFile) : m_editor.GetArchiveError();
 } catch (const CMemoryException& e) {
     return e.GetErrorMessage();
 }
@@ -98,12 +110,14 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
+    const JointRemoval joint(members);
+    ::SetLastError(ERROR_SUCCESS);
     if (CopyObjects(TRUE))
         return {};
     if (!m_editor.GetArchiveError().empty())
         return m_editor.GetArchiveError();
     std::string reason = WhyStillThere(members);
-    return reason.empty() ? "no file can be made for it" : reason;
+    return reason.empty() ? NoFile(kNoFile) : reason;
 } catch (const CMemoryException& e) {
     return e.GetErrorMessage();
 }
@@ -113,6 +127,7 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
+    const JointRemoval joint(members);
     RemoveObjects(FALSE);
     return WhyStillThere(members);
 } catch (const CMemoryException& e) {
@@ -138,7 +153,7 @@ std::string Commands::PasteAtoms(CContainer* pTarget)
         return trouble;
     if (CheckPaste(pArchive.Get(), pTarget, FALSE) == PASTE_REFUSED) {
         trouble = m_editor.GetArchiveError();
-        return trouble.empty() ? pTarget->ShownName() + ": it does not take these objects" : trouble;
+        return trouble.empty() ? ErrorOf(pTarget, pTarget->ShownName() + ": it does not take these objects") : trouble;
     }
     const bool bRead = PasteObjects(pArchive.Get(), pTarget, FALSE) != FALSE;
     trouble = m_editor.GetArchiveError();

@@ -1,0 +1,214 @@
+#include "tests/support/FailingDisk.h"
+
+#include <cerrno>
+#include <climits>
+#include <cstdarg>
+#include <dirent.h>
+#include <dlfcn.h>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+constexpr FailOperation::Operation kLook{nullptr, false, false, false};
+constexpr FailOperation::Operation kChange{nullptr, true, false, false};
+constexpr FailOperation::Operation kGrow{nullptr, true, true, false};
+constexpr FailOperation::Operation kWrite{nullptr, true, true, true};
+
+thread_local bool t_bCounting = false;
+int g_nFailing = 0; // the operation that fails; 0: none
+DiskFault g_fault;
+bool g_bFull = false;
+std::vector<FailOperation::Operation> g_seen;
+std::string g_ownSystem; // empty: none
+
+// The error number that this operation fails with; 0: it does not.
+int ErrorOf(const char* pszName, FailOperation::Operation operation)
+{
+    if (!t_bCounting)
+        return 0;
+    t_bCounting = false; // what follows is no operation of the program's
+    operation.pszName = pszName;
+    g_seen.push_back(operation);
+    t_bCounting = true;
+    const bool bNow = static_cast<int>(g_seen.size()) == g_nFailing;
+    if (bNow && g_fault == DiskFault::Death && !operation.bWrites)
+        _exit(kDiskDeath);
+    if (bNow && g_fault == DiskFault::Full)
+        g_bFull = true;
+    if (g_bFull && (bNow || operation.bGrows))
+        return ENOSPC;
+    if (!bNow)
+        return 0;
+    return g_fault == DiskFault::Forbidden ? EACCES : g_fault == DiskFault::InputOutput ? EIO : 0;
+}
+
+template <class Function>
+Function* Real(const char* pszName)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, pszName));
+}
+
+template <class Result>
+Result Failed(Result failure, int error)
+{
+    errno = error;
+    return failure;
+}
+
+template <class Function, class... Arguments>
+auto Do(const char* pszName, FailOperation::Operation operation, Arguments... arguments)
+{
+    static Function* const pReal = Real<Function>(pszName);
+    using Result = decltype(pReal(arguments...));
+    if (const int error = ErrorOf(pszName, operation); error != 0) {
+        if constexpr (std::is_pointer_v<Result>)
+            return Failed(Result(), error);
+        else
+            return Failed(static_cast<Result>(-1), error);
+    }
+    return pReal(arguments...);
+}
+
+FailOperation::Operation Opening(int flags)
+{
+    return flags & O_CREAT ? kGrow : kLook;
+}
+
+bool IsOnOwnSystem(int nFolder, const char* pszPath)
+{
+    if (g_ownSystem.empty())
+        return false;
+    std::string path = pszPath;
+    if (!path.starts_with('/') && nFolder != AT_FDCWD) {
+        char folder[PATH_MAX];
+        const ssize_t size = readlink(("/proc/self/fd/" + std::to_string(nFolder)).c_str(), folder, sizeof folder);
+        path = std::string(folder, size < 0 ? 0 : static_cast<std::size_t>(size)) + '/' + path;
+    }
+    return path.starts_with(g_ownSystem) && (path.size() == g_ownSystem.size() || path[g_ownSystem.size()] == '/');
+}
+
+int Placed(int result, int nFolder, const char* pszPath, struct stat* pStatus)
+{
+    if (result == 0 && IsOnOwnSystem(nFolder, pszPath))
+        pStatus->st_dev += 1'000'000;
+    return result;
+}
+
+} // namespace
+
+FailOperation::FailOperation(int nth, DiskFault fault)
+{
+    g_nFailing = nth;
+    g_fault = fault;
+    g_bFull = false;
+    g_seen.clear();
+    t_bCounting = true;
+}
+
+FailOperation::~FailOperation()
+{
+    t_bCounting = false;
+}
+
+const std::vector<FailOperation::Operation>& FailOperation::Seen()
+{
+    return g_seen;
+}
+
+// A disk that is full does not hinder reading, and dying there is like dying before the next change.
+bool FailOperation::CanHappen(const Operation& operation, DiskFault fault)
+{
+    return fault == DiskFault::HalfWritten                         ? operation.bWrites
+           : fault == DiskFault::Full || fault == DiskFault::Death ? operation.bChanges
+                                                                   : true;
+}
+
+OwnFileSystem::OwnFileSystem(std::string path)
+{
+    g_ownSystem = std::move(path);
+}
+
+OwnFileSystem::~OwnFileSystem()
+{
+    g_ownSystem.clear();
+}
+
+#pragma GCC visibility push(default) // for the libraries that the program loads
+// clang-format off
+extern "C" {
+
+int open(const char* path, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return Do<int(const char*, int, ...)>("open", Opening(flags), path, flags, mode);
+}
+int openat(int folder, const char* path, int flags, ...)
+{
+    va_list more;
+    va_start(more, flags);
+    const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
+    va_end(more);
+    return Do<int(int, const char*, int, ...)>("openat", Opening(flags), folder, path, flags, mode);
+}
+ssize_t read(int fd, void* p, size_t size) { return Do<decltype(read)>("read", kLook, fd, p, size); }
+ssize_t write(int fd, const void* p, size_t size)
+{
+    const bool bCounted = t_bCounting;
+    if (const int error = ErrorOf("write", kWrite); error != 0)
+        return Failed<ssize_t>(-1, error);
+    static auto* const pReal = Real<decltype(write)>("write");
+    if (!bCounted || static_cast<int>(g_seen.size()) != g_nFailing || size < 2)
+        return pReal(fd, p, size);
+    const ssize_t done = pReal(fd, p, size / 2);
+    if (g_fault == DiskFault::Death)
+        _exit(kDiskDeath);
+    g_bFull = true;
+    return done;
+}
+int close(int fd)
+{
+    static auto* const pReal = Real<decltype(close)>("close");
+    const bool bWriting = t_bCounting && (fcntl(fd, F_GETFL) & O_ACCMODE) != O_RDONLY;
+    const int error = bWriting ? ErrorOf("close", kChange) : 0;
+    const int result = pReal(fd); // in any case: the system does, too
+    return error != 0 ? Failed(-1, error) : result;
+}
+int fsync(int fd) { return Do<decltype(fsync)>("fsync", kChange, fd); }
+int ftruncate(int fd, off_t size) noexcept { return Do<decltype(ftruncate)>("ftruncate", kChange, fd, size); }
+int fchmod(int fd, mode_t mode) noexcept { return Do<decltype(fchmod)>("fchmod", kChange, fd, mode); }
+int futimens(int fd, const timespec* t) noexcept { return Do<int(int, const timespec*)>("futimens", kChange, fd, t); }
+int flock(int fd, int how) noexcept { return Do<decltype(flock)>("flock", kLook, fd, how); }
+int mkdir(const char* path, mode_t mode) noexcept { return Do<decltype(mkdir)>("mkdir", kGrow, path, mode); }
+int mkdirat(int f, const char* path, mode_t mode) noexcept { return Do<decltype(mkdirat)>("mkdirat", kGrow, f, path, mode); }
+int unlink(const char* path) noexcept { return Do<int(const char*)>("unlink", kChange, path); }
+int unlinkat(int f, const char* path, int how) noexcept { return Do<int(int, const char*, int)>("unlinkat", kChange, f, path, how); }
+int symlinkat(const char* to, int f, const char* path) noexcept { return Do<int(const char*, int, const char*)>("symlinkat", kGrow, to, f, path); }
+ssize_t readlinkat(int f, const char* path, char* p, size_t size) noexcept { return Do<ssize_t(int, const char*, char*, size_t)>("readlinkat", kLook, f, path, p, size); }
+int linkat(int f, const char* a, int g, const char* b, int how) noexcept { return Do<int(int, const char*, int, const char*, int)>("linkat", kGrow, f, a, g, b, how); }
+int renameat(int f, const char* a, int g, const char* b) noexcept { return Do<int(int, const char*, int, const char*)>("renameat", kChange, f, a, g, b); }
+int renameat2(int f, const char* a, int g, const char* b, unsigned how) noexcept
+{
+    if (IsOnOwnSystem(f, a) != IsOnOwnSystem(g, b))
+        return Failed(-1, EXDEV);
+    return Do<int(int, const char*, int, const char*, unsigned)>("renameat2", kChange, f, a, g, b, how);
+}
+int access(const char* path, int how) noexcept { return Do<int(const char*, int)>("access", kLook, path, how); }
+int eaccess(const char* path, int how) noexcept { return Do<int(const char*, int)>("eaccess", kLook, path, how); }
+char* realpath(const char* path, char* p) noexcept { return Do<char*(const char*, char*)>("realpath", kLook, path, p); }
+int stat(const char* path, struct stat* p) noexcept { return Placed(Do<int(const char*, struct stat*)>("stat", kLook, path, p), AT_FDCWD, path, p); }
+int lstat(const char* path, struct stat* p) noexcept { return Placed(Do<int(const char*, struct stat*)>("lstat", kLook, path, p), AT_FDCWD, path, p); }
+int fstat(int fd, struct stat* p) noexcept { return Placed(Do<int(int, struct stat*)>("fstat", kLook, fd, p), fd, "", p); }
+int fstatat(int f, const char* path, struct stat* p, int how) noexcept { return Placed(Do<int(int, const char*, struct stat*, int)>("fstatat", kLook, f, path, p, how), f, path, p); }
+DIR* fdopendir(int fd) { return Do<DIR*(int)>("fdopendir", kLook, fd); }
+dirent* readdir(DIR* p) { return Do<dirent*(DIR*)>("readdir", kLook, p); }
+
+} // extern "C"
+// clang-format on
+#pragma GCC visibility pop
