@@ -2,6 +2,7 @@
 
 #include "Editor/frame/MainFrame.h"
 #include "Editor/model/FileText.h"
+#include "Editor/model/Trash.h"
 #include "Editor/script/Words.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@ const Script::Command Script::kCommands[] = {
     {"open", 1, 1, &Script::Open},        {"enter", 1, 1, &Script::Enter},
     {"select", 0, kAny, &Script::Select}, {"copy", 0, 0, &Script::Copy},
     {"cut", 0, 0, &Script::Cut},          {"paste", 0, 0, &Script::Paste},
-    {"delete", 0, 0, &Script::Delete},    {"rename", 2, 2, &Script::Rename},
+    {"delete", 0, 2, &Script::Delete},    {"rename", 2, 2, &Script::Rename},
     {"view", 1, 1, &Script::View},        {"list", 0, 0, &Script::List},
     {"refresh", 0, 0, &Script::Refresh},  {"screenshot", 1, 1, &Script::TakeScreenshot},
 };
@@ -35,6 +36,7 @@ std::string ScriptHelp()
            "                     .. leads up\n"
            "  select [NAME...]   select these objects and no others; * selects all, and nothing at all none\n"
            "  copy, cut, delete  the selected objects; nothing is asked\n"
+           "  delete for good    the same; what no trash can take is removed, and not refused\n"
            "  paste              what was copied or cut, into what is shown\n"
            "  rename NAME NEW    give an object another name\n"
            "  refresh            read what is shown anew\n"
@@ -177,8 +179,13 @@ std::string Script::Paste(const Words&)
     return Frame().Paste();
 }
 
-std::string Script::Delete(const Words&)
+std::string Script::Delete(const Words& words)
 {
+    if (words.empty())
+        return Frame().Remove();
+    if (words != Words{"for", "good"})
+        return "nothing or \"for good\" stands behind it";
+    const PermanentRemoval agreed;
     return Frame().Remove();
 }
 

@@ -3,6 +3,9 @@
 
 #include "Editor/script/Words.h"
 #include "tests/editor/EditorFixture.h"
+#include "tests/support/FailingDisk.h"
+
+#include <unistd.h>
 
 namespace
 {
@@ -53,6 +56,16 @@ TEST_F(ScriptTest, CommandsActLikeTheUsersOwn)
     EXPECT_EQ("/Bo/ | [(*one.bmp) c.bmp] | 2 objects, 1 selected | one.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(Ledger({"c.bmp", "new.bmp"}), Run("delete\nlist\nopen \"" + folder.Path() + "\"\n" +
                                                 "enter Bo/c.bmp\nenter ..\nselect c.bmp\nrename c.bmp new.bmp\nlist"));
+    const std::string noTrash = ".Trash-" + std::to_string(geteuid());
+    folder.Link(noTrash, "/tmp");
+    {
+        const OwnFileSystem disk(folder.Path());
+        EXPECT_EQ(Ledger({"! test.txt:2: delete: new.bmp: not removed, there is no trash on its file system"}),
+                  Run("select new.bmp\ndelete"));
+        EXPECT_EQ(Ledger(), Run("delete for good\nlist"));
+    }
+    folder.Remove(noTrash);
+    folder.WriteBmp("Bo/new.bmp");
     folder.WriteBmp("Bo/NEW.bmp");
     EXPECT_EQ(Ledger({"NEW.bmp"}), Run("refresh\nselect new.bmp\ndelete\nlist"));
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/a b.bmp Bo/ Bo/NEW.bmp", folder.Everything());
@@ -66,6 +79,7 @@ TEST_F(ScriptTest, TheFirstThatFailsEndsItWithFileLineAndReason)
         {"select \"Ada", "test.txt:1: a quote is not closed"},
         {"rename Ada", "test.txt:1: rename: something is missing behind it"},
         {"copy Ada", "test.txt:1: copy: there is too much behind it"},
+        {"delete good", "test.txt:1: delete: nothing or \"for good\" stands behind it"},
         {"enter Ada/none", "test.txt:1: enter: none: not in Ada"},
         {"enter /..", "test.txt:1: enter: nothing is above the library"},
         {"open /none/where", "test.txt:1: open: /none/where: no such file or directory"},

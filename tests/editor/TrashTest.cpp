@@ -1,12 +1,13 @@
 #include "Editor/model/Trash.h"
 
-#include "tests/editor/AsNobody.h"
 #include "tests/editor/TrashHome.h"
+#include "tests/support/FailingDisk.h"
 
 #include <cstdio>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -64,47 +65,38 @@ TEST_F(TrashTest, NamesThatAreInTheTrashAlreadyAreCountedUp)
 
 TEST_F(TrashTest, WhatLiesBehindALinkGoesToTheTrashOfItsOwnFileSystem)
 {
-    namespace fs = std::filesystem;
-    const fs::path elsewhere = fs::temp_directory_path() / ("views-trash-" + std::to_string(getpid()));
-    fs::create_directory(elsewhere);
-    fs::create_directory_symlink(folder.Path(), elsewhere / "link");
+    const TempFolder elsewhere;
+    const OwnFileSystem disk(elsewhere.Path());
+    elsewhere.Link("link", folder.Path());
     folder.Write("a.bmp", "bytes");
 
-    EXPECT_EQ("", editor::RemoveFromDisk((elsewhere / "link/a.bmp").string()));
+    EXPECT_EQ("", editor::RemoveFromDisk(elsewhere.At("link/a.bmp")));
     EXPECT_EQ("bytes", trash.folder.Read("Trash/files/a.bmp"));
     EXPECT_NE(std::string::npos, trash.folder.Read("Trash/info/a.bmp.trashinfo").find(folder.Path() + "/a.bmp\n"));
-    fs::remove_all(elsewhere);
 }
 
-// The trash at the top of a file system is each user's own: this test is a user of its own for a while.
-TEST_F(TrashTest, WithoutTheUsersOwnTrashTheFileSystemsServesAndWithoutBothNothingIsLost)
+TEST_F(TrashTest, AwayFromTheUsersOwnTrashTheFileSystemsServesAndWithoutBothNothingIsLost)
 {
+    const OwnFileSystem disk(folder.Path());
+    const std::string top = ".Trash-" + std::to_string(geteuid());
     folder.Write("Ada/a.bmp", "bytes");
     folder.Write("b.bmp", "other bytes");
-    folder.Write("blocked", "");
-    trash.Point(folder.At("blocked"));
-    chmod(folder.Path().c_str(), 0777);
-    chmod(folder.At("Ada").c_str(), 0777);
-    const auto id = static_cast<uid_t>(100'000 + getpid());
-    const std::string top = "/dev/shm/.Trash-" + std::to_string(id);
-    const AsNobody somebody(id);
-    if (geteuid() != id || !folder.Path().starts_with("/dev/shm/"))
-        GTEST_SKIP() << "needs the superuser and a file system in memory";
-
-    std::filesystem::create_symlink("/tmp", top);
+    folder.Link(top, "/tmp");
     EXPECT_EQ("not removed, there is no trash on its file system", Remove("Ada")) << "a link is no trash";
     EXPECT_EQ("bytes", folder.Read("Ada/a.bmp"));
     {
         const editor::PermanentRemoval allowed;
         EXPECT_EQ("", Remove("Ada"));
+        EXPECT_EQ(top + " b.bmp", folder.Everything());
+        trash.Point(folder.At("b.bmp"));
+        EXPECT_EQ("not removed, the trash cannot be made: not a directory", Remove("b.bmp")) << "missed: none is lost";
     }
-    EXPECT_EQ("b.bmp blocked", folder.Everything());
-    std::filesystem::remove(top);
+    trash.Point(trash.folder.Path());
+    folder.Remove(top);
 
     EXPECT_EQ("", Remove("b.bmp"));
-    EXPECT_TRUE(std::filesystem::exists(top + "/files/b.bmp"));
-    EXPECT_NE(std::string::npos, TempFolder::ReadFile(top + "/info/b.bmp.trashinfo").find("\nPath=views-library-"));
-    std::filesystem::remove_all(top);
+    EXPECT_EQ("other bytes", folder.Read(top + "/files/b.bmp"));
+    EXPECT_NE(std::string::npos, folder.Read(top + "/info/b.bmp.trashinfo").find("\nPath=b.bmp\n"));
 }
 
 } // namespace

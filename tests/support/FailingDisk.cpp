@@ -1,5 +1,6 @@
 #include "tests/support/FailingDisk.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstdarg>
@@ -46,10 +47,18 @@ int ErrorOf(const char* pszName, FailOperation::Operation operation)
     return g_fault == DiskFault::Forbidden ? EACCES : g_fault == DiskFault::InputOutput ? EIO : 0;
 }
 
-template <class Function>
-Function* Real(const char* pszName)
+template <std::size_t size>
+struct Name
 {
-    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, pszName));
+    consteval Name(const char (&name)[size]) { std::copy(name, name + size, text); }
+    char text[size];
+};
+
+template <Name name, class Function>
+Function* Real()
+{
+    static Function* const pReal = reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name.text));
+    return pReal;
 }
 
 template <class Result>
@@ -59,18 +68,17 @@ Result Failed(Result failure, int error)
     return failure;
 }
 
-template <class Function, class... Arguments>
-auto Do(const char* pszName, FailOperation::Operation operation, Arguments... arguments)
+template <Name name, class Function, class... Arguments>
+auto Do(FailOperation::Operation operation, Arguments... arguments)
 {
-    static Function* const pReal = Real<Function>(pszName);
-    using Result = decltype(pReal(arguments...));
-    if (const int error = ErrorOf(pszName, operation); error != 0) {
+    using Result = decltype(Real<name, Function>()(arguments...));
+    if (const int error = ErrorOf(name.text, operation); error != 0) {
         if constexpr (std::is_pointer_v<Result>)
             return Failed(Result(), error);
         else
             return Failed(static_cast<Result>(-1), error);
     }
-    return pReal(arguments...);
+    return Real<name, Function>()(arguments...);
 }
 
 FailOperation::Operation Opening(int flags)
@@ -147,7 +155,7 @@ int open(const char* path, int flags, ...)
     va_start(more, flags);
     const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
     va_end(more);
-    return Do<int(const char*, int, ...)>("open", Opening(flags), path, flags, mode);
+    return Do<"open", int(const char*, int, ...)>(Opening(flags), path, flags, mode);
 }
 int openat(int folder, const char* path, int flags, ...)
 {
@@ -155,15 +163,15 @@ int openat(int folder, const char* path, int flags, ...)
     va_start(more, flags);
     const mode_t mode = flags & O_CREAT ? va_arg(more, mode_t) : 0;
     va_end(more);
-    return Do<int(int, const char*, int, ...)>("openat", Opening(flags), folder, path, flags, mode);
+    return Do<"openat", int(int, const char*, int, ...)>(Opening(flags), folder, path, flags, mode);
 }
-ssize_t read(int fd, void* p, size_t size) { return Do<decltype(read)>("read", kLook, fd, p, size); }
+ssize_t read(int fd, void* p, size_t size) { return Do<"read", decltype(read)>(kLook, fd, p, size); }
 ssize_t write(int fd, const void* p, size_t size)
 {
     const bool bCounted = t_bCounting;
     if (const int error = ErrorOf("write", kWrite); error != 0)
         return Failed<ssize_t>(-1, error);
-    static auto* const pReal = Real<decltype(write)>("write");
+    auto* const pReal = Real<"write", decltype(write)>();
     if (!bCounted || static_cast<int>(g_seen.size()) != g_nFailing || size < 2)
         return pReal(fd, p, size);
     const ssize_t done = pReal(fd, p, size / 2);
@@ -174,40 +182,40 @@ ssize_t write(int fd, const void* p, size_t size)
 }
 int close(int fd)
 {
-    static auto* const pReal = Real<decltype(close)>("close");
+    auto* const pReal = Real<"close", decltype(close)>();
     const bool bWriting = t_bCounting && (fcntl(fd, F_GETFL) & O_ACCMODE) != O_RDONLY;
     const int error = bWriting ? ErrorOf("close", kChange) : 0;
     const int result = pReal(fd); // in any case: the system does, too
     return error != 0 ? Failed(-1, error) : result;
 }
-int fsync(int fd) { return Do<decltype(fsync)>("fsync", kChange, fd); }
-int ftruncate(int fd, off_t size) noexcept { return Do<decltype(ftruncate)>("ftruncate", kChange, fd, size); }
-int fchmod(int fd, mode_t mode) noexcept { return Do<decltype(fchmod)>("fchmod", kChange, fd, mode); }
-int futimens(int fd, const timespec* t) noexcept { return Do<int(int, const timespec*)>("futimens", kChange, fd, t); }
-int flock(int fd, int how) noexcept { return Do<decltype(flock)>("flock", kLook, fd, how); }
-int mkdir(const char* path, mode_t mode) noexcept { return Do<decltype(mkdir)>("mkdir", kGrow, path, mode); }
-int mkdirat(int f, const char* path, mode_t mode) noexcept { return Do<decltype(mkdirat)>("mkdirat", kGrow, f, path, mode); }
-int unlink(const char* path) noexcept { return Do<int(const char*)>("unlink", kChange, path); }
-int unlinkat(int f, const char* path, int how) noexcept { return Do<int(int, const char*, int)>("unlinkat", kChange, f, path, how); }
-int symlinkat(const char* to, int f, const char* path) noexcept { return Do<int(const char*, int, const char*)>("symlinkat", kGrow, to, f, path); }
-ssize_t readlinkat(int f, const char* path, char* p, size_t size) noexcept { return Do<ssize_t(int, const char*, char*, size_t)>("readlinkat", kLook, f, path, p, size); }
-int linkat(int f, const char* a, int g, const char* b, int how) noexcept { return Do<int(int, const char*, int, const char*, int)>("linkat", kGrow, f, a, g, b, how); }
-int renameat(int f, const char* a, int g, const char* b) noexcept { return Do<int(int, const char*, int, const char*)>("renameat", kChange, f, a, g, b); }
+int fsync(int fd) { return Do<"fsync", decltype(fsync)>(kChange, fd); }
+int ftruncate(int fd, off_t size) noexcept { return Do<"ftruncate", decltype(ftruncate)>(kChange, fd, size); }
+int fchmod(int fd, mode_t mode) noexcept { return Do<"fchmod", decltype(fchmod)>(kChange, fd, mode); }
+int futimens(int fd, const timespec* t) noexcept { return Do<"futimens", int(int, const timespec*)>(kChange, fd, t); }
+int flock(int fd, int how) noexcept { return Do<"flock", decltype(flock)>(kLook, fd, how); }
+int mkdir(const char* path, mode_t mode) noexcept { return Do<"mkdir", decltype(mkdir)>(kGrow, path, mode); }
+int mkdirat(int f, const char* path, mode_t mode) noexcept { return Do<"mkdirat", decltype(mkdirat)>(kGrow, f, path, mode); }
+int unlink(const char* path) noexcept { return Do<"unlink", int(const char*)>(kChange, path); }
+int unlinkat(int f, const char* path, int how) noexcept { return Do<"unlinkat", int(int, const char*, int)>(kChange, f, path, how); }
+int symlinkat(const char* to, int f, const char* path) noexcept { return Do<"symlinkat", int(const char*, int, const char*)>(kGrow, to, f, path); }
+ssize_t readlinkat(int f, const char* path, char* p, size_t size) noexcept { return Do<"readlinkat", ssize_t(int, const char*, char*, size_t)>(kLook, f, path, p, size); }
+int linkat(int f, const char* a, int g, const char* b, int how) noexcept { return Do<"linkat", int(int, const char*, int, const char*, int)>(kGrow, f, a, g, b, how); }
+int renameat(int f, const char* a, int g, const char* b) noexcept { return Do<"renameat", int(int, const char*, int, const char*)>(kChange, f, a, g, b); }
 int renameat2(int f, const char* a, int g, const char* b, unsigned how) noexcept
 {
     if (IsOnOwnSystem(f, a) != IsOnOwnSystem(g, b))
         return Failed(-1, EXDEV);
-    return Do<int(int, const char*, int, const char*, unsigned)>("renameat2", kChange, f, a, g, b, how);
+    return Do<"renameat2", int(int, const char*, int, const char*, unsigned)>(kChange, f, a, g, b, how);
 }
-int access(const char* path, int how) noexcept { return Do<int(const char*, int)>("access", kLook, path, how); }
-int eaccess(const char* path, int how) noexcept { return Do<int(const char*, int)>("eaccess", kLook, path, how); }
-char* realpath(const char* path, char* p) noexcept { return Do<char*(const char*, char*)>("realpath", kLook, path, p); }
-int stat(const char* path, struct stat* p) noexcept { return Placed(Do<int(const char*, struct stat*)>("stat", kLook, path, p), AT_FDCWD, path, p); }
-int lstat(const char* path, struct stat* p) noexcept { return Placed(Do<int(const char*, struct stat*)>("lstat", kLook, path, p), AT_FDCWD, path, p); }
-int fstat(int fd, struct stat* p) noexcept { return Placed(Do<int(int, struct stat*)>("fstat", kLook, fd, p), fd, "", p); }
-int fstatat(int f, const char* path, struct stat* p, int how) noexcept { return Placed(Do<int(int, const char*, struct stat*, int)>("fstatat", kLook, f, path, p, how), f, path, p); }
-DIR* fdopendir(int fd) { return Do<DIR*(int)>("fdopendir", kLook, fd); }
-dirent* readdir(DIR* p) { return Do<dirent*(DIR*)>("readdir", kLook, p); }
+int access(const char* path, int how) noexcept { return Do<"access", int(const char*, int)>(kLook, path, how); }
+int eaccess(const char* path, int how) noexcept { return Do<"eaccess", int(const char*, int)>(kLook, path, how); }
+char* realpath(const char* path, char* p) noexcept { return Do<"realpath", char*(const char*, char*)>(kLook, path, p); }
+int stat(const char* path, struct stat* p) noexcept { return Placed(Do<"stat", int(const char*, struct stat*)>(kLook, path, p), AT_FDCWD, path, p); }
+int lstat(const char* path, struct stat* p) noexcept { return Placed(Do<"lstat", int(const char*, struct stat*)>(kLook, path, p), AT_FDCWD, path, p); }
+int fstat(int fd, struct stat* p) noexcept { return Placed(Do<"fstat", int(int, struct stat*)>(kLook, fd, p), fd, "", p); }
+int fstatat(int f, const char* path, struct stat* p, int how) noexcept { return Placed(Do<"fstatat", int(int, const char*, struct stat*, int)>(kLook, f, path, p, how), f, path, p); }
+DIR* fdopendir(int fd) { return Do<"fdopendir", DIR*(int)>(kLook, fd); }
+dirent* readdir(DIR* p) { return Do<"readdir", dirent*(DIR*)>(kLook, p); }
 
 } // extern "C"
 // clang-format on
