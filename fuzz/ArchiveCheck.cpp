@@ -19,7 +19,7 @@ bool IsWithin(std::string_view part, std::string_view whole)
 bool IsHarmless(std::string_view name)
 {
     return !name.empty() && name.size() <= 255 && name != "." && name != ".." && name.find('/') == name.npos &&
-           name.find('\\') == name.npos && name.find('\0') == name.npos;
+           name.find('\0') == name.npos;
 }
 
 bool StaysInside(std::string_view origin)

@@ -8,7 +8,7 @@
 //            8  length of all records, exactly what follows the header
 //            8  checksum of all records and of the 24 bytes before it
 //
-//   record   1  kind: 1 a file, 2 a folder, 3 a line of a phase
+//   record   1  kind: 1 a file, 2 a folder, 3 a line of a phase, 4 a link that leads nowhere
 //            1  0
 //            2  length of the name
 //            2  length of the origin
@@ -20,9 +20,10 @@
 //               name, origin, content
 //
 // A file's content is its bytes (a phase's: its lines), a folder's content is the records of what is in it, a line has
-// none. Names are single names, never paths, and an archive holds no symbolic links: what they lead to is carried
-// by content. The origin is the path of the object (of a line: of its picture) below its library; it is empty for what
-// is inside a folder. It is only ever looked up in the library that is pasted into, nothing is made at it.
+// none; that of a link that leads nowhere is what it says. Names are single names, never paths. Of any other symbolic
+// link what it leads to is carried. The origin is the path of the object (of a line: of its picture) below its library;
+// it is empty for what is inside a folder. It is only ever looked up in the library that is pasted into, nothing is
+// made at it.
 //
 // The checksum goes on from record to record, the content before what stands in front of it, and ends with the header:
 // so a writer sums what it has just read, while that is still near the processor, and a folder's length when it is
@@ -43,7 +44,8 @@ enum class RecordKind : std::uint8_t
 {
     File = 1,
     Folder = 2,
-    Link = 3
+    Link = 3,
+    DeadLink = 4
 };
 
 struct ArchiveRecord

@@ -10,7 +10,8 @@ namespace
 
 bool IsKind(std::uint8_t kind)
 {
-    return kind >= static_cast<std::uint8_t>(RecordKind::File) && kind <= static_cast<std::uint8_t>(RecordKind::Link);
+    return kind >= static_cast<std::uint8_t>(RecordKind::File) &&
+           kind <= static_cast<std::uint8_t>(RecordKind::DeadLink);
 }
 
 // A path below some folder, without detours.
@@ -32,8 +33,11 @@ bool IsOrigin(std::string_view path)
 
 bool IsSound(const ArchiveRecord& record)
 {
-    if (!NameTrouble(record.name).empty() || !IsOrigin(record.origin))
+    if (!FileNameTrouble(record.name).empty() || !IsOrigin(record.origin))
         return false;
+    const std::string_view content = record.content;
+    if (record.kind == RecordKind::DeadLink)
+        return !content.empty() && content.size() <= kLongestPath && content.find('\0') == content.npos;
     return record.kind != RecordKind::Link || record.content.empty();
 }
 

@@ -64,11 +64,14 @@ public:
             m_fd = FileHandle(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         if (bThere && !bWanted)
             m_trouble = "neither a file nor a folder";
+        else if (!bThere && (errno == ENOENT || errno == ELOOP))
+            ReadLink(nFolder, path, errno);
         else if (!m_fd || fstat(m_fd.Get(), &m_status) != 0)
             m_trouble = SystemErrorText(errno);
     }
 
-    std::string Trouble() const { return m_trouble.empty() ? NameTrouble(m_name) : m_trouble; }
+    std::string Trouble() const { return m_trouble.empty() ? FileNameTrouble(m_name) : m_trouble; }
+    const std::string& DeadLink() const { return m_deadLink; } // what it says; empty when it is none
     const std::string& Shown() const { return m_shown; }
     const std::string& Name() const { return m_name; }
     bool IsFolder() const { return S_ISDIR(m_status.st_mode); }
@@ -79,10 +82,21 @@ public:
     int Handle() const { return m_fd.Get(); }
 
 private:
+    void ReadLink(int nFolder, const std::string& path, int error)
+    {
+        char to[kLongestPath];
+        const ssize_t size = readlinkat(nFolder, path.c_str(), to, sizeof to);
+        if (size > 0 && fstatat(nFolder, path.c_str(), &m_status, AT_SYMLINK_NOFOLLOW) == 0)
+            m_deadLink.assign(to, static_cast<std::size_t>(size));
+        else
+            m_trouble = SystemErrorText(error);
+    }
+
     const std::string m_shown;
     const std::string m_name;
     struct stat m_status = {};
     FileHandle m_fd;
+    std::string m_deadLink;
     std::string m_trouble;
 };
 
@@ -95,7 +109,10 @@ ArchiveWriter::ArchiveWriter(IByteStream& stream) : m_stream(stream)
 std::string ArchiveWriter::AddPath(const std::string& path, std::string_view origin)
 {
     ++m_nObjects;
-    return AddEntry(Entry(AT_FDCWD, path, std::string(BaseName(path))), origin);
+    const Entry entry(AT_FDCWD, path, std::string(BaseName(path)));
+    if (std::string trouble = TroubleOf(entry); !trouble.empty())
+        return Fail(std::move(trouble));
+    return AddEntry(entry, origin);
 }
 
 std::string ArchiveWriter::AddLink(std::string_view name, const std::string& path, std::string_view origin)
@@ -104,6 +121,8 @@ std::string ArchiveWriter::AddLink(std::string_view name, const std::string& pat
     const Entry picture(AT_FDCWD, path, std::string(name));
     if (const std::string trouble = picture.Trouble(); !trouble.empty())
         return Fail(Because(name, trouble));
+    if (!picture.DeadLink().empty())
+        return Fail(Because(name, SystemErrorText(ENOENT)));
     const std::size_t at = NextRecord();
     std::string error = AddHead(RecordKind::Link, name, picture, origin);
     if (error.empty())
@@ -113,6 +132,11 @@ std::string ArchiveWriter::AddLink(std::string_view name, const std::string& pat
 
 std::string ArchiveWriter::Finish()
 {
+    m_bLacksConsent = !m_leftOut.empty() && !m_bMayLeaveOut;
+    if (m_bLacksConsent)
+        return Fail(m_leftOut.size() == 1
+                        ? m_leftOut.front()
+                        : m_leftOut.front() + " (and " + std::to_string(m_leftOut.size() - 1) + " more)");
     if (m_nLength == 0)
         if (std::string error = Grow(kHeaderSize); !error.empty())
             return error;
@@ -127,16 +151,43 @@ std::string ArchiveWriter::Finish()
 
 std::string ArchiveWriter::AddEntry(const Entry& entry, std::string_view origin)
 {
-    if (const std::string trouble = entry.Trouble(); !trouble.empty())
-        return Fail(Because(entry.Shown(), trouble));
+    if (!entry.DeadLink().empty())
+        return AddDeadLink(entry, origin);
     return entry.IsFolder() ? AddFolder(entry, origin) : AddFile(entry, origin);
+}
+
+std::string ArchiveWriter::TroubleOf(const Entry& entry)
+{
+    if (const std::string trouble = entry.Trouble(); !trouble.empty())
+        return Because(entry.Shown(), trouble);
+    if (!entry.IsFolder())
+        return entry.Size() <= kLargest ? std::string() : Because(entry.Shown(), "too large to be carried");
+    if (std::find(m_within.begin(), m_within.end(), entry.Identity()) != m_within.end())
+        return Because(entry.Shown(), "a link to a folder that holds it");
+    if (!m_folders.insert(entry.Identity()).second && ++m_nRepeated > kMostRepeated)
+        return Because(entry.Shown(), "one of too many links to folders that are carried already");
+    if (m_within.size() + 1 >= kDeepestFolder)
+        return Because(entry.Shown(), "too many folders inside each other");
+    return {};
+}
+
+std::string ArchiveWriter::AddDeadLink(const Entry& entry, std::string_view origin)
+{
+    const std::size_t at = NextRecord();
+    std::string error = AddHead(RecordKind::DeadLink, entry.Name(), entry, origin);
+    const std::size_t content = m_nLength;
+    if (error.empty())
+        error = Grow(entry.DeadLink().size());
+    if (!error.empty())
+        return error;
+    std::copy(entry.DeadLink().begin(), entry.DeadLink().end(), Data() + content);
+    CloseRecord(at);
+    return {};
 }
 
 // A file that is being written to meanwhile is carried as far as it went when it was opened.
 std::string ArchiveWriter::AddFile(const Entry& entry, std::string_view origin)
 {
-    if (entry.Size() > kLargest)
-        return Fail(Because(entry.Shown(), "too large to be carried"));
     const std::size_t at = NextRecord();
     std::string error = AddHead(RecordKind::File, entry.Name(), entry, origin);
     const std::size_t content = m_nLength;
@@ -168,12 +219,6 @@ std::string ArchiveWriter::ReplaceContent(std::size_t at, const Entry& entry)
 
 std::string ArchiveWriter::AddFolder(const Entry& entry, std::string_view origin)
 {
-    if (std::find(m_within.begin(), m_within.end(), entry.Identity()) != m_within.end())
-        return Fail(Because(entry.Shown(), "a link to a folder that holds it"));
-    if (!m_folders.insert(entry.Identity()).second && ++m_nRepeated > kMostRepeated)
-        return Fail(Because(entry.Shown(), "one of too many links to folders that are carried already"));
-    if (m_within.size() + 1 >= kDeepestFolder)
-        return Fail(Because(entry.Shown(), "too many folders inside each other"));
     const std::size_t at = NextRecord();
     std::string error = AddHead(RecordKind::Folder, entry.Name(), entry, origin);
     m_within.push_back(entry.Identity());
@@ -192,9 +237,13 @@ std::string ArchiveWriter::AddMembers(const Entry& folder)
         return Fail(Because(folder.Shown(), SystemErrorText(error)));
     std::erase_if(names, TempEntry::IsOne);
     std::sort(names.begin(), names.end());
-    for (const std::string& name : names)
-        if (std::string error = AddEntry(Entry(folder.Handle(), name, folder.Shown() + '/' + name), {}); !error.empty())
+    for (const std::string& name : names) {
+        const Entry entry(folder.Handle(), name, folder.Shown() + '/' + name);
+        if (std::string trouble = TroubleOf(entry); !trouble.empty())
+            m_leftOut.push_back(std::move(trouble));
+        else if (std::string error = AddEntry(entry, {}); !error.empty())
             return error;
+    }
     return {};
 }
 

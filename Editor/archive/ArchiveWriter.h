@@ -30,9 +30,16 @@ public:
 
     void SetReplacement(Replacement replacement) { m_replacement = std::move(replacement); }
 
-    // A file or a folder with everything in it, hidden files too; links are followed. A folder in which something
-    // cannot be carried (a pipe, a link that leads nowhere or to a folder that holds it) is not carried at all, and
-    // neither is one whose links lead to the same folders again and again: a few of them hold more than any disk.
+    // From now on what cannot be carried of a folder is left out.
+    void AllowLeavingOut() { m_bMayLeaveOut = true; }
+    // What could not, a line for each: a pipe, what may not be read, a link to a folder that holds it, one of too many
+    // links to folders that are carried already (a few of them hold more than any disk). Unless that is allowed, Finish
+    // fails for it.
+    const std::vector<std::string>& LeftOut() const { return m_leftOut; }
+    bool LacksConsent() const { return m_bLacksConsent; } // did it fail for that?
+
+    // A file or a folder with everything in it, hidden files too. Links are followed; one that leads nowhere is carried
+    // as what it is.
     std::string AddPath(const std::string& path, std::string_view origin);
     // A line of a phase, for the picture at that path.
     std::string AddLink(std::string_view name, const std::string& path, std::string_view origin);
@@ -45,7 +52,9 @@ private:
     std::string AddFile(const Entry& entry, std::string_view origin);
     std::string AddFolder(const Entry& entry, std::string_view origin);
     std::string ReplaceContent(std::size_t at, const Entry& entry); // of the file that ends the stream
+    std::string AddDeadLink(const Entry& entry, std::string_view origin);
     std::string AddMembers(const Entry& folder);
+    std::string TroubleOf(const Entry& entry); // with the entry; empty when it can be carried
     std::string AddHead(RecordKind kind, std::string_view name, const Entry& entry, std::string_view origin);
     void CloseRecord(std::size_t at); // everything behind its head is its content
     std::size_t NextRecord() const { return m_nLength == 0 ? kHeaderSize : m_nLength; }
@@ -61,6 +70,8 @@ private:
     std::vector<FileIdentity> m_within; // the folders that are being written, the outermost first
     std::set<FileIdentity> m_folders;   // all that were
     int m_nRepeated = 0;                // folders that were written more than once
+    std::vector<std::string> m_leftOut;
+    bool m_bMayLeaveOut = false, m_bLacksConsent = false;
 };
 
 } // namespace editor

@@ -43,6 +43,11 @@ int MakeFile(int nFolder, const std::string& name, const ArchiveRecord& record)
     return handle.Close() ? 0 : errno;
 }
 
+int MakeLink(int nFolder, const std::string& name, const ArchiveRecord& record)
+{
+    return symlinkat(std::string(record.content).c_str(), nFolder, name.c_str()) == 0 ? 0 : errno;
+}
+
 std::string Make(int nFolder, const std::string& name, const std::string& shown, const ArchiveRecord& record);
 
 std::string MakeFolder(int nFolder, const std::string& name, const std::string& shown, const ArchiveRecord& record)
@@ -67,20 +72,31 @@ std::string Make(int nFolder, const std::string& name, const std::string& shown,
 {
     if (record.kind == RecordKind::Folder)
         return MakeFolder(nFolder, name, shown, record);
-    const int error = MakeFile(nFolder, name, record);
+    const int error =
+        record.kind == RecordKind::DeadLink ? MakeLink(nFolder, name, record) : MakeFile(nFolder, name, record);
     return error == 0 ? std::string() : Line(shown, error);
 }
 
 } // namespace
 
-std::string Unpack(const std::string& folder, const std::string& name, const ArchiveRecord& record)
+std::string Unpack(const std::string& folder, std::string& name, const ArchiveRecord& record,
+                   const std::function<std::string()>& anotherName)
 {
+    constexpr int kMostNames = 100; // somebody else makes them as fast
+
     TempEntry temp(folder);
     if (temp.GetError() != 0)
         return Line(std::string(BaseName(folder)), temp.GetError());
     if (std::string error = Make(temp.Folder(), temp.Name(), name, record); !error.empty())
         return error;
-    const int error = temp.PutAt(name);
+    int error = temp.PutAt(name);
+    for (int i = 0; error == EEXIST && i < kMostNames; ++i) {
+        std::string another = anotherName();
+        if (another.empty())
+            break;
+        name = std::move(another);
+        error = temp.PutAt(name);
+    }
     return error == 0 ? std::string() : Line(name, error);
 }
 

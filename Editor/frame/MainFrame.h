@@ -57,7 +57,7 @@ public:
     // The commands that change what is shown; nothing is asked, and the answer is the reason for what was not done.
     std::string Cut();
     std::string Remove();
-    std::string Paste(); // into the container that is shown
+    std::string Paste(bool* pAny = nullptr); // into the container that is shown; did any object come?
 
     std::string Save(); // all phases that are modified; the reason for the first that was not saved
 
@@ -116,6 +116,8 @@ private:
     };
     Position RememberPosition();
     void GoOnAt(const Position& position); // as far as it is still there
+    template <class Carry>
+    std::string CarryAsAgreed(Carry carry);
     template <class Change>
     std::string ChangeSelection(Change change);
     void LeaveWhatIsGone();

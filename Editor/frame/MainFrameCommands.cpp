@@ -79,13 +79,26 @@ bool CMainFrame::HandleControlKey(UINT vkey)
 void CMainFrame::CopySelection()
 {
     if (m_commands.CountSelected() > 0)
-        ShowFailure(IDS_COPY_FAILED, m_commands.Copy());
+        ShowFailure(IDS_COPY_FAILED, CarryAsAgreed([this] { return m_commands.Copy(); }));
 }
 
 void CMainFrame::CutSelection()
 {
     if (m_commands.CountSelected() > 0)
-        ShowFailure(IDS_CUT_FAILED, Cut());
+        ShowFailure(IDS_CUT_FAILED, CarryAsAgreed([this] { return Cut(); }));
+}
+
+// What cannot be carried is named, and the rest goes when the user agrees.
+template <class Carry>
+std::string CMainFrame::CarryAsAgreed(Carry carry)
+{
+    std::string reason = carry();
+    if (reason.empty() || !m_editor.CanLeaveOut())
+        return reason;
+    if (!UserAgrees(reason + ".\n\nGo on with the rest?"))
+        return {};
+    const CAtomEditor::LeavingOut agreed(m_editor);
+    return carry();
 }
 
 // What goes to the trash can be fetched back; what no trash takes, the user is asked about once more.
@@ -106,7 +119,9 @@ void CMainFrame::RemoveSelection()
 
 void CMainFrame::PasteHere()
 {
-    ShowFailure(IDS_PASTE_FAILED, Paste());
+    bool bAny = false;
+    std::string reason = Paste(&bAny);
+    ShowFailure(bAny ? IDS_PASTE_FAILED : IDS_NOTHING_PASTED, std::move(reason));
 }
 
 std::string CMainFrame::Cut()
@@ -119,10 +134,13 @@ std::string CMainFrame::Remove()
     return ChangeSelection([this] { return m_commands.Remove(); });
 }
 
-std::string CMainFrame::Paste()
+std::string CMainFrame::Paste(bool* pAny)
 {
     const auto pTarget = CStubRef<CContainer>::Share(ShownContainer());
+    const UINT nBefore = pTarget->GetCount();
     std::string reason = m_commands.Paste(pTarget.Get());
+    if (pAny)
+        *pAny = pTarget->GetCount() > nBefore;
     m_pList->FocusSelection();
     return reason;
 }

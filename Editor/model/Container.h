@@ -68,7 +68,8 @@ protected:
     };
     virtual DWORD MemberPermissions() const = 0;
     virtual DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) = 0;
-    virtual std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) = 0;
+    // Under that name or, when it `mayDiffer`, under another like it, should that have been taken meanwhile.
+    virtual std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) = 0;
     virtual std::string Rename(const CMember& member, const std::string& name, Entry& renamed) = 0;
     virtual std::string Remove(const CMember& member) = 0;
     virtual std::string ValidNameFor(std::string_view name) = 0; // empty when there is none
@@ -95,8 +96,8 @@ private:
     BOOL GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId);
     void MoveMembers(Contents& former, Contents& contents);
     bool IsPresent(const CMember* pMember) const;
-    std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name); // empty for a copy
-    BOOL Note(std::string failure);                                                // FALSE when there is one
+    std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name);
+    BOOL Note(std::string failure); // FALSE when there is one
     UINT Append(const Entry& entry);
     void Drop(UINT nIndex);
     void Tidy();

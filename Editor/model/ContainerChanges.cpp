@@ -18,9 +18,11 @@ BOOL CContainer::AddAtom(IAtom* pSource, DWORD, const char* pszName, void** ppOu
         return Note(ShownName() + ": only what was read from an archive can be added");
     Members();
     Entry added;
-    std::string failure = TroubleOfMove(pArchived->Record(), pszName);
+    // A copy comes under the name that it has just been given here, a move under its own.
+    const bool bCopied = std::exchange(m_validName, {}) == pszName;
+    std::string failure = bCopied ? std::string() : TroubleOfMove(pArchived->Record(), pszName);
     if (failure.empty())
-        failure = Add(pArchived->Record(), pszName, added);
+        failure = Add(pArchived->Record(), pszName, bCopied, added);
     pArchived->SetFailure(failure);
     if (!Note(std::move(failure)))
         return FALSE;
@@ -73,12 +75,10 @@ BOOL CContainer::ValidateName(CString& strName, DWORD)
     return TRUE;
 }
 
-// A copy comes under the name that it has just been given here, a move under its own.
 std::string CContainer::TroubleOfMove(const ArchiveRecord& record, std::string_view name)
 {
-    const bool bCopied = std::exchange(m_validName, {}) == name;
     std::string trouble;
-    if (bCopied || PermissionsFor(record, trouble) != APF_ACCEPTCOPY)
+    if (PermissionsFor(record, trouble) != APF_ACCEPTCOPY)
         return {};
     return ToShown(name) + ": can only be copied there, not moved";
 }

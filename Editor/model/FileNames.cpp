@@ -61,7 +61,7 @@ std::string_view Shortened(std::string_view text, std::size_t most)
     return text.substr(0, end);
 }
 
-std::string NameTrouble(std::string_view name)
+std::string FileNameTrouble(std::string_view name)
 {
     if (name.empty())
         return "a name must not be empty";
@@ -69,12 +69,18 @@ std::string NameTrouble(std::string_view name)
         return "the name is too long (" + std::to_string(name.size()) + " of at most 255 bytes)";
     if (name == "." || name == "..")
         return "the name stands for a folder";
-    if (const std::size_t at = name.find_first_of(std::string_view("/\\\0", 3)); at != name.npos)
-        return name[at] == '\0' ? "a name must not hold a zero"
-                                : std::string("a name must not hold \"") + name[at] + '"';
-    if (IsDevice(name))
-        return "the name stands for a device on other systems";
-    return {};
+    if (name.find('\0') != name.npos)
+        return "a name must not hold a zero";
+    return name.find('/') == name.npos ? std::string() : "a name must not hold \"/\"";
+}
+
+std::string NameTrouble(std::string_view name)
+{
+    if (std::string trouble = FileNameTrouble(name); !trouble.empty())
+        return trouble;
+    if (name.find('\\') != name.npos)
+        return "a name must not hold \"\\\"";
+    return IsDevice(name) ? "the name stands for a device on other systems" : std::string();
 }
 
 std::string MakeValid(std::string_view name)
@@ -91,17 +97,33 @@ std::string MakeValid(std::string_view name)
 }
 
 std::string NameForCopy(std::string_view name, std::string_view extension,
-                        const std::function<bool(std::string_view)>& isTaken)
+                        const std::function<bool(std::string_view)>& isTaken, int& nTaken)
 {
     if (!isTaken(name))
         return std::string(name);
     std::string_view stem = name.substr(0, name.size() - extension.size());
-    for (int number = TakeNumber(stem); number < kMostCopies;) {
-        std::string numbered = Numbered(stem, ++number, extension);
+    for (nTaken = std::max(nTaken, TakeNumber(stem)); nTaken < kMostCopies; ++nTaken) {
+        std::string numbered = Numbered(stem, nTaken + 1, extension);
         if (!isTaken(numbered))
             return numbered;
     }
     return {};
+}
+
+std::string AnyNameForCopy(std::string_view name, std::string_view extension,
+                           const std::function<bool(std::string_view)>& isTaken)
+{
+    if (!isTaken(name))
+        return std::string(name);
+    std::string_view stem = name.substr(0, name.size() - extension.size());
+    int nTaken = TakeNumber(stem);
+    int nStep = 1;
+    for (; nTaken + nStep < kMostCopies && isTaken(Numbered(stem, nTaken + nStep, extension)); nStep *= 2)
+        nTaken += nStep;
+    for (; nStep > 1; nStep /= 2) // what is half a step further may be taken, what is a step further is not
+        if (isTaken(Numbered(stem, nTaken + nStep / 2, extension)))
+            nTaken += nStep / 2;
+    return nTaken + 1 < kMostCopies ? Numbered(stem, nTaken + 1, extension) : std::string();
 }
 
 } // namespace editor

@@ -28,7 +28,7 @@ protected:
     DWORD MemberPermissions() const override { return APF_RENAME | APF_REMOVE; }
     // Whatever it can show; a folder does not take itself, nor what holds it, but as a copy.
     DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) override;
-    std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) override;
+    std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) override;
     std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
     std::string Remove(const CMember& member) override;
     std::string ValidNameFor(std::string_view name) override;

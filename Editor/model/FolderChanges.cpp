@@ -79,29 +79,36 @@ DWORD CFolder::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
     return isOwnHolder ? APF_ACCEPTCOPY : APF_ACCEPT | APF_ACCEPTCOPY;
 }
 
-std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, Entry& added)
+std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added)
 {
     added.name = name;
     if (record.kind == RecordKind::Link)
         return FailureOf(name, "a line of a phase can only be put into a phase");
-    if (std::string trouble = NameTrouble(name); !trouble.empty())
+    const bool isOwn = name == record.name; // as it is called on this system
+    if (std::string trouble = isOwn ? FileNameTrouble(name) : NameTrouble(name); !trouble.empty())
         return FailureOf(name, trouble);
     if (!CanShow(record, name, added.kind))
         return FailureOf(name, "not a file that the library shows");
     const std::string path = Path();
     ArchiveRecord adapted = record;
     std::string text;
-    if (added.kind == MemberKind::Phase && !record.origin.empty() && IsPhaseText(record.content)) {
+    if (added.kind == MemberKind::Phase && record.kind == RecordKind::File && !record.origin.empty() &&
+        IsPhaseText(record.content)) {
         const std::string& root = Context().rootPath;
         text = record.content;
         if (std::string trouble = Relocate(text, FormerFolder(root, record.origin), path, root); !trouble.empty())
             return FailureOf(name, trouble);
         adapted.content = text;
     }
-    const bool bCurrent = m_taken.IsCurrent(path);
-    std::string failure = Unpack(path, name, adapted);
+    bool bCurrent = m_taken.IsCurrent(path);
+    const auto another = [&] {
+        m_taken.Forget();
+        bCurrent = true;
+        return mayDiffer ? ValidNameFor(name) : std::string();
+    };
+    std::string failure = Unpack(path, added.name, adapted, another);
     if (failure.empty() && bCurrent)
-        m_taken.Added(path, name);
+        m_taken.Added(path, added.name);
     return failure;
 }
 
@@ -132,15 +139,14 @@ std::string CFolder::ValidNameFor(std::string_view name)
         return valid;
     m_taken.Update(Path());
     const std::size_t dot = KindOfName(valid) ? valid.rfind('.') : valid.size();
-    return NameForCopy(valid, std::string_view(valid).substr(dot),
-                       [this](std::string_view candidate) { return m_taken.Contains(candidate); });
+    return m_taken.FreeName(valid, std::string_view(valid).substr(dot));
 }
 
 bool CFolder::CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const
 {
     const auto shown = record.kind == RecordKind::Folder ? MemberKind::Folder
-                       : record.kind == RecordKind::File ? KindOfName(name)
-                                                         : std::nullopt;
+                       : record.kind == RecordKind::Link ? std::nullopt
+                                                         : KindOfName(name);
     kind = shown.value_or(MemberKind::Link);
     return shown && !name.starts_with('.');
 }

@@ -109,7 +109,7 @@ DWORD CPhase::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
     return record.kind == RecordKind::Link ? APF_ACCEPT | APF_ACCEPTCOPY : APF_ACCEPTCOPY;
 }
 
-std::string CPhase::Add(const ArchiveRecord& record, const std::string& name, Entry& added)
+std::string CPhase::Add(const ArchiveRecord& record, const std::string& name, bool, Entry& added)
 {
     std::string trouble, text;
     added = {LineOf(record, trouble), MemberKind::Link};

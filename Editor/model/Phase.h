@@ -46,7 +46,7 @@ protected:
 
     DWORD MemberPermissions() const override { return APF_REMOVE; }
     DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) override; // a picture becomes a line
-    std::string Add(const ArchiveRecord& record, const std::string& name, Entry& added) override;
+    std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) override;
     std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
     std::string Remove(const CMember& member) override;
     std::string ValidNameFor(std::string_view name) override { return std::string(name); } // as often as one likes

@@ -2,6 +2,7 @@
 
 #include "Editor/archive/Checksum.h"
 #include "Editor/model/DiskFile.h"
+#include "Editor/model/FileNames.h"
 #include "Toolkit/base/Text.h"
 
 #include <fcntl.h>
@@ -26,12 +27,19 @@ void TakenNames::Update(const std::string& folder)
         return;
     m_changed = ChangeOf(folder);
     m_names.clear();
+    m_counts.clear();
     std::vector<std::string> names;
     const FileHandle handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (handle)
         ReadNames(handle.Get(), names);
     for (const std::string& name : names)
         m_names.insert(KeyOf(name));
+}
+
+std::string TakenNames::FreeName(std::string_view name, std::string_view extension)
+{
+    return NameForCopy(
+        name, extension, [this](std::string_view candidate) { return Contains(candidate); }, m_counts[KeyOf(name)]);
 }
 
 bool TakenNames::IsCurrent(const std::string& folder) const

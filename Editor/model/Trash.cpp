@@ -199,7 +199,7 @@ int PutUnderFreeName(const Trash& trash, const std::string& path)
     };
     int error = EEXIST;
     while (error == EEXIST)
-        error = PutInto(trash, path, NameForCopy(stem + extension, extension, isTaken));
+        error = PutInto(trash, path, AnyNameForCopy(stem + extension, extension, isTaken));
     return error;
 }
 

@@ -19,6 +19,7 @@ constexpr std::pair<UINT, LPCSTR> kTexts[] = {
     {IDS_COPY_FAILED, "Nothing was copied"},
     {IDS_CUT_FAILED, "Nothing was cut"},
     {IDS_PASTE_FAILED, "Not everything was pasted"},
+    {IDS_NOTHING_PASTED, "Nothing was pasted"},
     {IDS_REMOVE_FAILED, "Not everything was removed"},
     {IDS_SAVE_FAILED, "Not everything was saved"},
     {IDS_DRAG_FAILED, "Nothing can be dragged"},

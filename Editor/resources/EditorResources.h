@@ -22,6 +22,7 @@ inline constexpr UINT IDS_SAVE_FAILED = 2005;
 inline constexpr UINT IDS_DRAG_FAILED = 2006;
 inline constexpr UINT IDS_MOVE_FAILED = 2007;
 inline constexpr UINT IDS_DROP_FAILED = 2008;
+inline constexpr UINT IDS_NOTHING_PASTED = 2009;
 
 // Pictures, the library's own numbers again.
 inline constexpr UINT IDB_FOLDER = 1006;         // transparent where it is pure red

@@ -61,6 +61,21 @@ public:
     void GetInterface(DWORD id, void** out) override;
     const std::string& GetArchiveError() const { return m_archiveError; } // the line of that error; empty without one
 
+    // Was the last writing refused only for what cannot be carried of a folder? Then it goes on without that while the
+    // user's consent to it lives.
+    bool CanLeaveOut() const { return m_bCanLeaveOut; }
+    class LeavingOut
+    {
+    public:
+        explicit LeavingOut(CAtomEditor& editor) : m_editor(editor) { m_editor.m_bLeavingOut = true; }
+        ~LeavingOut() { m_editor.m_bLeavingOut = false; }
+        LeavingOut(const LeavingOut&) = delete;
+        LeavingOut& operator=(const LeavingOut&) = delete;
+
+    private:
+        CAtomEditor& m_editor;
+    };
+
     DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
     void UnregisterHandler(DWORD cookie) override;
     BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
@@ -107,6 +122,7 @@ private:
     IAEStateHandler* m_pLastSender = nullptr; // of a selection; may have unregistered since
     std::shared_ptr<Moved> m_pMoved;          // from the end of a drag until its originals have been removed
     std::string m_archiveError;
+    bool m_bCanLeaveOut = false, m_bLeavingOut = false;
     int m_nRefs = 0;
 };
 

@@ -77,16 +77,20 @@ void Empty(IArchive& archive)
 
 BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
 {
+    m_bCanLeaveOut = false;
     if (!archive)
         return FALSE;
     try {
         Writing writing{ArchiveWriter(*archive), {}, 0};
+        if (m_bLeavingOut)
+            writing.writer.AllowLeavingOut();
         if (EnumActivePairs(&WriteActivePair, &writing) && writing.nAtoms > 0)
             writing.error = writing.writer.Finish();
         else if (writing.error.empty())
             writing.error = "Nothing is selected.";
         if (!writing.error.empty())
             Empty(*archive);
+        m_bCanLeaveOut = !writing.error.empty() && writing.writer.LacksConsent();
         return NoteArchiveError(std::move(writing.error));
     } catch (CMemoryException& exception) {
         Empty(*archive);

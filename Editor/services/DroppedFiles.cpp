@@ -37,13 +37,16 @@ std::string PasteFile(const std::string& path, CFolder& folder)
     if (!pArchive)
         return folder.ShownName() + ": no archive can be made for it";
     ArchiveWriter writer(*pArchive.Get());
+    writer.AllowLeavingOut();
     if (std::string failure = writer.AddPath(path, {}); !failure.empty())
         return failure;
     if (std::string failure = writer.Finish(); !failure.empty())
         return failure;
     if (CheckPaste(pArchive.Get(), &folder, FALSE) == PASTE_REFUSED)
         return ToShown(path.substr(path.rfind('/') + 1)) + ": not a file that the library shows";
-    return PasteObjects(pArchive.Get(), &folder, FALSE) ? std::string() : DropError();
+    if (!PasteObjects(pArchive.Get(), &folder, FALSE))
+        return DropError();
+    return writer.LeftOut().empty() ? std::string() : writer.LeftOut().front();
 }
 
 } // namespace

@@ -67,7 +67,10 @@ std::optional<std::string> PathOf(std::string_view uri)
             return std::nullopt;
         uri.remove_prefix(host);
     }
-    return uri.starts_with('/') ? Unescaped(uri) : std::nullopt;
+    auto path = uri.starts_with('/') ? Unescaped(uri) : std::nullopt;
+    while (path && path->size() > 1 && path->ends_with('/')) // of a folder, as some programs name it
+        path->pop_back();
+    return path;
 }
 
 } // namespace

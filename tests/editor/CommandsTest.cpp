@@ -4,6 +4,7 @@
 #include "tests/support/FailingDisk.h"
 
 #include <filesystem>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
@@ -24,7 +25,7 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     Open();
     Control('C');
     Control('V');
-    EXPECT_EQ(Ledger({"Not everything was pasted: there are no objects on the clipboard"}), TakeBoxes())
+    EXPECT_EQ(Ledger({"Nothing was pasted: there are no objects on the clipboard"}), TakeBoxes())
         << "nothing was selected";
 
     DoubleClick("Ada");
@@ -170,6 +171,17 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     folder.MakeFolder("Ada/Poses");
     Open();
     DoubleClick("Ada");
+    mkfifo(folder.At("Ada/Poses/pipe").c_str(), 0600);
+    Click("Poses");
+    for (const int nAnswer : {IDNO, IDYES}) {
+        desktop.Answer(nAnswer);
+        Control('C');
+        EXPECT_EQ(Ledger({"Views: Poses/pipe: neither a file nor a folder.\n\nGo on with the rest?"}), TakeBoxes());
+        Control('V');
+        EXPECT_EQ(nAnswer == IDYES, std::filesystem::exists(folder.At("Ada/Poses (2)")));
+        TakeBoxes();
+    }
+    folder.Remove("Ada/Poses/pipe");
     Click("b.bmp");
     folder.Remove("Ada/b.bmp");
     Control('C');
@@ -178,7 +190,7 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     Control('C');
     DoubleClick("walk.phase");
     Control('V');
-    EXPECT_EQ(Ledger({"Not everything was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Nothing was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
     EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
 
     // What holds the trash itself cannot go; what went before it is put back.

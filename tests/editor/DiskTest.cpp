@@ -36,6 +36,10 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     folder.MakeFolder("Ada/Poses/Nothing");
     folder.Write("Ada/a.bmp", "target");
     folder.Link("Ada/Poses/link.bmp", "../a.bmp");
+    folder.Link("Ada/Poses/nowhere.bmp", "../there/was one.bmp");
+    folder.Write("Ada/Poses/aux.h", "what other systems call devices");
+    folder.Write("Ada/Poses/back\\slash.bmp", "and separators");
+    folder.Write("Ada/Poses/.views-new-ideas", "no file in the making");
     folder.MakeFolder("Bo");
     const timespec times[2] = {{1'000'000'000, 5}, {1'000'000'000, 5}};
     utimensat(AT_FDCWD, folder.At("Ada/a.bmp").c_str(), times, 0);
@@ -48,10 +52,12 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     umask(former);
     EXPECT_EQ("[Poses/ a.bmp]", Members("Bo"));
     EXPECT_EQ(bytes, folder.Read("Bo/Poses/" + odd));
-    for (const char* const pszFile : {"empty.bmp", ".notes", "walk.phase"})
+    for (const char* const pszFile :
+         {"empty.bmp", ".notes", "walk.phase", "aux.h", "back\\slash.bmp", ".views-new-ideas"})
         EXPECT_EQ(folder.Read(std::string("Ada/Poses/") + pszFile), folder.Read(std::string("Bo/Poses/") + pszFile));
     EXPECT_EQ("target", folder.Read("Bo/Poses/link.bmp"));
     EXPECT_FALSE(std::filesystem::is_symlink(folder.At("Bo/Poses/link.bmp"))) << "what it leads to is carried";
+    EXPECT_EQ("../there/was one.bmp", std::filesystem::read_symlink(folder.At("Bo/Poses/nowhere.bmp")));
     EXPECT_TRUE(std::filesystem::is_empty(folder.At("Bo/Poses/Nothing")));
     struct stat status;
     stat(folder.At("Bo/a.bmp").c_str(), &status);
@@ -123,6 +129,24 @@ TEST_F(DiskTest, AMoveKeepsTheNameAndNeverReplacesWhatIsThere)
     EXPECT_EQ("", Error(pBo.Get())) << "the last change succeeded";
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
     EXPECT_EQ("[a.bmp]", Members("Bo")) << "once, and what it has not heard of is not in it";
+}
+
+TEST_F(DiskTest, ANameThatIsTakenBetweenChoosingAndAddingIsChosenAnew)
+{
+    folder.Make("Ada/a.bmp Bo/");
+    Open();
+    const auto pBo = Container("Bo");
+    EXPECT_TRUE(ReadEach(Copy("Ada", {"a.bmp"}), [&](IAtom* pAtom) -> BOOL {
+        CString name("a.bmp");
+        EXPECT_TRUE(pBo->ValidateName(name, 0));
+        folder.Write("Bo/a.bmp", "somebody else's");
+        CStubRef<IAtom> pAdded;
+        EXPECT_TRUE(pBo->AddAtom(pAtom, 0, name, pAdded.Receive(), IID_IAtom));
+        EXPECT_EQ("a (2).bmp", Name(pAdded.Get()));
+        return TRUE;
+    }));
+    EXPECT_EQ(folder.Read("Ada/a.bmp"), folder.Read("Bo/a (2).bmp"));
+    EXPECT_EQ("somebody else's", folder.Read("Bo/a.bmp"));
 }
 
 TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
@@ -398,6 +422,8 @@ TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
     EXPECT_EQ("none", Permissions(pLinks, "Ada"));
     EXPECT_EQ("", Paste(pLinks, "Ada/run.phase", true));
     EXPECT_EQ("[#b.bmp a.bmp]", Members("Ada/run.phase"));
+    EXPECT_EQ("lost.bmp: no such file or directory", CopyError("Ada/walk.phase", {"lost.bmp"}));
+    folder.Link("Ada/lost.bmp", "nowhere");
     EXPECT_EQ("lost.bmp: no such file or directory", CopyError("Ada/walk.phase", {"lost.bmp"}));
     folder.Write("Ada/run.phase", "b.bmp\n");
     EXPECT_EQ("run.phase: was changed by another program; read it again first", Remove("Ada/run.phase", "a.bmp"));

@@ -224,7 +224,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)] | 5 objects, 1 selected | new one.bmp: 8 x 8 "
               "pixels",
               Screen());
-    desktop.DragIn({{"text/uri-list", uri("notes.txt") + uri("a.bmp")}});
+    desktop.DragIn({{"text/uri-list", uri("notes.txt/") + uri("a.bmp")}});
     DropOnTree("Bo");
     Settle();
     EXPECT_EQ(Ledger({"Not everything was taken: notes.txt: not a file that the library shows"}), TakeBoxes());
