@@ -45,7 +45,7 @@ TEST(RegionTest, HoldsExactlyThePixelsThatWereAddedAndNotTakenAway)
         Region region(rect());
         Pixels expected = PixelsOf(region);
         for (int step = 0; step < 4; ++step) {
-            const CRect added = rect(), taken = rect(), kept(1, 1, 15, 15);
+            const CRect added = rect(), taken = rect();
             region.Add(added);
             expected.merge(PixelsOf(added));
             region.Subtract(taken);

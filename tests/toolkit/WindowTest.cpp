@@ -117,9 +117,8 @@ TEST_F(WindowTest, AnExceptionInAHandlerIsReportedOnceAndEndsThere)
         try {
             SendMessage(frame.m_hWnd, WM_APP, 0, 0);
             Write("after the inner message");
-            FailAllocation failure(2);
-            std::vector<std::unique_ptr<int>> numbers;
-            numbers.push_back(std::make_unique<int>(1));
+            FailAllocation failure(1);
+            ::operator delete(::operator new(1)); // which no compiler may leave out
         } catch (CMemoryException& exception) {
             exception.ReportError();
             exception.ReportError();
