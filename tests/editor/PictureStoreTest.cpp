@@ -139,7 +139,7 @@ TEST_F(PictureStoreTest, OneFileIsReadAgainForALargerSizeOnlyWhenThatShowsMore)
 
 TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
 {
-    folder.WriteBmp("large.bmp", 900, 900);
+    folder.WriteBmp("large.bmp", 900, 90);
     folder.WriteBmp("other.bmp");
     Open();
     const auto pAtom = Find("large.bmp");
