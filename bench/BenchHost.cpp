@@ -1,39 +1,28 @@
 #include "bench/BenchHost.h"
 
+#include "AtomLib/AtomLib.h"
 #include "Kernel/Kernel.h"
 #include "Toolkit/graphics/ImageList.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <cstring>
 #include <map>
-#include <numeric>
-#include <random>
 
 namespace bench
 {
 namespace
 {
 
-constexpr int kIcons = 64;
-
-// A disc of its own colour for each icon, drawn once for each size.
-HBITMAP IconBitmap(unsigned number, int size)
+HBITMAP IconBitmap(int icon, int extent)
 {
-    static std::map<std::pair<unsigned, int>, HBITMAP> s_icons;
-    HBITMAP& icon = s_icons[{number % kIcons, size}];
-    if (icon)
-        return icon;
-
-    toolkit::Surface picture({size, size});
-    for (int y = 0; y < size; ++y) {
-        for (int x = 0; x < size; ++x) {
-            const int dx = 2 * x - size, dy = 2 * y - size;
-            if (dx * dx + dy * dy < size * size)
-                picture.Row(y)[x] = 0xFF000000u | (number * 0x9E3779B1u & 0x7F7F7Fu) | 0x303030u;
-        }
+    static std::map<std::pair<int, int>, HBITMAP> s_icons;
+    HBITMAP& hIcon = s_icons[{icon, extent}];
+    if (!hIcon) {
+        toolkit::Surface picture({extent, extent});
+        std::ranges::copy(MakeIcon(icon, extent), picture.Row(0));
+        hIcon = CreateBitmapFromSurface(std::move(picture));
     }
-    return icon = CreateBitmapFromSurface(std::move(picture));
+    return hIcon;
 }
 
 template <class Interface>
@@ -41,14 +30,6 @@ void Give(Interface* p, void** out)
 {
     static_cast<CStubBaseInterface*>(p)->AddRef();
     *out = p;
-}
-
-BOOL GiveName(std::string_view name, char* pBuffer, DWORD* pLength)
-{
-    if (pBuffer)
-        pBuffer[name.copy(pBuffer, name.size())] = '\0';
-    *pLength = static_cast<DWORD>(name.size() + 1);
-    return TRUE;
 }
 
 template <class Members>
@@ -63,10 +44,36 @@ void GiveMembers(const Members& members, UINT nFirst, UINT nCount, void** ppOut,
 
 } // namespace
 
-Atom::Atom(Container& container, unsigned number, unsigned nameNumber) : m_container(container), m_number(number)
+int Look::AddToImageList(HIMAGELIST hImageList, int nReplace)
 {
-    std::snprintf(m_name, sizeof m_name, "%s %06u", nameNumber % 3 ? "iTEm" : "Item", nameNumber % 1000000);
+    int cx = 0, cy = 0;
+    if (!ImageList_GetIconSize(hImageList, &cx, &cy))
+        return -1;
+    const HBITMAP hIcon = IconBitmap(m_sample.icon, cx);
+    if (nReplace < 0)
+        return ImageList_Add(hImageList, hIcon, nullptr);
+    return ImageList_Replace(hImageList, nReplace, hIcon, nullptr) ? nReplace : -1;
 }
+
+BOOL Look::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT)
+{
+    if (!DrawThumbnailProportional(hdc, rect, IconBitmap(m_sample.icon, 48), nullptr, nullptr, nullptr))
+        return FALSE;
+    const CSize text = GetTextExtent(hdc, m_sample.Name());
+    return TextOut(hdc, rect.left + (rect.Width() - text.cx) / 2, rect.bottom, m_sample.Name());
+}
+
+BOOL Look::GiveName(char* pBuffer, DWORD* pLength) const
+{
+    *pLength = m_sample.length + 1u;
+    if (pBuffer)
+        std::memcpy(pBuffer, m_sample.name, *pLength);
+    return TRUE;
+}
+
+Atom::Atom(Container& container, const Sample& sample, unsigned number)
+    : Look(sample), m_container(container), m_number(number)
+{}
 
 void Atom::GetInterface(DWORD id, void** out)
 {
@@ -75,14 +82,8 @@ void Atom::GetInterface(DWORD id, void** out)
         Give(static_cast<IAtom*>(this), out);
     else if (id == IID_IAtomIcon)
         Give(static_cast<IAtomIcon*>(this), out);
-}
-
-BOOL Atom::GetName(char* pBuffer, DWORD* pLength)
-{
-    if (pBuffer)
-        std::memcpy(pBuffer, m_name, kNameSize);
-    *pLength = kNameSize;
-    return TRUE;
+    else if (id == IID_IAtomThumbnail)
+        Give(static_cast<IAtomThumbnail*>(this), out);
 }
 
 BOOL Atom::GetContainer(void** ppOut, DWORD dwInterfaceId)
@@ -91,35 +92,17 @@ BOOL Atom::GetContainer(void** ppOut, DWORD dwInterfaceId)
     return *ppOut != nullptr;
 }
 
-int Atom::AddToImageList(HIMAGELIST hImageList, int nReplace)
+Container::Container(std::span<const Sample> members, const Sample& self, Library* pLibrary)
+    : Look(self), m_pLibrary(pLibrary)
 {
-    int cx = 0, cy = 0;
-    if (!ImageList_GetIconSize(hImageList, &cx, &cy))
-        return -1;
-    const HBITMAP icon = IconBitmap(m_number, cx);
-    if (nReplace < 0)
-        return ImageList_Add(hImageList, icon, nullptr);
-    return ImageList_Replace(hImageList, nReplace, icon, nullptr) ? nReplace : -1;
+    m_members.reserve(members.size());
+    for (const Sample& member : members)
+        Append(member);
 }
 
-Container::Container(unsigned nMembers, Library* pLibrary, unsigned number) : m_pLibrary(pLibrary), m_number(number)
+Atom& Container::Append(const Sample& sample)
 {
-    std::vector<unsigned> numbers(nMembers);
-    std::iota(numbers.begin(), numbers.end(), 0u);
-    std::shuffle(numbers.begin(), numbers.end(), std::mt19937(20));
-    m_members.reserve(nMembers);
-    for (const unsigned nameNumber : numbers)
-        Append(nameNumber);
-}
-
-void Container::Append()
-{
-    Append(static_cast<unsigned>(m_members.size()));
-}
-
-void Container::Append(unsigned nameNumber)
-{
-    m_members.push_back(std::make_unique<Atom>(*this, static_cast<unsigned>(m_members.size()), nameNumber));
+    return *m_members.emplace_back(std::make_unique<Atom>(*this, sample, GetCount()));
 }
 
 void Container::GetInterface(DWORD id, void** out)
@@ -129,13 +112,10 @@ void Container::GetInterface(DWORD id, void** out)
         Give(static_cast<IAtom*>(this), out);
     else if (id == IID_IAtomContainer)
         Give(static_cast<IAtomContainer*>(this), out);
+    else if (id == IID_IAtomIcon)
+        Give(static_cast<IAtomIcon*>(this), out);
     else if (id == IID_ICharacterLibrary)
         Give(static_cast<ICharacterLibrary*>(this), out);
-}
-
-BOOL Container::GetName(char* pBuffer, DWORD* pLength)
-{
-    return GiveName("Container " + std::to_string(m_number), pBuffer, pLength);
 }
 
 BOOL Container::GetContainer(void** ppOut, DWORD dwInterfaceId)
@@ -151,10 +131,13 @@ void Container::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfa
     GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
 }
 
-Library::Library(unsigned nContainers, unsigned nAtoms)
+Library::Library(std::span<const Sample> samples) : Look(samples[0])
 {
-    for (unsigned i = 0; i < nContainers; ++i)
-        m_members.push_back(std::make_unique<Container>(nAtoms / nContainers, this, i));
+    const std::size_t nEach = (samples.size() - kContainers - 1) / kContainers;
+    for (std::size_t i = 0; i < kContainers; ++i) {
+        const auto members = samples.subspan(1 + kContainers + i * nEach, nEach);
+        m_members.push_back(std::make_unique<Container>(members, samples[1 + i], this));
+    }
 }
 
 void Library::GetInterface(DWORD id, void** out)
@@ -164,13 +147,10 @@ void Library::GetInterface(DWORD id, void** out)
         Give(static_cast<IAtom*>(this), out);
     else if (id == IID_IAtomContainer)
         Give(static_cast<IAtomContainer*>(this), out);
+    else if (id == IID_IAtomIcon)
+        Give(static_cast<IAtomIcon*>(this), out);
     else if (id == IID_ICharacterLibrary)
         Give(static_cast<ICharacterLibrary*>(this), out);
-}
-
-BOOL Library::GetName(char* pBuffer, DWORD* pLength)
-{
-    return GiveName("Library", pBuffer, pLength);
 }
 
 BOOL Library::GetContainer(void** ppOut, DWORD)
@@ -249,6 +229,11 @@ EditorService::EditorService() : m_provider(std::make_unique<Provider>())
 EditorService::~EditorService()
 {
     SRVN_InstallProvider("GetAtomEditorSv", nullptr);
+}
+
+void Announce(AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer)
+{
+    CStubRef<IAtomEditor>::Adopt(GetAtomEditor())->NotifyHandlers(nullptr, operation, pAtom, pContainer, 0);
 }
 
 } // namespace bench

@@ -3,8 +3,10 @@
 #pragma once
 
 #include "Views/host/host.h"
+#include "bench/Samples.h"
 
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -30,69 +32,84 @@ protected:
 
 class Container;
 
-// An atom with a name of 11 bytes and one of 64 icons. Counted, but owned by its container whatever the count.
-class Atom final : public IAtom, public IAtomIcon
+// What an object looks like: its icon in lists and trees, and a picture composed of its icon and its name.
+class Look : public IAtomIcon, public IAtomThumbnail
 {
 public:
-    Atom(Container& container, unsigned number, unsigned nameNumber);
+    explicit Look(const Sample& sample) : m_sample(sample) {}
 
-    void AddRef() override { ++m_nReferences; }
-    void Release() override { --m_nReferences; }
-    void GetInterface(DWORD id, void** out) override;
-    DWORD GetID() override { return m_number; }
-    BOOL GetName(char* pBuffer, DWORD* pLength) override;
-    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
-    BOOL IsModified() override { return FALSE; }
     BOOL GetIcon(ICONREQUEST*) override { return FALSE; }
     int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
+    UINT GetFrameCount() override { return 1; }
+    BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
+
+protected:
+    ~Look() = default;
+    BOOL GiveName(char* pBuffer, DWORD* pLength) const;
 
 private:
-    static constexpr DWORD kNameSize = 12; // with its zero
-
-    Container& m_container;
-    unsigned m_number;
-    int m_nReferences = 0;
-    char m_name[kNameSize];
+    const Sample m_sample;
 };
 
-// A container of n atoms in shuffled order (a fixed seed): at its own top, or in a library under a name by its number.
-class Container final : public FixedContainer, public ICharacterLibrary
+// Counted, but owned by its container whatever the count.
+class Atom final : public IAtom, public Look
 {
 public:
-    explicit Container(unsigned nMembers, class Library* pLibrary = nullptr, unsigned number = 0);
+    Atom(Container& container, const Sample& sample, unsigned number);
 
     void AddRef() override { ++m_nReferences; }
     void Release() override { --m_nReferences; }
     void GetInterface(DWORD id, void** out) override;
     DWORD GetID() override { return m_number; }
-    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetName(char* pBuffer, DWORD* pLength) override { return GiveName(pBuffer, pLength); }
+    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
+    BOOL IsModified() override { return FALSE; }
+
+private:
+    Container& m_container;
+    const unsigned m_number;
+    int m_nReferences = 0;
+};
+
+// A container of atoms: at its own top, or in a library.
+class Container final : public FixedContainer, public ICharacterLibrary, public Look
+{
+public:
+    explicit Container(unsigned nMembers) : Container(MakeSamples(nMembers)) {}
+    explicit Container(std::span<const Sample> members, const Sample& self = {}, class Library* pLibrary = nullptr);
+
+    void AddRef() override { ++m_nReferences; }
+    void Release() override { --m_nReferences; }
+    void GetInterface(DWORD id, void** out) override;
+    DWORD GetID() override { return 0; }
+    BOOL GetName(char* pBuffer, DWORD* pLength) override { return GiveName(pBuffer, pLength); }
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
 
     std::size_t MemberCount() const { return m_members.size(); }
     Atom& Member(unsigned n) { return *m_members[n]; }
-    void Append(); // one member more, whose name comes after all others
-    void Append(unsigned nameNumber);
+    Atom& Append(const Sample& sample);
+    Atom& Append() { return Append(MakeSample(GetCount())); } // whose name comes after all others
+    void Truncate(unsigned nMembers) { m_members.resize(nMembers); }
 
 private:
     Library* const m_pLibrary; // NULL: none
-    const unsigned m_number;
     std::vector<std::unique_ptr<Atom>> m_members;
     int m_nReferences = 0;
 };
 
 // A top with containers that have equal shares of n atoms.
-class Library final : public FixedContainer, public ICharacterLibrary
+class Library final : public FixedContainer, public ICharacterLibrary, public Look
 {
 public:
-    Library(unsigned nContainers, unsigned nAtoms);
+    explicit Library(unsigned nAtoms) : Library(MakeSamples(nAtoms + kContainers + 1)) {}
 
     void AddRef() override { ++m_nReferences; }
     void Release() override { --m_nReferences; }
     void GetInterface(DWORD id, void** out) override;
     DWORD GetID() override { return 0; }
-    BOOL GetName(char* pBuffer, DWORD* pLength) override;
+    BOOL GetName(char* pBuffer, DWORD* pLength) override { return GiveName(pBuffer, pLength); }
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
@@ -100,6 +117,8 @@ public:
     Container& Member(unsigned n) { return *m_members[n]; }
 
 private:
+    explicit Library(std::span<const Sample> samples); // its own, its containers', all others
+
     std::vector<std::unique_ptr<Container>> m_members;
     int m_nReferences = 0;
 };
@@ -118,5 +137,8 @@ private:
     struct Provider;
     std::unique_ptr<Provider> m_provider;
 };
+
+// Has the editor tell all views.
+void Announce(AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
 
 } // namespace bench

@@ -2,6 +2,7 @@
 
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/window/Desktop.h"
+#include "bench/Samples.h"
 
 #ifdef VIEWS_BENCH_QT
 #include "QtDesktop/QtDesktop.h"
@@ -17,7 +18,7 @@ namespace bench
 namespace
 {
 
-constexpr CRect kFrame(0, 0, 1024, 768);
+constexpr CRect kFrame(0, 0, kWindowWidth, kWindowHeight);
 
 #ifdef VIEWS_BENCH_QT
 struct TheDesktop
@@ -29,7 +30,7 @@ struct TheDesktop
         static char s_name[] = "views_bench";
         static char* s_argv[] = {s_name, nullptr};
         application = std::make_unique<QApplication>(s_argc, s_argv);
-        application->setFont(QFont("DejaVu Sans", 9));
+        application->setFont(QFont(kFontName, kFontPoints));
         desktop = std::make_unique<qtdesktop::QtDesktop>();
     }
     static void Present() { QApplication::processEvents(); }
@@ -51,6 +52,7 @@ struct Process
     Process()
     {
         resources.AddBitmap(1006, toolkit::Surface({48, 48}, 0xFF336699));
+        resources.AddBitmap(1011, toolkit::Surface({16, 16}, 0xFF336699));
         resources.AddBitmap(1013, toolkit::Surface({32, 16}, 0xFF336699));
         resources.AddString(1008, "Icons");
         resources.Join();
@@ -96,18 +98,6 @@ void ViewWindow::Settle()
 {
     toolkit::RunPendingMessages();
     TheDesktop::Present();
-}
-
-ListWindow::ListWindow()
-{
-    m_list.Create(&m_frame);
-    Show(m_list);
-}
-
-TreeWindow::TreeWindow()
-{
-    m_tree.Create(&m_frame);
-    Show(m_tree);
 }
 
 } // namespace bench

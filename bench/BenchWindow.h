@@ -35,24 +35,33 @@ protected:
     CWnd m_frame;
 };
 
-class ListWindow : public ViewWindow
+template <class View>
+class WindowWith : public ViewWindow
 {
 public:
-    ListWindow();
-    CIconList& List() { return m_list; }
+    WindowWith()
+    {
+        m_view.Create(&m_frame);
+        Show(m_view);
+    }
 
-private:
-    CIconList m_list;
+protected:
+    View m_view;
 };
 
-class TreeWindow : public ViewWindow
+template <class View>
+class ListWindowWith : public WindowWith<View>
 {
 public:
-    TreeWindow();
-    CObjectsTree& Tree() { return m_tree; }
+    View& List() { return this->m_view; }
+};
+using ListWindow = ListWindowWith<CIconList>;
+using ThumbWindow = ListWindowWith<CThumbList>;
 
-private:
-    CObjectsTree m_tree;
+class TreeWindow : public WindowWith<CObjectsTree>
+{
+public:
+    CObjectsTree& Tree() { return m_view; }
 };
 
 } // namespace bench

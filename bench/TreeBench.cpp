@@ -10,9 +10,6 @@ namespace
 
 using namespace bench;
 
-constexpr unsigned kContainers = 100;
-constexpr unsigned kExpanded = 20;
-
 HTREEITEM FirstMember(CObjectsTree& tree)
 {
     return tree.GetChildItem(tree.GetRootItem());
@@ -36,7 +33,7 @@ void Announce(benchmark::State& state, IAtom& top)
 
 void AnnounceAHierarchy(benchmark::State& state)
 {
-    Library library(kContainers, static_cast<unsigned>(state.range(0)));
+    Library library(static_cast<unsigned>(state.range(0)));
     Announce(state, library);
 }
 
@@ -57,9 +54,9 @@ void AnnounceOneAtomMore(benchmark::State& state)
     window.Settle();
     for (auto _ : state) {
         state.PauseTiming();
-        container.Append(container.GetCount() * 7919u % static_cast<unsigned>(state.range(0)));
+        Atom& atom = container.Append(MakeSample(container.GetCount() * 7919u % static_cast<unsigned>(state.range(0))));
         state.ResumeTiming();
-        window.Tree().OnCreateAtom(&container.Member(container.GetCount() - 1), &container);
+        window.Tree().OnCreateAtom(&atom, &container);
     }
 }
 
@@ -67,7 +64,7 @@ void AnnounceOneAtomMore(benchmark::State& state)
 void RemoveAHierarchy(benchmark::State& state)
 {
     const EditorService service;
-    Library library(kContainers, static_cast<unsigned>(state.range(0)));
+    Library library(static_cast<unsigned>(state.range(0)));
     TreeWindow window;
     for (auto _ : state) {
         state.PauseTiming();
@@ -83,7 +80,7 @@ void RemoveAHierarchy(benchmark::State& state)
 void PageDownAndPaintAFrame(benchmark::State& state)
 {
     const EditorService service;
-    Library library(kContainers, static_cast<unsigned>(state.range(0)));
+    Library library(static_cast<unsigned>(state.range(0)));
     TreeWindow window;
     CObjectsTree& tree = window.Tree();
     tree.OnCreateAtom(&library, nullptr);
@@ -122,7 +119,7 @@ void ExpandAndCollapse(benchmark::State& state)
 void MemoryPerItem(benchmark::State& state)
 {
     const EditorService service;
-    Library library(kContainers, static_cast<unsigned>(state.range(0)));
+    Library library(static_cast<unsigned>(state.range(0)));
     TreeWindow window;
     double nBytes = 0;
     for (auto _ : state) {

@@ -1,0 +1,45 @@
+// Measures a workload a few times and prints what came out as one line of JSON.
+//
+//     Stopwatch watch("views", "list_open", 1000);
+//     while (watch.Next()) { set up; watch.Start(); work; watch.Lap("sort"); work; watch.Stop(); tear down; }
+//     watch.Print("what was measured");
+#pragma once
+
+#include <chrono>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace bench
+{
+
+class Stopwatch
+{
+public:
+    static constexpr int kRepetitions = 5;
+
+    Stopwatch(std::string peer, std::string workload, unsigned count, int repetitions = kRepetitions);
+
+    bool Next() const; // false after the repetitions, and after 20 seconds
+    void Start();
+    void Lap(const std::string& part); // the median of each part goes into the notes
+    void Stop(double divisor = 1);     // what took so long was done so many times
+    void Print(const std::string& notes) const;
+
+    unsigned Count() const { return m_count; }
+    const std::string& Workload() const { return m_workload; }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    const std::string m_peer, m_workload;
+    const unsigned m_count;
+    const int m_repetitions;
+    const Clock::time_point m_born = Clock::now();
+    Clock::time_point m_started, m_lapStarted;
+    long m_residentBefore = 0, m_residentGrown = 0; // of the first repetition, kilobytes
+    std::vector<double> m_times;                    // milliseconds
+    std::map<std::string, std::vector<double>> m_laps;
+};
+
+} // namespace bench

@@ -1,0 +1,60 @@
+#include "bench/BenchHost.h"
+#include "bench/BenchWindow.h"
+#include "bench/Workloads.h"
+
+namespace
+{
+
+using namespace bench;
+
+void ExpandContainers(CObjectsTree& tree)
+{
+    tree.Expand(tree.GetRootItem(), TVE_EXPAND);
+    HTREEITEM hItem = tree.GetChildItem(tree.GetRootItem());
+    for (unsigned i = 0; i < kExpanded; ++i, hItem = tree.GetNextSiblingItem(hItem))
+        tree.Expand(hItem, TVE_EXPAND);
+}
+
+} // namespace
+
+void bench::OpenTree(Stopwatch& watch)
+{
+    Library library(watch.Count());
+    while (watch.Next()) {
+        const EditorService service;
+        TreeWindow window;
+        watch.Start();
+        Announce(&IAEStateHandler::OnCreateAtom, &library, nullptr);
+        watch.Lap("1 announce");
+        ExpandContainers(window.Tree());
+        watch.Lap("2 expand");
+        window.Settle();
+        watch.Lap("3 frame");
+        watch.Stop();
+    }
+}
+
+void bench::InsertIntoTree(Stopwatch& watch)
+{
+    auto samples = MakeSamples(watch.Count() + kContainers + 1);
+    const Sample self = samples.front();
+    samples.erase(samples.begin());
+    samples.resize(watch.Count());
+    while (watch.Next()) {
+        const EditorService service;
+        Container container(std::span<const Sample>(samples.data(), 1), self);
+        TreeWindow window;
+        Announce(&IAEStateHandler::OnCreateAtom, &container, nullptr);
+        window.Tree().Expand(window.Tree().GetRootItem(), TVE_EXPAND);
+        window.Settle();
+
+        watch.Start();
+        for (const Sample& sample : std::span(samples).subspan(1))
+            Announce(&IAEStateHandler::OnCreateAtom, &container.Append(sample), &container);
+        watch.Lap("1 announce");
+        window.Settle();
+        watch.Lap("2 frame");
+        watch.Stop();
+        Announce(&IAEStateHandler::OnDeleteAtom, &container, nullptr);
+    }
+}
