@@ -28,9 +28,9 @@ void CObjectsListCache::Iterator::SkipEmptyBuckets()
 
 CObjectsListCache::NODE* CObjectsListCache::FindNode(int nRow) const
 {
-    NODE* pNode = m_buckets[BucketOf(nRow)];
+    NODE* pNode = m_finders[PlaceOf(nRow)];
     while (pNode && pNode->nRow != nRow)
-        pNode = pNode->pNext;
+        pNode = pNode->pNextFound;
     return pNode;
 }
 
@@ -40,18 +40,22 @@ const CObjectsListCache::CACHEDATA* CObjectsListCache::Find(int nRow) const
     return pNode ? &pNode->data : nullptr;
 }
 
+bool CObjectsListCache::IsWalkedBefore(const NODE& a, const NODE& b)
+{
+    const std::size_t nBucketA = BucketOf(a.nRow), nBucketB = BucketOf(b.nRow);
+    return nBucketA != nBucketB ? nBucketA < nBucketB : a.nAdded > b.nAdded;
+}
+
 int CObjectsListCache::FindOldest(DWORD dwNow) const
 {
-    DWORD dwBestAge = 0;
-    int nOldest = -1;
-    for (const NODE& node : *this) {
-        const DWORD dwAge = dwNow - node.data.dwTick;
-        if (dwAge > dwBestAge) {
-            dwBestAge = dwAge;
-            nOldest = node.nRow;
-        }
+    const NODE* pOldest = m_pOldest;
+    if (!pOldest || pOldest->data.dwTick == dwNow)
+        return -1;
+    for (const NODE* p = pOldest->pNewer; p && p->data.dwTick == pOldest->data.dwTick; p = p->pNewer) {
+        if (IsWalkedBefore(*p, *pOldest))
+            pOldest = p;
     }
-    return nOldest;
+    return pOldest->nRow;
 }
 
 void CObjectsListCache::Reserve()
@@ -66,31 +70,75 @@ void CObjectsListCache::Reserve()
 void CObjectsListCache::Store(int nRow, CACHEDATA data)
 {
     NODE* pNode = FindNode(nRow);
-    if (!pNode) {
-        Reserve();
-        pNode = std::exchange(m_pFree, m_pFree->pNext);
-        pNode->nRow = nRow;
-        pNode->pNext = std::exchange(m_buckets[BucketOf(nRow)], pNode);
-        ++m_nCount;
-    }
+    if (pNode)
+        RemoveFromAges(pNode);
+    else
+        pNode = AddNode(nRow);
+    MakeNewest(pNode);
     pNode->data = std::move(data);
+}
+
+CObjectsListCache::NODE* CObjectsListCache::AddNode(int nRow)
+{
+    Reserve();
+    NODE* const pNode = std::exchange(m_pFree, m_pFree->pNext);
+    pNode->nRow = nRow;
+    pNode->nAdded = ++m_nAdded;
+    AddToBucket(pNode);
+    pNode->pNextFound = std::exchange(m_finders[PlaceOf(nRow)], pNode);
+    ++m_nCount;
+    return pNode;
+}
+
+void CObjectsListCache::AddToBucket(NODE* pNode)
+{
+    pNode->pFormer = nullptr;
+    pNode->pNext = std::exchange(m_buckets[BucketOf(pNode->nRow)], pNode);
+    if (pNode->pNext)
+        pNode->pNext->pFormer = pNode;
+}
+
+void CObjectsListCache::RemoveFromBucket(NODE* pNode)
+{
+    (pNode->pFormer ? pNode->pFormer->pNext : m_buckets[BucketOf(pNode->nRow)]) = pNode->pNext;
+    if (pNode->pNext)
+        pNode->pNext->pFormer = pNode->pFormer;
+}
+
+void CObjectsListCache::MakeNewest(NODE* pNode)
+{
+    pNode->pNewer = nullptr;
+    pNode->pOlder = std::exchange(m_pNewest, pNode);
+    (pNode->pOlder ? pNode->pOlder->pNewer : m_pOldest) = pNode;
+}
+
+void CObjectsListCache::RemoveFromAges(NODE* pNode)
+{
+    (pNode->pOlder ? pNode->pOlder->pNewer : m_pOldest) = pNode->pNewer;
+    (pNode->pNewer ? pNode->pNewer->pOlder : m_pNewest) = pNode->pOlder;
 }
 
 void CObjectsListCache::Touch(int nRow, DWORD dwTick)
 {
-    if (NODE* pNode = FindNode(nRow))
-        pNode->data.dwTick = dwTick;
+    NODE* const pNode = FindNode(nRow);
+    if (!pNode)
+        return;
+    RemoveFromAges(pNode);
+    MakeNewest(pNode);
+    pNode->data.dwTick = dwTick;
 }
 
 void CObjectsListCache::Remove(int nRow)
 {
-    NODE** ppLink = &m_buckets[BucketOf(nRow)];
+    NODE** ppLink = &m_finders[PlaceOf(nRow)];
     while (*ppLink && (*ppLink)->nRow != nRow)
-        ppLink = &(*ppLink)->pNext;
+        ppLink = &(*ppLink)->pNextFound;
     NODE* const pNode = *ppLink;
     if (!pNode)
         return;
-    *ppLink = pNode->pNext;
+    *ppLink = pNode->pNextFound;
+    RemoveFromBucket(pNode);
+    RemoveFromAges(pNode);
     pNode->data = CACHEDATA();
     pNode->pNext = std::exchange(m_pFree, pNode);
     --m_nCount;
@@ -99,14 +147,18 @@ void CObjectsListCache::Remove(int nRow)
 void CObjectsListCache::RemoveAll()
 {
     m_buckets.fill(nullptr);
-    m_pFree = nullptr;
+    m_finders.fill(nullptr);
+    m_pOldest = m_pNewest = m_pFree = nullptr;
     m_nCount = 0;
     m_blocks.clear();
 }
 
 void CObjectsListCache::CopyWithoutRow(const CObjectsListCache& other, int nRemoved)
 {
+    const auto moved = [nRemoved](const NODE& node) { return node.nRow < nRemoved ? node.nRow : node.nRow - 1; };
     RemoveAll();
     for (const NODE& node : other)
-        Store(node.nRow < nRemoved ? node.nRow : node.nRow - 1, node.data);
+        Store(moved(node), node.data);
+    for (const NODE* p = other.m_pOldest; p; p = p->pNewer)
+        Touch(moved(*p), p->data.dwTick);
 }

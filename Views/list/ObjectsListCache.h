@@ -12,7 +12,8 @@
 //
 // The order in which it is walked is fixed, because eviction takes the first of equally old records: 17 buckets in
 // increasing order, a row in bucket (row / 16) mod 17, in a bucket the record added last first. References and
-// iterators stay good until their own record is removed.
+// iterators stay good until their own record is removed. Nothing but a walk costs more when there are more records:
+// every row that comes into sight is looked for, and most make another one leave.
 class VIEWS_API CObjectsListCache
 {
 public:
@@ -28,6 +29,10 @@ public:
         int nRow = -1;
         CACHEDATA data;
         NODE* pNext = nullptr; // in the bucket, or in the list of free nodes
+        NODE* pFormer = nullptr;
+        NODE* pNextFound = nullptr;                // of those that FindNode looks at
+        NODE *pOlder = nullptr, *pNewer = nullptr; // by the hints that touched them
+        unsigned nAdded = 0;                       // counts up
     };
 
     class Iterator
@@ -53,7 +58,8 @@ public:
     int GetCount() const { return m_nCount; }
     const CACHEDATA* Find(int nRow) const; // NULL when the row is not cached
     // The row with the greatest age, the first of them in the map's order; -1 when none is older than 0. Ages are
-    // differences of ticks, so that they survive the tick counter's wrap.
+    // differences of ticks, so that they survive the tick counter's wrap; a record stored or touched is younger than
+    // all others, or as young.
     int FindOldest(DWORD dwNow) const;
     Iterator begin() const { return {this, 0}; }
     Iterator end() const { return {this, kBuckets}; }
@@ -69,16 +75,27 @@ public:
 
 private:
     static constexpr int kBuckets = 17;
+    static constexpr int kFinders = 1024;
     static constexpr int kNodesAtATime = 10;
 
     static std::size_t BucketOf(int nRow)
     {
         return static_cast<std::size_t>((static_cast<UINT>(nRow) >> 4) % kBuckets);
     }
+    static std::size_t PlaceOf(int nRow) { return static_cast<UINT>(nRow) % kFinders; }
+    static bool IsWalkedBefore(const NODE& a, const NODE& b);
     NODE* FindNode(int nRow) const;
+    NODE* AddNode(int nRow);
+    void AddToBucket(NODE* pNode);
+    void RemoveFromBucket(NODE* pNode);
+    void MakeNewest(NODE* pNode);
+    void RemoveFromAges(NODE* pNode);
 
     std::array<NODE*, kBuckets> m_buckets{};
+    std::array<NODE*, kFinders> m_finders{}; // the same nodes, in many short chains
+    NODE *m_pOldest = nullptr, *m_pNewest = nullptr;
     std::vector<std::unique_ptr<std::array<NODE, kNodesAtATime>>> m_blocks; // own all nodes
     NODE* m_pFree = nullptr;
     int m_nCount = 0;
+    unsigned m_nAdded = 0;
 };

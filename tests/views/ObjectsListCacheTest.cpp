@@ -55,6 +55,13 @@ TEST(ObjectsListCacheTest, RowsMoveUpIntoTheSpareMapInWalkingOrder)
     EXPECT_EQ("15 0 1 2 31 16 32last ", Walk(spare)); // the walk 3 1 0 17 16 33 32, each put in front of the last
     EXPECT_EQ(8, spare.Find(32)->nImage);
     EXPECT_EQ("3 1 0 17 16 33last 32 ", Walk(cache));
+
+    EXPECT_EQ(15, spare.FindOldest(9)); // of all but the last, the first in the walk
+    for (const int nRow : {15, 0, 1, 2, 16})
+        spare.Touch(nRow, 8);
+    EXPECT_EQ(31, spare.FindOldest(9));
+    spare.Remove(31);
+    EXPECT_EQ(32, spare.FindOldest(9));
 }
 
 } // namespace
