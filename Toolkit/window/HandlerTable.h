@@ -4,8 +4,8 @@
 #include "Toolkit/window/WindowApi.h"
 
 #include <initializer_list>
-#include <unordered_map>
 #include <utility>
+#include <vector>
 
 namespace toolkit
 {
@@ -15,19 +15,35 @@ class HandlerTable
 {
 public:
     using Handler = LRESULT (Control::*)(WPARAM, LPARAM);
+    using Entry = std::pair<UINT, Handler>;
 
-    HandlerTable(std::initializer_list<std::pair<const UINT, Handler>> handlers) : m_handlers(handlers) {}
+    HandlerTable(std::initializer_list<Entry> handlers)
+    {
+        while (m_slots.size() < 4 * handlers.size())
+            m_slots.resize(2 * m_slots.size());
+        for (const Entry& entry : handlers)
+            m_slots[SlotOf(entry.first)] = entry;
+    }
 
     // The handler's answer; that of ::DefWindowProc for a message that has none. The control may be gone afterwards.
     LRESULT Call(Control& control, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) const
     {
-        const auto it = m_handlers.find(message);
-        return it == m_handlers.end() ? ::DefWindowProc(hWnd, message, wParam, lParam)
-                                      : (control.*it->second)(wParam, lParam);
+        const Handler handler = m_slots[SlotOf(message)].second;
+        return handler ? (control.*handler)(wParam, lParam) : ::DefWindowProc(hWnd, message, wParam, lParam);
     }
 
 private:
-    const std::unordered_map<UINT, Handler> m_handlers;
+    // The message's slot, or the empty one where it would be.
+    std::size_t SlotOf(UINT message) const
+    {
+        const std::size_t mask = m_slots.size() - 1;
+        std::size_t i = message * 0x9E3779B1u >> 16 & mask;
+        while (m_slots[i].second && m_slots[i].first != message)
+            i = (i + 1) & mask;
+        return i;
+    }
+
+    std::vector<Entry> m_slots = std::vector<Entry>(16); // a power of two, at most a quarter of them taken
 };
 
 } // namespace toolkit

@@ -6,7 +6,7 @@
 
 #include "Toolkit/window/MessageThunks.h"
 
-#include <cstdint>
+#include <array>
 
 class CWnd;
 
@@ -24,29 +24,32 @@ struct MessageEntry
     MessageHandler handler;
 };
 
-// One of 64 bits for a message and code: a class whose map has no entry under that bit is skipped at once.
-constexpr std::uint64_t MessageBit(UINT message, UINT code)
+// What a search has found, an entry or none. No message has the number 0.
+struct FoundEntry
 {
-    return std::uint64_t{1} << ((message * 0x9E3779B1u ^ code * 0x85EBCA77u) >> 26);
-}
-
-constexpr std::uint64_t MessageBits(const MessageEntry* entries)
-{
-    std::uint64_t bits = 0;
-    for (; entries->message != 0; ++entries) // not the handler: no constant where a sanitizer lets functions be NULL
-        bits |= MessageBit(entries->message, entries->code);
-    return bits;
-}
+    UINT message = 0, code = 0, id = 0;
+    const MessageEntry* pEntry = nullptr;
+};
 
 struct MessageMap
 {
     const MessageMap* (*base)(); // NULL at the root
     const MessageEntry* entries; // ends with an entry for message 0
-    std::uint64_t bits;          // MessageBits(entries)
+    // What was searched last for objects of this very class. Windows belong to one thread, and so does this.
+    mutable std::array<FoundEntry, 32> found{};
 };
 
 // The entry for a message, searched from the given class to the base; NULL without one.
-TOOLKIT_API const MessageEntry* FindMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id);
+TOOLKIT_API const MessageEntry* SearchMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id);
+
+// The same; costs a search only for what was not searched lately.
+inline const MessageEntry* FindMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id)
+{
+    FoundEntry& found = pMap->found[(message * 0x9E3779B1u ^ code * 0x85EBCA77u) >> 27];
+    if (found.message != message || found.code != code || found.id != id)
+        found = {message, code, id, SearchMessageEntry(pMap, message, code, id)};
+    return found.pEntry;
+}
 
 } // namespace toolkit
 
@@ -74,8 +77,7 @@ protected:                                                                      
     }                                                                                                                  \
     }                                                                                                                  \
     ;                                                                                                                  \
-    static constexpr toolkit::MessageMap map{[] { return BaseClass::GetThisMessageMap(); }, entries,                   \
-                                             toolkit::MessageBits(entries)};                                           \
+    static constinit const toolkit::MessageMap map{[] { return BaseClass::GetThisMessageMap(); }, entries};            \
     return &map;                                                                                                       \
     }
 

@@ -23,12 +23,9 @@ private:
 };
 } // namespace
 
-const toolkit::MessageEntry* toolkit::FindMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id)
+const toolkit::MessageEntry* toolkit::SearchMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id)
 {
-    const std::uint64_t bit = MessageBit(message, code);
     for (; pMap; pMap = pMap->base ? pMap->base() : nullptr) {
-        if ((pMap->bits & bit) == 0)
-            continue;
         for (const MessageEntry* p = pMap->entries; p->message != 0; ++p)
             if (p->message == message && p->code == code && id >= p->id && id <= p->lastID)
                 return p;
@@ -39,7 +36,7 @@ const toolkit::MessageEntry* toolkit::FindMessageEntry(const MessageMap* pMap, U
 const toolkit::MessageMap* CWnd::GetThisMessageMap()
 {
     static constexpr toolkit::MessageEntry entries[] = {{0, 0, 0, 0, nullptr}};
-    static constexpr toolkit::MessageMap map{nullptr, entries, 0};
+    static constinit const toolkit::MessageMap map{nullptr, entries};
     return &map;
 }
 
