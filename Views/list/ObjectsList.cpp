@@ -247,7 +247,8 @@ CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
 
 CStubRef<IAtom> CObjectsList::HoldAtom(int nItem) const
 {
-    return HoldPair(nItem).pAtom;
+    const bool bIsRow = nItem >= 0 && static_cast<std::size_t>(nItem) < m_atoms.size();
+    return bIsRow ? CStubRef<IAtom>::Share(m_atoms[static_cast<std::size_t>(nItem)].Get()) : nullptr;
 }
 
 CStubRef<IAtomContainer> CObjectsList::ContainerInRow(int nItem) const

@@ -57,32 +57,6 @@ TEST_F(ListModelTest, EnteringAContainerShowsItsMembersAndThePaneOnce)
     EXPECT_EQ(Ledger({"pane 1 \"Icons\" with icon"}), editor.TakeLedger());
 }
 
-TEST_F(ListModelTest, WithoutMemoryForItsIconThePaneComesWithoutIt)
-{
-    FakeContainer* const pBox = MakeBox({});
-    ProbeList& list = MakeList({});
-    const auto load = [&] { list.SetRootAtom(pBox); };
-    hooks.reserve(100);
-    editor.Uninstall();
-    load();
-    const int nWithoutPane = CountAllocations(load);
-    const auto makeIcon = [] { DestroyIcon(LoadIcon(1008)); };
-    makeIcon(); // the first icon of a process makes room for others, too
-    const int nForIcon = CountAllocations(makeIcon);
-    editor.Install();
-    EXPECT_LT(0, nForIcon);
-    for (int nth = 1; nth <= nForIcon; ++nth) {
-        list.OnAtomEntered(nullptr, nullptr);
-        editor.TakeLedger();
-        {
-            const FailAllocation failure(nWithoutPane + nth);
-            load();
-        }
-        EXPECT_EQ(Ledger({"pane 1 \"Icons\""}), editor.TakeLedger());
-        EXPECT_EQ(std::vector<std::string>{": Out of memory."}, desktop.TakeMessageBoxes());
-    }
-}
-
 TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
 {
     ProbeList& list = ShowList(MakeBox({"a", "b"}), {.passive = true});
