@@ -83,7 +83,7 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
     m_bSync = TRUE;
     m_bClosing = false;
-    m_bHasFocus = m_bFocusFromSelChange = FALSE;
+    m_bHasFocus = m_bFocusFromSelChange = m_bPaneShown = FALSE; // a former window's
     const auto pEditor = EditorToTell();
     if (pEditor && !m_registration.Begin(pEditor.Get(), m_hWnd, this))
         return -1;
