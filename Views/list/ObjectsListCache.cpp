@@ -48,14 +48,7 @@ bool CObjectsListCache::IsWalkedBefore(const NODE& a, const NODE& b)
 
 int CObjectsListCache::FindOldest(DWORD dwNow) const
 {
-    const NODE* pOldest = m_pOldest;
-    if (!pOldest || pOldest->data.dwTick == dwNow)
-        return -1;
-    for (const NODE* p = pOldest->pNewer; p && p->data.dwTick == pOldest->data.dwTick; p = p->pNewer) {
-        if (IsWalkedBefore(*p, *pOldest))
-            pOldest = p;
-    }
-    return pOldest->nRow;
+    return m_pOldest && m_pOldest->data.dwTick != dwNow ? m_pOldest->nRow : -1;
 }
 
 void CObjectsListCache::Reserve()
@@ -74,8 +67,8 @@ void CObjectsListCache::Store(int nRow, CACHEDATA data)
         RemoveFromAges(pNode);
     else
         pNode = AddNode(nRow);
-    MakeNewest(pNode);
     pNode->data = std::move(data);
+    AddToAges(pNode);
 }
 
 CObjectsListCache::NODE* CObjectsListCache::AddNode(int nRow)
@@ -105,11 +98,15 @@ void CObjectsListCache::RemoveFromBucket(NODE* pNode)
         pNode->pNext->pFormer = pNode->pFormer;
 }
 
-void CObjectsListCache::MakeNewest(NODE* pNode)
+// Among the newest of the same tick.
+void CObjectsListCache::AddToAges(NODE* pNode)
 {
-    pNode->pNewer = nullptr;
-    pNode->pOlder = std::exchange(m_pNewest, pNode);
-    (pNode->pOlder ? pNode->pOlder->pNewer : m_pOldest) = pNode;
+    NODE* pOlder = m_pNewest;
+    while (pOlder && pOlder->data.dwTick == pNode->data.dwTick && IsWalkedBefore(*pNode, *pOlder))
+        pOlder = pOlder->pOlder;
+    pNode->pOlder = pOlder;
+    pNode->pNewer = std::exchange(pOlder ? pOlder->pNewer : m_pOldest, pNode);
+    (pNode->pNewer ? pNode->pNewer->pOlder : m_pNewest) = pNode;
 }
 
 void CObjectsListCache::RemoveFromAges(NODE* pNode)
@@ -124,8 +121,8 @@ void CObjectsListCache::Touch(int nRow, DWORD dwTick)
     if (!pNode)
         return;
     RemoveFromAges(pNode);
-    MakeNewest(pNode);
     pNode->data.dwTick = dwTick;
+    AddToAges(pNode);
 }
 
 void CObjectsListCache::Remove(int nRow)

@@ -31,7 +31,7 @@ public:
         NODE* pNext = nullptr; // in the bucket, or in the list of free nodes
         NODE* pFormer = nullptr;
         NODE* pNextFound = nullptr;                // of those that FindNode looks at
-        NODE *pOlder = nullptr, *pNewer = nullptr; // by the hints that touched them
+        NODE *pOlder = nullptr, *pNewer = nullptr; // by their ticks, then as they are walked
         unsigned nAdded = 0;                       // counts up
     };
 
@@ -88,7 +88,7 @@ private:
     NODE* AddNode(int nRow);
     void AddToBucket(NODE* pNode);
     void RemoveFromBucket(NODE* pNode);
-    void MakeNewest(NODE* pNode);
+    void AddToAges(NODE* pNode);
     void RemoveFromAges(NODE* pNode);
 
     std::array<NODE*, kBuckets> m_buckets{};
