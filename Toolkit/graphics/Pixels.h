@@ -1,10 +1,9 @@
 // Arithmetic on premultiplied pixels, and the loops over a row of them that all drawing is made of.
 //
-// Two channels share one multiplication, so that the loops come out as vector code. Results are rounded to the
-// nearest value: the same on every machine.
+// Two channels share one multiplication. Results are rounded to the nearest value: the same on every machine.
 #pragma once
 
-#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/PixelVectors.h"
 
 #include <algorithm>
 
@@ -47,9 +46,13 @@ constexpr Pixel Inverted(Pixel pixel)
     return (pixel & 0xFF000000u) | ((alpha * 0x010101u - (pixel & 0xFFFFFFu)) & 0xFFFFFFu);
 }
 
+// Grounds are nearly always white, and equal bytes are what the C library fills fastest.
 inline void FillRow(Pixel* to, int count, Pixel pixel)
 {
-    std::fill_n(to, count, pixel);
+    if (pixel == (pixel & 0xFF) * 0x01010101u)
+        std::memset(to, static_cast<int>(pixel & 0xFF), static_cast<std::size_t>(count) * sizeof(Pixel));
+    else
+        std::fill_n(to, count, pixel);
 }
 
 inline void BlendRow(Pixel* to, int count, Pixel above)
@@ -73,11 +76,25 @@ inline void BlendRow(Pixel* __restrict to, const Pixel* __restrict from, int cou
         if (all >> 24 == 255)
             std::copy_n(from + i, kGroup, to + i);
         else if (any != 0)
-            for (int k = i; k < i + kGroup; ++k)
-                to[k] = Over(from[k], to[k]);
+            for (int k = i; k < i + kGroup; k += 4)
+                vectors::BlendFour(to + k, from + k);
     }
     for (; i < count; ++i)
         to[i] = Over(from[i], to[i]);
+}
+
+// An opaque colour through a mask: a byte for each pixel, 255 where only the colour is seen.
+inline void BlendRow(Pixel* __restrict to, const BYTE* __restrict mask, int count, Pixel color)
+{
+    int i = 0;
+    for (; i + 4 <= count; i += 4) {
+        std::uint32_t four;
+        std::memcpy(&four, mask + i, sizeof four);
+        if (four != 0)
+            vectors::BlendFourCovered(to + i, four, color);
+    }
+    for (; i < count; ++i)
+        to[i] = Over(ScalePixel(color, mask[i]), to[i]);
 }
 
 // By half, or by a quarter: half of what half would be.

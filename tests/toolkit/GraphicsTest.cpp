@@ -1,9 +1,11 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/toolkit/Picture.h"
 
+#include <array>
 #include <gtest/gtest.h>
 
 namespace
@@ -114,6 +116,29 @@ TEST_F(GraphicsTest, BlendsByAlphaWithoutDriftAtTheEnds)
     surface.Row(1)[0] = 0;
     BlendRect(hdc, CRect(0, 1, 1, 2), kRed, 128);
     EXPECT_EQ(0x80800000, surface.At(0, 1)); // over nothing the colour stays half transparent
+}
+
+// Many at a time and one by one: each row is longer than what is taken at once.
+TEST_F(GraphicsTest, ARowIsBlendedLikeEachOfItsPixels)
+{
+    constexpr int kCount = 23;
+    constexpr toolkit::Pixel kColor = 0xFF10C8FF;
+    for (toolkit::Pixel alpha = 0; alpha < 256; ++alpha) {
+        std::array<toolkit::Pixel, kCount> below, above, pictured, masked, expectedPicture, expectedMask;
+        std::array<BYTE, kCount> mask;
+        for (unsigned i = 0; i < kCount; ++i) {
+            below[i] = toolkit::Premultiplied(0x01020304u * (i * 11 + alpha));
+            above[i] = toolkit::Premultiplied(alpha << 24 | 0x0B17F3u * i % 0xFFFFFFu);
+            mask[i] = static_cast<BYTE>(alpha * (i % 3));
+            expectedPicture[i] = toolkit::Over(above[i], below[i]);
+            expectedMask[i] = toolkit::Over(toolkit::ScalePixel(kColor, mask[i]), below[i]);
+        }
+        pictured = masked = below;
+        toolkit::BlendRow(pictured.data(), above.data(), kCount);
+        toolkit::BlendRow(masked.data(), mask.data(), kCount, kColor);
+        EXPECT_EQ(expectedPicture, pictured);
+        EXPECT_EQ(expectedMask, masked);
+    }
 }
 
 TEST_F(GraphicsTest, PicturesAreDrawnByTheAlphaOfEachPixel)
