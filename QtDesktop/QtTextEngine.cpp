@@ -38,7 +38,8 @@ QtTextEngine::QtTextEngine()
 int QtTextEngine::Measure(std::string_view text, toolkit::FontStyle style)
 {
     Face& face = FaceOf(style);
-    return IsSimpleText(text) ? face.simple.Measure(text) : face.layout.Measure(text);
+    const std::optional<int> width = face.simple.Measure(text);
+    return width ? *width : face.layout.Measure(text);
 }
 
 void QtTextEngine::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
@@ -48,9 +49,7 @@ void QtTextEngine::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, 
     if (seen.IsRectEmpty())
         return;
     Face& face = FaceOf(style);
-    if (IsSimpleText(text))
-        face.simple.Draw(target, seen, at, text, color);
-    else
+    if (!face.simple.Draw(target, seen, at, text, color))
         face.layout.Draw(target, seen, at, text, color);
 }
 

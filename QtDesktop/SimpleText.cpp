@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr std::size_t kMaxGlyphs = 8192; // a few megabytes at most; then they are drawn anew
+constexpr int kLargestMask = 4096;       // pixels
 
 struct CodePoints
 {
@@ -47,10 +48,15 @@ CRect CoveredPart(const QImage& picture)
     return covered;
 }
 
-} // namespace
+bool IsPrintableAscii(char c)
+{
+    return c >= ' ' && c <= '~';
+}
 
 bool IsSimpleText(std::string_view text)
 {
+    if (std::ranges::all_of(text, IsPrintableAscii))
+        return true;
     while (!text.empty()) {
         if (!IsSimple(NextShown(text)))
             return false;
@@ -58,11 +64,15 @@ bool IsSimpleText(std::string_view text)
     return true;
 }
 
+} // namespace
+
 SimpleText::SimpleText(const QFont& font) : m_font(font), m_metrics(font), m_nBaseline(BaselineOf(font)) {}
 
 template <class Visit>
 long long SimpleText::Walk(std::string_view text, Visit visit)
 {
+    if (m_glyphs.size() >= kMaxGlyphs)
+        m_glyphs.clear();
     long long pen = 0;
     char32_t before = 0;
     while (!text.empty()) {
@@ -77,44 +87,79 @@ long long SimpleText::Walk(std::string_view text, Visit visit)
     return pen;
 }
 
-int SimpleText::Measure(std::string_view text)
+template <class Visit>
+void SimpleText::WalkLetters(std::string_view text, Visit visit)
 {
-    return ToWidth(Walk(text, [](const Glyph&, char32_t, long long) { return true; }));
-}
-
-void SimpleText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color)
-{
-    const toolkit::Pixel pixel = toolkit::ToPixel(color);
-    const int nOverhang = m_nBaseline; // a letter may reach to the left of its pen
     Walk(text, [&](Glyph& glyph, char32_t c, long long pen) {
         const long long quarters = std::max(0LL, pen + 1) / 16; // cut off where Qt does
-        const long long x = at.x + quarters / kQuarters;
-        if (x >= clip.right + nOverhang)
-            return false;
-        const Mask& mask = FindMask(glyph, c, static_cast<int>(quarters % kQuarters));
-        Fill(target, clip, CPoint(static_cast<int>(x), at.y) + mask.offset, mask, pixel);
-        return true;
+        const TextMask& mask = FindMask(glyph, c, static_cast<int>(quarters % kQuarters));
+        return visit(Letter{&mask, CPoint(static_cast<int>(quarters / kQuarters), 0)});
     });
 }
 
-void SimpleText::Fill(toolkit::Surface& target, const CRect& clip, CPoint at, const Mask& mask, toolkit::Pixel color)
+std::optional<int> SimpleText::Measure(std::string_view text)
 {
-    const CRect place(at, mask.size);
-    const CRect seen = place & clip;
-    for (int y = seen.top; y < seen.bottom; ++y) {
-        toolkit::Pixel* pRow = target.Row(y) + seen.left;
-        const BYTE* pCoverage = mask.coverage.data() + (y - place.top) * mask.size.cx + (seen.left - place.left);
-        for (int i = 0; i < seen.Width(); ++i)
-            pRow[i] = toolkit::Over(toolkit::ScalePixel(color, pCoverage[i]), pRow[i]);
+    if (const KnownLabel* pLabel = m_known.Find(text))
+        return pLabel->width;
+    if (!IsSimpleText(text))
+        return std::nullopt;
+    const int nWidth = ToWidth(Walk(text, [](const Glyph&, char32_t, long long) { return true; }));
+    if (text.size() <= KnownLabels::kLongest)
+        m_known.Add(text, nWidth);
+    return nWidth;
+}
+
+bool SimpleText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color)
+{
+    if (!m_known.Find(text) && !Measure(text))
+        return false;
+    KnownLabel* const pLabel = m_known.Find(text);
+    if (!pLabel || !IsWorthAMask(*pLabel)) {
+        DrawLetters(target, clip, at, text, color);
+        return true;
     }
+    if (!pLabel->hasMask)
+        MakeMask(*pLabel);
+    pLabel->mask.Blend(target, clip, at, toolkit::ToPixel(color));
+    return true;
+}
+
+bool SimpleText::IsWorthAMask(const KnownLabel& label) const
+{
+    return label.width * m_nBaseline <= kLargestMask;
+}
+
+void SimpleText::MakeMask(KnownLabel& label)
+{
+    CRect place;
+    m_letters.clear();
+    WalkLetters(label.text, [&](const Letter& letter) {
+        m_letters.push_back(letter);
+        place = place | (letter.pMask->Place() + letter.at);
+        return true;
+    });
+    label.mask.Reset(place);
+    for (const Letter& letter : m_letters)
+        label.mask.Add(*letter.pMask, letter.at);
+    label.hasMask = true;
+}
+
+void SimpleText::DrawLetters(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text,
+                             COLORREF color)
+{
+    const int nOverhang = m_nBaseline; // a letter may reach to the left of its pen
+    WalkLetters(text, [&](const Letter& letter) {
+        if (std::int64_t{at.x} + letter.at.x >= clip.right + nOverhang)
+            return false;
+        letter.pMask->Blend(target, clip, at + letter.at, toolkit::ToPixel(color));
+        return true;
+    });
 }
 
 SimpleText::Glyph& SimpleText::FindGlyph(char32_t c)
 {
     if (const auto it = m_glyphs.find(c); it != m_glyphs.end())
         return it->second;
-    if (m_glyphs.size() >= kMaxGlyphs)
-        m_glyphs.clear();
     Glyph& glyph = m_glyphs[c];
     glyph.advance = static_cast<int>(std::lround(m_metrics.horizontalAdvance(QString::fromUcs4(&c, 1)) * 64));
     return glyph;
@@ -133,16 +178,16 @@ int SimpleText::Kerning(char32_t left, char32_t right)
     return it->second;
 }
 
-const SimpleText::Mask& SimpleText::FindMask(Glyph& glyph, char32_t c, int quarter)
+const TextMask& SimpleText::FindMask(Glyph& glyph, char32_t c, int quarter)
 {
-    std::optional<Mask>& mask = glyph.masks[static_cast<std::size_t>(quarter)];
+    std::optional<TextMask>& mask = glyph.masks[static_cast<std::size_t>(quarter)];
     if (!mask)
         mask = RenderMask(c, quarter);
     return *mask;
 }
 
 // Qt draws the letter with room on all sides; what it covers is cut out.
-SimpleText::Mask SimpleText::RenderMask(char32_t c, int quarter) const
+TextMask SimpleText::RenderMask(char32_t c, int quarter) const
 {
     const QString letter = QString::fromUcs4(&c, 1);
     const int nRoom = static_cast<int>(std::ceil(m_metrics.height()));
@@ -156,10 +201,10 @@ SimpleText::Mask SimpleText::RenderMask(char32_t c, int quarter) const
         painter.drawText(QPointF(nRoom + quarter / qreal(kQuarters), nRoom + m_nBaseline), letter);
     }
     const CRect covered = CoveredPart(picture);
-    Mask mask{covered.TopLeft() - CPoint(nRoom, nRoom), covered.Size(), {}};
+    TextMask mask(covered - CPoint(nRoom, nRoom));
     for (int y = covered.top; y < covered.bottom; ++y) {
         for (int x = covered.left; x < covered.right; ++x)
-            mask.coverage.push_back(static_cast<BYTE>(qAlpha(picture.pixel(x, y))));
+            mask.Row(y - covered.top)[x - covered.left] = static_cast<BYTE>(qAlpha(picture.pixel(x, y)));
     }
     return mask;
 }

@@ -124,3 +124,28 @@ TEST_F(TextEngineTest, SelectedTextIsDrawnInItsOwnColour)
         EXPECT_TRUE(std::any_of(surface.Row(0), surface.Row(0) + 100 * 40, isWhite)) << pszLabel;
     }
 }
+
+// A longer text is not remembered, but drawn letter by letter: here with nothing but spaces behind the label.
+TEST_F(TextEngineTest, ALabelLooksTheSameNewOrKnownOrForgottenAsLetterByLetter)
+{
+    const Surface ground(CSize(300, 40), 0xFF3070C0);
+    const auto draw = [&](const std::string& text, CPoint at, const CRect& clip, COLORREF color) {
+        Surface drawn = ground;
+        m_engine.Draw(drawn, clip, at, text, color, FontStyle::Regular);
+        return std::vector(drawn.Row(0), drawn.Row(0) + 300 * 40);
+    };
+    const auto nothing = draw("", {}, ground.Bounds(), 0);
+    const auto expectSame = [&](const std::string& label, CPoint at, const CRect& clip, COLORREF color) {
+        const auto letters = draw(label + std::string(80, ' '), at, clip, color);
+        EXPECT_NE(nothing, letters);
+        EXPECT_TRUE(letters == draw(label, at, clip, color)) << label;
+    };
+    for (int nRound = 0; nRound < 2; ++nRound) {
+        for (const char* pszLabel : {"|||WAVE fjord Tof7 ffi||", "Grüße – ŁÅ/AVA"}) {
+            expectSame(pszLabel, CPoint(20, 10), ground.Bounds(), RGB(255, 255, 255));
+            expectSame(pszLabel, CPoint(17, 9), CRect(20, 12, 90, 19), RGB(10, 200, 30));
+        }
+        for (int i = 0; i < 10'000; ++i)
+            m_engine.Measure("another label " + std::to_string(i), FontStyle::Regular);
+    }
+}
