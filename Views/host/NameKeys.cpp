@@ -1,5 +1,6 @@
 #include "Views/host/NameKeys.h"
 
+#include "Toolkit/base/HeadSort.h"
 #include "Toolkit/base/Text.h"
 #include "Views/host/ReadName.h"
 
@@ -119,12 +120,10 @@ const std::vector<views::NameKeys::KEY>& views::NameKeys::Sort()
         key.head = HeadOf(key);
 
     const char* pTails = m_texts.c_str() + m_nCommon + sizeof(KEY::head);
-    std::sort(m_keys.begin(), m_keys.end(), [pTails](const KEY& a, const KEY& b) {
-        if (a.head != b.head)
-            return a.head < b.head;
+    toolkit::SortByHead(m_keys);
+    toolkit::SortRuns(m_keys, [pTails](const KEY& a, const KEY& b) {
         const bool bEnded = (a.head & 0xFF) == 0; // then both names end within the head
-        const int nOrder = bEnded ? 0 : std::strcmp(pTails + a.nText, pTails + b.nText);
-        return nOrder != 0 ? nOrder < 0 : a.nIndex < b.nIndex;
+        return !bEnded && std::strcmp(pTails + a.nText, pTails + b.nText) < 0;
     });
     return m_keys;
 }
