@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <cstring>
 
 namespace
 {
@@ -149,6 +150,61 @@ void Scale(const Surface& source, Surface& scaled)
     }
 }
 
+// Made larger, a target covers parts of two sources at most each way. The sums of a small picture's pixels and
+// their products with the weights are numbers that a float holds exactly, and their means, which are what is rounded,
+// are never so near to the next number that a float would confuse the two.
+constexpr int kMostToEnlarge = 8192; // pixels
+
+using Floats = float __attribute__((vector_size(16)));
+using Numbers = std::int32_t __attribute__((vector_size(16)));
+
+void Pack(std::uint8_t* __restrict channels, const std::int32_t* __restrict means, std::size_t length)
+{
+    for (std::size_t i = 0; i < length; ++i)
+        channels[i] = static_cast<std::uint8_t>(means[i]);
+}
+
+void Enlarge(const Surface& source, Surface& scaled)
+{
+    struct Column
+    {
+        std::size_t first, last;
+        float head, tail;
+    };
+    std::vector<Column> columns;
+    for (int x = 0; x < scaled.Width(); ++x) {
+        const Cover cover = CoverOf(x, source.Width(), scaled.Width());
+        columns.push_back({static_cast<std::size_t>(cover.first), static_cast<std::size_t>(cover.last),
+                           static_cast<float>(cover.head), static_cast<float>(cover.tail)});
+    }
+    const float count = static_cast<float>(source.Width() * source.Height());
+    const float half = static_cast<float>(source.Width() * source.Height() / 2) + 0.5f; // away from whole numbers
+    RowSums<std::uint16_t> rows(source.Width());
+    std::vector<Floats> sums(static_cast<std::size_t>(source.Width()));
+    std::vector<Numbers> means(columns.size());
+    for (int y = 0; y < scaled.Height(); ++y) {
+        rows.Sum(source, CoverOf(y, source.Height(), scaled.Height()));
+        for (std::size_t i = 0; i < sums.size(); ++i) {
+            Numbers sum;
+            std::memcpy(&sum, rows.At(static_cast<int>(i)), sizeof sum);
+            sums[i] = __builtin_convertvector(sum, Floats);
+        }
+        for (std::size_t i = 0; i < means.size(); ++i) {
+            const Column& column = columns[i];
+            const Floats total = sums[column.first] * column.head + sums[column.last] * column.tail;
+            means[i] = __builtin_convertvector((total + half) * (1.0f / count), Numbers);
+        }
+        Pack(reinterpret_cast<std::uint8_t*>(scaled.Row(y)), reinterpret_cast<const std::int32_t*>(means.data()),
+             4 * means.size());
+    }
+}
+
+bool IsToBeEnlarged(const Surface& source, const Surface& scaled)
+{
+    return source.Width() <= scaled.Width() && source.Height() <= scaled.Height() && scaled.Height() <= 0xFFFF &&
+           source.Width() * std::int64_t{source.Height()} <= kMostToEnlarge;
+}
+
 bool IsOrdinary(const Surface& source, const Surface& scaled)
 {
     constexpr std::int64_t kMostPixels = 1 << 24; // 255 times that fits into 32 bits
@@ -164,7 +220,9 @@ toolkit::Surface toolkit::ScaleSurface(const Surface& source, CSize size)
         return {};
     if (source.Bounds() == scaled.Bounds())
         return source;
-    if (IsOrdinary(source, scaled))
+    if (IsToBeEnlarged(source, scaled))
+        Enlarge(source, scaled);
+    else if (IsOrdinary(source, scaled))
         Scale<std::uint16_t, std::uint32_t>(source, scaled);
     else
         Scale<std::uint32_t, std::uint64_t>(source, scaled);
