@@ -74,7 +74,8 @@ private:
     void StartTimer();
     void ClearAnimation();
 
-    CImageList m_images; // grows, never shrinks while the window lives; image 0 is the folder picture
+    CImageList m_images;           // grows, never shrinks while the window lives; image 0 is the folder picture
+    views::BitmapHolder m_hCanvas; // every picture is painted on it; empty while it is in use
     views::MaskedBitmap m_folderBitmap, m_markerBitmap;
     std::unordered_map<int, ANIMDATA> m_animations; // by row, as it was when the mouse passed over it
     views::FreeImages m_freeImages;                 // -1 among them, of rows without an image

@@ -24,15 +24,19 @@ UINT CThumbList::AddThumbnail(UINT nIndex, DrawFn fn, void* context, BOOL bConta
 {
     try {
         const views::WindowDC window(m_hWnd);
-        const views::BitmapHolder hPicture(::CreateCompatibleBitmap(window.Get(), kWhole.Width(), kWhole.Height()));
+        views::BitmapHolder hPicture = std::move(m_hCanvas);
+        if (!hPicture)
+            hPicture.reset(::CreateCompatibleBitmap(window.Get(), kWhole.Width(), kWhole.Height()));
         views::MemoryDC memory(::CreateCompatibleDC(window.Get())); // goes before the bitmap, which it lets go of
         if (!memory)
             return nIndex;
         ::SelectBitmap(memory.get(), hPicture.get());
         const bool bPainted = PaintPicture(memory.get(), fn, context, bContainer);
         memory.reset();
+        const UINT nImage = bPainted ? StoreImage(nIndex, hPicture.get()) : kNone;
+        m_hCanvas = std::move(hPicture);
         if (bPainted)
-            return StoreImage(nIndex, hPicture.get());
+            return nImage;
     } catch (const CMemoryException&) {
         return kNone;
     }
