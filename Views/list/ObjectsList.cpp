@@ -199,6 +199,7 @@ unsigned CObjectsList::ClearContext()
     m_nCacheFrom = m_nCacheTo = 0;
     m_nOrdered = 0;
     m_bLoading = false;
+    m_appended.Clear();
     m_doubted.clear();
     ++m_nRowMoves;
     {

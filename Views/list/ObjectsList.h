@@ -7,6 +7,7 @@
 #include "Views/host/HeldPair.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/StateHandler.h"
+#include "Views/list/AppendedRows.h"
 #include "Views/list/ListDropTarget.h"
 #include "Views/list/ObjectsListCache.h"
 
@@ -125,7 +126,10 @@ private:
 
     CStubRef<IAtom> HoldAtom(int nItem) const; // empty when there is no such row or no atom in it
     int FindRow(IAtom* pAtom);                 // the first row whose atom compares equal, -1: none
-    int FindEqualRow(IAtom* pAtom) const;
+    int FindEqualRow(IAtom* pAtom);
+    int FindAppendedRow(IAtom* pAtom);
+    bool IndexAppendedRows();                         // false when that cannot be done
+    bool IsSame(int nRow, IAtom* pAtom) const;        // without regard to case
     void DoubtOrder(IAtom* pChanged, int nCachedRow); // -1: it is not cached
     void SettleDoubts();
     void CheckOrder(int nRow);
@@ -179,6 +183,7 @@ private:
     unsigned m_nRowMoves = 0;       // how often rows have got other numbers
     int m_nEdited = -1;             // the row whose label is being edited
     views::EditedName m_editedName;
-    int m_nOrdered = 0; // rows before this one stand in the order of their names, but for those of the next
+    int m_nOrdered = 0;             // rows before this one stand in the order of their names, but for those of the next
+    views::AppendedRows m_appended; // the others, once one of them has been looked for
     std::unordered_set<const IAtom*> m_doubted; // atoms that may have a new name; perhaps gone, and never followed
 };

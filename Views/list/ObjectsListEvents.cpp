@@ -80,6 +80,7 @@ void CObjectsList::RemoveRow(int nItem)
     const CStubRef<IAtom> pRemoved = std::move(*pRow); // its end may come back here: the row is gone by then
     m_atoms.erase(pRow);
     ++m_nRowMoves;
+    m_appended.Remove(nItem);
     if (nItem < m_nOrdered)
         --m_nOrdered;
     if (nItem <= m_nEdited)

@@ -1,6 +1,7 @@
 // The list view's order, which is also its test of sameness.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
+#include "Views/host/IPhase.h"
 #include "Views/host/LinkOrder.h"
 #include "Views/host/ReadName.h"
 #include "Views/list/ObjectsList.h"
@@ -87,31 +88,79 @@ int CObjectsList::FindRow(IAtom* pAtom)
 
 // In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
 // for names that have changed without a word.
-int CObjectsList::FindEqualRow(IAtom* pAtom) const
+int CObjectsList::FindEqualRow(IAtom* pAtom)
 {
-    const auto compare = [pAtom](const CStubRef<IAtom>& pRow) { return CompareFunc(&pRow, &pAtom); };
-    const auto isBefore = [&](int nRow) { return compare(HoldAtom(nRow)) < 0; };
-    const auto isSame = [&](int nRow) {
+    const auto isBefore = [&](int nRow) {
         const CStubRef<IAtom> pRow = HoldAtom(nRow);
-        return pRow && compare(pRow) == 0;
+        return CompareFunc(&pRow, &pAtom) < 0;
     };
-    const int nOrdered = m_nOrdered;
-    const auto ordered = std::views::iota(0, nOrdered);
-    const auto others = std::views::iota(nOrdered, static_cast<int>(m_atoms.size()));
-
+    const auto ordered = std::views::iota(0, m_nOrdered);
     const auto halved = std::ranges::partition_point(ordered, isBefore);
-    if (halved != ordered.end() && isSame(*halved))
+    if (halved != ordered.end() && IsSame(*halved, pAtom))
         return *halved;
-    if (const auto found = std::ranges::find_if(others, isSame); found != others.end())
-        return *found;
-    const auto found = std::ranges::find_if(ordered, isSame);
-    return found != ordered.end() ? *found : -1;
+    if (const int nAppended = FindAppendedRow(pAtom); nAppended >= 0)
+        return nAppended;
+    const auto all = std::views::iota(0, static_cast<int>(m_atoms.size()));
+    const auto found = std::ranges::find_if(all, [&](int nRow) { return IsSame(nRow, pAtom); });
+    return found != all.end() ? *found : -1;
+}
+
+bool CObjectsList::IsSame(int nRow, IAtom* pAtom) const
+{
+    const CStubRef<IAtom> pRow = HoldAtom(nRow);
+    return pRow && CompareFunc(&pRow, &pAtom) == 0;
+}
+
+// Where there are many, by the hashes of their names. -1 also without memory for those.
+int CObjectsList::FindAppendedRow(IAtom* pAtom)
+try {
+    constexpr int kFew = 32;
+    const int nFewEnd = m_nOrdered + kFew;
+    const auto isSame = [&](int nRow) { return IsSame(nRow, pAtom); };
+    for (int i = m_nOrdered; i < static_cast<int>(m_atoms.size()); ++i) {
+        if (i == nFewEnd && IndexAppendedRows()) {
+            const auto hash = views::AppendedRows::HashName(pAtom);
+            const std::vector<int> rows = hash ? m_appended.Find(*hash) : std::vector<int>();
+            const auto found = std::ranges::find_if(rows, isSame);
+            return found != rows.end() ? *found : -1;
+        }
+        if (isSame(i))
+            return i;
+    }
+    return -1;
+} catch (const CMemoryException&) {
+    m_appended.Clear();
+    return -1;
+}
+
+// Whoever is asked for a name may have moved the rows. False also when names cannot decide.
+bool CObjectsList::IndexAppendedRows()
+{
+    const unsigned nRowMoves = m_nRowMoves;
+    std::vector<views::AppendedRows::ENTRY> entries;
+    m_appended.StartAt(m_nOrdered);
+    int i = m_appended.GetEnd();
+    for (; nRowMoves == m_nRowMoves && i < static_cast<int>(m_atoms.size()); ++i) {
+        const CStubRef<IAtom> pRow = HoldAtom(i);
+        if (!pRow)
+            continue;
+        const auto hash =
+            CStubRef<IImageLink>::From(pRow.Get()) ? std::nullopt : views::AppendedRows::HashName(pRow.Get());
+        if (!hash)
+            return false;
+        entries.push_back({*hash, i});
+    }
+    if (nRowMoves != m_nRowMoves)
+        return false;
+    m_appended.Add(entries, i);
+    return true;
 }
 
 // A new name may put its row out of order. The row of an atom that is out of sight is looked for when that matters, and
 // then together with all others: news of atoms come in great numbers, as their pictures are read.
 void CObjectsList::DoubtOrder(IAtom* pChanged, int nCachedRow)
 {
+    m_appended.Clear();
     if (nCachedRow >= 0)
         return CheckOrder(nCachedRow);
     if (m_nOrdered == 0)
