@@ -1,5 +1,7 @@
 // What the editor adds to reading a directory when it opens a folder of 100,000 pictures.
 #include "Editor/EditorApp.h"
+#include "Editor/frame/ContextMenu.h"
+#include "Editor/frame/MainFrame.h"
 #include "Toolkit/window/Desktop.h"
 
 #include <benchmark/benchmark.h>
@@ -80,7 +82,22 @@ void OpenTheFolder(benchmark::State& state)
     }
 }
 
+// F5, when nothing has changed.
+void RefreshTheFolder(benchmark::State& state)
+{
+    const NoPictures reader;
+    editor::EditorApp app(reader, {{1024, 768}, {}});
+    if (const std::string error = app.OpenFolder(Folder().Path()); !error.empty())
+        state.SkipWithError(error.c_str());
+    toolkit::RunPendingMessages();
+    for (auto _ : state) {
+        app.GetFrame()->SendMessage(WM_COMMAND, editor::ID_REFRESH);
+        toolkit::RunPendingMessages();
+    }
+}
+
 BENCHMARK(ReadTheDirectory)->Unit(benchmark::kMillisecond);
 BENCHMARK(OpenTheFolder)->Unit(benchmark::kMillisecond);
+BENCHMARK(RefreshTheFolder)->Unit(benchmark::kMillisecond);
 
 } // namespace

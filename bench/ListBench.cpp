@@ -119,6 +119,56 @@ void ExtendToTheEndAndBack(benchmark::State& state)
     }
 }
 
+// Ten thousand rows before the anchor are selected, and as many after it when the selection is extended to the end.
+void MoveASelectionToTheEnd(benchmark::State& state)
+{
+    constexpr int kMoved = 10'000;
+    ShownList shown(state);
+    CIconList& list = shown.window.List();
+    list.SetFocus();
+    const int nAnchor = list.GetItemCount() - kMoved;
+    for (auto _ : state) {
+        state.PauseTiming();
+        list.SetItemState(nAnchor - 1, LVIS_FOCUSED, LVIS_FOCUSED);
+        shown.Press(VK_RIGHT, false);
+        for (int i = nAnchor - kMoved; i < nAnchor; ++i)
+            list.SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+        shown.window.Settle();
+        state.ResumeTiming();
+
+        shown.Press(VK_END, true);
+        if (list.GetSelectedCount() != kMoved || list.GetItemState(nAnchor - 1, LVIS_SELECTED))
+            state.SkipWithError("not moved");
+    }
+}
+
+// Each is announced as it is added; then none but them is selected, one after the other.
+void PasteAndSelect(benchmark::State& state)
+{
+    const auto nPasted = static_cast<unsigned>(state.range(0));
+    for (auto _ : state) {
+        state.PauseTiming();
+        auto pShown = std::make_unique<ShownList>(state);
+        Container& container = pShown->container;
+        pShown->window.List().SetFocus();
+        pShown->window.Settle();
+        state.ResumeTiming();
+
+        for (unsigned i = 0; i < nPasted; ++i)
+            Announce(&IAEStateHandler::OnCreateAtom, &container.Append(), &container);
+        Announce(&IAEStateHandler::OnAtomDeselected, nullptr, &container);
+        for (unsigned i = nPasted; i < 2 * nPasted; ++i)
+            Announce(&IAEStateHandler::OnAtomSelected, &container.Member(i), &container);
+        pShown->window.Settle();
+
+        state.PauseTiming();
+        if (pShown->window.List().GetSelectedCount() != static_cast<int>(nPasted))
+            state.SkipWithError("not selected");
+        pShown.reset();
+        state.ResumeTiming();
+    }
+}
+
 // Shift+Page Down and back, with the first column selected from the top to the middle.
 void ExtendByAPageAndBack(benchmark::State& state)
 {
@@ -200,6 +250,8 @@ BENCHMARK(JumpAndPaintAFrame)->Apply(Sizes);
 BENCHMARK(ScrollANotch)->Apply(Sizes);
 BENCHMARK(SelectAllAndClear)->Apply(Sizes);
 BENCHMARK(ExtendToTheEndAndBack)->Apply(Sizes);
+BENCHMARK(MoveASelectionToTheEnd)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
+BENCHMARK(PasteAndSelect)->Arg(10'000)->Unit(benchmark::kMillisecond);
 BENCHMARK(ExtendByAPageAndBack)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomInSight)->Apply(Sizes);
 BENCHMARK(ChangeAnAtomOutOfSight)->Apply(Sizes);
