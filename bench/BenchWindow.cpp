@@ -94,9 +94,14 @@ void ViewWindow::Show(CWnd& view)
     Settle();
 }
 
-void ViewWindow::Settle()
+void ViewWindow::Paint()
 {
     toolkit::RunPendingMessages();
+}
+
+void ViewWindow::Settle()
+{
+    Paint();
     TheDesktop::Present();
 }
 

@@ -25,7 +25,8 @@ public:
 class ViewWindow
 {
 public:
-    void Settle(); // until everything is painted and presented
+    void Paint();  // until everything is painted into the window's picture
+    void Settle(); // and until that is presented
 
 protected:
     ViewWindow();

@@ -27,12 +27,12 @@ struct EmptyList
     {
         SetCell(window.List(), kCellWidth, kCellHeight);
         window.List().SetFocus();
-        window.Settle();
+        window.Paint();
     }
     void Enter(Container& container)
     {
         Announce(&IAEStateHandler::OnAtomEntered, &container, nullptr);
-        window.Settle();
+        window.Paint();
     }
 
     const EditorService service;
@@ -50,7 +50,7 @@ struct ShownList : EmptyList
         select.stateMask = LVIS_SELECTED;
         select.state = nState;
         window.List().SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&select));
-        window.Settle();
+        window.Paint();
     }
 
     Container container;
@@ -84,13 +84,13 @@ void bench::ScrollList(Stopwatch& watch)
     const std::int64_t nRange = ScrollRange(list);
     while (watch.Next()) {
         list.SendMessage(LVM_SCROLL, 0, -nRange);
-        shown.window.Settle();
+        shown.window.Paint();
         watch.Start();
         std::int64_t nAt = 0;
         for (int i = 0; i < kFrames; ++i) {
             const std::int64_t nTo = nRange * i / (kFrames - 1);
             list.SendMessage(LVM_SCROLL, 0, nTo - nAt);
-            shown.window.Settle();
+            shown.window.Paint();
             nAt = nTo;
         }
         watch.Stop(kFrames);
@@ -122,7 +122,7 @@ void bench::AppendToList(Stopwatch& watch)
         for (const Sample& sample : more)
             Announce(&IAEStateHandler::OnCreateAtom, &shown.container.Append(sample), &shown.container);
         watch.Lap("appends");
-        shown.window.Settle();
+        shown.window.Paint();
         watch.Lap("final frame");
         watch.Stop(static_cast<double>(more.size()));
     }
@@ -135,14 +135,14 @@ void bench::ShowThumbs(Stopwatch& watch)
         const EditorService service;
         ThumbWindow window;
         SetCell(window.List(), kThumbCell, kThumbCell);
-        window.Settle();
+        window.Paint();
 
         watch.Start();
         Announce(&IAEStateHandler::OnAtomEntered, &container, nullptr);
-        window.Settle();
+        window.Paint();
         for (int nLeft = ScrollRange(window.List()); nLeft > 0; nLeft -= 5 * kThumbCell) {
             window.List().SendMessage(LVM_SCROLL, 0, 5 * kThumbCell);
-            window.Settle();
+            window.Paint();
         }
         watch.Stop(watch.Count());
     }

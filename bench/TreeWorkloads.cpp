@@ -28,7 +28,7 @@ void bench::OpenTree(Stopwatch& watch)
         watch.Lap("1 announce");
         ExpandContainers(window.Tree());
         watch.Lap("2 expand");
-        window.Settle();
+        window.Paint();
         watch.Lap("3 frame");
         watch.Stop();
     }
@@ -46,13 +46,13 @@ void bench::InsertIntoTree(Stopwatch& watch)
         TreeWindow window;
         Announce(&IAEStateHandler::OnCreateAtom, &container, nullptr);
         window.Tree().Expand(window.Tree().GetRootItem(), TVE_EXPAND);
-        window.Settle();
+        window.Paint();
 
         watch.Start();
         for (const Sample& sample : std::span(samples).subspan(1))
             Announce(&IAEStateHandler::OnCreateAtom, &container.Append(sample), &container);
         watch.Lap("1 announce");
-        window.Settle();
+        window.Paint();
         watch.Lap("2 frame");
         watch.Stop();
         Announce(&IAEStateHandler::OnDeleteAtom, &container, nullptr);

@@ -1,6 +1,6 @@
 // What the comparisons run: the workload's name and a number of objects give one line about how long it took. Other
 // toolkits' programs have the same command line, show the same objects in a window of the same size, and print lines
-// of the same kind.
+// of the same kind. A frame is complete when it is painted in memory; nobody presents it.
 #pragma once
 
 #include "bench/Stopwatch.h"
