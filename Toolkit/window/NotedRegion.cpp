@@ -1,7 +1,14 @@
 #include "Toolkit/window/NotedRegion.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
+
+bool toolkit::NotedRegion::HasAll(const CRect& all) const
+{
+    const auto& rects = m_region.Rects();
+    return m_bAll || std::any_of(rects.begin(), rects.end(), [&](const CRect& rect) { return (rect & all) == all; });
+}
 
 void toolkit::NotedRegion::Add(const CRect& part) noexcept
 {

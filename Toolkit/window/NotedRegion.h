@@ -11,6 +11,7 @@ class NotedRegion
 {
 public:
     bool IsEmpty() const { return !m_bAll && m_region.IsEmpty(); }
+    bool HasAll(const CRect& all) const;
     CRect Bounds(const CRect& all) const { return m_bAll ? all : m_region.Bounds(); }
 
     void Add(const CRect& part) noexcept;

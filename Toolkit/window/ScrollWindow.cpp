@@ -50,6 +50,8 @@ BOOL ScrollWindow(HWND hWnd, int dx, int dy)
         return FALSE;
     if (toolkit::IsUpdateLocked(*pWindow))
         return InvalidateRect(hWnd, nullptr);
+    if (pWindow->update.HasAll(toolkit::ClientRect(*pWindow)))
+        return TRUE; // nothing there is worth moving
     const Region visible = VisibleClient(*pWindow, toolkit::Children::CutOut);
     if (visible.IsEmpty() || (dx == 0 && dy == 0))
         return TRUE;
