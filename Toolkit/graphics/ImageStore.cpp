@@ -20,7 +20,7 @@ int toolkit::ImageStore::Append(int images)
 {
     const auto blocks = static_cast<std::size_t>((m_count + images + m_perBlock - 1) / m_perBlock);
     while (m_blocks.size() < blocks)
-        m_blocks.emplace_back(CSize(m_size.cx, m_size.cy * m_perBlock));
+        m_blocks.push_back(Surface::Unfilled({m_size.cx, m_size.cy * m_perBlock}));
     return std::exchange(m_count, m_count + images);
 }
 

@@ -24,7 +24,7 @@ public:
     const Surface& BlockOf(int i) const { return m_blocks[static_cast<std::size_t>(i / m_perBlock)]; }
     CRect PlaceOf(int i) const { return {CPoint(0, i % m_perBlock * m_size.cy), m_size}; }
 
-    int Append(int images); // transparent ones; the first one's index. No change when memory runs out
+    int Append(int images); // to be Put; the first one's index. No change when memory runs out
     // Image i becomes the part of the picture whose top left corner is at `from`; the whole part is inside.
     void Put(int i, const Surface& picture, CPoint from);
 

@@ -169,16 +169,17 @@ void Enlarge(const Surface& source, Surface& scaled)
     struct Column
     {
         std::size_t first, last;
-        float head, tail;
+        Floats head, tail;
     };
     std::vector<Column> columns;
     for (int x = 0; x < scaled.Width(); ++x) {
         const Cover cover = CoverOf(x, source.Width(), scaled.Width());
         columns.push_back({static_cast<std::size_t>(cover.first), static_cast<std::size_t>(cover.last),
-                           static_cast<float>(cover.head), static_cast<float>(cover.tail)});
+                           Floats{} + static_cast<float>(cover.head), Floats{} + static_cast<float>(cover.tail)});
     }
-    const float count = static_cast<float>(source.Width() * source.Height());
-    const float half = static_cast<float>(source.Width() * source.Height() / 2) + 0.5f; // away from whole numbers
+    const int count = source.Width() * source.Height();
+    const Floats part = Floats{} + 1.0f / static_cast<float>(count);
+    const Floats half = Floats{} + (static_cast<float>(count / 2) + 0.5f); // away from whole numbers
     RowSums<std::uint16_t> rows(source.Width());
     std::vector<Floats> sums(static_cast<std::size_t>(source.Width()));
     std::vector<Numbers> means(columns.size());
@@ -192,7 +193,7 @@ void Enlarge(const Surface& source, Surface& scaled)
         for (std::size_t i = 0; i < means.size(); ++i) {
             const Column& column = columns[i];
             const Floats total = sums[column.first] * column.head + sums[column.last] * column.tail;
-            means[i] = __builtin_convertvector((total + half) * (1.0f / count), Numbers);
+            means[i] = __builtin_convertvector((total + half) * part, Numbers);
         }
         Pack(reinterpret_cast<std::uint8_t*>(scaled.Row(y)), reinterpret_cast<const std::int32_t*>(means.data()),
              4 * means.size());
@@ -215,7 +216,7 @@ bool IsOrdinary(const Surface& source, const Surface& scaled)
 
 toolkit::Surface toolkit::ScaleSurface(const Surface& source, CSize size)
 {
-    Surface scaled(size);
+    Surface scaled = Surface::Unfilled(size);
     if (source.IsEmpty() || scaled.IsEmpty())
         return {};
     if (source.Bounds() == scaled.Bounds())

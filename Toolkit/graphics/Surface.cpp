@@ -22,10 +22,18 @@ toolkit::Surface::Surface(CSize size, Pixel fill)
     : m_size(std::max(size.cx, 0), std::max(size.cy, 0)), m_pixels(CountPixels(m_size), fill)
 {}
 
+toolkit::Surface toolkit::Surface::Unfilled(CSize size)
+{
+    Surface surface;
+    surface.m_size = {std::max(size.cx, 0), std::max(size.cy, 0)};
+    surface.m_pixels.resize(CountPixels(surface.m_size));
+    return surface;
+}
+
 toolkit::Surface toolkit::Crop(const Surface& source, const CRect& part)
 {
     const CRect inside = part & source.Bounds();
-    Surface copy(inside.Size());
+    Surface copy = Surface::Unfilled(inside.Size());
     for (int y = 0; y < copy.Height(); ++y)
         std::copy_n(source.Row(inside.top + y) + inside.left, copy.Width(), copy.Row(y));
     return copy;

@@ -3,6 +3,7 @@
 
 #include "Toolkit/base/Geometry.h"
 
+#include <memory>
 #include <vector>
 
 namespace toolkit
@@ -15,6 +16,7 @@ class TOOLKIT_API Surface
 public:
     Surface() = default;
     explicit Surface(CSize size, Pixel fill = 0); // a negative extent counts as 0
+    static Surface Unfilled(CSize size);          // of whatever pixels: each is to be written before it is read
 
     int Width() const { return m_size.cx; }
     int Height() const { return m_size.cy; }
@@ -27,8 +29,24 @@ public:
     Pixel At(int x, int y) const { return Row(y)[x]; }
 
 private:
+    // Leaves memory as it is.
+    struct Memory : std::allocator<Pixel>
+    {
+        template <class Other>
+        struct rebind
+        {
+            using other = Memory;
+        };
+        void construct(Pixel* p) noexcept { ::new (static_cast<void*>(p)) Pixel; }
+        template <class... Values>
+        void construct(Pixel* p, Values... values) noexcept
+        {
+            ::new (static_cast<void*>(p)) Pixel(values...);
+        }
+    };
+
     CSize m_size;
-    std::vector<Pixel> m_pixels;
+    std::vector<Pixel, Memory> m_pixels;
 };
 
 // A copy of a part of the surface; only what lies inside it.
