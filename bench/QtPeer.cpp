@@ -248,6 +248,8 @@ constexpr Workload kWorkloads[] = {
     {"tree_open_items", &OpenQtTreeItems, "QTreeWidget, sorted by keys"},
     {"tree_flat_insert", &InsertIntoQtTree, "QTreeView over a model, places found by halving, total"},
     {"thumbs", &ShowThumbs, "QListView, per thumbnail"},
+    {"floor_sort", &SortKeysAlone, "keys of 16 bytes, made and sorted"},
+    {"floor_frame", &PaintPlainFrames, "filled and blended by plain loops, per frame of 200"},
 };
 
 } // namespace

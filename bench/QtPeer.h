@@ -27,5 +27,7 @@ void PaintFrame(QWidget& view); // into a picture in memory
 void OpenQtTree(Stopwatch& watch);       // QTreeView over a model
 void OpenQtTreeItems(Stopwatch& watch);  // QTreeWidget
 void InsertIntoQtTree(Stopwatch& watch); // QTreeView over a model
+void SortKeysAlone(Stopwatch& watch);
+void PaintPlainFrames(Stopwatch& watch); // of so many rows
 
 } // namespace bench

@@ -58,3 +58,28 @@ void bench::InsertIntoTree(Stopwatch& watch)
         Announce(&IAEStateHandler::OnDeleteAtom, &container, nullptr);
     }
 }
+
+void bench::AddToTree(Stopwatch& watch)
+{
+    constexpr unsigned kMore = 1000;
+    const auto samples = MakeSamples(watch.Count());
+    while (watch.Next()) {
+        const EditorService service;
+        Container container(samples, MakeSample(0));
+        TreeWindow window;
+        Announce(&IAEStateHandler::OnCreateAtom, &container, nullptr);
+        window.Tree().Expand(window.Tree().GetRootItem(), TVE_EXPAND);
+        window.Paint();
+
+        watch.Start();
+        for (unsigned i = 0; i < kMore; ++i) {
+            Atom& atom = container.Append(MakeSample(i * 7919 % watch.Count()));
+            Announce(&IAEStateHandler::OnCreateAtom, &atom, &container);
+        }
+        watch.Lap("1 announce");
+        window.Paint();
+        watch.Lap("2 frame");
+        watch.Stop(kMore);
+        Announce(&IAEStateHandler::OnDeleteAtom, &container, nullptr);
+    }
+}

@@ -22,6 +22,7 @@ constexpr Workload kWorkloads[] = {
     {"list_append", &bench::AppendToList, 5, "CIconList with the focus, per append, with the whole protocol"},
     {"tree_open", &bench::OpenTree, 5, "CObjectsTree, announced at once"},
     {"tree_flat_insert", &bench::InsertIntoTree, 5, "CObjectsTree, one announcement each, total; one frame at the end"},
+    {"tree_more", &bench::AddToTree, 5, "CObjectsTree, per atom announced into a shown container, the frame included"},
     {"memory_list", &bench::OpenList, 1, "CIconList"},
     {"memory_tree", &bench::OpenTree, 1, "CObjectsTree"},
     {"thumbs", &bench::ShowThumbs, 5, "CThumbList, per thumbnail, composed when first drawn, 5 new rows a page"},

@@ -17,6 +17,7 @@ void SelectAllOfList(Stopwatch& watch);
 void AppendToList(Stopwatch& watch);   // a thousand atoms, each announced alone
 void OpenTree(Stopwatch& watch);       // the whole hierarchy, a few containers expanded, up to the first frame
 void InsertIntoTree(Stopwatch& watch); // into one expanded container, each atom announced alone
+void AddToTree(Stopwatch& watch);      // a thousand atoms more into one expanded container, each announced alone
 void ShowThumbs(Stopwatch& watch);     // all thumbnails, page by page
 
 int RunWorkload(std::string_view workload, unsigned count); // the program's exit status
