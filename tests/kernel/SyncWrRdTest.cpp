@@ -1,12 +1,23 @@
 #include "Kernel/SyncWrRd.h"
 
+#include <fstream>
 #include <gtest/gtest.h>
 #include <latch>
+#include <string>
 #include <thread>
+#include <unistd.h>
 #include <vector>
 
 namespace
 {
+
+void WaitUntilAsleep(pid_t thread)
+{
+    for (std::string line; line.find(") S") == line.npos; std::this_thread::yield()) {
+        std::ifstream status("/proc/self/task/" + std::to_string(thread) + "/stat");
+        std::getline(status, line);
+    }
+}
 
 TEST(SyncWrRdTest, ReadersShareAndWritersAreAlone)
 {
@@ -48,23 +59,28 @@ TEST(SyncWrRdTest, TwoReadersAreInsideAtOnce)
     const std::jthread first(read), second(read);
 }
 
-// The writer waits somewhere in the middle of the rounds; a lock that let it go first would never end them.
+// A lock that let the writer, once it waits, go first would never end the rounds.
 TEST(SyncWrRdTest, AReaderReadsAgainWhileAWriterWaits)
 {
     CSyncWrRd lock;
     std::atomic<bool> written = false;
+    std::atomic<pid_t> thread = 0;
     lock.WaitForRead();
     std::jthread writer([&] {
+        thread = gettid();
+        thread.notify_one();
         const CWriteLock writing(lock);
         written = true;
     });
+    thread.wait(0);
     for (int i = 0; i < 2000; ++i) {
         const CReadLock again(lock);
         std::this_thread::yield();
         EXPECT_FALSE(written);
     }
+    WaitUntilAsleep(thread);
     lock.DoneReading();
-    writer.join();
+    writer.join(); // never if the last reader did not wake it
     EXPECT_TRUE(written);
 }
 
