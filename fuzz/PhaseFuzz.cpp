@@ -103,23 +103,32 @@ std::string CheckTiming(std::string_view text)
     return {};
 }
 
+// Nothing is wrong with the disk, so there is no error, whatever a name looks like.
+std::string LineTo(const std::string& path, const std::string& folder, const std::string& root)
+{
+    int error = 0;
+    const std::string line = LineFor(path, folder, root, error);
+    return error == 0 ? line : "an error of the disk";
+}
+
 // What a line leads to lies inside, and the line written for it anywhere leads there again.
 std::string CheckPlaces(std::string_view text, const std::string& root)
 {
     const std::string folders[] = {root, root + "/in", root + "/in/deep", root + "/#in"};
+    const std::string& another = folders[text.size() % 4];
     for (const std::string& name : Read(text))
         for (const std::string& folder : folders) {
-            const PicturePlace place = FindPicture(name, folder, root);
-            if (!place.path.empty() &&
-                (!place.path.starts_with(root + '/') || (place.path + '/').find("/../") != place.path.npos))
+            const auto [path, isThere, error] = FindPicture(name, folder, root);
+            if (error != 0)
+                return "a name is taken for an error of the disk";
+            if (!path.empty() && (!path.starts_with(root + '/') || (path + '/').find("/../") != path.npos))
                 return "a line leads out of the library";
-            const std::string line =
-                place.isThere ? LineFor(place.path, folders[text.size() % 4], root) : std::string();
+            const std::string line = isThere ? LineTo(path, another, root) : std::string();
             if (line.empty())
                 continue;
             if (Read("x\n" + line) != Names{"x", line} || Read(WithLine("", line)) != Names{line})
                 return "the line for a picture is read as something else";
-            if (FindPicture(line, folders[text.size() % 4], root).path != place.path)
+            if (FindPicture(line, another, root).path != path)
                 return "the line for a picture leads to another";
         }
     return {};
@@ -128,13 +137,15 @@ std::string CheckPlaces(std::string_view text, const std::string& root)
 std::string CheckMove(std::string_view text, const std::string& root)
 {
     const std::string from = root + "/in", into = text.size() % 2 ? root : root + "/in/deep";
-    const std::string moved = Relocated(text, from, into, root);
+    std::string moved(text);
+    if (!Relocate(moved, from, into, root).empty())
+        return "a move was refused";
     const Names before = Read(text), after = Read(moved);
     if (before.size() != after.size())
         return "a move changed the number of pictures";
     for (std::size_t i = 0; i < before.size(); ++i) {
         const PicturePlace former = FindPicture(before[i], from, root), now = FindPicture(after[i], into, root);
-        if (before[i] == after[i] ? former.isThere && !now.isThere && !LineFor(former.path, into, root).empty()
+        if (before[i] == after[i] ? former.isThere && !now.isThere && !LineTo(former.path, into, root).empty()
                                   : now.path != former.path || FindPicture(before[i], into, root).isThere)
             return "a line leads elsewhere after a move";
     }
