@@ -81,10 +81,12 @@ CMainFrame* EditorApp::GetFrame() const
     return GetMainWindow() ? m_parts->pFrame.get() : nullptr;
 }
 
-void EditorApp::WaitUntilSettled()
+void EditorApp::WaitUntilSettled(const std::function<bool()>& isToEnd)
 {
-    for (toolkit::RunPendingMessages(); !m_parts->pPictures->IsIdle(); toolkit::RunPendingMessages())
-        m_parts->pPictures->WaitForResult();
+    constexpr std::chrono::milliseconds kLook(50);
+    toolkit::RunPendingMessages();
+    for (; !m_parts->pPictures->IsIdle() && !isToEnd(); toolkit::RunPendingMessages())
+        m_parts->pPictures->WaitForResult(kLook);
 }
 
 } // namespace editor

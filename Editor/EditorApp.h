@@ -22,9 +22,9 @@ public:
     };
 
     // Installs the editor's services and resources; one editor at a time. The reader is borrowed and outlives the
-    // editor, the desktop, too.
+    // editor (PictureReader tells for how long), the desktop, too.
     EditorApp(const PictureReader& reader, Options options);
-    ~EditorApp(); // closes the frame, waits for the threads
+    ~EditorApp(); // closes the frame
     EditorApp(const EditorApp&) = delete;
     EditorApp& operator=(const EditorApp&) = delete;
 
@@ -35,8 +35,8 @@ public:
     HWND GetMainWindow() const;   // NULL before the first folder and after the frame was closed
     CMainFrame* GetFrame() const; // the same
 
-    // Runs the queue until every picture in sight is decoded and painted.
-    void WaitUntilSettled();
+    // Runs the queue until every picture in sight is decoded and painted, or somebody wants an end.
+    void WaitUntilSettled(const std::function<bool()>& isToEnd = [] { return false; });
 
 private:
     struct Parts;

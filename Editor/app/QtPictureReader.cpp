@@ -7,6 +7,7 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -16,6 +17,13 @@ namespace editor
 {
 namespace
 {
+
+std::atomic<int> g_nReading{0};
+struct Reading
+{
+    Reading() { ++g_nReading; }
+    ~Reading() { --g_nReading; }
+};
 
 std::vector<std::string> KnownExtensions()
 {
@@ -107,7 +115,18 @@ QtPictureReader::QtPictureReader() : m_extensions(KnownExtensions())
     QImageReader::setAllocationLimit(kMaxMegabytes);
 }
 
+bool QtPictureReader::IsReading()
+{
+    return g_nReading > 0;
+}
+
 DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize, int frame) const
+{
+    const Reading reading;
+    return ReadFile(path, maxSize, frame);
+}
+
+DecodedPicture QtPictureReader::ReadFile(const std::string& path, CSize maxSize, int frame) const
 {
     QFile file;
     if (std::string reason = Open(file, path); !reason.empty())

@@ -20,7 +20,11 @@ public:
 
     static constexpr int kMaxMegabytes = 256;
 
+    static bool IsReading(); // on any thread
+
 private:
+    DecodedPicture ReadFile(const std::string& path, CSize maxSize, int frame) const;
+
     const std::vector<std::string> m_extensions;
 };
 

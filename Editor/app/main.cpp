@@ -20,6 +20,7 @@
 #include <QSocketNotifier>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 
 namespace
 {
@@ -27,6 +28,13 @@ namespace
 constexpr int kCommandFailed = 1;
 constexpr int kNothingShown = 2;
 constexpr int kEndedBySignal = 128; // as shells say it
+
+// What it is reading when the program ends, it reads to the end of that, for nobody.
+const editor::PictureReader& Reader()
+{
+    static const editor::QtPictureReader reader;
+    return reader;
+}
 
 int Refuse(const std::string& reason)
 {
@@ -46,9 +54,8 @@ int Show(QApplication& application, const editor::CommandLine& line, const edito
     const QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
     QObject::connect(&asked, &QSocketNotifier::activated, &application, &QApplication::quit);
     application.setWindowIcon(editor::MakeProgramIcon());
-    const editor::QtPictureReader reader;
     qtdesktop::QtDesktop desktop;
-    editor::EditorApp editor(reader, {.size = line.size, .onClosed = [&] { application.quit(); }});
+    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = [&] { application.quit(); }});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     return application.exec();
@@ -74,9 +81,8 @@ int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
     std::string text;
     if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
         return Refuse(reason);
-    const editor::QtPictureReader reader;
     UnattendedDesktop desktop;
-    editor::EditorApp editor(reader, {.size = line.size, .onClosed = {}});
+    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = {}});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     QCoreApplication::processEvents(); // the window takes its place
@@ -92,24 +98,34 @@ int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
     return failure.empty() ? 0 : kCommandFailed;
 }
 
-int TakeScreenshot(const editor::CommandLine& line, const std::string& trouble)
+int TakeScreenshot(const editor::CommandLine& line, const std::string& trouble, const editor::EndSignals& ending)
 {
     editor::Screenshot screenshot(line.screenshot);
     if (!screenshot.GetError().empty())
         return Refuse(screenshot.GetError());
 
-    const editor::QtPictureReader reader;
     qtdesktop::QtDesktop desktop;
-    editor::EditorApp editor(reader, {.size = line.size, .onClosed = {}});
+    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = {}});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     QCoreApplication::processEvents(); // the window takes its place
-    editor.WaitUntilSettled();
+    editor.WaitUntilSettled([&] { return ending.GetLast() != 0; });
+    if (ending.GetLast() != 0)
+        return 0;
     if (!screenshot.Write(*desktop.FindWidget(editor.GetMainWindow())))
         return Refuse(screenshot.GetError());
     if (!trouble.empty())
         std::printf("No window, for %s; its picture is in %s\n", trouble.c_str(), screenshot.GetPath().c_str());
     return 0;
+}
+
+// Decoders that are at work use what the application, or the end of the program, takes away.
+int EndAtOnce(int nStatus)
+{
+    if (!editor::QtPictureReader::IsReading())
+        return nStatus;
+    std::fflush(nullptr);
+    std::_Exit(nStatus);
 }
 
 } // namespace
@@ -139,6 +155,6 @@ int main(int argc, char* argv[])
     application.setQuitOnLastWindowClosed(false); // the editor tells when it is closed
     const int nStatus = !line.script.empty() ? RunScript(line, ending)
                         : display.usable     ? Show(application, line, ending)
-                                             : TakeScreenshot(line, display.trouble);
-    return ending.GetLast() != 0 ? kEndedBySignal + ending.GetLast() : nStatus;
+                                             : TakeScreenshot(line, display.trouble, ending);
+    return EndAtOnce(ending.GetLast() != 0 ? kEndedBySignal + ending.GetLast() : nStatus);
 }

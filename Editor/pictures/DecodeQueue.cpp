@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <utility>
 
 namespace editor
@@ -29,91 +30,92 @@ std::string LookAt(const std::string& path, FileStamp& stamp)
 } // namespace
 
 DecodeQueue::DecodeQueue(const PictureReader& reader, int threads, std::function<void()> ready)
-    : m_reader(reader), m_ready(std::move(ready))
+    : m_pShared(new Shared{.reader = reader, .ready = std::move(ready)})
 {
     for (int i = 0; i < threads; ++i)
-        m_threads.emplace_back([this] { Work(); });
+        std::thread([pShared = m_pShared] { Work(*pShared); }).detach();
 }
 
 void DecodeQueue::Add(DecodeJob job)
 {
-    const std::lock_guard lock(m_mutex);
-    m_jobs.push_back(std::move(job));
-    m_jobAdded.notify_one();
+    const std::lock_guard lock(m_pShared->mutex);
+    m_pShared->jobs.push_back(std::move(job));
+    m_pShared->jobAdded.notify_one();
 }
 
 std::optional<DecodeJob> DecodeQueue::DropOldest(std::size_t limit)
 {
-    const std::lock_guard lock(m_mutex);
-    if (m_jobs.size() <= limit)
+    const std::lock_guard lock(m_pShared->mutex);
+    std::deque<DecodeJob>& jobs = m_pShared->jobs;
+    if (jobs.size() <= limit)
         return {};
-    std::optional<DecodeJob> oldest(std::move(m_jobs.front()));
-    m_jobs.pop_front();
+    std::optional<DecodeJob> oldest(std::move(jobs.front()));
+    jobs.pop_front();
     return oldest;
 }
 
 void DecodeQueue::DropIf(const std::function<bool(const DecodeJob&)>& isUnwanted)
 {
-    const std::lock_guard lock(m_mutex);
-    std::erase_if(m_jobs, isUnwanted);
+    const std::lock_guard lock(m_pShared->mutex);
+    std::erase_if(m_pShared->jobs, isUnwanted);
 }
 
 std::vector<DecodeResult> DecodeQueue::TakeResults()
 {
-    const std::lock_guard lock(m_mutex);
-    return std::exchange(m_results, {});
+    const std::lock_guard lock(m_pShared->mutex);
+    return std::exchange(m_pShared->results, {});
 }
 
 bool DecodeQueue::IsIdle() const
 {
-    const std::lock_guard lock(m_mutex);
-    return m_jobs.empty() && m_nBusy == 0 && m_results.empty();
+    const std::lock_guard lock(m_pShared->mutex);
+    return m_pShared->jobs.empty() && m_pShared->nBusy == 0 && m_pShared->results.empty();
 }
 
-void DecodeQueue::WaitForResult()
+void DecodeQueue::WaitForResult(std::chrono::milliseconds most)
 {
-    std::unique_lock lock(m_mutex);
-    m_jobDone.wait(lock, [this] { return !m_results.empty() || (m_jobs.empty() && m_nBusy == 0) || m_bStop; });
+    Shared& shared = *m_pShared;
+    std::unique_lock lock(shared.mutex);
+    shared.jobDone.wait_for(lock, most, [&] {
+        return !shared.results.empty() || (shared.jobs.empty() && shared.nBusy == 0) || shared.bStop;
+    });
 }
 
 void DecodeQueue::Stop()
 {
-    {
-        const std::lock_guard lock(m_mutex);
-        m_bStop = true;
-        m_jobs.clear();
-    }
-    m_jobAdded.notify_all();
-    m_jobDone.notify_all();
-    for (std::thread& thread : m_threads)
-        thread.join();
-    m_threads.clear();
+    const std::lock_guard lock(m_pShared->mutex);
+    m_pShared->bStop = true;
+    m_pShared->jobs.clear();
+    m_pShared->jobAdded.notify_all();
+    m_pShared->jobDone.notify_all();
 }
 
-void DecodeQueue::Work()
+void DecodeQueue::Work(Shared& shared)
 {
     setpriority(PRIO_PROCESS, 0, kNiceness); // of this thread alone: the window answers first
-    std::unique_lock lock(m_mutex);
+    std::unique_lock lock(shared.mutex);
     for (;;) {
-        m_jobAdded.wait(lock, [this] { return m_bStop || !m_jobs.empty(); });
-        if (m_bStop)
+        shared.jobAdded.wait(lock, [&] { return shared.bStop || !shared.jobs.empty(); });
+        if (shared.bStop)
             return;
-        DecodeJob job = std::move(m_jobs.back());
-        m_jobs.pop_back();
-        ++m_nBusy;
+        DecodeJob job = std::move(shared.jobs.back());
+        shared.jobs.pop_back();
+        ++shared.nBusy;
         lock.unlock();
-        DecodeResult result = Read(std::move(job));
+        DecodeResult result = Read(shared.reader, std::move(job));
         lock.lock();
-        --m_nBusy;
-        m_results.push_back(std::move(result));
-        m_jobDone.notify_all();
-        if (m_results.size() == 1 && !m_bStop)
-            m_ready();
+        --shared.nBusy;
+        if (shared.bStop)
+            return;
+        shared.results.push_back(std::move(result));
+        shared.jobDone.notify_all();
+        if (shared.results.size() == 1)
+            shared.ready();
     }
 }
 
 // Whatever goes wrong becomes a reason: nothing may leave the thread.
-DecodeResult DecodeQueue::Read(DecodeJob job) const
+DecodeResult DecodeQueue::Read(const PictureReader& reader, DecodeJob job)
 {
     DecodeResult result;
     result.job = std::move(job);
@@ -121,7 +123,7 @@ DecodeResult DecodeQueue::Read(DecodeJob job) const
         result.decoded.error = LookAt(result.job.path, result.stamp);
         result.unchanged = result.decoded.error.empty() && result.stamp == result.job.known;
         if (result.decoded.error.empty() && !result.unchanged)
-            result.decoded = m_reader.Read(result.job.path, result.job.size, result.job.frame);
+            result.decoded = reader.Read(result.job.path, result.job.size, result.job.frame);
         if (result.decoded.picture.IsEmpty() && result.decoded.error.empty() && !result.unchanged)
             result.decoded.error = "an empty picture";
     } catch (const std::bad_alloc&) {

@@ -3,14 +3,13 @@
 
 #include "Editor/pictures/PictureReader.h"
 
-#include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <thread>
 
 namespace editor
 {
@@ -46,6 +45,9 @@ struct DecodeResult
 };
 
 // The newest job comes first. Everything but the reader's work is done on the thread that made the queue.
+//
+// Nobody waits for a reader: what it has begun when the queue goes is read to its end by then, for nobody, and the
+// reader is used so long.
 class DecodeQueue
 {
 public:
@@ -60,23 +62,29 @@ public:
     std::optional<DecodeJob> DropOldest(std::size_t limit);
     void DropIf(const std::function<bool(const DecodeJob&)>& isUnwanted); // but for those begun
     std::vector<DecodeResult> TakeResults();
-    bool IsIdle() const;  // no job, and no result that was not taken
-    void WaitForResult(); // until there is one, or nothing is left to do
-    void Stop();          // jobs that wait are dropped; those begun are finished
+    bool IsIdle() const; // no job, and no result that was not taken
+    // Until there is a result, or nothing is left to do, or the time is over.
+    void WaitForResult(std::chrono::milliseconds most);
+    void Stop(); // nothing is read any more, and nobody is told
 
 private:
-    void Work();
-    DecodeResult Read(DecodeJob job) const;
+    // The threads' own, too, which may outlive the queue.
+    struct Shared
+    {
+        const PictureReader& reader;
+        const std::function<void()> ready;
+        std::mutex mutex{}; // of all below
+        std::condition_variable jobAdded{}, jobDone{};
+        std::deque<DecodeJob> jobs{}; // the newest at the back
+        std::vector<DecodeResult> results{};
+        int nBusy = 0;
+        bool bStop = false;
+    };
 
-    const PictureReader& m_reader;
-    const std::function<void()> m_ready;
-    mutable std::mutex m_mutex; // of all below but the threads
-    std::condition_variable m_jobAdded, m_jobDone;
-    std::deque<DecodeJob> m_jobs; // the newest at the back
-    std::vector<DecodeResult> m_results;
-    int m_nBusy = 0;
-    bool m_bStop = false;
-    std::vector<std::thread> m_threads;
+    static void Work(Shared& shared);
+    static DecodeResult Read(const PictureReader& reader, DecodeJob job);
+
+    const std::shared_ptr<Shared> m_pShared;
 };
 
 } // namespace editor

@@ -17,7 +17,8 @@ struct DecodedPicture
     int frames = 1;           // that the file has; more than one: it is animated
 };
 
-// Read is called on worker threads, several at a time; Extensions on the user-interface thread.
+// Read is called on worker threads, several at a time; Extensions on the user-interface thread. Nobody waits for a
+// reading whose picture is not wanted any more: a reader that goes before the program does waits for its own to end.
 class PictureReader
 {
 public:

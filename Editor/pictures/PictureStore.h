@@ -52,8 +52,9 @@ public:
 
     // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
     void Recheck();
-    void WaitForResult() { m_queue.WaitForResult(); } // blocks until there is one or nothing is under way
-    void Stop();                                      // waits for what the threads have begun; nothing is read any more
+    // Blocks until there is one, or nothing is under way, or the time is over.
+    void WaitForResult(std::chrono::milliseconds most) { m_queue.WaitForResult(most); }
+    void Stop(); // nobody hears anything any more; waits for nothing, also not for what the threads have begun
 
 private:
     // One picture at one size.

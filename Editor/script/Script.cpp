@@ -76,7 +76,7 @@ std::string Script::RunLine(std::string_view line)
     if (words.size() > known->nMost)
         return command + ": there is too much behind it";
     const std::string reason = (this->*known->run)(words);
-    m_app.WaitUntilSettled();
+    m_app.WaitUntilSettled(m_outside.isToEnd);
     return reason.empty() ? reason : command + ": " + reason;
 }
 

@@ -21,7 +21,7 @@ public:
     {
         std::function<void(const std::string& line)> print;                 // of what a command was asked to tell
         std::function<std::string(const std::string& path)> takeScreenshot; // empty when done, else the reason
-        std::function<bool()> isToEnd = [] { return false; };               // asked before every command
+        std::function<bool()> isToEnd = [] { return false; };               // asked before every command and in waits
     };
 
     // The editor is borrowed and shows a folder.

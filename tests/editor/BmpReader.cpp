@@ -8,6 +8,13 @@
 #include <fstream>
 #include <iterator>
 
+BmpReader::~BmpReader()
+{
+    AllowAll();
+    std::unique_lock lock(m_mutex);
+    m_changed.wait(lock, [&] { return m_nEnded == m_nBegun; });
+}
+
 void BmpReader::Hold()
 {
     const std::lock_guard lock(m_mutex);
@@ -41,6 +48,15 @@ Ledger BmpReader::TakeReads()
 editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize, int frame) const
 {
     Pass(path);
+    auto picture = ReadNow(path, maxSize, frame);
+    const std::lock_guard lock(m_mutex);
+    ++m_nEnded;
+    m_changed.notify_all();
+    return picture;
+}
+
+editor::DecodedPicture BmpReader::ReadNow(const std::string& path, CSize maxSize, int frame) const
+{
     std::ifstream stream(path, std::ios::binary);
     const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
     auto picture = DecodeBmp(bytes);

@@ -11,6 +11,8 @@
 class BmpReader : public editor::PictureReader
 {
 public:
+    ~BmpReader() override; // waits for what has begun
+
     // From now on reads wait until they are allowed; they are in the ledger when they begin.
     void Hold();
     void Allow(int nReads);
@@ -23,10 +25,11 @@ public:
 
 private:
     void Pass(const std::string& path) const;
+    editor::DecodedPicture ReadNow(const std::string& path, CSize maxSize, int frame) const;
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;
     mutable LedgerBook m_reads;
-    mutable int m_nBegun = 0;
+    mutable int m_nBegun = 0, m_nEnded = 0;
     mutable int m_nAllowed = 1 << 30;
 };

@@ -46,6 +46,8 @@ LibraryTest::~LibraryTest()
 {
     m_pLibrary.Release();
     reader.AllowAll();
+    for (desktop.Run(); !pPictures->IsIdle(); desktop.Run())
+        pPictures->WaitForResult(std::chrono::milliseconds(10));
     pPictures->Stop();
     EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
 }

@@ -98,6 +98,18 @@ TEST_F(ScriptTest, TheFirstThatFailsEndsItWithFileLineAndReason)
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/one.bmp Ada/a b.bmp Bo/ Bo/*/", folder.Everything());
 }
 
+TEST_F(ScriptTest, WhoeverWantsAnEndNeedNotWaitForAPicture)
+{
+    reader.TakeReads();
+    folder.WriteBmp("Bo/large.bmp");
+    reader.Hold();
+    bool bReading = false;
+    editor::Script script(App(), {.print = [](const std::string&) {},
+                                  .takeScreenshot = {},
+                                  .isToEnd = [&] { return bReading = bReading || !reader.TakeReads().empty(); }});
+    EXPECT_EQ("test.txt:2: interrupted", script.Run("test.txt", "enter Bo\nlist"));
+}
+
 TEST(ScriptWordsTest, QuotesHoldBlanksQuotesAndBackslashes)
 {
     std::vector<std::string> words;
