@@ -58,6 +58,8 @@ public:
     std::string Cut();
     std::string Remove();
     std::string Paste(bool* pAny = nullptr); // into the container that is shown; did any object come?
+    // These members of the container that is shown and no others. The views hear of the last alone, however many.
+    void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
 
     std::string Save(); // all phases that are modified; the reason for the first that was not saved
 

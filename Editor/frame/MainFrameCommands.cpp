@@ -5,6 +5,8 @@
 #include "Editor/resources/EditorResources.h"
 #include "Toolkit/window/MessageBox.h"
 
+#include <set>
+
 namespace editor
 {
 namespace
@@ -137,12 +139,35 @@ std::string CMainFrame::Remove()
 std::string CMainFrame::Paste(bool* pAny)
 {
     const auto pTarget = CStubRef<CContainer>::Share(ShownContainer());
-    const UINT nBefore = pTarget->GetCount();
-    std::string reason = m_commands.Paste(pTarget.Get());
+    std::vector<CStubRef<IAtom>> arrived;
+    std::string reason = m_commands.Paste(pTarget.Get(), arrived);
+    if (!arrived.empty())
+        SelectJust(arrived);
     if (pAny)
-        *pAny = pTarget->GetCount() > nBefore;
-    m_pList->FocusSelection();
+        *pAny = !arrived.empty();
     return reason;
+}
+
+// To a view that is told of an atom, names that differ in their case alone are the same; a row is that of one atom.
+void CMainFrame::SelectJust(const std::vector<CStubRef<IAtom>>& atoms)
+{
+    CContainer* const pContainer = ShownContainer();
+    m_commands.Select({}, pContainer);
+    if (!atoms.empty())
+        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, atoms.back().Get(), pContainer, 0);
+    std::set<IAtom*> wanted;
+    for (const CStubRef<IAtom>& pAtom : atoms)
+        wanted.insert(pAtom.Get());
+    {
+        const CAtomEditor::Silence silence(m_editor);
+        for (int i = 0, count = m_pList->GetItemCount(); i < count; ++i) {
+            const UINT state = wanted.contains(m_pList->GetAtom(i).Get()) ? LVIS_SELECTED : 0;
+            if (m_pList->GetItemState(i, LVIS_SELECTED) != state)
+                m_pList->SetItemState(i, state, LVIS_SELECTED);
+        }
+    }
+    m_pList->FocusSelection();
+    UpdateStatus();
 }
 
 // The list loads its rows anew: the user goes on where the selection was.

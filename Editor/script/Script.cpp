@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <set>
 
 namespace editor
 {
@@ -146,24 +145,8 @@ std::string Script::Select(const Words& words)
             return reason;
         atoms.push_back(CStubRef<IAtom>::Share(pMember.Get()));
     }
-    Frame().GetCommands().Select(atoms, Frame().ShownContainer());
-    SelectJust(atoms);
-    Frame().GetList().FocusSelection();
+    Frame().SelectJust(atoms);
     return {};
-}
-
-// To a view that is told of an atom, names that differ in their case alone are the same; a row is that of one atom.
-void Script::SelectJust(const std::vector<CStubRef<IAtom>>& atoms) const
-{
-    std::set<IAtom*> wanted;
-    for (const CStubRef<IAtom>& pAtom : atoms)
-        wanted.insert(pAtom.Get());
-    CEditorList& list = Frame().GetList();
-    for (int i = 0, count = list.GetItemCount(); i < count; ++i) {
-        const UINT state = wanted.contains(list.GetAtom(i).Get()) ? LVIS_SELECTED : 0;
-        if (list.GetItemState(i, LVIS_SELECTED) != state)
-            list.SetItemState(i, state, LVIS_SELECTED);
-    }
 }
 
 std::string Script::Copy(const Words&)

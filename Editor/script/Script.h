@@ -43,7 +43,6 @@ private:
     std::string RunLine(std::string_view line);
     CMainFrame& Frame() const;
     std::string Find(const std::string& name, CStubRef<CMember>& pFound) const; // in the container that is shown
-    void SelectJust(const std::vector<CStubRef<IAtom>>& atoms) const;
 
     // Each empty when done, else the reason.
     std::string Open(const Words& words);

@@ -99,6 +99,8 @@ void CAtomEditor::UnregisterHandler(DWORD cookie)
 BOOL CAtomEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
                                  IAtomContainer* container, DWORD)
 {
+    if (m_nSilent > 0)
+        return TRUE;
     // A view may let go of both in the middle.
     const auto pAtom = CStubRef<IAtom>::Share(atom);
     const auto pContainer = CStubRef<IAtomContainer>::Share(container);

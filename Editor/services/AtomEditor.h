@@ -76,6 +76,20 @@ public:
         CAtomEditor& m_editor;
     };
 
+    // While one lives, nothing that views tell is passed on, and all that they ask is allowed. For changes of many at
+    // once, of which everyone hears afterwards.
+    class Silence
+    {
+    public:
+        explicit Silence(CAtomEditor& editor) : m_editor(editor) { ++m_editor.m_nSilent; }
+        ~Silence() { --m_editor.m_nSilent; }
+        Silence(const Silence&) = delete;
+        Silence& operator=(const Silence&) = delete;
+
+    private:
+        CAtomEditor& m_editor;
+    };
+
     DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
     void UnregisterHandler(DWORD cookie) override;
     BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
@@ -123,6 +137,7 @@ private:
     std::shared_ptr<Moved> m_pMoved;          // from the end of a drag until its originals have been removed
     std::string m_archiveError;
     bool m_bCanLeaveOut = false, m_bLeavingOut = false;
+    int m_nSilent = 0;
     int m_nRefs = 0;
 };
 

@@ -22,8 +22,8 @@ constexpr const char* kNoFile = "no file can be made for it";
 class Arrivals final : public CStateHandler
 {
 public:
-    Arrivals(CAtomEditor& editor, IAtomContainer* pContainer)
-        : m_editor(editor), m_pContainer(pContainer), m_dwCookie(editor.RegisterHandler(nullptr, this))
+    Arrivals(CAtomEditor& editor, IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms)
+        : m_editor(editor), m_pContainer(pContainer), m_atoms(atoms), m_dwCookie(editor.RegisterHandler(nullptr, this))
     {}
     ~Arrivals() { m_editor.UnregisterHandler(m_dwCookie); }
     Arrivals(const Arrivals&) = delete;
@@ -35,12 +35,11 @@ public:
             m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
         return TRUE;
     }
-    const std::vector<CStubRef<IAtom>>& Get() const { return m_atoms; }
 
 private:
     CAtomEditor& m_editor;
     IAtomContainer* const m_pContainer;
-    std::vector<CStubRef<IAtom>> m_atoms;
+    std::vector<CStubRef<IAtom>>& m_atoms;
     const DWORD m_dwCookie;
 };
 
@@ -134,13 +133,10 @@ try {
     return e.GetErrorMessage();
 }
 
-std::string Commands::Paste(CContainer* pTarget)
+std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
 try {
-    const Arrivals arrivals(m_editor, pTarget);
-    std::string trouble = AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
-    if (!arrivals.Get().empty())
-        Select(arrivals.Get(), pTarget);
-    return trouble;
+    const Arrivals arrivals(m_editor, pTarget, arrived);
+    return AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
 } catch (const CMemoryException& e) {
     return e.GetErrorMessage();
 }

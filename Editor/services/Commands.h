@@ -35,9 +35,9 @@ public:
     std::string Cut();
     std::string Remove(); // without asking
 
-    // What the clipboard holds, objects or else the files that a file manager has copied, is added to the container,
-    // and selected there.
-    std::string Paste(CContainer* pTarget);
+    // What the clipboard holds, objects or else the files that a file manager has copied, is added to the container.
+    // `arrived` are the new members.
+    std::string Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
     // What has the new name is another object.
     std::string Rename(CMember* pMember, const std::string& name);
 

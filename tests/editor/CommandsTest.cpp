@@ -41,6 +41,27 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     EXPECT_EQ(Ledger(), TakeBoxes());
 }
 
+TEST_F(CommandsTest, ManyThatArePastedAreSelectedWithoutTellingEveryoneOfEach)
+{
+    struct Selections final : public CStateHandler
+    {
+        int nTold = 0;
+        BOOL OnAtomSelected(IAtom*, IAtomContainer*) override { return ++nTold > 0; }
+    } told;
+    for (int i = 0; i < 40; ++i)
+        folder.WriteBmp("Bo/" + std::to_string(i) + ".bmp");
+    Open();
+    DoubleClick("Bo");
+    Control('A');
+    Control('C');
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const DWORD dwCookie = pEditor->RegisterHandler(nullptr, &told);
+    Control('V');
+    pEditor->UnregisterHandler(dwCookie);
+    EXPECT_EQ(40, Frame().GetList().GetSelectedCount());
+    EXPECT_GT(50, told.nTold) << "each as it comes, which is the list's own doing, and hardly more";
+}
+
 TEST_F(CommandsTest, WhatIsCutGoesAndTheFocusStaysInItsPlace)
 {
     folder.WriteBmp("Ada/c.bmp");

@@ -33,6 +33,8 @@ void PrintTo(const Command& command, std::ostream* pStream)
     *pStream << command.pszName;
 }
 
+constexpr int kAllocations = 1; // each so many-th fails
+
 // What a process of its own leaves behind, however it ends.
 struct Outcome
 {
@@ -217,7 +219,6 @@ protected:
     TempFolder folder;
     const OwnFileSystem disk{folder.Path()}; // the trashes of the machine's own are left alone
 
-private:
     Outcome* m_pOutcome;
 };
 
@@ -247,6 +248,41 @@ TEST_P(FailingDiskTest, LeavesEachObjectAsItWasOrAsAskedAndSaysWhyNot)
         }
     }
     EXPECT_LT(whole.nOperations, nRuns);
+}
+
+// In one process; the library is made anew after each time.
+TEST_P(FailingDiskTest, WithoutMemoryEachObjectIsAsItWasOrAsAskedToo)
+{
+    const Command& command = GetParam();
+    MakeLibrary();
+    const Files before = FilesIn(folder.At("library"));
+    Run(command);
+    const Files asked = FilesIn(folder.At("library"));
+    MakeLibrary();
+    toolkit::HeadlessDesktop desktop;
+    BmpReader reader;
+    editor::EditorApp app(reader, {.size = {1, 1}, .onClosed = {}});
+    ASSERT_EQ("", app.OpenFolder(folder.At("library")));
+    editor::Script script(app, {.print = [](const auto&) {}, .takeScreenshot = {}});
+    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); nth += kAllocations) {
+        EXPECT_EQ("", script.Run("before", command.pszBefore));
+        const auto pPhase = command.pszLine ? CStubRef<editor::CPhase>() : PhaseToSave(*app.GetFrame());
+        {
+            const FailAllocation fail(nth);
+            try {
+                pPhase ? pPhase->SaveTiming() : script.Run("test", command.pszLine);
+            } catch (const std::bad_alloc&) {
+                desktop.Run(); // the program has told of it, and goes on
+            }
+        }
+        Outcome& outcome = *m_pOutcome;
+        std::memset(&outcome, 0, sizeof outcome);
+        Note(outcome.transferred, AllOf(FilesIn(folder.At("temp"))));
+        ASSERT_EQ("", Trouble(outcome, before, asked, DiskFault::Full)) << "allocation " << nth;
+        EXPECT_EQ(std::string::npos, folder.Everything().find("/.views-new-")) << "allocation " << nth;
+        MakeLibrary();
+        ASSERT_EQ("", app.OpenFolder(folder.At("library")));
+    }
 }
 
 const Command kCommands[] = {

@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <climits>
 #include <cstdarg>
+#include <cstdio>
+#include <cstring>
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
@@ -86,17 +88,21 @@ FailOperation::Operation Opening(int flags)
     return flags & O_CREAT ? kGrow : kLook;
 }
 
+// Without a block of memory: that there is none may be what is being tested.
 bool IsOnOwnSystem(int nFolder, const char* pszPath)
 {
     if (g_ownSystem.empty())
         return false;
-    std::string path = pszPath;
-    if (!path.starts_with('/') && nFolder != AT_FDCWD) {
-        char folder[PATH_MAX];
-        const ssize_t size = readlink(("/proc/self/fd/" + std::to_string(nFolder)).c_str(), folder, sizeof folder);
-        path = std::string(folder, size < 0 ? 0 : static_cast<std::size_t>(size)) + '/' + path;
+    char path[2 * PATH_MAX] = "", link[64];
+    if (pszPath[0] != '/' && nFolder != AT_FDCWD) {
+        std::snprintf(link, sizeof link, "/proc/self/fd/%d", nFolder);
+        if (readlink(link, path, PATH_MAX) < 0)
+            return false;
+        std::strcat(path, "/");
     }
-    return path.starts_with(g_ownSystem) && (path.size() == g_ownSystem.size() || path[g_ownSystem.size()] == '/');
+    std::strncat(path, pszPath, PATH_MAX - 1);
+    const std::size_t size = g_ownSystem.size();
+    return std::strncmp(path, g_ownSystem.c_str(), size) == 0 && (path[size] == '\0' || path[size] == '/');
 }
 
 int Placed(int result, int nFolder, const char* pszPath, struct stat* pStatus)
