@@ -144,14 +144,16 @@ std::string_view CContainer::NameOf(const CMember& member) const
 {
     if (member.m_nIndex != MemberTable::kNone)
         return m_pContents->table.NameOf(member.m_nIndex);
-    return m_pContents->gone.at(&member).name;
+    const auto gone = m_pContents->gone.find(&member);
+    return gone == m_pContents->gone.end() ? std::string_view() : gone->second.name;
 }
 
 DWORD CContainer::IdOf(const CMember& member) const
 {
     if (member.m_nIndex != MemberTable::kNone)
         return m_pContents->table.IdOf(member.m_nIndex);
-    return m_pContents->gone.at(&member).id;
+    const auto gone = m_pContents->gone.find(&member);
+    return gone == m_pContents->gone.end() ? 0 : gone->second.id;
 }
 
 void CContainer::Forget(const CMember& member)

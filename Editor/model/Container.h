@@ -74,7 +74,7 @@ protected:
     virtual std::string Remove(const CMember& member) = 0;
     virtual std::string ValidNameFor(std::string_view name) = 0; // empty when there is none
 
-    std::string_view NameOf(const CMember& member) const; // as it was listed
+    std::string_view NameOf(const CMember& member) const; // as it was listed; empty when that is forgotten
     MemberKind KindOf(const CMember& present) const { return m_pContents->table.KindOf(present.Index()); }
     const MemberTable& Table() { return Members().table; }
 
@@ -99,7 +99,7 @@ private:
     std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name);
     BOOL Note(std::string failure); // FALSE when there is one
     UINT Append(const Entry& entry);
-    void Drop(UINT nIndex);
+    void Drop(UINT nIndex) noexcept;
     void Tidy();
     DWORD IdOf(const CMember& member) const;
     void Forget(const CMember& member);

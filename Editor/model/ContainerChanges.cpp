@@ -4,6 +4,7 @@
 #include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
 
+#include <new>
 #include <utility>
 
 namespace editor
@@ -104,11 +105,16 @@ UINT CContainer::Append(const Entry& entry)
     return table.Append(entry.name, entry.kind, Context().nextId++);
 }
 
-void CContainer::Drop(UINT nIndex)
+// The disk has changed already: nothing may fail now. Without memory nobody remembers how it was called.
+void CContainer::Drop(UINT nIndex) noexcept
 {
     MemberTable& table = m_pContents->table;
     if (CMember* const pLive = table.LiveAt(nIndex)) {
-        m_pContents->gone[pLive] = {std::string(table.NameOf(nIndex)), table.IdOf(nIndex)};
+        try {
+            m_pContents->gone[pLive] = {std::string(table.NameOf(nIndex)), table.IdOf(nIndex)};
+        } catch (const std::bad_alloc&) {
+            m_pContents->gone.erase(pLive);
+        }
         pLive->m_nIndex = MemberTable::kNone;
     }
     table.Drop(nIndex);
