@@ -123,12 +123,13 @@ TEST_F(GraphicsTest, ARowIsBlendedLikeEachOfItsPixels)
 {
     constexpr int kCount = 23;
     constexpr toolkit::Pixel kColor = 0xFF10C8FF;
+    const auto premultiplied = [](toolkit::Pixel p) { return toolkit::ScalePixel(p | 0xFF000000u, p >> 24); };
     for (toolkit::Pixel alpha = 0; alpha < 256; ++alpha) {
         std::array<toolkit::Pixel, kCount> below, above, pictured, masked, expectedPicture, expectedMask;
         std::array<BYTE, kCount> mask;
         for (unsigned i = 0; i < kCount; ++i) {
-            below[i] = toolkit::Premultiplied(0x01020304u * (i * 11 + alpha));
-            above[i] = toolkit::Premultiplied(alpha << 24 | 0x0B17F3u * i % 0xFFFFFFu);
+            below[i] = premultiplied(0x01020304u * (i * 11 + alpha));
+            above[i] = premultiplied(alpha << 24 | 0x0B17F3u * i % 0xFFFFFFu);
             mask[i] = static_cast<BYTE>(alpha * (i % 3));
             expectedPicture[i] = toolkit::Over(above[i], below[i]);
             expectedMask[i] = toolkit::Over(toolkit::ScalePixel(kColor, mask[i]), below[i]);
