@@ -145,7 +145,7 @@ TEST_F(RealEditorTest, WhatOneHasCopiedTheOtherPastesUntilTheFirstIsClosed)
     ASSERT_TRUE(m_left.waitForFinished(kPatience));
     EXPECT_TRUE(QDir(m_folder.filePath("temp")).isEmpty());
     Press(rightWindow, "ctrl+v");
-    EXPECT_NE("", FindWindow("Not everything was pasted"));
+    EXPECT_NE("", FindWindow("Nothing was pasted"));
     AwaitFiles("left a.png b.png | right a.png");
     EXPECT_EQ(QProcess::Running, m_right.state());
 }
