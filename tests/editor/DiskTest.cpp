@@ -1,3 +1,4 @@
+#include "Editor/model/FileNames.h"
 #include "Editor/model/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
 #include "tests/editor/AsNobody.h"
@@ -5,6 +6,7 @@
 
 #include <csignal>
 #include <fcntl.h>
+#include <set>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -98,6 +100,22 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ("_con.bmp", ValidName("con.bmp"));
     EXPECT_EQ("hidden", ValidName("..hidden"));
     EXPECT_EQ("?", ValidName(".."));
+}
+
+TEST(FileNamesTest, TheNextOfManyNamesakesIsFoundInAFewSteps)
+{
+    std::set<std::string, std::less<>> taken{"a.bmp"};
+    int nAsked = 0, nKnown = 0;
+    const auto isTaken = [&](std::string_view name) { return ++nAsked, taken.contains(name); };
+    for (int i = 2; i <= 300; ++i)
+        EXPECT_EQ("a (" + std::to_string(i) + ").bmp",
+                  *taken.insert(editor::NameForCopy("a.bmp", ".bmp", isTaken, nKnown)).first);
+    EXPECT_GT(3 * 300, nAsked);
+    nAsked = 0;
+    for (int i = 301; i <= 330; ++i)
+        EXPECT_EQ("a (" + std::to_string(i) + ").bmp",
+                  *taken.insert(editor::AnyNameForCopy("a.bmp", ".bmp", isTaken)).first);
+    EXPECT_GT(30 * 30, nAsked);
 }
 
 TEST_F(DiskTest, ALongNameIsShortenedBetweenCharacters)
