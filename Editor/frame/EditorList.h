@@ -41,6 +41,7 @@ public:
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
 
+    IAEStateHandler* Handler() const { return dynamic_cast<IAEStateHandler*>(&m_view); }
     HWND GetSafeHwnd() const { return m_view.GetSafeHwnd(); }
     BOOL IsWindowVisible() const { return m_view.IsWindowVisible(); }
     void SetFocus() { m_view.SetFocus(); }

@@ -148,24 +148,23 @@ std::string CMainFrame::Paste(bool* pAny)
     return reason;
 }
 
-// To a view that is told of an atom, names that differ in their case alone are the same; a row is that of one atom.
+// A view that is told of an atom takes one of the same name in another case for it: the list's rows are those of the
+// atoms themselves. New ones are the last.
 void CMainFrame::SelectJust(const std::vector<CStubRef<IAtom>>& atoms)
 {
     CContainer* const pContainer = ShownContainer();
     m_commands.Select({}, pContainer);
-    if (!atoms.empty())
-        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, atoms.back().Get(), pContainer, 0);
     std::set<IAtom*> wanted;
     for (const CStubRef<IAtom>& pAtom : atoms)
         wanted.insert(pAtom.Get());
     {
         const CAtomEditor::Silence silence(m_editor);
-        for (int i = 0, count = m_pList->GetItemCount(); i < count; ++i) {
-            const UINT state = wanted.contains(m_pList->GetAtom(i).Get()) ? LVIS_SELECTED : 0;
-            if (m_pList->GetItemState(i, LVIS_SELECTED) != state)
-                m_pList->SetItemState(i, state, LVIS_SELECTED);
-        }
+        for (int i = m_pList->GetItemCount() - 1; i >= 0 && !wanted.empty(); --i)
+            if (wanted.erase(m_pList->GetAtom(i).Get()) > 0)
+                m_pList->SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
     }
+    if (!atoms.empty())
+        m_editor.NotifyHandlers(m_pList->Handler(), &IAEStateHandler::OnAtomSelected, atoms.back().Get(), pContainer, 0);
     m_pList->FocusSelection();
     UpdateStatus();
 }
