@@ -33,6 +33,11 @@ bool IsScalar(char32_t c, int bytes)
     return c >= kLowest[bytes] && c < kInvalid && (c < 0xD800 || c > 0xDFFF);
 }
 
+char FoldAscii(char c)
+{
+    return static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+}
+
 std::uint64_t LoadEight(const char* p)
 {
     std::uint64_t bytes;
@@ -40,8 +45,8 @@ std::uint64_t LoadEight(const char* p)
     return bytes;
 }
 
-// How many bytes, all of them ASCII, the texts begin with that are the same. This is the sort key of long
-// lists of names, most of which share a prefix: eight at a time, then one by one.
+// How many bytes, all of them ASCII, the texts begin with that are the same but for case. This is the sort key of
+// long lists of names, most of which share a prefix: eight at a time, then one by one.
 std::size_t SameAsciiStart(std::string_view a, std::string_view b)
 {
     constexpr std::uint64_t kBeyondAscii = 0x8080808080808080u;
@@ -53,7 +58,7 @@ std::size_t SameAsciiStart(std::string_view a, std::string_view b)
             break;
         n += 8;
     }
-    while (n < nCommon && a[n] == b[n] && static_cast<unsigned char>(a[n]) < 0x80)
+    while (n < nCommon && ((a[n] | b[n]) & 0x80) == 0 && FoldAscii(a[n]) == FoldAscii(b[n]))
         ++n;
     return n;
 }
@@ -104,11 +109,9 @@ int toolkit::CompareNoCase(std::string_view a, std::string_view b)
         if (a.empty() || b.empty())
             return static_cast<int>(!a.empty()) - static_cast<int>(!b.empty());
 
-        const CodePoint ca = DecodeUtf8(a);
-        const CodePoint cb = DecodeUtf8(b);
+        const CodePoint ca = DecodeUtf8(a), cb = DecodeUtf8(b);
         if (ca.value != cb.value) {
-            const char32_t fa = FoldCase(ca.value);
-            const char32_t fb = FoldCase(cb.value);
+            const char32_t fa = FoldCase(ca.value), fb = FoldCase(cb.value);
             if (fa != fb)
                 return fa < fb ? -1 : 1;
         }
