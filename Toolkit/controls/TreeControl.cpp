@@ -18,6 +18,8 @@ const bool s_registered = [] {
 
 LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (!m_unsettled.empty() && NeedsOrder(message, wParam) && !SettleGathered())
+        return 0;
     static const HandlerTable<TreeControl> handlers{
         {WM_CREATE, &TreeControl::OnCreate},
         {WM_DESTROY, &TreeControl::OnDestroy},
@@ -58,6 +60,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_SORTCHILDREN, &TreeControl::OnSortChildren},
         {TVM_SORTCHILDRENCB, &TreeControl::OnSortChildrenCB},
         {TVM_ENSUREVISIBLE, &TreeControl::OnEnsureVisible},
+        {TVM_ARRANGECHILDREN, &TreeControl::OnArrangeChildren},
         {TVM_GETITEMHEIGHT, &TreeControl::OnGetItemHeight},
         {TVM_GETITEMSTATE, &TreeControl::OnGetItemState},
         {TVM_EDITLABEL, &TreeControl::OnEditLabel},

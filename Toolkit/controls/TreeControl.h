@@ -71,8 +71,6 @@ private:
         int& m_count;
     };
 
-    class NewItem;
-
     // Life and looks of the whole.
     LRESULT OnDestroy(WPARAM, LPARAM);
     LRESULT OnStyleChanged(WPARAM, LPARAM);
@@ -88,22 +86,35 @@ private:
     LRESULT OnGetCount(WPARAM, LPARAM) { return m_items.Count(); }
     LRESULT OnGetNextItem(WPARAM wParam, LPARAM lParam);
     [[nodiscard]] bool Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew);
-    [[nodiscard]] bool FindPlace(HTREEITEM hNew, HTREEITEM hParent, HTREEITEM hInsertAfter, int& place);
+    ItemIndex Make(const TVINSERTSTRUCT& insert, ItemIndex parent); // at the end for TVI_SORT; kNoItem: no room
+    int FindPlace(ItemIndex parent, HTREEITEM hInsertAfter) const;
     [[nodiscard]] bool ShowPlaced(ItemIndex item, ItemIndex parent);
     void Assign(ItemIndex item, const TVITEM& from);
+    void AssignRest(ItemIndex item, const TVITEM& from); // than what it shows
     void SetState(ItemIndex item, UINT state, UINT mask);
     void CountDropMark(ItemIndex item);
     ItemIndex Neighbour(UINT code, HTREEITEM hItem) const;
     int RowAbove(ItemIndex item) const;
 
     // Sorting. The place is the one before the first child whose label is greater. A parent is NULL for the root.
+    static bool NeedsOrder(UINT message, WPARAM wParam);
+    void Gather(ItemIndex item, ItemIndex parent, bool withFormer); // its sibling before it is gathered already
+    [[nodiscard]] bool Settle() { return m_unsettled.empty() || SettleGathered(); }
+    [[nodiscard]] bool SettleGathered();
+    [[nodiscard]] bool SettleBelow(HTREEITEM hParent);
+    [[nodiscard]] bool SettleEach(const std::vector<HTREEITEM>& gathered);
+    [[nodiscard]] bool SettleOne(HTREEITEM hItem);
+    std::vector<HTREEITEM> GatheredBelow(ItemIndex parent) const;
     [[nodiscard]] bool FindSortedPlace(HTREEITEM hNew, HTREEITEM hParent, int& place);
-    [[nodiscard]] bool Bisect(const std::string& label, HTREEITEM hParent, int& place);
-    [[nodiscard]] bool LookThrough(const std::string& label, HTREEITEM hParent, int& place);
+    [[nodiscard]] bool Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hParent, int& place);
+    [[nodiscard]] bool LookThrough(const std::string& label, HTREEITEM hNew, HTREEITEM hParent, int& place);
     LRESULT OnSortChildren(WPARAM, LPARAM lParam);
     LRESULT OnSortChildrenCB(WPARAM, LPARAM lParam);
+    LRESULT OnArrangeChildren(WPARAM, LPARAM lParam);
     void DoubtOrder(ItemIndex parent);
-    [[nodiscard]] bool Rearrange(ItemIndex parent, std::span<const ItemIndex> order);
+    [[nodiscard]] bool SortByLabel(HTREEITEM hParent, int settled, bool& done);
+    [[nodiscard]] bool Rearrange(ItemIndex parent, const std::vector<ItemIndex>& former,
+                                 const std::vector<ItemIndex>& order, ChildOrder known);
 
     // Deleting.
     LRESULT OnDeleteItem(WPARAM, LPARAM lParam);
@@ -229,19 +240,21 @@ private:
     // Fills in the parts asked for (TVIF_*); none of them when the item is gone.
     [[nodiscard]] bool AskFace(HTREEITEM hItem, UINT parts, Face& face);
     [[nodiscard]] bool AskOwner(HTREEITEM hItem, UINT parts, Face& face);
-    UINT PartsToAsk(const TreeItem& item, UINT parts) const;
+    static UINT PartsToAsk(const TreeFace& item, UINT parts);
     TVITEM Describe(HTREEITEM hItem) const;
 
     TreeItems m_items;
     TreeLayout m_layout;
     HTREEITEM m_hCaret = nullptr;
     HTREEITEM m_hDropTarget = nullptr;
-    HTREEITEM m_hTop = nullptr; // in the top row, as the window shows it
-    int m_nLeft = 0;            // the content's x at the left edge, likewise
-    int m_nDropMarks = 0;       // items with TVIS_DROPHILITED
-    int m_nSelecting = 0;       // changes of the selection under way
-    int m_nDeleting = 0;        // deletions under way
-    int m_nRelayouts = 0;       // under way, and of scroll bars
+    HTREEITEM m_hTop = nullptr;         // in the top row, as the window shows it
+    int m_nLeft = 0;                    // the content's x at the left edge, likewise
+    std::vector<HTREEITEM> m_unsettled; // whose last children are gathered
+    int m_nSettling = 0;                // settling under way
+    int m_nDropMarks = 0;               // items with TVIS_DROPHILITED
+    int m_nSelecting = 0;               // changes of the selection under way
+    int m_nDeleting = 0;                // deletions under way
+    int m_nRelayouts = 0;               // under way, and of scroll bars
     std::optional<Press> m_press;
     HTREEITEM m_hEdited = nullptr;  // while the label's field is there
     HTREEITEM m_hClicked = nullptr; // is edited next, once it is certain that no double click follows

@@ -26,35 +26,29 @@ void CopyText(const std::string& text, LPSTR pszBuffer, int nBuffer)
     pszBuffer[length] = '\0';
 }
 
-} // namespace
-
-// An item that has no place yet, and goes when it gets none.
-class TreeControl::NewItem
+// As an item does that has no face of its own.
+bool AsksForAll(const TVITEM& item)
 {
-public:
-    explicit NewItem(TreeControl& tree)
-        : m_hWnd(tree.m_hWnd), m_tree(tree), m_handle(tree.m_items.HandleOf(tree.m_items.Make()))
-    {}
-    ~NewItem()
-    {
-        if (!IsWindow(m_hWnd))
-            return; // and with it all items
-        const ItemIndex item = m_tree.m_items.Find(m_handle);
-        if (item == kNoItem || m_tree.m_items[item].placed)
-            return;
-        m_tree.SetState(item, 0, TVIS_DROPHILITED);
-        m_tree.m_items.Delete(item);
+    return (item.mask & kSeen) == kSeen && item.pszText == LPSTR_TEXTCALLBACK && item.iImage == I_IMAGECALLBACK &&
+           item.iSelectedImage == I_IMAGECALLBACK && item.cChildren == I_CHILDRENCALLBACK;
+}
+
+TreeFace Changed(TreeFace face, const TVITEM& by)
+{
+    if (by.mask & TVIF_TEXT) {
+        face.asksForText = by.pszText == LPSTR_TEXTCALLBACK;
+        face.text = face.asksForText ? LPCSTR() : by.pszText;
     }
-    NewItem(const NewItem&) = delete;
-    NewItem& operator=(const NewItem&) = delete;
+    if (by.mask & TVIF_IMAGE)
+        face.image = by.iImage;
+    if (by.mask & TVIF_SELECTEDIMAGE)
+        face.selectedImage = by.iSelectedImage;
+    if (by.mask & TVIF_CHILDREN)
+        face.childrenFlag = std::clamp(by.cChildren, I_CHILDRENCALLBACK, 1);
+    return face;
+}
 
-    HTREEITEM Handle() const { return m_handle; } // NULL: there was no room
-
-private:
-    const HWND m_hWnd;
-    TreeControl& m_tree;
-    const HTREEITEM m_handle;
-};
+} // namespace
 
 // An insertion that memory is lacking for is refused like any other. When it only lacked for noting what to paint, the
 // item is in.
@@ -72,40 +66,60 @@ LRESULT TreeControl::OnInsertItem(WPARAM, LPARAM lParam)
 
 bool TreeControl::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
 {
-    const ItemIndex parent = m_items.FindParent(insert.hParent);
-    if (parent == kNoItem || !m_items[parent].placed)
-        return true;
-    const HTREEITEM hParent = m_items.HandleOf(parent);
-    const NewItem made(*this);
-    if (!made.Handle())
-        return true;
-    Assign(m_items.Find(made.Handle()), insert.item);
-
-    int place = 0;
-    if (!FindPlace(made.Handle(), hParent, insert.hInsertAfter, place))
+    const bool sorted = insert.hInsertAfter == TVI_SORT;
+    if (!sorted && !Settle()) // it goes before or behind the others as they stand
         return false;
-    const ItemIndex item = m_items.Find(made.Handle()), parentNow = m_items.FindParent(hParent);
-    if (item == kNoItem || parentNow == kNoItem || IsGoing(parentNow))
-        return true; // it was taken away, or is to go
-    if (insert.hInsertAfter != TVI_SORT && m_items.ChildCount(parentNow) > 0)
-        DoubtOrder(parentNow);
-    m_items.Place(item, parentNow, std::min(place, m_items.ChildCount(parentNow)));
-    hNew = made.Handle();
-    return ShowPlaced(item, parentNow);
+    const ItemIndex parent = m_items.FindParent(insert.hParent);
+    if (parent == kNoItem || IsGoing(parent))
+        return true;
+    if (sorted)
+        m_unsettled.reserve(m_unsettled.size() + 1);
+    const ItemIndex last = m_items.LastChild(parent);
+    const ItemIndex item = Make(insert, parent);
+    if (item == kNoItem)
+        return true;
+    hNew = m_items.HandleOf(item);
+    if (last == kNoItem) {
+        m_items[parent].order = ChildOrder::ByLabel;
+    } else if (sorted) {
+        Gather(item, parent, m_items[last].gathered);
+        return true;
+    } else {
+        DoubtOrder(parent);
+    }
+    if (!ShowPlaced(item, parent))
+        return false;
+    if (m_items.Find(hNew) == kNoItem)
+        hNew = nullptr;
+    return true;
 }
 
-bool TreeControl::FindPlace(HTREEITEM hNew, HTREEITEM hParent, HTREEITEM hInsertAfter, int& place)
+ItemIndex TreeControl::Make(const TVINSERTSTRUCT& insert, ItemIndex parent)
 {
-    if (hInsertAfter == TVI_SORT)
-        return FindSortedPlace(hNew, hParent, place);
-    const ItemIndex parent = m_items.FindParent(hParent), sibling = m_items.Find(hInsertAfter);
+    const TVITEM& from = insert.item;
+    const UINT state = from.mask & TVIF_STATE ? from.state & from.stateMask & TVIS_EXPANDED : 0;
+    const ItemIndex item = m_items.Insert(parent, FindPlace(parent, insert.hInsertAfter), state);
+    if (item == kNoItem)
+        return kNoItem;
+    try {
+        if (!AsksForAll(from))
+            m_items.SetFace(item, Changed(TreeFace(), from));
+    } catch (...) {
+        m_items.Delete(item);
+        throw;
+    }
+    AssignRest(item, from);
+    return item;
+}
+
+int TreeControl::FindPlace(ItemIndex parent, HTREEITEM hInsertAfter) const
+{
     if (hInsertAfter == TVI_FIRST)
-        place = 0;
-    else if (sibling != kNoItem && m_items[sibling].placed && m_items[sibling].parent == parent)
-        place = m_items.PlaceOf(sibling) + 1;
-    else
-        place = m_items.ChildCount(parent);
-    return true;
+        return 0;
+    const bool last = hInsertAfter == TVI_SORT || hInsertAfter == TVI_LAST;
+    const ItemIndex sibling = last ? kNoItem : m_items.Find(hInsertAfter);
+    return sibling != kNoItem && m_items.ParentOrRoot(sibling) == parent ? m_items.PlaceOf(sibling) + 1
+                                                                         : m_items.ChildCount(parent);
 }
 
 bool TreeControl::ShowPlaced(ItemIndex item, ItemIndex parent)
@@ -124,26 +138,19 @@ int TreeControl::RowAbove(ItemIndex item) const
     return std::max(m_items.RowOf(previous != kNoItem ? previous : m_items.Parent(item)), 0);
 }
 
-void TreeControl::Assign(ItemIndex index, const TVITEM& from)
+void TreeControl::Assign(ItemIndex item, const TVITEM& from)
 {
-    TreeItem& item = m_items[index];
-    if (from.mask & TVIF_TEXT) {
-        item.asksForText = from.pszText == LPSTR_TEXTCALLBACK;
-        item.text = item.asksForText ? LPCSTR() : from.pszText;
-    }
-    if (from.mask & TVIF_IMAGE)
-        item.image = from.iImage;
-    if (from.mask & TVIF_SELECTEDIMAGE)
-        item.selectedImage = from.iSelectedImage;
-    if (from.mask & TVIF_CHILDREN)
-        item.childrenFlag = static_cast<std::int8_t>(std::clamp(from.cChildren, I_CHILDRENCALLBACK, 1));
+    if (from.mask & kSeen)
+        m_items.SetFace(item, Changed(m_items.FaceOf(item), from));
+    AssignRest(item, from);
+}
+
+void TreeControl::AssignRest(ItemIndex item, const TVITEM& from)
+{
     if (from.mask & TVIF_PARAM)
-        item.lParam = from.lParam;
-    if (!(from.mask & TVIF_STATE))
-        return;
-    SetState(index, from.state, from.stateMask & kSettable);
-    if (!item.placed)
-        item.state |= static_cast<BYTE>(from.state & from.stateMask & TVIS_EXPANDED);
+        m_items[item].lParam = from.lParam;
+    if (from.mask & TVIF_STATE)
+        SetState(item, from.state, from.stateMask & kSettable);
 }
 
 LRESULT TreeControl::OnGetItem(WPARAM, LPARAM lParam)
@@ -180,11 +187,11 @@ LRESULT TreeControl::OnSetItem(WPARAM, LPARAM lParam)
     const ItemIndex item = pItem ? m_items.Find(pItem->hItem) : kNoItem;
     if (item == kNoItem)
         return FALSE;
-    const bool asked = m_items[item].asksForText;
+    const bool asked = m_items.FaceOf(item).asksForText;
     Assign(item, *pItem);
     if (pItem->mask & TVIF_TEXT) {
-        DoubtOrder(m_items[item].parent);
-        if (!asked || !m_items[item].asksForText)
+        DoubtOrder(m_items.ParentOrRoot(item));
+        if (!asked || !m_items.FaceOf(item).asksForText)
             ForgetWidth(); // of a label that is asked for the width is seen when it is painted
     }
     if (pItem->mask & kSeen)

@@ -122,7 +122,7 @@ bool TreeControl::TakeLabel(HTREEITEM hItem, std::string& text)
     info.item = Describe(hItem);
     info.item.mask |= TVIF_TEXT;
     info.item.pszText = text.data();
-    if (m_items[item].asksForText)
+    if (m_items.FaceOf(item).asksForText)
         return Tell(TVN_SETDISPINFO, info.hdr);
     info.item.mask = TVIF_TEXT | TVIF_HANDLE;
     OnSetItem(0, reinterpret_cast<LPARAM>(&info.item));

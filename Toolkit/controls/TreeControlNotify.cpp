@@ -51,7 +51,7 @@ bool TreeControl::TellKey(UINT vkey, LPARAM lParam, LRESULT* pAnswer) const
     return Tell(TVN_KEYDOWN, key.hdr, pAnswer);
 }
 
-UINT TreeControl::PartsToAsk(const TreeItem& item, UINT parts) const
+UINT TreeControl::PartsToAsk(const TreeFace& item, UINT parts)
 {
     if (!item.asksForText)
         parts &= ~TVIF_TEXT;
@@ -69,7 +69,7 @@ bool TreeControl::AskFace(HTREEITEM hItem, UINT parts, Face& face)
     const ItemIndex index = m_items.Find(hItem);
     if (index == kNoItem)
         return true;
-    const TreeItem& item = m_items[index];
+    const TreeFace& item = m_items.FaceOf(index);
     const UINT asked = PartsToAsk(item, parts);
     const UINT known = parts & ~asked;
     if (known & TVIF_TEXT)
@@ -80,7 +80,7 @@ bool TreeControl::AskFace(HTREEITEM hItem, UINT parts, Face& face)
         face.selectedImage = item.selectedImage;
     if (known & TVIF_CHILDREN)
         face.hasChildren =
-            item.childrenFlag == TreeItem::kChildrenCounted ? m_items.ChildCount(index) > 0 : item.childrenFlag != 0;
+            item.childrenFlag == TreeFace::kChildrenCounted ? m_items.ChildCount(index) > 0 : item.childrenFlag != 0;
     return asked == 0 || AskOwner(hItem, asked, face);
 }
 

@@ -172,6 +172,8 @@ bool TreeControl::ScrollToX(int x)
 // The row, and as much of picture and label as fits, the picture first.
 bool TreeControl::ScrollIntoView(HTREEITEM hItem)
 {
+    if (!Settle())
+        return false;
     const ItemIndex item = m_items.Find(hItem);
     const int row = item == kNoItem ? -1 : m_items.RowOf(item);
     if (row < 0 || m_layout.Client().cx <= 0 || m_layout.Client().cy <= 0)

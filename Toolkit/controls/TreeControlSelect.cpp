@@ -56,11 +56,11 @@ bool TreeControl::Select(HTREEITEM hItem, UINT cause, bool* pDone)
     return TellSelection(TVN_SELCHANGED, hFormer, hItem, cause, nullptr);
 }
 
-// None may be, and an item that has its place and keeps it.
+// None may be, and an item that stays.
 bool TreeControl::MaySelect(HTREEITEM hItem) const
 {
     const ItemIndex item = m_items.Find(hItem);
-    return !hItem || (item != kNoItem && m_items[item].placed && !IsGoing(item));
+    return !hItem || (item != kNoItem && !IsGoing(item));
 }
 
 void TreeControl::SetCaret(HTREEITEM hItem)

@@ -1,12 +1,19 @@
-// How the tree control finds the place of a new item among sorted siblings, and sorts those that are there.
+// How the tree control finds the places of items among sorted siblings, and sorts those that are there.
+//
+// What is inserted in label order is only gathered behind its siblings. Its place is found when somebody may see it or
+// asks for it: before the next paint, input or question. Then many are merged with their siblings, all labels read
+// once; a few find their places one by one.
 //
 // A container whose children are known to be in label order is bisected: the place lies between a label that is not
 // greater and one that is. Where they are not, or nobody knows, all labels are looked through for the first greater
 // one, and the look shows whether they are in order after all. Small containers are always looked through: there it
 // costs nothing and holds whatever the owner has renamed since.
 #include "Toolkit/base/Text.h"
+#include "Toolkit/base/TextKeys.h"
 #include "Toolkit/controls/TreeControl.h"
 
+#include <algorithm>
+#include <new>
 #include <utility>
 
 namespace toolkit
@@ -16,6 +23,7 @@ namespace
 {
 
 constexpr int kSmall = 16; // children
+constexpr int kFewer = 20; // times fewer than their siblings: then items find their places one by one
 
 // A comparison that contradicts itself gives some order, no worse. Siblings in order are compared once each.
 template <class Entry, class IsAfter>
@@ -38,51 +46,174 @@ void SortStably(std::vector<Entry>& entries, const IsAfter& isAfter)
     }
 }
 
-template <class Entry>
-std::vector<ItemIndex> ItemsOf(const std::vector<Entry>& entries)
+// The items in the order of their keys, but for the first `settled`, which keep theirs: of the others each goes before
+// the first of those whose label is greater.
+std::vector<ItemIndex> Merge(const std::vector<ItemIndex>& items, std::size_t settled, const TextKeys::Keys& keys,
+                             bool& inOrder)
 {
-    std::vector<ItemIndex> items;
-    items.reserve(entries.size());
-    for (const Entry& entry : entries)
-        items.push_back(entry.item);
-    return items;
+    std::vector<std::uint32_t> ranks(settled), others;
+    others.reserve(items.size() - settled);
+    std::vector<std::uint32_t> otherRanks;
+    for (std::uint32_t rank = 0; rank < keys.size(); ++rank) {
+        const std::uint32_t i = keys[rank].nIndex;
+        if (i < settled)
+            ranks[i] = rank;
+        else
+            others.push_back(i), otherRanks.push_back(rank);
+    }
+    inOrder = std::is_sorted(ranks.begin(), ranks.end());
+    std::vector<ItemIndex> order;
+    order.reserve(items.size());
+    std::size_t other = 0;
+    for (std::size_t i = 0; i < settled; ++i) {
+        while (other < others.size() && otherRanks[other] < ranks[i])
+            order.push_back(items[others[other++]]);
+        order.push_back(items[i]);
+    }
+    while (other < others.size())
+        order.push_back(items[others[other++]]);
+    return order;
 }
 
 } // namespace
 
+// Only what hangs on the order of siblings or on rows has to wait for it.
+bool TreeControl::NeedsOrder(UINT message, WPARAM wParam)
+{
+    switch (message) {
+    case WM_DESTROY:
+    case TVM_INSERTITEM:
+    case TVM_GETITEM:
+    case TVM_SETITEM:
+    case TVM_GETITEMSTATE:
+    case TVM_GETCOUNT:
+    case TVM_SORTCHILDREN:
+    case TVM_ARRANGECHILDREN:
+        return false;
+    case TVM_GETNEXTITEM:
+        return wParam != TVGN_CARET && wParam != TVGN_PARENT && wParam != TVGN_DROPHILITE;
+    default:
+        return true;
+    }
+}
+
+// The last of its siblings. One pixel is enough to have a paint come, which puts it in its place.
+void TreeControl::Gather(ItemIndex item, ItemIndex parent, bool withFormer)
+{
+    m_items[item].gathered = true;
+    if (withFormer)
+        return;
+    m_unsettled.push_back(m_items.HandleOf(parent)); // there is room
+    const CRect pixel(0, 0, 1, 1);
+    if (m_items.IsShown(item))
+        InvalidateRect(m_hWnd, &pixel);
+}
+
+// What memory is lacking for stays gathered until the next time.
+bool TreeControl::SettleGathered()
+{
+    if (m_nSettling > 0)
+        return true;
+    const UnderWay settling(m_hWnd, m_nSettling);
+    try {
+        while (!m_unsettled.empty()) {
+            const HTREEITEM hParent = m_unsettled.back();
+            if (!SettleBelow(hParent))
+                return false;
+            std::erase(m_unsettled, hParent);
+        }
+    } catch (const std::bad_alloc&) {
+    }
+    return true;
+}
+
+// The owner may have more inserted while it is asked for labels.
+bool TreeControl::SettleBelow(HTREEITEM hParent)
+{
+    for (;;) {
+        const ItemIndex parent = m_items.FindParent(hParent);
+        const std::vector<HTREEITEM> gathered = parent == kNoItem ? std::vector<HTREEITEM>() : GatheredBelow(parent);
+        if (gathered.empty())
+            return true;
+        const int count = static_cast<int>(gathered.size()), settled = m_items.ChildCount(parent) - count;
+        const bool merges = m_items[parent].order == ChildOrder::NotByLabel ? count > 1 : count * kFewer >= settled;
+        bool done = false;
+        if (merges && !SortByLabel(hParent, settled, done))
+            return false;
+        if (!done && !SettleEach(gathered))
+            return false;
+    }
+}
+
+// As long as that is cheap: as soon as siblings turn out to be out of order, the others wait.
+bool TreeControl::SettleEach(const std::vector<HTREEITEM>& gathered)
+{
+    for (const HTREEITEM hItem : gathered) {
+        if (!SettleOne(hItem))
+            return false;
+        const ItemIndex item = m_items.Find(hItem);
+        if (item != kNoItem && m_items[m_items.ParentOrRoot(item)].order == ChildOrder::NotByLabel)
+            break;
+    }
+    return true;
+}
+
+std::vector<HTREEITEM> TreeControl::GatheredBelow(ItemIndex parent) const
+{
+    std::vector<HTREEITEM> gathered;
+    for (ItemIndex item = m_items.LastChild(parent); m_items[item].gathered; item = m_items.Previous(item))
+        gathered.push_back(m_items.HandleOf(item));
+    std::reverse(gathered.begin(), gathered.end());
+    return gathered;
+}
+
+// The first of those gathered.
+bool TreeControl::SettleOne(HTREEITEM hItem)
+{
+    const ItemIndex item = m_items.Find(hItem);
+    if (item == kNoItem)
+        return true;
+    const HTREEITEM hParent = m_items.HandleOf(m_items.Parent(item));
+    int place = 0;
+    if (!FindSortedPlace(hItem, hParent, place))
+        return false;
+    const ItemIndex itemNow = m_items.Find(hItem);
+    if (itemNow == kNoItem)
+        return true;
+    if (place < m_items.PlaceOf(itemNow))
+        m_items.MoveUp(itemNow, place);
+    m_items[itemNow].gathered = false;
+    return ShowPlaced(itemNow, m_items.FindParent(hParent));
+}
+
+// Behind the siblings that are settled.
 bool TreeControl::FindSortedPlace(HTREEITEM hNew, HTREEITEM hParent, int& place)
 {
     const ItemIndex parent = m_items.FindParent(hParent);
-    place = 0;
-    if (m_items.ChildCount(parent) == 0)
-        return true;
-    const bool bisects = m_items[parent].order == ChildOrder::ByLabel && m_items.ChildCount(parent) > kSmall;
+    const int settled = m_items.PlaceOf(m_items.Find(hNew));
+    const bool bisects = m_items[parent].order == ChildOrder::ByLabel && settled > kSmall;
     Face face;
     if (!AskFace(hNew, TVIF_TEXT, face))
         return false;
-    return bisects ? Bisect(face.text, hParent, place) : LookThrough(face.text, hParent, place);
+    return bisects ? Bisect(face.text, hNew, hParent, place) : LookThrough(face.text, hNew, hParent, place);
 }
 
-// The place lies behind hNotGreater and not behind hGreater; NULL stands for either end. So it is found, too, when a
-// handler adds siblings or takes some away meanwhile.
-bool TreeControl::Bisect(const std::string& label, HTREEITEM hParent, int& place)
+// The place lies behind hNotGreater and not behind hGreater; NULL and the new item stand for the ends. So it is found,
+// too, when a handler adds siblings or takes some away meanwhile.
+bool TreeControl::Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hParent, int& place)
 {
-    HTREEITEM hNotGreater = nullptr, hGreater = nullptr;
-    TreeSiblings::Part part{};
+    HTREEITEM hNotGreater = nullptr, hGreater = hNew;
     int end = 0;
     for (unsigned version = ~m_items.Version();;) {
         if (std::exchange(version, m_items.Version()) != m_items.Version()) {
-            const ItemIndex parent = m_items.FindParent(hParent);
             const ItemIndex notGreater = m_items.Find(hNotGreater), greater = m_items.Find(hGreater);
-            part = m_items.ChildrenOf(parent);
             place = notGreater == kNoItem ? 0 : m_items.PlaceOf(notGreater) + 1;
-            end = greater == kNoItem ? m_items.ChildCount(parent) : m_items.PlaceOf(greater);
+            end = greater == kNoItem ? 0 : m_items.PlaceOf(greater);
         }
         if (place >= end)
             return true;
         const int middle = place + (end - place) / 2;
-        part = m_items.Narrow(part, place, end);
-        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(part, middle));
+        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), middle));
         Face face;
         if (!AskFace(hChild, TVIF_TEXT, face))
             return false;
@@ -92,16 +223,17 @@ bool TreeControl::Bisect(const std::string& label, HTREEITEM hParent, int& place
     }
 }
 
-bool TreeControl::LookThrough(const std::string& label, HTREEITEM hParent, int& place)
+bool TreeControl::LookThrough(const std::string& label, HTREEITEM hNew, HTREEITEM hParent, int& place)
 {
     bool found = false, inOrder = true;
     std::string former;
+    place = 0;
     for (int i = 0; !found || inOrder; ++i) {
-        const ItemIndex child = m_items.ChildAt(m_items.FindParent(hParent), i);
-        if (child == kNoItem)
+        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), i));
+        if (!hChild || hChild == hNew)
             break;
         Face face;
-        if (!AskFace(m_items.HandleOf(child), TVIF_TEXT, face))
+        if (!AskFace(hChild, TVIF_TEXT, face))
             return false;
         inOrder = inOrder && (i == 0 || CompareNoCase(former, face.text) <= 0);
         found = found || CompareNoCase(face.text, label) > 0;
@@ -126,28 +258,36 @@ void TreeControl::DoubtOrder(ItemIndex parent)
 
 LRESULT TreeControl::OnSortChildren(WPARAM, LPARAM lParam)
 {
-    struct Entry
-    {
-        std::string label;
-        ItemIndex item;
-    };
     const auto hParent = reinterpret_cast<HTREEITEM>(lParam);
-    const ItemIndex parent = m_items.FindParent(hParent);
-    if (parent == kNoItem || IsGoing(parent))
+    ItemIndex parent = m_items.FindParent(hParent);
+    // Among siblings that are out of order the place of what is gathered tells which of its equals it follows.
+    if (parent != kNoItem && m_items[parent].order != ChildOrder::ByLabel && !Settle())
         return FALSE;
+    parent = m_items.FindParent(hParent);
+    bool done = false;
+    return parent != kNoItem && !IsGoing(parent) && SortByLabel(hParent, 0, done) && done;
+}
 
+// Puts those behind the first `settled` children in the places that their labels give them. Not done: the owner has
+// changed the tree while it was asked.
+bool TreeControl::SortByLabel(HTREEITEM hParent, int settled, bool& done)
+{
+    const ItemIndex parent = m_items.FindParent(hParent);
+    const std::vector<ItemIndex> children = m_items.Children(parent);
     const unsigned version = m_items.Version();
-    std::vector<Entry> entries;
-    entries.reserve(static_cast<std::size_t>(m_items.ChildCount(parent)));
-    for (ItemIndex item = m_items.FirstChild(parent); item != kNoItem; item = m_items.Next(item)) {
-        Face face;
-        if (!AskFace(m_items.HandleOf(item), TVIF_TEXT, face) || m_items.Version() != version)
-            return FALSE;
-        entries.push_back({std::move(face.text), item});
+    TextKeys keys(children.size());
+    Face face;
+    for (const ItemIndex child : children) {
+        if (!AskFace(m_items.HandleOf(child), TVIF_TEXT, face))
+            return false;
+        if (m_items.Version() != version)
+            return true;
+        keys.Add(face.text.c_str());
     }
-    SortStably(entries, [](const Entry& a, const Entry& b) { return CompareNoCase(a.label, b.label) > 0; });
-    m_items[parent].order = ChildOrder::ByLabel;
-    return Rearrange(parent, ItemsOf(entries));
+    bool inOrder = true;
+    const std::vector<ItemIndex> order = Merge(children, static_cast<std::size_t>(settled), keys.Sort(), inOrder);
+    done = true;
+    return Rearrange(parent, children, order, inOrder ? ChildOrder::ByLabel : ChildOrder::NotByLabel);
 }
 
 LRESULT TreeControl::OnSortChildrenCB(WPARAM, LPARAM lParam)
@@ -162,9 +302,10 @@ LRESULT TreeControl::OnSortChildrenCB(WPARAM, LPARAM lParam)
     if (parent == kNoItem || !pSort->lpfnCompare || IsGoing(parent))
         return FALSE;
 
+    const std::vector<ItemIndex> children = m_items.Children(parent);
     std::vector<Entry> entries;
-    entries.reserve(static_cast<std::size_t>(m_items.ChildCount(parent)));
-    for (ItemIndex item = m_items.FirstChild(parent); item != kNoItem; item = m_items.Next(item))
+    entries.reserve(children.size());
+    for (const ItemIndex item : children)
         entries.push_back({m_items[item].lParam, item});
 
     const HWND hWnd = m_hWnd;
@@ -177,24 +318,49 @@ LRESULT TreeControl::OnSortChildrenCB(WPARAM, LPARAM lParam)
     });
     if (!isUnchanged())
         return FALSE;
-    m_items[parent].order = ChildOrder::Unknown;
-    return Rearrange(parent, ItemsOf(entries));
+    std::vector<ItemIndex> order;
+    order.reserve(entries.size());
+    for (const Entry& entry : entries)
+        order.push_back(entry.item);
+    return Rearrange(parent, children, order, ChildOrder::Unknown);
 }
 
-bool TreeControl::Rearrange(ItemIndex parent, std::span<const ItemIndex> order)
+LRESULT TreeControl::OnArrangeChildren(WPARAM, LPARAM lParam)
 {
-    ItemIndex child = m_items.FirstChild(parent);
-    for (std::size_t i = 0; i < order.size() && order[i] == child; ++i)
-        child = m_items.Next(child);
-    if (child == kNoItem)
-        return true; // as it was
+    const auto* const pArrange = reinterpret_cast<const TVARRANGECHILDREN*>(lParam);
+    const ItemIndex parent = pArrange ? m_items.FindParent(pArrange->hParent) : kNoItem;
+    if (parent == kNoItem || IsGoing(parent) || pArrange->cChildren != m_items.ChildCount(parent))
+        return FALSE;
+    std::vector<ItemIndex> order;
+    order.reserve(static_cast<std::size_t>(pArrange->cChildren));
+    for (int i = 0; i < pArrange->cChildren; ++i)
+        order.push_back(m_items.Find(pArrange->phChildren[i]));
+    if (!m_items.AreChildren(parent, order))
+        return FALSE;
+    std::erase(m_unsettled, m_items.HandleOf(parent));
+    return Rearrange(parent, m_items.Children(parent), order, ChildOrder::Unknown);
+}
 
-    m_items.Arrange(parent, order);
-    const int row = parent == kRootItem ? 0 : m_items.RowOf(parent);
-    if (row < 0 || !m_items.IsExpanded(parent))
+// From the first one on that stands elsewhere now, or was gathered: nobody has seen that one yet.
+bool TreeControl::Rearrange(ItemIndex parent, const std::vector<ItemIndex>& former, const std::vector<ItemIndex>& order,
+                            ChildOrder known)
+{
+    const auto first = std::mismatch(former.begin(), former.end(), order.begin(),
+                                     [this](ItemIndex a, ItemIndex b) { return a == b && !m_items[b].gathered; });
+    if (known != ChildOrder::Unknown || first.second != order.end())
+        m_items[parent].order = known;
+    if (first.second == order.end())
         return true;
-    KeepPlace();
-    return RowsChanged(row);
+    const ItemIndex item = *first.second;
+    const bool gathered = m_items[former.back()].gathered;
+    m_items.Arrange(parent, order);
+    for (const ItemIndex child : order)
+        m_items[child].gathered = false;
+    if (!m_items.IsShown(item))
+        return true;
+    if (!gathered)
+        KeepPlace(); // whatever comes to lie in it: nothing is new
+    return RowsChanged(RowAbove(item));
 }
 
 } // namespace toolkit

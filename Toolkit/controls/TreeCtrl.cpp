@@ -155,6 +155,12 @@ BOOL CTreeCtrl::SortChildrenCB(TVSORTCB* pSort)
     return SendMessage(TVM_SORTCHILDRENCB, 0, ToLParam(pSort)) != 0;
 }
 
+BOOL CTreeCtrl::ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children)
+{
+    const TVARRANGECHILDREN arrange{hParent, children.data(), static_cast<int>(children.size())};
+    return SendMessage(TVM_ARRANGECHILDREN, 0, ToLParam(&arrange)) != 0;
+}
+
 HWND CTreeCtrl::EditLabel(HTREEITEM hItem)
 {
     return reinterpret_cast<HWND>(SendMessage(TVM_EDITLABEL, 0, ToLParam(hItem)));

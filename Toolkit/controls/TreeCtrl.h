@@ -5,6 +5,8 @@
 #include "Toolkit/graphics/ImageList.h"
 #include "Toolkit/window/Wnd.h"
 
+#include <span>
+
 class TOOLKIT_API CTreeCtrl : public CWnd
 {
 public:
@@ -55,6 +57,7 @@ public:
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
     BOOL SortChildren(HTREEITEM hParent);
     BOOL SortChildrenCB(TVSORTCB* pSort);
+    BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children); // all of them, in their new order
     HWND EditLabel(HTREEITEM hItem); // the edit field; NULL when the editing was refused
     HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL)); }
     BOOL EndEditLabelNow(BOOL bCancel) { return SendMessage(TVM_ENDEDITLABELNOW, static_cast<WPARAM>(bCancel)) != 0; }

@@ -6,6 +6,8 @@
 
 #include "Toolkit/controls/TreeSiblings.h"
 
+#include <unordered_map>
+
 namespace toolkit
 {
 
@@ -17,7 +19,10 @@ public:
 
     HTREEITEM HandleOf(ItemIndex item) const { return m_pool.HandleOf(item); }
     ItemIndex Find(HTREEITEM hItem) const { return m_pool.Find(hItem); }
-    ItemIndex FindParent(HTREEITEM hItem) const; // as Find, and the root for TVI_ROOT and NULL
+    ItemIndex FindParent(HTREEITEM hItem) const // as Find, and the root for TVI_ROOT and NULL
+    {
+        return !hItem || hItem == TVI_ROOT ? kRootItem : Find(hItem);
+    }
 
     int Count() const { return m_pool.Count(); }
     bool IsExpanded(ItemIndex item) const { return (m_pool[item].state & TVIS_EXPANDED) != 0; }
@@ -25,18 +30,12 @@ public:
     bool Goes(ItemIndex item) const;                         // it or an ancestor is being deleted
     int Level(ItemIndex item) const;                         // 0 for a top-level item
 
-    // Neighbours; kNoItem where there is none, also for an item that has no place yet.
+    // Neighbours; kNoItem where there is none.
     ItemIndex Parent(ItemIndex item) const; // kNoItem for a top-level item
+    ItemIndex ParentOrRoot(ItemIndex item) const { return m_siblings.ParentOf(item); }
     int ChildCount(ItemIndex parent) const { return m_siblings.Count(parent); }
     ItemIndex ChildAt(ItemIndex parent, int place) const { return m_siblings.At(parent, place); }
-    TreeSiblings::Part ChildrenOf(ItemIndex parent) const { return m_siblings.All(parent); }
-    // Of these, what has all places from first on, without end. A part holds until the structure changes; finding
-    // places in ever smaller parts costs as much as finding one.
-    TreeSiblings::Part Narrow(TreeSiblings::Part part, int first, int end) const
-    {
-        return m_siblings.Narrow(part, first, end);
-    }
-    ItemIndex ChildAt(TreeSiblings::Part part, int place) const { return m_siblings.At(part, place); }
+    std::vector<ItemIndex> Children(ItemIndex parent) const { return m_siblings.All(parent); }
     int PlaceOf(ItemIndex item) const { return m_siblings.PlaceOf(item); }
     ItemIndex FirstChild(ItemIndex parent) const { return m_siblings.First(parent); }
     ItemIndex LastChild(ItemIndex parent) const { return m_siblings.Last(parent); }
@@ -50,11 +49,16 @@ public:
     ItemIndex AtRow(int row) const;                                       // kNoItem without such a row
     int RowsOf(ItemIndex item) const { return m_siblings.OwnRows(item); } // with its subtree, if it were shown
 
-    // Changes. A new item has no place until it is placed; throws CMemoryException, and gives kNoItem when there
-    // are too many.
-    ItemIndex Make() { return m_pool.Take(); }
-    void Place(ItemIndex item, ItemIndex parent, int place);
-    void Delete(ItemIndex item); // which has no children
+    bool AreChildren(ItemIndex parent, std::span<const ItemIndex> items); // each of them once, as many as there are
+
+    // What an item shows of its own.
+    const TreeFace& FaceOf(ItemIndex item) const;
+    void SetFace(ItemIndex item, const TreeFace& face);
+
+    // Changes. Those that need memory throw CMemoryException, and nothing has changed then.
+    ItemIndex Insert(ItemIndex parent, int place, UINT state = 0); // kNoItem when there are too many
+    void MoveUp(ItemIndex item, int place);                        // among its siblings, to a place before its own
+    void Delete(ItemIndex item);                                   // which has no children
     void SetExpanded(ItemIndex item, bool expanded);
     void Arrange(ItemIndex parent, std::span<const ItemIndex> order); // names each child once
 
@@ -66,6 +70,7 @@ private:
 
     TreePool m_pool;
     TreeSiblings m_siblings{m_pool};
+    std::unordered_map<ItemIndex, TreeFace> m_faces; // of items with hasFace
     unsigned m_nVersion = 0;
 };
 

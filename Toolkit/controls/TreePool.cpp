@@ -8,7 +8,7 @@ TreePool::TreePool()
     m_blocks.push_back(std::make_unique<TreeItem[]>(kBlock));
     m_nUsed = kRootItem + 1;
     TreeItem& root = (*this)[kRootItem];
-    root.live = root.placed = true;
+    root.live = true;
     root.state = TVIS_EXPANDED;
 }
 
@@ -16,10 +16,10 @@ ItemIndex TreePool::Take()
 {
     ItemIndex i = m_firstFree;
     if (i != kNoItem) {
-        m_firstFree = (*this)[i].up;
+        m_firstFree = (*this)[i].block;
         if (m_firstFree == kNoItem)
             m_lastFree = kNoItem;
-        (*this)[i].up = kNoItem;
+        (*this)[i].block = kNoItem;
     } else {
         if (m_nUsed >> kIndexBits != 0)
             return kNoItem;
@@ -39,28 +39,11 @@ void TreePool::GiveBack(ItemIndex i)
     item = TreeItem();
     item.generation = generation == kMaxGeneration ? 1 : generation + 1;
     if (m_lastFree != kNoItem)
-        (*this)[m_lastFree].up = i;
+        (*this)[m_lastFree].block = i;
     else
         m_firstFree = i;
     m_lastFree = i;
     --m_nLive;
-}
-
-HTREEITEM TreePool::HandleOf(ItemIndex i) const
-{
-    if (i == kNoItem || i == kRootItem)
-        return nullptr;
-    return reinterpret_cast<HTREEITEM>(static_cast<UINT_PTR>((*this)[i].generation) << kIndexBits | i);
-}
-
-ItemIndex TreePool::Find(HTREEITEM hItem) const
-{
-    constexpr UINT_PTR kIndexMask = (UINT_PTR{1} << kIndexBits) - 1;
-    const UINT_PTR i = reinterpret_cast<UINT_PTR>(hItem) & kIndexMask;
-    if (i >= m_nUsed || i <= kRootItem)
-        return kNoItem;
-    const auto index = static_cast<ItemIndex>(i);
-    return (*this)[index].live && HandleOf(index) == hItem ? index : kNoItem;
 }
 
 } // namespace toolkit

@@ -54,16 +54,24 @@ TEST_F(TreeControlTest, SortedInsertionGoesBeforeTheFirstGreaterLabelIgnoringCas
     EXPECT_EQ("b c a c5 d", State());
 }
 
-TEST_F(TreeControlTest, AHundredThousandSortedInsertionsAskLogarithmically)
+TEST_F(TreeControlTest, SortedInsertionsAreGatheredAndAskLogarithmically)
 {
     constexpr int kMany = 100'000, kPerInsertion = 18; // its own label, and 17 = log2 of their number
     Fill("root");
     const HTREEITEM hRoot = (*this)["root"];
-    for (int i = 0; i < kMany; ++i) {
+    const auto insert = [&](int from, int to, int every) {
         tree.labelRequests = 0;
-        tree.Add(Number(i * 7919 % kMany), hRoot, TVI_SORT);
-        ASSERT_LE(tree.labelRequests, kPerInsertion);
-    }
+        for (int i = from; i < to; i += every)
+            tree.Add(Number(i * 7919 % kMany), hRoot, TVI_SORT);
+        EXPECT_EQ(0, tree.labelRequests);
+        tree.GetChildItem(hRoot);
+        return tree.labelRequests;
+    };
+    EXPECT_EQ(kMany / 2, insert(0, kMany, 2)); // each once
+    EXPECT_EQ(kMany, insert(1, kMany / 2, 2) + kMany / 4);
+    for (int i = kMany / 2 + 1; i < kMany / 2 + 1000; i += 2)
+        ASSERT_LE(insert(i, i + 1, 1), kPerInsertion);
+    insert(kMany / 2 + 1001, kMany, 2);
     HTREEITEM hItem = tree.GetChildItem(hRoot);
     for (int i = 0; i < kMany; ++i, hItem = tree.GetNextSiblingItem(hItem))
         ASSERT_EQ(Number(i), tree.NameOf(hItem));
@@ -88,7 +96,9 @@ TEST_F(TreeControlTest, AfterASortByTheOwnerOneLookShowsWhetherLabelsAreInOrder)
     const auto insert = [this](const char* name) {
         tree.labelRequests = 0;
         const HTREEITEM hItem = tree.Add(name, TVI_ROOT, TVI_SORT);
+        EXPECT_EQ(0, tree.labelRequests); // until somebody asks where it is
         EXPECT_EQ(name, tree.NameOf(hItem));
+        tree.GetRootItem();
         return tree.labelRequests;
     };
     EXPECT_EQ(1001, insert("0005x"));
@@ -115,6 +125,7 @@ TEST_F(TreeControlTest, SiblingsMayGoWhileAPlaceAmongThemIsSought)
         Fill("");
         for (int i = 0; i < 100; ++i)
             tree.Add(Number(i), TVI_ROOT, TVI_SORT);
+        tree.GetRootItem();
         tree.asked = [&](const std::string&) {
             if (all)
                 tree.DeleteAllItems();
@@ -122,6 +133,7 @@ TEST_F(TreeControlTest, SiblingsMayGoWhileAPlaceAmongThemIsSought)
                 tree.DeleteItem(tree.GetRootItem());
         };
         const HTREEITEM hNew = tree.Add("000050x", TVI_ROOT, TVI_SORT);
+        tree.GetRootItem();
         tree.asked = [](const std::string&) {};
         EXPECT_EQ(all ? "-" : Number(50), tree.NameOf(tree.GetPrevSiblingItem(hNew)));
         EXPECT_EQ(all ? "-" : Number(51), tree.NameOf(tree.GetNextSiblingItem(hNew)));

@@ -14,9 +14,7 @@ namespace
 
 ItemIndex Add(TreeItems& items, ItemIndex parent, int place)
 {
-    const ItemIndex item = items.Make();
-    items.Place(item, parent, place);
-    return item;
+    return items.Insert(parent, place);
 }
 
 // Changes the items at random, and what they must come to: plain vectors.
@@ -28,17 +26,21 @@ public:
     void Step()
     {
         const ItemIndex item = std::next(m_children.begin(), static_cast<int>(Below(m_children.size())))->first;
-        switch (Below(8)) {
+        switch (Below(10)) {
         case 0:
             return Delete(item);
         case 1:
             std::shuffle(m_children[item].begin(), m_children[item].end(), m_random);
             return items.Arrange(item, m_children[item]);
         case 2:
+            return MoveUp(m_children[item]);
         case 3:
             return Turn(item);
-        default:
+        case 4:
+        case 5:
             return Insert(item);
+        default:
+            return Insert(kRootItem); // so many that they stand in several blocks
         }
     }
 
@@ -79,6 +81,15 @@ private:
         std::erase(m_children[m_parents[item]], item);
         m_children.erase(item);
         m_expanded.erase(item);
+    }
+
+    void MoveUp(std::vector<ItemIndex>& siblings)
+    {
+        if (siblings.size() < 2)
+            return;
+        const auto to = siblings.begin() + static_cast<int>(Below(siblings.size() - 1));
+        items.MoveUp(siblings.back(), static_cast<int>(to - siblings.begin()));
+        std::rotate(to, siblings.end() - 1, siblings.end());
     }
 
     void Turn(ItemIndex item)
