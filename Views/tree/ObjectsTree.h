@@ -8,14 +8,19 @@
 #include "Views/host/HeldPair.h"
 #include "Views/host/StateHandler.h"
 #include "Views/tree/TreeIconSlots.h"
+#include "Views/tree/TreeRecords.h"
 
 #include <memory>
-#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
 class CTreeDropTarget;
 class IAtomIcon;
+
+namespace views
+{
+struct MemberKeys;
+}
 
 // One item for each atom announced; an announced container's members become items below it at once, and theirs below
 // them.
@@ -71,24 +76,7 @@ public:
     BOOL OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount) override;
 
 protected:
-    // The record behind an item, whose lParam is its address. Owned by the tree.
-    struct TREEITEMDATA
-    {
-        enum class State
-        {
-            Arriving, // the control is being handed the item
-            Filling,  // its members are being inserted
-            Settled,
-            Leaving
-        };
-
-        CStubRef<IAtom> pAtom;
-        CStubRef<IAtomContainer> pContainer; // as announced; may be empty
-        int nRank = 0;                       // among its siblings, while they are put in order
-        State state = State::Arriving;
-        bool bUnordered = false;    // while it is filled: items were added that are not in their places yet
-        bool bMembersShown = false; // the atom's members have become items, or are becoming items
-    };
+    using TREEITEMDATA = views::TreeRecord; // behind an item, whose lParam is its address; owned by the tree
 
     // For a derived class whose host has more than it wants read at once; before anything is announced. From then on a
     // container is asked for its members only when ShowMembers says so, those announced below one that was not
@@ -131,7 +119,7 @@ protected:
 private:
     friend class CTreeDropTarget;
 
-    using RecordHolder = std::unique_ptr<TREEITEMDATA>;
+    using RecordHolder = views::TreeRecords::Holder;
     using HELDPAIR = views::HeldPair;
 
     BOOL SelectAtom(IAtom* pAtom); // FALSE when it has no item or was refused
@@ -151,22 +139,22 @@ private:
     std::unordered_set<IAtom*> AtomsBelow(HTREEITEM hItem) const; // right below
 
     bool IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const; // an item is within its own branch
-    bool TakesMember(HTREEITEM hParent, IAtom* pAtom) const;
-    HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent);
+    bool TakesMember(const TREEITEMDATA* pParent, IAtom* pAtom) const;
+    HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, const TREEITEMDATA* pParent);
     HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
-    void MapItem(IAtom* pAtom, HTREEITEM hItem);
-    BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>& shown);
+    BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>* pShown = nullptr);
+    void NoteMember(HTREEITEM hParent, IAtom* pAtom, HTREEITEM hItem);
     bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
 
     RecordHolder TakeRecord(HTREEITEM hItem);
     void RemoveMembers(HTREEITEM hItem, IAtom* pAtom);
     void RemoveItem(HTREEITEM hItem);
     void RemoveChildren(HTREEITEM hItem);
-    void DropItem(HTREEITEM hItem, IAtom* pAtom);
+    void DropItem(HTREEITEM hItem, const TREEITEMDATA* pRecord);
 
-    void OrderMembers(HTREEITEM hItem);
-    bool OrderByName(HTREEITEM hItem);
-    static int CompareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
+    void OrderMembers(HTREEITEM hItem, views::MemberKeys& keys);
+    bool OrderByLabelAndName(HTREEITEM hItem);
+    bool ArrangeByName(HTREEITEM hItem, views::MemberKeys& keys, bool bEqualOnesToo);
 
     int ImageOf(IAtom* pAtom, const TVITEM& item);
     int IconImage(IAtomIcon* pIcon, HTREEITEM hItem);
@@ -179,7 +167,8 @@ private:
     bool AnnounceSelection();
     bool TakeFocus(); // false when it was refused
 
-    std::unordered_map<IAtom*, HTREEITEM> m_itemMap; // holds no references: the records do
+    views::TreeRecords m_records;
+    views::MemberKeys* m_pFilling = nullptr; // of the item whose members are being read
     views::TreeIconSlots m_iconSlots;
     CImageList m_images;
     int m_nOpenImage = -1;    // for an expanded item with children

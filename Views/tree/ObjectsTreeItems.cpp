@@ -1,6 +1,7 @@
 // Items: from an atom announced to its item, with the members below it, and back.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/window/MessageBox.h"
+#include "Views/tree/MemberKeys.h"
 #include "Views/tree/ObjectsTree.h"
 
 #include <memory>
@@ -22,8 +23,8 @@ void ReportInsertFailed()
 
 HTREEITEM CObjectsTree::GetItem(IAtom* pAtom) const
 {
-    const auto found = m_itemMap.find(pAtom);
-    return found == m_itemMap.end() ? nullptr : found->second;
+    const TREEITEMDATA* pRecord = m_records.Find(pAtom);
+    return pRecord ? pRecord->hItem : nullptr;
 }
 
 bool CObjectsTree::IsItem(HTREEITEM hItem) const
@@ -82,17 +83,17 @@ BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!pAtom || m_bClosing)
         return FALSE;
 
-    HTREEITEM hParent = TVI_ROOT;
+    const TREEITEMDATA* pParent = nullptr;
     if (const auto pOwner = CStubRef<IAtom>::From(pContainer)) {
-        hParent = GetItem(pOwner.Get());
-        if (!TakesMember(hParent, pAtom))
+        pParent = m_records.Find(pOwner.Get());
+        if (!TakesMember(pParent, pAtom))
             return FALSE;
     }
-    const HTREEITEM hItem = AddItem(pAtom, pContainer, hParent);
+    const HTREEITEM hItem = AddItem(pAtom, pContainer, pParent);
     if (!hItem)
         return FALSE;
     if (!m_bOnDemand)
-        AddMembers(hItem, pAtom, {});
+        AddMembers(hItem, pAtom);
     return TRUE;
 }
 
@@ -100,7 +101,8 @@ BOOL CObjectsTree::ShowMembers(IAtom* pAtom)
 {
     const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
     try {
-        return hItem && AddMembers(hItem, pAtom, AtomsBelow(hItem));
+        const std::unordered_set<IAtom*> shown = AtomsBelow(hItem);
+        return hItem && AddMembers(hItem, pAtom, &shown);
     } catch (CMemoryException& e) {
         e.ReportError();
         return FALSE;
@@ -114,35 +116,37 @@ bool CObjectsTree::AreMembersShown(HTREEITEM hItem) const
 }
 
 // Not an item that is going, and not one that shows the atom itself or stands below it.
-bool CObjectsTree::TakesMember(HTREEITEM hParent, IAtom* pAtom) const
+bool CObjectsTree::TakesMember(const TREEITEMDATA* pParent, IAtom* pAtom) const
 {
-    const TREEITEMDATA* pRecord = RecordOf(hParent);
-    if (!pRecord || pRecord->state == TREEITEMDATA::State::Leaving || (m_bOnDemand && !pRecord->bMembersShown))
+    if (!pParent || pParent->state == TREEITEMDATA::State::Leaving || (m_bOnDemand && !pParent->bMembersShown))
         return false;
-    if (!GetItem(pAtom))
+    if (!m_records.Find(pAtom))
         return true;
-    for (HTREEITEM hItem = hParent; hItem && pRecord; pRecord = RecordOf(hItem = GetParentItem(hItem))) {
-        if (pRecord->pAtom.Get() == pAtom)
+    for (HTREEITEM hItem = pParent->hItem; pParent; pParent = RecordOf(hItem = GetParentItem(hItem))) {
+        if (pParent->pAtom.Get() == pAtom)
             return false;
     }
     return true;
 }
 
-// The new item, in the map; NULL when there is none, and the user has been told.
-HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEITEM hParent)
+// The new item, found by its atom; NULL when there is none, and the user has been told.
+HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, const TREEITEMDATA* pParent)
 {
     try {
-        auto pRecord = std::make_unique<TREEITEMDATA>();
+        RecordHolder pRecord = m_records.Make();
         pRecord->pAtom = CStubRef<IAtom>::Share(pAtom);
         pRecord->pContainer = CStubRef<IAtomContainer>::Share(pContainer);
+        const HTREEITEM hParent = pParent ? pParent->hItem : TVI_ROOT;
         const HTREEITEM hItem = HandToControl(pRecord.get(), hParent);
         if (!hItem) {
             if (!m_bClosing && (hParent == TVI_ROOT || RecordOf(hParent)))
                 ReportInsertFailed();
             return nullptr;
         }
-        pRecord.release()->state = TREEITEMDATA::State::Settled;
-        MapItem(pAtom, hItem);
+        pRecord->hItem = hItem;
+        pRecord->state = TREEITEMDATA::State::Settled;
+        m_records.Map(pRecord.release());
+        NoteMember(hParent, pAtom, hItem);
         return hItem;
     } catch (CMemoryException& e) {
         e.ReportError();
@@ -150,53 +154,36 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, HTREEI
     }
 }
 
-// In a container that is being filled the order is made once, when all members are there. NULL when the control
-// refuses, or the parent went while the host was asked for labels.
+// NULL when the control refuses.
 HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
 {
-    TREEITEMDATA* const pParent = hParent == TVI_ROOT ? nullptr : RecordOf(hParent);
-    const bool bFilling = pParent && pParent->state == TREEITEMDATA::State::Filling;
-    if (bFilling)
-        pParent->bUnordered = true;
-
     TVINSERTSTRUCT insert{};
     insert.hParent = hParent;
-    insert.hInsertAfter = bFilling ? TVI_LAST : TVI_SORT;
+    insert.hInsertAfter = TVI_SORT;
     insert.item.mask = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN | TVIF_PARAM;
     insert.item.pszText = LPSTR_TEXTCALLBACK;
     insert.item.iImage = insert.item.iSelectedImage = I_IMAGECALLBACK;
     insert.item.cChildren = I_CHILDRENCALLBACK;
     insert.item.lParam = reinterpret_cast<LPARAM>(pRecord);
-    const HTREEITEM hItem = InsertItem(&insert);
-    return IsItem(hItem) ? hItem : nullptr;
+    return InsertItem(&insert);
 }
 
-void CObjectsTree::MapItem(IAtom* pAtom, HTREEITEM hItem)
-{
-    try {
-        m_itemMap[pAtom] = hItem;
-    } catch (...) {
-        RemoveItem(hItem);
-        throw;
-    }
-}
-
-// But for those that have an item there already.
-BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>& shown)
+// But for those that have an item there already (NULL: none has). Their order is made once, when all are there.
+BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>* pShown)
 {
     const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
     if (!pMembers || !Advance(hItem, TREEITEMDATA::State::Settled, TREEITEMDATA::State::Filling))
         return FALSE;
     RecordOf(hItem)->bMembersShown = true;
+    views::MemberKeys keys(hItem, m_pFilling);
     for (UINT i = 0; i < pMembers->GetCount(); ++i) {
         CStubRef<IAtom> pMember;
         pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);
-        if (pMember && !shown.contains(pMember.Get()))
+        if (pMember && (!pShown || !pShown->contains(pMember.Get())))
             OnCreateAtom(pMember.Get(), pMembers.Get());
     }
-    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled) &&
-        std::exchange(RecordOf(hItem)->bUnordered, false))
-        OrderMembers(hItem);
+    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled) && keys.nAdded > 0)
+        OrderMembers(hItem, keys);
     return TRUE;
 }
 
@@ -223,7 +210,7 @@ BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (const auto pRecord = TakeRecord(hItem)) {
         if (!m_bOnDemand || pRecord->bMembersShown)
             RemoveMembers(hItem, pAtom);
-        DropItem(hItem, pAtom);
+        DropItem(hItem, pRecord.get());
     }
     return TRUE;
 }
@@ -236,7 +223,7 @@ CObjectsTree::RecordHolder CObjectsTree::TakeRecord(HTREEITEM hItem)
     if (!pRecord || pRecord->state == TREEITEMDATA::State::Arriving || pRecord->state == TREEITEMDATA::State::Leaving)
         return nullptr;
     pRecord->state = TREEITEMDATA::State::Leaving;
-    return RecordHolder(pRecord);
+    return m_records.Hold(pRecord);
 }
 
 // A member that is shown above its own container stays: it is not below it.
@@ -258,7 +245,7 @@ void CObjectsTree::RemoveMembers(HTREEITEM hItem, IAtom* pAtom)
 void CObjectsTree::RemoveItem(HTREEITEM hItem)
 {
     if (const auto pRecord = TakeRecord(hItem)) {
-        DropItem(hItem, pRecord->pAtom.Get());
+        DropItem(hItem, pRecord.get());
         return;
     }
     RemoveChildren(hItem);
@@ -279,14 +266,13 @@ void CObjectsTree::RemoveChildren(HTREEITEM hItem)
 
 // The caller holds the record until the item is gone: the control still tells of the item when the selection leaves it.
 // Below it are only items whose atoms are members no longer, or have another item.
-void CObjectsTree::DropItem(HTREEITEM hItem, IAtom* pAtom)
+void CObjectsTree::DropItem(HTREEITEM hItem, const TREEITEMDATA* pRecord)
 {
     RemoveChildren(hItem);
     const HTREEITEM hParent = GetParentItem(hItem);
     DeleteItem(hItem);
     if (!GetSelectedItem())
         SetBoldRoot(hParent, FALSE); // the selection went with the item: no one would take it, or be left by it
-    if (GetItem(pAtom) == hItem)
-        m_itemMap.erase(pAtom);
+    m_records.Unmap(pRecord);
     m_iconSlots.GiveUp(hItem);
 }

@@ -3,8 +3,8 @@
 #include "Toolkit/base/Text.h"
 #include "Views/host/IPhase.h"
 #include "Views/host/LinkOrder.h"
-#include "Views/host/NameKeys.h"
 #include "Views/host/ReadName.h"
+#include "Views/tree/MemberKeys.h"
 #include "Views/tree/ObjectsTree.h"
 
 namespace
@@ -38,49 +38,65 @@ int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
     }
 }
 
-// Members stand by their labels first, as if each had been inserted by its own, and so do those that MyFunc
-// finds equal. Where names alone decide they are read once for each member, not for each comparison.
-void CObjectsTree::OrderMembers(HTREEITEM hItem)
+void views::MemberKeys::Add(IAtom* pAtom, HTREEITEM hItem)
 {
-    SortChildren(hItem);
+    ++nAdded;
     try {
-        if (OrderByName(hItem))
+        bNamesDecide = bNamesDecide && !CStubRef<IImageLink>::From(pAtom) && names.Add(pAtom);
+        if (bNamesDecide)
+            items.push_back(hItem);
+    } catch (CMemoryException&) {
+        bNamesDecide = false; // comparing needs no room
+    }
+}
+
+void CObjectsTree::NoteMember(HTREEITEM hParent, IAtom* pAtom, HTREEITEM hItem)
+{
+    for (views::MemberKeys* p = m_pFilling; p; p = p->pOuter) {
+        if (p->hParent == hParent)
+            return p->Add(pAtom, hItem);
+    }
+}
+
+// Where all names are different they decide alone, and no label is asked for.
+void CObjectsTree::OrderMembers(HTREEITEM hItem, views::MemberKeys& keys)
+{
+    try {
+        if (ArrangeByName(hItem, keys, false) || OrderByLabelAndName(hItem))
             return;
     } catch (CMemoryException&) {
-        // No room for the keys: comparing needs none.
+        // No room for the keys.
     }
     TVSORTCB sort{hItem, &MyFunc, 0};
     SortChildrenCB(&sort);
 }
 
-// False when names do not decide, or cannot be read, and nothing has changed. When the labels give the same order,
-// which they nearly always do, the control is left to know that: a later atom finds its place among them by halving.
-bool CObjectsTree::OrderByName(HTREEITEM hItem)
+// Members stand by their labels first, as if each had been inserted by its own, and so do those that MyFunc finds
+// equal.
+bool CObjectsTree::OrderByLabelAndName(HTREEITEM hItem)
 {
-    const std::vector<HTREEITEM> children = ChildrenOf(hItem);
-    views::NameKeys keys(children.size());
-    for (const HTREEITEM hChild : children) {
+    SortChildren(hItem);
+    views::MemberKeys keys(hItem, m_pFilling);
+    for (const HTREEITEM hChild : ChildrenOf(hItem)) {
         const HELDPAIR pair = HoldPair(hChild);
-        if (!pair.pAtom || CStubRef<IImageLink>::From(pair.pAtom.Get()) || !keys.Add(pair.pAtom.Get()))
+        if (!pair.pAtom)
             return false;
+        keys.Add(pair.pAtom.Get(), hChild);
     }
-    bool bByLabel = true;
-    int nRank = 0;
-    for (const auto& key : keys.Sort()) {
-        bByLabel &= key.nIndex == static_cast<std::uint32_t>(nRank);
-        if (TREEITEMDATA* const pRecord = RecordOf(children[key.nIndex]))
-            pRecord->nRank = nRank;
-        ++nRank;
-    }
-    if (bByLabel)
-        return true;
-    TVSORTCB sort{hItem, &CompareRanks, 0};
-    SortChildrenCB(&sort);
-    return true;
+    return ArrangeByName(hItem, keys, true);
 }
 
-int CObjectsTree::CompareRanks(LPARAM lParam1, LPARAM lParam2, LPARAM)
+// False when names do not decide, or are not those of all children, and nothing has changed.
+bool CObjectsTree::ArrangeByName(HTREEITEM hItem, views::MemberKeys& keys, bool bEqualOnesToo)
 {
-    return reinterpret_cast<const TREEITEMDATA*>(lParam1)->nRank -
-           reinterpret_cast<const TREEITEMDATA*>(lParam2)->nRank;
+    if (!keys.bNamesDecide)
+        return false;
+    const toolkit::TextKeys::Keys& sorted = keys.names.Sort();
+    if (!bEqualOnesToo && keys.names.HasEqual())
+        return false;
+    std::vector<HTREEITEM> order;
+    order.reserve(sorted.size());
+    for (const auto& key : sorted)
+        order.push_back(keys.items[key.nIndex]);
+    return ArrangeChildren(hItem, order) != FALSE;
 }
