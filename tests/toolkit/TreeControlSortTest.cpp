@@ -140,6 +140,19 @@ TEST_F(TreeControlTest, SiblingsMayGoWhileAPlaceAmongThemIsSought)
     }
 }
 
+TEST_F(TreeControlTest, ChildrenTakeTheOrderThatTheyAreGivenAndNoLabelIsAskedFor)
+{
+    Fill("a [x] b c");
+    const HTREEITEM a = (*this)["a"], b = (*this)["b"], c = (*this)["c"], x = (*this)["x"];
+    tree.labelRequests = 0;
+    const HTREEITEM d = tree.Add("d", TVI_ROOT, TVI_SORT);
+    for (const std::vector<HTREEITEM>& wrong : {std::vector{a, b, c}, {a, b, c, c}, {a, b, c, x}, {a, b, c, d, d}})
+        EXPECT_FALSE(tree.ArrangeChildren(TVI_ROOT, wrong));
+    EXPECT_TRUE(tree.ArrangeChildren(TVI_ROOT, std::vector{d, b, a, c}));
+    EXPECT_EQ(0, tree.labelRequests);
+    EXPECT_EQ("d b a [x] c", State());
+}
+
 TEST_F(TreeControlTest, SortingKeepsEqualsBranchesAndSelection)
 {
     Fill("b1 [x] a1 b2 c a2 b3");
