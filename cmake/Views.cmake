@@ -13,4 +13,6 @@ function(views_library name prefix)
     target_compile_definitions(${name} PRIVATE ${prefix}_EXPORTS)
     target_link_libraries(${name} PUBLIC views_options)
     target_link_options(${name} PRIVATE $<$<NOT:$<BOOL:${VIEWS_SANITIZE}>>:-Wl,--no-undefined>)
+    # Nobody puts functions of his own in the place of a library's, so inside it they are called without detours.
+    target_link_options(${name} PRIVATE $<$<CONFIG:Release>:-Wl,-Bsymbolic-functions>)
 endfunction()
