@@ -17,6 +17,10 @@ template <class Key>
 void SortByHead(std::vector<Key>& keys)
 {
     constexpr unsigned kBytes = 8, kValues = 256;
+    if (keys.size() < kValues) { // less than counting would take
+        std::ranges::stable_sort(keys, {}, &Key::head);
+        return;
+    }
     const auto byteOf = [](const Key& key, unsigned byte) { return key.head >> 8 * byte & 0xFF; };
 
     std::vector<Key> sorted(keys.size());
