@@ -5,9 +5,9 @@
 // once; a few find their places one by one.
 //
 // A container whose children are known to be in label order is bisected: the place lies between a label that is not
-// greater and one that is. Where they are not, or nobody knows, all labels are looked through for the first greater
-// one, and the look shows whether they are in order after all. Small containers are always looked through: there it
-// costs nothing and holds whatever the owner has renamed since.
+// greater and one that is. Where they are not, labels are looked through for the first greater one; where nobody knows,
+// a merge shows it. Small containers are always merged: there it costs nothing and holds whatever the owner has renamed
+// since.
 #include "Toolkit/base/Text.h"
 #include "Toolkit/base/TextKeys.h"
 #include "Toolkit/controls/TreeControl.h"
@@ -136,7 +136,9 @@ bool TreeControl::SettleBelow(HTREEITEM hParent)
         if (gathered.empty())
             return true;
         const int count = static_cast<int>(gathered.size()), settled = m_items.ChildCount(parent) - count;
-        const bool merges = m_items[parent].order == ChildOrder::NotByLabel ? count > 1 : count * kFewer >= settled;
+        const bool few = count * kFewer < settled;
+        const ChildOrder order = m_items[parent].order;
+        const bool merges = order == ChildOrder::Unknown || (order == ChildOrder::ByLabel ? !few : count > 1);
         bool done = false;
         if (merges && !SortByLabel(hParent, settled, done))
             return false;
@@ -145,16 +147,11 @@ bool TreeControl::SettleBelow(HTREEITEM hParent)
     }
 }
 
-// As long as that is cheap: as soon as siblings turn out to be out of order, the others wait.
 bool TreeControl::SettleEach(const std::vector<HTREEITEM>& gathered)
 {
-    for (const HTREEITEM hItem : gathered) {
+    for (const HTREEITEM hItem : gathered)
         if (!SettleOne(hItem))
             return false;
-        const ItemIndex item = m_items.Find(hItem);
-        if (item != kNoItem && m_items[m_items.ParentOrRoot(item)].order == ChildOrder::NotByLabel)
-            break;
-    }
     return true;
 }
 
@@ -190,8 +187,7 @@ bool TreeControl::SettleOne(HTREEITEM hItem)
 bool TreeControl::FindSortedPlace(HTREEITEM hNew, HTREEITEM hParent, int& place)
 {
     const ItemIndex parent = m_items.FindParent(hParent);
-    const int settled = m_items.PlaceOf(m_items.Find(hNew));
-    const bool bisects = m_items[parent].order == ChildOrder::ByLabel && settled > kSmall;
+    const bool bisects = m_items[parent].order == ChildOrder::ByLabel;
     Face face;
     if (!AskFace(hNew, TVIF_TEXT, face))
         return false;
@@ -225,29 +221,16 @@ bool TreeControl::Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hPa
 
 bool TreeControl::LookThrough(const std::string& label, HTREEITEM hNew, HTREEITEM hParent, int& place)
 {
-    bool found = false, inOrder = true;
-    std::string former;
-    place = 0;
-    for (int i = 0; !found || inOrder; ++i) {
-        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), i));
-        if (!hChild || hChild == hNew)
-            break;
+    for (place = 0;; ++place) {
+        const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), place));
         Face face;
+        if (!hChild || hChild == hNew)
+            return true;
         if (!AskFace(hChild, TVIF_TEXT, face))
             return false;
-        inOrder = inOrder && (i == 0 || CompareNoCase(former, face.text) <= 0);
-        found = found || CompareNoCase(face.text, label) > 0;
-        if (!found)
-            place = i + 1;
-        const ItemIndex parent = m_items.FindParent(hParent);
-        if (found && parent != kNoItem && m_items[parent].order != ChildOrder::Unknown)
-            return true; // there is nothing more to learn
-        former = std::move(face.text);
+        if (CompareNoCase(face.text, label) > 0)
+            return true;
     }
-    const ItemIndex parent = m_items.FindParent(hParent);
-    if (parent != kNoItem)
-        m_items[parent].order = inOrder ? ChildOrder::ByLabel : ChildOrder::NotByLabel;
-    return true;
 }
 
 void TreeControl::DoubtOrder(ItemIndex parent)
