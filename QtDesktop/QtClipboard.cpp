@@ -46,12 +46,17 @@ QtClipboard::~QtClipboard()
     LosePublished();
 }
 
-void QtClipboard::Publish(std::shared_ptr<toolkit::OfferedData> data)
+// Qt does not say that a window system has refused; who has the clipboard then, it asks anew each time.
+bool QtClipboard::Publish(std::shared_ptr<toolkit::OfferedData> data)
 {
     const auto pMime = new OfferedMime(data);
     m_mime = pMime;
-    m_published = std::move(data); // before the clipboard tells that it has changed
+    const auto former = std::exchange(m_published, std::move(data)); // before the clipboard tells that it has changed
     QGuiApplication::clipboard()->setMimeData(pMime);
+    OnChanged();
+    if (!m_published && former)
+        former->OnLost();
+    return m_published != nullptr;
 }
 
 std::shared_ptr<toolkit::OfferedData> QtClipboard::Fetch()

@@ -16,7 +16,7 @@ public:
     QtClipboard();
     ~QtClipboard() override;
 
-    void Publish(std::shared_ptr<toolkit::OfferedData> data);
+    bool Publish(std::shared_ptr<toolkit::OfferedData> data); // false: refused, and the former data is lost, too
     std::shared_ptr<toolkit::OfferedData> Fetch(); // NULL when the clipboard is empty or holds what was published
 
 private:

@@ -136,10 +136,9 @@ void QtDesktop::TextInputChanged()
         pWindow->FollowTextInput();
 }
 
-void QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)
+BOOL QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)
 {
-    if (m_parts->pClipboard)
-        m_parts->pClipboard->Publish(std::move(data));
+    return m_parts->pClipboard && m_parts->pClipboard->Publish(std::move(data));
 }
 
 std::shared_ptr<toolkit::OfferedData> QtDesktop::FetchClipboard()

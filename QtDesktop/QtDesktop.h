@@ -42,7 +42,7 @@ public:
     void ShowCursor(toolkit::Cursor cursor) override;
     void TextInputChanged() override;
     UINT TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen) override;
-    void PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;
+    BOOL PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;
     std::shared_ptr<toolkit::OfferedData> FetchClipboard() override;
     DROPEFFECT RunDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed) override;
 

@@ -100,7 +100,7 @@ try {
     if (CopyObjects(FALSE))
         return {};
     return m_editor.GetArchiveError().empty() ? NoFile(kNoFile) : m_editor.GetArchiveError();
-} catch (const CMemoryException& e) {
+} catch (const CException& e) {
     return e.GetErrorMessage();
 }
 
@@ -117,7 +117,7 @@ try {
         return m_editor.GetArchiveError();
     std::string reason = WhyStillThere(members);
     return reason.empty() ? NoFile(kNoFile) : reason;
-} catch (const CMemoryException& e) {
+} catch (const CException& e) {
     return e.GetErrorMessage();
 }
 
@@ -129,7 +129,7 @@ try {
     const JointRemoval joint(members);
     RemoveObjects(FALSE);
     return WhyStillThere(members);
-} catch (const CMemoryException& e) {
+} catch (const CException& e) {
     return e.GetErrorMessage();
 }
 
@@ -137,7 +137,7 @@ std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& a
 try {
     const Arrivals arrivals(m_editor, pTarget, arrived);
     return AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
-} catch (const CMemoryException& e) {
+} catch (const CException& e) {
     return e.GetErrorMessage();
 }
 
@@ -181,7 +181,7 @@ try {
     if (!RenameObject(pMember, pContainer.Get(), name.c_str()))
         return ErrorOf(pContainer.Get(), former + ": it cannot be renamed");
     return {};
-} catch (const CMemoryException& e) {
+} catch (const CException& e) {
     return e.GetErrorMessage();
 }
 

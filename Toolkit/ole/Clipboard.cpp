@@ -35,17 +35,20 @@ private:
     const std::shared_ptr<toolkit::DataCache> m_data;
 };
 
-// The former data goes last: its releasers may look at the clipboard.
-void Publish(Published published)
+// Nothing has changed when memory runs out before the desktop has the data. The former data goes last: its releasers
+// may look at the clipboard.
+bool Publish(Published published)
 {
+    if (!toolkit::CurrentDesktop().PublishClipboard(std::make_shared<Offer>(published.data)))
+        return false;
     const Published former = std::exchange(s_published, std::move(published));
-    toolkit::CurrentDesktop().PublishClipboard(std::make_shared<Offer>(s_published.data));
+    return true;
 }
 } // namespace
 
-void toolkit::OwnClipboard(std::unique_ptr<COleDataSource> source, std::shared_ptr<DataCache> data)
+bool toolkit::OwnClipboard(std::unique_ptr<COleDataSource> source, std::shared_ptr<DataCache> data)
 {
-    Publish({std::move(source), std::move(data)});
+    return Publish({std::move(source), std::move(data)});
 }
 
 COleDataSource* toolkit::ClipboardOwner()

@@ -10,7 +10,8 @@ namespace toolkit
 class DataCache;
 class DataProvider;
 
-void OwnClipboard(std::unique_ptr<COleDataSource> source, std::shared_ptr<DataCache> data);
+// false: it is not to be had, and the source is gone
+bool OwnClipboard(std::unique_ptr<COleDataSource> source, std::shared_ptr<DataCache> data);
 COleDataSource* ClipboardOwner();
 void FlushClipboard();
 

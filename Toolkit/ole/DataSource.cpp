@@ -2,6 +2,7 @@
 
 #include "Toolkit/ole/Clipboard.h"
 #include "Toolkit/ole/DataCache.h"
+#include "Toolkit/ole/OleException.h"
 
 #include <utility>
 
@@ -38,8 +39,8 @@ void COleDataSource::Empty()
 
 void COleDataSource::SetClipboard()
 {
-    if (toolkit::ClipboardOwner() != this)
-        toolkit::OwnClipboard(std::unique_ptr<COleDataSource>(this), m_cache);
+    if (toolkit::ClipboardOwner() != this && !toolkit::OwnClipboard(std::unique_ptr<COleDataSource>(this), m_cache))
+        throw COleException(CLIPBRD_E_CANT_SET);
 }
 
 void COleDataSource::FlushClipboard()

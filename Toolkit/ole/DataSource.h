@@ -32,7 +32,8 @@ public:
     void Empty(); // releases the cached media
 
     // Gives the data source to the clipboard in place of what is there. The clipboard deletes it when other data, of
-    // this program or another one, comes in its place, or at the desktop's end.
+    // this program or another one, comes in its place, or at the desktop's end. Raises COleException when the desktop
+    // does not give the clipboard, and CMemoryException; the data source is deleted then, too.
     void SetClipboard();
     // Leaves plain copies of this program's data on the clipboard and deletes the data source, with the media it
     // kept and their releasers. Nothing happens when the clipboard has no data source of this program's.

@@ -23,7 +23,7 @@ public:
     int ShowMessageBox(HWND, LPCSTR, LPCSTR, UINT) override { return IDCANCEL; }
     UINT TrackMenu(HWND, const std::vector<toolkit::MenuItem>&, CPoint) override { return 0; }
     void ShowCursor(toolkit::Cursor) override {}
-    void PublishClipboard(std::shared_ptr<toolkit::OfferedData>) override {}
+    BOOL PublishClipboard(std::shared_ptr<toolkit::OfferedData>) override { return TRUE; }
     std::shared_ptr<toolkit::OfferedData> FetchClipboard() override { return nullptr; }
     DROPEFFECT RunDrag(std::shared_ptr<toolkit::OfferedData>, DROPEFFECT) override { return DROPEFFECT_NONE; }
 };

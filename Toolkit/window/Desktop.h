@@ -59,8 +59,9 @@ public:
 
     // The clipboard. Publishing takes it from whoever has it, the program's own former data included, which is not
     // told. The desktop holds the data as long as it is there, renders of it what others ask for, and calls its OnLost
-    // when another program takes the clipboard, or when the desktop itself goes.
-    virtual void PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
+    // when another program takes the clipboard, or when the desktop itself goes. FALSE when the clipboard is not to be
+    // had: the data is let go of, and what the program had there before is lost and told so.
+    virtual BOOL PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
     // What another program has there; NULL when it is empty or the program's own.
     virtual std::shared_ptr<OfferedData> FetchClipboard() = 0;
 

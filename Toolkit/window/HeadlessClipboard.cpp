@@ -45,10 +45,14 @@ std::string toolkit::JoinKinds(OfferedData& data)
     return all;
 }
 
-void toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
+BOOL toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
 {
-    m_published = std::move(data);
     m_foreign.reset();
+    if (m_bRefusesClipboard)
+        LosePublished();
+    else
+        m_published = std::move(data);
+    return !m_bRefusesClipboard;
 }
 
 void toolkit::HeadlessDesktop::LosePublished()

@@ -78,6 +78,7 @@ public:
     // The clipboard as another program sees it: it takes it with data of its own, or leaves it empty, or asks for
     // what the program under test has published.
     void TakeClipboard(KindsAndBytes data);
+    void RefuseClipboard(bool bRefuse) { m_bRefusesClipboard = bRefuse; } // to the program under test
     std::string PublishedKinds(); // separated by spaces; "" when nothing is published
     std::optional<std::string> ReadPublished(std::string_view kind);
 
@@ -98,7 +99,7 @@ public:
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
     UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) override;
     DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) override;
-    void PublishClipboard(std::shared_ptr<OfferedData> data) override;
+    BOOL PublishClipboard(std::shared_ptr<OfferedData> data) override;
     std::shared_ptr<OfferedData> FetchClipboard() override { return m_foreign; }
 
 private:
@@ -130,6 +131,7 @@ private:
     std::unique_ptr<HeadlessDrag> m_drag;
     DROPEFFECT m_dragEffect = DROPEFFECT_NONE;
     std::shared_ptr<OfferedData> m_published, m_foreign; // one of them at most
+    bool m_bRefusesClipboard = false;
 };
 
 } // namespace toolkit

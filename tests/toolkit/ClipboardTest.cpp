@@ -1,5 +1,6 @@
 #include "Toolkit/ole/DataObject.h"
 #include "Toolkit/ole/DataSource.h"
+#include "Toolkit/ole/OleException.h"
 #include "Toolkit/window/WaitCursor.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
@@ -152,6 +153,25 @@ TEST_F(ClipboardTest, AnotherProgramReadsWhatIsPublishedAndTakesTheClipboard)
     MakeSource()->SetClipboard();
     EXPECT_EQ("path", Paste(m_atoms));
     desktop.TakeClipboard({});
+    EXPECT_EQ("nothing", Paste(m_atoms));
+}
+
+TEST_F(ClipboardTest, WithoutMemoryTheFormerDataStaysAndARefusalOfTheDesktopIsAnError)
+{
+    COleDataSource* const pFormer = MakeSource();
+    pFormer->SetClipboard();
+    COleDataSource* const pNext = MakeSource();
+    {
+        const FailAllocation failure(1);
+        EXPECT_THROW(pNext->SetClipboard(), CMemoryException);
+    }
+    EXPECT_EQ(Ledger({"released"}), TakeLedger()); // what did not come about
+    EXPECT_EQ(pFormer, COleDataSource::GetClipboardOwner());
+    EXPECT_EQ("path", desktop.ReadPublished("application/x-atoms"));
+
+    desktop.RefuseClipboard(true);
+    EXPECT_THROW(MakeSource()->SetClipboard(), COleException);
+    EXPECT_EQ(Ledger({"released", "released"}), TakeLedger());
     EXPECT_EQ("nothing", Paste(m_atoms));
 }
 
