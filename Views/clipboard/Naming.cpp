@@ -1,6 +1,7 @@
 #include "Views/clipboard/Naming.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/base/String.h"
 #include "Views/host/IAtomContainer.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/IMyErrorInfo.h"
@@ -43,8 +44,10 @@ BOOL AnnounceRename(IAtom* pRenamed, IAtom* pFormer, IAtomContainer* pContainer)
 void ShowRenameError(IAtomContainer* pContainer)
 {
     try {
+        CString strCaption;
+        strCaption.LoadString(kRenameFailed);
         const auto pError = CStubRef<IMyErrorInfo>::From(pContainer);
-        ShowAtomError(nullptr, kRenameFailed, pError.Get());
+        views::ShowAtomError(nullptr, strCaption, pError.Get());
     } catch (CMemoryException& e) {
         e.ReportError();
     }

@@ -20,15 +20,20 @@ struct PASTEDATA
     DWORD dwResult; // CheckPaste's verdict so far
 };
 
+// An atom whose name cannot be read, or for which there is no memory, which is reported, has none.
 BOOL NameFor(IAtom* pAtom, const PASTEDATA& paste, CString& strName)
-{
+try {
     return paste.bMove ? views::ReadName(pAtom, &IAtom::GetName, strName)
                        : GetValidName(pAtom, paste.pContainer, strName);
+} catch (CMemoryException& e) {
+    e.ReportError();
+    return FALSE;
 }
 
-// An atom that the container does not add after all is passed over.
+// An atom that the container does not add after all is passed over. What the container or a view raises is the
+// caller's.
 BOOL PasteObjectFn(IAtom* pAtom, void* pContext)
-try {
+{
     if (!pAtom)
         return FALSE;
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
@@ -42,9 +47,6 @@ try {
     if (paste.pContainer->AddAtom(pAtom, 0, strName, pAdded.Receive(), IID_IAtom))
         pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnCreateAtom, pAdded.Get(), paste.pContainer, 0);
     return TRUE;
-} catch (CMemoryException& e) {
-    e.ReportError();
-    return FALSE;
 }
 
 DWORD VerdictOn(DWORD dwPermissions)
@@ -54,28 +56,31 @@ DWORD VerdictOn(DWORD dwPermissions)
     return dwPermissions & APF_ACCEPTCOPY ? PASTE_COPY : PASTE_REFUSED;
 }
 
-BOOL CheckPasteFn(IAtom* pAtom, void* pContext)
+// A member of the atom's name refuses a move; without a name, nothing is looked for and the verdict stays.
+BOOL CheckName(IAtom* pAtom, PASTEDATA& paste)
 try {
+    CString strName;
+    if (!views::ReadName(pAtom, &IAtom::GetName, strName))
+        return FALSE;
+    CStubRef<IAtom> pPresent;
+    if (!paste.pContainer->FindAtom(strName, pPresent.Receive(), IID_IAtom))
+        return TRUE;
+    paste.dwResult = PASTE_REFUSED;
+    return FALSE;
+} catch (CMemoryException& e) {
+    e.ReportError();
+    return FALSE;
+}
+
+BOOL CheckPasteFn(IAtom* pAtom, void* pContext)
+{
     auto* const pPaste = static_cast<PASTEDATA*>(pContext);
     if (!pAtom || !pPaste || !pPaste->pContainer)
         return FALSE;
     pPaste->dwResult = VerdictOn(pPaste->pContainer->GetPermissions(pAtom));
     if (pPaste->dwResult == PASTE_REFUSED)
         return FALSE;
-    if (!pPaste->bMove)
-        return TRUE;
-
-    CString strName;
-    if (!views::ReadName(pAtom, &IAtom::GetName, strName))
-        return FALSE;
-    CStubRef<IAtom> pPresent;
-    if (!pPaste->pContainer->FindAtom(strName, pPresent.Receive(), IID_IAtom))
-        return TRUE;
-    pPaste->dwResult = PASTE_REFUSED;
-    return FALSE;
-} catch (CMemoryException& e) {
-    e.ReportError();
-    return FALSE;
+    return pPaste->bMove ? CheckName(pAtom, *pPaste) : TRUE;
 }
 
 } // namespace

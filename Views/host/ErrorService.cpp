@@ -4,9 +4,14 @@
 
 void ShowAtomError(HWND owner, UINT nCaptionID, IMyErrorInfo* error)
 {
-    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID("ShowErrorSv");
     CString strCaption;
     strCaption.LoadString(nCaptionID);
-    ERRORREQUEST request{owner, strCaption, error};
+    views::ShowAtomError(owner, strCaption.GetString(), error);
+}
+
+void views::ShowAtomError(HWND owner, LPCSTR pszCaption, IMyErrorInfo* error)
+{
+    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID("ShowErrorSv");
+    ERRORREQUEST request{owner, pszCaption, error};
     CallService(s_pService, &request, sizeof request, 0);
 }

@@ -221,6 +221,12 @@ TEST_F(ClipboardTest, PastedAtomsKeepTheirNamesOnlyWhenTheyMove)
     EXPECT_FALSE(PasteObjects(pArchive.Get(), pBag, FALSE));
     EXPECT_FALSE(PasteObjects(Holding("nameless\n").Get(), pBag, TRUE));
     EXPECT_FALSE(PasteObjects(pArchive.Get(), nullptr, FALSE));
+
+    editor.onNotify = [](AEStateOperation, IAtom*) { AfxThrowMemoryException(); }; // a view's trouble is the caller's
+    EXPECT_THROW(PasteObjects(Holding("y\n").Get(), pBag, TRUE), CMemoryException);
+    EXPECT_EQ("d e x y", Members(pBag));
+    EXPECT_EQ(Ledger(), desktop.TakeMessageBoxes());
+    editor.onNotify = nullptr;
 }
 
 TEST_F(ClipboardTest, TheVerdictIsThatOfTheLastAtomLookedAt)

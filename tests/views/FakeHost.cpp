@@ -273,6 +273,8 @@ void* FakeContainer::Find(DWORD id)
         return static_cast<IAtomContainer*>(this);
     if (id == IID_IPhase && isPhase)
         return static_cast<IPhase*>(this);
+    if (id == IID_IMyErrorInfo && onCall)
+        onCall("errs");
     if (id == IID_IMyErrorInfo && !refused.empty())
         return static_cast<IMyErrorInfo*>(this);
     return FakeAtom::Find(id);

@@ -53,12 +53,15 @@ TEST_F(NamingTest, ARefusedRenameIsShownWithTheContainersReason)
     EXPECT_EQ(Ledger(), desktop.TakeMessageBoxes());
 
     std::optional<FailAllocation> failure;
+    bool bErrorAsked = false;
     pBox->onCall = [&](const std::string& strCall) {
+        bErrorAsked |= strCall == "errs";
         if (strCall.starts_with("renames"))
             failure.emplace(1); // the caption does not come about
     };
     EXPECT_FALSE(RenameObject(pA, pBox, "b"));
     EXPECT_EQ(Ledger({": Out of memory."}), desktop.TakeMessageBoxes());
+    EXPECT_FALSE(bErrorAsked);
 }
 
 TEST_F(NamingTest, TheContainerSaysWhetherANameMayChangeAndWhatACopyIsCalled)
