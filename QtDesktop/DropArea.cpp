@@ -64,9 +64,9 @@ DWORD KeyState(const QDropEvent& event)
            Flag(event.modifiers().testFlag(Qt::AltModifier), MK_ALT);
 }
 
-bool IsOwn(const QDropEvent& event)
+const OfferedMime* FindOwn(const QDropEvent& event)
 {
-    return dynamic_cast<const OfferedMime*>(event.mimeData()) != nullptr;
+    return dynamic_cast<const OfferedMime*>(event.mimeData());
 }
 
 } // namespace
@@ -96,11 +96,17 @@ DROPEFFECT ToEffects(Qt::DropActions actions)
     return effects;
 }
 
-// Accepted whatever the effect is: else Qt would tell of no movement that follows.
+// What is agreed on with a source of this kind, the window system may not know as possible: it then is told that the
+// data is copied. Accepted whatever the effect is: else Qt would tell of no movement that follows.
 void DropArea::Enter(QDragEnterEvent& event)
 {
-    m_tracker = std::make_shared<toolkit::DragTracker>(OfferOf(event.mimeData()), ToEffects(event.possibleActions()));
-    m_receipt = IsOwn(event) ? QByteArray() : event.mimeData()->data(kReceiptKind);
+    const OfferedMime* const pOwn = FindOwn(event);
+    const auto receipt = pOwn ? std::nullopt : ReceiptAddress::From(event.mimeData()->data(kReceiptKind));
+    const DROPEFFECT allowed = pOwn      ? pOwn->GetAllowed()
+                               : receipt ? receipt->allowed
+                                         : ToEffects(event.possibleActions());
+    m_tracker = std::make_shared<toolkit::DragTracker>(OfferOf(event.mimeData()), allowed);
+    m_receipt = receipt.value_or(ReceiptAddress());
     m_dwKeys = KeyState(event);
     event.setDropAction(ToAction(Follow(event)));
     event.accept();
@@ -122,8 +128,8 @@ void DropArea::Drop(QDropEvent& event)
     if (!m_tracker)
         return event.ignore();
     const auto tracker = m_tracker;
-    const bool bOwn = IsOwn(event);
-    DropReceipt receipt(m_receipt);
+    const bool bOwn = FindOwn(event) != nullptr;
+    DropReceipt receipt(m_receipt.name);
     Follow(event);
     m_tracker.reset();
     const DROPEFFECT effect = tracker->Drop();

@@ -1,6 +1,7 @@
 // A window of the toolkit under a drag of Qt's.
 #pragma once
 
+#include "QtDesktop/DropReceipt.h"
 #include "Toolkit/window/DragTracker.h"
 
 #include <QDropEvent>
@@ -26,7 +27,7 @@ private:
     const HWND m_hTop;
     std::shared_ptr<toolkit::DragTracker> m_tracker; // while a drag is over the window
     DWORD m_dwKeys = 0;                              // that were down at its last movement
-    QByteArray m_receipt;                            // where that drag's source wants to hear; empty: nowhere
+    ReceiptAddress m_receipt;                        // where that drag's source wants to hear
 };
 
 Qt::DropAction ToAction(DROPEFFECT effect);

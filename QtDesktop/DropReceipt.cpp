@@ -69,8 +69,17 @@ Socket& Socket::operator=(Socket&& other) noexcept
     return *this;
 }
 
-DropReceiver::DropReceiver() : m_listener(MakeSocket())
+std::optional<ReceiptAddress> ReceiptAddress::From(const QByteArray& bytes)
 {
+    bool bNumber = false;
+    const qsizetype blank = bytes.indexOf(' ');
+    const DROPEFFECT effects = bytes.left(std::max<qsizetype>(blank, 0)).toUInt(&bNumber);
+    return bNumber ? std::optional(ReceiptAddress{bytes.mid(blank + 1), effects}) : std::nullopt;
+}
+
+DropReceiver::DropReceiver(DROPEFFECT allowed) : m_listener(MakeSocket())
+{
+    m_address->allowed = allowed;
     const QByteArray name = RandomName();
     const Address address(name);
     if (!m_listener || bind(m_listener.Get(), address.Get(), address.length) != 0 || listen(m_listener.Get(), 4) != 0)

@@ -3,6 +3,8 @@
 //
 // The dragged data carries the address of a socket under a name that nobody can guess. A target of this kind connects
 // to it at the drop and writes what has become of the data; it alone is believed when it says that something was moved.
+// The address also tells which effects the source allows: the window system is told less of them, lest programs of
+// another kind move what they are only to copy.
 #pragma once
 
 #include "Toolkit/window/DropEffect.h"
@@ -37,15 +39,19 @@ private:
 // Where a target may write to, as it travels with the data.
 struct ReceiptAddress
 {
-    QByteArray name;     // empty: nowhere
-    bool bAsked = false; // a target has read it: one of this kind is there
+    QByteArray name;                      // empty: nowhere
+    DROPEFFECT allowed = DROPEFFECT_NONE; // to a target of this kind
+    bool bAsked = false;                  // a target has read it: one of this kind is there
+
+    QByteArray ToBytes() const { return QByteArray::number(allowed) + ' ' + name; }
+    static std::optional<ReceiptAddress> From(const QByteArray& bytes); // nothing for what is none
 };
 
 // The source's end.
 class DropReceiver
 {
 public:
-    DropReceiver(); // without a socket, when there is none to be had: no target can answer then
+    explicit DropReceiver(DROPEFFECT allowed); // without a socket, when there is none: no target can answer then
 
     const std::shared_ptr<ReceiptAddress>& GetAddress() const { return m_address; }
 

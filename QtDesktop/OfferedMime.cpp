@@ -22,7 +22,7 @@ QVariant OfferedMime::retrieveData(const QString& mimeType, QMetaType) const
 {
     if (mimeType == QLatin1String(kReceiptKind)) {
         m_receipt->bAsked = true;
-        return m_receipt->name;
+        return m_receipt->ToBytes();
     }
     const auto bytes = m_data->Render(mimeType.toStdString());
     return bytes ? QVariant(QByteArray(bytes->data(), static_cast<qsizetype>(bytes->size()))) : QVariant();

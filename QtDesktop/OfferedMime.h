@@ -21,6 +21,7 @@ public:
     {}
 
     const std::shared_ptr<toolkit::OfferedData>& GetData() const { return m_data; }
+    DROPEFFECT GetAllowed() const { return m_receipt->allowed; } // of a drag
 
     QStringList formats() const override;
     bool hasFormat(const QString& mimeType) const override;

@@ -1,5 +1,6 @@
 #include "QtDesktop/QtDesktop.h"
 
+#include "QtDesktop/ForeignTimes.h"
 #include "QtDesktop/QtClipboard.h"
 #include "QtDesktop/QtDrag.h"
 #include "QtDesktop/QtMenu.h"
@@ -30,6 +31,7 @@ std::unique_ptr<QtTextEngine> MakeTextEngine()
 struct QtDesktop::Parts
 {
     QueuePump pump;
+    ForeignTimes foreignTimes;
     std::unique_ptr<QtClipboard> pClipboard = std::make_unique<QtClipboard>();
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
     std::map<HWND, std::unique_ptr<QtWindow>> windows;

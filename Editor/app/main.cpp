@@ -13,6 +13,7 @@
 #include "Editor/model/FileText.h"
 #include "Editor/script/Script.h"
 #include "Editor/script/ScriptFile.h"
+#include "Editor/services/LeftTransfers.h"
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/window/MessageBox.h"
 
@@ -143,6 +144,7 @@ int main(int argc, char* argv[])
         line.folder = editor::DefaultFolder();
     std::signal(SIGXFSZ, SIG_IGN); // a file that would be too large is an error of its writing, not the program's end
     const editor::EndSignals ending;
+    editor::RemoveLeftTransfers();
 
     const bool bWindow = line.screenshot.empty() && line.script.empty();
     const editor::Display display = bWindow ? editor::FindDisplay() : editor::Display();

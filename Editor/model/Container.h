@@ -37,6 +37,7 @@ public:
     // The line that tells why the member with that identifier could not be removed, until another one is tried: also
     // after changes that succeeded. Empty for one that was not tried.
     std::string WhyItStayed(DWORD dwID) const { return m_stayed.first == dwID ? m_stayed.second : std::string(); }
+    void ForgetWhatStayed() { m_stayed = {}; }
     // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason. For
     // what was read from an archive the container's IMyErrorInfo tells why it is refused, where there is more to be
     // said than that the container does not take such objects.
@@ -98,6 +99,7 @@ private:
     bool IsPresent(const CMember* pMember) const;
     std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name);
     BOOL Note(std::string failure); // FALSE when there is one
+    std::optional<UINT> BringBack(std::string_view name);
     UINT Append(const Entry& entry);
     void Drop(UINT nIndex) noexcept;
     void Tidy();

@@ -3,6 +3,7 @@
 #include "Editor/model/Container.h"
 #include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
+#include "Editor/model/RevocableRemoval.h"
 
 #include <new>
 #include <utility>
@@ -18,6 +19,10 @@ BOOL CContainer::AddAtom(IAtom* pSource, DWORD, const char* pszName, void** ppOu
     if (!pArchived || !pszName)
         return Note(ShownName() + ": only what was read from an archive can be added");
     Members();
+    if (const auto nReturned = BringBack(pszName)) {
+        Note({});
+        return GiveMember(*nReturned, ppOut, dwInterfaceId);
+    }
     Entry added;
     // A copy comes under the name that it has just been given here, a move under its own.
     const bool bCopied = std::exchange(m_validName, {}) == pszName;
@@ -46,15 +51,20 @@ BOOL CContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, 
 
 BOOL CContainer::RemoveAtom(IAtom* pAtom)
 {
-    const CMember* const pMember = CMember::Of(pAtom);
+    CMember* const pMember = CMember::Of(pAtom);
     if (!IsPresent(pMember))
         return Note(ShownName() + ": the object to be removed is not there any more");
-    if (!Note(Remove(*pMember))) {
+    RevocableRemoval* const pRevocable = RevocableRemoval::Current();
+    if (pRevocable)
+        pRevocable->Begin(*pMember, KindOf(*pMember));
+    const bool bRemoved = Note(Remove(*pMember));
+    if (pRevocable)
+        pRevocable->End(bRemoved);
+    if (bRemoved)
+        Drop(pMember->Index());
+    else
         m_stayed = {pAtom->GetID(), m_failure};
-        return FALSE;
-    }
-    Drop(pMember->Index());
-    return TRUE;
+    return bRemoved;
 }
 
 DWORD CContainer::GetPermissions(IAtom* pAtom)
@@ -103,6 +113,25 @@ UINT CContainer::Append(const Entry& entry)
         if (const UINT nStale = FindName(table, entry.name); nStale != MemberTable::kNone)
             Drop(nStale);
     return table.Append(entry.name, entry.kind, Context().nextId++);
+}
+
+// The index of what has come back instead of being made anew.
+std::optional<UINT> CContainer::BringBack(std::string_view name)
+{
+    RevocableRemoval* const pRevocable = RevocableRemoval::Current();
+    const auto returned = pRevocable ? pRevocable->BringBack(*this, name) : std::nullopt;
+    if (!returned)
+        return std::nullopt;
+    if (!returned->pMember) {
+        ReadAgain();
+        return returned->nLine;
+    }
+    CMember& member = *returned->pMember.Get();
+    const UINT nIndex = Append({std::string(name), returned->kind});
+    m_pContents->table.Identify(nIndex, returned->dwID, &member);
+    m_pContents->gone.erase(&member);
+    member.m_nIndex = nIndex;
+    return nIndex;
 }
 
 // The disk has changed already: nothing may fail now. Without memory nobody remembers how it was called.

@@ -87,6 +87,7 @@ void MemberTable::Identify(UINT nIndex, DWORD dwID, CMember* pLive)
 {
     m_entries[nIndex].id = dwID;
     m_entries[nIndex].pLive = pLive;
+    m_idOrder.clear();
 }
 
 void MemberTable::NumberTheRest(DWORD& nextId)

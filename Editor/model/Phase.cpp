@@ -224,6 +224,12 @@ std::string CPhase::ReadUnchanged(std::string& text)
     return isSame ? std::string() : "was changed by another program; read it again first";
 }
 
+bool CPhase::ReplaceText(const std::string& former, const std::string& text)
+{
+    std::string now;
+    return ReadUnchanged(now).empty() && now == former && Save(text).empty();
+}
+
 // A library from elsewhere may hold links to anything of the user's: a line among the commands that a shell runs is
 // one.
 std::string CPhase::Save(const std::string& text)

@@ -29,6 +29,9 @@ public:
     // them. Lines whose links were not removed by the end come back. The links are borrowed until then.
     void BeginRemovals(std::vector<const CMember*> links) { m_expected = std::move(links); }
     void EndRemovals();
+    // Writes a text of a phase over what is in the file, provided that this is what it is thought to be, and nothing
+    // that others have written. The members are not read anew.
+    bool ReplaceText(const std::string& former, const std::string& text);
 
     int GetPosition(IImageLink* pLink) override; // from 0; -1 for what is no member
 

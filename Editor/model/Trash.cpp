@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <pwd.h>
 #include <sys/stat.h>
+#include <utility>
 #include <vector>
 
 namespace editor
@@ -25,6 +26,7 @@ constexpr std::string_view kInfoEnding = ".trashinfo";
 constexpr std::size_t kLongestEnding = 15;                        // of a name, that is kept as an extension
 constexpr std::size_t kLongestStem = kLongestName - 15 - 10 - 10; // leaves room for an extension, a number, the above
 int g_nAllowed = 0, g_nMissed = 0;
+TrashPlace g_trashed;
 
 // One trash; what lies on another file system than it cannot be moved there.
 struct Trash
@@ -165,6 +167,7 @@ std::string InfoFor(const Trash& trash, const std::string& path)
 int PutInto(const Trash& trash, const std::string& path, const std::string& name)
 {
     const std::string info = trash.path + "/info/" + name + std::string(kInfoEnding);
+    TrashPlace place{trash.path, name};
     FileHandle handle(open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!handle)
         return errno;
@@ -175,6 +178,8 @@ int PutInto(const Trash& trash, const std::string& path, const std::string& name
         error = RenameWithoutReplacing(AT_FDCWD, path, AT_FDCWD, trash.path + "/files/" + name);
     if (error != 0)
         unlink(info.c_str());
+    else
+        g_trashed = std::move(place);
     return error;
 }
 
@@ -232,6 +237,25 @@ TrashResult MoveToTrash(const std::string& path)
     if (failure != 0)
         return {"not removed, the trash cannot be made: " + SystemErrorText(failure), false};
     return {"not removed, there is no trash on its file system", true};
+}
+
+TrashPlace TakeTrashed()
+{
+    return std::exchange(g_trashed, {});
+}
+
+void ForgetTrashed()
+{
+    g_trashed = {};
+}
+
+int TakeFromTrash(const TrashPlace& place, const std::string& path)
+{
+    const std::string info = place.trash + "/info/" + place.name + std::string(kInfoEnding);
+    const int error = RenameWithoutReplacing(AT_FDCWD, place.trash + "/files/" + place.name, AT_FDCWD, path);
+    if (error == 0)
+        unlink(info.c_str());
+    return error;
 }
 
 PermanentRemoval::PermanentRemoval()

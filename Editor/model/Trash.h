@@ -18,6 +18,16 @@ struct TrashResult
 };
 TrashResult MoveToTrash(const std::string& path);
 
+// Where something is in a trash.
+struct TrashPlace
+{
+    std::string trash, name; // empty: nowhere
+};
+TrashPlace TakeTrashed(); // of what was moved to a trash last, told once
+void ForgetTrashed();
+// Moves it back, and leaves nothing of it in the trash. The error number; EEXIST when the path is taken.
+int TakeFromTrash(const TrashPlace& place, const std::string& path);
+
 // What cannot be moved to a trash is refused, unless the user has agreed to lose it: while one of these lives, such
 // things are removed for good. A command that has asked the user about just that makes one; cutting and dragging do
 // not.

@@ -56,17 +56,25 @@ std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
     return line.empty() ? std::move(otherwise) : line;
 }
 
-// The container's own error may be that of a change since: what else had been cut is put back.
+void ForgetWhatStayed(const ActiveMembers& members)
+{
+    for (const ActiveMember& member : members)
+        if (auto* const pContainer = dynamic_cast<CContainer*>(member.pContainer.Get()))
+            pContainer->ForgetWhatStayed();
+}
+
+// The container's own error may be that of a change since: what else had been cut is put back, and is there as well.
 std::string WhyStillThere(const ActiveMembers& members)
 {
     for (const ActiveMember& member : members) {
         if (!member.IsThere())
             continue;
         const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
-        const std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
-        if (reason.empty() && !(member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE))
+        if (std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
+            !reason.empty())
+            return reason;
+        if (!(member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE))
             return ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
-        return reason;
     }
     return {};
 }

@@ -37,7 +37,9 @@ private:
 std::string ShownNameOf(IAtom* pAtom);
 // What the container says went wrong last, in one line.
 std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise);
-// The reason for the first one that is still where it was; empty when none is, or when nobody has tried to remove it.
+// Before they are removed: reasons of former commands do not count.
+void ForgetWhatStayed(const ActiveMembers& members);
+// The reason for the first one that could not be removed; empty when all went, or nobody has tried to remove them.
 std::string WhyStillThere(const ActiveMembers& members);
 
 } // namespace editor

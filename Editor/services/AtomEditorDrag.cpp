@@ -79,6 +79,7 @@ BOOL CAtomEditor::EnumMoved(ACTIVEPAIRPROC callback, void* context)
     const std::shared_ptr<Moved> pMoved = m_pMoved;
     pMoved->bRemoving = true;
     const JointRemoval joint(pMoved->members);
+    ForgetWhatStayed(pMoved->members);
     BOOL bAll = TRUE;
     for (const ActiveMember& member : pMoved->members)
         bAll = callback(member.pAtom.Get(), member.pContainer.Get(), context) && bAll;

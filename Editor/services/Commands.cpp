@@ -1,6 +1,7 @@
 #include "Editor/services/Commands.h"
 
 #include "Editor/model/FileText.h"
+#include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Toolkit/base/Exception.h"
@@ -8,6 +9,7 @@
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
 
+#include <set>
 #include <utility>
 
 namespace editor
@@ -70,6 +72,15 @@ CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
     return pArchive;
 }
 
+std::vector<CMember*> OwnOf(const ActiveMembers& members)
+{
+    std::vector<CMember*> own;
+    for (const ActiveMember& member : members)
+        if (CMember* const pMember = CMember::Of(member.pAtom.Get()))
+            own.push_back(pMember);
+    return own;
+}
+
 } // namespace
 
 int Commands::CountSelected() const
@@ -104,6 +115,7 @@ try {
     return e.GetErrorMessage();
 }
 
+// What a refused cut puts back are the objects themselves. They are shown in their places again, not behind all others.
 std::string Commands::Cut()
 try {
     const ActiveMembers members = GetActiveMembers(m_editor);
@@ -111,14 +123,26 @@ try {
         return kNothingSelected;
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
+    const RevocableRemoval revocable(OwnOf(members));
+    ForgetWhatStayed(members);
     if (CopyObjects(TRUE))
         return {};
-    if (!m_editor.GetArchiveError().empty())
-        return m_editor.GetArchiveError();
     std::string reason = WhyStillThere(members);
+    if (!reason.empty())
+        TellOfChange(members);
+    if (!m_editor.GetArchiveError().empty()) // nothing was tried then, or not all came back
+        reason += (reason.empty() ? "" : "; ") + m_editor.GetArchiveError();
     return reason.empty() ? NoFile(kNoFile) : reason;
 } catch (const CException& e) {
     return e.GetErrorMessage();
+}
+
+void Commands::TellOfChange(const ActiveMembers& members)
+{
+    std::set<IAtomContainer*> told;
+    for (const ActiveMember& member : members)
+        if (told.insert(member.pContainer.Get()).second)
+            m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, member.pContainer.Get(), 0);
 }
 
 std::string Commands::Remove()
@@ -127,6 +151,7 @@ try {
     if (members.empty())
         return kNothingSelected;
     const JointRemoval joint(members);
+    ForgetWhatStayed(members);
     RemoveObjects(FALSE);
     return WhyStillThere(members);
 } catch (const CException& e) {

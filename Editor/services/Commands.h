@@ -42,6 +42,7 @@ public:
     std::string Rename(CMember* pMember, const std::string& name);
 
 private:
+    void TellOfChange(const ActiveMembers& members); // of the containers that they are in
     std::string PasteAtoms(CContainer* pTarget);
     bool AreFilesOnClipboard(CContainer* pTarget) const;
     std::string PasteClipboardFiles(CContainer* pTarget);

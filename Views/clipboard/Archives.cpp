@@ -5,6 +5,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/ole/StgMedium.h"
+#include "Views/clipboard/FileArchive.h"
 #include "Views/clipboard/FileHandle.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IMemoryStream.h"
@@ -74,8 +75,9 @@ bool ReadWhole(HANDLE hFile, IByteStream* pStream)
     return pData && ::ReadFile(hFile, pData, dwSize, &dwRead, nullptr) && dwRead == dwSize;
 }
 
-// Nothing for a handle that cannot be locked. A block without a terminating zero is used to its end.
-std::optional<CString> PathIn(void* hGlobal)
+} // namespace
+
+std::optional<CString> views::PathIn(void* hGlobal)
 {
     const toolkit::GlobalLocker<const char> block(hGlobal);
     if (!block.Get())
@@ -84,7 +86,27 @@ std::optional<CString> PathIn(void* hGlobal)
     return CString(std::string_view(block.Get(), std::find(block.Get(), pEnd, '\0')));
 }
 
-} // namespace
+views::FileArchive views::ReadTransferFile(const char* pszPath)
+{
+    Parts parts = MakeParts();
+    if (!parts)
+        return {};
+    const FileHandle file(::CreateFile(pszPath, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
+    if (!file || !ReadWhole(file.Get(), parts.pStream.Get()))
+        return {};
+    FileArchive read{CStubRef<IByteStream>::Share(parts.pStream.Get()), nullptr};
+    read.pArchive = CStubRef<IArchive>::Adopt(parts.Join());
+    return read;
+}
+
+CStubRef<IArchive> views::ArchiveOver(const CStubRef<IByteStream>& pStream)
+{
+    pStream->Seek(0, 0);
+    auto pArchive = MakeArchive();
+    if (pArchive)
+        pArchive->SetStream(pStream.Get());
+    return pArchive;
+}
 
 IArchive* ConstructMemoryArchive()
 {
@@ -94,19 +116,13 @@ IArchive* ConstructMemoryArchive()
 
 IArchive* ArchiveFromFile(const char* lpszPath)
 {
-    Parts parts = MakeParts();
-    if (!parts)
-        return nullptr;
-    const views::FileHandle file(::CreateFile(lpszPath, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file || !ReadWhole(file.Get(), parts.pStream.Get()))
-        return nullptr;
-    return parts.Join();
+    return views::ReadTransferFile(lpszPath).pArchive.Detach();
 }
 
 // Without memory for the path there is no archive either.
 IArchive* ArchiveFromHGLOBAL(void* hGlobal)
 try {
-    const std::optional<CString> path = PathIn(hGlobal);
+    const std::optional<CString> path = views::PathIn(hGlobal);
     return path ? ArchiveFromFile(*path) : nullptr;
 } catch (const CMemoryException&) {
     return nullptr;

@@ -17,9 +17,9 @@ inline constexpr DWORD PASTE_ANY = 0xFFFFFFFF; // with whatever effect the user 
 // Puts the active atoms on the clipboard, under the editor's format, as the path handle of a new transfer file, which
 // goes when the clipboard lets go of it. With bCut they are then removed from their containers.
 //
-// FALSE, and the clipboard is as it was, when nothing could be written or some atom may not be removed. A cut that is
-// refused part-way puts back what it had removed: as new atoms, since the old ones are gone. Whatever the toolkit
-// raises when the clipboard cannot be had passes to the caller.
+// FALSE, and the clipboard is as it was, when nothing could be written or some atom may not be removed. A cut that does
+// not come about puts back what it had removed: each into its container again, as what AddAtom makes of it, since the
+// old atoms are gone. Whatever the toolkit raises when the clipboard cannot be had passes to the caller.
 VIEWS_API int CopyObjects(int bCut);
 
 // Adds the archive's atoms to the container: under their own names when they are being moved, else each under a valid

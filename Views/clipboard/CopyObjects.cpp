@@ -43,43 +43,68 @@ TransferHandle::~TransferHandle()
     ::GlobalFree(m_hPath);
 }
 
-struct ReleaseReference
+// Lets go of an owner that is to dispose of nothing.
+struct Abandon
 {
-    void operator()(IUnknown* p) const { p->Release(); }
+    void operator()(CTransferFileOwner* pOwner) const
+    {
+        pOwner->Detach();
+        pOwner->Release();
+    }
 };
-using OwnerHolder = std::unique_ptr<CTransferFileOwner, ReleaseReference>;
 
-// All or nothing: what is not cut as a whole is not cut.
-bool Cut(IAtomEditor* pEditor, IArchive* pArchive)
+// A copy's data, all of it made before anything is removed. What does not get to the clipboard goes again, and the
+// handle stays whose it was.
+class ClipboardData
 {
-    views::RemovedAtoms removed;
-    const bool bAll = removed.RemoveActive(pEditor);
-    if (!bAll)
-        removed.PutBack(pEditor, pArchive);
-    removed.Announce(pEditor);
-    return bAll;
-}
+public:
+    ClipboardData(TransferHandle& handle, CLIPFORMAT cfAtoms);
+    ClipboardData(const ClipboardData&) = delete;
+    ClipboardData& operator=(const ClipboardData&) = delete;
 
-OwnerHolder OwnerOf(TransferHandle& handle)
-{
-    OwnerHolder pOwner(new CTransferFileOwner(handle.Get()));
-    handle.Detach();
-    return pOwner;
-}
+    void PutOnClipboard();
 
-void PutOnClipboard(CLIPFORMAT cfAtoms, TransferHandle& handle)
+private:
+    TransferHandle& m_handle;
+    std::unique_ptr<COleDataSource> m_pSource = std::make_unique<COleDataSource>();
+    std::unique_ptr<CTransferFileOwner, Abandon> m_pOwner; // shared with the data source
+};
+
+ClipboardData::ClipboardData(TransferHandle& handle, CLIPFORMAT cfAtoms)
+    : m_handle(handle), m_pOwner(new CTransferFileOwner(handle.Get()))
 {
     STGMEDIUM medium{};
     medium.tymed = TYMED_HGLOBAL;
     medium.hGlobal = handle.Get();
-    OwnerHolder pOwner = OwnerOf(handle);
-    medium.pUnkForRelease = pOwner.get();
+    medium.pUnkForRelease = m_pOwner.get();
+    m_pSource->CacheData(cfAtoms, &medium);
+    m_pOwner->AddRef();
+}
 
-    auto pSource = std::make_unique<COleDataSource>();
-    pSource->CacheData(cfAtoms, &medium);
-    pOwner.release(); // the data source's now
+void ClipboardData::PutOnClipboard()
+{
     COleDataSource::FlushClipboard();
-    pSource.release()->SetClipboard(); // the clipboard's now, also if this raises something
+    m_handle.Detach();
+    m_pOwner.release()->Release();
+    m_pSource.release()->SetClipboard(); // the clipboard's now, also if this raises something
+}
+
+// All or nothing: what is not cut as a whole is not cut.
+bool CutToClipboard(IAtomEditor* pEditor, IArchive* pArchive, ClipboardData& data)
+{
+    views::RemovedAtoms removed;
+    try {
+        if (!removed.RemoveActive(pEditor)) {
+            removed.PutBack(pEditor, pArchive);
+            return false;
+        }
+        removed.Announce(pEditor);
+        data.PutOnClipboard();
+        return true;
+    } catch (...) {
+        removed.PutBack(pEditor, pArchive);
+        throw;
+    }
 }
 
 } // namespace
@@ -94,8 +119,11 @@ int CopyObjects(int bCut)
     if (!pArchive || !pEditor->WriteActiveObjects(pArchive.Get()))
         return FALSE;
     TransferHandle handle(HGLOBALFromArchive(pArchive.Get()));
-    if (!handle || (bCut && !Cut(pEditor.Get(), pArchive.Get())))
+    if (!handle)
         return FALSE;
-    PutOnClipboard(pEditor->GetClipboardFormat(), handle);
+    ClipboardData data(handle, pEditor->GetClipboardFormat());
+    if (bCut)
+        return CutToClipboard(pEditor.Get(), pArchive.Get(), data);
+    data.PutOnClipboard();
     return TRUE;
 }

@@ -1,12 +1,12 @@
 #include "Views/clipboard/Drags.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Views/clipboard/Archives.h"
 #include "Views/clipboard/Commands.h"
+#include "Views/clipboard/FileArchive.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 
-#include <cstring>
+#include <sys/stat.h>
 #include <utility>
 
 namespace
@@ -41,37 +41,40 @@ CLIPFORMAT views::AtomFormat()
     return pEditor ? pEditor->GetClipboardFormat() : CLIPFORMAT{0};
 }
 
-// Asked before it is read: what changes under the reading is then found out at the next look.
-std::optional<views::DraggedAtoms::File> views::DraggedAtoms::FileBehind(HGLOBAL hPath)
-try {
-    const toolkit::GlobalLocker<const char> block(hPath);
-    if (!block.Get())
+std::optional<views::DraggedAtoms::File> views::DraggedAtoms::FileAt(const char* pszPath)
+{
+    struct stat status;
+    if (::stat(pszPath, &status) != 0)
         return std::nullopt;
-    File file;
-    file.path.assign(block.Get(), strnlen(block.Get(), GlobalSize(hPath)));
-    std::error_code error;
-    file.nSize = std::filesystem::file_size(file.path, error);
-    if (!error)
-        file.changed = std::filesystem::last_write_time(file.path, error);
-    return error ? std::nullopt : std::optional(std::move(file));
-} catch (const CMemoryException&) {
-    return std::nullopt;
+    return File{status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size), status.st_ctim.tv_sec,
+                status.st_ctim.tv_nsec};
+}
+
+// The file is asked about before it is read: what changes under the reading is then found out at the next look. A
+// stream that a host has made longer or shorter is no longer what the file holds.
+CStubRef<IArchive> views::DraggedAtoms::ArchiveOf(const char* pszPath)
+{
+    const std::optional<File> file = FileAt(pszPath);
+    if (m_pStream && file && file == m_file && m_pStream->GetLength() == file->size)
+        return ArchiveOver(m_pStream);
+    Forget();
+    FileArchive read = ReadTransferFile(pszPath);
+    m_pStream = std::move(read.pStream);
+    m_file = file;
+    return std::move(read.pArchive);
 }
 
 views::DraggedAtoms::Look views::DraggedAtoms::LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms)
-{
+try {
     const Medium medium(pData, cfAtoms);
     if (medium.Get().tymed != TYMED_HGLOBAL) {
         Forget();
         return {};
     }
-    std::optional<File> file = FileBehind(medium.Get().hGlobal);
-    if (!m_pArchive || !file || file != m_file) {
-        Forget();
-        m_pArchive = CStubRef<IArchive>::Adopt(::ArchiveFromStgMedium(medium.Get()));
-        m_file = std::move(file);
-    }
-    return {true, CStubRef<IArchive>::Share(m_pArchive.Get())};
+    const std::optional<CString> path = PathIn(medium.Get().hGlobal);
+    return {true, path ? ArchiveOf(*path) : nullptr};
+} catch (const CMemoryException&) {
+    return {true};
 }
 
 CStubRef<IArchive> views::DraggedAtoms::TakeFrom(COleDataObject* pData, CLIPFORMAT cfAtoms)
@@ -84,5 +87,5 @@ CStubRef<IArchive> views::DraggedAtoms::TakeFrom(COleDataObject* pData, CLIPFORM
 void views::DraggedAtoms::Forget()
 {
     m_file.reset();
-    m_pArchive.Release();
+    m_pStream.Release();
 }

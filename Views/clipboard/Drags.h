@@ -6,9 +6,7 @@
 #include "Views/host/StubRef.h"
 
 #include <cstdint>
-#include <filesystem>
 #include <optional>
-#include <string>
 
 class IAtomEditor;
 
@@ -25,8 +23,8 @@ CLIPFORMAT AtomFormat();
 // The atoms that the drag over a drop target brings.
 //
 // The data is asked for its medium at every look, as if nothing were known of it, and the medium is given back at once.
-// The transfer file that it leads to is read only when it is another one than at the last look, or another content:
-// a host sees one stream and one archive made for a drag, and the same verdicts as if there were one to each movement.
+// Each look makes an archive of its own. The transfer file behind it is read into a stream, which later archives share
+// for as long as it is the same file, unchanged: what a look costs does not depend on how much is dragged.
 class DraggedAtoms
 {
 public:
@@ -37,25 +35,25 @@ public:
     };
 
     Look LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms);
-    // The archive for a drop, after which it is forgotten.
+    // The archive for a drop, after which all else is forgotten.
     CStubRef<IArchive> TakeFrom(COleDataObject* pData, CLIPFORMAT cfAtoms);
     void Forget(); // the drag is over
 
 private:
-    // A file as it was found; none for one that is not there.
+    // A file as it was found: which one it is, and when it was changed last, its attributes included.
     struct File
     {
-        std::string path;
-        std::uintmax_t nSize = 0;
-        std::filesystem::file_time_type changed;
+        std::uint64_t device, inode, size;
+        std::int64_t changed, changedNanoseconds;
 
         friend bool operator==(const File&, const File&) = default;
     };
 
-    static std::optional<File> FileBehind(HGLOBAL hPath);
+    static std::optional<File> FileAt(const char* pszPath);
+    CStubRef<IArchive> ArchiveOf(const char* pszPath);
 
     std::optional<File> m_file;
-    CStubRef<IArchive> m_pArchive; // of that file
+    CStubRef<IByteStream> m_pStream; // that file's bytes
 };
 
 } // namespace views

@@ -1,6 +1,8 @@
 #include "Views/clipboard/RemovedAtoms.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Views/clipboard/Naming.h"
+#include "Views/host/IArchive.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
@@ -9,6 +11,26 @@
 
 namespace views
 {
+namespace
+{
+
+void TellOfLoss(IAtomEditor* pEditor, IAtomContainer* pContainer)
+{
+    pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer, 0);
+}
+
+CStubRef<IAtom> AddAgain(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    CString strName;
+    CStubRef<IAtom> pBack;
+    if (!ReadName(pAtom, &IAtom::GetName, strName))
+        return nullptr;
+    if (!pContainer->AddAtom(pAtom, 0, strName, pBack.Receive(), IID_IAtom) && GetValidName(pAtom, pContainer, strName))
+        pContainer->AddAtom(pAtom, 0, strName, pBack.Receive(), IID_IAtom);
+    return pBack;
+}
+
+} // namespace
 
 BOOL RemovedAtoms::RemoveActive(IAtomEditor* pEditor)
 {
@@ -16,10 +38,10 @@ BOOL RemovedAtoms::RemoveActive(IAtomEditor* pEditor)
 }
 
 // Each call has its place, so that the archive's atoms, which come in the same order, find theirs.
-bool RemovedAtoms::Note(IAtomContainer* pContainer)
+bool RemovedAtoms::AddPlace()
 {
     try {
-        m_containers.push_back(CStubRef<IAtomContainer>::Share(pContainer));
+        m_containers.emplace_back();
         return true;
     } catch (CMemoryException& e) {
         e.ReportError();
@@ -29,56 +51,53 @@ bool RemovedAtoms::Note(IAtomContainer* pContainer)
 
 BOOL RemovedAtoms::RemoveObjectFn(IAtom* pAtom, IAtomContainer* pContainer, void* pContext)
 {
-    if (!pAtom || !pContainer)
+    auto& removed = *static_cast<RemovedAtoms*>(pContext);
+    if (!removed.AddPlace() || !pAtom || !pContainer)
         return FALSE;
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    auto& removed = *static_cast<RemovedAtoms*>(pContext);
-    if (!pEditor || !removed.Note(pContainer))
+    if (!pEditor || !(pContainer->GetPermissions(pAtom) & APF_REMOVE) || !pContainer->RemoveAtom(pAtom))
         return FALSE;
-    if ((pContainer->GetPermissions(pAtom) & APF_REMOVE) && pContainer->RemoveAtom(pAtom))
-        return TRUE;
-    removed.m_containers.back().Release();
-    return FALSE;
-}
-
-IAtomContainer* RemovedAtoms::FirstContainer() const
-{
-    const auto first = std::find_if(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); });
-    return first == m_containers.end() ? nullptr : first->Get();
+    removed.m_containers.back() = CStubRef<IAtomContainer>::Share(pContainer);
+    return TRUE;
 }
 
 void RemovedAtoms::Announce(IAtomEditor* pEditor) const
 {
-    if (IAtomContainer* const pContainer = FirstContainer())
-        pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer, 0);
+    const auto first = std::find_if(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); });
+    if (first != m_containers.end())
+        TellOfLoss(pEditor, first->Get());
 }
 
+// Where the archive stands, whoever wrote it has left it.
 void RemovedAtoms::PutBack(IAtomEditor* pEditor, IArchive* pArchive)
-{
+try {
+    if (std::none_of(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); }))
+        return;
+    for (auto p = m_containers.begin(); p != m_containers.end(); ++p)
+        if (*p && std::find_if(m_containers.begin(), p, [p](const auto& q) { return q.Get() == p->Get(); }) == p)
+            TellOfLoss(pEditor, p->Get());
     m_nRead = 0;
-    if (FirstContainer())
-        pEditor->ReadArchive(&PutBackFn, pArchive, this);
+    pArchive->Seek(0, 0);
+    pEditor->ReadArchive(&PutBackFn, pArchive, this);
+} catch (CException& e) {
+    e.ReportError();
 }
 
-// An atom that is there did not go, whatever its place says.
 BOOL RemovedAtoms::PutBackFn(IAtom* pAtom, void* pContext)
-try {
+{
     auto& removed = *static_cast<RemovedAtoms*>(pContext);
     if (removed.m_nRead >= removed.m_containers.size())
         return FALSE;
     IAtomContainer* const pContainer = removed.m_containers[removed.m_nRead++].Get();
-    CString strName;
-    CStubRef<IAtom> pPresent, pBack;
-    if (!pContainer || !ReadName(pAtom, &IAtom::GetName, strName) ||
-        pContainer->FindAtom(strName, pPresent.Receive(), IID_IAtom) ||
-        !pContainer->AddAtom(pAtom, 0, strName, pBack.Receive(), IID_IAtom))
-        return TRUE;
-    if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
-        pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnCreateAtom, pBack.Get(), pContainer, 0);
+    try {
+        const CStubRef<IAtom> pBack = pContainer ? AddAgain(pAtom, pContainer) : nullptr;
+        const auto pEditor = CStubRef<IAtomEditor>::Adopt(pBack ? GetAtomEditor() : nullptr);
+        if (pEditor)
+            pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnCreateAtom, pBack.Get(), pContainer, 0);
+    } catch (CException& e) {
+        e.ReportError(); // the others may still find their way
+    }
     return TRUE;
-} catch (CMemoryException& e) {
-    e.ReportError();
-    return TRUE; // the others may still find their way
 }
 
 } // namespace views

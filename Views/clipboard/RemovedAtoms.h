@@ -24,15 +24,15 @@ public:
     BOOL RemoveActive(IAtomEditor* pEditor);
     // Tells every view that members of the first container that lost some are gone; nothing when none did.
     void Announce(IAtomEditor* pEditor) const;
-    // Adds the removed ones again, from the archive that the active atoms were written into before. Every view
-    // is told of each.
+    // Adds the removed ones again, from the archive that the active atoms were written into before: under their own
+    // names or, where that is refused, under valid ones. Every view is told first of each container that lost some,
+    // then of each that is back. Errors are reported; what can come back does.
     void PutBack(IAtomEditor* pEditor, IArchive* pArchive);
 
 private:
     static BOOL RemoveObjectFn(IAtom* pAtom, IAtomContainer* pContainer, void* pContext);
     static BOOL PutBackFn(IAtom* pAtom, void* pContext);
-    bool Note(IAtomContainer* pContainer);
-    IAtomContainer* FirstContainer() const; // that lost an atom; NULL when none did
+    bool AddPlace();
 
     // For each active atom in turn the container that it was removed from; empty for one that stayed.
     std::vector<CStubRef<IAtomContainer>> m_containers;

@@ -3,11 +3,14 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Files.h"
 #include "Views/clipboard/Archives.h"
+#include "Views/clipboard/HeldFiles.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
+
+#include <utility>
 
 namespace
 {
@@ -28,6 +31,19 @@ try {
 }
 
 } // namespace
+
+CTransferFileOwner::CTransferFileOwner(HGLOBAL hPath) : m_hPath(hPath)
+{
+    const toolkit::GlobalLocker<const char> path(hPath);
+    if (path.Get())
+        views::HoldFile(hPath, path.Get());
+}
+
+HGLOBAL CTransferFileOwner::Detach()
+{
+    views::LetGoOfFile(m_hPath);
+    return std::exchange(m_hPath, nullptr);
+}
 
 HRESULT CTransferFileOwner::QueryInterface(REFIID riid, void** ppvObject)
 {
@@ -63,6 +79,7 @@ void CTransferFileOwner::Dispose() const
     if (pEditor)
         ReleaseObjects(pEditor.Get(), m_hPath);
     ::DeleteFile(pszPath);
+    views::LetGoOfFile(m_hPath);
     ::GlobalUnlock(m_hPath);
     ::GlobalFree(m_hPath);
 }

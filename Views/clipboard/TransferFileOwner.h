@@ -7,11 +7,12 @@
 
 // The releaser of clipboard data: it owns a path handle and its transfer file, and disposes of both when its last
 // reference goes. The editor, if there is one, is handed the file's atoms once more before, each with its reference,
-// which is released.
+// which is released. Until then the file counts as held (HeldFiles.h).
 class VIEWS_API CTransferFileOwner final : public IUnknown
 {
 public:
-    explicit CTransferFileOwner(HGLOBAL hPath) : m_hPath(hPath) {} // takes both over, with one reference
+    explicit CTransferFileOwner(HGLOBAL hPath); // takes both over, with one reference
+    HGLOBAL Detach();                           // gives both back: there is nothing to dispose of
 
     HRESULT QueryInterface(REFIID riid, void** ppvObject) override; // IID_IUnknown alone
     ULONG AddRef() override;
@@ -22,6 +23,6 @@ private:
     void Dispose() const;
 
     std::int32_t m_nReferences = 1;
-    const HGLOBAL m_hPath;
+    HGLOBAL m_hPath;
 };
 static_assert(sizeof(void*) != 4 || sizeof(CTransferFileOwner) == 12);

@@ -48,8 +48,9 @@ public:
     // Drags the active atoms until they are dropped; the effect that was performed. reserved is 0.
     virtual DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) = 0;
     virtual void EditorReserved20() {}
-    // Reads the objects of an archive one after another, always from its first byte on, and hands each to the callback.
-    // FALSE when the bytes are no archive of atoms or the callback refused: what it was handed before stays handed.
+    // Reads the objects of an archive one after another, from where the archive stands, which is its first byte
+    // whenever a view asks, and hands each to the callback. FALSE when the bytes are no archive of atoms or the
+    // callback refused: what it was handed before stays handed.
     //
     // Objects are new ones, in no container. With a context, an object is lent for the call: the editor releases it
     // when the callback has returned, whatever it returned, and a callback that keeps it adds a reference. Without

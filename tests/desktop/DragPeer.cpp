@@ -11,9 +11,12 @@
 #include <QApplication>
 #include <QDropEvent>
 #include <QWidget>
+#include <cstdlib>
 #include <cstring>
+#include <ctime>
 #include <iostream>
 #include <string>
+#include <xcb/xcb.h>
 
 namespace
 {
@@ -127,6 +130,24 @@ private:
     PeerTarget& m_target;
 };
 
+xcb_atom_t Atom(xcb_connection_t* pServer, const char* pszName)
+{
+    const auto cookie = xcb_intern_atom(pServer, 0, static_cast<std::uint16_t>(std::strlen(pszName)), pszName);
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(pServer, cookie, nullptr), &std::free);
+    return reply ? reply->atom : XCB_ATOM_NONE;
+}
+
+// Asks for what is dragged, as file managers do, at a time of their own and not the server's.
+void AskAtAWrongTime(WId window)
+{
+    xcb_connection_t* const pServer = qApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+    xcb_convert_selection(pServer, static_cast<xcb_window_t>(window), Atom(pServer, "XdndSelection"),
+                          Atom(pServer, "TARGETS"), Atom(pServer, "SOME_PROPERTY"),
+                          static_cast<xcb_timestamp_t>(std::time(nullptr)));
+    xcb_flush(pServer);
+}
+
 class ForeignWnd : public QWidget
 {
 public:
@@ -142,7 +163,9 @@ protected:
     void dragEnterEvent(QDragEnterEvent* pEvent) override { pEvent->acceptProposedAction(); }
     void dropEvent(QDropEvent* pEvent) override
     {
-        Say(pEvent->proposedAction() == Qt::CopyAction ? "is to copy" : "is to move");
+        AskAtAWrongTime(winId());
+        const bool bMayMove = pEvent->possibleActions().testFlag(Qt::MoveAction);
+        Say(pEvent->proposedAction() == Qt::MoveAction ? "is to move" : bMayMove ? "may move" : "is to copy");
         pEvent->acceptProposedAction();
     }
 };

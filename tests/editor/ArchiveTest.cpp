@@ -1,8 +1,14 @@
 #include "Editor/archive/ArchiveReader.h"
+#include "Editor/services/Commands.h"
+#include "Editor/services/LeftTransfers.h"
 #include "Kernel/Kernel.h"
+#include "Views/clipboard/TransferFileOwner.h"
+#include "Views/clipboard/clipboard.h"
 #include "fuzz/ArchiveCheck.h"
 #include "tests/editor/ArchiveFixture.h"
 
+#include <algorithm>
+#include <chrono>
 #include <sys/stat.h>
 
 namespace
@@ -212,6 +218,54 @@ TEST_F(ArchiveTest, AnObjectIsLentToACallbackWithAContextAndGivenToOneWithout)
     EXPECT_FALSE(editor.ReadArchive([](IAtom*, void* p) -> BOOL { return ++*static_cast<int*>(p) < 1; }, pArchive.Get(),
                                     &nCalls));
     EXPECT_EQ(1, nCalls) << "nothing is read after a refusal";
+}
+
+TEST_F(ArchiveTest, LinesOfAPhaseComeBackToTheirPlacesWhenTheCutIsRefused)
+{
+    const char* const pszText = "# first\na.bmp\n# second\nb.bmp\na.bmp\n";
+    folder.Make("a.bmp b.bmp data/");
+    folder.Write("walk.phase", pszText);
+    Open();
+    trash.Point(folder.At("data")); // which cannot go into itself
+    const auto pPhase = Container("walk.phase");
+    std::vector<CStubRef<IAtom>> held;
+    for (const UINT nLine : {2u, 0u, 1u})
+        held.push_back(At(pPhase.Get(), nLine));
+    held.push_back(Find("data"));
+    Copy({held[0].Get(), held[1].Get(), held[2].Get(), held[3].Get()});
+    EXPECT_EQ("data: invalid argument", editor::Commands(editor).Cut());
+    EXPECT_EQ(pszText, folder.Read("walk.phase"));
+    EXPECT_EQ("[a.bmp> b.bmp> a.bmp>]", Members("walk.phase"));
+}
+
+TEST_F(ArchiveTest, OnlyTransferFilesThatNobodyHoldsAnyMoreAreRemoved)
+{
+    const TempFolder temp;
+    setenv("TEMP", temp.Path().c_str(), 1);
+    folder.Make("a.bmp");
+    Open();
+    const auto pArchive = Copy("", {"a.bmp"});
+    const auto make = [&](bool bOld) {
+        const std::string path = FileFromArchive(pArchive.Get()).GetString();
+        if (bOld)
+            std::filesystem::last_write_time(path,
+                                             std::filesystem::file_time_type::clock::now() - std::chrono::minutes(2));
+        return path;
+    };
+    const std::string left = make(true), another = make(true);
+    make(false);
+    temp.Write("AEnotes", pArchive ? BytesOf(pArchive.Get()) : "");
+    std::filesystem::permissions(another, std::filesystem::perms(0644));
+    void* const hPath = HGLOBALFromArchive(pArchive.Get());
+    std::filesystem::last_write_time(static_cast<const char*>(GlobalLock(hPath)),
+                                     std::filesystem::file_time_type::clock::now() - std::chrono::minutes(2));
+    GlobalUnlock(hPath);
+    auto* const pOwner = new CTransferFileOwner(hPath);
+    editor::RemoveLeftTransfers();
+    EXPECT_FALSE(std::filesystem::exists(left));
+    EXPECT_EQ(4, std::ranges::count(temp.Everything(), 'A'));
+    pOwner->Release();
+    unsetenv("TEMP");
 }
 
 } // namespace

@@ -230,4 +230,30 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     EXPECT_EQ(Ledger({"Nothing was cut: no file can be made for it: no such file or directory"}), TakeBoxes());
 }
 
+TEST_F(CommandsTest, WhatARefusedCutHadTakenIsThereAgainAsItWas)
+{
+    folder.WriteBmp("Bo/a.bmp");
+    folder.Link("Bo/b.bmp", "a.bmp");
+    folder.Write("Bo/c.phase", "#delay 80\n");
+    folder.MakeFolder("Bo/data/Trash/files"); // what holds the trash itself cannot go
+    folder.MakeFolder("Bo/data/Trash/info");
+    trash.Point(folder.At("Bo/data"));
+    Open();
+    DoubleClick("Bo");
+    Click("c.phase");
+    Press(VK_F4);
+    desktop.Type("7");
+    Press(VK_RETURN);
+    ::SetFocus(List());
+    const std::string before = folder.Everything();
+    Control('A');
+    Control('X');
+    EXPECT_EQ(Ledger({"Nothing was cut: data: invalid argument"}), TakeBoxes());
+    EXPECT_EQ(before, folder.Everything());
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.At("Bo/b.bmp")));
+    EXPECT_EQ("[(a.bmp) (b.bmp) (c.phase) (data)]", Rows());
+    Control('S');
+    EXPECT_EQ("#delay 7\n", folder.Read("Bo/c.phase")) << "what was not saved is not forgotten";
+}
+
 } // namespace

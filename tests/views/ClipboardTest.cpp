@@ -6,11 +6,13 @@
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/ole/DataObject.h"
 #include "Toolkit/ole/DataSource.h"
+#include "Toolkit/ole/OleException.h"
 #include "Toolkit/window/MessageBox.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/views/InteractionTest.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace
@@ -88,10 +90,10 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
     editor.TakeLedger();
 
     EXPECT_FALSE(CopyObjects(TRUE));
-    EXPECT_EQ(
-        Ledger({"writes 3", "enumerates", "box permits a", "box removes a", "bag permits d", "reads", "box finds a",
-                "box adds a as a", "nobody tells OnCreateAtom(a in box)", "nobody tells OnDeleteAtom(- in box)"}),
-        editor.TakeLedger());
+    EXPECT_EQ(Ledger({"writes 3", "enumerates", "box permits a", "box removes a", "bag permits d",
+                      "nobody tells OnDeleteAtom(- in box)", "reads", "box adds a as a",
+                      "nobody tells OnCreateAtom(a in box)"}),
+              editor.TakeLedger());
     EXPECT_EQ("b c a / d e", Members(pBox) + " / " + Members(pBag));
     EXPECT_EQ("c\n", OnClipboard());
     EXPECT_EQ(kept, folder.Everything());
@@ -108,6 +110,56 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
     editor.TakeLedger();
     EXPECT_FALSE(CopyObjects(TRUE)); // nothing went, so nothing is told
     EXPECT_EQ(Ledger({"writes 1", "enumerates", "bag permits d"}), editor.TakeLedger());
+}
+
+TEST_F(ClipboardTest, WhatACutCannotKeepComesBackToItsOwnPlace)
+{
+    editor.readsOn = true;
+    pBox->Add("a"); // a namesake
+    Activate({{pBox, "a"}, {pBag, "d"}});
+    editor.pairs.insert(editor.pairs.begin() + 1, {CStubRef<IAtom>::Share(pBag->Named("e")), {}}); // in no container
+    editor.goesOnAfterRefusal = true;
+    editor.TakeLedger();
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_EQ("b c a a / e d", Members(pBox) + " / " + Members(pBag));
+    EXPECT_EQ(1, std::ranges::count(editor.TakeLedger(), "nobody tells OnDeleteAtom(- in bag)"))
+        << "each that lost some";
+
+    Activate({{pBag, "d"}, {pBag, "e"}});
+    pBag->permissionsFor["e"] = 0;
+    pBag->refused = {"adds d as d"}; // its name is taken meanwhile
+    pBag->onCall = [&](const std::string& strCall) {
+        if (strCall == "removes d")
+            pBag->Add("d");
+    };
+    EXPECT_FALSE(CopyObjects(TRUE));
+    EXPECT_EQ("e d d (2)", Members(pBag));
+}
+
+TEST_F(ClipboardTest, ACutAtomIsInItsContainerOrOnTheClipboardWhateverFails)
+{
+    pBox->pLedger = nullptr;
+    const auto cut = [&] {
+        try {
+            CopyObjects(TRUE);
+        } catch (const CException&) {
+        }
+    };
+    const auto check = [&] {
+        EXPECT_NE(pBox->Named("a") != nullptr, OnClipboard() == "a\n");
+        EXPECT_EQ(OnClipboard() == "a\n" ? 1 : 0, CountFiles());
+        desktop.TakeMessageBoxes();
+        EmptyClipboard();
+        if (!pBox->Named("a"))
+            pBox->Add("a");
+        Activate({{pBox, "a"}});
+    };
+    Activate({{pBox, "a"}});
+    FailEveryAllocation(cut, check);
+    desktop.RefuseClipboard(true);
+    EXPECT_THROW(CopyObjects(TRUE), COleException);
+    desktop.RefuseClipboard(false);
+    check();
 }
 
 TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAndTheAtomsAsTheyWere)

@@ -35,6 +35,7 @@ ArchiveRef Holding(const std::string& bytes)
 {
     auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
     SetBytes(pArchive.Get(), bytes);
+    pArchive->Seek(0, 0);
     return pArchive;
 }
 

@@ -6,6 +6,7 @@
 #include "tests/kernel/FakeService.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 class FakeStream final : public FakeCounted<IByteStream>, public IMemoryStream
@@ -17,6 +18,10 @@ public:
     DWORD GetLength() override { return static_cast<DWORD>(m_bytes.size()) - 1; }
     void SetEnd() override { m_bytes.resize(m_nPosition + 1); }
     void* GetData() override { return m_bHasBlock ? m_bytes.data() : nullptr; }
+    std::string ReadOn()
+    {
+        return {m_bytes.data() + std::exchange(m_nPosition, GetLength()), m_bytes.data() + GetLength()};
+    }
 
 private:
     std::vector<char> m_bytes = std::vector<char>(1); // and one more, so that there is a block without bytes, too
@@ -32,6 +37,7 @@ public:
     DWORD GetLength() override { return m_pStream->GetLength(); }
     void SetEnd() override { m_pStream->SetEnd(); }
     void* GetData() override { return m_pStream->GetData(); }
+    std::string ReadOn() { return dynamic_cast<FakeStream&>(*m_pStream.Get()).ReadOn(); } // which leaves it at its end
 
 private:
     void* Find(DWORD id) override { return id == IID_IArchive ? static_cast<IArchive*>(this) : nullptr; }

@@ -422,7 +422,7 @@ BOOL FakeEditor::WriteActiveObjects(IArchive* archive)
 BOOL FakeEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
 {
     ledger.push_back("reads");
-    std::istringstream names(BytesOf(archive));
+    std::istringstream names(readsOn ? dynamic_cast<FakeArchive&>(*archive).ReadOn() : BytesOf(archive));
     for (std::string strName; std::getline(names, strName);) {
         auto pAtom = AtomRef::Adopt(new FakeAtom(strName));
         FakeAtom* const pObject = context ? pAtom.Get() : pAtom.Detach(); // the callback's without a context

@@ -151,6 +151,7 @@ public:
     CStubRef<IAtom> active;
     std::vector<views::HeldPair> pairs; // active, as EnumActivePairs and WriteActiveObjects take them
     bool goesOnAfterRefusal = false;    // EnumActivePairs
+    bool readsOn = false;               // archives are read from where they stand, and then at their end
     CLIPFORMAT format = 0;
     IAEStateHandler* pSelected = nullptr; // whose atoms are dragged
     HWND hMain = nullptr;
