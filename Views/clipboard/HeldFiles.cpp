@@ -7,10 +7,11 @@
 namespace
 {
 
-// The descriptors that bear the locks.
+// The descriptors that bear the locks. Stays to the end of the process: what is on the clipboard may go later than any
+// object with a destructor.
 std::map<HGLOBAL, int>& Held()
 {
-    static std::map<HGLOBAL, int> held;
+    static auto& held = *new std::map<HGLOBAL, int>;
     return held;
 }
 
