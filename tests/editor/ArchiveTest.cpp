@@ -235,7 +235,7 @@ TEST_F(ArchiveTest, LinesOfAPhaseComeBackToTheirPlacesWhenTheCutIsRefused)
     Copy({held[0].Get(), held[1].Get(), held[2].Get(), held[3].Get()});
     EXPECT_EQ("data: invalid argument", editor::Commands(editor).Cut());
     EXPECT_EQ(pszText, folder.Read("walk.phase"));
-    EXPECT_EQ("[a.bmp> b.bmp> a.bmp>]", Members("walk.phase"));
+    EXPECT_EQ("[a.bmp b.bmp a.bmp]", Members("walk.phase"));
 }
 
 TEST_F(ArchiveTest, OnlyTransferFilesThatNobodyHoldsAnyMoreAreRemoved)

@@ -251,7 +251,7 @@ TEST_F(CommandsTest, WhatARefusedCutHadTakenIsThereAgainAsItWas)
     EXPECT_EQ(Ledger({"Nothing was cut: data: invalid argument"}), TakeBoxes());
     EXPECT_EQ(before, folder.Everything());
     EXPECT_TRUE(std::filesystem::is_symlink(folder.At("Bo/b.bmp")));
-    EXPECT_EQ("[(a.bmp) (b.bmp) (c.phase) (data)]", Rows());
+    EXPECT_EQ("[(a.bmp) (b.bmp) (*c.phase) (data)]", Rows());
     Control('S');
     EXPECT_EQ("#delay 7\n", folder.Read("Bo/c.phase")) << "what was not saved is not forgotten";
 }
