@@ -1,7 +1,6 @@
 #include "QtDesktop/ForeignTimes.h"
 
 #include <QGuiApplication>
-#include <QInputEvent>
 #include <cstring>
 
 namespace qtdesktop
@@ -10,59 +9,61 @@ namespace
 {
 
 constexpr int kTolerance = 60'000; // milliseconds
-constexpr unsigned char kSelectionRequest = 30;
 
-// How such an event begins; the rest does not matter here.
-struct SelectionRequest
+// Events as the server sends them: a press, a release, a movement; a request for a selection, as which dragged data is
+// asked for, too; and one of an extension, of which those of the pointer have numbers that no other one uses.
+constexpr quint8 kFirstPointer = 4, kLastPointer = 6, kSelectionRequest = 30, kExtension = 35;
+
+template <class Number>
+Number NumberAt(const void* pMessage, std::size_t offset)
 {
-    quint8 type; // with the highest bit set when a program has sent it and not the server
-    quint8 unused;
-    quint16 sequence;
-    quint32 time; // 0: none
-};
+    Number number;
+    std::memcpy(&number, static_cast<const char*>(pMessage) + offset, sizeof number);
+    return number;
+}
+
+bool IsPointer(unsigned type)
+{
+    return type >= kFirstPointer && type <= kLastPointer;
+}
 
 } // namespace
 
 ForeignTimes::ForeignTimes()
 {
-    if (QGuiApplication::platformName() != QLatin1String("xcb"))
-        return;
-    qApp->installEventFilter(this);
-    qApp->installNativeEventFilter(this);
+    if (QGuiApplication::platformName() == QLatin1String("xcb"))
+        qApp->installNativeEventFilter(this);
 }
 
 ForeignTimes::~ForeignTimes()
 {
-    qApp->removeNativeEventFilter(this);
-}
-
-bool ForeignTimes::eventFilter(QObject*, QEvent* pEvent)
-{
-    if (!pEvent->isInputEvent())
-        return false;
-    if (const auto time = static_cast<quint32>(static_cast<QInputEvent*>(pEvent)->timestamp()); time != 0) {
-        m_serverTime = time;
-        m_sinceThen.start();
-    }
-    return false;
+    if (qApp)
+        qApp->removeNativeEventFilter(this);
 }
 
 bool ForeignTimes::nativeEventFilter(const QByteArray&, void* pMessage, qintptr*)
 {
-    SelectionRequest request;
-    std::memcpy(&request, pMessage, sizeof request);
-    if ((request.type & 0x7F) == kSelectionRequest && request.time != 0 && IsToCome(request.time)) {
-        request.time = 0;
-        std::memcpy(pMessage, &request, sizeof request);
-    }
+    const auto type = NumberAt<quint8>(pMessage, 0);
+    if (IsPointer(type))
+        NoteTime(NumberAt<quint32>(pMessage, 4));
+    else if (type == kExtension && IsPointer(NumberAt<quint16>(pMessage, 8)))
+        NoteTime(NumberAt<quint32>(pMessage, 12));
+    else if (type == kSelectionRequest && IsToCome(NumberAt<quint32>(pMessage, 4)))
+        std::memcpy(static_cast<char*>(pMessage) + 4, &*m_lastInput, sizeof *m_lastInput);
     return false;
 }
 
-// Times begin anew at 0 after 49 days.
+void ForeignTimes::NoteTime(quint32 time)
+{
+    m_lastInput = time;
+    m_sinceThen.start();
+}
+
+// Times begin anew at 0 after 49 days; 0 is none.
 bool ForeignTimes::IsToCome(quint32 time) const
 {
-    return m_serverTime &&
-           static_cast<qint32>(time - *m_serverTime - static_cast<quint32>(m_sinceThen.elapsed())) > kTolerance;
+    return m_lastInput && time != 0 &&
+           static_cast<qint32>(time - *m_lastInput - static_cast<quint32>(m_sinceThen.elapsed())) > kTolerance;
 }
 
 } // namespace qtdesktop

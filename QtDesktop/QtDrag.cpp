@@ -72,13 +72,13 @@ private:
 
 DROPEFFECT RunQtDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEFFECT allowed, int nMilliseconds)
 {
+    if (QGuiApplication::mouseButtons() == Qt::NoButton)
+        return DROPEFFECT_NONE; // released while the toolkit was still busy with the movement: Qt would drag on without
+                                // it
     DropReceiver receiver(allowed);
     DragOwner owner(data);
     Qt::DropAction told = Qt::IgnoreAction;
     do {
-        if (QGuiApplication::mouseButtons() == Qt::NoButton)
-            return DROPEFFECT_NONE; // released while the toolkit was still busy with the movement: Qt would drag on
-                                    // without it
         const auto pDrag = new QDrag(&owner);
         pDrag->setMimeData(new OfferedMime(data, receiver.GetAddress()));
         s_ownDrop.reset();

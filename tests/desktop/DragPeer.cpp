@@ -135,7 +135,7 @@ xcb_atom_t Atom(xcb_connection_t* pServer, const char* pszName)
     const auto cookie = xcb_intern_atom(pServer, 0, static_cast<std::uint16_t>(std::strlen(pszName)), pszName);
     const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
         xcb_intern_atom_reply(pServer, cookie, nullptr), &std::free);
-    return reply ? reply->atom : XCB_ATOM_NONE;
+    return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 // Asks for what is dragged, as file managers do, at a time of their own and not the server's.
