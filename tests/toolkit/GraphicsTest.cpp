@@ -127,7 +127,6 @@ TEST_F(GraphicsTest, ARowIsBlendedLikeEachOfItsPixels)
     for (toolkit::Pixel alpha = 0; alpha < 256; ++alpha) {
         std::array<toolkit::Pixel, kCount> below, above, pictured, masked, expectedPicture, expectedMask;
         std::array<BYTE, kCount> mask;
-        const auto premultiplied = [](toolkit::Pixel c) { return toolkit::ScalePixel(c | 0xFF000000u, c >> 24); };
         for (unsigned i = 0; i < kCount; ++i) {
             below[i] = premultiplied(0x01020304u * (i * 11 + alpha));
             above[i] = premultiplied(alpha << 24 | 0x0B17F3u * i % 0xFFFFFFu);
