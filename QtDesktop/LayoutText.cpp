@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
+#include <algorithm>
 #include <cmath>
 
 namespace qtdesktop
@@ -63,18 +64,18 @@ void LayoutText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, st
     if (text.size() > kLongestLabel)
         Line(text, m_font).Draw(painter, at + CPoint(0, m_nBaseline), color);
     else
-        PaintLabel(painter, at, text, FindLabel(text), color);
+        painter.drawImage(at.x - m_nRoom, at.y - m_nRoom, FindPicture(text, color));
 }
 
-void LayoutText::PaintLabel(QPainter& painter, CPoint at, std::string_view text, Label& label, COLORREF color)
+const QImage& LayoutText::FindPicture(std::string_view text, COLORREF color)
 {
-    if (label.picture.isNull() || label.color != color) {
-        m_nPictureBytes -= static_cast<std::size_t>(label.picture.sizeInBytes());
-        label.picture = Render(text, label.width, color);
-        label.color = color;
-        m_nPictureBytes += static_cast<std::size_t>(label.picture.sizeInBytes());
-    }
-    painter.drawImage(at.x - m_nRoom, at.y - m_nRoom, label.picture);
+    Label& label = FindLabel(text);
+    const auto found = std::ranges::find(label.pictures, color, &Picture::color);
+    if (found != label.pictures.end())
+        return found->image;
+    const Picture& made = label.pictures.emplace_back(Picture{color, Render(text, label.width, color)});
+    m_nPictureBytes += static_cast<std::size_t>(made.image.sizeInBytes());
+    return made.image;
 }
 
 LayoutText::Label& LayoutText::FindLabel(std::string_view text)

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 class QPainter;
 
@@ -24,15 +25,19 @@ public:
     void Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color);
 
 private:
+    struct Picture
+    {
+        COLORREF color;
+        QImage image;
+    };
     struct Label
     {
         int width = 0;
-        QImage picture; // null until the text is drawn
-        COLORREF color = 0;
+        std::vector<Picture> pictures; // in each colour that it was drawn in
     };
 
     Label& FindLabel(std::string_view text);
-    void PaintLabel(QPainter& painter, CPoint at, std::string_view text, Label& label, COLORREF color);
+    const QImage& FindPicture(std::string_view text, COLORREF color);
     QImage Render(std::string_view text, int nWidth, COLORREF color) const;
 
     const QFont m_font;
