@@ -105,6 +105,31 @@ TEST_F(ListEventsTest, AnAtomIsFoundWhereverItsNameHasLedIt)
     EXPECT_EQ("[b2 c d e f G *0 y]", WithSelected("0"));
 }
 
+TEST_F(ListEventsTest, AmongManyNewAtomsTheRightOneIsFoundThoughTheyMoveAndChange)
+{
+    for (int i = 10; i < 90; ++i)
+        Create(box, "New " + std::to_string(i)); // row 4 is New 10
+    Create(box, "NEW 50");
+    const auto rowOf = [&](const char* pszName) {
+        list.SetItemState(-1, 0, LVIS_SELECTED);
+        list.OnAtomSelected(box->Named(pszName), box);
+        return list.GetNextItem(-1, LVNI_SELECTED);
+    };
+    EXPECT_EQ(73, rowOf("New 79"));
+    EXPECT_EQ(44, rowOf("NEW 50")); // the first of the name
+    Delete("New 60");
+    EXPECT_EQ(72, rowOf("New 79"));
+    Rename("New 50", "New 79");
+    EXPECT_EQ(83, rowOf("NEW 50"));
+    EXPECT_EQ(44, rowOf("New 79"));
+    box->Named("New 70")->name = "unheard of"; // and nobody is told
+    EXPECT_EQ(63, rowOf("unheard of"));
+    Create(box, "link");
+    box->Named("link")->isLink = true;
+    EXPECT_EQ(84, rowOf("link"));
+    EXPECT_EQ(82, rowOf("New 89"));
+}
+
 TEST_F(ListEventsTest, ANameChangedWhileTheListWasTellingIsMinded)
 {
     editor.onNotify = [&](AEStateOperation, IAtom*) {
