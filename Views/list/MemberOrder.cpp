@@ -18,7 +18,7 @@ template <class Keys>
 void Arrange(AtomArray& atoms, const Keys& order)
 {
     AtomArray arranged;
-    arranged.reserve(atoms.size());
+    arranged.reserve(atoms.size() + atoms.size() / 16); // with room for what is created later
     for (const auto& key : order)
         arranged.push_back(std::move(atoms[key.nIndex]));
     atoms = std::move(arranged);
