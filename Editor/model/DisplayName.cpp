@@ -2,7 +2,7 @@
 
 #include "Editor/model/LiveObjects.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace editor
 {
@@ -47,8 +47,7 @@ BOOL GiveName(std::string_view name, char* pBuffer, DWORD* pLength)
         return TRUE;
     if (room < *pLength)
         return FALSE;
-    std::memcpy(pBuffer, name.data(), name.size());
-    pBuffer[name.size()] = '\0';
+    *std::ranges::copy(name, pBuffer).out = '\0'; // a name left empty by want of memory has no bytes to copy from
     return TRUE;
 }
 
