@@ -321,7 +321,8 @@ LRESULT TreeControl::OnArrangeChildren(WPARAM, LPARAM lParam)
     if (!m_items.AreChildren(parent, order))
         return FALSE;
     std::erase(m_unsettled, m_items.HandleOf(parent));
-    return Rearrange(parent, m_items.Children(parent), order, ChildOrder::Unknown);
+    const ChildOrder known = pArrange->bByLabel ? ChildOrder::ByLabel : ChildOrder::Unknown;
+    return Rearrange(parent, m_items.Children(parent), order, known);
 }
 
 // From the first one on that stands elsewhere now, or was gathered: nobody has seen that one yet.

@@ -155,9 +155,9 @@ BOOL CTreeCtrl::SortChildrenCB(TVSORTCB* pSort)
     return SendMessage(TVM_SORTCHILDRENCB, 0, ToLParam(pSort)) != 0;
 }
 
-BOOL CTreeCtrl::ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children)
+BOOL CTreeCtrl::ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel)
 {
-    const TVARRANGECHILDREN arrange{hParent, children.data(), static_cast<int>(children.size())};
+    const TVARRANGECHILDREN arrange{hParent, children.data(), static_cast<int>(children.size()), bByLabel};
     return SendMessage(TVM_ARRANGECHILDREN, 0, ToLParam(&arrange)) != 0;
 }
 

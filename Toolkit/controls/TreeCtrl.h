@@ -57,7 +57,8 @@ public:
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
     BOOL SortChildren(HTREEITEM hParent);
     BOOL SortChildrenCB(TVSORTCB* pSort);
-    BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children); // all of them, in their new order
+    // All of them, in their new order; bByLabel: which is known to be that of their labels.
+    BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel = FALSE);
     HWND EditLabel(HTREEITEM hItem); // the edit field; NULL when the editing was refused
     HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL)); }
     BOOL EndEditLabelNow(BOOL bCancel) { return SendMessage(TVM_ENDEDITLABELNOW, static_cast<WPARAM>(bCancel)) != 0; }

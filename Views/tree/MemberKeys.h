@@ -28,7 +28,8 @@ struct MemberKeys
     NameKeys names;
     std::vector<HTREEITEM> items;
     int nAdded = 0;
-    bool bNamesDecide = true; // they were read, and no member is an image link
+    bool bNamesDecide = true;    // they were read, and no member is an image link
+    bool bLabelsAreNames = true; // no member has a display name or a mark
 
 private:
     MemberKeys*& m_pInnermost;

@@ -1,6 +1,7 @@
 // The order of a container's members, made when it is announced.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
+#include "Views/host/IDispAtom.h"
 #include "Views/host/IPhase.h"
 #include "Views/host/LinkOrder.h"
 #include "Views/host/ReadName.h"
@@ -43,6 +44,7 @@ void views::MemberKeys::Add(IAtom* pAtom, HTREEITEM hItem)
     ++nAdded;
     try {
         bNamesDecide = bNamesDecide && !CStubRef<IImageLink>::From(pAtom) && names.Add(pAtom);
+        bLabelsAreNames = bLabelsAreNames && bNamesDecide && !CStubRef<IDispAtom>::From(pAtom) && !pAtom->IsModified();
         if (bNamesDecide)
             items.push_back(hItem);
     } catch (CMemoryException&) {
@@ -98,5 +100,5 @@ bool CObjectsTree::ArrangeByName(HTREEITEM hItem, views::MemberKeys& keys, bool 
     order.reserve(sorted.size());
     for (const auto& key : sorted)
         order.push_back(keys.items[key.nIndex]);
-    return ArrangeChildren(hItem, order) != FALSE;
+    return ArrangeChildren(hItem, order, keys.bLabelsAreNames) != FALSE;
 }
