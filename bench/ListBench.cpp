@@ -228,9 +228,9 @@ void MemoryPerRow(benchmark::State& state)
 {
     const EditorService service;
     Container container(static_cast<unsigned>(state.range(0)));
-    ListWindow window;
     double nBytes = 0;
     for (auto _ : state) {
+        ListWindow window; // has nothing left of former ones
         const std::size_t before = AllocatedBytes();
         window.List().OnAtomEntered(&container, nullptr);
         window.Settle();

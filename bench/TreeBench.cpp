@@ -120,9 +120,9 @@ void MemoryPerItem(benchmark::State& state)
 {
     const EditorService service;
     Library library(static_cast<unsigned>(state.range(0)));
-    TreeWindow window;
     double nBytes = 0;
     for (auto _ : state) {
+        TreeWindow window; // has nothing left of former ones
         const std::size_t before = AllocatedBytes();
         window.Tree().OnCreateAtom(&library, nullptr);
         window.Settle();
