@@ -2,7 +2,7 @@
 // whether the rest is a path by itself or one in a folder that has a little of everything.
 #include "Editor/archive/Archive.h"
 #include "Editor/archive/MemoryStream.h"
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 #include "Editor/services/Services.h"
 #include "Toolkit/base/Files.h"
 #include "Toolkit/ole/StgMedium.h"

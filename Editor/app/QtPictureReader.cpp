@@ -1,7 +1,7 @@
 #include "Editor/app/QtPictureReader.h"
 
 #include "Editor/app/SoundPng.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -10,7 +10,7 @@
 #include "Editor/app/ProgramIcon.h"
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/script/Script.h"
 #include "Editor/script/ScriptFile.h"
 #include "Editor/services/LeftTransfers.h"

@@ -1,6 +1,6 @@
 #include "Editor/archive/Archive.h"
 
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 
 namespace editor
 {

@@ -30,7 +30,7 @@
 // known. A folder's content is summed record by record. Bytes where no record can be are summed as they are.
 #pragma once
 
-#include "Editor/model/DiskFile.h"
+#include "Editor/disk/DiskFile.h"
 
 #include <bit>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "Editor/archive/ArchiveReader.h"
 
-#include "Editor/archive/Checksum.h"
-#include "Editor/model/FileNames.h"
+#include "Editor/disk/Checksum.h"
+#include "Editor/disk/FileNames.h"
 
 namespace editor
 {

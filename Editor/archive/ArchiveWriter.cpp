@@ -1,11 +1,11 @@
 #include "Editor/archive/ArchiveWriter.h"
 
 #include "Editor/archive/ArchiveReader.h"
-#include "Editor/archive/Checksum.h"
-#include "Editor/model/DiskFile.h"
-#include "Editor/model/FileNames.h"
-#include "Editor/model/FileText.h"
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/Checksum.h"
+#include "Editor/disk/DiskFile.h"
+#include "Editor/disk/FileNames.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/TempEntry.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,8 +1,8 @@
 #include "Editor/archive/ArchivedAtom.h"
 
-#include "Editor/model/DisplayName.h"
-#include "Editor/model/ErrorInfo.h"
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/DisplayName.h"
+#include "Editor/objects/ErrorInfo.h"
+#include "Editor/objects/LiveObjects.h"
 
 namespace editor
 {

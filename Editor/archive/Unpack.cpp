@@ -1,8 +1,8 @@
 #include "Editor/archive/Unpack.h"
 
 #include "Editor/archive/ArchiveReader.h"
-#include "Editor/model/FileText.h"
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/TempEntry.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,7 +1,7 @@
 // What the frame does to what is selected.
+#include "Editor/disk/Trash.h"
 #include "Editor/frame/MainFrame.h"
-#include "Editor/model/ErrorInfo.h"
-#include "Editor/model/Trash.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "Editor/resources/EditorResources.h"
 #include "Toolkit/window/MessageBox.h"
 
@@ -164,7 +164,8 @@ void CMainFrame::SelectJust(const std::vector<CStubRef<IAtom>>& atoms)
                 m_pList->SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
     }
     if (!atoms.empty())
-        m_editor.NotifyHandlers(m_pList->Handler(), &IAEStateHandler::OnAtomSelected, atoms.back().Get(), pContainer, 0);
+        m_editor.NotifyHandlers(m_pList->Handler(), &IAEStateHandler::OnAtomSelected, atoms.back().Get(), pContainer,
+                                0);
     m_pList->FocusSelection();
     UpdateStatus();
 }

@@ -1,7 +1,7 @@
 // A container's members added, renamed and removed.
 #include "Editor/archive/ArchivedAtom.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/Container.h"
-#include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/RevocableRemoval.h"
 

@@ -1,9 +1,9 @@
 #include "Editor/model/Folder.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/TempEntry.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/Picture.h"
-#include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
 namespace editor

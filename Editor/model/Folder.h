@@ -1,9 +1,9 @@
 // A directory on disk as a container.
 #pragma once
 
+#include "Editor/disk/Directory.h"
+#include "Editor/disk/TakenNames.h"
 #include "Editor/model/Container.h"
-#include "Editor/model/Directory.h"
-#include "Editor/model/TakenNames.h"
 
 namespace editor
 {

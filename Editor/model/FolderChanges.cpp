@@ -1,11 +1,11 @@
 // A folder's members added, renamed and removed on the disk.
 #include "Editor/archive/Unpack.h"
-#include "Editor/model/FileNames.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileNames.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/Trash.h"
 #include "Editor/model/Folder.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/PhaseText.h"
-#include "Editor/model/Trash.h"
 #include "Toolkit/base/Text.h"
 
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "Editor/model/ImageLink.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/PhaseText.h"

@@ -1,6 +1,6 @@
 #include "Editor/model/Library.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,11 +1,11 @@
 #include "Editor/model/Member.h"
 
+#include "Editor/disk/FileText.h"
 #include "Editor/model/Container.h"
-#include "Editor/model/DisplayName.h"
-#include "Editor/model/ErrorInfo.h"
-#include "Editor/model/FileText.h"
 #include "Editor/model/LibraryContext.h"
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/DisplayName.h"
+#include "Editor/objects/ErrorInfo.h"
+#include "Editor/objects/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/IconHolder.h"
 

@@ -1,11 +1,11 @@
 #include "Editor/model/Phase.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/TempEntry.h"
 #include "Editor/model/Folder.h"
 #include "Editor/model/ImageLink.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/PhaseText.h"
-#include "Editor/model/TempEntry.h"
 #include "Editor/pictures/IconPainter.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "Editor/model/PhaseText.h"
 
-#include "Editor/model/DiskFile.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/DiskFile.h"
+#include "Editor/disk/FileText.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,8 +1,8 @@
 // Removals that may have to be taken back.
 #pragma once
 
+#include "Editor/disk/Trash.h"
 #include "Editor/model/Phase.h"
-#include "Editor/model/Trash.h"
 
 #include <map>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "Editor/pictures/DecodeQueue.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 
 #include <cerrno>
 #include <sys/resource.h>

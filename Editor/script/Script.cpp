@@ -1,8 +1,8 @@
 #include "Editor/script/Script.h"
 
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/Trash.h"
 #include "Editor/frame/MainFrame.h"
-#include "Editor/model/FileText.h"
-#include "Editor/model/Trash.h"
 #include "Editor/script/Words.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "Editor/script/ScriptFile.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -1,7 +1,7 @@
 #include "Editor/services/ActiveMembers.h"
 
 #include "Editor/model/Container.h"
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 
 #include <map>
 #include <new>

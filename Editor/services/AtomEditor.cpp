@@ -1,6 +1,6 @@
 #include "Editor/services/AtomEditor.h"
 
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <utility>

@@ -2,7 +2,7 @@
 #include "Editor/archive/ArchiveReader.h"
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/archive/ArchivedAtom.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/Member.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/UnsavedPhases.h"

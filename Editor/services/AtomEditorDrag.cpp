@@ -1,5 +1,5 @@
 // The editor's drags: the active atoms, as they are copied to the clipboard, under the mouse.
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/DragData.h"

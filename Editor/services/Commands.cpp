@@ -1,6 +1,6 @@
 #include "Editor/services/Commands.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"

@@ -1,9 +1,9 @@
 #include "Editor/services/DroppedFiles.h"
 
 #include "Editor/archive/ArchiveWriter.h"
-#include "Editor/model/ErrorInfo.h"
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "Editor/services/FileUris.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"

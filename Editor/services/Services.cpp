@@ -2,7 +2,7 @@
 
 #include "Editor/archive/Archive.h"
 #include "Editor/archive/MemoryStream.h"
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "Toolkit/window/MessageBox.h"
 
 #include <new>

@@ -1,6 +1,6 @@
 #include "Editor/services/UnsavedPhases.h"
 
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 #include "Editor/model/PhaseText.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
-#include "Editor/model/FileNames.h"
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/FileNames.h"
+#include "Editor/disk/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
 #include "tests/editor/AsNobody.h"
 #include "tests/support/AllocationFailures.h"

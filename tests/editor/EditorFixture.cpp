@@ -1,7 +1,7 @@
 #include "tests/editor/EditorFixture.h"
 
 #include "Editor/frame/Look.h"
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 
 #include <algorithm>
 

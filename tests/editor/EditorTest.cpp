@@ -1,5 +1,5 @@
 #include "Editor/frame/Look.h"
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <algorithm>

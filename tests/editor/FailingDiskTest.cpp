@@ -1,8 +1,8 @@
 // The editor's commands with each operation on the disk failing once.
 #include "tests/support/FailingDisk.h"
 
+#include "Editor/disk/TempEntry.h"
 #include "Editor/frame/MainFrame.h"
-#include "Editor/model/TempEntry.h"
 #include "Editor/script/Script.h"
 #include "Toolkit/window/HeadlessDesktop.h"
 #include "tests/editor/BmpReader.h"

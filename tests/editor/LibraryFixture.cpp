@@ -1,7 +1,7 @@
 #include "tests/editor/LibraryFixture.h"
 
-#include "Editor/model/ErrorInfo.h"
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/ErrorInfo.h"
+#include "Editor/objects/LiveObjects.h"
 #include "Editor/pictures/IconPainter.h"
 #include "Toolkit/graphics/Gdi.h"
 

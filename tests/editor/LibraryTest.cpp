@@ -1,4 +1,4 @@
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 #include "tests/editor/LibraryFixture.h"
 #include "tests/support/AllocationFailures.h"
 

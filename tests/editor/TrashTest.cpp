@@ -1,4 +1,4 @@
-#include "Editor/model/Trash.h"
+#include "Editor/disk/Trash.h"
 
 #include "tests/editor/TrashHome.h"
 #include "tests/support/FailingDisk.h"

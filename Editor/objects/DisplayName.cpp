@@ -1,6 +1,6 @@
-#include "Editor/model/DisplayName.h"
+#include "Editor/objects/DisplayName.h"
 
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // A file or folder in the making.
 #pragma once
 
-#include "Editor/model/DiskFile.h"
+#include "Editor/disk/DiskFile.h"
 
 #include <string>
 #include <string_view>

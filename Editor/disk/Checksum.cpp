@@ -1,4 +1,4 @@
-#include "Editor/archive/Checksum.h"
+#include "Editor/disk/Checksum.h"
 
 #include <array>
 #include <bit>

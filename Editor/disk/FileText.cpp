@@ -1,4 +1,4 @@
-#include "Editor/model/FileText.h"
+#include "Editor/disk/FileText.h"
 
 #include "Toolkit/base/LastError.h"
 #include "Toolkit/base/Text.h"

@@ -1,8 +1,8 @@
-#include "Editor/model/Trash.h"
+#include "Editor/disk/Trash.h"
 
-#include "Editor/model/FileNames.h"
-#include "Editor/model/FileText.h"
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/FileNames.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/TempEntry.h"
 
 #include <cerrno>
 #include <cstdio>

@@ -1,6 +1,6 @@
-#include "Editor/model/Directory.h"
+#include "Editor/disk/Directory.h"
 
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/TempEntry.h"
 
 #include <cerrno>
 #include <fcntl.h>

@@ -1,4 +1,4 @@
-#include "Editor/model/DiskFile.h"
+#include "Editor/disk/DiskFile.h"
 
 #include <cerrno>
 #include <cstdio>

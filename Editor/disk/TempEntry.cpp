@@ -1,6 +1,6 @@
-#include "Editor/model/TempEntry.h"
+#include "Editor/disk/TempEntry.h"
 
-#include "Editor/archive/Checksum.h"
+#include "Editor/disk/Checksum.h"
 
 #include <cerrno>
 #include <climits>

@@ -1,8 +1,8 @@
-#include "Editor/model/TakenNames.h"
+#include "Editor/disk/TakenNames.h"
 
-#include "Editor/archive/Checksum.h"
-#include "Editor/model/DiskFile.h"
-#include "Editor/model/FileNames.h"
+#include "Editor/disk/Checksum.h"
+#include "Editor/disk/DiskFile.h"
+#include "Editor/disk/FileNames.h"
 #include "Toolkit/base/Text.h"
 
 #include <fcntl.h>

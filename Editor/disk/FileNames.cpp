@@ -1,4 +1,4 @@
-#include "Editor/model/FileNames.h"
+#include "Editor/disk/FileNames.h"
 
 #include "Toolkit/base/Text.h"
 

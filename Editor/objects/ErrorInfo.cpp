@@ -1,6 +1,6 @@
-#include "Editor/model/ErrorInfo.h"
+#include "Editor/objects/ErrorInfo.h"
 
-#include "Editor/model/LiveObjects.h"
+#include "Editor/objects/LiveObjects.h"
 
 namespace editor
 {
