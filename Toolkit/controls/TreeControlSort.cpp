@@ -22,7 +22,6 @@ namespace toolkit
 namespace
 {
 
-constexpr int kSmall = 16; // children
 constexpr int kFewer = 20; // times fewer than their siblings: then items find their places one by one
 
 // A comparison that contradicts itself gives some order, no worse. Siblings in order are compared once each.
