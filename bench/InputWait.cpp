@@ -152,7 +152,7 @@ int main(int argc, char* argv[])
     editor::EditorApp editor(reader, {.size = {1280, 800}, .onClosed = {}});
     if (const std::string error = editor.OpenFolder(photographs.Folder()); !error.empty())
         return std::fprintf(stderr, "%s\n", error.c_str()), 1;
-    editor.GetFrame()->ShowList(editor::CMainFrame::ListKind::Thumbnails);
+    editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
     QCoreApplication::processEvents();
 
     QWidget& window = *desktop.FindWidget(editor.GetMainWindow());

@@ -1,10 +1,10 @@
 #include "Editor/frame/MainFrame.h"
 
-#include "Editor/frame/ContextMenu.h"
 #include "Editor/frame/Look.h"
+#include "Editor/frame/StatusText.h"
 #include "Editor/model/Phase.h"
-#include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
+#include "Toolkit/window/MessageBox.h"
 
 #include <utility>
 
@@ -14,6 +14,7 @@ namespace
 {
 
 constexpr UINT kSelectRenamed = WM_USER;
+constexpr UINT_PTR kLookTimer = 1;
 
 } // namespace
 
@@ -25,31 +26,23 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_TIMER()
     ON_WM_SETFOCUS()
     ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
-    ON_COMMAND(ID_OPEN, OpenSelected)
-    ON_COMMAND(ID_CUT, CutSelection)
-    ON_COMMAND(ID_COPY, CopySelection)
-    ON_COMMAND(ID_PASTE, PasteHere)
-    ON_COMMAND(ID_RENAME, RenameSelected)
-    ON_COMMAND(ID_REMOVE, RemoveSelection)
-    ON_COMMAND(ID_SELECT_ALL, SelectAll)
-    ON_COMMAND(ID_REFRESH, Refresh)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)
     : m_editor(editor),
-      m_commands(editor),
       m_pictures(pictures),
       m_closed(std::move(closed)),
-      m_pathBar([this] { GoUp(); }, [this](int nPart) { GoToPart(nPart); }),
+      m_navigation(editor, [this] { GetList().FocusSelection(); }),
+      m_modified(editor),
+      m_pathBar([this] { m_navigation.GoUp(); }, [this](int nPart) { m_navigation.GoToPart(nPart); }),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
-      m_icons(PictureSizeFor({kIconExtent, kIconExtent}), ListEvents()),
-      m_thumbnails({kThumbnailExtent, kThumbnailExtent}, ListEvents()),
+      m_content(pictures, ListEvents(), [this] { UpdateStatus(); }),
+      m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
       m_tree(ReportDrop()),
-      m_picture(pictures),
       m_properties({[this] { return SelectedPhases(); },
-                    [this](const CPropertiesPane::Phases& phases) { NoteModified(phases); },
-                    [this] { FocusContent(); }}),
+                    [this](const CPropertiesPane::Phases& phases) { m_modified.Add(phases); },
+                    [this] { m_content.TakeFocus(); }}),
       m_statusBar([this] { return GetStatus(); })
 {}
 
@@ -69,7 +62,8 @@ void CMainFrame::ShowLibrary(CLibrary* pLibrary)
     const auto pFormer = std::exchange(m_pLibrary, CStubRef<CLibrary>::Share(pLibrary));
     m_editor.AddTop(pLibrary);
     m_tree.ExpandAtom(pLibrary);
-    GoTo(pLibrary);
+    m_navigation.SetTop(pLibrary);
+    m_navigation.GoToTop();
     if (pFormer)
         m_editor.RemoveTop(pFormer.Get());
 }
@@ -88,15 +82,15 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     const bool bRenamed = pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container();
     if (bRenamed)
         FollowRenamed(pAtom, pCreated.Get());
-    ForgetModified(pAtom, bRenamed ? pCreated.Get() : nullptr);
+    m_modified.Forget(pAtom, bRenamed ? pCreated.Get() : nullptr);
     UpdateStatus();
     return TRUE;
 }
 
 BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
-    if (pAtom && pAtom == m_picture.GetAtom())
-        m_picture.OnPictureArrived();
+    if (pAtom && pAtom == GetPictureView().GetAtom())
+        GetPictureView().OnPictureArrived();
     m_statusBar.Invalidate();
     if (dynamic_cast<CPhase*>(CMember::Of(pAtom)))
         m_properties.Update(); // looks through all that is selected: not for each picture that has been read
@@ -121,11 +115,11 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     CMember* const pMember = CMember::Of(pAtom);
     if (!pMember)
         return TRUE;
-    m_pShown = CStubRef<CMember>::Share(pMember);
+    m_navigation.SetShown(pMember);
     if (CStubRef<IAtomContainer>::From(pAtom))
-        HidePicture();
-    else
-        ShowPicture(pMember);
+        m_content.HidePicture();
+    else // whoever walks through the tree stays in it
+        m_content.ShowPicture(pMember, ::GetFocus() == m_tree.m_hWnd);
     SetWindowText((pMember->ShownName() + " - Views").c_str());
     UpdatePath();
     UpdateStatus();
@@ -139,7 +133,7 @@ void CMainFrame::FollowRenamed(IAtom* pFormer, CMember* pRenamed)
     for (CMember* pMember = Shown(); pMember; pMember = pMember->Container()) {
         if (static_cast<IAtom*>(pMember) != pFormer)
             continue;
-        GoTo(pRenamed);
+        m_navigation.GoTo(pRenamed);
         break;
     }
     m_pRenamed = CStubRef<CMember>::Share(pRenamed);
@@ -153,8 +147,8 @@ LRESULT CMainFrame::OnSelectRenamed(WPARAM, LPARAM)
         return 0;
     std::vector<CStubRef<IAtom>> atoms;
     atoms.push_back(CStubRef<IAtom>::Share(pRenamed.Get()));
-    m_commands.Select(atoms, pRenamed->Container());
-    m_pList->FocusSelection();
+    m_commands.GetPlain().Select(atoms, pRenamed->Container());
+    GetList().FocusSelection();
     return 0;
 }
 
@@ -165,13 +159,11 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     // The frame hears of everything first; the lists, registered before the tree, show what was entered by the time
     // that the tree selects it.
     m_editor.SetFrame(this);
-    m_pList->Activate(nullptr);
+    m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
-                       m_listPane.Create(this) && m_picturePane.Create(this) && m_statusBar.Create(this) &&
-                       m_icons.Create(&m_listPane) && m_thumbnails.Create(&m_listPane) && m_tree.Create(&m_treePane) &&
-                       m_picture.Create(&m_picturePane) && m_properties.Create(this);
-    OfferLists();
+                       m_content.Create(this) && m_statusBar.Create(this) && m_tree.Create(&m_treePane) &&
+                       m_properties.Create(this);
     return bMade ? 0 : -1;
 }
 
@@ -202,15 +194,101 @@ void CMainFrame::OnSize(UINT nType, int cx, int cy)
 void CMainFrame::OnSetFocus(CWnd* pOldWnd)
 {
     CWnd::OnSetFocus(pOldWnd);
-    FocusContent();
+    m_content.TakeFocus();
 }
 
 void CMainFrame::UpdatePath()
 {
     std::vector<std::string> parts;
-    for (const CMember* pMember = Shown(); pMember; pMember = pMember->Container())
-        parts.insert(parts.begin(), pMember->ShownName());
+    for (const CMember* const pMember : m_navigation.Path())
+        parts.push_back(pMember->ShownName());
     m_pathBar.SetPath(std::move(parts));
+}
+
+void CMainFrame::UpdateStatus()
+{
+    m_statusBar.Invalidate();
+    m_properties.Update();
+}
+
+Status CMainFrame::GetStatus() const
+{
+    return m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures)
+                                      : DescribeList(m_content.GetList(), Shown(), m_pictures);
+}
+
+// Without a selection, the phase that is shown.
+CPropertiesPane::Phases CMainFrame::SelectedPhases() const
+{
+    CPropertiesPane::Phases phases;
+    const auto add = [](IAtom* pAtom, IAtomContainer*, void* context) -> BOOL {
+        if (auto* const pPhase = dynamic_cast<CPhase*>(CMember::Of(pAtom)))
+            static_cast<CPropertiesPane::Phases*>(context)->push_back(CStubRef<CPhase>::Share(pPhase));
+        return TRUE;
+    };
+    m_editor.EnumActivePairs(add, &phases);
+    auto* const pShown = dynamic_cast<CPhase*>(Shown());
+    if (phases.empty() && pShown)
+        phases.push_back(CStubRef<CPhase>::Share(pShown));
+    return phases;
+}
+
+bool CMainFrame::MayClose()
+{
+    if (m_properties.HasFocus())
+        m_content.TakeFocus();
+    const std::string question = m_modified.SaveQuestion();
+    if (question.empty())
+        return true;
+    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNOCANCEL | MB_ICONQUESTION);
+    return nAnswer == IDYES ? m_commands.SaveOrTell() : nAnswer == IDNO;
+}
+
+// The frame may be gone by the time that a drop's failure is told.
+DropFailed CMainFrame::ReportDrop()
+{
+    return [this, pAlive = std::weak_ptr<int>(m_pAlive)](std::string reason) {
+        if (!pAlive.expired())
+            m_commands.ShowFailure(IDS_DROP_FAILED, std::move(reason));
+    };
+}
+
+// What a drop has pasted into the list is selected by then, and stays so.
+void CMainFrame::OnMoving()
+{
+    m_beforeMove = m_commands.RememberPosition();
+}
+
+void CMainFrame::OnMoved(const std::string& reason)
+{
+    m_commands.GoOnAt(std::exchange(m_beforeMove, {}));
+    m_commands.ShowFailure(IDS_MOVE_FAILED, reason);
+}
+
+void CMainFrame::OnCopied(const ActiveMembers& members)
+{
+    m_draggedOut = DraggedOut(members);
+    AwaitNextLook();
+}
+
+void CMainFrame::AwaitNextLook()
+{
+    if (const unsigned nPause = m_draggedOut.NextLook())
+        SetTimer(kLookTimer, nPause);
+    else
+        KillTimer(kLookTimer);
+}
+
+void CMainFrame::OnTimer(UINT_PTR)
+{
+    const auto changed = m_draggedOut.Look();
+    for (const auto& pContainer : changed)
+        m_commands.ReadAgain(*pContainer.Get());
+    if (!changed.empty()) {
+        m_navigation.LeaveWhatIsGone();
+        UpdateStatus();
+    }
+    AwaitNextLook();
 }
 
 } // namespace editor

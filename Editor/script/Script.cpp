@@ -19,11 +19,9 @@ constexpr std::size_t kAny = std::numeric_limits<std::size_t>::max();
 
 const Script::Command Script::kCommands[] = {
     {"open", 1, 1, &Script::Open},        {"enter", 1, 1, &Script::Enter},
-    {"select", 0, kAny, &Script::Select}, {"copy", 0, 0, &Script::Copy},
-    {"cut", 0, 0, &Script::Cut},          {"paste", 0, 0, &Script::Paste},
-    {"delete", 0, 2, &Script::Delete},    {"rename", 2, 2, &Script::Rename},
-    {"view", 1, 1, &Script::View},        {"list", 0, 0, &Script::List},
-    {"refresh", 0, 0, &Script::Refresh},  {"screenshot", 1, 1, &Script::TakeScreenshot},
+    {"select", 0, kAny, &Script::Select}, {"delete", 0, 2, &Script::Delete},
+    {"rename", 2, 2, &Script::Rename},    {"view", 1, 1, &Script::View},
+    {"list", 0, 0, &Script::List},        {"screenshot", 1, 1, &Script::TakeScreenshot},
 };
 
 std::string ScriptHelp()
@@ -68,13 +66,15 @@ std::string Script::RunLine(std::string_view line)
     words.erase(words.begin());
     const auto known = std::find_if(std::begin(kCommands), std::end(kCommands),
                                     [&](const Command& one) { return command == one.pszName; });
-    if (known == std::end(kCommands))
+    const bool bOwn = known != std::end(kCommands);
+    const CommandEntry* const pShared = bOwn ? nullptr : FindCommandOfWord(command);
+    if (!bOwn && !pShared)
         return command + ": unknown command";
-    if (words.size() < known->nLeast)
+    if (bOwn && words.size() < known->nLeast)
         return command + ": something is missing behind it";
-    if (words.size() > known->nMost)
+    if (words.size() > (bOwn ? known->nMost : 0))
         return command + ": there is too much behind it";
-    const std::string reason = (this->*known->run)(words);
+    const std::string reason = bOwn ? (this->*known->run)(words) : (Frame().GetCommands().*pShared->runQuietly)();
     m_app.WaitUntilSettled(m_outside.isToEnd);
     return reason.empty() ? reason : command + ": " + reason;
 }
@@ -102,7 +102,7 @@ std::string Script::Enter(const Words& words)
 {
     std::string_view path = words[0];
     if (path.starts_with('/'))
-        Frame().GoToTop();
+        Frame().GetNavigation().GoToTop();
     while (!path.empty()) {
         const std::size_t end = std::min(path.find('/'), path.size());
         if (std::string reason = EnterOne(std::string(path.substr(0, end))); !reason.empty())
@@ -119,13 +119,13 @@ std::string Script::EnterOne(const std::string& part)
     if (part == "..") {
         if (!Frame().Shown()->Container())
             return "nothing is above the library";
-        Frame().GoUp();
+        Frame().GetNavigation().GoUp();
         return {};
     }
     CStubRef<CMember> pMember;
     std::string reason = Find(part, pMember);
     if (reason.empty())
-        Frame().GoTo(pMember.Get());
+        Frame().GetNavigation().GoTo(pMember.Get());
     return reason;
 }
 
@@ -145,45 +145,29 @@ std::string Script::Select(const Words& words)
             return reason;
         atoms.push_back(CStubRef<IAtom>::Share(pMember.Get()));
     }
-    Frame().SelectJust(atoms);
+    Frame().GetCommands().SelectJust(atoms);
     return {};
-}
-
-std::string Script::Copy(const Words&)
-{
-    return Frame().GetCommands().Copy();
-}
-
-std::string Script::Cut(const Words&)
-{
-    return Frame().Cut();
-}
-
-std::string Script::Paste(const Words&)
-{
-    return Frame().Paste();
 }
 
 std::string Script::Delete(const Words& words)
 {
     if (words.empty())
-        return Frame().Remove();
+        return Frame().GetCommands().Remove();
     if (words != Words{"for", "good"})
         return "nothing or \"for good\" stands behind it";
     const PermanentRemoval agreed;
-    return Frame().Remove();
+    return Frame().GetCommands().Remove();
 }
 
 std::string Script::Rename(const Words& words)
 {
     CStubRef<CMember> pMember;
     std::string reason = Find(words[0], pMember);
-    return reason.empty() ? Frame().GetCommands().Rename(pMember.Get(), words[1]) : reason;
+    return reason.empty() ? Frame().GetCommands().GetPlain().Rename(pMember.Get(), words[1]) : reason;
 }
 
 std::string Script::View(const Words& words)
 {
-    using ListKind = CMainFrame::ListKind;
     const bool bIcons = words[0] == "icons";
     if (!bIcons && words[0] != "thumbnails")
         return words[0] + ": neither icons nor thumbnails";
@@ -197,12 +181,6 @@ std::string Script::List(const Words&)
     for (int i = 0, count = list.GetItemCount(); i < count; ++i)
         if (const CMember* const pMember = CMember::Of(list.GetAtom(i).Get()))
             m_outside.print(pMember->ShownName());
-    return {};
-}
-
-std::string Script::Refresh(const Words&)
-{
-    Frame().Refresh();
     return {};
 }
 

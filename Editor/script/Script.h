@@ -38,7 +38,7 @@ private:
         std::size_t nLeast, nMost; // words
         std::string (Script::*run)(const Words& words);
     };
-    static const Command kCommands[];
+    static const Command kCommands[]; // besides those that the frame has, too (FindCommandOfWord)
 
     std::string RunLine(std::string_view line);
     CMainFrame& Frame() const;
@@ -49,14 +49,10 @@ private:
     std::string Enter(const Words& words);
     std::string EnterOne(const std::string& part);
     std::string Select(const Words& words);
-    std::string Copy(const Words& words);
-    std::string Cut(const Words& words);
-    std::string Paste(const Words& words);
     std::string Delete(const Words& words);
     std::string Rename(const Words& words);
     std::string View(const Words& words);
     std::string List(const Words& words);
-    std::string Refresh(const Words& words);
     std::string TakeScreenshot(const Words& words);
 
     EditorApp& m_app;

@@ -174,11 +174,12 @@ TEST_F(CommandsTest, WhatWasRenamedStaysSelectedAndShown)
     Open();
     DoubleClick("Ada");
     Click("a.bmp");
-    EXPECT_EQ("", Frame().GetCommands().Rename(editor::CMember::Of(Frame().GetList().GetAtom(0).Get()), "z.bmp"));
+    EXPECT_EQ(
+        "", Frame().GetCommands().GetPlain().Rename(editor::CMember::Of(Frame().GetList().GetAtom(0).Get()), "z.bmp"));
     Settle();
     EXPECT_EQ("/Ada/ | [b.bmp (*z.bmp)] | 2 objects, 1 selected | z.bmp: 8 x 8 pixels", Screen());
 
-    EXPECT_EQ("", Frame().GetCommands().Rename(Frame().Shown(), "Zoe"));
+    EXPECT_EQ("", Frame().GetCommands().GetPlain().Rename(Frame().Shown(), "Zoe"));
     Settle();
     EXPECT_EQ("/Zoe/ | [b.bmp z.bmp] | 2 objects", Screen());
     EXPECT_STREQ("Zoe", Frame().GetTree().GetItemText(Frame().GetTree().GetSelectedItem()));

@@ -108,7 +108,7 @@ TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
     Drag(List(), PlaceOf("a.bmp"), [&] {
         std::vector<CStubRef<IAtom>> other;
         other.push_back(Frame().GetList().GetAtom(1)); // as a drop selects what it has pasted
-        Frame().GetCommands().Select(other, Frame().ShownContainer());
+        Frame().GetCommands().GetPlain().Select(other, Frame().ShownContainer());
         DropOnTree("Bo");
     });
     EXPECT_EQ("/Ada/ | [(*b.bmp) c.bmp] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());

@@ -131,7 +131,7 @@ TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlongAndWhatCannotBeSav
     SetDelayOfWalk("7");
     desktop.Key(VK_RETURN);
     editor::CMember* const pWalk = editor::CMember::Of(Frame().GetList().GetAtom(2).Get());
-    EXPECT_EQ("", Frame().GetCommands().Rename(pWalk, "stroll.phase"));
+    EXPECT_EQ("", Frame().GetCommands().GetPlain().Rename(pWalk, "stroll.phase"));
     Settle();
     const std::string stroll = folder.Read("stroll.phase");
     folder.Remove("stroll.phase");

@@ -1,5 +1,5 @@
-// What the frame says about what it shows.
-#include "Editor/frame/MainFrame.h"
+#include "Editor/frame/StatusText.h"
+
 #include "Editor/model/Phase.h"
 
 namespace editor
@@ -28,39 +28,34 @@ Status Describe(std::string text, const CMember& member, const PictureStore& pic
 
 } // namespace
 
-Status CMainFrame::GetStatus() const
+Status DescribePicture(const CMember& picture, const PictureStore& pictures)
 {
-    return IsPictureShown() ? DescribePicture() : DescribeList();
+    return Describe({}, picture, pictures);
 }
 
-Status CMainFrame::DescribePicture() const
+Status DescribeList(const CEditorList& list, const CMember* pShown, const PictureStore& pictures)
 {
-    return Describe({}, *Shown(), m_pictures);
-}
-
-Status CMainFrame::DescribeList() const
-{
-    const int nSelected = m_pList->GetSelectedCount();
-    std::string text = CountText(m_pList->GetItemCount());
+    const int nSelected = list.GetSelectedCount();
+    std::string text = CountText(list.GetItemCount());
     if (nSelected > 0)
         text += ", " + std::to_string(nSelected) + " selected";
     if (nSelected == 1) {
-        const CStubRef<IAtom> pAtom = m_pList->GetAtom(m_pList->GetNextItem(-1, LVNI_SELECTED));
+        const CStubRef<IAtom> pAtom = list.GetAtom(list.GetNextItem(-1, LVNI_SELECTED));
         if (const CMember* const pMember = CMember::Of(pAtom.Get()))
-            return Describe(std::move(text), *pMember, m_pictures);
+            return Describe(std::move(text), *pMember, pictures);
     }
-    const std::string error = Shown() ? Shown()->ErrorLine() : std::string();
+    const std::string error = pShown ? pShown->ErrorLine() : std::string();
     return {std::move(text), error, !error.empty()};
 }
 
-std::string CMainFrame::DescribeEmptyList() const
+std::string DescribeEmptyList(const CMember* pShown)
 {
-    if (!Shown())
+    if (!pShown)
         return {};
-    const std::string error = Shown()->ErrorLine();
+    const std::string error = pShown->ErrorLine();
     if (!error.empty())
         return error;
-    return dynamic_cast<const CPhase*>(Shown()) ? "This phase names no pictures." : "There are no pictures here.";
+    return dynamic_cast<const CPhase*>(pShown) ? "This phase names no pictures." : "There are no pictures here.";
 }
 
 } // namespace editor

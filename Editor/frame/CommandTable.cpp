@@ -1,0 +1,102 @@
+#include "Editor/frame/CommandTable.h"
+
+#include "Editor/frame/FrameCommands.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+using With = CommandEntry::With;
+using State = CommandState;
+using Run = FrameCommands;
+
+// In the menu's order.
+constexpr CommandEntry kCommands[] = {
+    {ID_OPEN, "&Open", true, VK_RETURN, With::Views, &State::canOpen, &Run::OpenSelected, nullptr, nullptr},
+    {ID_CUT, "Cu&t", true, 'X', With::Control, &State::canRemove, &Run::CutSelection, "cut", &Run::Cut},
+    {ID_COPY, "&Copy", false, 'C', With::Control, &State::canCarry, &Run::CopySelection, "copy", &Run::Copy},
+    {ID_PASTE, "&Paste", false, 'V', With::Control, &State::canPaste, &Run::PasteHere, "paste", &Run::Paste},
+    {ID_RENAME, "&Rename", true, VK_F2, With::Nothing, &State::canRename, &Run::RenameSelected, nullptr, nullptr},
+    {ID_REMOVE, "&Delete", false, VK_DELETE, With::Nothing, &State::canRemove, &Run::RemoveSelection, nullptr, nullptr},
+    {ID_SELECT_ALL, "Select &all", true, 'A', With::Views, &State::canSelectAll, &Run::SelectAll, nullptr, nullptr},
+    {ID_REFRESH, "Re&fresh", false, VK_F5, With::Whatever, &State::always, &Run::Refresh, "refresh",
+     &Run::RefreshQuietly},
+    {ID_ICONS, nullptr, false, '1', With::Control, &State::always, &Run::ShowIcons, nullptr, nullptr},
+    {ID_THUMBNAILS, nullptr, false, '2', With::Control, &State::always, &Run::ShowThumbnails, nullptr, nullptr},
+};
+
+template <class Matches>
+const CommandEntry* Find(Matches matches)
+{
+    const auto* const pFound = std::find_if(std::begin(kCommands), std::end(kCommands), matches);
+    return pFound == std::end(kCommands) ? nullptr : pFound;
+}
+
+bool IsGivenBy(With with, bool bControl, bool bShift)
+{
+    switch (with) {
+    case With::Nothing:
+        return !bControl && !bShift;
+    case With::Control:
+        return bControl;
+    case With::Whatever:
+        return true;
+    case With::Views:
+        return false;
+    }
+    return false;
+}
+
+std::string KeyText(const CommandEntry& command)
+{
+    switch (command.vkey) {
+    case VK_RETURN:
+        return "Enter";
+    case VK_DELETE:
+        return "Del";
+    case VK_F2:
+    case VK_F5:
+        return "F" + std::to_string(command.vkey - VK_F1 + 1);
+    default:
+        return std::string("Ctrl+") + static_cast<char>(command.vkey);
+    }
+}
+
+} // namespace
+
+const CommandEntry* FindCommand(UINT nID)
+{
+    return Find([=](const CommandEntry& command) { return command.nID == nID; });
+}
+
+const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift)
+{
+    return Find(
+        [=](const CommandEntry& command) { return command.vkey == vkey && IsGivenBy(command.with, bControl, bShift); });
+}
+
+const CommandEntry* FindCommandOfWord(std::string_view word)
+{
+    return Find([=](const CommandEntry& command) { return command.pszWord && word == command.pszWord; });
+}
+
+std::unique_ptr<CMenu> MakeContextMenu(const CommandState& state)
+{
+    auto pMenu = std::make_unique<CMenu>();
+    if (!pMenu->CreatePopupMenu())
+        return nullptr;
+    for (const CommandEntry& command : kCommands) {
+        if (!command.pszMenu)
+            continue;
+        if (command.bSection && &command != kCommands)
+            pMenu->AppendMenu(MF_SEPARATOR);
+        const std::string text = command.pszMenu + ('\t' + KeyText(command));
+        pMenu->AppendMenu(MF_STRING | (state.*command.pCan ? MF_ENABLED : MF_GRAYED), command.nID, text.c_str());
+    }
+    return pMenu;
+}
+
+} // namespace editor

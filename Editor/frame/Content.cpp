@@ -1,0 +1,96 @@
+#include "Editor/frame/Content.h"
+
+#include "Editor/frame/Look.h"
+#include "Editor/pictures/IconPainter.h"
+#include "Editor/resources/EditorResources.h"
+#include "Editor/resources/Pictograms.h"
+
+namespace editor
+{
+
+Content::Content(PictureStore& pictures, CEditorList::Events events, std::function<void()> changed)
+    : m_pictures(pictures),
+      m_askShown(events.askShown),
+      m_changed(std::move(changed)),
+      m_icons(PictureSizeFor({kIconExtent, kIconExtent}), WithPainted(events)),
+      m_thumbnails({kThumbnailExtent, kThumbnailExtent}, WithPainted(events)),
+      m_picture(pictures)
+{}
+
+CEditorList::Events Content::WithPainted(CEditorList::Events events)
+{
+    events.painted = [this] { ForgetUnseenPictures(); };
+    return events;
+}
+
+bool Content::Create(CWnd* pFrame)
+{
+    if (!m_listPane.Create(pFrame) || !m_picturePane.Create(pFrame) || !m_icons.Create(&m_listPane) ||
+        !m_thumbnails.Create(&m_listPane) || !m_picture.Create(&m_picturePane))
+        return false;
+    m_listPane.SetChoices(
+        {GetPictogram(Pictogram::IconPane, kPaneIconExtent), GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent)},
+        [this](int nChoice) { ShowList(static_cast<ListKind>(nChoice)); });
+    return true;
+}
+
+void Content::MoveTo(const CRect& rect)
+{
+    m_listPane.MoveWindow(rect);
+    m_picturePane.MoveWindow(rect);
+}
+
+void Content::TakeFocus()
+{
+    if (IsPictureShown())
+        m_picture.SetFocus();
+    else if (m_pList->IsWindowVisible())
+        m_pList->SetFocus();
+}
+
+void Content::ShowList(ListKind kind)
+{
+    CEditorList& next = kind == ListKind::Icons ? static_cast<CEditorList&>(m_icons) : m_thumbnails;
+    CEditorList& former = *m_pList;
+    if (&next == &former)
+        return;
+    const CEditorList::State state = former.Remember();
+    const bool bFocused = ::GetFocus() == former.GetSafeHwnd();
+    m_pList = &next;
+    m_listPane.SetChosen(static_cast<int>(kind));
+    former.Deactivate();
+    next.Activate(IsPictureShown() ? nullptr : CStubRef<IAtom>::From(m_askShown()).Get());
+    next.RestoreRows(state);
+    if (bFocused)
+        next.SetFocus();
+    m_pictures.SendAwayUnseen(former.PictureSize(), [](IAtom*) { return false; });
+    m_changed();
+}
+
+void Content::ShowPicture(CMember* pMember, bool bKeepFocus)
+{
+    m_picture.SetAtom(pMember);
+    m_picturePane.ShowView(m_picture.GetSafeHwnd(), pMember->ShownName(),
+                           GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent));
+    if (!bKeepFocus)
+        m_picture.SetFocus();
+}
+
+void Content::HidePicture()
+{
+    if (!IsPictureShown())
+        return;
+    m_picture.SetAtom(nullptr);
+    m_picturePane.HideView();
+}
+
+// What was scrolled past is not worth reading. The tree's pictures are few, and small: it wishes for them again.
+void Content::ForgetUnseenPictures()
+{
+    if (m_pictures.IsIdle())
+        return;
+    const std::vector<CStubRef<IAtom>> seen = m_pList->AtomsInSight();
+    m_pictures.SendAwayUnseen(m_pList->PictureSize(), [&](IAtom* pAtom) { return IsAmong(seen, pAtom); });
+}
+
+} // namespace editor

@@ -1,0 +1,55 @@
+// The right side of the frame: one of two lists, or a picture.
+#pragma once
+
+#include "Editor/frame/EditorList.h"
+#include "Editor/frame/Pane.h"
+#include "Editor/frame/PictureView.h"
+
+namespace editor
+{
+
+enum class ListKind
+{
+    Icons,
+    Thumbnails
+};
+
+class Content
+{
+public:
+    // `pictures` is borrowed. `changed` is called when another list is shown. What Events::painted would be told is
+    // dealt with here.
+    Content(PictureStore& pictures, CEditorList::Events events, std::function<void()> changed);
+
+    bool Create(CWnd* pFrame);
+    void ActivateFirst() { m_pList->Activate(nullptr); } // before any view of the frame is made
+
+    CEditorList& GetList() { return *m_pList; } // the one that is shown, or will be
+    const CEditorList& GetList() const { return *m_pList; }
+    CPane& GetListPane() { return m_listPane; }
+    CPictureView& GetPicture() { return m_picture; }
+    bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
+    bool Is(HWND hWnd) const { return hWnd && (hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.GetSafeHwnd()); }
+
+    void MoveTo(const CRect& rect); // both panes; in the frame's client coordinates
+    void TakeFocus();
+    void ShowList(ListKind kind); // with the selection of the one before
+    // The picture takes the list's place, and the focus unless that is kept.
+    void ShowPicture(CMember* pMember, bool bKeepFocus);
+    void HidePicture();
+
+private:
+    CEditorList::Events WithPainted(CEditorList::Events events);
+    void ForgetUnseenPictures();
+
+    PictureStore& m_pictures;
+    const std::function<IAtomContainer*()> m_askShown;
+    const std::function<void()> m_changed;
+    CPane m_listPane, m_picturePane;
+    CEditorIcons m_icons;
+    CEditorThumbnails m_thumbnails;
+    CEditorList* m_pList = &m_icons; // the active one
+    CPictureView m_picture;
+};
+
+} // namespace editor

@@ -1,0 +1,234 @@
+#include "Editor/frame/FrameCommands.h"
+
+#include "Editor/disk/Trash.h"
+#include "Editor/objects/ErrorInfo.h"
+#include "Editor/resources/EditorResources.h"
+#include "Toolkit/window/MessageBox.h"
+#include "Views/clipboard/Naming.h"
+
+#include <algorithm>
+#include <set>
+
+namespace editor
+{
+namespace
+{
+
+bool UserAgrees(const std::string& question)
+{
+    const HWND hFocus = ::GetFocus();
+    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION);
+    ::SetFocus(hFocus);
+    return nAnswer == IDYES;
+}
+
+} // namespace
+
+// Whether there is anything to paste only the clipboard's owner knows, who may be another program that hangs: nobody
+// waits for it before a menu. Pasting tells what there is not.
+CommandState FrameCommands::GetState() const
+{
+    const ActiveMembers members = GetActiveMembers(m_parts.editor);
+    const ActiveMember* const pOne = members.size() == 1 ? &members.front() : nullptr;
+    const auto canGo = [](const ActiveMember& member) {
+        return (member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE) != 0;
+    };
+    const Navigation& navigation = m_parts.navigation;
+    CommandState state;
+    state.canOpen = pOne && pOne->pAtom.Get() != navigation.Shown();
+    state.canCarry = !members.empty();
+    state.canRemove = state.canCarry && std::all_of(members.begin(), members.end(), canGo);
+    state.canRename = pOne && CanRenameObject(pOne->pAtom.Get(), pOne->pContainer.Get());
+    state.canPaste = navigation.ShownContainer() != nullptr;
+    state.canSelectAll = !m_parts.content.IsPictureShown() && List().GetItemCount() > 0 && !List().AreAllSelected();
+    return state;
+}
+
+void FrameCommands::OpenSelected()
+{
+    const ActiveMembers members = GetActiveMembers(m_parts.editor);
+    CMember* const pMember = members.size() == 1 ? CMember::Of(members.front().pAtom.Get()) : nullptr;
+    if (pMember)
+        m_parts.navigation.GoTo(pMember);
+}
+
+void FrameCommands::RenameSelected()
+{
+    m_parts.editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomRename, nullptr, nullptr, 0);
+}
+
+void FrameCommands::SelectAll()
+{
+    List().SetFocus();
+    List().SetItemState(-1, LVIS_SELECTED, LVIS_SELECTED);
+}
+
+void FrameCommands::CopySelection()
+{
+    if (m_commands.CountSelected() > 0)
+        ShowFailure(IDS_COPY_FAILED, CarryAsAgreed([this] { return Copy(); }));
+}
+
+void FrameCommands::CutSelection()
+{
+    if (m_commands.CountSelected() > 0)
+        ShowFailure(IDS_CUT_FAILED, CarryAsAgreed([this] { return Cut(); }));
+}
+
+// What cannot be carried is named, and the rest goes when the user agrees.
+template <class Carry>
+std::string FrameCommands::CarryAsAgreed(Carry carry)
+{
+    std::string reason = carry();
+    if (reason.empty() || !m_parts.editor.CanLeaveOut())
+        return reason;
+    if (!UserAgrees(reason + ".\n\nGo on with the rest?"))
+        return {};
+    const CAtomEditor::LeavingOut agreed(m_parts.editor);
+    return carry();
+}
+
+// What goes to the trash can be fetched back; what no trash takes, the user is asked about once more.
+void FrameCommands::RemoveSelection()
+{
+    if (m_commands.CountSelected() == 0 || !UserAgrees(m_commands.RemoveQuestion()))
+        return;
+    const int nMissed = CountMissedTrashes();
+    std::string reason = Remove();
+    if (CountMissedTrashes() > nMissed && m_commands.CountSelected() > 0) {
+        if (!UserAgrees(reason + ".\n\n" + m_commands.RemoveQuestion(Removal::ForGood)))
+            return;
+        const PermanentRemoval agreed;
+        reason = Remove();
+    }
+    ShowFailure(IDS_REMOVE_FAILED, std::move(reason));
+}
+
+void FrameCommands::PasteHere()
+{
+    bool bAny = false;
+    std::string reason = PasteAnd(bAny);
+    ShowFailure(bAny ? IDS_PASTE_FAILED : IDS_NOTHING_PASTED, std::move(reason));
+}
+
+bool FrameCommands::SaveOrTell()
+{
+    const std::string failure = Save();
+    ShowFailure(IDS_SAVE_FAILED, failure);
+    return failure.empty();
+}
+
+std::string FrameCommands::Save()
+{
+    std::string failure = m_parts.modified.Save();
+    m_parts.updateStatus();
+    return failure;
+}
+
+std::string FrameCommands::Cut()
+{
+    return ChangeSelection([this] { return m_commands.Cut(); });
+}
+
+std::string FrameCommands::Remove()
+{
+    return ChangeSelection([this] { return m_commands.Remove(); });
+}
+
+std::string FrameCommands::Paste()
+{
+    bool bAny = false;
+    return PasteAnd(bAny);
+}
+
+std::string FrameCommands::PasteAnd(bool& bAny)
+{
+    const auto pTarget = CStubRef<CContainer>::Share(m_parts.navigation.ShownContainer());
+    std::vector<CStubRef<IAtom>> arrived;
+    std::string reason = m_commands.Paste(pTarget.Get(), arrived);
+    bAny = !arrived.empty();
+    if (bAny)
+        SelectJust(arrived);
+    return reason;
+}
+
+// A view that is told of an atom takes one of the same name in another case for it: the list's rows are those of the
+// atoms themselves. New ones are the last.
+void FrameCommands::SelectJust(const std::vector<CStubRef<IAtom>>& atoms)
+{
+    CContainer* const pContainer = m_parts.navigation.ShownContainer();
+    m_commands.Select({}, pContainer);
+    std::set<IAtom*> wanted;
+    for (const CStubRef<IAtom>& pAtom : atoms)
+        wanted.insert(pAtom.Get());
+    {
+        const CAtomEditor::Silence silence(m_parts.editor);
+        for (int i = List().GetItemCount() - 1; i >= 0 && !wanted.empty(); --i)
+            if (wanted.erase(List().GetAtom(i).Get()) > 0)
+                List().SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+    }
+    if (!atoms.empty())
+        m_parts.editor.NotifyHandlers(List().Handler(), &IAEStateHandler::OnAtomSelected, atoms.back().Get(),
+                                      pContainer, 0);
+    List().FocusSelection();
+    m_parts.updateStatus();
+}
+
+// The list loads its rows anew: the user goes on where the selection was.
+template <class Change>
+std::string FrameCommands::ChangeSelection(Change change)
+{
+    const Position position = RememberPosition();
+    std::string reason = change();
+    GoOnAt(position);
+    return reason;
+}
+
+FrameCommands::Position FrameCommands::RememberPosition() const
+{
+    return {CStubRef<CMember>::Share(m_parts.navigation.Shown()), List().Remember()};
+}
+
+// What was not saved of a phase that went has gone with it: in the archive that took it away, or by the user's wish.
+void FrameCommands::GoOnAt(const Position& position)
+{
+    m_parts.modified.ForgetGone();
+    m_parts.navigation.LeaveWhatIsGone();
+    if (m_parts.navigation.Shown() == position.pShown.Get() && !m_parts.content.IsPictureShown())
+        List().Restore(position.list);
+    m_parts.updateStatus();
+}
+
+void FrameCommands::Refresh()
+{
+    m_parts.pictures.Recheck();
+    if (m_parts.content.IsPictureShown())
+        return m_parts.content.GetPicture().OnPictureArrived();
+    const auto pContainer = CStubRef<CContainer>::Share(dynamic_cast<CContainer*>(m_parts.navigation.Shown()));
+    if (!pContainer)
+        return;
+    ReadAgain(*pContainer.Get());
+    m_parts.updateStatus();
+}
+
+std::string FrameCommands::RefreshQuietly()
+{
+    Refresh();
+    return {};
+}
+
+void FrameCommands::ReadAgain(CContainer& container)
+{
+    const CEditorList::State state = List().Remember();
+    container.ReadAgain();
+    m_parts.editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, &container, 0);
+    List().Restore(state);
+}
+
+void FrameCommands::ShowFailure(UINT nCaptionID, std::string reason) const
+{
+    if (!reason.empty())
+        ShowAtomError(m_parts.editor.GetMainWindow(), nCaptionID, CErrorInfo::Make(std::move(reason)).Get());
+}
+
+} // namespace editor

@@ -1,0 +1,77 @@
+// What the user does to what is selected: asked where something would be lost, told what could not be done.
+#pragma once
+
+#include "Editor/frame/CommandTable.h"
+#include "Editor/frame/Content.h"
+#include "Editor/frame/ModifiedPhases.h"
+#include "Editor/frame/Navigation.h"
+#include "Editor/services/Commands.h"
+
+namespace editor
+{
+
+class FrameCommands
+{
+public:
+    struct Parts // all borrowed
+    {
+        CAtomEditor& editor;
+        PictureStore& pictures;
+        Navigation& navigation;
+        Content& content;
+        ModifiedPhases& modified;
+        std::function<void()> updateStatus;
+    };
+    explicit FrameCommands(Parts parts) : m_parts(std::move(parts)), m_commands(m_parts.editor) {}
+
+    Commands& GetPlain() { return m_commands; }
+    CommandState GetState() const;
+
+    // Nothing is asked, and the answer is the reason for what was not done.
+    std::string Copy() { return m_commands.Copy(); }
+    std::string Cut();
+    std::string Remove();
+    std::string Paste(); // into the container that is shown
+    std::string Save();  // all phases that are modified; the reason for the first that was not saved
+    std::string RefreshQuietly();
+    // These members of the container that is shown and no others. The views hear of the last alone, however many.
+    void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
+
+    // The same by keys and menu: nothing when nothing is selected. A message box tells what was not done.
+    void CopySelection();
+    void CutSelection();
+    void RemoveSelection(); // asks first
+    void PasteHere();
+    bool SaveOrTell();   // was all saved?
+    void OpenSelected(); // the one that is
+    void RenameSelected();
+    void SelectAll(); // in the list
+    void Refresh();   // reads what is shown anew
+    void ShowIcons() { m_parts.content.ShowList(ListKind::Icons); }
+    void ShowThumbnails() { m_parts.content.ShowList(ListKind::Thumbnails); }
+
+    void ReadAgain(CContainer& container);                       // the list keeps its selection
+    void ShowFailure(UINT nCaptionID, std::string reason) const; // empty: nothing
+
+    // Where the user is, for a change that loads the list's rows anew.
+    struct Position
+    {
+        CStubRef<CMember> pShown;
+        CEditorList::State list;
+    };
+    Position RememberPosition() const;
+    void GoOnAt(const Position& position); // as far as it is still there
+
+private:
+    std::string PasteAnd(bool& bAny); // did any object come?
+    template <class Carry>
+    std::string CarryAsAgreed(Carry carry);
+    template <class Change>
+    std::string ChangeSelection(Change change);
+    CEditorList& List() const { return m_parts.content.GetList(); }
+
+    const Parts m_parts;
+    Commands m_commands;
+};
+
+} // namespace editor

@@ -1,0 +1,32 @@
+// The phases whose numbers have been changed since they were saved.
+#pragma once
+
+#include "Editor/frame/PropertiesPane.h"
+#include "Editor/services/AtomEditor.h"
+
+namespace editor
+{
+
+class ModifiedPhases
+{
+public:
+    using Phases = CPropertiesPane::Phases;
+
+    explicit ModifiedPhases(CAtomEditor& editor) : m_editor(editor) {} // borrowed
+
+    std::string SaveQuestion() const; // what a user who leaves is asked; empty when nothing is modified
+
+    void Add(const Phases& phases); // everyone is told that they have changed
+    // One is no member any more; its numbers go to what it has become, if anything.
+    void Forget(IAtom* pGone, CMember* pRenamed);
+    void ForgetGone();  // all that are no members any more
+    std::string Save(); // all; the reason for the first that was not saved
+
+private:
+    void TellOfChange(CPhase* pPhase);
+
+    CAtomEditor& m_editor;
+    Phases m_phases; // each once; some may be as they were saved again
+};
+
+} // namespace editor

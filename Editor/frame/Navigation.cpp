@@ -1,0 +1,82 @@
+#include "Editor/frame/Navigation.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+bool IsThere(CMember* pMember)
+{
+    return !pMember->Container() || pMember->Container()->FindAtomByID(pMember->GetID(), nullptr, 0);
+}
+
+} // namespace
+
+CMember* WhatIsLeftOf(CMember* pMember)
+{
+    CMember* pLeft = pMember;
+    for (; pMember; pMember = pMember->Container())
+        if (!IsThere(pMember))
+            pLeft = pMember->Container();
+    return pLeft;
+}
+
+CContainer* Navigation::ShownContainer() const
+{
+    if (auto* const pContainer = dynamic_cast<CContainer*>(Shown()))
+        return pContainer;
+    return Shown() ? Shown()->Container() : nullptr;
+}
+
+std::vector<CMember*> Navigation::Path() const
+{
+    std::vector<CMember*> path;
+    for (CMember* pMember = Shown(); pMember; pMember = pMember->Container())
+        path.push_back(pMember);
+    std::reverse(path.begin(), path.end());
+    return path;
+}
+
+void Navigation::GoTo(CMember* pMember)
+{
+    const auto pHeld = CStubRef<CMember>::Share(pMember);
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomEntered, pMember, pMember->Container(), 0);
+}
+
+void Navigation::GoUp()
+{
+    if (Shown() && Shown()->Container())
+        GoBackTo(Shown()->Container());
+}
+
+void Navigation::GoToPart(int nPart)
+{
+    const std::vector<CMember*> path = Path();
+    if (nPart + 1 < static_cast<int>(path.size()))
+        GoBackTo(path[static_cast<std::size_t>(nPart) + 1]->Container());
+}
+
+// What one came from is selected there.
+void Navigation::GoBackTo(CContainer* pContainer)
+{
+    CMember* pFrom = Shown();
+    while (pFrom && pFrom->Container() != pContainer)
+        pFrom = pFrom->Container();
+    const auto pHeld = CStubRef<CMember>::Share(pFrom);
+    GoTo(pContainer);
+    if (!pFrom)
+        return;
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, pFrom, pContainer, 0);
+    m_cameBack();
+}
+
+void Navigation::LeaveWhatIsGone()
+{
+    CMember* const pStay = WhatIsLeftOf(Shown());
+    if (pStay && pStay != Shown())
+        GoTo(pStay);
+}
+
+} // namespace editor

@@ -1,0 +1,44 @@
+// What of the library is shown, and the ways from there.
+#pragma once
+
+#include "Editor/model/Container.h"
+#include "Editor/services/AtomEditor.h"
+
+#include <functional>
+
+namespace editor
+{
+
+// The innermost container that is still there, or the member itself when all of them are; NULL for NULL.
+CMember* WhatIsLeftOf(CMember* pMember);
+
+// Where the user wants to go it tells the editor, and all views follow; what they follow to it hears by SetShown.
+class Navigation
+{
+public:
+    // The editor is borrowed. `cameBack` is called when what one came from has been selected.
+    Navigation(CAtomEditor& editor, std::function<void()> cameBack) : m_editor(editor), m_cameBack(std::move(cameBack))
+    {}
+
+    CMember* Shown() const { return m_pShown.Get(); } // a container, or the picture shown in its place; or NULL
+    CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
+    std::vector<CMember*> Path() const;               // from the top to what is shown; borrowed
+
+    void SetTop(CMember* pTop) { m_pTop = CStubRef<CMember>::Share(pTop); }
+    void SetShown(CMember* pMember) { m_pShown = CStubRef<CMember>::Share(pMember); }
+
+    void GoTo(CMember* pMember); // opens it, whatever it is
+    void GoUp();                 // nothing at the top
+    void GoToTop() { GoTo(m_pTop.Get()); }
+    void GoToPart(int nPart); // of the path
+    void LeaveWhatIsGone();   // for the innermost container that is still there
+
+private:
+    void GoBackTo(CContainer* pContainer);
+
+    CAtomEditor& m_editor;
+    const std::function<void()> m_cameBack;
+    CStubRef<CMember> m_pTop, m_pShown;
+};
+
+} // namespace editor

@@ -1,0 +1,16 @@
+// What the frame says about what it shows.
+#pragma once
+
+#include "Editor/frame/EditorList.h"
+#include "Editor/frame/StatusBar.h"
+#include "Editor/model/Member.h"
+#include "Editor/pictures/PictureStore.h"
+
+namespace editor
+{
+
+Status DescribePicture(const CMember& picture, const PictureStore& pictures);
+Status DescribeList(const CEditorList& list, const CMember* pShown, const PictureStore& pictures); // pShown may be NULL
+std::string DescribeEmptyList(const CMember* pShown);                                              // may be NULL
+
+} // namespace editor
