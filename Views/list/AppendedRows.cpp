@@ -40,8 +40,9 @@ void views::AppendedRows::Add(const std::vector<ENTRY>& entries, int nEnd)
 std::vector<int> views::AppendedRows::Find(std::size_t hash) const
 {
     std::vector<int> rows;
-    std::ranges::transform(std::ranges::equal_range(m_entries, hash, {}, &ENTRY::hash), std::back_inserter(rows),
-                           &ENTRY::nRow);
+    for (auto p = std::ranges::lower_bound(m_entries, hash, {}, &ENTRY::hash); p != m_entries.end() && p->hash == hash;
+         ++p)
+        rows.push_back(p->nRow);
     return rows;
 }
 

@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <cstring>
-#include <ranges>
 
 namespace
 {
@@ -90,19 +89,24 @@ int CObjectsList::FindRow(IAtom* pAtom)
 // for names that have changed without a word.
 int CObjectsList::FindEqualRow(IAtom* pAtom)
 {
-    const auto isBefore = [&](int nRow) {
-        const CStubRef<IAtom> pRow = HoldAtom(nRow);
-        return CompareFunc(&pRow, &pAtom) < 0;
-    };
-    const auto ordered = std::views::iota(0, m_nOrdered);
-    const auto halved = std::ranges::partition_point(ordered, isBefore);
-    if (halved != ordered.end() && IsSame(*halved, pAtom))
-        return *halved;
+    int nHalved = 0;
+    for (int nEnd = m_nOrdered; nHalved < nEnd;) {
+        const int nMiddle = nHalved + (nEnd - nHalved) / 2;
+        const CStubRef<IAtom> pRow = HoldAtom(nMiddle);
+        if (CompareFunc(&pRow, &pAtom) < 0)
+            nHalved = nMiddle + 1;
+        else
+            nEnd = nMiddle;
+    }
+    if (nHalved < m_nOrdered && IsSame(nHalved, pAtom))
+        return nHalved;
     if (const int nAppended = FindAppendedRow(pAtom); nAppended >= 0)
         return nAppended;
-    const auto all = std::views::iota(0, static_cast<int>(m_atoms.size()));
-    const auto found = std::ranges::find_if(all, [&](int nRow) { return IsSame(nRow, pAtom); });
-    return found != all.end() ? *found : -1;
+    for (int nRow = 0; nRow < static_cast<int>(m_atoms.size()); ++nRow) {
+        if (IsSame(nRow, pAtom))
+            return nRow;
+    }
+    return -1;
 }
 
 bool CObjectsList::IsSame(int nRow, IAtom* pAtom) const
