@@ -8,7 +8,7 @@
 namespace editor
 {
 
-Content::Content(PictureStore& pictures, CEditorList::Events events, std::function<void()> changed)
+Content::Content(PictureStore& pictures, const CEditorList::Events& events, std::function<void()> changed)
     : m_pictures(pictures),
       m_askShown(events.askShown),
       m_changed(std::move(changed)),

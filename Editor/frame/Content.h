@@ -19,7 +19,7 @@ class Content
 public:
     // `pictures` is borrowed. `changed` is called when another list is shown. What Events::painted would be told is
     // dealt with here.
-    Content(PictureStore& pictures, CEditorList::Events events, std::function<void()> changed);
+    Content(PictureStore& pictures, const CEditorList::Events& events, std::function<void()> changed);
 
     bool Create(CWnd* pFrame);
     void ActivateFirst() { m_pList->Activate(nullptr); } // before any view of the frame is made

@@ -52,7 +52,7 @@ std::string DescribeEmptyList(const CMember* pShown)
 {
     if (!pShown)
         return {};
-    const std::string error = pShown->ErrorLine();
+    std::string error = pShown->ErrorLine();
     if (!error.empty())
         return error;
     return dynamic_cast<const CPhase*>(pShown) ? "This phase names no pictures." : "There are no pictures here.";

@@ -55,10 +55,8 @@ public:
     constexpr CRect() : RECT{0, 0, 0, 0} {}
     constexpr CRect(int nLeft, int nTop, int nRight, int nBottom) : RECT{nLeft, nTop, nRight, nBottom} {}
     constexpr CRect(const RECT& rect) : RECT(rect) {}
-    constexpr CRect(CPoint topLeft, CSize size)
-        : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy}
-    {
-    }
+    constexpr CRect(CPoint topLeft, CSize size) : RECT{topLeft.x, topLeft.y, topLeft.x + size.cx, topLeft.y + size.cy}
+    {}
 
     constexpr int Width() const { return right - left; }
     constexpr int Height() const { return bottom - top; }

@@ -39,6 +39,8 @@ using HBRUSH = struct HBRUSH__*;
 using HICON = struct HICON__*;
 using HIMAGELIST = struct HIMAGELIST__*;
 
+// clang-format off
+
 // The low and the high 16 bits of a 32-bit value.
 constexpr WORD LOWORD(UINT_PTR value) { return static_cast<WORD>(value & 0xFFFF); }
 constexpr WORD HIWORD(UINT_PTR value) { return static_cast<WORD>((value >> 16) & 0xFFFF); }
@@ -63,3 +65,5 @@ constexpr COLORREF RGB(int red, int green, int blue)
 constexpr BYTE GetRValue(COLORREF color) { return static_cast<BYTE>(color); }
 constexpr BYTE GetGValue(COLORREF color) { return static_cast<BYTE>(color >> 8); }
 constexpr BYTE GetBValue(COLORREF color) { return static_cast<BYTE>(color >> 16); }
+
+// clang-format on

@@ -92,14 +92,14 @@ struct LVHITTESTINFO
 
 // Notifications. An ITEMCHANGING answered with non-zero is refused. Row -1 stands for all rows.
 inline constexpr UINT LVN_FIRST = NotifyCode(-100);
-inline constexpr UINT LVN_ITEMCHANGING = LVN_FIRST - 0; // NMLISTVIEW
-inline constexpr UINT LVN_ITEMCHANGED = LVN_FIRST - 1;  // NMLISTVIEW
+inline constexpr UINT LVN_ITEMCHANGING = LVN_FIRST - 0;   // NMLISTVIEW
+inline constexpr UINT LVN_ITEMCHANGED = LVN_FIRST - 1;    // NMLISTVIEW
 inline constexpr UINT LVN_BEGINLABELEDIT = LVN_FIRST - 5; // NMLVDISPINFO: the row and its label; non-zero refuses
 inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;   // NMLVDISPINFO: pszText is NULL when cancelled
-inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;    // NMLISTVIEW: the row pressed and where
-inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11;  // the same with the right button
-inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13; // NMLVCACHEHINT: rows about to be drawn
-inline constexpr UINT LVN_GETDISPINFO = LVN_FIRST - 50; // NMLVDISPINFO: fill in what item.mask asks for
+inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;      // NMLISTVIEW: the row pressed and where
+inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11;    // the same with the right button
+inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13;   // NMLVCACHEHINT: rows about to be drawn
+inline constexpr UINT LVN_GETDISPINFO = LVN_FIRST - 50;   // NMLVDISPINFO: fill in what item.mask asks for
 
 struct NMLISTVIEW
 {

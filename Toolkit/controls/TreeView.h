@@ -43,8 +43,8 @@ inline constexpr UINT TVM_ENDEDITLABELNOW = TV_FIRST + 22; // wParam: cancel?
 inline constexpr UINT TVM_GETITEMHEIGHT = TV_FIRST + 28;
 inline constexpr UINT TVM_GETITEMSTATE = TV_FIRST + 39; // wParam: item, lParam: mask; the states
 // Ours; lParam: TVARRANGECHILDREN*. What TVM_SORTCHILDRENCB with a comparison by place comes to, at the cost of one
-// look at each child. FALSE, and nothing changes, when it does not name each child of the item once. Who knows that their
-// labels are in order then, too, says so: the next sorted insertion need not read them all to find out.
+// look at each child. FALSE, and nothing changes, when it does not name each child of the item once. Who knows that
+// their labels are in order then, too, says so: the next sorted insertion need not read them all to find out.
 inline constexpr UINT TVM_ARRANGECHILDREN = TV_FIRST + 0x80;
 
 inline constexpr UINT TVSIL_NORMAL = 0;

@@ -6,8 +6,11 @@
 #include "Toolkit/window/Menu.h"
 
 DesktopTest::DesktopTest()
-    : m_counts(toolkit::CountWindows()), m_nGdiObjects(toolkit::CountGdiObjects()), m_nMenus(toolkit::CountMenus()),
-      m_nBlocks(toolkit::CountGlobalBlocks()), m_nFiles(toolkit::CountOpenFiles())
+    : m_counts(toolkit::CountWindows()),
+      m_nGdiObjects(toolkit::CountGdiObjects()),
+      m_nMenus(toolkit::CountMenus()),
+      m_nBlocks(toolkit::CountGlobalBlocks()),
+      m_nFiles(toolkit::CountOpenFiles())
 {}
 
 DesktopTest::~DesktopTest()
