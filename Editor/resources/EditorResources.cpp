@@ -1,6 +1,7 @@
 #include "Editor/resources/EditorResources.h"
 
 #include "Editor/resources/Pictograms.h"
+#include "Views/host/Resources.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,11 +12,11 @@ namespace
 {
 
 constexpr std::pair<UINT, LPCSTR> kTexts[] = {
-    {IDS_NAME_FAILED, "The name cannot be shown"},
-    {IDS_NOT_INSERTED, "An object could not be added to the tree."},
-    {IDS_TREE_PANE, "Library"},
-    {IDS_RENAME_FAILED, "The name was not changed"},
-    {IDS_CONFIRM_REMOVE, "Remove the selected objects?"},
+    {views::IDS_NAME_FAILED, "The name cannot be shown"},
+    {views::IDS_NOT_INSERTED, "An object could not be added to the tree."},
+    {views::IDS_TREE_PANE, "Library"},
+    {views::IDS_RENAME_FAILED, "The name was not changed"},
+    {views::IDS_CONFIRM_REMOVE, "Remove the selected objects?"},
     {IDS_COPY_FAILED, "Nothing was copied"},
     {IDS_CUT_FAILED, "Nothing was cut"},
     {IDS_PASTE_FAILED, "Not everything was pasted"},
@@ -61,14 +62,14 @@ void AddEditorResources(CResourceModule& module)
 {
     for (const auto& [nID, pszText] : kTexts)
         module.AddString(nID, pszText);
-    module.AddBitmap(IDB_FOLDER, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
-    module.AddBitmap(IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
-    module.AddBitmap(IDB_TREE_ITEMS,
+    module.AddBitmap(views::IDB_LIST_ITEMS, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
+    module.AddBitmap(views::IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
+    module.AddBitmap(views::IDB_TREE_ITEMS,
                      WithTransparentColor(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),
                                                      DrawPictogram(Pictogram::Folder, kTreeIconExtent))));
-    AddPane(module, IDR_TREE_PANE, "Library", Pictogram::TreePane);
-    AddPane(module, IDR_ICON_PANE, "Icons", Pictogram::IconPane);
-    AddPane(module, IDR_THUMBNAIL_PANE, "Pictures", Pictogram::ThumbnailPane);
+    AddPane(module, views::IDR_TREE_PANE, "Library", Pictogram::TreePane);
+    AddPane(module, views::IDR_ICON_PANE, "Icons", Pictogram::IconPane);
+    AddPane(module, views::IDR_THUMBNAIL_PANE, "Pictures", Pictogram::ThumbnailPane);
 }
 
 } // namespace editor

@@ -9,15 +9,6 @@
 
 namespace editor
 {
-namespace
-{
-
-constexpr const char* kEditorService = "GetAtomEditorSv";
-constexpr const char* kErrorService = "ShowErrorSv";
-constexpr const char* kStreamService = "ConstructMemoryStream";
-constexpr const char* kArchiveClass = "CArchiveImp";
-
-} // namespace
 
 Services::Services(CAtomEditor& editor)
 {
@@ -27,19 +18,19 @@ Services::Services(CAtomEditor& editor)
     m_editor.pTable = &editorTable;
     m_editor.pEditor = &editor;
     m_errors.pTable = &errorTable;
-    SRVN_InstallProvider(kEditorService, &m_editor);
-    SRVN_InstallProvider(kErrorService, &m_errors);
+    SRVN_InstallProvider(views::kAtomEditorService, &m_editor);
+    SRVN_InstallProvider(views::kErrorService, &m_errors);
     m_streams.pTable = &streamTable;
-    SRVN_InstallProvider(kStreamService, &m_streams);
-    KRNL_RegisterClass(kArchiveClass, []() -> CStubBaseInterface* { return new (std::nothrow) CArchive; });
+    SRVN_InstallProvider(views::kMemoryStreamService, &m_streams);
+    KRNL_RegisterClass(views::kArchiveClass, []() -> CStubBaseInterface* { return new (std::nothrow) CArchive; });
 }
 
 Services::~Services()
 {
-    SRVN_InstallProvider(kEditorService, nullptr);
-    SRVN_InstallProvider(kErrorService, nullptr);
-    SRVN_InstallProvider(kStreamService, nullptr);
-    KRNL_RegisterClass(kArchiveClass, nullptr);
+    SRVN_InstallProvider(views::kAtomEditorService, nullptr);
+    SRVN_InstallProvider(views::kErrorService, nullptr);
+    SRVN_InstallProvider(views::kMemoryStreamService, nullptr);
+    KRNL_RegisterClass(views::kArchiveClass, nullptr);
 }
 
 BOOL Services::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD)

@@ -44,7 +44,7 @@ CStubRef<IArchive> MakeArchive()
 {
     const auto pKernel = CStubRef<IKernel>::Adopt(KRNL_GetKernel());
     CStubRef<IArchive> pArchive;
-    if (!pKernel->CreateObject("CArchiveImp", pArchive.Receive(), IID_IArchive))
+    if (!pKernel->CreateObject(views::kArchiveClass, pArchive.Receive(), IID_IArchive))
         return nullptr;
     return pArchive;
 }

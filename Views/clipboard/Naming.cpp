@@ -6,13 +6,12 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/IMyErrorInfo.h"
 #include "Views/host/ReadName.h"
+#include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
 
 namespace
 {
-
-constexpr UINT kRenameFailed = 0xE012;
 
 // The one that was given, else the one that holds the atom.
 CStubRef<IAtomContainer> ContainerOf(IAtom* pAtom, IAtomContainer* pContainer)
@@ -45,7 +44,7 @@ void ShowRenameError(IAtomContainer* pContainer)
 {
     try {
         CString strCaption;
-        strCaption.LoadString(kRenameFailed);
+        strCaption.LoadString(views::IDS_RENAME_FAILED);
         const auto pError = CStubRef<IMyErrorInfo>::From(pContainer);
         views::ShowAtomError(nullptr, strCaption, pError.Get());
     } catch (CMemoryException& e) {

@@ -6,18 +6,17 @@
 #include "Views/clipboard/Commands.h"
 #include "Views/clipboard/RemovedAtoms.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 
 namespace
 {
 
-constexpr UINT kRemoveQuestion = 0xE013;
-
 // A question that cannot be asked has not been answered with yes.
 bool UserAgrees()
 try {
     CString strQuestion;
-    strQuestion.LoadString(kRemoveQuestion);
+    strQuestion.LoadString(views::IDS_CONFIRM_REMOVE);
     const HWND hFocus = ::GetFocus();
     const int nAnswer = AfxMessageBox(strQuestion, MB_YESNO);
     if (hFocus)

@@ -3,7 +3,7 @@
 
 IAtomEditor* GetAtomEditor()
 {
-    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID("GetAtomEditorSv");
+    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID(views::kAtomEditorService);
     IAtomEditor* pEditor = nullptr;
     return CallService(s_pService, &pEditor, sizeof pEditor, 0) ? pEditor : nullptr;
 }

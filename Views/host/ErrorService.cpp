@@ -11,7 +11,7 @@ void ShowAtomError(HWND owner, UINT nCaptionID, IMyErrorInfo* error)
 
 void views::ShowAtomError(HWND owner, LPCSTR pszCaption, IMyErrorInfo* error)
 {
-    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID("ShowErrorSv");
+    static SERVICEREC* const s_pService = SRVN_GetUniqueServiceID(kErrorService);
     ERRORREQUEST request{owner, pszCaption, error};
     CallService(s_pService, &request, sizeof request, 0);
 }

@@ -2,6 +2,7 @@
 
 #include "Kernel/Kernel.h"
 #include "Views/host/LoadedServices.h"
+#include "Views/host/Services.h"
 
 // All that the library does at load, in one file because only there the order is certain. The order is part of
 // the contract with the kernel, which may number the names as they come.
@@ -17,4 +18,4 @@ const DWORD IID_IAtomIcon = INT_GetUniqueInterfaceID("IAtomIcon");
 const DWORD IID_IMyErrorInfo = INT_GetUniqueInterfaceID("IMyErrorInfo");
 const DWORD IID_IAtomThumbnail = INT_GetUniqueInterfaceID("IAtomThumbnail");
 
-SERVICEREC* const g_pMemoryStreamService = SRVN_GetUniqueServiceID("ConstructMemoryStream");
+SERVICEREC* const g_pMemoryStreamService = SRVN_GetUniqueServiceID(views::kMemoryStreamService);

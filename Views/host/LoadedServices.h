@@ -3,5 +3,5 @@
 
 #include "Kernel/ServiceRec.h"
 
-// "ConstructMemoryStream". 4 bytes out (a pointer's size): a new IMemoryStream, with a reference for the caller.
+// A pointer's size out: a new IMemoryStream, with a reference for the caller.
 extern SERVICEREC* const g_pMemoryStreamService;

@@ -1,4 +1,4 @@
-// Calling the host's services.
+// The host's services, and calling them.
 #pragma once
 
 #include "Kernel/ServiceRec.h"
@@ -7,7 +7,18 @@
 class IAtomEditor;
 class IMyErrorInfo;
 
-// What "ShowErrorSv" is asked with; the service shows the error to the user.
+namespace views
+{
+// What a host provides under these names (Kernel/Kernel.h) before the first view is created. A view does without what
+// is missing: without an atom editor it tells and asks nobody, without the others it shows no error and carries
+// nothing.
+inline constexpr LPCSTR kAtomEditorService = "GetAtomEditorSv";         // an IAtomEditor*, with a reference
+inline constexpr LPCSTR kErrorService = "ShowErrorSv";                  // asked with an ERRORREQUEST
+inline constexpr LPCSTR kMemoryStreamService = "ConstructMemoryStream"; // a new IMemoryStream*, with a reference
+inline constexpr LPCSTR kArchiveClass = "CArchiveImp";                  // of the kernel object: an IArchive
+} // namespace views
+
+// What the error service is asked with; it shows the error to the user.
 struct ERRORREQUEST
 {
     HWND hOwner;          // the window that the message belongs to; may be NULL

@@ -2,13 +2,12 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomIcon.h"
+#include "Views/host/Resources.h"
 
 namespace
 {
 
 constexpr UINT kPaneKind = 1;
-constexpr UINT kPaneResource = 1008;
-constexpr UINT kDefaultImages = 1006;
 constexpr int kImageWidth = 48;
 constexpr int kImagesToGrow = 4;
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
@@ -19,7 +18,7 @@ BEGIN_MESSAGE_MAP(CIconList, CObjectsList)
     ON_WM_CREATE()
 END_MESSAGE_MAP()
 
-CIconList::CIconList(int bPassive) : CObjectsList(kPaneKind, kPaneResource, bPassive) {}
+CIconList::CIconList(int bPassive) : CObjectsList(kPaneKind, views::IDR_ICON_PANE, bPassive) {}
 
 CIconList::~CIconList()
 {
@@ -32,7 +31,7 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     if (CObjectsList::OnCreate(lpCreateStruct) == -1)
         return -1;
     try {
-        m_images.Create(kDefaultImages, kImageWidth, kImagesToGrow, kTransparent);
+        m_images.Create(views::IDB_LIST_ITEMS, kImageWidth, kImagesToGrow, kTransparent);
     } catch (const CMemoryException&) {
         // As without the bitmap.
     }

@@ -5,9 +5,9 @@
 #include "Views/list/FreeImages.h"
 #include "Views/list/ObjectsList.h"
 
-// Pictures are 48 pixels wide and as high as the host's bitmap resource 1006, whose first picture serves atoms without
-// an icon. The images of rows that leave the cache are used again for rows that enter it, the longest unused
-// first. The pane's caption and icon are the host's resource 1008.
+// Pictures are 48 pixels wide and as high as the host's bitmap IDB_LIST_ITEMS (Resources.h), whose first picture serves
+// atoms without an icon. The images of rows that leave the cache are used again for rows that enter it, the longest
+// unused first. The pane's caption and icon are the host's resource IDR_ICON_PANE.
 class VIEWS_API CIconList : public CObjectsList
 {
 public:

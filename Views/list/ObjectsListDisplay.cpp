@@ -4,6 +4,7 @@
 #include "Views/host/IDispAtom.h"
 #include "Views/host/IMyErrorInfo.h"
 #include "Views/host/ReadName.h"
+#include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/list/ObjectsList.h"
 
@@ -13,7 +14,6 @@ namespace
 {
 
 constexpr int kCacheLimit = 1024;
-constexpr UINT kNameErrorCaption = 0xE00A;
 
 } // namespace
 
@@ -89,7 +89,7 @@ bool CObjectsList::ReadText(IAtom* pAtom, CString& strText)
             return true;
         const auto pError =
             pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
-        ShowAtomError(m_hWnd, kNameErrorCaption, pError.Get());
+        ShowAtomError(m_hWnd, views::IDS_NAME_FAILED, pError.Get());
         return false;
     } catch (CMemoryException& e) {
         e.ReportError();

@@ -1,12 +1,11 @@
 #include "Views/list/ThumbList.h"
 
+#include "Views/host/Resources.h"
+
 namespace
 {
 
 constexpr UINT kPaneKind = 1;
-constexpr UINT kPaneResource = 1009;
-constexpr UINT kFolderBitmap = 1006;
-constexpr UINT kMarkerBitmap = 1011;
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
 constexpr COLORREF kBackColor = RGB(222, 247, 254);
 constexpr int kExtent = 128;
@@ -25,12 +24,12 @@ END_MESSAGE_MAP()
 
 CThumbList::BackBrush CThumbList::s_backBrush;
 
-CThumbList::CThumbList(int bPassive) : CThumbList(kPaneKind, kPaneResource, bPassive) {}
+CThumbList::CThumbList(int bPassive) : CThumbList(kPaneKind, views::IDR_THUMBNAIL_PANE, bPassive) {}
 
 CThumbList::CThumbList(UINT nPaneKind, UINT nResourceID, int bPassive)
     : CObjectsList(nPaneKind, nResourceID, bPassive),
-      m_folderBitmap(kFolderBitmap, kTransparent),
-      m_markerBitmap(kMarkerBitmap, kTransparent)
+      m_folderBitmap(views::IDB_LIST_ITEMS, kTransparent),
+      m_markerBitmap(views::IDB_CONTAINER_MARK, kTransparent)
 {
     if (!s_backBrush.hBrush)
         s_backBrush.hBrush = ::CreateSolidBrush(kBackColor);

@@ -10,10 +10,10 @@
 
 #include <unordered_map>
 
-// Pictures are 128 by 128 pixels: the atom's thumbnail, else its icon, else the host's folder picture (bitmap resource
-// 1006), on the list's ground and in a raised frame; containers bear a marker (bitmap resource 1011). In both
-// resources pure red is transparent. The pictures of rows that leave the cache are painted over for rows that
-// enter it, the longest unused first. The pane's caption and icon are the host's resource 1009.
+// Pictures are 128 by 128 pixels: the atom's thumbnail, else its icon, else the host's folder picture
+// (IDB_LIST_ITEMS, Resources.h), on the list's ground and in a raised frame; containers bear a marker
+// (IDB_CONTAINER_MARK). The pictures of rows that leave the cache are painted over for rows that
+// enter it, the longest unused first. The pane's caption and icon are the host's resource IDR_THUMBNAIL_PANE.
 //
 // A picture is painted once, when its row is about to be drawn: a thumbnail that shows something else later is told
 // of by the editor's OnChangeAtom. Animated thumbnails stand still; those that the mouse has passed over are held

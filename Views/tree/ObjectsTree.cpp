@@ -3,6 +3,7 @@
 
 #include "Views/host/AddPane.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/tree/TreeDropTarget.h"
 
@@ -15,11 +16,8 @@ constexpr DWORD kStyle = WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | TVS_HASB
 static_assert(kStyle == 0x4600002F);
 
 constexpr UINT kPaneKind = 0;
-constexpr UINT kPaneCaption = 57357;
-constexpr UINT kPaneIcon = 1007;
 constexpr LPCSTR kFallbackCaption = "Loaded Libraries";
 
-constexpr UINT kImages = 1013;
 constexpr int kImageWidth = 16;
 constexpr int kImagesToGrow = 4;
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
@@ -89,7 +87,7 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
     m_pDropTarget->Register(this);
     m_iconSlots.Clear();
-    m_images.Create(kImages, kImageWidth, kImagesToGrow, kTransparent);
+    m_images.Create(views::IDB_TREE_ITEMS, kImageWidth, kImagesToGrow, kTransparent);
     m_nDefaultImage = 0;
     m_nOpenImage = 1;
     SetImageList(&m_images, TVSIL_NORMAL);
@@ -103,7 +101,7 @@ bool CObjectsTree::JoinEditor(HWND hWnd)
     if (!pEditor)
         return true;
     if (!m_bPassive)
-        views::AddPane(pEditor.Get(), kPaneKind, hWnd, kPaneCaption, kPaneIcon, kFallbackCaption);
+        views::AddPane(pEditor.Get(), kPaneKind, hWnd, views::IDS_TREE_PANE, views::IDR_TREE_PANE, kFallbackCaption);
     return ::IsWindow(hWnd) && m_registration.Begin(pEditor.Get(), hWnd, this);
 }
 

@@ -3,6 +3,7 @@
 #include "Views/host/IAtomIcon.h"
 #include "Views/host/IDispAtom.h"
 #include "Views/host/IMyErrorInfo.h"
+#include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/tree/ObjectsTree.h"
 #include "Views/tree/TreeLabel.h"
@@ -10,7 +11,6 @@
 namespace
 {
 
-constexpr UINT kNameErrorCaption = 0xE00A;
 constexpr char kUnnamed[] = "Unnamed";
 
 } // namespace
@@ -95,7 +95,7 @@ bool CObjectsTree::AnswerLabel(IAtom* pAtom, TVITEM& item)
         item.pszText = const_cast<LPSTR>(kUnnamed); // read, never written
         const auto pError =
             pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
-        ShowAtomError(m_hWnd, kNameErrorCaption, pError.Get());
+        ShowAtomError(m_hWnd, views::IDS_NAME_FAILED, pError.Get());
         return false;
     } catch (CMemoryException& e) {
         e.ReportError();

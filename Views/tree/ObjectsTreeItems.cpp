@@ -1,6 +1,7 @@
 // Items: from an atom announced to its item, with the members below it, and back.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/window/MessageBox.h"
+#include "Views/host/Resources.h"
 #include "Views/tree/MemberKeys.h"
 #include "Views/tree/ObjectsTree.h"
 
@@ -10,12 +11,10 @@
 namespace
 {
 
-constexpr UINT kInsertFailed = 57355;
-
 void ReportInsertFailed()
 {
     CString strMessage;
-    strMessage.LoadString(kInsertFailed);
+    strMessage.LoadString(views::IDS_NOT_INSERTED);
     AfxMessageBox(strMessage, MB_OK);
 }
 
