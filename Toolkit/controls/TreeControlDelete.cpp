@@ -7,6 +7,9 @@ namespace toolkit
 LRESULT TreeControl::OnDeleteItem(WPARAM, LPARAM lParam)
 {
     const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
+    // First: the selection takes the focus along, and what was typed would be taken for the name of what goes.
+    if (!CancelLabelWithin(hItem))
+        return TRUE;
     const ItemIndex item = hItem == TVI_ROOT ? kRootItem : m_items.Find(hItem);
     if (item == kNoItem)
         return FALSE;
