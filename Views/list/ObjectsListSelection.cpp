@@ -161,6 +161,7 @@ bool CObjectsList::WelcomesFocus(CWnd* pOldWnd)
     if (!views::OfferSave()) {
         if (hOldWnd)
             ::SetFocus(hOldWnd);
+        Invalidate(); // where nobody could take the focus back it is here, and shows
         return false;
     }
     if (!m_bFocusLost)

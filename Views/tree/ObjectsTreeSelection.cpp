@@ -113,6 +113,7 @@ bool CObjectsTree::WelcomesFocus(CWnd* pOldWnd)
         return true;
     if (hOldWnd)
         ::SetFocus(hOldWnd);
+    Invalidate();                           // where nobody could take the focus back it is here, and shows
     m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
     return false;
 }
