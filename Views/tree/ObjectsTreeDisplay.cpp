@@ -27,10 +27,12 @@ void CObjectsTree::OnObjectsGetDispInfo(TVDISPINFO* pInfo, LRESULT* pResult)
 
     if (item.mask & TVIF_IMAGE)
         item.iImage = item.iSelectedImage = ImageOf(pAtom.Get(), item);
+    // Before the label: to look below an item may put items in order, whose labels are asked for in the same buffer.
+    const bool bHasChildren = (item.mask & TVIF_CHILDREN) && GetChildItem(item.hItem);
     if ((item.mask & TVIF_TEXT) && !AnswerLabel(pAtom.Get(), item))
         return;
     if (item.mask & TVIF_CHILDREN)
-        item.cChildren = GetChildItem(item.hItem) ? 1 : 0;
+        item.cChildren = bHasChildren;
     item.mask &= ~TVIF_DI_SETITEM;
     OnGetDispInfo(pInfo);
 }
