@@ -77,7 +77,7 @@ std::optional<TextInputState> FindTextInput(HWND hTop)
     if (!pInput)
         return std::nullopt;
     TextInputState state = pInput->GetTextInput();
-    if (state.readOnly || GetTopLevel(state.hWnd) != hTop)
+    if (GetTopLevel(state.hWnd) != hTop)
         return std::nullopt;
     return state;
 }

@@ -19,14 +19,7 @@ public:
     int CharFromPos(CPoint pt) const;     // -1 without a window
 
     void LimitText(int nBytes = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nBytes)); }
-    UINT GetLimitText() const { return static_cast<UINT>(SendMessage(EM_GETLIMITTEXT)); }
-    BOOL GetModify() const { return SendMessage(EM_GETMODIFY) != 0; } // since the text was last set
-    void SetModify(BOOL bModified = TRUE) { SendMessage(EM_SETMODIFY, static_cast<WPARAM>(bModified)); }
-    BOOL SetReadOnly(BOOL bReadOnly = TRUE) { return SendMessage(EM_SETREADONLY, static_cast<WPARAM>(bReadOnly)) != 0; }
-
-    BOOL CanUndo() const { return SendMessage(EM_CANUNDO) != 0; }
     BOOL Undo() { return SendMessage(EM_UNDO) != 0; }
-    void EmptyUndoBuffer() { SendMessage(EM_EMPTYUNDOBUFFER); }
     void Cut() { SendMessage(WM_CUT); }
     void Copy() { SendMessage(WM_COPY); }
     void Paste() { SendMessage(WM_PASTE); }

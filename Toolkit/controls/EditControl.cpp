@@ -30,7 +30,6 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_CREATE, &EditControl::OnCreate},
         {WM_SIZE, &EditControl::OnSize},
         {WM_STYLECHANGED, &EditControl::OnLooksChanged},
-        {WM_ENABLE, &EditControl::OnLooksChanged},
         {WM_PAINT, &EditControl::OnPaint},
         {WM_ERASEBKGND, &EditControl::OnEraseBackground},
         {WM_TIMER, &EditControl::OnTimer},
@@ -60,14 +59,8 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {EM_SETSEL, &EditControl::OnSetSel},
         {EM_SCROLLCARET, &EditControl::OnScrollCaret},
         {EM_REPLACESEL, &EditControl::OnReplaceSel},
-        {EM_GETMODIFY, &EditControl::OnGetModify},
-        {EM_SETMODIFY, &EditControl::OnSetModify},
-        {EM_SETREADONLY, &EditControl::OnSetReadOnly},
         {EM_LIMITTEXT, &EditControl::OnLimitText},
-        {EM_GETLIMITTEXT, &EditControl::OnGetLimitText},
-        {EM_CANUNDO, &EditControl::OnCanUndo},
         {EM_UNDO, &EditControl::OnUndo},
-        {EM_EMPTYUNDOBUFFER, &EditControl::OnEmptyUndoBuffer},
         {EM_POSFROMCHAR, &EditControl::OnPosFromChar},
         {EM_CHARFROMPOS, &EditControl::OnCharFromPos},
     };
@@ -123,7 +116,7 @@ TextInputState EditControl::GetTextInput() const
 {
     const TextSpan selection = m_text.Selection();
     const std::size_t anchor = selection.first == m_text.Caret() ? selection.end : selection.first;
-    return {m_hWnd, CaretRect(), m_text.Text(), m_text.Caret(), anchor, Is(ES_READONLY)};
+    return {m_hWnd, CaretRect(), m_text.Text(), m_text.Caret(), anchor};
 }
 
 void EditControl::Compose(std::string_view text, std::size_t caret)

@@ -59,14 +59,8 @@ private:
     LRESULT OnSetSel(WPARAM wParam, LPARAM lParam);
     LRESULT OnScrollCaret(WPARAM, LPARAM);
     LRESULT OnReplaceSel(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetModify(WPARAM, LPARAM) { return m_bModified; }
-    LRESULT OnSetModify(WPARAM wParam, LPARAM);
-    LRESULT OnSetReadOnly(WPARAM wParam, LPARAM);
     LRESULT OnLimitText(WPARAM wParam, LPARAM);
-    LRESULT OnGetLimitText(WPARAM, LPARAM) { return static_cast<LRESULT>(m_limit); }
-    LRESULT OnCanUndo(WPARAM, LPARAM) { return m_history.CanUndo(); }
     LRESULT OnUndo(WPARAM, LPARAM);
-    LRESULT OnEmptyUndoBuffer(WPARAM, LPARAM);
     LRESULT OnPosFromChar(WPARAM wParam, LPARAM);
     LRESULT OnCharFromPos(WPARAM, LPARAM lParam);
     LRESULT OnCut(WPARAM, LPARAM);
@@ -74,7 +68,7 @@ private:
     LRESULT OnPaste(WPARAM, LPARAM);
     LRESULT OnClear(WPARAM, LPARAM);
 
-    // Changes by the user; nothing in a read-only field. All give false when the window is gone.
+    // Changes by the user. All give false when the window is gone.
     [[nodiscard]] bool Insert(std::string_view text, EditKind kind); // in place of the selection
     [[nodiscard]] bool Erase(TextSpan span, EditKind kind);
     [[nodiscard]] bool EraseOr(TextSpan other, EditKind kind); // the selection, the other without one
@@ -131,7 +125,6 @@ private:
     Composition m_composition;
     std::optional<Drag> m_drag;
     std::size_t m_limit = 0x7FFE;
-    bool m_bModified = false;
     bool m_bCaretOn = false; // as it blinks
 };
 

@@ -44,22 +44,20 @@ LRESULT EditControl::OnContextMenu(WPARAM, LPARAM lParam)
 // Whether there is anything to paste is not asked beforehand: another program may be slow to say.
 UINT EditControl::AskMenu(CPoint screen)
 {
-    const bool writable = !Is(ES_READONLY);
     const bool selected = !m_text.Selection().IsEmpty();
     const auto when = [](bool enabled) { return enabled ? MF_STRING : MF_STRING | MF_GRAYED; };
     CMenu menu;
     if (!menu.CreatePopupMenu())
         return 0;
-    menu.AppendMenu(when(writable && m_history.CanUndo()), kUndo, "&Undo\tCtrl+Z");
+    menu.AppendMenu(when(m_history.CanUndo()), kUndo, "&Undo\tCtrl+Z");
     menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(when(writable && selected), kCut, "Cu&t\tCtrl+X");
+    menu.AppendMenu(when(selected), kCut, "Cu&t\tCtrl+X");
     menu.AppendMenu(when(selected), kCopy, "&Copy\tCtrl+C");
-    menu.AppendMenu(when(writable), kPaste, "&Paste\tCtrl+V");
-    menu.AppendMenu(when(writable && selected), kDelete, "&Delete");
+    menu.AppendMenu(MF_STRING, kPaste, "&Paste\tCtrl+V");
+    menu.AppendMenu(when(selected), kDelete, "&Delete");
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(when(m_text.Selection().Length() < m_text.Text().size()), kSelectAll, "Select &All\tCtrl+A");
-    return static_cast<UINT>(
-        menu.TrackPopupMenu(TPM_RETURNCMD | TPM_NONOTIFY, screen.x, screen.y, CWnd::FromHandle(m_hWnd)));
+    return static_cast<UINT>(menu.TrackPopupMenu(TPM_RETURNCMD, screen.x, screen.y, CWnd::FromHandle(m_hWnd)));
 }
 
 LRESULT EditControl::DoMenuCommand(UINT command)

@@ -11,9 +11,7 @@ namespace toolkit
 
 LRESULT EditControl::OnEraseBackground(WPARAM wParam, LPARAM)
 {
-    const bool grey = Is(ES_READONLY) || !IsWindowEnabled(m_hWnd);
-    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), m_layout.Client()),
-                         GetSysColor(grey ? COLOR_BTNFACE : COLOR_WINDOW));
+    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), m_layout.Client()), GetSysColor(COLOR_WINDOW));
 }
 
 LRESULT EditControl::OnPaint(WPARAM, LPARAM)
@@ -27,7 +25,7 @@ void EditControl::Draw(HDC hdc) const
 {
     const std::string shown = Shown();
     const CRect line = m_layout.LineRect();
-    const COLORREF ink = GetSysColor(IsWindowEnabled(m_hWnd) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT);
+    const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
     SetTextColor(hdc, ink);
     TextOut(hdc, m_layout.X(shown, 0), line.top, shown);
 

@@ -27,7 +27,6 @@ LRESULT EditControl::OnSetText(WPARAM, LPARAM lParam)
     m_text.Set(pszText ? pszText : "");
     m_history.Forget();
     m_composition = {};
-    m_bModified = false;
     m_layout.ScrollToStart();
     static_cast<void>(TellChange());
     return TRUE;
@@ -85,21 +84,8 @@ LRESULT EditControl::OnReplaceSel(WPARAM wParam, LPARAM lParam)
         m_history.Forget();
     m_text.Replace(text);
     m_history.After(m_text);
-    m_bModified = true;
     static_cast<void>(TellChange());
     return 0;
-}
-
-LRESULT EditControl::OnSetModify(WPARAM wParam, LPARAM)
-{
-    m_bModified = wParam != FALSE;
-    return 0;
-}
-
-LRESULT EditControl::OnSetReadOnly(WPARAM wParam, LPARAM)
-{
-    ModifyStyle(m_hWnd, wParam ? 0 : ES_READONLY, wParam ? ES_READONLY : 0);
-    return TRUE;
 }
 
 LRESULT EditControl::OnLimitText(WPARAM wParam, LPARAM)
@@ -110,17 +96,10 @@ LRESULT EditControl::OnLimitText(WPARAM wParam, LPARAM)
 
 LRESULT EditControl::OnUndo(WPARAM, LPARAM)
 {
-    if (Is(ES_READONLY) || !m_history.Swap(m_text))
+    if (!m_history.Swap(m_text))
         return FALSE;
-    m_bModified = true;
     static_cast<void>(TellChange());
     return TRUE;
-}
-
-LRESULT EditControl::OnEmptyUndoBuffer(WPARAM, LPARAM)
-{
-    m_history.Forget();
-    return 0;
 }
 
 LRESULT EditControl::OnPosFromChar(WPARAM wParam, LPARAM)
@@ -162,7 +141,7 @@ LRESULT EditControl::OnClear(WPARAM, LPARAM)
 
 bool EditControl::Insert(std::string_view text, EditKind kind)
 {
-    if (Is(ES_READONLY) || text.empty())
+    if (text.empty())
         return true;
     const std::string_view fitting = m_text.FitTo(text, m_limit);
     const bool whole = fitting.size() == text.size();
@@ -170,7 +149,6 @@ bool EditControl::Insert(std::string_view text, EditKind kind)
         m_history.Before(m_text, kind);
         m_text.Replace(fitting);
         m_history.After(m_text);
-        m_bModified = true;
         if (!TellChange())
             return false;
     }
@@ -179,13 +157,12 @@ bool EditControl::Insert(std::string_view text, EditKind kind)
 
 bool EditControl::Erase(TextSpan span, EditKind kind)
 {
-    if (Is(ES_READONLY) || span.IsEmpty())
+    if (span.IsEmpty())
         return true;
     m_history.Before(m_text, kind);
     m_text.Select(span.first, span.end);
     m_text.Replace("");
     m_history.After(m_text);
-    m_bModified = true;
     return TellChange();
 }
 

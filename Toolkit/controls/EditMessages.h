@@ -15,21 +15,14 @@ inline constexpr DWORD ES_CENTER = 0x0001;
 inline constexpr DWORD ES_RIGHT = 0x0002;
 inline constexpr DWORD ES_AUTOHSCROLL = 0x0080;
 inline constexpr DWORD ES_NOHIDESEL = 0x0100; // the selection is seen without the focus, too
-inline constexpr DWORD ES_READONLY = 0x0800;
 
 // Messages.
 inline constexpr UINT EM_GETSEL = 0x00B0; // wParam, lParam: DWORD* or NULL, start and end; both packed, -1 when too big
 inline constexpr UINT EM_SETSEL = 0x00B1; // wParam: anchor, -1: select nothing; lParam: caret, -1: the text's end
 inline constexpr UINT EM_SCROLLCARET = 0x00B7; // into view
-inline constexpr UINT EM_GETMODIFY = 0x00B8;
-inline constexpr UINT EM_SETMODIFY = 0x00B9;  // wParam: BOOL
-inline constexpr UINT EM_REPLACESEL = 0x00C2; // wParam: can it be undone?, lParam: LPCSTR
-inline constexpr UINT EM_LIMITTEXT = 0x00C5;  // wParam: bytes, 0: no limit; what is set by WM_SETTEXT may be longer
-inline constexpr UINT EM_CANUNDO = 0x00C6;
-inline constexpr UINT EM_UNDO = 0x00C7; // once more: brings back what was undone
-inline constexpr UINT EM_EMPTYUNDOBUFFER = 0x00CD;
-inline constexpr UINT EM_SETREADONLY = 0x00CF; // wParam: BOOL
-inline constexpr UINT EM_GETLIMITTEXT = 0x00D5;
+inline constexpr UINT EM_REPLACESEL = 0x00C2;  // wParam: can it be undone?, lParam: LPCSTR
+inline constexpr UINT EM_LIMITTEXT = 0x00C5;   // wParam: bytes, 0: no limit; what is set by WM_SETTEXT may be longer
+inline constexpr UINT EM_UNDO = 0x00C7;        // once more: brings back what was undone
 inline constexpr UINT EM_POSFROMCHAR = 0x00D6; // wParam: position; packed client point of the character's left top
 inline constexpr UINT EM_CHARFROMPOS = 0x00D7; // lParam: packed client point; the position nearest to it
 

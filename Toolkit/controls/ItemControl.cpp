@@ -14,7 +14,6 @@ namespace toolkit
 namespace
 {
 constexpr int kDragDistance = 4;
-constexpr BYTE kCutFade = 140; // of 255
 static_assert(LVSIL_NORMAL == TVSIL_NORMAL);
 } // namespace
 
@@ -60,14 +59,10 @@ CSize ItemControl::SizeWithoutBars() const
     return {rect.Width() - 2 * edge, rect.Height() - 2 * edge};
 }
 
-void ItemControl::DrawImage(HDC hdc, CPoint at, int image, UINT style, bool cut) const
+void ItemControl::DrawImage(HDC hdc, CPoint at, int image, UINT style) const
 {
-    if (image < 0)
-        return;
-    ImageList_Draw(m_hImages, image, hdc, at.x, at.y, style);
-    int cx = 0, cy = 0;
-    if (cut && ImageList_GetIconSize(m_hImages, &cx, &cy))
-        BlendRect(hdc, CRect(at, CSize(cx, cy)), GetSysColor(COLOR_WINDOW), kCutFade);
+    if (image >= 0)
+        ImageList_Draw(m_hImages, image, hdc, at.x, at.y, style);
 }
 
 bool ItemControl::Tell(UINT code, NMHDR& header, LRESULT* pAnswer) const

@@ -39,7 +39,7 @@ protected:
 
     CSize ClientSize() const;
     CSize SizeWithoutBars() const; // what the client area has when no scroll bar is shown
-    void DrawImage(HDC hdc, CPoint at, int image, UINT style, bool cut) const; // ILD_*; nothing for image -1
+    void DrawImage(HDC hdc, CPoint at, int image, UINT style) const; // ILD_*; nothing for image -1
 
     // Notifications.
     [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const;

@@ -99,7 +99,6 @@ private:
     // stays selected only with `add`. The row gets the focus, the anchor stays.
     [[nodiscard]] bool ExtendTo(int row, bool add, bool allBetween = false);
     RowSet RowsOf(const CellBlock& block) const;
-    bool IsSingle() const { return Is(LVS_SINGLESEL); }
 
     // Scrolling.
     LRESULT OnSize(WPARAM, LPARAM);

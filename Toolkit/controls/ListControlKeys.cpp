@@ -70,9 +70,9 @@ bool ListControl::MoveFocus(int row, bool allBetween)
 {
     const Keys keys = KeysDown();
     bool alive = false;
-    if (keys.shift && !IsSingle())
+    if (keys.shift)
         alive = ExtendTo(row, keys.control, allBetween);
-    else if (keys.control && !IsSingle())
+    else if (keys.control)
         alive = ChangeState(row, LVIS_FOCUSED, LVIS_FOCUSED);
     else
         alive = SelectOnly(row);
@@ -87,7 +87,7 @@ bool ListControl::PressSpace()
         return true;
     if (keys.control)
         return Toggle(row);
-    return keys.shift && !IsSingle() ? ExtendTo(row, false) : SelectOnly(row);
+    return keys.shift ? ExtendTo(row, false) : SelectOnly(row);
 }
 
 // A field that lost the focus while its window was left ends when the user comes back to something else.

@@ -61,8 +61,7 @@ bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
     const std::optional<Hit> hit = HitTest(at);
     if (!hit)
         return false;
-    const bool single = IsSingle();
-    const Keys keys{(wParam & MK_SHIFT) != 0 && !single, (wParam & MK_CONTROL) != 0 && !single};
+    const Keys keys{(wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0};
     Press press{hit->row, at, ToContent(at), right, keys, Press::OnRelease::Nothing};
     press.meansLabel = MeansLabel(press, hit->flags);
     if (!(press.row >= 0 ? PressRow(press) : PressEmpty(press)))
@@ -172,7 +171,7 @@ void ListControl::TrackMove(WPARAM keys, CPoint at)
     if (!m_band && IsDrag(m_press->at, at)) {
         if (m_press->row >= 0)
             return BeginDrag();
-        if (!m_press->right && !IsSingle())
+        if (!m_press->right)
             BeginBand();
     }
     if (m_band)

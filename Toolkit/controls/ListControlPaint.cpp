@@ -84,12 +84,12 @@ void ListControl::DrawPicture(HDC hdc, int row, int image, UINT state)
 {
     const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && IsFocused());
     // The label tells of the selection already; half of its colour would leave little of a large picture.
-    DrawImage(hdc, m_layout.IconRect(row).TopLeft(), image, marked ? ILD_BLEND25 : ILD_NORMAL, state & LVIS_CUT);
+    DrawImage(hdc, m_layout.IconRect(row).TopLeft(), image, marked ? ILD_BLEND25 : ILD_NORMAL);
 }
 
 void ListControl::DrawLabel(HDC hdc, const Label& label, UINT state)
 {
-    int ground = COLOR_WINDOW, ink = state & LVIS_CUT ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT;
+    int ground = COLOR_WINDOW, ink = COLOR_WINDOWTEXT;
     if ((state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && IsFocused())) {
         ground = COLOR_HIGHLIGHT;
         ink = COLOR_HIGHLIGHTTEXT;

@@ -7,7 +7,7 @@ namespace toolkit
 namespace
 {
 
-constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_CUT | LVIS_DROPHILITED;
+constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_DROPHILITED;
 
 // Up to so many rows lose or gain the selection one by one, each asked about. When more than that lose it, or gain it
 // so that all have it, it is one change of all rows: a click after "select all" costs nothing that grows with the list.
@@ -17,7 +17,7 @@ constexpr int kOneByOne = 256;
 
 LRESULT ListControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
 {
-    constexpr UINT kAsked = LVNI_FOCUSED | LVNI_SELECTED | LVNI_CUT | LVNI_DROPHILITED;
+    constexpr UINT kAsked = LVNI_FOCUSED | LVNI_SELECTED | LVNI_DROPHILITED;
     static_assert(kAsked == kStates); // the flags are the states
     return m_rows.Next(static_cast<int>(wParam), static_cast<UINT>(lParam) & kAsked);
 }
@@ -55,8 +55,6 @@ bool ListControl::ChangeState(int row, UINT state, UINT mask)
         return true;
 
     const UINT gained = newState & ~oldState;
-    if ((gained & LVIS_SELECTED) && IsSingle() && !DeselectBut(RowSet({row, row + 1})))
-        return false;
     if (gained & LVIS_FOCUSED) {
         const int former = m_rows.Focus();
         if (!ChangeState(former, 0, LVIS_FOCUSED))
@@ -75,7 +73,7 @@ bool ListControl::ChangeState(int row, UINT state, UINT mask)
 bool ListControl::ChangeAll(UINT state, UINT mask)
 {
     UINT oldState = 0, newState = 0;
-    for (const UINT one : {LVIS_FOCUSED, LVIS_SELECTED, LVIS_CUT, LVIS_DROPHILITED}) {
+    for (const UINT one : {LVIS_FOCUSED, LVIS_SELECTED, LVIS_DROPHILITED}) {
         if (!(mask & one))
             continue;
         if (!(state & one) && m_rows.CountWith(one) > 0)
@@ -83,8 +81,6 @@ bool ListControl::ChangeAll(UINT state, UINT mask)
         if ((state & one) && one != LVIS_FOCUSED && m_rows.CountWith(one) < m_rows.Count())
             newState |= one;
     }
-    if (newState & LVIS_SELECTED && IsSingle())
-        newState &= ~LVIS_SELECTED;
     if (oldState == newState)
         return true;
 

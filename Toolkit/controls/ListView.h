@@ -10,7 +10,6 @@ inline constexpr LPCSTR WC_LISTVIEW = "SysListView32";
 
 // Styles.
 inline constexpr DWORD LVS_ICON = 0x0000;
-inline constexpr DWORD LVS_SINGLESEL = 0x0004;
 inline constexpr DWORD LVS_SHOWSELALWAYS = 0x0008;
 inline constexpr DWORD LVS_EDITLABELS = 0x0200;
 inline constexpr DWORD LVS_OWNERDATA = 0x1000;
@@ -53,13 +52,11 @@ inline constexpr int LVIR_LABEL = 2;
 // A row's states.
 inline constexpr UINT LVIS_FOCUSED = 0x0001;
 inline constexpr UINT LVIS_SELECTED = 0x0002;
-inline constexpr UINT LVIS_CUT = 0x0004;
 inline constexpr UINT LVIS_DROPHILITED = 0x0008;
 
 inline constexpr UINT LVNI_ALL = 0x0000;
 inline constexpr UINT LVNI_FOCUSED = 0x0001;
 inline constexpr UINT LVNI_SELECTED = 0x0002;
-inline constexpr UINT LVNI_CUT = 0x0004;
 inline constexpr UINT LVNI_DROPHILITED = 0x0008;
 
 inline constexpr UINT LVIF_TEXT = 0x0001;

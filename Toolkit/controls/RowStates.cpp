@@ -5,7 +5,7 @@ namespace toolkit
 
 namespace
 {
-constexpr UINT kSetStates[] = {LVIS_SELECTED, LVIS_CUT, LVIS_DROPHILITED}; // those any number of rows may have
+constexpr UINT kSetStates[] = {LVIS_SELECTED, LVIS_DROPHILITED}; // those any number of rows may have
 }
 
 RowSet* RowStates::SetOf(UINT state)
@@ -13,8 +13,6 @@ RowSet* RowStates::SetOf(UINT state)
     switch (state) {
     case LVIS_SELECTED:
         return &m_selected;
-    case LVIS_CUT:
-        return &m_cut;
     case LVIS_DROPHILITED:
         return &m_dropTargets;
     default:

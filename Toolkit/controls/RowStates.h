@@ -1,4 +1,4 @@
-// What a list control knows of its rows: how many there are, which are selected, cut or drop targets, which has
+// What a list control knows of its rows: how many there are, which are selected or drop targets, which has
 // the focus, and from where Shift extends. Tells nobody; the control asks and tells around each change.
 #pragma once
 
@@ -35,7 +35,7 @@ private:
     int m_nCount = 0;
     int m_nFocus = -1;
     int m_nAnchor = -1;
-    RowSet m_selected, m_cut, m_dropTargets;
+    RowSet m_selected, m_dropTargets;
 };
 
 } // namespace toolkit

@@ -135,7 +135,6 @@ private:
     LRESULT OnExpand(WPARAM wParam, LPARAM lParam);
     [[nodiscard]] bool Expand(HTREEITEM hItem, UINT code, UINT cause, bool* pChanged = nullptr);
     [[nodiscard]] bool ShowChildren(HTREEITEM hItem, bool expanded, UINT cause, bool& changed);
-    [[nodiscard]] bool ForgetChildren(HTREEITEM hItem);
     [[nodiscard]] bool ExpandAncestors(HTREEITEM hItem, bool* pExpanded = nullptr);
     [[nodiscard]] bool ExpandBranch(HTREEITEM hItem);
 
@@ -236,7 +235,6 @@ private:
     // Notifications. All give false when the window is gone.
     [[nodiscard]] bool TellSelection(UINT code, HTREEITEM hOld, HTREEITEM hNew, UINT cause, LRESULT* pAnswer) const;
     [[nodiscard]] bool TellItem(UINT code, HTREEITEM hItem, UINT action, LRESULT* pAnswer = nullptr) const;
-    [[nodiscard]] bool TellKey(UINT vkey, LPARAM lParam, LRESULT* pAnswer) const;
     // Fills in the parts asked for (TVIF_*); none of them when the item is gone.
     [[nodiscard]] bool AskFace(HTREEITEM hItem, UINT parts, Face& face);
     [[nodiscard]] bool AskOwner(HTREEITEM hItem, UINT parts, Face& face);

@@ -36,8 +36,6 @@ bool TreeControl::Expand(HTREEITEM hItem, UINT code, UINT cause, bool* pChanged)
     bool changed = false;
     if (!ShowChildren(hItem, way == TVE_EXPAND, cause, changed))
         return false;
-    if (changed && way == TVE_COLLAPSE && (code & TVE_COLLAPSERESET) && !ForgetChildren(hItem))
-        return false;
     if (pChanged)
         *pChanged = changed;
     return !changed || m_items.Find(hItem) == kNoItem || TellItem(TVN_ITEMEXPANDED, hItem, way);
@@ -65,15 +63,6 @@ bool TreeControl::ShowChildren(HTREEITEM hItem, bool expanded, UINT cause, bool&
     if (row >= 0 && !RowsChanged(row))
         return false;
     return !holdsCaret || Select(hItem, cause);
-}
-
-bool TreeControl::ForgetChildren(HTREEITEM hItem)
-{
-    const ItemIndex item = m_items.Find(hItem);
-    if (item == kNoItem)
-        return true;
-    m_items[item].state &= static_cast<BYTE>(~TVIS_EXPANDEDONCE);
-    return DeleteChildren(item);
 }
 
 bool TreeControl::ExpandAncestors(HTREEITEM hItem, bool* pExpanded)

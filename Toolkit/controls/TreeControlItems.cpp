@@ -11,7 +11,7 @@ namespace toolkit
 namespace
 {
 
-constexpr UINT kSettable = TVIS_CUT | TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDEDONCE;
+constexpr UINT kSettable = TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDEDONCE;
 constexpr UINT kSeen = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
 
 // Cuts between code points.

@@ -36,11 +36,8 @@ LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
 LRESULT TreeControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
-    LRESULT refused = 0;
     StopLabelClock();
-    if (!TellKey(vkey, lParam, &refused))
-        return 0;
-    m_bCharIsTaken = refused != 0 || vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;
+    m_bCharIsTaken = vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;
     bool handled = true;
     if (!DoKey(vkey, handled) || handled)
         return 0;

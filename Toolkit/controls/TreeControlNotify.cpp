@@ -43,14 +43,6 @@ bool TreeControl::TellItem(UINT code, HTREEITEM hItem, UINT action, LRESULT* pAn
     return Tell(code, news.hdr, pAnswer);
 }
 
-bool TreeControl::TellKey(UINT vkey, LPARAM lParam, LRESULT* pAnswer) const
-{
-    NMTVKEYDOWN key{};
-    key.wVKey = static_cast<WORD>(vkey);
-    key.flags = static_cast<UINT>(lParam);
-    return Tell(TVN_KEYDOWN, key.hdr, pAnswer);
-}
-
 UINT TreeControl::PartsToAsk(const TreeFace& item, UINT parts)
 {
     if (!item.asksForText)

@@ -128,7 +128,7 @@ void TreeControl::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
 void TreeControl::DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const
 {
     const UINT state = m_items[item].state;
-    DrawImage(hdc, at, state & TVIS_SELECTED ? face.selectedImage : face.image, ILD_NORMAL, state & TVIS_CUT);
+    DrawImage(hdc, at, state & TVIS_SELECTED ? face.selectedImage : face.image, ILD_NORMAL);
 }
 
 void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const
@@ -139,8 +139,7 @@ void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std
     if (mark != Mark::None && !text.empty())
         FillRounded(hdc, ground, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
 
-    const bool cut = (m_items[item].state & TVIS_CUT) != 0;
-    SetTextColor(hdc, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHTTEXT : cut ? COLOR_GRAYTEXT : COLOR_WINDOWTEXT));
+    SetTextColor(hdc, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     SetFontStyle(hdc, FontOf(item));
     const int lineHeight = CurrentTextEngine().LineHeight();
     TextOut(hdc, box.left + TreeLayout::kLabelPadding, box.top + (box.Height() - lineHeight) / 2, text);

@@ -49,11 +49,10 @@ inline constexpr UINT TVM_ARRANGECHILDREN = TV_FIRST + 0x80;
 
 inline constexpr UINT TVSIL_NORMAL = 0;
 
-// What TVM_EXPAND does. Only collapsing with a reset deletes the children.
+// What TVM_EXPAND does.
 inline constexpr UINT TVE_COLLAPSE = 0x0001;
 inline constexpr UINT TVE_EXPAND = 0x0002;
 inline constexpr UINT TVE_TOGGLE = 0x0003;
-inline constexpr UINT TVE_COLLAPSERESET = 0x8000;
 
 // What TVM_GETNEXTITEM gives. Shown is an item all of whose ancestors are expanded, scrolled into sight or not.
 inline constexpr UINT TVGN_ROOT = 0x0000;            // the first top-level item
@@ -78,10 +77,9 @@ inline constexpr UINT TVIF_SELECTEDIMAGE = 0x0020;
 inline constexpr UINT TVIF_CHILDREN = 0x0040;
 inline constexpr UINT TVIF_DI_SETITEM = 0x1000; // in the answer to TVN_GETDISPINFO: keep it, don't ask again
 
-// An item's states. TVM_SETITEM sets TVIS_CUT, TVIS_DROPHILITED, TVIS_BOLD and TVIS_EXPANDEDONCE; selecting and
-// expanding have messages of their own. Any number of items may have TVIS_DROPHILITED set that way.
+// An item's states. TVM_SETITEM sets TVIS_DROPHILITED, TVIS_BOLD and TVIS_EXPANDEDONCE; selecting and expanding
+// have messages of their own. Any number of items may have TVIS_DROPHILITED set that way.
 inline constexpr UINT TVIS_SELECTED = 0x0002;
-inline constexpr UINT TVIS_CUT = 0x0004;
 inline constexpr UINT TVIS_DROPHILITED = 0x0008;
 inline constexpr UINT TVIS_BOLD = 0x0010;
 inline constexpr UINT TVIS_EXPANDED = 0x0020;
@@ -177,7 +175,6 @@ inline constexpr UINT TVN_BEGINRDRAG = TVN_FIRST - 8;      // the same with the 
 inline constexpr UINT TVN_DELETEITEM = TVN_FIRST - 9;      // NMTREEVIEW: itemOld's hItem and lParam
 inline constexpr UINT TVN_BEGINLABELEDIT = TVN_FIRST - 10; // NMTVDISPINFO; non-zero refuses
 inline constexpr UINT TVN_ENDLABELEDIT = TVN_FIRST - 11;   // NMTVDISPINFO: pszText is NULL when cancelled
-inline constexpr UINT TVN_KEYDOWN = TVN_FIRST - 12;        // NMTVKEYDOWN; non-zero: no search by typing
 
 // What caused a change of the selection.
 inline constexpr UINT TVC_UNKNOWN = 0;
@@ -203,13 +200,6 @@ struct NMTVDISPINFO
 using LPNMTVDISPINFO = NMTVDISPINFO*;
 using TVDISPINFO = NMTVDISPINFO;
 using TV_DISPINFO = NMTVDISPINFO;
-
-struct NMTVKEYDOWN
-{
-    NMHDR hdr;
-    WORD wVKey;
-    [[gnu::packed]] UINT flags; // right behind the key
-};
 
 static_assert(sizeof(void*) != 4 ||
               (sizeof(TVITEM) == 40 && sizeof(TVINSERTSTRUCT) == 48 && sizeof(TVHITTESTINFO) == 16 &&

@@ -42,13 +42,6 @@ std::unique_ptr<ImageStore> MakeStore(int cx, int cy, int growBy)
     return std::make_unique<ImageStore>(CSize(cx, cy), growBy);
 }
 
-Surface MadeTransparent(const Surface& picture, COLORREF color)
-{
-    if (color == CLR_NONE || picture.IsEmpty())
-        return picture;
-    return toolkit::WithTransparentColor(picture, color == CLR_DEFAULT ? toolkit::ToColor(picture.At(0, 0)) : color);
-}
-
 // Calls use(picture) with the bitmap as its mask leaves it. False when either handle is refused or they differ in size.
 template <class Use>
 bool UseMasked(HBITMAP hbmImage, HBITMAP hbmMask, Use use)
@@ -83,7 +76,7 @@ HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask)
 {
     const Surface* pPicture = toolkit::FindBitmapResource(nID);
     std::unique_ptr<ImageStore> pStore = pPicture ? MakeStore(cx, pPicture->Height(), cGrow) : nullptr;
-    if (!pStore || AppendImages(*pStore, MadeTransparent(*pPicture, crMask)) < 0)
+    if (!pStore || AppendImages(*pStore, toolkit::WithTransparentColor(*pPicture, crMask)) < 0)
         return nullptr;
     return toolkit::AllGdiObjects().imageLists.Add(std::move(pStore));
 }
@@ -121,13 +114,6 @@ int ImageList_Add(HIMAGELIST himl, HBITMAP hbmImage, HBITMAP hbmMask)
     return first;
 }
 
-int ImageList_AddMasked(HIMAGELIST himl, HBITMAP hbmImage, COLORREF crMask)
-{
-    ImageStore* pStore = FindStore(himl);
-    const Surface* pPicture = toolkit::BitmapSurface(hbmImage);
-    return pStore && pPicture ? AppendImages(*pStore, MadeTransparent(*pPicture, crMask)) : -1;
-}
-
 BOOL ImageList_Replace(HIMAGELIST himl, int i, HBITMAP hbmImage, HBITMAP hbmMask)
 {
     ImageStore* pStore = FindStore(himl);
@@ -159,13 +145,13 @@ BOOL ImageList_Draw(HIMAGELIST himl, int i, HDC hdc, int x, int y, UINT style)
     const ImageStore* pStore = FindStore(himl);
     if (!pStore || !pStore->Has(i))
         return FALSE;
-    if (!(style & (ILD_BLEND25 | ILD_BLEND50)))
+    if (!(style & ILD_BLEND25))
         return toolkit::DrawSurface(hdc, {x, y}, pStore->BlockOf(i), pStore->PlaceOf(i));
 
     Surface tinted = toolkit::Crop(pStore->BlockOf(i), pStore->PlaceOf(i));
     const toolkit::Pixel tint = toolkit::ToPixel(GetSysColor(COLOR_HIGHLIGHT));
     for (int row = 0; row < tinted.Height(); ++row)
-        toolkit::TintRow(tinted.Row(row), tinted.Width(), tint, style & ILD_BLEND50);
+        toolkit::TintRow(tinted.Row(row), tinted.Width(), tint);
     return toolkit::DrawSurface(hdc, {x, y}, tinted, tinted.Bounds());
 }
 

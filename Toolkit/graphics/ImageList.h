@@ -3,24 +3,17 @@
 
 #include "Toolkit/graphics/Gdi.h"
 
-inline constexpr COLORREF CLR_NONE = 0xFFFFFFFF;    // no colour
-inline constexpr COLORREF CLR_DEFAULT = 0xFF000000; // the image list's own choice
-
 inline constexpr UINT ILC_MASK = 0x0001;
 inline constexpr UINT ILC_COLOR32 = 0x0020;
 
 inline constexpr UINT ILD_NORMAL = 0x0000;
 inline constexpr UINT ILD_BLEND25 = 0x0002; // a quarter of the highlight colour over the picture's pixels
-inline constexpr UINT ILD_BLEND50 = 0x0004; // half of the highlight colour over the picture's pixels
-inline constexpr UINT ILD_FOCUS = ILD_BLEND25;
-inline constexpr UINT ILD_SELECTED = ILD_BLEND50;
 
 // Images are 1 to 4096 pixels wide and high, 32 bits deep with alpha whatever the flags say. Room is made for
 // cGrow of them at a time; nothing that is in the list moves.
 TOOLKIT_API HIMAGELIST ImageList_Create(int cx, int cy, UINT flags, int cInitial, int cGrow);
 // The bitmap resource nID cut into images cx wide, of the bitmap's height; pixels of colour crMask are
-// transparent (CLR_NONE: none are; CLR_DEFAULT: those of the top left pixel's colour). NULL when no module of the
-// chain has the bitmap, or when it is narrower than one image.
+// transparent. NULL when no module of the chain has the bitmap, or when it is narrower than one image.
 TOOLKIT_API HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask);
 TOOLKIT_API BOOL ImageList_Destroy(HIMAGELIST himl);
 TOOLKIT_API int ImageList_GetImageCount(HIMAGELIST himl);
@@ -29,7 +22,6 @@ TOOLKIT_API BOOL ImageList_GetIconSize(HIMAGELIST himl, int* cx, int* cy);
 // too small for one is refused. hbmMask (may be NULL; as large as the bitmap) is white where the picture is
 // transparent; elsewhere, and without one, the bitmap's own alpha counts.
 TOOLKIT_API int ImageList_Add(HIMAGELIST himl, HBITMAP hbmImage, HBITMAP hbmMask);
-TOOLKIT_API int ImageList_AddMasked(HIMAGELIST himl, HBITMAP hbmImage, COLORREF crMask);
 // The bitmap's first image takes the place of image i.
 TOOLKIT_API BOOL ImageList_Replace(HIMAGELIST himl, int i, HBITMAP hbmImage, HBITMAP hbmMask);
 // Puts an icon at index i, or at a new index when i is -1: as large as the images are, its proportions kept,

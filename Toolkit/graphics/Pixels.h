@@ -97,13 +97,11 @@ inline void BlendRow(Pixel* __restrict to, const BYTE* __restrict mask, int coun
         to[i] = Over(ScalePixel(color, mask[i]), to[i]);
 }
 
-// By half, or by a quarter: half of what half would be.
-inline void TintRow(Pixel* row, int count, Pixel opaqueTint, bool bByHalf)
+// By a quarter: half of what half would be.
+inline void TintRow(Pixel* row, int count, Pixel opaqueTint)
 {
-    for (int i = 0; i < count; ++i) {
-        const Pixel half = Tinted(row[i], opaqueTint);
-        row[i] = bByHalf ? half : Average(row[i], half);
-    }
+    for (int i = 0; i < count; ++i)
+        row[i] = Average(row[i], Tinted(row[i], opaqueTint));
 }
 
 } // namespace toolkit

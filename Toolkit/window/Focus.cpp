@@ -17,12 +17,7 @@ unsigned s_nMoves = 0; // tells whether a handler moved the focus meanwhile
 bool CanHaveFocus(HWND hWnd)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow || !toolkit::IsAlive(*pWindow))
-        return false;
-    for (const WindowRecord* p = pWindow; p; p = p->pParent)
-        if (p->Is(WS_DISABLED))
-            return false;
-    return true;
+    return pWindow && toolkit::IsAlive(*pWindow);
 }
 
 bool HasFocusWithin(HWND hWnd)

@@ -9,15 +9,10 @@ namespace
 {
 using toolkit::WindowRecord;
 
-bool TakesMouse(const WindowRecord& window)
-{
-    return window.Is(WS_VISIBLE) && !window.Is(WS_DISABLED);
-}
-
 // `at` is relative to the window's own top left corner.
 const WindowRecord* FindInside(const WindowRecord& window, CPoint& at)
 {
-    if (!TakesMouse(window) || !CRect(CPoint(), window.rect.Size()).PtInRect(at))
+    if (!window.Is(WS_VISIBLE) || !CRect(CPoint(), window.rect.Size()).PtInRect(at))
         return nullptr;
     const CRect client = toolkit::ClientBox(window);
     if (!client.PtInRect(at))

@@ -9,7 +9,6 @@
 
 namespace
 {
-constexpr UINT kNone = 0xFFFFFFFF;
 constexpr UINT kGrayed = MF_GRAYED | MF_DISABLED;
 
 struct Item
@@ -45,31 +44,6 @@ void Destroy(HMENU hMenu)
         Destroy(item.hSub);
 }
 
-Item* FindByCommand(HMENU hMenu, UINT command)
-{
-    Menu* pMenu = s_menus.Find(hMenu);
-    if (!pMenu)
-        return nullptr;
-    for (Item& item : pMenu->items) {
-        if (Item* pBelow = FindByCommand(item.hSub, command))
-            return pBelow;
-        if (!item.look.popup && !item.look.separator && item.look.command == command)
-            return &item;
-    }
-    return nullptr;
-}
-
-Item* FindByPosition(HMENU hMenu, UINT nPos)
-{
-    Menu* pMenu = s_menus.Find(hMenu);
-    return pMenu && nPos < pMenu->items.size() ? &pMenu->items[nPos] : nullptr;
-}
-
-Item* FindItem(HMENU hMenu, UINT nItem, UINT nFlags)
-{
-    return nFlags & MF_BYPOSITION ? FindByPosition(hMenu, nItem) : FindByCommand(hMenu, nItem);
-}
-
 // As it is now: the menu may change or go while it is shown.
 std::vector<toolkit::MenuItem> Snapshot(HMENU hMenu)
 {
@@ -96,12 +70,6 @@ Item MakeItem(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
     else if (!item.look.separator)
         item.look.command = static_cast<UINT>(nIDNewItem);
     return item;
-}
-
-UINT StateOf(const toolkit::MenuItem& look)
-{
-    return (look.separator ? MF_SEPARATOR : 0) | (look.popup ? MF_POPUP : 0) | (look.checked ? MF_CHECKED : 0) |
-           (look.enabled ? 0 : MF_GRAYED);
 }
 } // namespace
 
@@ -142,40 +110,6 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
     return TRUE;
 }
 
-UINT CMenu::GetMenuItemCount() const
-{
-    const Menu* pMenu = s_menus.Find(m_hMenu);
-    return pMenu ? static_cast<UINT>(pMenu->items.size()) : 0;
-}
-
-UINT CMenu::GetMenuItemID(int nPos) const
-{
-    const Item* pItem = FindByPosition(m_hMenu, static_cast<UINT>(nPos));
-    return pItem && !pItem->look.popup ? pItem->look.command : kNone;
-}
-
-UINT CMenu::GetMenuState(UINT nItem, UINT nFlags) const
-{
-    const Item* pItem = FindItem(m_hMenu, nItem, nFlags);
-    return pItem ? StateOf(pItem->look) : kNone;
-}
-
-DWORD CMenu::CheckMenuItem(UINT nItem, UINT nCheck)
-{
-    Item* pItem = FindItem(m_hMenu, nItem, nCheck);
-    if (!pItem)
-        return kNone;
-    return std::exchange(pItem->look.checked, (nCheck & MF_CHECKED) != 0) ? MF_CHECKED : MF_UNCHECKED;
-}
-
-DWORD CMenu::EnableMenuItem(UINT nItem, UINT nEnable)
-{
-    Item* pItem = FindItem(m_hMenu, nItem, nEnable);
-    if (!pItem)
-        return kNone;
-    return std::exchange(pItem->look.enabled, !(nEnable & kGrayed)) ? MF_ENABLED : MF_GRAYED;
-}
-
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT*)
 {
     const HWND hOwner = pWnd ? pWnd->GetSafeHwnd() : nullptr;
@@ -187,7 +121,7 @@ BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT*)
     const UINT command = toolkit::CurrentDesktop().TrackMenu(hOwner, Snapshot(m_hMenu), {x, y});
     if (nFlags & TPM_RETURNCMD)
         return static_cast<BOOL>(command);
-    if (command != 0 && !(nFlags & TPM_NONOTIFY))
+    if (command != 0)
         PostMessage(hOwner, WM_COMMAND, command & 0xFFFF, 0);
     return TRUE;
 }

@@ -8,23 +8,19 @@ class CWnd;
 
 using HMENU = struct HMENU__*;
 
-// What AppendMenu, CheckMenuItem and EnableMenuItem take. Items are named by their command, or by their place from 0
-// with MF_BYPOSITION.
+// What AppendMenu takes.
 inline constexpr UINT MF_STRING = 0x0000;
-inline constexpr UINT MF_BYCOMMAND = 0x0000;
 inline constexpr UINT MF_ENABLED = 0x0000;
 inline constexpr UINT MF_UNCHECKED = 0x0000;
 inline constexpr UINT MF_GRAYED = 0x0001;
 inline constexpr UINT MF_DISABLED = 0x0002; // looks the same as grayed here
 inline constexpr UINT MF_CHECKED = 0x0008;
 inline constexpr UINT MF_POPUP = 0x0010;
-inline constexpr UINT MF_BYPOSITION = 0x0400;
 inline constexpr UINT MF_SEPARATOR = 0x0800;
 
 inline constexpr UINT TPM_LEFTALIGN = 0x0000;
 inline constexpr UINT TPM_LEFTBUTTON = 0x0000;
 inline constexpr UINT TPM_RIGHTBUTTON = 0x0002; // no difference here: both buttons choose
-inline constexpr UINT TPM_NONOTIFY = 0x0080;
 inline constexpr UINT TPM_RETURNCMD = 0x0100;
 
 // Owns its menu, and with it the menus below, until DestroyMenu, Detach or its own end.
@@ -45,17 +41,10 @@ public:
     // menu that the new item takes over.
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, LPCSTR pszNewItem = nullptr);
 
-    // By command also those of the menus below.
-    UINT GetMenuItemCount() const;
-    UINT GetMenuItemID(int nPos) const;               // 0 for a separator, -1 for a menu below or no such item
-    UINT GetMenuState(UINT nItem, UINT nFlags) const; // MF_*; -1 when there is no such item
-    DWORD CheckMenuItem(UINT nItem, UINT nCheck);     // the former state, MF_CHECKED or 0; -1 when there is none
-    DWORD EnableMenuItem(UINT nItem, UINT nEnable);   // the former state, MF_GRAYED or 0; -1 when there is none
-
     // Shows the menu at a point of the screen until the user has chosen or gone elsewhere. The chosen command is posted
-    // to the owner as WM_COMMAND, without TPM_NONOTIFY and TPM_RETURNCMD; with the latter it is the result, 0 when
-    // nothing was chosen. Else the result is FALSE when the menu could not be shown: another one is being tracked, or
-    // there is no owner. Messages run meanwhile: touch nothing afterwards that may be gone, this menu included.
+    // to the owner as WM_COMMAND; with TPM_RETURNCMD it is the result instead, 0 when nothing was chosen. Else the
+    // result is FALSE when the menu could not be shown: another one is being tracked, or there is no owner. Messages
+    // run meanwhile: touch nothing afterwards that may be gone, this menu included.
     BOOL TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT* pRect = nullptr);
 
 private:

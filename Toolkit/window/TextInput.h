@@ -18,7 +18,6 @@ struct TextInputState
     CRect caret;                        // client
     std::string text;                   // without what is being composed
     std::size_t cursor = 0, anchor = 0; // bytes of the text; the selection lies between them
-    bool readOnly = false;
 };
 
 class TOOLKIT_API TextInput

@@ -46,38 +46,3 @@ BOOL IsWindowVisible(HWND hWnd)
     const WindowRecord* pWindow = FindRecord(hWnd);
     return pWindow && toolkit::IsShown(*pWindow);
 }
-
-BOOL EnableWindow(HWND hWnd, BOOL bEnable)
-{
-    WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    const bool bWasDisabled = pWindow->Is(WS_DISABLED);
-    if (bWasDisabled != !bEnable) {
-        if (!bEnable)
-            toolkit::ReleaseCaptureWithin(hWnd);
-        if ((pWindow = FindRecord(hWnd)))
-            pWindow->style ^= WS_DISABLED;
-        SendMessage(hWnd, WM_ENABLE, bEnable != FALSE, 0);
-        if (!bEnable && GetFocus() == hWnd)
-            SetFocus(nullptr); // natively, a disabled window lets go of the focus and nobody gets it
-    }
-    return bWasDisabled;
-}
-
-BOOL IsWindowEnabled(HWND hWnd)
-{
-    const WindowRecord* pWindow = FindRecord(hWnd);
-    return pWindow && !pWindow->Is(WS_DISABLED);
-}
-
-BOOL BringWindowToTop(HWND hWnd)
-{
-    WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    toolkit::RaiseRecord(*pWindow);
-    if (pWindow->pParent)
-        toolkit::NoteWindow(*pWindow);
-    return TRUE;
-}

@@ -31,14 +31,11 @@ TOOLKIT_API BOOL GetClientRect(HWND hWnd, RECT* pRect);           // left and to
 TOOLKIT_API BOOL ClientToScreen(HWND hWnd, POINT* pPoint);
 TOOLKIT_API BOOL ScreenToClient(HWND hWnd, POINT* pPoint);
 TOOLKIT_API BOOL MoveWindow(HWND hWnd, int x, int y, int cx, int cy); // in the parent's client area
-TOOLKIT_API BOOL BringWindowToTop(HWND hWnd);                         // above its siblings
 TOOLKIT_API BOOL ShowWindow(HWND hWnd, int nShow);                    // TRUE when it was visible before
 TOOLKIT_API BOOL IsWindowVisible(HWND hWnd);                          // it and all its ancestors are shown
-TOOLKIT_API BOOL EnableWindow(HWND hWnd, BOOL bEnable);               // TRUE when it was disabled before
-TOOLKIT_API BOOL IsWindowEnabled(HWND hWnd);
 TOOLKIT_API BOOL SetWindowText(HWND hWnd, LPCSTR pszText);
 TOOLKIT_API CString GetWindowText(HWND hWnd);
-TOOLKIT_API HWND WindowFromPoint(POINT screen); // the innermost visible and enabled one
+TOOLKIT_API HWND WindowFromPoint(POINT screen); // the innermost visible one
 
 // Messages. A toolkit exception that leaves a handler ends there: it fails a creation, leaves a paint as it is, and is
 // reported for any other message, whose answer is then 0.

@@ -58,7 +58,7 @@ BOOL ModifyStyle(HWND hWnd, DWORD remove, DWORD add)
     WindowRecord* pWindow = FindRecord(hWnd);
     if (!pWindow)
         return FALSE;
-    constexpr DWORD kKept = WS_VISIBLE | WS_DISABLED | WS_VSCROLL | WS_HSCROLL;
+    constexpr DWORD kKept = WS_VISIBLE | WS_VSCROLL | WS_HSCROLL;
     const DWORD style = ((pWindow->style & ~remove) | add);
     const DWORD changed = (style ^ pWindow->style) & ~kKept;
     if (changed == 0)

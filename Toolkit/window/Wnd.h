@@ -40,7 +40,6 @@ public:
     void ScreenToClient(POINT* pPoint) const { ::ScreenToClient(m_hWnd, pPoint); }
 
     BOOL ShowWindow(int nShow) { return ::ShowWindow(m_hWnd, nShow); }
-    BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
     void MoveWindow(const RECT& rect);
     void SetWindowText(LPCSTR pszText) { ::SetWindowText(m_hWnd, pszText); }
     CWnd* SetFocus(); // without a window the focus stays where it is

@@ -25,3 +25,10 @@ DesktopTest::~DesktopTest()
     EXPECT_EQ(m_nBlocks, toolkit::CountGlobalBlocks()) << "blocks of memory left alive";
     EXPECT_EQ(m_nFiles, toolkit::CountOpenFiles()) << "files left open";
 }
+
+void DesktopTest::Key(UINT vkey, toolkit::Modifiers modifiers)
+{
+    desktop.Hold(modifiers);
+    desktop.Key(vkey);
+    desktop.Hold({});
+}

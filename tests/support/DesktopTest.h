@@ -15,6 +15,10 @@ protected:
     DesktopTest();
     ~DesktopTest() override;
 
+    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+
+    static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false},
+        kBoth{true, true, false}, kAlt{false, false, true};
     toolkit::HeadlessDesktop desktop;
 
 private:

@@ -56,13 +56,6 @@ void EditTest::Set(LPCSTR pszText)
     TakeLedger();
 }
 
-void EditTest::Key(UINT vkey, toolkit::Modifiers modifiers)
-{
-    desktop.Hold(modifiers);
-    desktop.Key(vkey);
-    desktop.Hold({});
-}
-
 CPoint EditTest::At(int position) const
 {
     return edit.PosFromChar(static_cast<UINT>(position)) + CPoint(0, 5);

@@ -28,16 +28,12 @@ protected:
 
     std::string State() const { return FieldState(edit.m_hWnd); }
     void Set(LPCSTR pszText); // and the caret at its end; the ledger is empty then
-    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
     std::string AfterKey(UINT vkey, toolkit::Modifiers modifiers = {}) { return Key(vkey, modifiers), State(); }
     Ledger TakeLedger() { return top.book.TakeLedger(); }
     CPoint At(int position) const; // the position's own pixel column, in the line's middle
     // What the clipboard holds as text, as another program reads it; "-" for none.
     std::string Clipboard();
     void TakeClipboard(const std::string& text); // another program puts a text there
-
-    static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false},
-        kBoth{true, true, false}, kAlt{false, false, true};
 
     FieldParent top;
     CEdit edit;

@@ -1,5 +1,5 @@
-// Where the caret may stand, what words are, and the one step of undo.
-#include "Toolkit/controls/EditHistory.h"
+// Where the caret may stand, and what words are.
+#include "Toolkit/controls/TextStops.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +60,6 @@ TEST(TextStopsTest, TheCaretStandsBetweenWhatAReaderTakesForCharacters)
                                             "b"))
         << "bytes that are no UTF-8";
     EXPECT_EQ(1u, StopAtOrBefore("a€b", 3));
-    EXPECT_EQ(5u, StopAtOrBefore("a€b", 99));
 }
 
 TEST(TextStopsTest, WordsAreRunsOfLettersOrOfSignsWithTheBlanksBehindThem)
@@ -69,56 +68,5 @@ TEST(TextStopsTest, WordsAreRunsOfLettersOrOfSignsWithTheBlanksBehindThem)
     EXPECT_EQ("|größe |-- |x|", Words("größe -- x"));
     EXPECT_EQ("left_2", WordIn("walk left_2.png", 8));
     EXPECT_EQ("  ", WordIn("walk  left", 5));
-    EXPECT_EQ("left", WordIn("walk left", 9)) << "behind the last letter";
     EXPECT_EQ("", WordIn("", 0));
-}
-
-TEST(EditTextTest, ReplacingLeavesTheCaretBehindAWholeCharacter)
-{
-    EditText text;
-    text.Set("\u0301a");
-    text.Replace("e");
-    EXPECT_EQ("e\u0301a", text.Text());
-    EXPECT_EQ(3u, text.Caret()) << "the mark has joined what was typed";
-
-    text.Set("walk");
-    text.Select(1, 3);
-    EXPECT_EQ("al", text.Selected());
-    EXPECT_EQ("ä", text.FitTo("äö", 5)) << "room for three bytes, but no half character";
-    EXPECT_EQ("", text.FitTo("ä", 2)) << "too long already";
-    text.Select(99, 1);
-    EXPECT_EQ((TextSpan{1, 4}), text.Selection());
-    EXPECT_EQ(1u, text.Caret());
-}
-
-TEST(EditHistoryTest, WhatIsTypedInOneGoIsUndoneAtOnceAndComesBack)
-{
-    EditText text;
-    EditHistory history;
-    const auto change = [&](std::string_view by, EditKind kind) {
-        history.Before(text, kind);
-        text.Replace(by);
-        history.After(text);
-    };
-    EXPECT_FALSE(history.Swap(text));
-
-    change("a", EditKind::Typing);
-    change("b", EditKind::Typing);
-    EXPECT_TRUE(history.Swap(text));
-    EXPECT_EQ("", text.Text());
-    EXPECT_TRUE(history.Swap(text));
-    EXPECT_EQ("ab", text.Text());
-
-    change("c", EditKind::Typing); // after undoing a new thing begins
-    text.MoveTo(0, false);
-    change("x", EditKind::Typing); // and elsewhere another one
-    EXPECT_TRUE(history.Swap(text));
-    EXPECT_EQ("abc", text.Text());
-
-    change("1", EditKind::Other);
-    change("2", EditKind::Other);
-    EXPECT_TRUE(history.Swap(text));
-    EXPECT_EQ("1abc", text.Text());
-    history.Forget();
-    EXPECT_FALSE(history.Swap(text));
 }

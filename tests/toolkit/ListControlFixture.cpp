@@ -17,8 +17,7 @@ std::string RowName(int row)
 std::string Change(const NMLISTVIEW& change)
 {
     std::string text;
-    const std::pair<UINT, const char*> names[] = {
-        {LVIS_SELECTED, "selected"}, {LVIS_FOCUSED, "focused"}, {LVIS_CUT, "cut"}, {LVIS_DROPHILITED, "target"}};
+    const std::pair<UINT, const char*> names[] = {{LVIS_SELECTED, "selected"}, {LVIS_FOCUSED, "focused"}};
     for (const auto& [state, name] : names)
         if ((change.uNewState ^ change.uOldState) & state)
             text += std::string(change.uNewState & state ? " +" : " -") + name;
@@ -39,7 +38,6 @@ BEGIN_MESSAGE_MAP(LedgerList, CListCtrl)
     ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnClick)
-    ON_NOTIFY_REFLECT(NM_RETURN, OnEvent)
     ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
     ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
     ON_WM_CONTEXTMENU()
@@ -119,7 +117,7 @@ void LedgerList::OnEndEdit(NMLVDISPINFO* pInfo, LRESULT*)
 
 void LedgerList::OnEvent(NMHDR* pHeader, LRESULT*)
 {
-    Write(pHeader->code == NM_RETURN ? "return" : pHeader->code == NM_SETFOCUS ? "focus comes" : "focus goes");
+    Write(pHeader->code == NM_SETFOCUS ? "focus comes" : "focus goes");
 }
 
 void ListControlTest::SetUp()
@@ -189,17 +187,21 @@ void ListControlTest::Click(int row, Modifiers modifiers)
     desktop.Hold({});
 }
 
-void ListControlTest::Key(UINT vkey, Modifiers modifiers)
-{
-    desktop.Hold(modifiers);
-    desktop.Key(vkey);
-    desktop.Hold({});
-}
-
 void ListControlTest::Drag(CPoint from, CPoint to, Modifiers modifiers)
 {
     desktop.Hold(modifiers);
     desktop.Press(list.m_hWnd, from);
     desktop.MoveTo(list.m_hWnd, to);
     desktop.Hold({});
+}
+
+std::string ListControlTest::AfterDrag(int row, Modifiers modifiers, MouseButton button)
+{
+    desktop.Hold(modifiers);
+    desktop.Press(list.m_hWnd, IconOf(row), button);
+    desktop.MoveTo(list.m_hWnd, LabelOf(row));
+    const std::string last = TakeLedger().back();
+    desktop.Release(list.m_hWnd, LabelOf(row), button);
+    desktop.Hold({});
+    return last;
 }

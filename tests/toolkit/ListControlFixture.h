@@ -59,11 +59,12 @@ protected:
 
     void Click(int row, toolkit::Modifiers modifiers = {});
     std::string AfterClick(int row, toolkit::Modifiers modifiers = {}) { return Click(row, modifiers), State(); }
-    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
     std::string AfterKey(UINT vkey, toolkit::Modifiers modifiers = {}) { return Key(vkey, modifiers), State(); }
     void Drag(CPoint from, CPoint to, toolkit::Modifiers modifiers = {}); // the button stays down
+    // What was told last when a row has been dragged off its place.
+    std::string AfterDrag(int row, toolkit::Modifiers modifiers = {},
+                          toolkit::MouseButton button = toolkit::MouseButton::Left);
 
-    static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false};
     const CPoint kEmpty{105, 10}; // between the pictures of a and b
 
     CImageList images;

@@ -1,4 +1,4 @@
-#include "Toolkit/controls/RowStates.h"
+#include "Toolkit/controls/RowSet.h"
 
 #include <gtest/gtest.h>
 #include <random>
@@ -19,19 +19,6 @@ std::string Text(const RowSet& rows)
             text << '-' << run.end - 1;
     }
     return text.str();
-}
-
-TEST(RowSetTest, TheLastRowOfTheLongestListIsLikeAnyOther)
-{
-    constexpr int kMost = 0x7FFFFFFF;
-    RowSet rows({0, kMost});
-    EXPECT_EQ(kMost, rows.Count());
-    EXPECT_TRUE(rows.Contains(kMost - 1));
-    EXPECT_EQ(kMost - 1, rows.Next(kMost - 2));
-    EXPECT_EQ(-1, rows.Next(kMost - 1));
-    EXPECT_EQ(-1, rows.Next(kMost));
-    rows.Erase({1, kMost - 1});
-    EXPECT_EQ(2, rows.Count());
 }
 
 TEST(RowSetTest, AgreesWithAPlainSetWhateverIsDone)
@@ -63,23 +50,6 @@ TEST(RowSetTest, AgreesWithAPlainSetWhateverIsDone)
         ASSERT_EQ(Text(expected), Text(rows.Without(other)));
         ASSERT_EQ(Text(expected), Text(rows.Without(rows.Within(other))));
     }
-}
-
-TEST(RowStatesTest, AShorterListForgetsWhatLayBeyondIt)
-{
-    RowStates rows;
-    rows.SetCount(1000000);
-    rows.SetAll(LVIS_SELECTED, LVIS_SELECTED);
-    rows.Set(999999, LVIS_FOCUSED, LVIS_FOCUSED);
-    rows.SetAnchor(500000);
-    EXPECT_EQ(1000000, rows.CountWith(LVIS_SELECTED));
-
-    rows.SetCount(3);
-    rows.SetCount(5);
-    EXPECT_EQ(3, rows.CountWith(LVIS_SELECTED));
-    EXPECT_EQ(0u, rows.State(3));
-    EXPECT_EQ(-1, rows.Focus());
-    EXPECT_EQ(-1, rows.Anchor());
 }
 
 } // namespace

@@ -20,11 +20,9 @@ BEGIN_MESSAGE_MAP(LedgerTree, CTreeCtrl)
     ON_NOTIFY_REFLECT(TVN_ENDLABELEDIT, OnEndEdit)
     ON_NOTIFY_REFLECT(TVN_SETDISPINFO, OnSetDispInfo)
     ON_NOTIFY_REFLECT(TVN_GETDISPINFO, OnDispInfo)
-    ON_NOTIFY_REFLECT(TVN_KEYDOWN, OnTreeKey)
     ON_NOTIFY_REFLECT(NM_CLICK, OnEvent)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnEvent)
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnEvent)
-    ON_NOTIFY_REFLECT(NM_RETURN, OnEvent)
     ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
     ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
     ON_WM_CONTEXTMENU()
@@ -124,7 +122,6 @@ void LedgerTree::OnDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
 {
     static std::string shown; // the owner lends a text of its own
     TVITEM& item = pInfo->item;
-    requested |= item.mask;
     if (item.mask & TVIF_TEXT) {
         ++labelRequests;
         shown = *reinterpret_cast<const std::string*>(item.lParam);
@@ -137,16 +134,13 @@ void LedgerTree::OnDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
     asked(shown);
 }
 
-void LedgerTree::OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult)
-{
-    *pResult = refuses("key " + std::string(1, static_cast<char>(pKey->wVKey)));
-}
-
 void LedgerTree::OnEvent(NMHDR* pHeader, LRESULT* pResult)
 {
-    static const std::map<UINT, std::string> names{{NM_CLICK, "click"},          {NM_RCLICK, "right click"},
-                                                   {NM_DBLCLK, "double click"},  {NM_RETURN, "return"},
-                                                   {NM_SETFOCUS, "focus comes"}, {NM_KILLFOCUS, "focus goes"}};
+    static const std::map<UINT, std::string> names{{NM_CLICK, "click"},
+                                                   {NM_RCLICK, "right click"},
+                                                   {NM_DBLCLK, "double click"},
+                                                   {NM_SETFOCUS, "focus comes"},
+                                                   {NM_KILLFOCUS, "focus goes"}};
     Write(names.at(pHeader->code), pResult);
 }
 
@@ -244,11 +238,4 @@ std::string TreeControlTest::InRow(int row) const
 {
     const HTREEITEM hItem = tree.HitTest(CPoint(2, row * kRowHeight + 1));
     return tree.NameOf(hItem);
-}
-
-void TreeControlTest::Key(UINT vkey, Modifiers modifiers)
-{
-    desktop.Hold(modifiers);
-    desktop.Key(vkey);
-    desktop.Hold({});
 }

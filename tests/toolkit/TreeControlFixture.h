@@ -16,7 +16,6 @@ public:
     std::function<void(const std::string& line)> meanwhile = [](const std::string&) {};
     std::function<void(const std::string& name)> asked = [](const std::string&) {}; // what to show of an item
     int labelRequests = 0;                                                          // since it was last set to 0
-    UINT requested = 0;                                                             // the parts asked for, too
     UINT keeps = 0; // what the control is to keep of an answer: TVIF_DI_SETITEM
 
     // An item whose label, pictures and children flag are left to this owner.
@@ -36,7 +35,6 @@ protected:
     afx_msg void OnEndEdit(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
-    afx_msg void OnTreeKey(NMTVKEYDOWN* pKey, LRESULT* pResult);
     afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
     afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()
@@ -68,7 +66,6 @@ protected:
     CPoint ButtonOf(const std::string& name) const;
     std::string InRow(int row) const; // counted from the client area's top
     void Click(const std::string& name) { desktop.Click(tree.m_hWnd, LabelOf(name).CenterPoint()); }
-    void Key(UINT vkey, toolkit::Modifiers modifiers = {});
 
     CImageList images;
     CWnd top;

@@ -12,12 +12,8 @@ using namespace toolkit;
 namespace
 {
 
-ItemIndex Add(TreeItems& items, ItemIndex parent, int place)
-{
-    return items.Insert(parent, place);
-}
-
-// Changes the items at random, and what they must come to: plain vectors.
+// Changes the items at random, and what they must come to: plain vectors. All stand directly below the root, so many
+// that they fill several blocks, or below one of those.
 class RandomTree
 {
 public:
@@ -25,110 +21,73 @@ public:
 
     void Step()
     {
-        const ItemIndex item = std::next(m_children.begin(), static_cast<int>(Below(m_children.size())))->first;
-        switch (Below(10)) {
+        Siblings& top = m_top;
+        Siblings& siblings = top.empty() || Below(3) ? top : m_below[top[Below(top.size())]];
+        const std::size_t place = Below(siblings.size() + 1);
+        const auto at = siblings.begin() + static_cast<int>(place);
+        switch (Below(12)) {
         case 0:
-            return Delete(item);
+            std::shuffle(siblings.begin(), siblings.end(), m_random);
+            return m_items.Arrange(ParentOf(siblings), siblings);
         case 1:
-            std::shuffle(m_children[item].begin(), m_children[item].end(), m_random);
-            return items.Arrange(item, m_children[item]);
+            if (at == siblings.end())
+                return;
+            m_items.MoveUp(siblings.back(), static_cast<int>(place));
+            std::rotate(at, siblings.end() - 1, siblings.end());
+            return;
         case 2:
-            return MoveUp(m_children[item]);
+            if (at == siblings.end() || !m_below[*at].empty())
+                return;
+            m_items.Delete(*at);
+            m_expanded.erase(*at);
+            siblings.erase(at);
+            return;
         case 3:
-            return Turn(item);
-        case 4:
-        case 5:
-            return Insert(item);
+            if (at != siblings.end())
+                m_items.SetExpanded(*at, Turn(*at));
+            return;
         default:
-            return Insert(kRootItem); // so many that they stand in several blocks
+            siblings.insert(at, m_items.Insert(ParentOf(siblings), static_cast<int>(place)));
         }
     }
 
-    void Check() const
+    void Check()
     {
-        std::vector<ItemIndex> rows;
-        AddShownRows(kRootItem, rows);
-        ASSERT_EQ(static_cast<int>(rows.size()), items.RowCount());
-        for (int row = 0; row < items.RowCount(); ++row) {
-            ASSERT_EQ(rows[static_cast<std::size_t>(row)], items.AtRow(row));
-            ASSERT_EQ(row, items.RowOf(items.AtRow(row)));
+        Siblings rows;
+        ItemIndex item = m_items.FirstChild(kRootItem), former = kNoItem;
+        for (std::size_t place = 0; place < m_top.size(); ++place) {
+            ASSERT_EQ(m_top[place], item);
+            ASSERT_EQ(item, m_items.ChildAt(kRootItem, static_cast<int>(place)));
+            ASSERT_EQ(static_cast<int>(place), m_items.PlaceOf(item));
+            ASSERT_EQ(former, m_items.Previous(item));
+            rows.push_back(item);
+            if (m_expanded.count(item))
+                rows.insert(rows.end(), m_below[item].begin(), m_below[item].end());
+            former = std::exchange(item, m_items.Next(item));
         }
-        for (const auto& [item, children] : m_children)
-            CheckChildren(item, children);
-        EXPECT_EQ(static_cast<int>(m_children.size()) - 1, items.Count());
+        EXPECT_EQ(former, m_items.LastChild(kRootItem));
+        ASSERT_EQ(static_cast<int>(rows.size()), m_items.RowCount());
+        for (int row = 0; row < m_items.RowCount(); ++row) {
+            ASSERT_EQ(rows[static_cast<std::size_t>(row)], m_items.AtRow(row));
+            ASSERT_EQ(row, m_items.RowOf(m_items.AtRow(row)));
+        }
     }
-
-    TreeItems items;
 
 private:
+    using Siblings = std::vector<ItemIndex>;
+
     std::size_t Below(std::size_t end) { return m_random() % end; }
-
-    void Insert(ItemIndex parent)
+    bool Turn(ItemIndex item) { return m_expanded.insert(item).second || m_expanded.erase(item) == 0; }
+    ItemIndex ParentOf(const Siblings& siblings) const
     {
-        std::vector<ItemIndex>& siblings = m_children[parent];
-        const auto place = static_cast<int>(Below(siblings.size() + 1));
-        const ItemIndex item = Add(items, parent, place);
-        siblings.insert(siblings.begin() + place, item);
-        m_parents[item] = parent;
-        m_children[item];
+        const auto it = std::ranges::find_if(m_below, [&](const auto& pair) { return &pair.second == &siblings; });
+        return it == m_below.end() ? kRootItem : it->first;
     }
 
-    void Delete(ItemIndex item)
-    {
-        if (item == kRootItem || !m_children[item].empty())
-            return;
-        items.Delete(item);
-        std::erase(m_children[m_parents[item]], item);
-        m_children.erase(item);
-        m_expanded.erase(item);
-    }
-
-    void MoveUp(std::vector<ItemIndex>& siblings)
-    {
-        if (siblings.size() < 2)
-            return;
-        const auto to = siblings.begin() + static_cast<int>(Below(siblings.size() - 1));
-        items.MoveUp(siblings.back(), static_cast<int>(to - siblings.begin()));
-        std::rotate(to, siblings.end() - 1, siblings.end());
-    }
-
-    void Turn(ItemIndex item)
-    {
-        if (item == kRootItem)
-            return;
-        const bool expands = m_expanded.insert(item).second;
-        if (!expands)
-            m_expanded.erase(item);
-        items.SetExpanded(item, expands);
-    }
-
-    void AddShownRows(ItemIndex parent, std::vector<ItemIndex>& rows) const
-    {
-        for (const ItemIndex child : m_children.at(parent)) {
-            rows.push_back(child);
-            if (m_expanded.count(child))
-                AddShownRows(child, rows);
-        }
-    }
-
-    void CheckChildren(ItemIndex parent, const std::vector<ItemIndex>& children) const
-    {
-        ASSERT_EQ(static_cast<int>(children.size()), items.ChildCount(parent));
-        ItemIndex item = items.FirstChild(parent), former = kNoItem;
-        for (int place = 0; place < items.ChildCount(parent); ++place) {
-            ASSERT_EQ(children[static_cast<std::size_t>(place)], item);
-            ASSERT_EQ(item, items.ChildAt(parent, place));
-            ASSERT_EQ(place, items.PlaceOf(item));
-            ASSERT_EQ(former, items.Previous(item));
-            former = std::exchange(item, items.Next(item));
-        }
-        EXPECT_EQ(kNoItem, item);
-        EXPECT_EQ(former, items.LastChild(parent));
-    }
-
+    TreeItems m_items;
     std::mt19937 m_random;
-    std::map<ItemIndex, std::vector<ItemIndex>> m_children{{kRootItem, {}}};
-    std::map<ItemIndex, ItemIndex> m_parents;
+    Siblings m_top;
+    std::map<ItemIndex, Siblings> m_below;
     std::set<ItemIndex> m_expanded;
 };
 
@@ -136,10 +95,11 @@ TEST(TreeItemsTest, RowsAndNeighboursFollowAnyHistoryOfChanges)
 {
     for (unsigned seed = 1; seed <= 20; ++seed) {
         RandomTree tree(seed);
-        for (int round = 0; round < 10; ++round) {
-            for (int step = 0; step < 40; ++step)
-                tree.Step();
-            ASSERT_NO_FATAL_FAILURE(tree.Check()) << "seed " << seed << ", round " << round;
+        for (int step = 0; step < 400; ++step) {
+            tree.Step();
+            if (step % 40 != 39)
+                continue;
+            ASSERT_NO_FATAL_FAILURE(tree.Check()) << "seed " << seed << ", step " << step;
         }
     }
 }
@@ -147,11 +107,11 @@ TEST(TreeItemsTest, RowsAndNeighboursFollowAnyHistoryOfChanges)
 TEST(TreeItemsTest, AHandleOfAnItemThatIsGoneFindsNothing)
 {
     TreeItems items;
-    const HTREEITEM hFirst = items.HandleOf(Add(items, kRootItem, 0));
+    const HTREEITEM hFirst = items.HandleOf(items.Insert(kRootItem, 0));
     items.Delete(items.Find(hFirst));
     EXPECT_EQ(kNoItem, items.Find(hFirst));
     for (int i = 0; i < 1000; ++i) {
-        const ItemIndex item = Add(items, kRootItem, 0);
+        const ItemIndex item = items.Insert(kRootItem, 0);
         ASSERT_NE(hFirst, items.HandleOf(item)); // also where its place is taken again
         items.Delete(item);
     }
@@ -166,11 +126,11 @@ TEST(TreeItemsTest, AHundredThousandSiblingsStayCheapAndADeepTreeNeedsNoStack)
     constexpr int kMany = 100'000;
     const auto start = std::chrono::steady_clock::now();
     TreeItems items;
-    const ItemIndex parent = Add(items, kRootItem, 0);
+    const ItemIndex parent = items.Insert(kRootItem, 0);
     items.SetExpanded(parent, true);
     std::mt19937 random(7);
     for (int i = 0; i < kMany; ++i)
-        Add(items, parent, static_cast<int>(random() % static_cast<unsigned>(i + 1)));
+        items.Insert(parent, static_cast<int>(random() % static_cast<unsigned>(i + 1)));
     for (int row = 1; row <= kMany; ++row)
         ASSERT_EQ(row, items.RowOf(items.AtRow(row)));
     while (items.ChildCount(parent) > 0)
@@ -179,7 +139,7 @@ TEST(TreeItemsTest, AHundredThousandSiblingsStayCheapAndADeepTreeNeedsNoStack)
 
     std::vector<ItemIndex> branch{parent}; // deeper than any stack
     while (branch.size() < 200'000)
-        branch.push_back(Add(items, branch.back(), 0));
+        branch.push_back(items.Insert(branch.back(), 0));
     for (std::size_t level = 1; level < 1000; ++level)
         items.SetExpanded(branch[level], true);
     EXPECT_EQ(1001, items.RowCount());
