@@ -38,31 +38,20 @@ protected:
     std::vector<HBITMAP> bitmaps;
 };
 
-TEST_F(AtomLibTest, ALargePictureIsShrunkIntoTheMiddleOfTheRectangle)
-{
-    EXPECT_NE(0, Draw({1, 0, 5, 4}, Bitmap({"RRRRBBBB", "RRRRBBBB", "GGGG####", "GGGG####"})));
-    EXPECT_EQ((Rows{
-                  "......",
-                  ".RRBB.",
-                  ".GG##.",
-                  "......",
-              }),
-              ShowPicture(surface));
-    EXPECT_EQ(CPoint(0, 1), offset);
-}
-
-TEST_F(AtomLibTest, ASmallPictureIsEnlargedAndTheBrushFillsTheRest)
+TEST_F(AtomLibTest, APictureIsScaledIntoTheMiddleOfTheRectangleAndTheBrushFillsTheRest)
 {
     const HBRUSH hBrush = CreateSolidBrush(RGB(255, 255, 0));
     EXPECT_NE(0, Draw({0, 0, 6, 4}, Bitmap({"R ", "GB"}), nullptr, hBrush));
+    EXPECT_EQ(CPoint(1, 0), offset);
+    EXPECT_NE(0, Draw({1, 0, 5, 4}, Bitmap({"RRRRBBBB", "RRRRBBBB", "GGGG####", "GGGG####"})));
     EXPECT_EQ((Rows{
                   "YRRYYY",
-                  "YRRYYY",
-                  "YGGBBY",
+                  "YRRBBY",
+                  "YGG##Y",
                   "YGGBBY",
               }),
               ShowPicture(surface));
-    EXPECT_EQ(CPoint(1, 0), offset);
+    EXPECT_EQ(CPoint(0, 1), offset);
     DeleteBrush(hBrush);
 }
 

