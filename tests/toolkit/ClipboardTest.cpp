@@ -169,17 +169,18 @@ TEST_F(ClipboardTest, WithoutMemoryTheFormerDataStaysAndARefusalOfTheDesktopIsAn
     EXPECT_EQ("path", desktop.ReadPublished("application/x-atoms"));
 
     COleDataSource source;
-    EXPECT_LT(0, FailEveryAllocation([&] {
-                  STGMEDIUM medium{};
-                  medium.tymed = TYMED_HGLOBAL;
-                  medium.hGlobal = Block("path");
-                  try {
-                      source.CacheData(m_atoms, &medium);
-                  } catch (const std::bad_alloc&) {
-                      EXPECT_EQ("path", Bytes(medium.hGlobal)); // still the caller's
-                      ReleaseStgMedium(&medium);
-                  }
-              }));
+    STGMEDIUM medium{};
+    medium.tymed = TYMED_HGLOBAL;
+    medium.hGlobal = Block("path");
+    const auto cache = [&] {
+        try {
+            source.CacheData(m_atoms, &medium);
+        } catch (const std::bad_alloc&) {
+            EXPECT_EQ("path", Bytes(medium.hGlobal)); // still the caller's
+        }
+    };
+    EXPECT_LT(0, FailEveryAllocation(cache));
+    EXPECT_EQ(TYMED_NULL, medium.tymed);
     desktop.RefuseClipboard(true);
     EXPECT_THROW(MakeSource()->SetClipboard(), COleException);
     EXPECT_EQ(Ledger({"released", "released"}), TakeLedger());

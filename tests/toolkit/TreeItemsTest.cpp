@@ -30,7 +30,7 @@ public:
             std::shuffle(siblings.begin(), siblings.end(), m_random);
             return m_items.Arrange(ParentOf(siblings), siblings);
         case 1:
-            if (at == siblings.end())
+            if (place + 1 >= siblings.size())
                 return;
             m_items.MoveUp(siblings.back(), static_cast<int>(place));
             std::rotate(at, siblings.end() - 1, siblings.end());
