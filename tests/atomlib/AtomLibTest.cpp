@@ -87,8 +87,6 @@ TEST_F(AtomLibTest, RefusesWhatItCannotDrawAndDrawsNothing)
     EXPECT_EQ(0, Draw({3, 0, 3, 4}, hPicture));
     EXPECT_EQ(0, Draw({0, 0, 6, 4}, hPicture, Bitmap({"#"})));
     EXPECT_EQ(0, Draw({0, 0, 6, 4}, hPicture, nullptr, hGone));
-    CRect rect(0, 0, 6, 4);
-    EXPECT_EQ(0, DrawThumbnailProportional(nullptr, rect, hPicture, nullptr, nullptr, nullptr));
     EXPECT_EQ(nullptr, CreateMaskBitmap(nullptr, kRed));
     EXPECT_EQ(CPoint(-1, -1), offset);
     EXPECT_EQ(Rows(4, "......"), ShowPicture(surface));

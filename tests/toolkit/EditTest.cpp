@@ -1,7 +1,6 @@
 // The edit control as its user and its parent see it.
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/TextInput.h"
 #include "tests/toolkit/EditFixture.h"
 
 using namespace toolkit;
@@ -100,31 +99,15 @@ TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)
     EXPECT_EQ("ä|cx", State()) << "what it replaces makes room";
 }
 
-TEST_F(EditTest, ADerivedClassHearsOfWhatKeysAndTheMenuDo)
+TEST_F(EditTest, TheContextMenuOffersWhatCanBeDoneNow)
 {
-    struct HearingEdit : CEdit
-    {
-        std::vector<UINT> heard;
-        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-        {
-            if (message >= WM_CUT && message <= WM_UNDO)
-                heard.push_back(message);
-            return CEdit::WindowProc(message, wParam, lParam);
-        }
-    } field;
-    ASSERT_TRUE(field.Create(WS_CHILD | WS_VISIBLE, CRect(10, 74, 110, 98), &top, 3));
-    field.SetFocus();
-    desktop.Type("ab");
-    for (const char letter : {'A', 'C', 'V', 'Z', 'X'})
-        Key(static_cast<UINT>(letter), kControl);
-    Key(VK_INSERT, kShift);
-    Key(VK_BACK, kAlt);
     desktop.Type("ab");
     desktop.Choose("Select All");
-    Key(VK_APPS);
+    desktop.Click(edit.m_hWnd, At(1), MouseButton::Right);
+    EXPECT_EQ("[ab]", State());
     desktop.Choose("Cut");
-    Key(VK_F10, kShift);
-    EXPECT_EQ(std::vector<UINT>({WM_COPY, WM_PASTE, WM_UNDO, WM_CUT, WM_PASTE, WM_UNDO, WM_CUT}), field.heard);
+    EXPECT_EQ("|", AfterKey(VK_F10, kShift));
+    EXPECT_EQ("ab", Clipboard());
     EXPECT_EQ(std::vector<std::string>({"[Undo | - | (Cut) | (Copy) | Paste | (Delete) | - | Select All]",
                                         "[Undo | - | Cut | Copy | Paste | Delete | - | (Select All)]"}),
               desktop.TakeMenus());
@@ -212,30 +195,6 @@ TEST_F(EditTest, TheCaretBlinksWhileTheFieldHasTheFocusAndStaysOnWhileItIsUsed)
     other.SetFocus();
     EXPECT_FALSE(isCaretSeen(edit, 1));
     EXPECT_TRUE(isCaretSeen(other, 0));
-}
-
-TEST_F(EditTest, WhatAnInputMethodComposesIsSeenButNoPartOfTheText)
-{
-    Set("ab");
-    const CPoint before = edit.PosFromChar(2);
-    TextInput* pInput = FocusedTextInput();
-    ASSERT_NE(nullptr, pInput);
-    pInput->Compose("´x", 2);
-    EXPECT_EQ("ab|", State());
-    EXPECT_EQ(Ledger(), TakeLedger());
-    const TextInputState state = pInput->GetTextInput();
-    EXPECT_EQ("ab", state.text);
-    EXPECT_EQ(2u, state.cursor);
-    EXPECT_LT(before.x, state.caret.left);
-    const CPoint underline(before.x + 4, before.y + CurrentTextEngine().LineHeight()); // the border is a pixel wide
-    EXPECT_EQ(ToPixel(GetSysColor(COLOR_WINDOWTEXT)), desktop.Dump(edit.m_hWnd).At(underline.x, underline.y));
-    pInput->Compose("", 0);
-    EXPECT_EQ(ToPixel(GetSysColor(COLOR_WINDOW)), desktop.Dump(edit.m_hWnd).At(underline.x, underline.y));
-    edit.SetSel(2, 0);
-    EXPECT_EQ(0u, pInput->GetTextInput().cursor);
-    EXPECT_EQ(2u, pInput->GetTextInput().anchor);
-    top.SetFocus();
-    EXPECT_EQ(nullptr, FocusedTextInput());
 }
 
 TEST_F(EditTest, AFieldThatIsDestroyedOrSetAnewByWhoHearsOfItsChangeIsSafe)

@@ -94,8 +94,6 @@ TEST_F(GraphicsTest, AFocusRectangleDrawnTwiceIsGone)
 
     DrawFocusRect(hdc, CRect(0, 0, 1, 4)); // one pixel wide: each once
     DrawFocusRect(hdc, CRect(0, 0, 1, 4));
-    DrawFocusRect(hdc, CRect(3, 0, 6, 4));
-    DrawFocusRect(hdc, CRect(3, 0, 6, 4));
     DrawFocusRect(hdc, CRect(1, 0, 6, 4));
     FillSolidRect(hdc, CRect(0, 0, 3, 4), kRed);
     EXPECT_EQ(before, ShowPicture(surface));
@@ -171,7 +169,6 @@ TEST_F(GraphicsTest, ASelectedBitmapCannotBeDeletedNorSelectedElsewhere)
     const HBITMAP hBitmap = CreateBitmapFromSurface(toolkit::Surface({3, 2}, 0xFFFFFFFF));
 
     const HBITMAP hOwn = SelectBitmap(hdcOne, hBitmap);
-    EXPECT_EQ(CSize(1, 1), GetBitmapSize(hOwn));
     EXPECT_EQ(nullptr, SelectBitmap(hdcTwo, hBitmap));
     EXPECT_EQ(nullptr, SelectBitmap(hdc, hBitmap)); // draws into a surface
     EXPECT_FALSE(DeleteBitmap(hBitmap));

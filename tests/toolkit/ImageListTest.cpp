@@ -1,9 +1,7 @@
 #include "Toolkit/graphics/ImageList.h"
 
-#include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "tests/support/AllocationFailures.h"
 #include "tests/toolkit/Picture.h"
 
 #include <gtest/gtest.h>
@@ -97,24 +95,6 @@ TEST_F(ImageListTest, IconsAreScaledToFitAndCentred)
     EXPECT_EQ((Rows{"R..R", ".BB.", ".BB.", "R..R"}), Shown(0));
     EXPECT_EQ(-1, PutIcon(2, {"R"}));
     EXPECT_EQ(-1, ImageList_ReplaceIcon(images.GetSafeHandle(), -1, nullptr));
-}
-
-TEST_F(ImageListTest, WhenMemoryRunsOutTheListIsAsItWas)
-{
-    ASSERT_TRUE(images.Create(2, 1, ILC_COLOR32, 0, 1));
-    const HBITMAP hPicture = Bitmap({"RGRGRGRG"});
-    int count = 0;
-    EXPECT_LT(4, FailEveryAllocation([&] {
-                  const int before = images.GetImageCount();
-                  try {
-                      EXPECT_EQ(before, ImageList_Add(images.GetSafeHandle(), hPicture, hPicture));
-                      count = images.GetImageCount();
-                  } catch (const CMemoryException&) {
-                      EXPECT_EQ(before, images.GetImageCount());
-                  }
-              }));
-    EXPECT_EQ(4, count);
-    EXPECT_EQ((Rows{"RG"}), Shown(3));
 }
 
 TEST_F(ImageListTest, ASelectedImageIsTintedOnlyWhereItCovers)

@@ -83,25 +83,7 @@ TEST_F(InputTest, TwoQuickPressesInOnePlaceAreADoubleClick)
     EXPECT_EQ("b LBUTTONDOWN 14,6", press(b, {14, 6})); // too late
     EXPECT_EQ("b LBUTTONDOWN 19,6", press(b, {19, 6})); // too far
     EXPECT_EQ("b RBUTTONDOWN 19,6", press(b, {19, 6}, MouseButton::Right));
-    EXPECT_EQ("b LBUTTONDOWN 19,6", press(b, {19, 6}));
     EXPECT_EQ("frame LBUTTONDOWN 69,30", press(frame, {69, 30})); // another window
-}
-
-TEST_F(InputTest, TheContextMenuIsAskedForByTheRightButtonAndTwoKeysAndGoesUpToWhoeverTakesIt)
-{
-    desktop.MoveTo(inner.m_hWnd, {1, 1});
-    SetFocus(inner.m_hWnd);
-    a.Answer(WM_CONTEXTMENU, 0);
-    desktop.Click(inner.m_hWnd, {1, 1}, MouseButton::Right);
-    EXPECT_EQ(Ledger({"inner CONTEXTMENU inner 117,67", "a CONTEXTMENU inner 117,67"}), LinesWith({"CONTEXT"}));
-    const Ledger byKey = {"inner CONTEXTMENU inner -1,-1", "a CONTEXTMENU inner -1,-1"};
-    const auto after = [&](UINT vkey, toolkit::Modifiers modifiers = {}) {
-        Key(vkey, modifiers);
-        return LinesWith({"CONTEXT"});
-    };
-    EXPECT_EQ(byKey, after(VK_APPS));
-    EXPECT_EQ(Ledger(), after(VK_F10));
-    EXPECT_EQ(byKey, after(VK_F10, kShift));
 }
 
 class SwallowingWnd : public SpyWnd

@@ -82,9 +82,9 @@ SpyWnd::SpyWnd(std::string name, LedgerBook& book, std::set<UINT> messages)
     : m_name(std::move(name)), m_book(book), m_messages(std::move(messages))
 {}
 
-bool SpyWnd::Show(CWnd* pParent, const CRect& rect, DWORD style, DWORD exStyle)
+bool SpyWnd::Show(CWnd* pParent, const CRect& rect, DWORD style)
 {
-    return CreateEx(exStyle, "", m_name.c_str(), WS_VISIBLE | style | (pParent ? WS_CHILD : 0), rect, pParent, 1);
+    return CreateEx(0, "", m_name.c_str(), WS_VISIBLE | style | (pParent ? WS_CHILD : 0), rect, pParent, 1);
 }
 
 LRESULT SpyWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)

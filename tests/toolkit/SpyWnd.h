@@ -15,7 +15,7 @@ public:
     // Writes "name MESSAGE" for each message of the set; which parameters follow depends on the message.
     SpyWnd(std::string name, LedgerBook& book, std::set<UINT> messages);
 
-    bool Show(CWnd* pParent, const CRect& rect, DWORD style = 0, DWORD exStyle = 0); // creates it, visible
+    bool Show(CWnd* pParent, const CRect& rect, DWORD style = 0); // creates it, visible
     void At(UINT message, std::function<void()> action) { m_actions[message] = std::move(action); }
     void Answer(UINT message, LRESULT result) { m_answers[message] = result; }
 

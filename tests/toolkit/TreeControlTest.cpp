@@ -83,16 +83,6 @@ TEST_F(TreeControlTest, AnOwnerThatSelectsOrTakesTheFocusWhileItIsAskedOrToldWin
     EXPECT_EQ(Ledger({"selecting a -> b", "selecting a -> c", "selected a -> c", "selected c -> b", "selecting b -> d",
                       "selected b -> d"}),
               TakeLedger());
-
-    Fill("a (b) c");
-    tree.meanwhile = [this](const std::string& line) {
-        if (line == "expanding a")
-            tree.SelectItem((*this)["c"]);
-    };
-    tree.SelectItem((*this)["b"]);
-    EXPECT_EQ("a [b] *c", State());
-    EXPECT_EQ(Ledger({"selecting - -> b", "expanding a", "selecting b -> c", "selected b -> c", "expanded a"}),
-              TakeLedger());
 }
 
 TEST_F(TreeControlTest, TheSelectionLeavesWhatIsDeletedAndAnOwnerMayDeleteMeanwhile)
@@ -119,23 +109,6 @@ TEST_F(TreeControlTest, TheSelectionLeavesWhatIsDeletedAndAnOwnerMayDeleteMeanwh
     tree.DeleteItem((*this)["b"]);
     EXPECT_EQ("f", State());
     EXPECT_EQ(Ledger({"deleted c", "deleted d", "deleted b", "deleted e", "deleted a"}), TakeLedger());
-}
-
-TEST_F(TreeControlTest, TypingFindsTheNextShownLabelThatBeginsSo)
-{
-    Fill("Anna [Bernd Berta] Clara (hidden) \xC3\x9Cnal bert");
-    tree.SetFocus();
-    const auto after = [this](const char* typed, DWORD wait = 0) {
-        desktop.Advance(wait);
-        desktop.Type(typed);
-        return tree.NameOf(tree.GetSelectedItem());
-    };
-    EXPECT_EQ("Bernd", after("b"));
-    EXPECT_EQ("Berta", after("ert"));
-    EXPECT_EQ("bert", after("B", 1001));
-    EXPECT_EQ("Bernd", after("b")); // the same letter goes on, and round
-    EXPECT_EQ("Bernd", after("h", 1001));
-    EXPECT_EQ("\xC3\x9Cnal", after("\xC3\xBC", 1001));
 }
 
 // Whatever the owner does in whatever notification, nothing of the control is touched that is gone.

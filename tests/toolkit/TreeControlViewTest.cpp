@@ -14,21 +14,22 @@ TEST_F(TreeControlTest, EveryPartIsHitWhereItIsPainted)
     const CRect label = LabelOf("b");
     const auto hit = [this](CPoint at) {
         UINT flags = 0;
-        const HTREEITEM hItem = tree.HitTest(at, &flags);
-        return std::pair(tree.NameOf(hItem), flags);
+        const std::string name = tree.NameOf(tree.HitTest(at, &flags));
+        return name + " " + std::to_string(flags);
     };
+    const auto part = [](const char* pszName, UINT flag) { return pszName + (" " + std::to_string(flag)); };
     const auto color = [&](CPoint at) { return ToColor(picture.At(at.x, at.y)); };
-    EXPECT_EQ(std::pair(std::string("b"), TVHT_ONITEMICON), hit(IconOf("b")));
+    EXPECT_EQ(part("b", TVHT_ONITEMICON), hit(IconOf("b")));
     EXPECT_EQ(RGB(255, 0, 0), color(IconOf("b")));
-    EXPECT_EQ(std::pair(std::string("b"), TVHT_ONITEMBUTTON), hit(ButtonOf("b")));
+    EXPECT_EQ(part("b", TVHT_ONITEMBUTTON), hit(ButtonOf("b")));
     EXPECT_EQ(GetSysColor(COLOR_3DDKSHADOW), color(ButtonOf("b")));
-    EXPECT_EQ(std::pair(std::string("b"), TVHT_ONITEMINDENT), hit(ButtonOf("b") - CPoint(20, 0)));
-    EXPECT_EQ(std::pair(std::string("d"), TVHT_ONITEMINDENT), hit(ButtonOf("d"))); // no children, no button
+    EXPECT_EQ(part("b", TVHT_ONITEMINDENT), hit(ButtonOf("b") - CPoint(20, 0)));
+    EXPECT_EQ(part("d", TVHT_ONITEMINDENT), hit(ButtonOf("d"))); // no children, no button
     EXPECT_NE(GetSysColor(COLOR_3DDKSHADOW), color(ButtonOf("d")));
 
-    EXPECT_EQ(std::pair(std::string("b"), TVHT_ONITEMLABEL), hit({label.right - 1, label.top}));
-    EXPECT_EQ(std::pair(std::string("b"), TVHT_ONITEMRIGHT), hit({label.right, label.bottom - 1}));
-    EXPECT_EQ(std::pair(std::string("-"), TVHT_NOWHERE), hit({5, 150}));
+    EXPECT_EQ(part("b", TVHT_ONITEMLABEL), hit({label.right - 1, label.top}));
+    EXPECT_EQ(part("b", TVHT_ONITEMRIGHT), hit({label.right, label.bottom - 1}));
+    EXPECT_EQ(part("-", TVHT_NOWHERE), hit({5, 150}));
 
     tree.SelectItem((*this)["b"]);
     const Surface selected = desktop.Dump(tree.m_hWnd);
