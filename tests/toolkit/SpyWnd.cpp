@@ -7,10 +7,8 @@ enum class Says
 {
     Nothing,
     Number,
-    Code,
     Place,
     Focus,
-    Menu,
     Wheel
 };
 
@@ -34,16 +32,12 @@ const std::map<UINT, std::pair<std::string, Says>> kMessages = {
     {WM_LBUTTONUP, {"LBUTTONUP", Says::Place}},
     {WM_LBUTTONDBLCLK, {"LBUTTONDBLCLK", Says::Place}},
     {WM_RBUTTONDOWN, {"RBUTTONDOWN", Says::Place}},
-    {WM_RBUTTONUP, {"RBUTTONUP", Says::Place}},
-    {WM_CONTEXTMENU, {"CONTEXTMENU", Says::Menu}},
     {WM_CAPTURECHANGED, {"CAPTURECHANGED", Says::Nothing}},
     {WM_KEYDOWN, {"KEYDOWN", Says::Number}},
     {WM_KEYUP, {"KEYUP", Says::Number}},
-    {WM_SYSKEYDOWN, {"SYSKEYDOWN", Says::Number}},
     {WM_CHAR, {"CHAR", Says::Number}},
     {WM_MOUSEWHEEL, {"MOUSEWHEEL", Says::Wheel}},
-    {WM_VSCROLL, {"VSCROLL", Says::Code}},
-    {WM_CLOSE, {"CLOSE", Says::Nothing}},
+    {WM_VSCROLL, {"VSCROLL", Says::Number}},
 };
 
 std::string Name(HWND hWnd)
@@ -62,14 +56,10 @@ std::string Parameters(Says says, WPARAM wParam, LPARAM lParam)
     switch (says) {
     case Says::Number:
         return " " + std::to_string(wParam);
-    case Says::Code:
-        return " " + std::to_string(LOWORD(wParam));
     case Says::Place:
         return " " + Place(lParam);
     case Says::Focus:
         return " " + (hOther ? Name(hOther) : "-") + " (" + Name(::GetFocus()) + ")";
-    case Says::Menu:
-        return " " + Name(hOther) + " " + Place(lParam);
     case Says::Wheel:
         return " " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))) + " at " + Place(lParam);
     default:
