@@ -7,6 +7,7 @@ enum class Says
 {
     Nothing,
     Number,
+    Code,
     Place,
     Focus,
     Wheel
@@ -37,7 +38,7 @@ const std::map<UINT, std::pair<std::string, Says>> kMessages = {
     {WM_KEYUP, {"KEYUP", Says::Number}},
     {WM_CHAR, {"CHAR", Says::Number}},
     {WM_MOUSEWHEEL, {"MOUSEWHEEL", Says::Wheel}},
-    {WM_VSCROLL, {"VSCROLL", Says::Number}},
+    {WM_VSCROLL, {"VSCROLL", Says::Code}},
 };
 
 std::string Name(HWND hWnd)
@@ -56,6 +57,8 @@ std::string Parameters(Says says, WPARAM wParam, LPARAM lParam)
     switch (says) {
     case Says::Number:
         return " " + std::to_string(wParam);
+    case Says::Code:
+        return " " + std::to_string(LOWORD(wParam));
     case Says::Place:
         return " " + Place(lParam);
     case Says::Focus:
