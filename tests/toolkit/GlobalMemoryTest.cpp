@@ -11,7 +11,7 @@
 namespace
 {
 
-TEST(GlobalMemoryTest, ABlockHasExactlyTheSizeThatWasAskedForAndAnotherSizeKeepsWhatFits)
+TEST(GlobalMemoryTest, ABlockHasExactlyTheSizeThatWasAskedFor)
 {
     const HGLOBAL hMem = GlobalAlloc(GHND, 17);
     EXPECT_EQ(17u, GlobalSize(hMem));

@@ -66,14 +66,4 @@ TEST(ScaleTest, TransparentPixelsLendNoColourAndAWhitePictureStaysWhite)
     EXPECT_EQ((Rows{"...", "..."}), ShowPicture(ScaleSurface(Surface({1023, 769}, 0xFFFFFFFF), {3, 2})));
 }
 
-TEST(ScaleTest, FitsIntoARoomKeepingProportions)
-{
-    using toolkit::FitInto;
-    EXPECT_EQ(CSize(128, 96), FitInto({1024, 768}, {128, 128}));
-    EXPECT_EQ(CSize(60, 80), FitInto({3, 4}, {100, 80}));
-    EXPECT_EQ(CSize(80, 1), FitInto({100000, 2}, {80, 80}));
-    EXPECT_EQ(CSize(), FitInto({48, 0}, {80, 80}));
-    EXPECT_EQ(CSize(), FitInto({48, 48}, {80, -1}));
-}
-
 } // namespace
