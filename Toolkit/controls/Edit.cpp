@@ -35,10 +35,3 @@ CPoint CEdit::PosFromChar(UINT nChar) const
 {
     return m_hWnd ? CPoint(SendMessage(EM_POSFROMCHAR, nChar)) : CPoint(-1, -1);
 }
-
-int CEdit::CharFromPos(CPoint pt) const
-{
-    if (!m_hWnd)
-        return -1;
-    return static_cast<int>(SendMessage(EM_CHARFROMPOS, 0, MAKELPARAM(pt.x, pt.y)));
-}

@@ -16,7 +16,6 @@ public:
     void ScrollCaret() { SendMessage(EM_SCROLLCARET); }
     void ReplaceSel(LPCSTR pszNew, BOOL bCanUndo = FALSE);
     CPoint PosFromChar(UINT nChar) const; // client; (-1, -1) without a window
-    int CharFromPos(CPoint pt) const;     // -1 without a window
 
     void LimitText(int nBytes = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nBytes)); }
     BOOL Undo() { return SendMessage(EM_UNDO) != 0; }

@@ -62,7 +62,6 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {EM_LIMITTEXT, &EditControl::OnLimitText},
         {EM_UNDO, &EditControl::OnUndo},
         {EM_POSFROMCHAR, &EditControl::OnPosFromChar},
-        {EM_CHARFROMPOS, &EditControl::OnCharFromPos},
     };
     return handlers.Call(*this, m_hWnd, message, wParam, lParam);
 }

@@ -62,7 +62,6 @@ private:
     LRESULT OnLimitText(WPARAM wParam, LPARAM);
     LRESULT OnUndo(WPARAM, LPARAM);
     LRESULT OnPosFromChar(WPARAM wParam, LPARAM);
-    LRESULT OnCharFromPos(WPARAM, LPARAM lParam);
     LRESULT OnCut(WPARAM, LPARAM);
     LRESULT OnCopy(WPARAM, LPARAM);
     LRESULT OnPaste(WPARAM, LPARAM);

@@ -108,11 +108,6 @@ LRESULT EditControl::OnPosFromChar(WPARAM wParam, LPARAM)
     return MAKELPARAM(place.left, place.top);
 }
 
-LRESULT EditControl::OnCharFromPos(WPARAM, LPARAM lParam)
-{
-    return static_cast<LRESULT>(m_layout.PositionAt(m_text.Text(), GET_X_LPARAM(lParam)));
-}
-
 LRESULT EditControl::OnCut(WPARAM, LPARAM)
 {
     OnCopy(0, 0);

@@ -55,13 +55,11 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {LVM_SCROLL, &ListControl::OnScroll},
         {LVM_GETTOPINDEX, &ListControl::OnGetTopIndex},
         {LVM_GETCOUNTPERPAGE, &ListControl::OnGetCountPerPage},
-        {LVM_REDRAWITEMS, &ListControl::OnRedrawItems},
         {LVM_UPDATE, &ListControl::OnUpdate},
         {LVM_ARRANGE, &ListControl::OnArrange},
         {LVM_SETICONSPACING, &ListControl::OnSetIconSpacing},
         {LVM_EDITLABEL, &ListControl::OnEditLabel},
         {LVM_GETEDITCONTROL, &ListControl::OnGetEditControl},
-        {LVM_CANCELEDITLABEL, &ListControl::OnCancelEditLabel},
         {LVM_MOVEEDITLABEL, &ListControl::OnMoveEditLabel},
     };
     return handlers.Call(*this, m_hWnd, message, wParam, lParam);

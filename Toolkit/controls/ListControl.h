@@ -125,7 +125,6 @@ private:
     LRESULT OnPaint(WPARAM, LPARAM);
     LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
     LRESULT OnUpdate(WPARAM wParam, LPARAM);
-    LRESULT OnRedrawItems(WPARAM wParam, LPARAM lParam);
     [[nodiscard]] bool DrawRows(HDC hdc, const CRect& rcPaint);
     void DrawRow(HDC hdc, int row, const Face& face);
     void DrawPicture(HDC hdc, int row, int image, UINT state);
@@ -156,7 +155,6 @@ private:
 
     // Editing a label in place.
     LRESULT OnEditLabel(WPARAM wParam, LPARAM);
-    LRESULT OnCancelEditLabel(WPARAM, LPARAM);
     LRESULT OnMoveEditLabel(WPARAM wParam, LPARAM);
     [[nodiscard]] bool BeginLabel(int row); // m_hLabelField tells whether it did
     [[nodiscard]] bool AskLabelEdit(int row, std::string& text, bool* pAllowed);

@@ -17,12 +17,6 @@ LRESULT ListControl::OnEditLabel(WPARAM wParam, LPARAM)
     return OnGetEditControl(0, 0);
 }
 
-LRESULT ListControl::OnCancelEditLabel(WPARAM, LPARAM)
-{
-    static_cast<void>(FinishLabel(false));
-    return TRUE;
-}
-
 LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
 {
     const int row = static_cast<int>(wParam);

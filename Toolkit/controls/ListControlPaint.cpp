@@ -132,17 +132,6 @@ LRESULT ListControl::OnUpdate(WPARAM wParam, LPARAM)
     return TRUE;
 }
 
-LRESULT ListControl::OnRedrawItems(WPARAM wParam, LPARAM lParam)
-{
-    const int first = static_cast<int>(wParam), last = static_cast<int>(lParam);
-    if (!m_rows.Has(first) || !m_rows.Has(last) || last < first)
-        return FALSE;
-    CellBlock block{m_layout.LineOf(first), m_layout.LineOf(last) + 1, 0, m_layout.Columns()};
-    const CRect rect = m_layout.BlockRect(block);
-    InvalidateRect(m_hWnd, &rect);
-    return TRUE;
-}
-
 void ListControl::Redraw(int row)
 {
     const CRect visible = m_layout.CellRect(row) & CRect(CPoint(), m_layout.Client());

@@ -62,9 +62,3 @@ HIMAGELIST CListCtrl::SetImageList(CImageList* pImageList, int nImageList)
     return reinterpret_cast<HIMAGELIST>(
         SendMessage(LVM_SETIMAGELIST, static_cast<WPARAM>(nImageList), reinterpret_cast<LPARAM>(hImages)));
 }
-
-CSize CListCtrl::SetIconSpacing(CSize cell)
-{
-    const auto former = static_cast<UINT_PTR>(SendMessage(LVM_SETICONSPACING, 0, MAKELPARAM(cell.cx, cell.cy)));
-    return {LOWORD(former), HIWORD(former)};
-}

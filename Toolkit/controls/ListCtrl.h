@@ -26,9 +26,7 @@ public:
     int GetTopIndex() const { return static_cast<int>(SendMessage(LVM_GETTOPINDEX)); }
     HWND EditLabel(int nItem); // the edit field; NULL when the editing was refused
     HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(LVM_GETEDITCONTROL)); }
-    void CancelEditLabel() { SendMessage(LVM_CANCELEDITLABEL); }
     // Tells where the row being edited is now, -1: gone; see LVM_MOVEEDITLABEL.
     void MoveEditLabel(int nItem) { SendMessage(LVM_MOVEEDITLABEL, static_cast<WPARAM>(nItem)); }
     HIMAGELIST SetImageList(CImageList* pImageList, int nImageList); // borrowed; the former one
-    CSize SetIconSpacing(CSize cell);
 };

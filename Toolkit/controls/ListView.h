@@ -24,7 +24,6 @@ inline constexpr UINT LVM_GETITEMRECT = LVM_FIRST + 14; // lParam: RECT*, whose 
 inline constexpr UINT LVM_HITTEST = LVM_FIRST + 18;     // lParam: LVHITTESTINFO*; the row or -1
 inline constexpr UINT LVM_ENSUREVISIBLE = LVM_FIRST + 19; // wParam: row, lParam: is a part of it enough?
 inline constexpr UINT LVM_SCROLL = LVM_FIRST + 20;        // wParam, lParam: pixels
-inline constexpr UINT LVM_REDRAWITEMS = LVM_FIRST + 21;   // wParam, lParam: first and last row
 inline constexpr UINT LVM_ARRANGE = LVM_FIRST + 22;
 inline constexpr UINT LVM_EDITLABEL = LVM_FIRST + 23; // wParam: row, -1 cancels; the edit field or NULL
 inline constexpr UINT LVM_GETEDITCONTROL = LVM_FIRST + 24;
@@ -38,7 +37,6 @@ inline constexpr UINT LVM_SORTITEMS = LVM_FIRST + 48;    // an owner-data contro
 inline constexpr UINT LVM_GETSELECTEDCOUNT = LVM_FIRST + 50;
 inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width and height; the former ones
 
-inline constexpr UINT LVM_CANCELEDITLABEL = LVM_FIRST + 179;
 // The toolkit's own: the row whose label is being edited is now row wParam, or gone (-1), which ends the editing like
 // Escape. An owner that moves rows while LVM_GETEDITCONTROL answers says so: the control knows rows by number only.
 inline constexpr UINT LVM_MOVEEDITLABEL = LVM_FIRST + 250;

@@ -65,7 +65,6 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_GETITEMSTATE, &TreeControl::OnGetItemState},
         {TVM_EDITLABEL, &TreeControl::OnEditLabel},
         {TVM_GETEDITCONTROL, &TreeControl::OnGetEditControl},
-        {TVM_ENDEDITLABELNOW, &TreeControl::OnEndEditLabelNow},
     };
     return handlers.Call(*this, m_hWnd, message, wParam, lParam);
 }

@@ -129,7 +129,6 @@ private:
     [[nodiscard]] bool Select(HTREEITEM hItem, UINT cause, bool* pDone = nullptr);
     bool MaySelect(HTREEITEM hItem) const;
     void SetCaret(HTREEITEM hItem); // tells nobody
-    void SetDropTarget(HTREEITEM hItem);
 
     // Expanding.
     LRESULT OnExpand(WPARAM wParam, LPARAM lParam);
@@ -205,7 +204,6 @@ private:
 
     // Editing a label in place.
     LRESULT OnEditLabel(WPARAM, LPARAM lParam);
-    LRESULT OnEndEditLabelNow(WPARAM wParam, LPARAM);
     [[nodiscard]] bool BeginLabel(HTREEITEM hItem); // m_hLabelField tells whether it did
     [[nodiscard]] bool AskLabelEdit(HTREEITEM hItem, std::string& text, bool& allowed);
     [[nodiscard]] bool FinishLabel(bool taken) override;
@@ -244,7 +242,6 @@ private:
     TreeItems m_items;
     TreeLayout m_layout;
     HTREEITEM m_hCaret = nullptr;
-    HTREEITEM m_hDropTarget = nullptr;
     HTREEITEM m_hTop = nullptr;         // in the top row, as the window shows it
     int m_nLeft = 0;                    // the content's x at the left edge, likewise
     std::vector<HTREEITEM> m_unsettled; // whose last children are gathered

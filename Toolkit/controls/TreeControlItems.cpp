@@ -208,22 +208,17 @@ LRESULT TreeControl::OnGetItemState(WPARAM wParam, LPARAM lParam)
 LRESULT TreeControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
 {
     const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
-    switch (wParam) {
-    case TVGN_CARET:
+    if (wParam == TVGN_CARET)
         return reinterpret_cast<LRESULT>(m_hCaret);
-    case TVGN_DROPHILITE:
-        return reinterpret_cast<LRESULT>(m_hDropTarget);
-    default:
-        return reinterpret_cast<LRESULT>(m_items.HandleOf(Neighbour(static_cast<UINT>(wParam), hItem)));
-    }
+    return reinterpret_cast<LRESULT>(m_items.HandleOf(Neighbour(static_cast<UINT>(wParam), hItem)));
 }
 
 ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
 {
     const ItemIndex item = m_items.Find(hItem);
-    const auto atRow = [&](int offset) {
+    const auto nextRow = [&] {
         const int row = item == kNoItem ? -1 : m_items.RowOf(item);
-        return row < 0 ? kNoItem : m_items.AtRow(row + offset);
+        return row < 0 ? kNoItem : m_items.AtRow(row + 1);
     };
     switch (code) {
     case TVGN_ROOT:
@@ -241,9 +236,7 @@ ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
     case TVGN_LASTVISIBLE:
         return m_items.AtRow(m_items.RowCount() - 1);
     case TVGN_NEXTVISIBLE:
-        return atRow(1);
-    case TVGN_PREVIOUSVISIBLE:
-        return atRow(-1);
+        return nextRow();
     default:
         return kNoItem;
     }

@@ -20,13 +20,6 @@ LRESULT TreeControl::OnEditLabel(WPARAM, LPARAM lParam)
     return OnGetEditControl(0, 0);
 }
 
-LRESULT TreeControl::OnEndEditLabelNow(WPARAM wParam, LPARAM)
-{
-    const bool wasOpen = m_hLabelField != nullptr;
-    static_cast<void>(FinishLabel(wParam == FALSE));
-    return wasOpen;
-}
-
 bool TreeControl::BeginLabel(HTREEITEM hItem)
 {
     StopLabelClock();

@@ -15,9 +15,6 @@ LRESULT TreeControl::OnSelectItem(WPARAM wParam, LPARAM lParam)
     switch (wParam) {
     case TVGN_CARET:
         return Select(hItem, TVC_UNKNOWN, &done) && done;
-    case TVGN_DROPHILITE:
-        SetDropTarget(hItem);
-        return TRUE;
     case TVGN_FIRSTVISIBLE:
         if (!hItem || !ExpandAncestors(hItem))
             return FALSE;
@@ -74,23 +71,9 @@ void TreeControl::SetCaret(HTREEITEM hItem)
     Redraw(hItem);
 }
 
-void TreeControl::SetDropTarget(HTREEITEM hItem)
-{
-    const HTREEITEM hFormer = std::exchange(m_hDropTarget, hItem);
-    if (hFormer == hItem)
-        return;
-    if (const ItemIndex former = m_items.Find(hFormer))
-        SetState(former, 0, TVIS_DROPHILITED);
-    if (const ItemIndex item = m_items.Find(hItem))
-        SetState(item, TVIS_DROPHILITED, TVIS_DROPHILITED);
-}
-
 void TreeControl::CountDropMark(ItemIndex item)
 {
-    const bool marked = (m_items[item].state & TVIS_DROPHILITED) != 0;
-    m_nDropMarks += marked ? 1 : -1;
-    if (!marked && m_hDropTarget == m_items.HandleOf(item))
-        m_hDropTarget = nullptr;
+    m_nDropMarks += m_items[item].state & TVIS_DROPHILITED ? 1 : -1;
     Redraw(m_hCaret); // it steps back while something else is marked
 }
 

@@ -90,7 +90,7 @@ bool TreeControl::NeedsOrder(UINT message, WPARAM wParam)
     case TVM_ARRANGECHILDREN:
         return false;
     case TVM_GETNEXTITEM:
-        return wParam != TVGN_CARET && wParam != TVGN_PARENT && wParam != TVGN_DROPHILITE;
+        return wParam != TVGN_CARET && wParam != TVGN_PARENT;
     default:
         return true;
     }

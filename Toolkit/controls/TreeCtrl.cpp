@@ -90,14 +90,6 @@ BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, LPARAM lParam)
     return SetItem(&item);
 }
 
-BOOL CTreeCtrl::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage)
-{
-    TVITEM item = ItemWith(TVIF_IMAGE | TVIF_SELECTEDIMAGE, hItem);
-    item.iImage = nImage;
-    item.iSelectedImage = nSelectedImage;
-    return SetItem(&item);
-}
-
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const
 {
     std::memcpy(static_cast<void*>(pRect), &hItem, sizeof(hItem));

@@ -24,9 +24,7 @@ public:
     HTREEITEM GetParentItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PARENT); }
     HTREEITEM GetFirstVisibleItem() const { return GetNextItem(nullptr, TVGN_FIRSTVISIBLE); }
     HTREEITEM GetNextVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_NEXTVISIBLE); }
-    HTREEITEM GetPrevVisibleItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_PREVIOUSVISIBLE); }
     HTREEITEM GetSelectedItem() const { return GetNextItem(nullptr, TVGN_CARET); }
-    HTREEITEM GetDropHilightItem() const { return GetNextItem(nullptr, TVGN_DROPHILITE); }
     BOOL ItemHasChildren(HTREEITEM hItem) const; // asks the owner when that is left to it
 
     // An item's parts.
@@ -38,7 +36,6 @@ public:
     BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nMask);
     LPARAM GetItemData(HTREEITEM hItem) const; // 0 for no item
     BOOL SetItemData(HTREEITEM hItem, LPARAM lParam);
-    BOOL SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage);
 
     // Places, in client coordinates.
     BOOL GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const; // FALSE inside a collapsed branch
@@ -50,10 +47,9 @@ public:
     HTREEITEM InsertItem(LPCSTR pszText, HTREEITEM hParent = TVI_ROOT, HTREEITEM hInsertAfter = TVI_LAST);
     BOOL DeleteItem(HTREEITEM hItem) { return SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(hItem)) != 0; }
     BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
-    BOOL Expand(HTREEITEM hItem, UINT nCode); // TVE_*; FALSE when nothing changed
-    BOOL Select(HTREEITEM hItem, UINT nCode); // TVGN_CARET, TVGN_DROPHILITE or TVGN_FIRSTVISIBLE
+    BOOL Expand(HTREEITEM hItem, UINT nCode);                              // TVE_*; FALSE when nothing changed
+    BOOL Select(HTREEITEM hItem, UINT nCode);                              // TVGN_CARET or TVGN_FIRSTVISIBLE
     BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); } // FALSE when refused
-    BOOL SelectDropTarget(HTREEITEM hItem) { return Select(hItem, TVGN_DROPHILITE); }
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
     BOOL SortChildren(HTREEITEM hParent);
     BOOL SortChildrenCB(TVSORTCB* pSort);
@@ -61,7 +57,6 @@ public:
     BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel = FALSE);
     HWND EditLabel(HTREEITEM hItem); // the edit field; NULL when the editing was refused
     HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL)); }
-    BOOL EndEditLabelNow(BOOL bCancel) { return SendMessage(TVM_ENDEDITLABELNOW, static_cast<WPARAM>(bCancel)) != 0; }
 
     HIMAGELIST GetImageList(UINT nImageList = TVSIL_NORMAL) const;
     HIMAGELIST SetImageList(CImageList* pImageList, UINT nImageList); // borrowed; the former one

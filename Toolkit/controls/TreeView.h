@@ -39,7 +39,6 @@ inline constexpr UINT TVM_HITTEST = TV_FIRST + 17;         // lParam: TVHITTESTI
 inline constexpr UINT TVM_SORTCHILDREN = TV_FIRST + 19;    // lParam: parent; by label, ignoring case
 inline constexpr UINT TVM_ENSUREVISIBLE = TV_FIRST + 20;   // lParam: item; TRUE when it only had to scroll
 inline constexpr UINT TVM_SORTCHILDRENCB = TV_FIRST + 21;  // lParam: TVSORTCB*; equals keep their order
-inline constexpr UINT TVM_ENDEDITLABELNOW = TV_FIRST + 22; // wParam: cancel?
 inline constexpr UINT TVM_GETITEMHEIGHT = TV_FIRST + 28;
 inline constexpr UINT TVM_GETITEMSTATE = TV_FIRST + 39; // wParam: item, lParam: mask; the states
 // Ours; lParam: TVARRANGECHILDREN*. What TVM_SORTCHILDRENCB with a comparison by place comes to, at the cost of one
@@ -55,17 +54,15 @@ inline constexpr UINT TVE_EXPAND = 0x0002;
 inline constexpr UINT TVE_TOGGLE = 0x0003;
 
 // What TVM_GETNEXTITEM gives. Shown is an item all of whose ancestors are expanded, scrolled into sight or not.
-inline constexpr UINT TVGN_ROOT = 0x0000;            // the first top-level item
-inline constexpr UINT TVGN_NEXT = 0x0001;            // the next sibling
-inline constexpr UINT TVGN_PREVIOUS = 0x0002;        // the previous sibling
-inline constexpr UINT TVGN_PARENT = 0x0003;          // NULL for a top-level item
-inline constexpr UINT TVGN_CHILD = 0x0004;           // the first child; of TVI_ROOT: the first top-level item
-inline constexpr UINT TVGN_FIRSTVISIBLE = 0x0005;    // the item in the client area's first row
-inline constexpr UINT TVGN_NEXTVISIBLE = 0x0006;     // the next shown item; the item itself must be shown
-inline constexpr UINT TVGN_PREVIOUSVISIBLE = 0x0007; // the shown item before it
-inline constexpr UINT TVGN_DROPHILITE = 0x0008;
-inline constexpr UINT TVGN_CARET = 0x0009;       // the selected item
-inline constexpr UINT TVGN_LASTVISIBLE = 0x000A; // the last shown item of the whole tree
+inline constexpr UINT TVGN_ROOT = 0x0000;         // the first top-level item
+inline constexpr UINT TVGN_NEXT = 0x0001;         // the next sibling
+inline constexpr UINT TVGN_PREVIOUS = 0x0002;     // the previous sibling
+inline constexpr UINT TVGN_PARENT = 0x0003;       // NULL for a top-level item
+inline constexpr UINT TVGN_CHILD = 0x0004;        // the first child; of TVI_ROOT: the first top-level item
+inline constexpr UINT TVGN_FIRSTVISIBLE = 0x0005; // the item in the client area's first row
+inline constexpr UINT TVGN_NEXTVISIBLE = 0x0006;  // the next shown item; the item itself must be shown
+inline constexpr UINT TVGN_CARET = 0x0009;        // the selected item
+inline constexpr UINT TVGN_LASTVISIBLE = 0x000A;  // the last shown item of the whole tree
 
 // Which fields of a TVITEM count.
 inline constexpr UINT TVIF_TEXT = 0x0001;

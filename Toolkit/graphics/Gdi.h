@@ -11,8 +11,7 @@
 // Bitmaps.
 TOOLKIT_API HBITMAP CreateBitmapFromSurface(toolkit::Surface surface);
 TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy); // black; NULL when an extent is not positive
-TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap);   // FALSE, too, while it is selected into a device context
-TOOLKIT_API CSize GetBitmapSize(HBITMAP hBitmap); // 0 by 0 for no bitmap
+TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap); // FALSE, too, while it is selected into a device context
 
 // Brushes: one colour. Drawing takes for a brush also a system colour's index plus 1.
 TOOLKIT_API HBRUSH CreateSolidBrush(COLORREF color);

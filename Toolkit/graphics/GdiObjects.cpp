@@ -37,12 +37,6 @@ BOOL DeleteBitmap(HBITMAP hBitmap)
     return bitmaps.Remove(hBitmap) != nullptr;
 }
 
-CSize GetBitmapSize(HBITMAP hBitmap)
-{
-    const toolkit::Surface* pSurface = toolkit::BitmapSurface(hBitmap);
-    return pSurface ? pSurface->Bounds().Size() : CSize();
-}
-
 toolkit::Surface* toolkit::BitmapSurface(HBITMAP hBitmap)
 {
     Bitmap* pBitmap = AllGdiObjects().bitmaps.Find(hBitmap);

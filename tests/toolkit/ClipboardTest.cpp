@@ -1,6 +1,7 @@
 #include "Toolkit/ole/DataObject.h"
 #include "Toolkit/ole/DataSource.h"
 #include "Toolkit/ole/OleException.h"
+#include "Toolkit/window/WaitCursor.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 
@@ -206,6 +207,16 @@ TEST_F(ClipboardTest, AFilesNameIsForThisProgramAlone)
     EXPECT_EQ("", desktop.PublishedKinds());
     COleDataSource::FlushClipboard();
     EXPECT_EQ("nothing", Paste(m_atoms));
+}
+
+TEST_F(ClipboardTest, TheWaitCursorShowsUntilTheLastOneGoes)
+{
+    {
+        const CWaitCursor outer;
+        CWaitCursor().Restore();
+        EXPECT_EQ(toolkit::Cursor::Wait, desktop.CurrentCursor());
+    }
+    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
 }
 
 } // namespace

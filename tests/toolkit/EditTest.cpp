@@ -108,8 +108,11 @@ TEST_F(EditTest, TheContextMenuOffersWhatCanBeDoneNow)
     desktop.Choose("Cut");
     EXPECT_EQ("|", AfterKey(VK_F10, kShift));
     EXPECT_EQ("ab", Clipboard());
+    desktop.Choose("Paste");
+    EXPECT_EQ("ab|", AfterKey(VK_APPS));
     EXPECT_EQ(std::vector<std::string>({"[Undo | - | (Cut) | (Copy) | Paste | (Delete) | - | Select All]",
-                                        "[Undo | - | Cut | Copy | Paste | Delete | - | (Select All)]"}),
+                                        "[Undo | - | Cut | Copy | Paste | Delete | - | (Select All)]",
+                                        "[Undo | - | (Cut) | (Copy) | Paste | (Delete) | - | (Select All)]"}),
               desktop.TakeMenus());
 }
 

@@ -182,18 +182,4 @@ TEST_F(FilesTest, TemporaryNamesLieInTheFolderOrTheMachinesOwnAndAreNeverTheSame
     former.empty() ? unsetenv("TMPDIR") : setenv("TMPDIR", former.c_str(), 1);
 }
 
-TEST(PathTest, ASeparatorIsAppendedOnceAndWhereThereIsRoom)
-{
-    const auto added = [](std::string path) {
-        path.resize(path.size() + 2);
-        const char* pszEnd = PathAddBackslashA(path.data());
-        return pszEnd ? path.substr(0, static_cast<std::size_t>(pszEnd - path.data())) : "refused";
-    };
-    EXPECT_EQ("/tmp/", added("/tmp"));
-    EXPECT_EQ("/tmp/", added("/tmp/"));
-    EXPECT_EQ("", added(""));
-    EXPECT_EQ(4095u, added(std::string(4094, 'x')).size());
-    EXPECT_EQ("refused", added(std::string(4095, 'x')));
-}
-
 } // namespace

@@ -32,17 +32,16 @@ protected:
         return index;
     }
 
-    toolkit::Surface Drawn(int i, UINT style = ILD_NORMAL)
+    Rows Shown(int i)
     {
         int cx = 0, cy = 0;
         EXPECT_TRUE(ImageList_GetIconSize(images.GetSafeHandle(), &cx, &cy));
         toolkit::Surface surface({cx, cy}, 0xFFFFFFFF);
         const HDC hdc = toolkit::CreateSurfaceDC(surface, {}, toolkit::Region(surface.Bounds()));
-        EXPECT_TRUE(ImageList_Draw(images.GetSafeHandle(), i, hdc, 0, 0, style));
+        EXPECT_TRUE(ImageList_Draw(images.GetSafeHandle(), i, hdc, 0, 0, ILD_NORMAL));
         DeleteDC(hdc);
-        return surface;
+        return ShowPicture(surface);
     }
-    Rows Shown(int i) { return ShowPicture(Drawn(i)); }
 
     CImageList images;
     std::vector<HBITMAP> bitmaps;
@@ -95,18 +94,6 @@ TEST_F(ImageListTest, IconsAreScaledToFitAndCentred)
     EXPECT_EQ((Rows{"R..R", ".BB.", ".BB.", "R..R"}), Shown(0));
     EXPECT_EQ(-1, PutIcon(2, {"R"}));
     EXPECT_EQ(-1, ImageList_ReplaceIcon(images.GetSafeHandle(), -1, nullptr));
-}
-
-TEST_F(ImageListTest, ASelectedImageIsTintedOnlyWhereItCovers)
-{
-    ASSERT_TRUE(images.Create(3, 1, ILC_COLOR32, 0, 4));
-    PutIcon(-1, {"# r"});
-    const toolkit::Surface drawn = Drawn(0, ILD_BLEND25);
-    const COLORREF highlight = GetSysColor(COLOR_HIGHLIGHT);
-    EXPECT_EQ(RGB(GetRValue(highlight) / 4, GetGValue(highlight) / 4, GetBValue(highlight) / 4),
-              toolkit::ToColor(drawn.At(0, 0)));
-    EXPECT_EQ(0xFFFFFFFF, drawn.At(1, 0));
-    EXPECT_EQ((Rows{"#.?"}), Shown(0)); // the list's own picture is as it was
 }
 
 TEST(ResourcesTest, TheModuleJoinedLastIsAskedFirst)

@@ -79,6 +79,30 @@ TEST_F(ListControlTest, ADragStartsAfterFourPixelsAndCarriesWhatIsSelected)
     EXPECT_NE("drag e", AfterDrag(4));
 }
 
+TEST_F(ListControlTest, KeysMoveTheFocusAndWithItTheSelection)
+{
+    Fill(11);
+    const std::tuple<UINT, Modifiers, const char*> steps[] = {
+        {VK_DOWN, {}, "a"},
+        {VK_RIGHT, {}, "b"},
+        {VK_DOWN, {}, "e"},
+        {VK_DOWN, {}, "h"},
+        {VK_DOWN, {}, "k"},
+        {VK_UP, kShift, "hk"},
+        {VK_LEFT, {}, "g"},
+        {VK_RIGHT, kControl, "g"},
+        {VK_SPACE, kControl, "gh"},
+        {VK_PRIOR, {}, "b"},
+        {VK_END, kShift, "bcdefghijk"},
+        {VK_HOME, {}, "a"},
+        {VK_NEXT, {}, "j"},
+    };
+    for (const auto& [vkey, modifiers, pszSelected] : steps) {
+        Key(vkey, modifiers);
+        EXPECT_EQ(pszSelected, Selected()) << vkey;
+    }
+}
+
 TEST_F(ListControlTest, AllRowsChangeAsOneAndAnyFewerOneByOne)
 {
     Fill(1000000);

@@ -129,6 +129,7 @@ TEST_F(ListControlViewTest, APointHitsExactlyWhatWasPainted)
 
 TEST_F(ListControlViewTest, OnlyRowsInSightAreAskedFor)
 {
+    EXPECT_EQ(Ledger({"hint b-b", "show b"}), Paints([&] { list.Update(1); }));
     EXPECT_EQ(Ledger({"hint a-e", "show a", "show e"}), Paints([&] {
                   list.Update(0);
                   list.Update(4);

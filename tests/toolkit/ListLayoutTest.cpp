@@ -10,8 +10,6 @@ using namespace toolkit;
 namespace
 {
 
-constexpr int kMost = 0x7FFFFFFF;
-
 // Three columns of 110, lines of 96, with pictures of 48.
 ListLayout MakeLayout(int count, CSize client = {330, 300})
 {
@@ -20,25 +18,6 @@ ListLayout MakeLayout(int count, CSize client = {330, 300})
     layout.SetClient(client);
     layout.SetCount(count);
     return layout;
-}
-
-std::string Text(const CRect& r)
-{
-    return std::to_string(r.left) + "," + std::to_string(r.top) + " " + std::to_string(r.right) + "," +
-           std::to_string(r.bottom);
-}
-
-TEST(ListLayoutTest, TheLongestListHasItsRowsWhereTheyBelong)
-{
-    ListLayout layout = MakeLayout(kMost, {90, 300});
-    EXPECT_EQ(std::int64_t{kMost} * 96, layout.ContentHeight());
-    layout.ScrollTo(layout.MaxScroll());
-    EXPECT_EQ("0,204 100,300", Text(layout.CellRect(kMost - 1)));
-    EXPECT_EQ(kMost - 1, layout.CellAt({5, 299}));
-    EXPECT_TRUE((layout.CellRect(0) & CRect(0, 0, 90, 300)).IsRectEmpty());
-    EXPECT_EQ(0, layout.ScrollToShow(0, false));
-    layout.ScrollTo(0);
-    EXPECT_EQ(layout.MaxScroll(), layout.ScrollToShow(kMost - 1, false));
 }
 
 TEST(ListLayoutTest, ARowIsShownByTheShortestWayAndStaysAtTheTopOfAWiderView)

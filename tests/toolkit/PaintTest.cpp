@@ -169,6 +169,14 @@ TEST_F(PaintTest, ALockedWindowIsPaintedWhenItIsLetGo)
     LockWindowUpdate(nullptr);
     desktop.Run();
     EXPECT_EQ(Ledger({"a 1,0-2,1"}), TakeLedger());
+
+    LockWindowUpdate(a.m_hWnd);
+    const HDC hdc = GetDC(a.m_hWnd);
+    FillSolidRect(hdc, CRect(0, 0, 9, 9), ColorOf('!'));
+    ReleaseDC(a.m_hWnd, hdc);
+    LockWindowUpdate(nullptr);
+    desktop.Run();
+    EXPECT_EQ(Ledger({"a 0,0-3,1"}), TakeLedger()); // it would have been drawn on
 }
 
 TEST_F(PaintTest, ADrawingContextOutlivesNothingItDrawsOn)

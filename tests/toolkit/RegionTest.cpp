@@ -61,17 +61,4 @@ TEST(RegionTest, HoldsExactlyThePixelsThatWereAddedAndNotTakenAway)
     }
 }
 
-TEST(RegionTest, ManyRectanglesBecomeTheirBounds)
-{
-    Region region;
-    for (int i = 0; i < 16; ++i)
-        region.Add(CRect(i * 10, i * 10, i * 10 + 5, i * 10 + 5));
-    region.Add({2, 2, 4, 4}); // inside one that is there
-    EXPECT_EQ(16u, region.Rects().size());
-    region.Add({200, 0, 201, 1});
-    ASSERT_EQ(1u, region.Rects().size());
-    region.Offset({-1, 2});
-    EXPECT_EQ(CRect(-1, 2, 200, 157), region.Bounds());
-}
-
 } // namespace

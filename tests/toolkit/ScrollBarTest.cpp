@@ -87,6 +87,7 @@ protected:
 
 TEST_F(ScrollingTest, TheThumbIsDraggedFromEndToEnd)
 {
+    EXPECT_EQ(kGreatest - 999, SetScrollInfo(rows.m_hWnd, SB_VERT, {0, kGreatest, 1000, kGreatest, 0}));
     SetScrollInfo(rows.m_hWnd, SB_VERT, {0, kGreatest, 1000, 0, 0});
     TakeLedger();
     const auto after = [this](CPoint to) {

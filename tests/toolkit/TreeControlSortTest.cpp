@@ -33,6 +33,7 @@ TEST_F(TreeControlTest, AnItemIsPutWhereItsOwnerWantsItOrBeforeTheFirstGreaterLa
     EXPECT_EQ("a A B b2 m Z", State()); // an equal label stays behind its like
     Fill("c a d");                      // not in order: as it is
     tree.Add("b", TVI_ROOT, TVI_SORT);
+    EXPECT_EQ("b c a d", State());
     tree.Add("c5", TVI_ROOT, TVI_SORT);
     EXPECT_EQ("b c a c5 d", State());
 

@@ -111,6 +111,21 @@ TEST_F(TreeControlTest, TheSelectionLeavesWhatIsDeletedAndAnOwnerMayDeleteMeanwh
     EXPECT_EQ(Ledger({"deleted c", "deleted d", "deleted b", "deleted e", "deleted a"}), TakeLedger());
 }
 
+TEST_F(TreeControlTest, TypingFindsTheNextShownLabelThatBeginsSo)
+{
+    Fill("Anna [Bernd Berta] Clara (hidden) \xC3\x9Cnal bert");
+    tree.SetFocus();
+    const std::tuple<DWORD, const char*, const char*> steps[] = {
+        {0, "b", "Bernd"}, {999, "ert", "Berta"}, {1001, "B", "bert"},
+        {0, "b", "Bernd"}, {1001, "h", "Bernd"},  {1001, "\xC3\xBC", "\xC3\x9Cnal"},
+    };
+    for (const auto& [wait, typed, found] : steps) {
+        desktop.Advance(wait);
+        desktop.Type(typed);
+        EXPECT_EQ(found, tree.NameOf(tree.GetSelectedItem()));
+    }
+}
+
 // Whatever the owner does in whatever notification, nothing of the control is touched that is gone.
 TEST_F(TreeControlTest, TheWindowOrAllItemsMayGoInAnyNotification)
 {
