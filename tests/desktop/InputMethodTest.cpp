@@ -89,6 +89,4 @@ TEST_F(InputMethodTest, OnlyAFieldThatTakesTextHasAnInputMethod)
     m_field.SetFocus();
     EXPECT_TRUE(IsEnabled());
     EXPECT_EQ(23, Caret().left()) << "what was being composed went with the focus";
-    m_field.SetReadOnly();
-    EXPECT_FALSE(Ask(Qt::ImEnabled).toBool());
 }
