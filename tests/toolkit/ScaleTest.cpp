@@ -61,6 +61,7 @@ TEST(ScaleTest, TransparentPixelsLendNoColourAndAWhitePictureStaysWhite)
     EXPECT_EQ((Rows{"Rr"}), ShowPicture(ScaleSurface(MakePicture({"RRR ", "RR R"}), {2, 1})));
     EXPECT_EQ((Rows{"RRG", "RRG"}), ShowPicture(ScaleSurface(MakePicture({"RRRRGG"}), {3, 2})));
 
+    EXPECT_EQ(CSize(34, 80), toolkit::FitInto({3, 7}, {80, 80}));
     EXPECT_TRUE(ScaleSurface(Surface({0, 4}), {3, 3}).IsEmpty());
     EXPECT_TRUE(ScaleSurface(Surface({4, 4}), {3, -3}).IsEmpty());
     EXPECT_EQ((Rows{"...", "..."}), ShowPicture(ScaleSurface(Surface({1023, 769}, 0xFFFFFFFF), {3, 2})));
