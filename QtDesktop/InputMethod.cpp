@@ -1,6 +1,6 @@
 #include "QtDesktop/InputMethod.h"
 
-#include "Toolkit/controls/EditMessages.h"
+#include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/Input.h"
 #include "Toolkit/window/WindowApi.h"

@@ -8,7 +8,7 @@
 // number that is selected. The host owns the field and deletes it after its window is gone.
 #pragma once
 
-#include "Toolkit/controls/Edit.h"
+#include "Toolkit/controls/edit/Edit.h"
 #include "Views/host/Api.h"
 
 class VIEWS_API CDigitalEdit : public CEdit

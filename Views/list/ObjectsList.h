@@ -1,7 +1,7 @@
 // CObjectsList: the list view of the members of one atom container.
 #pragma once
 
-#include "Toolkit/controls/ListCtrl.h"
+#include "Toolkit/controls/list/ListCtrl.h"
 #include "Views/clipboard/EditedName.h"
 #include "Views/host/HandlerRegistration.h"
 #include "Views/host/HeldPair.h"

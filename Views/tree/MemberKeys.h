@@ -1,7 +1,7 @@
 // Inside the library: what the members of an item are ordered by, read as they come.
 #pragma once
 
-#include "Toolkit/controls/TreeView.h"
+#include "Toolkit/controls/tree/TreeView.h"
 #include "Views/host/NameKeys.h"
 
 #include <vector>

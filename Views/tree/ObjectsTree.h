@@ -1,7 +1,7 @@
 // CObjectsTree: the tree view of the atoms that the editor announces.
 #pragma once
 
-#include "Toolkit/controls/TreeCtrl.h"
+#include "Toolkit/controls/tree/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/clipboard/EditedName.h"
 #include "Views/host/HandlerRegistration.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Toolkit/controls/TreeView.h"
+#include "Toolkit/controls/tree/TreeView.h"
 #include "Views/clipboard/AtomDropTarget.h"
 
 class CObjectsTree;

@@ -1,7 +1,7 @@
 // Inside the library: which image of the tree's image list is lent to which item.
 #pragma once
 
-#include "Toolkit/controls/TreeView.h"
+#include "Toolkit/controls/tree/TreeView.h"
 #include "Views/host/Api.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Inside the library: what a tree knows of its items, and which of them shows which atom.
 #pragma once
 
-#include "Toolkit/controls/TreeView.h"
+#include "Toolkit/controls/tree/TreeView.h"
 #include "Views/host/Api.h"
 #include "Views/host/IAtomContainer.h"
 #include "Views/host/StubRef.h"

@@ -1,5 +1,5 @@
 // Input methods in the toolkit's fields: dead keys, what is composed, and what they ask.
-#include "Toolkit/controls/Edit.h"
+#include "Toolkit/controls/edit/Edit.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QInputMethodEvent>

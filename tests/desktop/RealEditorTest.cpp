@@ -2,7 +2,7 @@
 #include "Editor/EditorApp.h"
 #include "Editor/app/QtPictureReader.h"
 #include "QtDesktop/QtDesktop.h"
-#include "Toolkit/controls/ListView.h"
+#include "Toolkit/controls/list/ListView.h"
 #include "Toolkit/window/WindowApi.h"
 #include "tests/desktop/XServerTest.h"
 

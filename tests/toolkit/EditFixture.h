@@ -1,7 +1,7 @@
 // A field in a window, and what its user and its parent see of it.
 #pragma once
 
-#include "Toolkit/controls/Edit.h"
+#include "Toolkit/controls/edit/Edit.h"
 #include "tests/support/DesktopTest.h"
 
 #include <functional>

@@ -1,5 +1,5 @@
 // Where the caret may stand, and what words are.
-#include "Toolkit/controls/TextStops.h"
+#include "Toolkit/controls/edit/TextStops.h"
 
 #include <gtest/gtest.h>
 

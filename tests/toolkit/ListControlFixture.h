@@ -1,7 +1,7 @@
 // A list control in a window, and what its user and its owner see of it.
 #pragma once
 
-#include "Toolkit/controls/ListCtrl.h"
+#include "Toolkit/controls/list/ListCtrl.h"
 #include "tests/support/DesktopTest.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
-#include "Toolkit/controls/ListLayout.h"
+#include "Toolkit/controls/list/ListLayout.h"
 
-#include "Toolkit/controls/ListLabel.h"
+#include "Toolkit/controls/list/ListLabel.h"
 #include "tests/toolkit/Ruler.h"
 
 #include <gtest/gtest.h>

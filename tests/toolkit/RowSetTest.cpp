@@ -1,4 +1,4 @@
-#include "Toolkit/controls/RowSet.h"
+#include "Toolkit/controls/list/RowSet.h"
 
 #include <gtest/gtest.h>
 #include <random>

@@ -1,7 +1,7 @@
 // A tree control in a window, and what its user and its owner see of it.
 #pragma once
 
-#include "Toolkit/controls/TreeCtrl.h"
+#include "Toolkit/controls/tree/TreeCtrl.h"
 #include "tests/support/DesktopTest.h"
 
 #include <functional>

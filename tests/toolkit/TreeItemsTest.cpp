@@ -1,5 +1,5 @@
 // The tree's items without a window: structure, rows and handles, against a simple model and in large numbers.
-#include "Toolkit/controls/TreeItems.h"
+#include "Toolkit/controls/tree/TreeItems.h"
 
 #include <chrono>
 #include <gtest/gtest.h>

@@ -1,0 +1,66 @@
+#include "Toolkit/controls/list/ListTracker.h"
+
+#include "Toolkit/controls/list/ListControl.h"
+
+namespace toolkit
+{
+
+namespace
+{
+
+constexpr LPCSTR kTrackerClass = "ListTracker";
+constexpr UINT_PTR kAutoScrollTimer = 1;
+
+// Destroyed by the list in the middle of any of these calls: nothing is touched behind them.
+class ListTracker : public NativeWindow
+{
+public:
+    using NativeWindow::NativeWindow;
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const HWND hList = GetParent(m_hWnd);
+        auto* const pList = dynamic_cast<ListControl*>(FindNativeWindow(hList));
+        if (!pList)
+            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+
+        switch (message) {
+        case WM_MOUSEMOVE:
+            pList->TrackMove(wParam, CPoint(lParam));
+            return 0;
+        case WM_TIMER:
+            pList->AutoScroll();
+            return 0;
+        case WM_CAPTURECHANGED:
+            pList->TrackingLost(m_hWnd);
+            return 0;
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP:
+            return SendMessage(hList, message, wParam, lParam);
+        default:
+            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+        }
+    }
+};
+
+} // namespace
+
+void RegisterListTracker()
+{
+    RegisterWindowClass(kTrackerClass, [](HWND hWnd) { return std::make_unique<ListTracker>(hWnd); });
+}
+
+HWND CreateListTracker(HWND hList)
+{
+    return CreateWindowEx(0, kTrackerClass, "", WS_CHILD, 0, 0, 0, 0, hList, 0, nullptr);
+}
+
+void SetAutoScroll(HWND hTracker, bool on)
+{
+    if (on)
+        SetTimer(hTracker, kAutoScrollTimer, kAutoScrollPeriod);
+    else
+        KillTimer(hTracker, kAutoScrollTimer);
+}
+
+} // namespace toolkit

@@ -1,0 +1,94 @@
+// How typing finds the next shown item whose label begins with what was typed.
+#include "Toolkit/base/Text.h"
+#include "Toolkit/base/Ticks.h"
+#include "Toolkit/controls/tree/TreeControl.h"
+
+namespace toolkit
+{
+
+namespace
+{
+
+constexpr DWORD kPatience = 1000; // milliseconds between two letters of one word
+
+std::string Encode(char32_t c)
+{
+    const auto trail = [c](int shift) { return static_cast<char>(0x80 | (c >> shift & 0x3F)); };
+    if (c < 0x80)
+        return {static_cast<char>(c)};
+    if (c < 0x800)
+        return {static_cast<char>(0xC0 | c >> 6), trail(0)};
+    if (c < 0x10000)
+        return {static_cast<char>(0xE0 | c >> 12), trail(6), trail(0)};
+    return {static_cast<char>(0xF0 | c >> 18), trail(12), trail(6), trail(0)};
+}
+
+bool BeginsWith(std::string_view text, std::string_view prefix)
+{
+    while (!prefix.empty()) {
+        if (text.empty())
+            return false;
+        const CodePoint one = DecodeUtf8(text), other = DecodeUtf8(prefix);
+        if (FoldCase(one.value) != FoldCase(other.value))
+            return false;
+        text.remove_prefix(static_cast<std::size_t>(one.bytes));
+        prefix.remove_prefix(static_cast<std::size_t>(other.bytes));
+    }
+    return true;
+}
+
+// Is the text one letter, again and again?
+bool IsRepeated(std::string_view text, std::string_view letter)
+{
+    while (BeginsWith(text, letter))
+        text.remove_prefix(static_cast<std::size_t>(DecodeUtf8(text).bytes));
+    return text.empty();
+}
+
+} // namespace
+
+LRESULT TreeControl::OnChar(WPARAM wParam, LPARAM)
+{
+    const auto c = static_cast<char32_t>(wParam);
+    const bool begins = m_search.text.empty() || GetTickCount() - m_search.at > kPatience;
+    const bool types = c > ' ' || (c == ' ' && !begins);
+    if (m_bCharIsTaken || !types || c == 0x7F)
+        return 0;
+    if (begins)
+        m_search.text.clear();
+    m_search.text += Encode(c);
+    m_search.at = GetTickCount();
+    static_cast<void>(SearchFor(Encode(c)));
+    return 0;
+}
+
+// A longer word may be that of the item found so far. The same letter again goes on to the next item.
+bool TreeControl::SearchFor(const std::string& letter)
+{
+    const bool begins = m_search.text == letter;
+    HTREEITEM hFound = nullptr;
+    if (!FindLabel(m_search.text, begins, hFound))
+        return false;
+    if (!hFound && !begins && IsRepeated(m_search.text, letter) && !FindLabel(letter, true, hFound))
+        return false;
+    return !hFound || Select(hFound, TVC_BYKEYBOARD);
+}
+
+bool TreeControl::FindLabel(std::string prefix, bool afterCaret, HTREEITEM& hFound)
+{
+    const ItemIndex caret = m_items.Find(m_hCaret);
+    const int from = std::max(m_items.RowOf(caret), 0) + (afterCaret && caret != kNoItem ? 1 : 0);
+    for (int i = 0; i < m_items.RowCount(); ++i) {
+        const HTREEITEM hItem = m_items.HandleOf(m_items.AtRow((from + i) % m_items.RowCount()));
+        Face face;
+        if (!AskFace(hItem, TVIF_TEXT, face))
+            return false;
+        if (m_items.Find(hItem) != kNoItem && BeginsWith(face.text, prefix)) {
+            hFound = hItem;
+            return true;
+        }
+    }
+    return true;
+}
+
+} // namespace toolkit
