@@ -1,6 +1,6 @@
 #include "Editor/app/QtPictureReader.h"
 
-#include "Editor/app/SoundPng.h"
+#include "Editor/app/WholePng.h"
 #include "Editor/disk/FileText.h"
 
 #include <QFile>
@@ -135,7 +135,7 @@ DecodedPicture QtPictureReader::ReadFile(const std::string& path, CSize maxSize,
     reader.setDecideFormatFromContent(true);
     const QSize max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1));
     if (reader.canRead()) {
-        if (reader.format() == "png" && !IsSoundPng(file))
+        if (reader.format() == "png" && !IsWholePng(file))
             return {{}, {}, "the picture is damaged"};
         return Decode(reader, max, frame);
     }

@@ -61,7 +61,7 @@ public:
         const bool bThere = fstatat(nFolder, path.c_str(), &m_status, 0) == 0;
         const bool bWanted = bThere && (S_ISREG(m_status.st_mode) || S_ISDIR(m_status.st_mode));
         if (bWanted) // opening anything else may have consequences
-            m_fd = FileHandle(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+            m_fd = FileDescriptor(openat(nFolder, path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
         if (bThere && !bWanted)
             m_trouble = "neither a file nor a folder";
         else if (!bThere && (errno == ENOENT || errno == ELOOP))
@@ -95,7 +95,7 @@ private:
     const std::string m_shown;
     const std::string m_name;
     struct stat m_status = {};
-    FileHandle m_fd;
+    FileDescriptor m_fd;
     std::string m_deadLink;
     std::string m_trouble;
 };

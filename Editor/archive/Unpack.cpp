@@ -34,7 +34,8 @@ void SetChanged(int fd, std::int64_t changed)
 int MakeFile(int nFolder, const std::string& name, const ArchiveRecord& record)
 {
     const mode_t permissions = record.permissions ? record.permissions : 0666;
-    FileHandle handle(openat(nFolder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, permissions));
+    FileDescriptor handle(
+        openat(nFolder, name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, permissions));
     if (!handle)
         return errno;
     if (const int error = WriteAll(handle.Get(), record.content); error != 0)
@@ -55,7 +56,7 @@ std::string MakeFolder(int nFolder, const std::string& name, const std::string& 
     const mode_t permissions = record.permissions ? record.permissions | S_IRWXU : 0777; // it is yet to be filled
     if (mkdirat(nFolder, name.c_str(), permissions) != 0)
         return Line(shown, errno);
-    const FileHandle handle(openat(nFolder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    const FileDescriptor handle(openat(nFolder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!handle)
         return Line(shown, errno);
     RecordReader members(record.content);

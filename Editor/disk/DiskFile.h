@@ -13,13 +13,13 @@ namespace editor
 {
 
 // A file descriptor that is closed at the end; -1: none.
-class FileHandle
+class FileDescriptor
 {
 public:
-    explicit FileHandle(int fd = -1) : m_fd(fd) {}
-    ~FileHandle() { Close(); }
-    FileHandle(FileHandle&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
-    FileHandle& operator=(FileHandle&& other) noexcept
+    explicit FileDescriptor(int fd = -1) : m_fd(fd) {}
+    ~FileDescriptor() { Close(); }
+    FileDescriptor(FileDescriptor&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept
     {
         std::swap(m_fd, other.m_fd);
         return *this;

@@ -29,7 +29,7 @@ void TakenNames::Update(const std::string& folder)
     m_names.clear();
     m_counts.clear();
     std::vector<std::string> names;
-    const FileHandle handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (handle)
         ReadNames(handle.Get(), names);
     for (const std::string& name : names)

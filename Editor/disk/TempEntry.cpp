@@ -33,7 +33,7 @@ std::string Hexadecimal(std::uint64_t number)
 std::optional<std::string> Machine()
 {
     char number[64];
-    const FileHandle file(open("/etc/machine-id", O_RDONLY | O_CLOEXEC));
+    const FileDescriptor file(open("/etc/machine-id", O_RDONLY | O_CLOEXEC));
     const ssize_t size = file ? read(file.Get(), number, sizeof number) : 0;
     if (size < 0 || (!file && errno != ENOENT))
         return std::nullopt;
@@ -78,7 +78,7 @@ bool IsOwn(int nFolder, const std::string& name)
 TempEntry::TempEntry(const std::string& folder) : m_folder(folder), m_name(SecretName())
 {
     if (!m_name.empty())
-        m_fd = FileHandle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        m_fd = FileDescriptor(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_fd)
         m_error = errno;
     else
@@ -133,8 +133,8 @@ int ReplaceFile(const std::string& path, std::string_view bytes)
     TempEntry temp(file.parent_path().string());
     if (temp.GetError() != 0)
         return temp.GetError();
-    FileHandle handle(openat(temp.Folder(), temp.Name().c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                             status.st_mode & 0777));
+    FileDescriptor handle(openat(temp.Folder(), temp.Name().c_str(),
+                                 O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, status.st_mode & 0777));
     if (!handle)
         return errno;
     if (const int error = WriteAll(handle.Get(), bytes); error != 0)
@@ -162,7 +162,7 @@ int RemoveForGood(const std::string& folder, const std::string& name)
 // They were seen before the lock is tried: what begins later is not among them.
 void RemoveLeftOvers(const std::string& folder, const std::vector<std::string>& seen)
 {
-    const FileHandle handle(seen.empty() ? -1 : open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor handle(seen.empty() ? -1 : open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!handle || Beginning().empty() || !IsNobodyAtWork(handle.Get()))
         return;
     for (const std::string& name : seen)

@@ -38,7 +38,7 @@ public:
 
 private:
     const std::string m_folder;
-    FileHandle m_fd;
+    FileDescriptor m_fd;
     int m_error = 0;
     std::string m_name; // empty once it has been put into its place
 };

@@ -168,7 +168,7 @@ int PutInto(const Trash& trash, const std::string& path, const std::string& name
 {
     const std::string info = trash.path + "/info/" + name + std::string(kInfoEnding);
     TrashPlace place{trash.path, name};
-    FileHandle handle(open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    FileDescriptor handle(open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!handle)
         return errno;
     int error = WriteAll(handle.Get(), InfoFor(trash, path));

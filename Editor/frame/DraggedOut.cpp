@@ -20,7 +20,7 @@ DraggedOut::DraggedOut(const ActiveMembers& members)
             m_members.push_back(CStubRef<CMember>::Share(pMember));
 }
 
-unsigned DraggedOut::NextLook()
+unsigned DraggedOut::NextCheck()
 {
     if (m_members.empty() || m_nPause > kLongestPause) {
         m_members.clear();
@@ -31,7 +31,7 @@ unsigned DraggedOut::NextLook()
     return nPause;
 }
 
-std::vector<CStubRef<CContainer>> DraggedOut::Look()
+std::vector<CStubRef<CContainer>> DraggedOut::Check()
 {
     std::vector<CStubRef<CContainer>> changed;
     std::erase_if(m_members, [&](const CStubRef<CMember>& pMember) {

@@ -17,9 +17,9 @@ public:
     DraggedOut() = default;
     explicit DraggedOut(const ActiveMembers& members); // the first of very many will do
 
-    unsigned NextLook(); // milliseconds until it is due; 0: there is nothing more to look for
+    unsigned NextCheck(); // milliseconds until it is due; 0: there is nothing more to look for
     // The containers that have lost files since the last look, each once; they have not been read anew.
-    std::vector<CStubRef<CContainer>> Look();
+    std::vector<CStubRef<CContainer>> Check();
 
 private:
     std::vector<CStubRef<CMember>> m_members; // whose files are there, as far as is known

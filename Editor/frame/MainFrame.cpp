@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr UINT kSelectRenamed = WM_USER;
-constexpr UINT_PTR kLookTimer = 1;
+constexpr UINT_PTR kCheckTimer = 1;
 
 } // namespace
 
@@ -268,27 +268,27 @@ void CMainFrame::OnMoved(const std::string& reason)
 void CMainFrame::OnCopied(const ActiveMembers& members)
 {
     m_draggedOut = DraggedOut(members);
-    AwaitNextLook();
+    AwaitNextCheck();
 }
 
-void CMainFrame::AwaitNextLook()
+void CMainFrame::AwaitNextCheck()
 {
-    if (const unsigned nPause = m_draggedOut.NextLook())
-        SetTimer(kLookTimer, nPause);
+    if (const unsigned nPause = m_draggedOut.NextCheck())
+        SetTimer(kCheckTimer, nPause);
     else
-        KillTimer(kLookTimer);
+        KillTimer(kCheckTimer);
 }
 
 void CMainFrame::OnTimer(UINT_PTR)
 {
-    const auto changed = m_draggedOut.Look();
+    const auto changed = m_draggedOut.Check();
     for (const auto& pContainer : changed)
         m_commands.ReadAgain(*pContainer.Get());
     if (!changed.empty()) {
         m_navigation.LeaveWhatIsGone();
         UpdateStatus();
     }
-    AwaitNextLook();
+    AwaitNextCheck();
 }
 
 } // namespace editor

@@ -76,7 +76,7 @@ private:
     void FocusNextPane();
     void SaveByKey();
     bool MayClose(); // asks what is to become of phases that are modified
-    void AwaitNextLook();
+    void AwaitNextCheck();
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     CPane* PaneOfKind(DWORD kind); // NULL: none

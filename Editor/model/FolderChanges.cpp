@@ -49,7 +49,7 @@ bool IsOtherSpelling(int nFolder, const std::string& a, const std::string& b)
 
 int RenameIn(const std::string& folder, const std::string& from, const std::string& to)
 {
-    const FileHandle handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!handle)
         return errno;
     const int error = RenameWithoutReplacing(handle.Get(), from, handle.Get(), to);

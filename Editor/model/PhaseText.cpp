@@ -63,7 +63,7 @@ std::vector<PictureLine> PictureLines(std::string_view text)
 
 std::string ReadPhaseText(const std::string& path, std::string& text)
 {
-    const FileHandle file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
     struct stat status;
     if (!file || fstat(file.Get(), &status) != 0)
         return SystemErrorText(errno);

@@ -31,7 +31,7 @@ constexpr std::pair<UINT, LPCSTR> kTexts[] = {
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
 
 // Smooth edges keep their alpha; only what is wholly transparent bears the colour.
-toolkit::Surface WithTransparentColor(toolkit::Surface picture)
+toolkit::Surface OnTransparentGround(toolkit::Surface picture)
 {
     for (int y = 0; y < picture.Height(); ++y)
         for (int x = 0; x < picture.Width(); ++x)
@@ -62,11 +62,11 @@ void AddEditorResources(CResourceModule& module)
 {
     for (const auto& [nID, pszText] : kTexts)
         module.AddString(nID, pszText);
-    module.AddBitmap(views::IDB_LIST_ITEMS, WithTransparentColor(DrawPictogram(Pictogram::Folder, kIconExtent)));
-    module.AddBitmap(views::IDB_CONTAINER_MARK, WithTransparentColor(DrawPictogram(Pictogram::Folder, kMarkExtent)));
+    module.AddBitmap(views::IDB_LIST_ITEMS, OnTransparentGround(DrawPictogram(Pictogram::Folder, kIconExtent)));
+    module.AddBitmap(views::IDB_CONTAINER_MARK, OnTransparentGround(DrawPictogram(Pictogram::Folder, kMarkExtent)));
     module.AddBitmap(views::IDB_TREE_ITEMS,
-                     WithTransparentColor(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),
-                                                     DrawPictogram(Pictogram::Folder, kTreeIconExtent))));
+                     OnTransparentGround(SideBySide(DrawPictogram(Pictogram::Placeholder, kTreeIconExtent),
+                                                    DrawPictogram(Pictogram::Folder, kTreeIconExtent))));
     AddPane(module, views::IDR_TREE_PANE, "Library", Pictogram::TreePane);
     AddPane(module, views::IDR_ICON_PANE, "Icons", Pictogram::IconPane);
     AddPane(module, views::IDR_THUMBNAIL_PANE, "Pictures", Pictogram::ThumbnailPane);

@@ -41,7 +41,7 @@ protected:
 // After a drag that has moved objects, those are the active ones for the removal that follows, whatever is selected by
 // then; no later than with the next message the selection counts again.
 //
-// The editor's own IMyErrorInfo tells what the last reading or writing of an archive came to grief over, also when
+// The editor's own IMyErrorInfo tells what the last reading or writing of an archive failed over, also when
 // a container did not take an object that was read; there is none when all went well.
 class CAtomEditor final : public IAtomEditor
 {

@@ -16,17 +16,17 @@ namespace
 {
 
 // Owned by whoever has it, with a releaser once it has one.
-class Medium
+class GlobalMedium
 {
 public:
-    explicit Medium(HGLOBAL hGlobal) : m_medium{TYMED_HGLOBAL, {}, nullptr} { m_medium.hGlobal = hGlobal; }
-    ~Medium()
+    explicit GlobalMedium(HGLOBAL hGlobal) : m_medium{TYMED_HGLOBAL, {}, nullptr} { m_medium.hGlobal = hGlobal; }
+    ~GlobalMedium()
     {
         if (m_medium.tymed != TYMED_NULL)
             ReleaseStgMedium(&m_medium);
     }
-    Medium(const Medium&) = delete;
-    Medium& operator=(const Medium&) = delete;
+    GlobalMedium(const GlobalMedium&) = delete;
+    GlobalMedium& operator=(const GlobalMedium&) = delete;
 
     void OwnTransferFile();
     void GiveTo(COleDataSource& source, CLIPFORMAT format) { source.CacheData(format, &m_medium); }
@@ -36,7 +36,7 @@ private:
 };
 
 // The file has no other owner, and would stay for ever.
-void Medium::OwnTransferFile()
+void GlobalMedium::OwnTransferFile()
 try {
     m_medium.pUnkForRelease = new CTransferFileOwner(m_medium.hGlobal);
 } catch (...) {
@@ -47,7 +47,7 @@ try {
 
 void CacheAtoms(COleDataSource& source, CLIPFORMAT format, HGLOBAL hPath)
 {
-    Medium medium(hPath);
+    GlobalMedium medium(hPath);
     medium.OwnTransferFile();
     medium.GiveTo(source, format);
 }
@@ -66,7 +66,7 @@ void CacheUris(COleDataSource& source, const ActiveMembers& members)
         std::memcpy(block.Get(), list.data(), list.size());
     else
         return; // the editors can still drag
-    Medium(hList).GiveTo(source, UriListFormat());
+    GlobalMedium(hList).GiveTo(source, UriListFormat());
 }
 
 } // namespace

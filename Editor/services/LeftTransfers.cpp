@@ -64,7 +64,7 @@ bool IsHeldByNobody(int fd)
 
 void RemoveIfLeft(int nFolder, const std::string& name)
 {
-    const FileHandle handle(openat(nFolder, name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    const FileDescriptor handle(openat(nFolder, name.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status;
     if (handle && fstat(handle.Get(), &status) == 0 && IsOwnAndOld(status) && HoldsArchive(handle.Get()) &&
         IsHeldByNobody(handle.Get()))
@@ -76,7 +76,7 @@ void RemoveIfLeft(int nFolder, const std::string& name)
 void RemoveLeftTransfers()
 try {
     const std::string path = TransferFolder();
-    const FileHandle folder(path.empty() ? -1 : open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    const FileDescriptor folder(path.empty() ? -1 : open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     std::vector<std::string> names;
     if (!folder || ReadNames(folder.Get(), names) != 0)
         return;

@@ -26,7 +26,7 @@ void ReleaseStgMedium(STGMEDIUM* pMedium)
 {
     if (!pMedium)
         return;
-    const STGMEDIUM medium = std::exchange(*pMedium, STGMEDIUM{}); // a releaser may come back here
+    const STGMEDIUM medium = std::exchange(*pMedium, STGMEDIUM{}); // a releaser may re-enter
     if (medium.pUnkForRelease)
         medium.pUnkForRelease->Release();
     else

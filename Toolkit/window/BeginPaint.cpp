@@ -16,7 +16,7 @@ void NoteChildrenUnder(WindowRecord& window, const Region& clip, CPoint clientOr
 {
     if (!window.Is(WS_CLIPCHILDREN))
         for (const CRect& rect : clip.Rects())
-            toolkit::NoteChildren(window, rect - clientOrigin);
+            toolkit::InvalidateChildren(window, rect - clientOrigin);
 }
 } // namespace
 

@@ -87,7 +87,7 @@ void TryToPaintFrame(WindowRecord& window)
 }
 } // namespace
 
-void toolkit::NoteSomething()
+void toolkit::RequestPaint()
 {
     s_bNoted = true;
     RequestRun();

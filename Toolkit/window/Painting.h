@@ -1,4 +1,4 @@
-// Noting what is to be painted and painting it, as the rest of the window layer asks for it.
+// Invalidating what is to be painted and painting it, as the rest of the window layer asks for it.
 #pragma once
 
 #include "Toolkit/window/WindowRecord.h"
@@ -6,15 +6,15 @@
 namespace toolkit
 {
 
-// Noting; nothing is noted for what is not shown.
-void NoteWindow(WindowRecord& window);                     // all of it, frame and children included
-void NoteExposed(WindowRecord& parent, const CRect& area); // client: the parent and all children under the area
-void NoteArea(WindowRecord& window, const CRect& area, bool bErase); // client
-void NoteFrame(WindowRecord& window, const CRect& area);             // from the window's top left corner
-void NoteChildren(WindowRecord& window, const CRect& area);          // client: the children under the area
+// Nothing is noted for what is not shown.
+void InvalidateWhole(WindowRecord& window);                      // all of it, frame and children included
+void InvalidateExposed(WindowRecord& parent, const CRect& area); // client: the parent and all children under the area
+void InvalidateArea(WindowRecord& window, const CRect& area, bool bErase); // client
+void InvalidateFrame(WindowRecord& window, const CRect& area);             // from the window's top left corner
+void InvalidateChildren(WindowRecord& window, const CRect& area);          // client: the children under the area
 void NotePainted(WindowRecord& top, const CRect& area); // pixels of the surface that the desktop has not seen yet
 
-void NoteSomething(); // the queue looks for what was noted
+void RequestPaint(); // the queue looks for what was noted
 
 bool HasPaint();
 bool RunOnePaint();

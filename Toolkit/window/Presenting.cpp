@@ -21,7 +21,7 @@ void toolkit::NotePainted(WindowRecord& top, const CRect& area)
     if (area.IsRectEmpty())
         return;
     top.dirty = top.dirty | area;
-    NoteSomething();
+    RequestPaint();
 }
 
 void toolkit::PresentPainted()

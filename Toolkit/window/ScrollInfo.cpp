@@ -22,11 +22,11 @@ int SetScrollInfo(HWND hWnd, int nBar, const SCROLLINFO& info)
     if (bShow != bShown) {
         state.bShown = bShow;
         pWindow->style ^= nBar == SB_VERT ? WS_VSCROLL : WS_HSCROLL;
-        toolkit::NoteWindow(*pWindow);
+        toolkit::InvalidateWhole(*pWindow);
         toolkit::SendSize(hWnd);
     } else if (bShow && (former.nMin != taken.nMin || former.nMax != taken.nMax || former.nPage != taken.nPage ||
                          former.nPos != taken.nPos)) {
-        toolkit::NoteFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
+        toolkit::InvalidateFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
     }
     return taken.nPos;
 }

@@ -50,7 +50,7 @@ CPoint ToWindow(const WindowRecord& window, CPoint screen)
 void Redraw(HWND hWnd, int nBar)
 {
     if (WindowRecord* pWindow = toolkit::FindRecord(hWnd))
-        toolkit::NoteFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
+        toolkit::InvalidateFrame(*pWindow, toolkit::ScrollBarBox(*pWindow, nBar));
 }
 
 void SendScroll(UINT code, int nPos = 0)

@@ -39,7 +39,7 @@ void NoteScrolled(WindowRecord& window, const Region& exposed, CPoint by)
 {
     window.update.Move(by, toolkit::ClientRect(window));
     for (const CRect& rect : exposed.Rects())
-        toolkit::NoteArea(window, rect, true);
+        toolkit::InvalidateArea(window, rect, true);
 }
 } // namespace
 

@@ -41,7 +41,7 @@ BOOL LockWindowUpdate(HWND hWnd)
     }
     WindowRecord* pFormer = FindRecord(std::exchange(s_hLocked, nullptr));
     if (pFormer && s_bDrawn)
-        toolkit::NoteWindow(*pFormer); // where it was drawn is not known, so all of it
-    toolkit::NoteSomething();          // what was held back is due now
+        toolkit::InvalidateWhole(*pFormer); // where it was drawn is not known, so all of it
+    toolkit::RequestPaint();                // what was held back is due now
     return TRUE;
 }

@@ -17,13 +17,13 @@ void NoteTree(WindowRecord& window, const CRect& area)
     const CRect client = toolkit::ClientBox(window);
     const CRect inClient = (area & client) - client.TopLeft();
     if (!((area & client) == area))
-        toolkit::NoteFrame(window, area);
-    toolkit::NoteArea(window, inClient, true);
-    toolkit::NoteChildren(window, inClient);
+        toolkit::InvalidateFrame(window, area);
+    toolkit::InvalidateArea(window, inClient, true);
+    toolkit::InvalidateChildren(window, inClient);
 }
 } // namespace
 
-void toolkit::NoteChildren(WindowRecord& window, const CRect& area)
+void toolkit::InvalidateChildren(WindowRecord& window, const CRect& area)
 {
     for (WindowRecord* pChild : window.children) {
         const CRect common = area & pChild->rect;
@@ -32,36 +32,36 @@ void toolkit::NoteChildren(WindowRecord& window, const CRect& area)
     }
 }
 
-void toolkit::NoteArea(WindowRecord& window, const CRect& area, bool bErase)
+void toolkit::InvalidateArea(WindowRecord& window, const CRect& area, bool bErase)
 {
     const CRect part = area & toolkit::ClientRect(window);
     if (part.IsRectEmpty())
         return;
     window.update.Add(part);
     window.bErase |= bErase;
-    NoteSomething();
+    RequestPaint();
 }
 
-void toolkit::NoteFrame(WindowRecord& window, const CRect& area)
+void toolkit::InvalidateFrame(WindowRecord& window, const CRect& area)
 {
     if (area.IsRectEmpty() || !IsShown(window))
         return;
     window.frameUpdate.Add(area);
-    NoteSomething();
+    RequestPaint();
 }
 
-void toolkit::NoteWindow(WindowRecord& window)
+void toolkit::InvalidateWhole(WindowRecord& window)
 {
     if (IsShown(window))
         NoteTree(window, {CPoint(), window.rect.Size()});
 }
 
-void toolkit::NoteExposed(WindowRecord& parent, const CRect& area)
+void toolkit::InvalidateExposed(WindowRecord& parent, const CRect& area)
 {
     if (!IsShown(parent))
         return;
-    NoteArea(parent, area, true);
-    NoteChildren(parent, area & toolkit::ClientRect(parent));
+    InvalidateArea(parent, area, true);
+    InvalidateChildren(parent, area & toolkit::ClientRect(parent));
 }
 
 BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
@@ -70,7 +70,7 @@ BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
     if (!pWindow)
         return FALSE;
     if (toolkit::IsShown(*pWindow))
-        toolkit::NoteArea(*pWindow, pRect ? CRect(*pRect) : toolkit::ClientRect(*pWindow), bErase != FALSE);
+        toolkit::InvalidateArea(*pWindow, pRect ? CRect(*pRect) : toolkit::ClientRect(*pWindow), bErase != FALSE);
     return TRUE;
 }
 

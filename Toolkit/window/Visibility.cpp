@@ -17,9 +17,9 @@ void toolkit::SetVisible(HWND hWnd, bool bShow)
         return;
     pWindow->style ^= WS_VISIBLE;
     if (bShow)
-        NoteWindow(*pWindow);
+        InvalidateWhole(*pWindow);
     else if (pWindow->pParent)
-        NoteExposed(*pWindow->pParent, pWindow->rect);
+        InvalidateExposed(*pWindow->pParent, pWindow->rect);
     TellDesktopOfChange(hWnd);
     if (!bShow) {
         PassFocusOn(hWnd);

@@ -127,9 +127,9 @@ void toolkit::PlaceWindow(HWND hWnd, const CRect& rect)
     const CRect former = std::exchange(pWindow->rect, rect);
     const bool bSized = !(former.Size() == rect.Size());
     if (pWindow->pParent && IsShown(*pWindow))
-        NoteExposed(*pWindow->pParent, former);
+        InvalidateExposed(*pWindow->pParent, former);
     if (bSized || pWindow->pParent)
-        NoteWindow(*pWindow);
+        InvalidateWhole(*pWindow);
 
     if (!(former.TopLeft() == rect.TopLeft()))
         SendMessage(hWnd, WM_MOVE, 0, MAKELPARAM(rect.left, rect.top));

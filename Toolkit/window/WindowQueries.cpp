@@ -65,7 +65,7 @@ BOOL ModifyStyle(HWND hWnd, DWORD remove, DWORD add)
         return FALSE;
     const CSize former = toolkit::ClientBox(*pWindow).Size();
     pWindow->style ^= changed;
-    toolkit::NoteWindow(*pWindow);
+    toolkit::InvalidateWhole(*pWindow);
     const bool bSized = !(former == toolkit::ClientBox(*pWindow).Size());
     SendMessage(hWnd, WM_STYLECHANGED, 0, 0);
     if (bSized)

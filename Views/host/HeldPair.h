@@ -20,7 +20,7 @@ struct HeldPair
     }
     explicit operator bool() const { return static_cast<bool>(pAtom); }
 
-    // Hands both references to the caller's pair. What it held is released last: its end may come back.
+    // Hands both references to the caller's pair. What it held is released last: that may re-enter.
     void MoveTo(OBJPAIR& pair)
     {
         const auto pFormerAtom = CStubRef<IAtom>::Adopt(std::exchange(pair.pAtom, pAtom.Detach()));

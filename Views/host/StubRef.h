@@ -20,7 +20,7 @@ public:
     CStubRef(CStubRef&& other) noexcept : m_p(std::exchange(other.m_p, nullptr)) {}
     CStubRef& operator=(CStubRef&& other) noexcept
     {
-        CStubRef former(std::move(*this)); // released last: its end may come back to this holder
+        CStubRef former(std::move(*this)); // released last: that may re-enter this holder
         m_p = std::exchange(other.m_p, nullptr);
         return *this;
     }

@@ -204,7 +204,7 @@ unsigned CObjectsList::ClearContext()
     ++m_nRowMoves;
     {
         const auto pContainer = std::move(m_pContainer); // goes after the atoms
-        const auto atoms = std::exchange(m_atoms, {});   // an atom's end may come back here: there are no rows any more
+        const auto atoms = std::exchange(m_atoms, {});   // releasing atoms may re-enter: there are no rows any more
     }
     if (nLoad == m_nLoads)
         OnClearContext();

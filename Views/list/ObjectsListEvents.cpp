@@ -77,7 +77,7 @@ void CObjectsList::RemoveRow(int nItem)
     m_pCache->Remove(nItem);
     RekeyCache(nItem);
     const auto pRow = m_atoms.begin() + nItem;
-    const CStubRef<IAtom> pRemoved = std::move(*pRow); // its end may come back here: the row is gone by then
+    const CStubRef<IAtom> pRemoved = std::move(*pRow); // releasing it may re-enter: the row is gone by then
     m_atoms.erase(pRow);
     ++m_nRowMoves;
     m_appended.Remove(nItem);

@@ -52,7 +52,7 @@ void CThumbList::StartTimer()
     SetTimer(kAnimationTimer, kAnimationPeriod);
 }
 
-// A thumbnail's end may come back here: the table is empty by then.
+// Releasing a thumbnail may re-enter: the table is empty by then.
 void CThumbList::ClearAnimation()
 {
     std::exchange(m_animations, {}).clear();

@@ -6,7 +6,7 @@
 // out of OnDeleteAtom's reach, which would remove the second one instead.
 void CObjectsTree::SyncItems(HTREEITEM hParent, IAtomContainer* pContainer)
 {
-    const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // removing may come back and remove the parent
+    const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // removing may re-enter and remove the parent
     try {
         for (const HTREEITEM hChild : ChildrenOf(hParent)) {
             const HELDPAIR pair = HoldPair(hChild);

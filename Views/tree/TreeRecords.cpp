@@ -17,7 +17,7 @@ views::TreeRecords::Holder views::TreeRecords::Make()
     return Hold(&record);
 }
 
-// The references are released last: that may come back.
+// The references are released last: that may re-enter.
 void views::TreeRecords::Free(TreeRecord& record)
 {
     const std::uint32_t nIndex = record.nIndex;

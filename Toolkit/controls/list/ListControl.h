@@ -1,6 +1,6 @@
 // The control behind WC_LISTVIEW: an owner-data list in icon view.
 //
-// Every notification may come back with other messages, change the count or destroy the window. So whatever
+// Every notification may re-enter with other messages, change the count or destroy the window. So whatever
 // notifies gives false when the window is gone: nothing of the object may be touched then. And after a
 // notification nothing is taken for granted that was known before it.
 #pragma once

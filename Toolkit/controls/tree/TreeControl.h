@@ -1,6 +1,6 @@
 // The control behind WC_TREEVIEW.
 //
-// Every notification may come back with other messages, delete items or destroy the window. So whatever notifies gives
+// Every notification may re-enter with other messages, delete items or destroy the window. So whatever notifies gives
 // false when the window is gone: nothing of the object may be touched then. Across a notification an item is kept as a
 // handle and looked up again, and nothing is taken for granted that was known before it.
 #pragma once

@@ -1,4 +1,4 @@
-#include "Editor/app/SoundPng.h"
+#include "Editor/app/WholePng.h"
 
 #include <QIODevice>
 #include <array>
@@ -95,7 +95,7 @@ private:
 
 } // namespace
 
-bool IsSoundPng(QIODevice& device)
+bool IsWholePng(QIODevice& device)
 {
     const qint64 before = device.pos();
     const bool bSound = device.seek(kSignature) && Chunks(device).AreSound();
