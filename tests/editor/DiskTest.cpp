@@ -1,13 +1,9 @@
 #include "Editor/disk/FileNames.h"
 #include "Editor/disk/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
-#include "tests/editor/AsNobody.h"
-#include "tests/support/AllocationFailures.h"
 
-#include <csignal>
 #include <fcntl.h>
 #include <set>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -71,8 +67,11 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
 
 TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
 {
-    folder.WriteBmp("Walk.bmp");
-    folder.WriteBmp("Walk (7).bmp");
+    std::string stem;
+    while (stem.size() + 2 + 4 <= 255)
+        stem += "\xC3\xAB";
+    for (const std::string& name : {std::string("Walk.bmp"), std::string("Walk (7).bmp"), stem + ".bmp"})
+        folder.WriteBmp(name);
     folder.WriteBmp("Walk (1000000).bmp");
     folder.WriteBmp("v1.2 (1)/x.bmp");
     folder.Write("readme", "not shown, yet there");
@@ -83,13 +82,21 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ("", Paste(pArchive, ""));
     EXPECT_TRUE(Find("Walk (2).bmp"));
     EXPECT_EQ(folder.Read("Walk.bmp"), folder.Read("Walk (3).bmp"));
-    EXPECT_EQ("wALK (4).BMP", ValidName("wALK.BMP")) << "but for the case";
-    EXPECT_EQ("Walk (8).bmp", ValidName("Walk (7).bmp"));
-    EXPECT_EQ("Walk (1000000) (2).bmp", ValidName("Walk (1000000).bmp")) << "no count";
-    EXPECT_EQ("v1.2 (1) (2)", ValidName("v1.2 (1)"));
-    EXPECT_EQ("README (2)", ValidName("README"));
-    EXPECT_EQ("free.bmp", ValidName("free.bmp"));
-    EXPECT_EQ("a-b-c", ValidName("a/b\\c"));
+    const std::pair<std::string, std::string> names[] = {
+        {"wALK.BMP", "wALK (4).BMP"}, // but for the case
+        {"Walk (7).bmp", "Walk (8).bmp"},
+        {"Walk (1000000).bmp", "Walk (1000000) (2).bmp"}, // no count
+        {"v1.2 (1)", "v1.2 (1) (2)"},
+        {"README", "README (2)"},
+        {"free.bmp", "free.bmp"},
+        {"a/b\\c", "a-b-c"},
+        {"con.bmp", "_con.bmp"},
+        {"..hidden", "hidden"},
+        {"..", "?"},
+        {stem + ".bmp", stem.substr(0, stem.size() - 4) + " (2).bmp"}, // between characters
+    };
+    for (const auto& [name, valid] : names)
+        EXPECT_EQ(valid, ValidName(name));
     struct stat status;
     stat(folder.Path().c_str(), &status);
     const timespec clockStandsStill[2] = {status.st_atim, status.st_mtim};
@@ -97,9 +104,6 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ(0, utimensat(AT_FDCWD, folder.Path().c_str(), clockStandsStill, 0));
     EXPECT_EQ("free (2).bmp", ValidName("free.bmp"));
     EXPECT_EQ("Walk (7).bmp", ValidName("Walk (7).bmp"));
-    EXPECT_EQ("_con.bmp", ValidName("con.bmp"));
-    EXPECT_EQ("hidden", ValidName("..hidden"));
-    EXPECT_EQ("?", ValidName(".."));
 }
 
 TEST(FileNamesTest, TheNextOfManyNamesakesIsFoundInAFewSteps)
@@ -107,46 +111,12 @@ TEST(FileNamesTest, TheNextOfManyNamesakesIsFoundInAFewSteps)
     std::set<std::string, std::less<>> taken{"a.bmp"};
     int nAsked = 0, nKnown = 0;
     const auto isTaken = [&](std::string_view name) { return ++nAsked, taken.contains(name); };
-    for (int i = 2; i <= 300; ++i)
-        EXPECT_EQ("a (" + std::to_string(i) + ").bmp",
-                  *taken.insert(editor::NameForCopy("a.bmp", ".bmp", isTaken, nKnown)).first);
-    EXPECT_GT(3 * 300, nAsked);
-    nAsked = 0;
-    for (int i = 301; i <= 330; ++i)
-        EXPECT_EQ("a (" + std::to_string(i) + ").bmp",
-                  *taken.insert(editor::AnyNameForCopy("a.bmp", ".bmp", isTaken)).first);
-    EXPECT_GT(30 * 30, nAsked);
-}
-
-TEST_F(DiskTest, ALongNameIsShortenedBetweenCharacters)
-{
-    std::string stem;
-    while (stem.size() + 2 + 4 <= 255)
-        stem += "\xC3\xAB";
-    folder.WriteBmp(stem + ".bmp");
-    Open();
-    EXPECT_EQ("", Paste(Copy("", {(stem + ".bmp").c_str()}), ""));
-    EXPECT_EQ('[' + stem + ".bmp " + stem.substr(0, stem.size() - 4) + " (2).bmp]", Members(""));
-}
-
-TEST_F(DiskTest, AMoveKeepsTheNameAndNeverReplacesWhatIsThere)
-{
-    folder.Make("Ada/a.bmp Ada/b.bmp");
-    folder.Write("Bo/a.bmp", "Bo's own");
-    Open();
-    const auto pBo = Container("Bo");
-    EXPECT_EQ("[a.bmp]", Members("Bo"));
-    folder.Write("Bo/b.bmp", "came while nobody looked");
-
-    EXPECT_EQ("a.bmp: file exists\nb.bmp: file exists\n", CopyTo("Ada", {"a.bmp", "b.bmp"}, "Bo", true));
-    EXPECT_EQ("a.bmp: file exists", editor.GetArchiveError()) << "the first";
-    EXPECT_EQ("Bo's own", folder.Read("Bo/a.bmp"));
-    EXPECT_EQ("came while nobody looked", folder.Read("Bo/b.bmp"));
-    folder.Remove("Bo/a.bmp");
-    EXPECT_EQ("", CopyTo("Ada", {"a.bmp"}, "Bo", true));
-    EXPECT_EQ("", Error(pBo.Get())) << "the last change succeeded";
-    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp", folder.Everything());
-    EXPECT_EQ("[a.bmp]", Members("Bo")) << "once, and what it has not heard of is not in it";
+    for (int i = 2; i <= 330; ++i) {
+        const std::string name = i <= 300 ? editor::NameForCopy("a.bmp", ".bmp", isTaken, nKnown)
+                                          : editor::AnyNameForCopy("a.bmp", ".bmp", isTaken);
+        EXPECT_EQ("a (" + std::to_string(i) + ").bmp", *taken.insert(name).first);
+    }
+    EXPECT_GT(3 * 300 + 30 * 30, nAsked);
 }
 
 TEST_F(DiskTest, ANameThatIsTakenBetweenChoosingAndAddingIsChosenAnew)
@@ -167,74 +137,9 @@ TEST_F(DiskTest, ANameThatIsTakenBetweenChoosingAndAddingIsChosenAnew)
     EXPECT_EQ("somebody else's", folder.Read("Bo/a.bmp"));
 }
 
-TEST_F(DiskTest, AFullDiskLeavesTheFolderAsItWas)
-{
-    folder.Write("Ada/small.bmp", "small");
-    folder.Write("Ada/large.bmp", std::string(200'000, 'x'));
-    folder.Write("Ada/Poses/deep/large.bmp", std::string(200'000, 'x'));
-    folder.MakeFolder("Bo");
-    Open();
-    const auto pArchive = Copy("Ada", {"Poses", "large.bmp", "small.bmp"});
-    rlimit former;
-    getrlimit(RLIMIT_FSIZE, &former);
-    const auto formerHandler = std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limit{100'000, former.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &limit);
-
-    const std::string failures = Paste(pArchive, "Bo");
-    setrlimit(RLIMIT_FSIZE, &former);
-    std::signal(SIGXFSZ, formerHandler);
-    EXPECT_EQ("Poses/deep/large.bmp: file too large\nlarge.bmp: file too large\n", failures);
-    EXPECT_EQ("[small.bmp]", Members("Bo"));
-    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/deep/ Ada/Poses/deep/large.bmp Ada/large.bmp Ada/small.bmp Bo/ Bo/small.bmp",
-              folder.Everything());
-}
-
-// Runs in a process of its own, which ends with a signal in the middle of the first write beyond so many bytes.
-template <class Work>
-void CrashWhileWriting(rlim_t bytes, Work work)
-{
-    const pid_t child = fork();
-    if (child == 0) {
-        const rlimit limit{bytes, bytes}, noCore{0, 0};
-        setrlimit(RLIMIT_CORE, &noCore);
-        setrlimit(RLIMIT_FSIZE, &limit);
-        std::signal(SIGXFSZ, SIG_DFL);
-        work();
-        _exit(0);
-    }
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << "it came through";
-}
-
-TEST_F(DiskTest, ACrashHalfWayLeavesTheOldStateAndNothingThatIsSeenOrCarried)
-{
-    std::string lines = "# many\n";
-    for (int i = 0; i < 3000; ++i)
-        lines += "Poses/b.bmp\n";
-    folder.Write("Ada/a.bmp", std::string(200'000, 'x'));
-    folder.Write("Ada/Poses/b.bmp", std::string(200'000, 'y'));
-    folder.Write("Ada/walk.phase", lines);
-    folder.MakeFolder("Bo");
-    Open();
-    const auto pAda = Container("Ada"), pBo = Container("Bo");
-    const auto pArchive = Copy("Ada", {"Poses", "a.bmp"});
-
-    CrashWhileWriting(100'000, [&] { Paste(pArchive, "Bo"); });
-    CrashWhileWriting(10'000, [&] { Remove("Ada/walk.phase", "b.bmp"); });
-    EXPECT_EQ(lines, folder.Read("Ada/walk.phase"));
-    const std::string left = folder.Everything();
-    EXPECT_NE(std::string::npos, left.find(" Bo/.views-new-")) << left;
-    EXPECT_EQ("[Ada/ Bo/]", Open());
-    EXPECT_EQ("", Paste(Copy("", {"Ada"}), "Bo"));
-    EXPECT_EQ(3, std::distance(std::filesystem::directory_iterator(folder.At("Bo/Ada")), {}));
-    EXPECT_EQ("[Poses/ a.bmp walk.phase>]", Members("Bo/Ada"));
-}
-
 TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInTheMaking)
 {
-    folder.MakeFolder("Ada");
+    folder.Make("Ada/ Bo/a.bmp");
     const auto crash = [&](const std::string& inside) {
         if (const pid_t child = fork(); child != 0)
             return void(waitpid(child, nullptr, 0));
@@ -253,53 +158,33 @@ TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInT
         folder.Write("Ada/" + another.Name(), "half");
         EXPECT_NE(std::string::npos, read().find("/Poses/b.bmp")) << "somebody is at work";
     }
-    EXPECT_EQ("Ada/", read());
+    EXPECT_EQ("Ada/ Bo/ Bo/a.bmp", read());
 
     folder.Write("Ada/.views-new-0123456789abcdef-0123456789abcdef", "another machine's");
     crash("/Poses/b.bmp");
-    EXPECT_EQ("Ada/ Ada/.views-new-0123456789abcdef-0123456789abcdef", read());
+    EXPECT_EQ("Ada/ Ada/.views-new-0123456789abcdef-0123456789abcdef Bo/ Bo/a.bmp", read());
+    EXPECT_EQ("", CopyTo("", {"Ada"}, "Bo"));
+    EXPECT_TRUE(std::filesystem::is_empty(folder.At("Bo/Ada"))) << "not carried";
     crash("");
     const std::string left = folder.Everything();
-    chmod(folder.Path().c_str(), 0777);
+    const auto pArchive = Copy("Bo", {"a.bmp"});
     chmod(folder.At("Ada").c_str(), 0777);
-    const AsNobody nobody;
-    if (geteuid() != getuid()) {
-        EXPECT_EQ(left, read()) << "another user's";
-    }
-}
-
-TEST_F(DiskTest, WhatTheDiskForbidsIsNamedWithTheReasonAndChangesNothing)
-{
-    folder.Make("Ada/a.bmp Ada/secret.bmp Bo/");
-    folder.Write("Ada/walk.phase", "a.bmp\n");
-    Open();
-    const auto pAda = Container("Ada");
-    const auto pPhase = Container("Ada/walk.phase");
-    const auto pArchive = Copy("Ada", {"a.bmp"});
-    chmod(folder.Path().c_str(), 0755);
-    chmod(folder.At("Ada/secret.bmp").c_str(), 0);
-    const std::string before = folder.Everything();
-    const AsNobody nobody;
-    if (eaccess(folder.At("Ada").c_str(), W_OK) == 0)
-        GTEST_SKIP() << "this user may change everything";
-
-    EXPECT_EQ("secret.bmp: permission denied", CopyError("Ada", {"secret.bmp"}));
+    for (const char* const pszClosed : {"", "Bo"})
+        chmod(folder.At(pszClosed).c_str(), 0755);
+    if (geteuid() != 0 || seteuid(65534) != 0)
+        return;
+    EXPECT_EQ(left, read()) << "another user's";
     EXPECT_EQ("none", Permissions(pArchive, "Bo"));
-    EXPECT_EQ("a.bmp: permission denied", Remove("Ada", "a.bmp"));
-    EXPECT_EQ("a.bmp: permission denied", Rename("Ada", "a.bmp", "b.bmp"));
-    EXPECT_EQ("walk.phase: permission denied", Remove("Ada/walk.phase", "a.bmp"));
-    EXPECT_EQ("[a.bmp secret.bmp walk.phase>]", Members("Ada"));
-    EXPECT_EQ("[a.bmp]", Members("Ada/walk.phase"));
-    EXPECT_EQ(before, folder.Everything());
+    EXPECT_EQ("a.bmp: permission denied", Remove("Bo", "a.bmp"));
+    EXPECT_EQ("[Ada/ a.bmp]", Members("Bo"));
+    ASSERT_EQ(0, seteuid(0));
 }
 
 TEST_F(DiskTest, RenamingMakesAnotherAtomAndRefusesWhatWouldHideOrReplaceAFile)
 {
     folder.Write("a.bmp", "a");
-    folder.Write("b.bmp", "b");
     folder.Write("walk.phase", "a.bmp\n");
-    folder.Write("Ada/x.bmp", "x");
-    folder.WriteBmp("gone.bmp");
+    folder.Make("b.bmp Ada/x.bmp gone.bmp");
     Open();
     const DWORD id = Find("a.bmp")->GetID();
 
@@ -312,72 +197,20 @@ TEST_F(DiskTest, RenamingMakesAnotherAtomAndRefusesWhatWouldHideOrReplaceAFile)
 
     folder.Remove("gone.bmp");
     const std::string before = folder.Everything();
-    EXPECT_EQ("b.bmp: there is a \"C.dib\" already", Rename("", "b.bmp", "C.dib"));
-    EXPECT_EQ("b.bmp: a name must not be empty", Rename("", "b.bmp", ""));
-    EXPECT_EQ("b.bmp: a name must not hold \"/\"", Rename("", "b.bmp", "../b.bmp"));
-    EXPECT_EQ("b.bmp: a name that begins with a dot would hide it", Rename("", "b.bmp", ".b.bmp"));
-    EXPECT_EQ("b.bmp: under the name \"b\" it would be no picture any more", Rename("", "b.bmp", "b"));
-    EXPECT_EQ("b.bmp: the name is too long (304 of at most 255 bytes)",
-              Rename("", "b.bmp", std::string(300, 'b') + ".bmp"));
+    const std::pair<std::string, std::string> refusals[] = {
+        {"C.dib", "there is a \"C.dib\" already"},
+        {"", "a name must not be empty"},
+        {"../b.bmp", "a name must not hold \"/\""},
+        {".b.bmp", "a name that begins with a dot would hide it"},
+        {"b", "under the name \"b\" it would be no picture any more"},
+        {std::string(300, 'b') + ".bmp", "the name is too long (304 of at most 255 bytes)"},
+    };
+    for (const auto& [name, reason] : refusals)
+        EXPECT_EQ("b.bmp: " + reason, Rename("", "b.bmp", name));
     EXPECT_EQ("gone.bmp: no such file or directory", Rename("", "gone.bmp", "there.bmp"));
     EXPECT_EQ("a.bmp: a line of a phase bears the name of its picture", Rename("walk.phase", "a.bmp", "b.bmp"));
     EXPECT_EQ(before, folder.Everything());
     EXPECT_EQ("[Bo.png/ C.dib b.bmp gone.bmp walk.phase>]", Members(""));
-}
-
-TEST_F(DiskTest, WhatIsRemovedIsInTheTrashAndItsAtomGoes)
-{
-    folder.Make("a.bmp gone.bmp");
-    folder.Write("Ada/x.bmp", "x");
-    Open();
-    const auto pA = Find("a.bmp");
-    const DWORD id = pA->GetID();
-
-    EXPECT_EQ("", Remove("", "a.bmp"));
-    EXPECT_EQ("", Remove("", "Ada"));
-    folder.Remove("gone.bmp");
-    EXPECT_EQ("", Remove("", "gone.bmp")) << "what has vanished may go";
-    EXPECT_EQ("[]", Members(""));
-    EXPECT_FALSE(Library()->FindAtomByID(id, nullptr, 0));
-    EXPECT_FALSE(Library()->RemoveAtom(pA.Get()));
-    EXPECT_EQ(0u, Library()->GetPermissions(pA.Get()));
-    EXPECT_EQ("a.bmp", Name(pA.Get()));
-    EXPECT_EQ("x", trash.folder.Read("Trash/files/Ada/x.bmp"));
-}
-
-TEST_F(DiskTest, WithoutMemoryACopyIsWholeOrNotThereAndNothingIsLeftBehind)
-{
-    folder.Make("Ada/Poses/b.bmp Bo/");
-    folder.Write("Ada/walk.phase", "Poses/b.bmp\n");
-    Open();
-    const auto pAda = Container("Ada"), pBo = Container("Bo");
-    const std::string original = folder.Everything();
-    const auto pPoses = Find(pAda.Get(), "Poses"), pWalk = Find(pAda.Get(), "walk.phase");
-    const auto pArchive = Copy({pPoses.Get(), pWalk.Get()});
-    EXPECT_LT(0, FailEveryAllocation([&] {
-                  const BOOL bWritten = editor.WriteActiveObjects(pArchive.Get());
-                  EXPECT_EQ(bWritten != FALSE, pArchive->GetLength() > 0);
-              }));
-    const ARCHIVEATOMPROC add = [](IAtom* pAtom, void* pInto) -> BOOL {
-        char name[32];
-        DWORD length = sizeof name;
-        pAtom->GetName(name, &length);
-        CStubRef<IAtom> pNew;
-        static_cast<IAtomContainer*>(pInto)->AddAtom(pAtom, 0, name, pNew.Receive(), IID_IAtom);
-        return TRUE;
-    };
-    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
-        folder.Remove("Bo/Poses");
-        folder.Remove("Bo/walk.phase");
-        {
-            const FailAllocation fail(nth);
-            editor.ReadArchive(add, pArchive.Get(), pBo.Get());
-        }
-        const std::string pasted = folder.Read("Bo/Poses/b.bmp");
-        EXPECT_TRUE(!std::filesystem::exists(folder.At("Bo/Poses")) || pasted == folder.Read("Ada/Poses/b.bmp")) << nth;
-    }
-    EXPECT_EQ(original + " Bo/Poses/ Bo/Poses/b.bmp Bo/walk.phase", folder.Everything());
-    EXPECT_EQ("[Poses/ walk.phase>]", Members("Bo"));
 }
 
 TEST_F(DiskTest, AFolderMayBeCopiedIntoItselfButNotMoved)
@@ -420,8 +253,7 @@ TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
     folder.Write("Ada/walk.phase", "# a walk\na.bmp\n\nlost.bmp\na.bmp");
     folder.Write("Ada/run.phase", "");
     Open();
-    const auto pAda = Container("Ada");
-    const auto pWalk = Container("Ada/walk.phase"), pRun = Container("Ada/run.phase");
+    const auto pAda = Container("Ada"), pWalk = Container("Ada/walk.phase"), pRun = Container("Ada/run.phase");
     const auto pTop = Copy("", {"#b.bmp"});
 
     EXPECT_EQ("copy", Permissions(pTop, "Ada/walk.phase")) << "the picture stays where it is";
@@ -429,19 +261,17 @@ TEST_F(DiskTest, PicturesPutIntoAPhaseBecomeLinesAndLinesThatAreRemovedGo)
     EXPECT_EQ("none", Permissions(Copy("", {"end \n.bmp"}), "Ada/walk.phase"));
     EXPECT_EQ("#b.bmp: can only be copied there, not moved\n", Paste(pTop, "Ada/walk.phase", true));
     EXPECT_EQ("", Paste(pTop, "Ada/walk.phase"));
-    EXPECT_EQ("", Paste(Copy("Ada", {"b.bmp"}), "Ada/walk.phase"));
+    EXPECT_EQ("", CopyTo("Ada", {"b.bmp"}, "Ada/walk.phase"));
     EXPECT_EQ("", Remove("Ada/walk.phase", "a.bmp"));
     EXPECT_EQ("# a walk\n\nlost.bmp\na.bmp\n./#b.bmp\nb.bmp\n", folder.Read("Ada/walk.phase"));
     EXPECT_EQ("[lost.bmp a.bmp #b.bmp b.bmp]", Members("Ada/walk.phase"));
-    EXPECT_EQ("", Error(Find(Container("Ada/walk.phase").Get(), "#b.bmp").Get()));
+    EXPECT_EQ("", Error(Find(pWalk.Get(), "#b.bmp").Get()));
 
     const auto pLinks = Copy("Ada/walk.phase", {"#b.bmp", "a.bmp"});
     EXPECT_EQ("accept copy", Permissions(pLinks, "Ada/run.phase"));
     EXPECT_EQ("none", Permissions(pLinks, "Ada"));
     EXPECT_EQ("", Paste(pLinks, "Ada/run.phase", true));
     EXPECT_EQ("[#b.bmp a.bmp]", Members("Ada/run.phase"));
-    EXPECT_EQ("lost.bmp: no such file or directory", CopyError("Ada/walk.phase", {"lost.bmp"}));
-    folder.Link("Ada/lost.bmp", "nowhere");
     EXPECT_EQ("lost.bmp: no such file or directory", CopyError("Ada/walk.phase", {"lost.bmp"}));
     folder.Write("Ada/run.phase", "b.bmp\n");
     EXPECT_EQ("run.phase: was changed by another program; read it again first", Remove("Ada/run.phase", "a.bmp"));
@@ -467,27 +297,20 @@ TEST_F(DiskTest, ThroughALinkAPhaseIsChangedAndNothingElseThatIsTheUsers)
 
 TEST_F(DiskTest, ManyMembersComeAndGoAndAllAreFoundUnderTheirNames)
 {
+    std::vector<CStubRef<IAtom>> held;
     for (int i = 0; i < 100; ++i)
         folder.WriteBmp("Ada/" + std::to_string(i) + ".bmp");
-    folder.MakeFolder("Bo");
     Open();
-    const auto pAda = Container("Ada"), pBo = Container("Bo");
-    std::vector<CStubRef<IAtom>> held;
-    std::vector<IAtom*> atoms;
+    const auto pAda = Container("Ada");
     for (int i = 99; i >= 0; --i)
-        atoms.push_back(held.emplace_back(Find(pAda.Get(), (std::to_string(i) + ".bmp").c_str())).Get());
-
-    EXPECT_EQ("", Paste(Copy(atoms), "Bo", true));
+        held.push_back(Find(pAda.Get(), (std::to_string(i) + ".bmp").c_str()));
     for (const CStubRef<IAtom>& pAtom : held)
         EXPECT_TRUE(pAtom->GetID() % 2 == 0 || pAda->RemoveAtom(pAtom.Get()));
     EXPECT_EQ(50u, pAda->GetCount());
-    EXPECT_EQ(100u, pBo->GetCount());
     for (const CStubRef<IAtom>& pAtom : held) {
-        const std::string name = Name(pAtom.Get());
         const bool bGone = pAtom->GetID() % 2;
-        EXPECT_EQ(bGone ? nullptr : pAtom.Get(), Find(pAda.Get(), name.c_str()).Get()) << name;
+        EXPECT_EQ(bGone ? nullptr : pAtom.Get(), Find(pAda.Get(), Name(pAtom.Get()).c_str()).Get());
         EXPECT_EQ(!bGone, pAda->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE);
-        EXPECT_EQ(name, Name(Find(pBo.Get(), name.c_str()).Get()));
     }
 }
 
