@@ -1,5 +1,4 @@
 #include "Editor/archive/ArchiveReader.h"
-#include "Editor/services/Commands.h"
 #include "Editor/services/LeftTransfers.h"
 #include "Kernel/Kernel.h"
 #include "Views/clipboard/TransferFileOwner.h"
@@ -49,18 +48,14 @@ TEST_F(ArchiveTest, WhatTheHostIsAskedForByNameIsAnArchiveOverAStream)
     CStubRef<IMemoryStream> pStream;
     ASSERT_TRUE(CallService(SRVN_GetUniqueServiceID("ConstructMemoryStream"), pStream.Receive(), sizeof(void*), 0));
     pArchive->SetStream(pStream.Get());
-
     EXPECT_NE(nullptr, pArchive->GetData()) << "an empty stream has a block";
-    EXPECT_EQ(0u, pArchive->GetLength());
-    pArchive->Seek(200'000, 0);
-    pArchive->SetEnd();
-    static_cast<char*>(pStream->GetData())[199'999] = 'x';
-    for (const DWORD length : {10'000'000u, 200'000u}) {
+    for (const DWORD length : {200'000u, 10'000'000u, 200'000u}) {
         pArchive->Seek(length, 0);
         pArchive->SetEnd();
         EXPECT_EQ(length, pStream->GetLength());
-        EXPECT_EQ('x', static_cast<char*>(pArchive->GetData())[199'999]);
+        static_cast<char*>(pStream->GetData())[0] += 'x';
     }
+    EXPECT_EQ(static_cast<char>(3 * 'x'), static_cast<char*>(pArchive->GetData())[0]) << "what was in it is kept";
     pStream.Release();
     EXPECT_EQ(200'000u, pArchive->GetLength()) << "the archive holds its stream";
 }
@@ -165,7 +160,7 @@ TEST_F(ArchiveTest, NoArchiveOfTheCollectionBreaksAPromiseOrLeavesTheFolder)
 
 TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarriedWithoutConsent)
 {
-    folder.Make("a.bmp gone.bmp Ada/Poses/ Bo/");
+    folder.Make("a.bmp gone.bmp Ada/Poses/ Bo/ maze/z/");
     folder.Link("Bo/self", ".");
     mkfifo(folder.At("Ada/Poses/pipe").c_str(), 0600);
     for (char c = 'a'; c < 'z'; ++c) // two ways from each to the next
@@ -173,10 +168,8 @@ TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarriedWithoutConsent)
             folder.MakeFolder(std::string("maze/") + c);
             folder.Link(std::string("maze/") + c + '/' + pszWay, std::string("../") + static_cast<char>(c + 1));
         }
-    folder.MakeFolder("maze/z");
     Open();
 
-    EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder", CopyError("", {"a.bmp", "Ada"}));
     EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError("", {"Bo"}));
     EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder (and 1 more)", CopyError("", {"Ada", "Bo"}));
     EXPECT_TRUE(editor.CanLeaveOut());
@@ -190,8 +183,6 @@ TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarriedWithoutConsent)
     folder.Remove("gone.bmp");
     Copy({pGone.Get()});
     EXPECT_EQ("gone.bmp: no such file or directory", editor.GetArchiveError());
-    EXPECT_EQ("", CopyError("", {"a.bmp"}));
-    EXPECT_FALSE(CStubRef<IMyErrorInfo>::From(&editor));
 }
 
 TEST_F(ArchiveTest, AnObjectIsLentToACallbackWithAContextAndGivenToOneWithout)
@@ -199,43 +190,19 @@ TEST_F(ArchiveTest, AnObjectIsLentToACallbackWithAContextAndGivenToOneWithout)
     folder.Make("a.bmp b.bmp");
     Open();
     const auto pArchive = Copy("", {"a.bmp", "b.bmp"});
-    std::vector<CStubRef<IAtom>> kept;
-
-    EXPECT_TRUE(editor.ReadArchive(
-        [](IAtom* pAtom, void* pKept) -> BOOL {
-            static_cast<std::vector<CStubRef<IAtom>>*>(pKept)->push_back(CStubRef<IAtom>::Share(pAtom));
-            return TRUE;
-        },
-        pArchive.Get(), &kept));
-    EXPECT_EQ("b.bmp", Name(kept.at(1).Get()));
-    EXPECT_TRUE(editor.ReadArchive(
-        [](IAtom* pAtom, void*) -> BOOL {
-            CStubRef<IAtom>::Adopt(pAtom).Release();
-            return TRUE;
-        },
-        pArchive.Get(), nullptr));
+    CStubRef<IAtom> pKept;
     int nCalls = 0;
-    EXPECT_FALSE(editor.ReadArchive([](IAtom*, void* p) -> BOOL { return ++*static_cast<int*>(p) < 1; }, pArchive.Get(),
-                                    &nCalls));
+    EXPECT_FALSE(ReadEach(pArchive, [&](IAtom* pAtom) -> BOOL {
+        pKept = CStubRef<IAtom>::Share(pAtom);
+        return ++nCalls < 1;
+    }));
     EXPECT_EQ(1, nCalls) << "nothing is read after a refusal";
-}
-
-TEST_F(ArchiveTest, LinesOfAPhaseComeBackToTheirPlacesWhenTheCutIsRefused)
-{
-    const char* const pszText = "# first\na.bmp\n# second\nb.bmp\na.bmp\n";
-    folder.Make("a.bmp b.bmp data/");
-    folder.Write("walk.phase", pszText);
-    Open();
-    trash.Point(folder.At("data")); // which cannot go into itself
-    const auto pPhase = Container("walk.phase");
-    std::vector<CStubRef<IAtom>> held;
-    for (const UINT nLine : {2u, 0u, 1u})
-        held.push_back(At(pPhase.Get(), nLine));
-    held.push_back(Find("data"));
-    Copy({held[0].Get(), held[1].Get(), held[2].Get(), held[3].Get()});
-    EXPECT_EQ("data: invalid argument", editor::Commands(editor).Cut());
-    EXPECT_EQ(pszText, folder.Read("walk.phase"));
-    EXPECT_EQ("[a.bmp b.bmp a.bmp]", Members("walk.phase"));
+    EXPECT_EQ("a.bmp", Name(pKept.Get()));
+    const ARCHIVEATOMPROC take = [](IAtom* pAtom, void*) -> BOOL {
+        CStubRef<IAtom>::Adopt(pAtom).Release();
+        return TRUE;
+    };
+    EXPECT_TRUE(editor.ReadArchive(take, pArchive.Get(), nullptr));
 }
 
 TEST_F(ArchiveTest, OnlyTransferFilesThatNobodyHoldsAnyMoreAreRemoved)
@@ -245,20 +212,18 @@ TEST_F(ArchiveTest, OnlyTransferFilesThatNobodyHoldsAnyMoreAreRemoved)
     folder.Make("a.bmp");
     Open();
     const auto pArchive = Copy("", {"a.bmp"});
-    const auto make = [&](bool bOld) {
-        const std::string path = FileFromArchive(pArchive.Get()).GetString();
-        if (bOld)
-            std::filesystem::last_write_time(path,
-                                             std::filesystem::file_time_type::clock::now() - std::chrono::minutes(2));
+    const auto age = [](const std::string& path) {
+        const auto now = std::filesystem::file_time_type::clock::now();
+        std::filesystem::last_write_time(path, now - std::chrono::minutes(2));
         return path;
     };
-    const std::string left = make(true), another = make(true);
-    make(false);
-    temp.Write("AEnotes", pArchive ? BytesOf(pArchive.Get()) : "");
+    const auto make = [&] { return std::string(FileFromArchive(pArchive.Get()).GetString()); };
+    const std::string left = age(make()), another = age(make());
+    make();
+    temp.Write("AEnotes", BytesOf(pArchive.Get()));
     std::filesystem::permissions(another, std::filesystem::perms(0644));
     void* const hPath = HGLOBALFromArchive(pArchive.Get());
-    std::filesystem::last_write_time(static_cast<const char*>(GlobalLock(hPath)),
-                                     std::filesystem::file_time_type::clock::now() - std::chrono::minutes(2));
+    age(static_cast<const char*>(GlobalLock(hPath)));
     GlobalUnlock(hPath);
     auto* const pOwner = new CTransferFileOwner(hPath);
     editor::RemoveLeftTransfers();

@@ -7,23 +7,6 @@
 namespace
 {
 
-class Frame final : public editor::PaneFrame
-{
-public:
-    explicit Frame(HWND hWnd) : m_hWnd(hWnd) {}
-
-    void AddPane(DWORD, HWND, LPCSTR, HICON) override {}
-    void RemovePane(DWORD, HWND) override {}
-    HWND GetMainWindow() const override { return m_hWnd; }
-    CMenu* CreateContextMenu() override { return nullptr; }
-    void OnMoving() override {}
-    void OnMoved(const std::string&) override {}
-    void OnCopied(const editor::ActiveMembers&) override {}
-
-private:
-    const HWND m_hWnd;
-};
-
 class AtomEditorTest : public LibraryTest
 {
 protected:
@@ -102,21 +85,22 @@ TEST_F(AtomEditorTest, HandlersComeAndGoWhileTheyAreCalled)
 
 TEST_F(AtomEditorTest, TheActiveAtomFollowsTheNews)
 {
+    IAtom* const pNone = nullptr;
+    const std::tuple<AEStateOperation, IAtom*, const char*> news[] = {
+        {&IAEStateHandler::OnAtomEntered, Library(), "library"},
+        {&IAEStateHandler::OnAtomSelected, pA.Get(), "a.bmp"},
+        {&IAEStateHandler::OnAtomSelected, pB.Get(), "b.bmp"},
+        {&IAEStateHandler::OnAtomDeselected, pA.Get(), "b.bmp"},
+        {&IAEStateHandler::OnAtomSelecting, pA.Get(), "b.bmp"}, // only asked
+        {&IAEStateHandler::OnDeleteAtom, pB.Get(), "library"},
+        {&IAEStateHandler::OnAtomSelected, pA.Get(), "a.bmp"},
+        {&IAEStateHandler::OnAtomDeselected, pNone, "library"},
+    };
     EXPECT_EQ("none", ActiveAtom());
-    Tell(nullptr, &IAEStateHandler::OnAtomEntered, Library());
-    EXPECT_EQ("library", ActiveAtom());
-    Tell(&one, &IAEStateHandler::OnAtomSelected, pA.Get());
-    EXPECT_EQ("a.bmp", ActiveAtom());
-    Tell(&one, &IAEStateHandler::OnAtomSelected, pB.Get());
-    Tell(&one, &IAEStateHandler::OnAtomDeselected, pA.Get());
-    EXPECT_EQ("b.bmp", ActiveAtom());
-    Tell(&one, &IAEStateHandler::OnAtomSelecting, pA.Get());
-    EXPECT_EQ("b.bmp", ActiveAtom()) << "only asked";
-    Tell(nullptr, &IAEStateHandler::OnDeleteAtom, pB.Get());
-    EXPECT_EQ("library", ActiveAtom());
-    Tell(&one, &IAEStateHandler::OnAtomSelected, pA.Get());
-    Tell(&one, &IAEStateHandler::OnAtomDeselected, nullptr);
-    EXPECT_EQ("library", ActiveAtom());
+    for (const auto& [operation, pAtom, pszActive] : news) {
+        Tell(&one, operation, pAtom);
+        EXPECT_EQ(pszActive, ActiveAtom());
+    }
 }
 
 TEST_F(AtomEditorTest, TheSelectionIsThatOfTheFocusedViewElseOfTheLastToAnnounceOne)
@@ -140,10 +124,6 @@ TEST_F(AtomEditorTest, TheSelectionIsThatOfTheFocusedViewElseOfTheLastToAnnounce
     EXPECT_FALSE(Tell(nullptr, &IAEStateHandler::OnAtomRename, nullptr));
     EXPECT_EQ(Ledger({"one rename -"}), book.TakeLedger()) << "nobody renames in its place";
 
-    Frame frame{view.GetSafeHwnd()};
-    editor.SetFrame(&frame);
-    EXPECT_EQ("b.bmp a.bmp yes", ActivePairs()) << "the frame is no view";
-    editor.SetFrame(nullptr);
     SetFocus(nullptr);
     editor.UnregisterHandler(cookie);
     EXPECT_EQ("yes", ActivePairs());

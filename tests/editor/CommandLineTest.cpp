@@ -21,27 +21,23 @@ std::string Describe(const std::vector<std::string>& arguments)
     return line.screenshot.empty() ? text : text + " into " + line.screenshot;
 }
 
-TEST(CommandLineTest, TheFolderAndTheOptionsComeInAnyOrder)
+TEST(CommandLineTest, TheFolderAndTheOptionsComeInAnyOrderAndWhatIsWrongGivesOneLine)
 {
-    EXPECT_EQ("[] 960x640", Describe({}));
-    EXPECT_EQ("[pictures] 960x640", Describe({"pictures"}));
-    EXPECT_EQ("[pictures] 800x600 into out.png",
-              Describe({"--screenshot", "out.png", "pictures", "--size", "800x600"}));
-    EXPECT_EQ("[pictures] 960x640 by -", Describe({"--script", "-", "pictures"}));
-    EXPECT_EQ("[--size] 960x640", Describe({"--", "--size"}));
-    EXPECT_EQ("help", Describe({"pictures", "--help"}));
-}
-
-TEST(CommandLineTest, WhatIsWrongGivesOneLineThatNamesIt)
-{
-    EXPECT_EQ("error --colour: unknown option; --help tells the known ones", Describe({"--colour", "red"}));
-    EXPECT_EQ("error --screenshot: the name of the picture to write is missing", Describe({"--screenshot"}));
-    EXPECT_EQ("error --script: the name of the file with the commands is missing", Describe({"--script"}));
-    EXPECT_EQ("error --screenshot: within --script the command screenshot writes pictures",
-              Describe({"--script", "-", "--screenshot", "out.png"}));
-    EXPECT_EQ("error --size: WIDTHxHEIGHT is missing", Describe({"--size", ""}));
-    EXPECT_EQ("error b: only one folder can be opened", Describe({"a", "b"}));
-    EXPECT_EQ("error the folder's name is empty", Describe({""}));
+    const std::pair<std::vector<std::string>, const char*> lines[] = {
+        {{}, "[] 960x640"},
+        {{"--screenshot", "out.png", "pictures", "--size", "800x600"}, "[pictures] 800x600 into out.png"},
+        {{"--script", "-", "pictures"}, "[pictures] 960x640 by -"},
+        {{"--", "--size"}, "[--size] 960x640"},
+        {{"pictures", "--help"}, "help"},
+        {{"--script"}, "error --script: the name of the file with the commands is missing"},
+        {{"--script", "-", "--screenshot", "out.png"},
+         "error --screenshot: within --script the command screenshot writes pictures"},
+        {{"--size", ""}, "error --size: WIDTHxHEIGHT is missing"},
+        {{"a", "b"}, "error b: only one folder can be opened"},
+        {{""}, "error the folder's name is empty"},
+    };
+    for (const auto& [arguments, pszMeaning] : lines)
+        EXPECT_EQ(pszMeaning, Describe(arguments));
     for (const char* size : {"800", "x600", "800x", "800x600x", "-800x600", "800x99999", "8e2x600", "99999999999x600"})
         EXPECT_EQ(std::string("error --size ") + size + ": not a size like 960x640, from 200 to 8192 pixels each way",
                   Describe({"--size", size}));

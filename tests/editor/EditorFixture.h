@@ -5,7 +5,6 @@
 #include "Editor/frame/MainFrame.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/editor/TempFolder.h"
-#include "tests/editor/TrashHome.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end the editor is closed, and none of its objects may be alive.

@@ -4,7 +4,6 @@
 #include "Editor/model/Library.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/editor/TempFolder.h"
-#include "tests/editor/TrashHome.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end no object of the model may be alive.

@@ -1,10 +1,12 @@
 // A handler that writes down what the editor tells it, and answers and acts as the test says.
 #pragma once
 
+#include "Editor/model/Member.h"
 #include "Views/host/StateHandler.h"
 #include "tests/support/Ledger.h"
 
 #include <functional>
+#include <utility>
 
 class StateSpy final : public CStateHandler
 {
@@ -19,14 +21,32 @@ public:
     BOOL OnAtomDeselected(IAtom* pAtom, IAtomContainer*) override { return Hear("deselected", pAtom); }
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer*) override { return Hear("entered", pAtom); }
     BOOL OnAtomRename(IAtom* pAtom, IAtomContainer*) override { return Hear("rename", pAtom); }
-    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override;
+    BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override
+    {
+        if (!pairs)
+            *pCount = static_cast<DWORD>(active.size()) + 1;
+        for (std::size_t i = 0; pairs && i < active.size(); ++i) {
+            pairs[i].pAtom = CStubRef<IAtom>::Share(active[i]).Detach();
+            CStubRef<IAtomContainer> pContainer;
+            active[i]->GetContainer(pContainer.Receive(), IID_IAtomContainer);
+            pairs[i].pContainer = pContainer.Detach();
+        }
+        return pairs != nullptr;
+    }
 
     BOOL answer = TRUE;
     std::function<void()> onHear; // once
     std::vector<IAtom*> active;   // handed out with one empty slot behind them
 
 private:
-    BOOL Hear(const std::string& what, IAtom* pAtom);
+    BOOL Hear(const std::string& what, IAtom* pAtom)
+    {
+        const editor::CMember* const pMember = editor::CMember::Of(pAtom);
+        m_book.Write(m_prefix + what + ' ' + (!pMember ? "-" : pMember->Container() ? pMember->ShownName() : "/"));
+        if (const auto act = std::exchange(onHear, nullptr))
+            act();
+        return answer;
+    }
 
     const std::string m_prefix;
     LedgerBook& m_book;

@@ -1,6 +1,7 @@
 // A folder on disk that is gone at the end of the test, and short ways to fill it.
 #pragma once
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -30,4 +31,16 @@ public:
 
 private:
     std::string m_path;
+};
+
+// A trash of the test's own, so that nothing gets into the user's.
+class TrashHome
+{
+public:
+    TrashHome() { Point(folder.Path()); }
+    ~TrashHome() { unsetenv("XDG_DATA_HOME"); }
+
+    TempFolder folder; // what lies in the trash is in Trash/files
+    // The trash is below that path from now on.
+    void Point(const std::string& path) const { setenv("XDG_DATA_HOME", path.c_str(), 1); }
 };
