@@ -1,5 +1,4 @@
 #include "Editor/frame/Look.h"
-#include "Editor/objects/ErrorInfo.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <algorithm>
@@ -19,17 +18,15 @@ TEST_F(EditorTest, EnterOpensTheFocusedRowAndThePathLeadsBack)
     DoubleClick("Poses");
     ClickPath(2);
     EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "where one is already";
-    ClickPath(-1);
-    EXPECT_EQ("/Ada/ | [(*Poses)] | 1 object, 1 selected | Poses", Screen());
-    DoubleClick("Poses");
     const HWND hPath = Frame().GetPathBar().GetSafeHwnd();
     desktop.Press(hPath, {24, 20});
     SetCapture(List());
     ReleaseCapture();
     desktop.Release(hPath, {24, 20});
     EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "someone took the mouse away";
-    ClickPath(0);
     ClickPath(-1);
+    EXPECT_EQ("/Ada/ | [(*Poses)] | 1 object, 1 selected | Poses", Screen());
+    ClickPath(0);
     EXPECT_EQ("/ | [(*Ada) Bo] | 2 objects, 1 selected | Ada", Screen());
 }
 
@@ -93,19 +90,14 @@ TEST_F(EditorTest, APictureThatCannotBeReadSaysWhy)
     folder.Write("bad.bmp", "no picture");
     folder.Write("story.phase", "lost.bmp\n");
     Open();
-
-    Click("bad.bmp");
-    EXPECT_EQ("/ | [(*bad.bmp) story.phase] | 2 objects, 1 selected | ! bad.bmp: not a BMP picture", Screen());
     DoubleClick("bad.bmp");
     EXPECT_EQ("/bad.bmp/ | picture |  | ! bad.bmp: not a BMP picture", Screen());
     EXPECT_NE(toolkit::ToPixel(editor::CalmColor()), MiddleOf(Picture()));
     desktop.Key(VK_BACK);
+    EXPECT_EQ("/ | [(*bad.bmp) story.phase] | 2 objects, 1 selected | ! bad.bmp: not a BMP picture", Screen());
     DoubleClick("story.phase");
     DoubleClick("lost.bmp");
     EXPECT_EQ("/story.phase/lost.bmp/ | picture |  | ! lost.bmp: no such file or directory", Screen());
-    desktop.Key(VK_BACK);
-    desktop.Key(VK_BACK);
-    EXPECT_EQ("/ | [bad.bmp (*story.phase)] | 2 objects, 1 selected | story.phase", Screen());
 }
 
 TEST_F(EditorTest, AFolderThatIsEmptyOrCannotBeOpenedSaysSoInTheListsPlace)
@@ -138,8 +130,6 @@ TEST_F(EditorTest, ReadingAnewKeepsSelectionFocusAndPlace)
     Press(VK_END);
     Select({"399.bmp", "397.bmp", "395.bmp"});
     const toolkit::Surface before = desktop.Dump(List());
-    EXPECT_EQ("300 objects, 3 selected", Frame().GetStatus().text);
-
     Press(VK_F5);
     const toolkit::Surface after = desktop.Dump(List());
     EXPECT_TRUE(std::equal(before.Row(0), before.Row(0) + before.Width() * before.Height(), after.Row(0)));
@@ -152,11 +142,6 @@ TEST_F(EditorTest, ReadingAnewKeepsSelectionFocusAndPlace)
     folder.Remove("395.bmp");
     Press(VK_F5);
     EXPECT_TRUE(Rows().ends_with("394.bmp *396.bmp 398.bmp (399.bmp)]")) << "the next has the focus";
-
-    Control('A');
-    folder.Remove("000.bmp");
-    Press(VK_F5);
-    EXPECT_EQ("299 objects, 299 selected", Frame().GetStatus().text);
 }
 
 TEST_F(EditorTest, OfAHundredThousandPicturesOnlyThoseInSightAreRead)
@@ -184,13 +169,11 @@ TEST_F(EditorTest, OfAHundredThousandPicturesOnlyThoseInSightAreRead)
 TEST_F(EditorTest, WhatCannotBeOpenedLeavesEverythingAsItWasAndAfterClosingAFolderCanBeOpenedAgain)
 {
     folder.Make("a.bmp");
-    folder.Write("file", "");
     EXPECT_EQ(folder.At("none") + ": no such file or directory", Open(folder.At("none")));
     EXPECT_EQ(nullptr, App().GetMainWindow());
-
     Open();
     Click("a.bmp");
-    EXPECT_EQ(folder.At("file") + ": not a folder", Open(folder.At("file")));
+    EXPECT_EQ(folder.At("a.bmp") + ": not a folder", Open(folder.At("a.bmp")));
     EXPECT_EQ("/ | [(*a.bmp)] | 1 object, 1 selected | a.bmp: 8 x 8 pixels", Screen());
 
     toolkit::InputClose(App().GetMainWindow());
@@ -211,16 +194,6 @@ TEST_F(EditorTest, TheEditorEndsWhilePicturesAreBeingRead)
     reader.AllowAll();
     CloseApp();
     desktop.Run();
-}
-
-TEST_F(EditorTest, AnErrorIsShownWithItsCaptionAndLine)
-{
-    Open();
-    ShowAtomError(List(), 0xE00A, editor::CErrorInfo::Make("walk.png: not a PNG picture").Get());
-    ShowAtomError(nullptr, 0xE012, nullptr);
-    EXPECT_EQ(Ledger({"The name cannot be shown: walk.png: not a PNG picture",
-                      "The name was not changed: The reason is not known."}),
-              TakeBoxes());
 }
 
 } // namespace

