@@ -46,37 +46,6 @@ protected:
     }
 };
 
-TEST_F(PropertiesTest, APictureThatArrivesLooksThroughNoSelection)
-{
-    struct Source final : CStateHandler
-    {
-        BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override
-        {
-            ++nAsked;
-            return CStateHandler::OnGetActivePairs(pairs, pCount);
-        }
-        int nAsked = 0;
-    };
-    Open();
-    Source source;
-    const HWND hWnd = Frame().GetSplitter().m_hWnd;
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const DWORD dwCookie = pEditor->RegisterHandler(hWnd, &source);
-    SetFocus(hWnd);
-    const auto asksAfterNewsOf = [&](const char* pszName) {
-        CStubRef<IAtom> pAtom;
-        Frame().ShownContainer()->FindAtom(pszName, pAtom.Receive(), IID_IAtom);
-        Settle();
-        source.nAsked = 0;
-        pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pAtom.Get(), nullptr, 0);
-        Settle();
-        return source.nAsked > 0;
-    };
-    EXPECT_FALSE(asksAfterNewsOf("a.bmp"));
-    EXPECT_TRUE(asksAfterNewsOf("walk.phase"));
-    pEditor->UnregisterHandler(dwCookie);
-}
-
 TEST_F(PropertiesTest, ANumberThatIsEnteredGoesToAllSelectedPhasesAndIsSavedByKey)
 {
     Open();
