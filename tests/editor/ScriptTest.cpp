@@ -40,16 +40,8 @@ protected:
 TEST_F(ScriptTest, CommandsActLikeTheUsersOwn)
 {
     EXPECT_EQ(Ledger({"a b.bmp", "Poses", "one.bmp", "a b.bmp", "picture out.png"}),
-              Run("# the way in\n"
-                  "enter Ada\r\n"
-                  "list\n"
-                  "select \"a b.bmp\"   # one of them\n"
-                  "copy\n"
-                  "enter Poses\n"
-                  "paste\n"
-                  "list\n"
-                  "\n"
-                  "screenshot out.png"));
+              Run("# the way in\nenter Ada\r\nlist\nselect \"a b.bmp\"   # one of them\ncopy\n"
+                  "enter Poses\npaste\nlist\n\nscreenshot out.png"));
     EXPECT_EQ("/Ada/Poses/ | [one.bmp (*a b.bmp)] | 2 objects, 1 selected | a b.bmp: 8 x 8 pixels", Screen());
 
     EXPECT_EQ(Ledger(), Run("select *\ncut\nenter /Bo\npaste\nrename \"a b.bmp\" c.bmp\nselect\nselect one.bmp\n"));

@@ -43,23 +43,23 @@ TEST_F(TrashTest, WhatIsRemovedLiesInTheTrashWithItsFormerPlaceAndTime)
 
 TEST_F(TrashTest, NamesThatAreInTheTrashAlreadyAreCountedUp)
 {
+    const std::string longName = std::string(251, 'w') + ".bmp";
     for (int i = 0; i < 2; ++i) {
         folder.Write("walk.bmp", std::to_string(i));
         folder.Write("Ada/a.bmp", std::to_string(i));
-        EXPECT_EQ("", Remove("walk.bmp"));
-        EXPECT_EQ("", Remove("Ada"));
+        for (const char* pszName : {"walk.bmp", "Ada"})
+            EXPECT_EQ("", Remove(pszName));
     }
     folder.Link("link.bmp", "nowhere");
-    folder.Write(std::string(251, 'w') + ".bmp", "long");
-    EXPECT_EQ("", Remove("link.bmp")) << "the link itself";
-    EXPECT_EQ("", Remove(std::string(251, 'w') + ".bmp"));
-    EXPECT_EQ("", Remove("was never there"));
+    folder.Write(longName, "long");
+    for (const std::string& name : {std::string("link.bmp"), longName, std::string("was never there")})
+        EXPECT_EQ("", Remove(name));
 
     EXPECT_EQ("", folder.Everything());
     EXPECT_EQ("0", trash.folder.Read("Trash/files/walk.bmp"));
     EXPECT_EQ("1", trash.folder.Read("Trash/files/walk (2).bmp"));
     EXPECT_EQ("1", trash.folder.Read("Trash/files/Ada (2)/a.bmp"));
-    EXPECT_TRUE(std::filesystem::is_symlink(trash.folder.At("Trash/files/link.bmp")));
+    EXPECT_TRUE(std::filesystem::is_symlink(trash.folder.At("Trash/files/link.bmp"))) << "the link itself";
     EXPECT_EQ(6, std::distance(std::filesystem::directory_iterator(trash.folder.At("Trash/info")), {}));
 }
 
