@@ -16,9 +16,8 @@ const std::map<UINT, const char*> kWithPlaces = {
 };
 
 const std::map<UINT, const char*> kKeys = {
-    {VK_F2, "F2"},       {VK_TAB, "Tab"},          {VK_RETURN, "Return"}, {VK_ADD, "Keypad+"},
-    {VK_APPS, "Menu"},   {VK_BACK, "Backspace"},   {VK_DELETE, "Delete"}, {VK_OEM_PLUS, "+"},
-    {VK_OEM_MINUS, "-"}, {VK_CAPITAL, "CapsLock"}, {VK_UNKNOWN, "other"},
+    {VK_F2, "F2"},          {VK_TAB, "Tab"},       {VK_RETURN, "Return"}, {VK_ADD, "Keypad+"}, {VK_APPS, "Menu"},
+    {VK_BACK, "Backspace"}, {VK_DELETE, "Delete"}, {VK_OEM_PLUS, "+"},    {VK_OEM_MINUS, "-"}, {VK_UNKNOWN, "other"},
 };
 
 std::string KeyName(WPARAM vkey)

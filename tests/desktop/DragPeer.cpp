@@ -1,4 +1,4 @@
-// A program with one window, to be dragged from and dropped on, copied from and pasted into. Says what happens to it,
+// A program with one window, to be dragged from and dropped on, and copied from. Says what happens to it,
 // a line at a time.
 //
 // Usage: drag_peer NAME X [MODE]. Modes: "refuse" says so at the drop; "hold" stays inside a drop until a line comes
@@ -98,10 +98,6 @@ protected:
             Drag();
         else if (message == WM_CHAR && wParam == 'c')
             Copy();
-        else if (message == WM_CHAR && wParam == 'v')
-            Paste();
-        else if (message == WM_CHAR && wParam == 'q')
-            QApplication::exit();
         return CWnd::WindowProc(message, wParam, lParam);
     }
 
@@ -116,14 +112,6 @@ private:
     {
         Offer("from " + m_name).release()->SetClipboard();
         Say("copied");
-    }
-
-    void Paste()
-    {
-        COleDataObject object;
-        const bool bThere = object.AttachClipboard() && object.IsDataAvailable(kAtoms);
-        Say("pasted " + (bThere ? Take(object.GetGlobalData(kAtoms)) : "nothing") +
-            (COleDataSource::GetClipboardOwner() ? " (own)" : ""));
     }
 
     const std::string m_name;

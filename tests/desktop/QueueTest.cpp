@@ -34,17 +34,6 @@ TEST_F(QueueTest, TheWaitCursorLetsNothingHappenInBetween)
     EXPECT_TRUE(RunUntil([&bHappened] { return bHappened; }));
 }
 
-TEST_F(QueueTest, TimersTickWhileQtsLoopRuns)
-{
-    int nTicks = 0;
-    m_probe->m_after[WM_TIMER] = [&] { ++nTicks; };
-    const DWORD before = m_desktop->Ticks();
-    m_probe->SetTimer(1, 20);
-    EXPECT_TRUE(RunUntil([&] { return nTicks == 3; }));
-    EXPECT_GE(m_desktop->Ticks() - before, 60u);
-    m_probe->KillTimer(1);
-}
-
 TEST_F(QueueTest, TasksFromOtherThreadsRunOnTheUserInterfaceThreadInOrder)
 {
     std::vector<int> ran;
@@ -73,14 +62,9 @@ TEST_F(QueueTest, APictureThatNeverRestsDoesNotStarveTheUser)
 
 TEST_F(QueueTest, AMessageBoxOffersItsButtonsAndGivesTheAnswer)
 {
-    const auto press = [](QMessageBox::StandardButton button) {
-        return [button](QMessageBox& box) { box.button(button)->click(); };
-    };
-    EXPECT_EQ(IDOK, Ask(MB_OK | MB_ICONHAND, press(QMessageBox::Ok)));
-    EXPECT_EQ(IDYES, Ask(MB_YESNO | MB_ICONQUESTION, press(QMessageBox::Yes)));
-    EXPECT_EQ(IDNO, Ask(MB_YESNO, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
-    EXPECT_EQ(IDCANCEL, Ask(MB_YESNOCANCEL, [](QMessageBox& box) { box.close(); }));
-
+    QTest::mousePress(Window(), Qt::LeftButton, {}, {30, 40});
+    Settle();
+    EXPECT_LT(::GetKeyState(VK_LBUTTON), 0);
     std::string shown;
     EXPECT_EQ(IDOK, Ask(MB_OKCANCEL | MB_ICONEXCLAMATION, [&](QMessageBox& box) {
                   shown = (box.windowTitle() + ": " + box.text()).toStdString();
@@ -88,45 +72,36 @@ TEST_F(QueueTest, AMessageBoxOffersItsButtonsAndGivesTheAnswer)
                   EXPECT_EQ(Qt::PlainText, box.textFormat());
                   EXPECT_EQ(QMessageBox::Ok | QMessageBox::Cancel, box.standardButtons());
                   EXPECT_EQ(&Widget(), box.parentWidget());
+                  Settle();
+                  EXPECT_GE(::GetKeyState(VK_LBUTTON), 0) << "the button held is let go";
                   box.button(QMessageBox::Ok)->click();
               }));
     EXPECT_EQ("Views: Delete <b>all</b>?", shown);
-}
 
-TEST_F(QueueTest, TheQueueGoesOnWhileAMessageBoxIsOpen)
-{
-    QPointer<QMessageBox> pOpen;
-    m_probe->m_after[WM_APP] = [&] { m_probe->SetTimer(1, 10); };
-    m_probe->m_after[WM_TIMER] = [&] {
-        m_probe->KillTimer(1);
-        pOpen->button(QMessageBox::Yes)->click();
+    const auto press = [](QMessageBox::StandardButton button) {
+        return [button](QMessageBox& box) { box.button(button)->click(); };
     };
-    // Also when the box is opened by the queue itself.
-    int nAnswer = 0;
+    EXPECT_EQ(IDOK, Ask(MB_OK | MB_ICONHAND, press(QMessageBox::Ok)));
+    EXPECT_EQ(IDNO, Ask(MB_YESNO, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
+    EXPECT_EQ(IDCANCEL, Ask(MB_YESNOCANCEL, [](QMessageBox& box) { box.close(); }));
+
+    // Also when the box is opened by the queue itself, the queue goes on, and its timers.
+    QPointer<QMessageBox> pOpen;
+    int nTicks = 0, nAnswer = 0;
+    m_probe->m_after[WM_TIMER] = [&] {
+        if (++nTicks == 3)
+            pOpen->button(QMessageBox::Yes)->click();
+    };
+    const DWORD before = m_desktop->Ticks();
     toolkit::PostTask([&] {
         nAnswer = Ask(MB_YESNO, [&](QMessageBox& box) {
             pOpen = &box;
-            m_probe->PostMessage(WM_APP);
+            m_probe->SetTimer(1, 20);
         });
     });
     EXPECT_TRUE(RunUntil([&] { return nAnswer != 0; }));
     EXPECT_EQ(IDYES, nAnswer);
     EXPECT_TRUE(pOpen.isNull());
-}
-
-TEST_F(QueueTest, AButtonHeldWhenAMessageBoxComesIsLetGo)
-{
-    QTest::mousePress(Window(), Qt::LeftButton, {}, {30, 40});
-    Settle();
-    EXPECT_LT(::GetKeyState(VK_LBUTTON), 0);
-    Ask(MB_OK, [](QMessageBox& box) {
-        Settle();
-        EXPECT_GE(::GetKeyState(VK_LBUTTON), 0);
-        box.button(QMessageBox::Ok)->click();
-    });
-}
-
-TEST_F(QueueTest, AMessageBoxEndsWithItsOwner)
-{
-    EXPECT_EQ(IDNO, Ask(MB_YESNO, [&](QMessageBox&) { m_probe->DestroyWindow(); }));
+    EXPECT_GE(m_desktop->Ticks() - before, 60u);
+    EXPECT_EQ(IDNO, Ask(MB_YESNO, [&](QMessageBox&) { m_probe->DestroyWindow(); })) << "it ends with its owner";
 }

@@ -39,6 +39,11 @@ protected:
 
 TEST_F(RealDragTest, ADragHasTheEffectThatTheOtherProgramConfirms)
 {
+    DragTo(220, 100); // on itself
+    EXPECT_EQ("drop move from left", Line(m_left));
+    EXPECT_EQ("dragged move", Line(m_left));
+    DragTo(700, 600); // on nothing
+    EXPECT_EQ("dragged none", Line(m_left));
     const std::pair<const char*, const char*> cases[] = {{"take", "move"}, {"refuse", "none"}, {"hold", "copy"}};
     std::list<Program> targets; // the latest lies on top
     for (const auto& [pszMode, pszEffect] : cases) {
@@ -70,15 +75,6 @@ TEST_F(RealDragTest, AProgramOfAnotherKindIsToCopyUnlessTheUserSaysOtherwise)
     EXPECT_EQ("copied", Line(m_left));
 }
 
-TEST_F(RealDragTest, ADropOnItselfAndOneOnNothingNeedNobodysWord)
-{
-    DragTo(220, 100);
-    EXPECT_EQ("drop move from left", Line(m_left));
-    EXPECT_EQ("dragged move", Line(m_left));
-    DragTo(700, 600);
-    EXPECT_EQ("dragged none", Line(m_left));
-}
-
 TEST_F(RealDragTest, WhateverGoesUnderWayTheProgramsGoOn)
 {
     Program vanishing, dying, forgetful;
@@ -99,28 +95,6 @@ TEST_F(RealDragTest, WhateverGoesUnderWayTheProgramsGoOn)
     StartPeer(forgetful, {"forgetful", "50", "forget"});
     DragTo(220, 100);
     EXPECT_EQ("dragged none", Line(forgetful));
-}
-
-TEST_F(RealDragTest, WhatOneProgramCopiedAnotherPastesAsLongAsTheFirstIsThere)
-{
-    Program right;
-    StartPeer(right, {"right", "600"});
-    const QString leftWindow = FindWindow("left"), rightWindow = FindWindow("right");
-    Press(leftWindow, "c");
-    EXPECT_EQ("copied", Line(m_left));
-    Press(leftWindow, "v");
-    EXPECT_EQ("pasted from left (own)", Line(m_left));
-    Press(rightWindow, "v");
-    EXPECT_EQ("pasted from left", Line(right));
-
-    Press(rightWindow, "c");
-    EXPECT_EQ("copied", Line(right));
-    Press(leftWindow, "v"); // has let go of its own
-    EXPECT_EQ("pasted from right", Line(m_left));
-    Press(rightWindow, "q");
-    EXPECT_TRUE(right.waitForFinished(kPatience));
-    Press(leftWindow, "v");
-    EXPECT_EQ("pasted nothing", Line(m_left));
 }
 
 } // namespace

@@ -129,7 +129,7 @@ TEST_F(RealEditorTest, ADragMovesFilesFromOneToTheOtherAndWithControlCopiesThem)
     EXPECT_EQ(QImage(m_folder.filePath("left/a.png")), QImage(m_folder.filePath("right/b.png")));
 }
 
-TEST_F(RealEditorTest, WhatOneHasCopiedTheOtherPastesUntilTheFirstIsClosed)
+TEST_F(RealEditorTest, WhatOneHasCopiedTheOtherPastesAndBackUntilItIsClosed)
 {
     const QPoint first = PlaceOfRow(0);
     const QString rightWindow = StartEditor(m_right, "right", kRight);
@@ -141,13 +141,16 @@ TEST_F(RealEditorTest, WhatOneHasCopiedTheOtherPastesUntilTheFirstIsClosed)
     Press(rightWindow, "ctrl+v");
     AwaitFiles("left a.png b.png | right a.png");
 
-    m_left.terminate();
-    ASSERT_TRUE(m_left.waitForFinished(kPatience));
+    Press(rightWindow, "ctrl+c");
+    Press(m_leftWindow, "ctrl+v"); // has let go of its own
+    AwaitFiles("left a (2).png a.png b.png | right a.png");
+
+    m_right.terminate();
+    ASSERT_TRUE(m_right.waitForFinished(kPatience));
     EXPECT_TRUE(QDir(m_folder.filePath("temp")).isEmpty());
-    Press(rightWindow, "ctrl+v");
+    Press(m_leftWindow, "ctrl+v");
     EXPECT_NE("", FindWindow("Nothing was pasted"));
-    AwaitFiles("left a.png b.png | right a.png");
-    EXPECT_EQ(QProcess::Running, m_right.state());
+    EXPECT_EQ(QProcess::Running, m_left.state());
 }
 
 } // namespace

@@ -114,17 +114,6 @@ TEST_F(TextEngineTest, NothingIsDrawnOutsideTheClip)
     EXPECT_FALSE(Ink(small).IsRectEmpty());
 }
 
-TEST_F(TextEngineTest, SelectedTextIsDrawnInItsOwnColour)
-{
-    for (const char* pszLabel : {"plain", "עברית"}) { // as glyphs and as a remembered picture
-        Surface surface(CSize(100, 40), 0xFF3070C0);
-        Draw(pszLabel, FontStyle::Regular);
-        m_engine.Draw(surface, surface.Bounds(), CPoint(5, 5), pszLabel, RGB(255, 255, 255), FontStyle::Regular);
-        const auto isWhite = [](toolkit::Pixel pixel) { return qBlue(pixel) > 0xF0 && qRed(pixel) > 0xE0; };
-        EXPECT_TRUE(std::any_of(surface.Row(0), surface.Row(0) + 100 * 40, isWhite)) << pszLabel;
-    }
-}
-
 // A longer text is not remembered, but drawn letter by letter: here with nothing but spaces behind the label.
 TEST_F(TextEngineTest, ALabelLooksTheSameNewOrKnownOrForgottenAsLetterByLetter)
 {
