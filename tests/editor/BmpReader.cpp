@@ -1,12 +1,10 @@
 #include "tests/editor/BmpReader.h"
 
 #include "Toolkit/graphics/Scale.h"
+#include "tests/editor/TempFolder.h"
 #include "tests/support/BmpFile.h"
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 BmpReader::~BmpReader()
 {
@@ -15,22 +13,11 @@ BmpReader::~BmpReader()
     m_changed.wait(lock, [&] { return m_nEnded == m_nBegun; });
 }
 
-void BmpReader::Hold()
-{
-    const std::lock_guard lock(m_mutex);
-    m_nAllowed = 0;
-}
-
 void BmpReader::Allow(int nReads)
 {
     const std::lock_guard lock(m_mutex);
-    m_nAllowed += nReads;
+    m_nAllowed = nReads > 0 ? m_nAllowed + nReads : 0;
     m_changed.notify_all();
-}
-
-void BmpReader::AllowAll()
-{
-    Allow(1 << 20);
 }
 
 void BmpReader::WaitForReads(int nBegun) const
@@ -47,24 +34,28 @@ Ledger BmpReader::TakeReads()
 
 editor::DecodedPicture BmpReader::Read(const std::string& path, CSize maxSize, int frame) const
 {
-    Pass(path);
-    auto picture = ReadNow(path, maxSize, frame);
-    const std::lock_guard lock(m_mutex);
+    const std::string name = path.substr(path.rfind('/') + 1);
+    std::unique_lock lock(m_mutex);
+    m_reads.Write(name);
+    ++m_nBegun;
+    m_changed.notify_all();
+    m_changed.wait(lock, [&] { return m_nAllowed > 0; });
+    --m_nAllowed;
+    lock.unlock();
+    auto picture = Decode(DecodeBmp(TempFolder::ReadFile(path)), name.starts_with("film"), maxSize, frame);
+    lock.lock();
     ++m_nEnded;
     m_changed.notify_all();
     return picture;
 }
 
-editor::DecodedPicture BmpReader::ReadNow(const std::string& path, CSize maxSize, int frame) const
+editor::DecodedPicture BmpReader::Decode(std::optional<toolkit::Surface> picture, bool bFilm, CSize maxSize, int frame)
 {
-    std::ifstream stream(path, std::ios::binary);
-    const std::string bytes{std::istreambuf_iterator<char>(stream), {}};
-    auto picture = DecodeBmp(bytes);
     if (!picture)
         return {{}, {}, "not a BMP picture"};
     CSize own = picture->Bounds().Size();
     int frames = 1;
-    if (std::filesystem::path(path).filename().string().starts_with("film")) {
+    if (bFilm) {
         frames = std::exchange(own.cy, own.cx) / own.cx;
         picture = toolkit::Crop(*picture, CRect(CPoint(0, frame * own.cy), own));
     }
@@ -72,14 +63,4 @@ editor::DecodedPicture BmpReader::ReadNow(const std::string& path, CSize maxSize
         return {{}, {}, "there is no such frame", frames};
     const CSize fitted = toolkit::FitInto(own, {std::min(own.cx, maxSize.cx), std::min(own.cy, maxSize.cy)});
     return {toolkit::ScaleSurface(*picture, fitted), own, {}, frames};
-}
-
-void BmpReader::Pass(const std::string& path) const
-{
-    std::unique_lock lock(m_mutex);
-    m_reads.Write(std::filesystem::path(path).filename().string());
-    ++m_nBegun;
-    m_changed.notify_all();
-    m_changed.wait(lock, [&] { return m_nAllowed > 0; });
-    --m_nAllowed;
 }

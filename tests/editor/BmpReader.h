@@ -7,6 +7,7 @@
 
 #include <condition_variable>
 #include <mutex>
+#include <optional>
 
 class BmpReader : public editor::PictureReader
 {
@@ -14,9 +15,9 @@ public:
     ~BmpReader() override; // waits for what has begun
 
     // From now on reads wait until they are allowed; they are in the ledger when they begin.
-    void Hold();
+    void Hold() { Allow(0); }
     void Allow(int nReads);
-    void AllowAll();
+    void AllowAll() { Allow(1 << 20); }
     void WaitForReads(int nBegun) const; // until so many have begun altogether
     Ledger TakeReads();                  // "name", in the order in which they began
 
@@ -24,8 +25,7 @@ public:
     editor::DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const override;
 
 private:
-    void Pass(const std::string& path) const;
-    editor::DecodedPicture ReadNow(const std::string& path, CSize maxSize, int frame) const;
+    static editor::DecodedPicture Decode(std::optional<toolkit::Surface> picture, bool bFilm, CSize maxSize, int frame);
 
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;

@@ -71,18 +71,16 @@ TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
     EXPECT_GT(CountInk(desktop.Dump(Picture()), editor::CalmColor()), 0);
     reader.AllowAll();
     Settle();
-    EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
-
     reader.Hold();
     toolkit::InputResize(App().GetMainWindow(), {400, 300});
     desktop.Run();
     EXPECT_EQ(0xFF102030, MiddleOf(Picture())) << "the one that is there";
-    reader.AllowAll();
-    Settle();
-    EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
     CRect window;
     GetWindowRect(Picture(), &window);
     EXPECT_EQ(400, window.right) << "to the new edge";
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
 }
 
 TEST_F(EditorTest, APictureThatCannotBeReadSaysWhy)
@@ -151,15 +149,11 @@ TEST_F(EditorTest, OfAHundredThousandPicturesOnlyThoseInSightAreRead)
     const std::size_t nFirst = reader.TakeReads().size();
     EXPECT_GT(nFirst, 5u);
     EXPECT_LT(nFirst, 60u);
-    EXPECT_EQ(100'001u, Tree().GetCount());
-
     Control('A');
     EXPECT_EQ("100000 objects, 100000 selected", Frame().GetStatus().text);
     Press(VK_END);
-    Ledger reads = reader.TakeReads();
-    EXPECT_LT(reads.size(), 60u);
-    EXPECT_EQ(1, std::count(reads.begin(), reads.end(), "frame 099999.bmp"));
     EXPECT_EQ("frame 099999.bmp: not a BMP picture", Frame().GetStatus().detail);
+    EXPECT_LT(reader.TakeReads().size(), 60u);
     Press(VK_F6);
     Press(VK_END);
     EXPECT_EQ("frame 099999.bmp", Frame().GetPathBar().GetPath().back());
@@ -194,6 +188,56 @@ TEST_F(EditorTest, TheEditorEndsWhilePicturesAreBeingRead)
     reader.AllowAll();
     CloseApp();
     desktop.Run();
+}
+
+TEST_F(EditorTest, SwitchingKeepsWhatIsShownSelectedAndFocused)
+{
+    for (const char* pszName : {"a.bmp", "b.bmp"})
+        folder.WriteBmp(pszName, 90, 90, 0xFF102030);
+    Open();
+    Click("b.bmp");
+    const HWND hIcons = List();
+    const std::string before = Screen();
+    Control('2');
+    const HWND hThumbnails = List();
+    EXPECT_EQ(hThumbnails, GetFocus());
+    EXPECT_FALSE(IsWindowVisible(hIcons));
+    EXPECT_EQ(before, Screen());
+    CRect icon;
+    Frame().GetList().GetItemRect(0, &icon, LVIR_ICON);
+    const toolkit::Surface shown = desktop.Dump(hThumbnails);
+    EXPECT_EQ(0xFF102030u, shown.At(icon.left + 24, icon.top + 24)) << "80 pixels wide, in the middle of 128";
+    EXPECT_EQ(0xFFFFFFFFu, shown.At(icon.left + 23, icon.top + 24));
+
+    editor::CPane& pane = static_cast<editor::CPane&>(*CWnd::FromHandle(GetParent(hThumbnails)));
+    desktop.Click(pane.GetSafeHwnd(), pane.ChoiceRect(0).CenterPoint());
+    EXPECT_EQ(hIcons, List());
+    EXPECT_EQ(before, Screen());
+    DoubleClick("b.bmp");
+    Control('2'); // behind the picture
+    EXPECT_TRUE(IsWindowVisible(Picture()));
+    EXPECT_FALSE(IsWindowVisible(hThumbnails));
+    Press(VK_BACK);
+    EXPECT_EQ(before, Screen());
+    EXPECT_EQ(hThumbnails, List());
+    EXPECT_EQ(hThumbnails, GetFocus());
+}
+
+TEST_F(EditorTest, PicturesScrolledPastAreNotRead)
+{
+    for (int i = 0; i < 300; ++i)
+        folder.WriteBmp(std::to_string(1000 + i) + ".bmp");
+    Open();
+    Control('2');
+    const auto first = reader.TakeReads().size();
+    reader.Hold();
+    for (int i = 0; i < 30; ++i)
+        desktop.Key(VK_NEXT);
+    reader.AllowAll();
+    Press(VK_END);
+    const Ledger reads = reader.TakeReads();
+    EXPECT_LT(reads.size(), 2 * first) << "the pictures at the end, and those that had begun";
+    EXPECT_NE(reads.end(), std::find(reads.begin(), reads.end(), "1299.bmp"));
 }
 
 } // namespace

@@ -1,32 +1,40 @@
+#include "Toolkit/graphics/Gdi.h"
 #include "tests/editor/LibraryFixture.h"
 
 namespace
 {
 
+// Pictures as icons and as thumbnails.
 class PictureStoreTest : public LibraryTest
-{};
-
-TEST_F(PictureStoreTest, AnIconIsAPlaceholderUntilItsPictureArrives)
 {
-    folder.WriteBmp("ball.bmp", 16, 16, 0xFF102030);
-    folder.Write("bad.bmp", "BMPnot");
-    folder.MakeFolder("Ada");
-    Open();
-    const auto pBall = Find("ball.bmp"), pBad = Find("bad.bmp"), pAda = Find("Ada");
-    EXPECT_EQ(Ledger{}, reader.TakeReads()) << "nothing is read at opening";
+protected:
+    static auto Thumbnail(const CStubRef<IAtom>& pAtom) { return CStubRef<IAtomThumbnail>::From(pAtom.Get()); }
+    auto Thumbnail(const char* pszName) { return Thumbnail(Find(pszName)); }
 
-    EXPECT_EQ("folder", Icon(pAda.Get()));
-    EXPECT_EQ("none yet", Icon(pBall.Get()));
-    EXPECT_EQ("none yet", Icon(pBad.Get()));
-    EXPECT_EQ("", Error(pBad.Get()));
-    Settle();
-    EXPECT_EQ("102030", Icon(pBall.Get()));
-    EXPECT_EQ("broken", Icon(pBad.Get()));
-    EXPECT_EQ("bad.bmp: not a BMP picture", Error(pBad.Get()));
-    EXPECT_EQ("", Error(pBall.Get()));
-    Settle();
-    EXPECT_EQ(2u, reader.TakeReads().size()) << "read once, good or bad";
-}
+    // Drawn into 80 by 80 pixels of white: the picture's colour and place, or "none yet", "fails", "nothing".
+    static std::string Drawn(IAtomThumbnail* pThumb, UINT nFrame = 0)
+    {
+        toolkit::Surface surface({100, 100}, 0xFFFFFFFF);
+        const HDC hdc = toolkit::CreateSurfaceDC(surface, {}, toolkit::Region(surface.Bounds()));
+        CRect rect(10, 10, 90, 90);
+        const BOOL bDrawn = pThumb->Draw(hdc, rect, 0, 2, nFrame);
+        DeleteDC(hdc);
+        CRect place;
+        for (int y = 0; y < 100; ++y)
+            for (int x = 0; x < 100; ++x)
+                if (surface.At(x, y) != 0xFFFFFFFF)
+                    place = place | CRect(x, y, x + 1, y + 1);
+        if (!bDrawn)
+            return place.IsRectEmpty() ? "fails" : "fails, but draws";
+        const toolkit::Pixel pixel = surface.At(place.left, place.top);
+        if (pixel != surface.At(50, 50))
+            return "none yet";
+        char text[80];
+        std::snprintf(text, sizeof text, "%06X at %d,%d-%d,%d", pixel & 0xFFFFFF, place.left, place.top, place.right,
+                      place.bottom);
+        return text;
+    }
+};
 
 TEST_F(PictureStoreTest, TheNewestWishIsReadFirstAndWhoWaitsTooLongAsksAgain)
 {
@@ -169,6 +177,47 @@ TEST_F(PictureStoreTest, AfterStoppingNobodyIsToldAnythingAndNothingIsRead)
     EXPECT_EQ(Ledger({"1.bmp"}), reader.TakeReads());
     EXPECT_EQ(Ledger{}, TakeArrivals());
     EXPECT_EQ("none yet", Icon(p1.Get()));
+}
+
+TEST_F(PictureStoreTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneFails)
+{
+    folder.WriteBmp("wide.bmp", 320, 160, 0xFF102030);
+    folder.WriteBmp("small.bmp", 16, 10, 0xFF405060);
+    folder.Write("bad.bmp", "BMPnot");
+    folder.MakeFolder("Ada");
+    folder.Write("walk.phase", "wide.bmp\n../outside.bmp\n");
+    Open();
+    const auto pWide = Thumbnail("wide.bmp"), pSmall = Thumbnail("small.bmp"), pBad = Thumbnail("bad.bmp");
+    EXPECT_FALSE(Thumbnail("Ada"));
+    for (const auto* p : {&pWide, &pSmall, &pBad})
+        EXPECT_EQ("none yet", Drawn(p->Get()));
+    Settle();
+    EXPECT_EQ(3u, TakeArrivals().size());
+    EXPECT_EQ("102030 at 10,30-90,70", Drawn(pWide.Get()));
+    EXPECT_EQ("405060 at 42,45-58,55", Drawn(pSmall.Get()));
+    EXPECT_EQ("fails", Drawn(pBad.Get()));
+
+    const auto pPhase = Container("walk.phase");
+    EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(At(pPhase.Get(), 0)).Get()));
+    EXPECT_EQ("fails", Drawn(Thumbnail(At(pPhase.Get(), 1)).Get()));
+    EXPECT_EQ(3u, reader.TakeReads().size());
+}
+
+TEST_F(PictureStoreTest, AnAnimatedPictureIsDrawnFrameByFrame)
+{
+    folder.WriteBmp("film.bmp", 100, 300, 0xFF102030);
+    Open();
+    const auto pFilm = Thumbnail("film.bmp");
+    EXPECT_EQ(1u, pFilm->GetFrameCount());
+    EXPECT_EQ("none yet", Drawn(pFilm.Get(), 2));
+    Settle();
+    EXPECT_EQ(3u, pFilm->GetFrameCount());
+    EXPECT_EQ("none yet", Drawn(pFilm.Get(), 2));
+    Settle();
+    EXPECT_EQ("102030 at 10,10-90,90", Drawn(pFilm.Get(), 2));
+    EXPECT_EQ("102030 at 10,10-90,90", Drawn(pFilm.Get(), 0));
+    EXPECT_EQ("fails", Drawn(pFilm.Get(), 3));
+    EXPECT_EQ(2u, reader.TakeReads().size());
 }
 
 } // namespace
