@@ -26,10 +26,8 @@ protected:
     static QImage TwoHalves(int cx, int cy) // left red, right half-transparent blue
     {
         QImage image(cx, cy, QImage::Format_ARGB32);
-        for (int y = 0; y < cy; ++y) {
-            for (int x = 0; x < cx; ++x)
-                image.setPixel(x, y, x < cx / 2 ? qRgba(255, 0, 0, 255) : qRgba(0, 0, 255, 128));
-        }
+        for (int i = 0; i < cx * cy; ++i)
+            image.setPixel(i % cx, i / cx, i % cx < cx / 2 ? qRgba(255, 0, 0, 255) : qRgba(0, 0, 255, 128));
         return image;
     }
 
@@ -127,16 +125,19 @@ TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReasonAndTheTerminalIsSpared)
                QByteArray(small).replace(18, 8, QByteArray::fromHex("1027000010270000"))); // claims 10000 by 10000
     ASSERT_EQ(0, ::mkfifo(Path("pipe.png").c_str(), 0600));
 
-    const auto error = [this](const char* pszName) { return Read(pszName, {50, 50}).error; };
+    const std::pair<const char*, const char*> errors[] = {
+        {"half.png", "the picture is damaged"},
+        {"bent.png", "the picture is damaged"},
+        {"text.png", "not a picture of a known format"},
+        {"empty.gif", "the file is empty"},
+        {"pipe.png", "not a regular file"},
+        {".", "not a regular file"},
+        {"gone.png", "no such file or directory"},
+        {"huge.bmp", "too large to decode: 10000 by 10000 pixels"},
+    };
     testing::internal::CaptureStderr();
-    EXPECT_EQ("the picture is damaged", error("half.png"));
-    EXPECT_EQ("the picture is damaged", error("bent.png"));
-    EXPECT_EQ("", testing::internal::GetCapturedStderr());
-    EXPECT_EQ("not a picture of a known format", error("text.png"));
-    EXPECT_EQ("the file is empty", error("empty.gif"));
-    EXPECT_EQ("not a regular file", error("pipe.png"));
-    EXPECT_EQ("not a regular file", error("."));
-    EXPECT_EQ("no such file or directory", error("gone.png"));
-    EXPECT_EQ("too large to decode: 10000 by 10000 pixels", error("huge.bmp"));
+    for (const auto& [pszName, pszError] : errors)
+        EXPECT_EQ(pszError, Read(pszName, {50, 50}).error);
+    EXPECT_EQ(std::string::npos, testing::internal::GetCapturedStderr().find("png"));
     EXPECT_TRUE(Read("half.png", {50, 50}).picture.IsEmpty());
 }

@@ -52,18 +52,25 @@ protected:
 
 TEST_F(TextEngineTest, TheDrawnTextFillsTheMeasuredWidthAndStandsInItsLine)
 {
+    const CRect clip(30, 22, 70, 29);
     for (const FontStyle style : {FontStyle::Regular, FontStyle::Bold}) {
         for (const char* pszLabel : kLabels) {
             SCOPED_TRACE(pszLabel);
-            const int nWidth = m_engine.Measure(pszLabel, style);
             const CRect ink = Ink(Draw(pszLabel, style));
             EXPECT_NEAR(kAt.x, ink.left, 3);
-            EXPECT_NEAR(kAt.x + nWidth, ink.right, 3);
+            EXPECT_NEAR(kAt.x + m_engine.Measure(pszLabel, style), ink.right, 3);
             EXPECT_GE(ink.top, kAt.y - 1);
             EXPECT_LE(ink.bottom, kAt.y + m_engine.LineHeight() + 1);
+            const CRect clipped = Ink(Draw(pszLabel, style, clip));
+            EXPECT_FALSE(clipped.IsRectEmpty());
+            EXPECT_EQ(clipped, clipped & clip);
         }
     }
     EXPECT_GT(m_engine.Measure("Bold", FontStyle::Bold), m_engine.Measure("Bold", FontStyle::Regular));
+    Surface small(CSize(10, 10), kWhite);
+    m_engine.Draw(small, CRect(-50, -50, 50, 50), CPoint(-5, -3), "clipped by the surface", RGB(0, 0, 0),
+                  FontStyle::Bold);
+    EXPECT_FALSE(Ink(small).IsRectEmpty());
 }
 
 TEST_F(TextEngineTest, TextLooksAsQtItselfDrawsIt)
@@ -97,21 +104,6 @@ TEST_F(TextEngineTest, WhateverBytesComeSomethingIsDrawnForEach)
     EXPECT_NEAR(3 * nOne, m_engine.Measure("\xE2\x82\xFF", FontStyle::Regular), 2);
     EXPECT_EQ(0, m_engine.Measure("", FontStyle::Regular));
     EXPECT_GT(m_engine.Measure(std::string(100'000, '\xC3'), FontStyle::Regular), 10'000);
-}
-
-TEST_F(TextEngineTest, NothingIsDrawnOutsideTheClip)
-{
-    const CRect clip(30, 22, 70, 29);
-    for (const char* pszLabel : kLabels) {
-        SCOPED_TRACE(pszLabel);
-        const CRect ink = Ink(Draw(pszLabel, FontStyle::Regular, clip));
-        EXPECT_FALSE(ink.IsRectEmpty());
-        EXPECT_EQ(ink, ink & clip);
-    }
-    Surface small(CSize(10, 10), kWhite);
-    m_engine.Draw(small, CRect(-50, -50, 50, 50), CPoint(-5, -3), "clipped by the surface", RGB(0, 0, 0),
-                  FontStyle::Bold);
-    EXPECT_FALSE(Ink(small).IsRectEmpty());
 }
 
 // A longer text is not remembered, but drawn letter by letter: here with nothing but spaces behind the label.

@@ -109,7 +109,7 @@ TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
         Frame().GetCommands().GetPlain().Select(other, Frame().ShownContainer());
         DropOnTree("Bo");
     });
-    EXPECT_EQ("/Ada/ | [(*b.bmp) c.bmp] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("[(*b.bmp) c.bmp]", Rows());
     EXPECT_EQ("Ada/ Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
     desktop.Answer(IDYES);
     desktop.Key(VK_DELETE);
@@ -162,14 +162,16 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     desktop.DragIn({{"text/uri-list", uri("a.bmp") + "http://example.org/far.bmp\r\n" + uri("new%20one.bmp")}});
     DropOnList(BelowTheRows());
     Settle();
-    EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)] | 5 objects, 1 selected | new one.bmp: 8 x 8 "
-              "pixels",
-              Screen());
+    EXPECT_EQ("[a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)]", Rows());
     desktop.DragIn({{"text/uri-list", uri("notes.txt/") + uri("a.bmp")}});
     DropOnTree("Bo");
     Settle();
     EXPECT_EQ(Ledger({"Not everything was taken: notes.txt: not a file that the library shows"}), TakeBoxes());
-    EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp", folder.Everything());
+    desktop.TakeClipboard({{"text/uri-list", uri("a.bmp")}});
+    Control('V');
+    EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/a (3).bmp"));
+    EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a (3).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp",
+              folder.Everything());
     EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
 
     Click("new one.bmp");
@@ -180,28 +182,11 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
         desktop.DropOutside(DROPEFFECT_COPY);
     });
     EXPECT_EQ("file://" + folder.At("Ada/new%20one.bmp") + "\r\n", dragged);
-
-    desktop.TakeClipboard({{"text/uri-list", uri("a.bmp")}});
-    Control('V');
-    EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/a (3).bmp"));
-}
-
-TEST_F(DragTest, WhatAnotherProgramHasMovedAfterAllIsNotShownAnyMore)
-{
-    Open();
-    DoubleClick("Ada");
-    Select({"a.bmp", "b.bmp"});
-    Drag(List(), PlaceOf("a.bmp"), [&] {
-        desktop.DragOut();
-        desktop.DropOutside(DROPEFFECT_COPY);
-    });
-    EXPECT_EQ("/Ada/ | [(*a.bmp) (b.bmp) c.bmp] | 3 objects, 2 selected", Screen());
     desktop.Advance(2000);
-    folder.Remove("Ada/a.bmp"); // it takes its time
+    folder.Remove("Ada/new one.bmp"); // the other program has moved it after all, and taken its time
     desktop.Advance(4000);
     Settle();
-    EXPECT_EQ("/Ada/ | [(*b.bmp) c.bmp] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
-    EXPECT_EQ("Ada/ Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
+    EXPECT_EQ("[a.bmp b.bmp c.bmp a (2).bmp *a (3).bmp]", Rows());
 }
 
 TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)
@@ -238,20 +223,15 @@ TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
     desktop.Hold({});
     EXPECT_EQ("#delay 7\n", folder.Read("Bo/walk.phase"));
     EXPECT_EQ("#delay 80\n", folder.Read("Bo/Poses/walk.phase"));
-
     AltUp();
     Drag(List(), PlaceOf("Poses"), [&] { DropOnTree("Ada"); });
-    EXPECT_EQ(DROPEFFECT_MOVE, desktop.DragEffect());
     EXPECT_EQ("#delay 7\n", folder.Read("Ada/Poses/walk.phase"));
 
     setDelay("9"); // in Bo
-    desktop.Hold({.control = true});
-    desktop.Key('X');
+    Control('X');
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/walk.phase Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
-    desktop.Key('V');
-    desktop.Hold({});
+    Control('V');
     EXPECT_EQ("#delay 9\n", folder.Read("Bo/walk.phase"));
-
     toolkit::InputClose(Frame().m_hWnd);
     desktop.Run();
     EXPECT_EQ(1, nClosed) << "what has gone is not to be saved";
