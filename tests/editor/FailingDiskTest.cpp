@@ -28,13 +28,6 @@ struct Command
     const char* pszLine;   // what the disk fails under; NULL: the saving of a phase
 };
 
-void PrintTo(const Command& command, std::ostream* pStream)
-{
-    *pStream << command.pszName;
-}
-
-constexpr int kAllocations = 1; // each so many-th fails
-
 // What a process of its own leaves behind, however it ends.
 struct Outcome
 {
@@ -264,7 +257,7 @@ TEST_P(FailingDiskTest, WithoutMemoryEachObjectIsAsItWasOrAsAskedToo)
     editor::EditorApp app(reader, {.size = {1, 1}, .onClosed = {}});
     ASSERT_EQ("", app.OpenFolder(folder.At("library")));
     editor::Script script(app, {.print = [](const auto&) {}, .takeScreenshot = {}});
-    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); nth += kAllocations) {
+    for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
         EXPECT_EQ("", script.Run("before", command.pszBefore));
         const auto pPhase = command.pszLine ? CStubRef<editor::CPhase>() : PhaseToSave(*app.GetFrame());
         {

@@ -104,28 +104,6 @@ TEST_F(PictureStoreTest, WhatWasNotWantedForTheLongestLeavesTheMemoryFirst)
     EXPECT_EQ(" no no yes no yes no", held) << "the second made room for the third";
 }
 
-TEST_F(PictureStoreTest, OneFileIsReadAgainForALargerSizeOnlyWhenThatShowsMore)
-{
-    folder.WriteBmp("small.bmp", 20, 10);
-    folder.WriteBmp("large.bmp", 400, 200);
-    Open();
-    const auto pAtom = Find("small.bmp");
-    const auto sizeOf = [&](const char* pszName, CSize size) {
-        pPictures->Find(folder.At(pszName), size, pAtom.Get());
-        Settle();
-        const toolkit::Surface* const pPicture = pPictures->Find(folder.At(pszName), size, pAtom.Get()).pPicture;
-        return std::to_string(pPicture->Width()) + "x" + std::to_string(pPicture->Height());
-    };
-
-    EXPECT_EQ("20x10", sizeOf("small.bmp", {48, 48}));
-    EXPECT_EQ("20x10", sizeOf("small.bmp", {500, 500}));
-    EXPECT_EQ("48x24", sizeOf("large.bmp", {48, 48}));
-    EXPECT_EQ("300x150", sizeOf("large.bmp", {300, 300}));
-    EXPECT_EQ("48x24", sizeOf("large.bmp", {48, 48}));
-    EXPECT_EQ(Ledger({"small.bmp", "large.bmp", "large.bmp"}), reader.TakeReads());
-    EXPECT_EQ(CSize(400, 200), pPictures->FullSizeOf(folder.At("large.bmp")));
-}
-
 TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
 {
     folder.WriteBmp("large.bmp", 900, 90);
