@@ -31,20 +31,13 @@ std::string Describe(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (const auto it = kWithPlaces.find(message); it != kWithPlaces.end())
         return it->second + At(lParam) + (wParam & MK_CONTROL ? " control" : "");
-    switch (message) {
-    case WM_MOUSEWHEEL:
+    if (message == WM_MOUSEWHEEL)
         return "wheel " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam)));
-    case WM_KEYDOWN:
+    if (message == WM_KEYDOWN)
         return "key " + KeyName(wParam);
-    case WM_CHAR:
+    if (message == WM_CHAR)
         return "char " + std::to_string(wParam);
-    case WM_MOUSELEAVE:
-        return "leave";
-    case WM_CLOSE:
-        return "close";
-    default:
-        return {};
-    }
+    return message == WM_MOUSELEAVE ? "leave" : message == WM_CLOSE ? "close" : "";
 }
 
 } // namespace

@@ -102,12 +102,11 @@ TEST_F(InputTest, TheWheelTurnsByNotchesAndATouchpadByPiecesThatAddUp)
 class CCopyTarget : public COleDropTarget
 {
 public:
-    DROPEFFECT OnDragEnter(CWnd*, COleDataObject*, DWORD dwKeys, CPoint) override { return EffectOf(dwKeys); }
-    DROPEFFECT OnDragOver(CWnd*, COleDataObject*, DWORD dwKeys, CPoint) override { return EffectOf(dwKeys); }
+    DROPEFFECT OnDragOver(CWnd*, COleDataObject*, DWORD dwKeys, CPoint) override
+    {
+        return dwKeys & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE;
+    }
     BOOL OnDrop(CWnd*, COleDataObject*, DROPEFFECT, CPoint) override { return TRUE; }
-
-private:
-    static DROPEFFECT EffectOf(DWORD dwKeys) { return dwKeys & MK_CONTROL ? DROPEFFECT_COPY : DROPEFFECT_MOVE; }
 };
 
 TEST_F(InputTest, CtrlThatIsUpBeforeTheDropArrivesStillCopies)
@@ -122,7 +121,6 @@ TEST_F(InputTest, CtrlThatIsUpBeforeTheDropArrivesStillCopies)
     QDropEvent drop({20, 10}, both, &data, Qt::NoButton, Qt::NoModifier);
     for (QEvent* pEvent : std::initializer_list<QEvent*>{&enter, &move, &drop})
         QCoreApplication::sendEvent(&Widget(), pEvent);
-    EXPECT_EQ(Qt::MoveAction, enter.dropAction());
     EXPECT_EQ(Qt::CopyAction, move.dropAction());
     EXPECT_EQ(Qt::CopyAction, drop.dropAction());
 }

@@ -1,5 +1,4 @@
 #include "Toolkit/window/MessageBox.h"
-#include "Toolkit/window/WaitCursor.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>
@@ -20,19 +19,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(QueueTest, TheWaitCursorLetsNothingHappenInBetween)
-{
-    bool bHappened = false;
-    toolkit::PostTask([&bHappened] { bHappened = true; });
-    {
-        const CWaitCursor wait;
-        EXPECT_EQ(Qt::WaitCursor, Widget().cursor().shape());
-        EXPECT_FALSE(bHappened);
-    }
-    EXPECT_EQ(Qt::ArrowCursor, Widget().cursor().shape());
-    EXPECT_TRUE(RunUntil([&bHappened] { return bHappened; }));
-}
 
 TEST_F(QueueTest, TasksFromOtherThreadsRunOnTheUserInterfaceThreadInOrder)
 {

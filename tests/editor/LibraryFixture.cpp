@@ -12,20 +12,6 @@ using editor::Pictogram;
 namespace
 {
 
-template <class Object>
-std::string ReadName(Object* pObject, BOOL (Object::*read)(char*, DWORD*))
-{
-    DWORD length = 0;
-    if (!(pObject->*read)(nullptr, &length))
-        return "?";
-    std::string name(length, '?');
-    if (!(pObject->*read)(name.data(), &length))
-        return "?";
-    EXPECT_EQ('\0', name.back());
-    name.pop_back();
-    return name;
-}
-
 bool AreSame(const toolkit::Surface& a, const toolkit::Surface& b)
 {
     return a.Bounds() == b.Bounds() && std::equal(a.Row(0), a.Row(0) + a.Width() * a.Height(), b.Row(0));
@@ -102,13 +88,14 @@ CStubRef<IAtom> LibraryTest::At(IAtomContainer* pIn, UINT nPlace)
 
 std::string LibraryTest::Name(IAtom* pAtom)
 {
-    return ReadName(pAtom, &IAtom::GetName);
-}
-
-std::string LibraryTest::ShownName(IAtom* pAtom)
-{
-    const auto pDisp = CStubRef<IDispAtom>::From(pAtom);
-    return pDisp ? ReadName(pDisp.Get(), &IDispAtom::GetDisplayName) : Name(pAtom);
+    DWORD length = 0;
+    if (!pAtom->GetName(nullptr, &length))
+        return "?";
+    std::string name(length, '?');
+    EXPECT_TRUE(pAtom->GetName(name.data(), &length));
+    EXPECT_EQ('\0', name.back());
+    name.pop_back();
+    return name;
 }
 
 std::string LibraryTest::Error(IAtom* pAtom)

@@ -26,7 +26,6 @@ protected:
     CStubRef<IAtom> Find(const char* pszName) { return Find(Library(), pszName); }
     static CStubRef<IAtom> At(IAtomContainer* pIn, UINT nPlace);
     static std::string Name(IAtom* pAtom);
-    static std::string ShownName(IAtom* pAtom);
     static std::string Error(IAtom* pAtom); // empty without one
     // Of an icon 48 pixels wide: what is in its middle, or "folder", "phase", "broken", "none yet".
     static std::string Icon(IAtom* pAtom);

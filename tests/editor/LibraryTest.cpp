@@ -17,7 +17,8 @@ TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
     EXPECT_EQ("[]", Members("Ada"));
     EXPECT_FALSE(Find("readme.txt"));
     EXPECT_FALSE(Find("BALL.BMP"));
-    EXPECT_EQ("Zo\xEF\xBF\xBD\xEF\xBF\xBD.bmp", ShownName(Find("Zo\xEB\n.bmp").Get())) << "replaced for the eye only";
+    EXPECT_EQ("Zo\xEF\xBF\xBD\xEF\xBF\xBD.bmp", editor::CMember::Of(Find("Zo\xEB\n.bmp").Get())->ShownName())
+        << "replaced for the eye only";
 }
 
 TEST_F(LibraryTest, GetAtomsFillsEverySlotAndABufferThatIsTooSmallForANameIsNotWrittenTo)

@@ -39,11 +39,6 @@ void TempFolder::Make(const std::string& paths) const
         path.back() == '/' ? MakeFolder(path) : WriteBmp(path);
 }
 
-void TempFolder::MakeFolder(const std::string& name) const
-{
-    fs::create_directories(At(name));
-}
-
 void TempFolder::Write(const std::string& name, const std::string& bytes) const
 {
     fs::create_directories(fs::path(At(name)).parent_path());
@@ -83,14 +78,4 @@ void TempFolder::MakeEmptyFiles(int count, const char* pszPattern) const
             throw std::runtime_error("an empty file could not be made");
     }
     close(dir);
-}
-
-void TempFolder::Link(const std::string& name, const std::string& target) const
-{
-    fs::create_symlink(target, At(name));
-}
-
-void TempFolder::Remove(const std::string& name) const
-{
-    fs::remove_all(At(name));
 }

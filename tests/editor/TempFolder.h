@@ -18,7 +18,7 @@ public:
 
     // Folders and small BMP pictures, with what they lie in: "Ada/Poses/ Ada/a.bmp b.bmp". No name holds a blank.
     void Make(const std::string& paths) const;
-    void MakeFolder(const std::string& name) const;
+    void MakeFolder(const std::string& name) const { std::filesystem::create_directories(At(name)); }
     void Write(const std::string& name, const std::string& bytes) const;
     void WriteBmp(const std::string& name, int width = 8, int height = 8, unsigned color = 0xFF3080C0) const;
     std::string Read(const std::string& name) const { return ReadFile(At(name)); }
@@ -26,8 +26,8 @@ public:
     // All there is, hidden files too, in the order of the names: "Ada/ Ada/a.bmp b.bmp".
     std::string Everything() const;
     void MakeEmptyFiles(int count, const char* pszPattern) const; // a printf pattern with one number
-    void Link(const std::string& name, const std::string& target) const;
-    void Remove(const std::string& name) const;
+    void Link(const std::string& name, const std::string& to) const { std::filesystem::create_symlink(to, At(name)); }
+    void Remove(const std::string& name) const { std::filesystem::remove_all(At(name)); }
 
 private:
     std::string m_path;
