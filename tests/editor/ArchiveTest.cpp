@@ -1,6 +1,5 @@
 #include "Editor/archive/ArchiveReader.h"
 #include "Editor/services/LeftTransfers.h"
-#include "Kernel/Kernel.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
 #include "fuzz/ArchiveCheck.h"
@@ -139,11 +138,6 @@ TEST_F(ArchiveTest, WhatCannotBeCarriedIsNamedAndNothingIsCarriedWithoutConsent)
 
     EXPECT_EQ("Bo/self: a link to a folder that holds it", CopyError("", {"Bo"}));
     EXPECT_EQ("Ada/Poses/pipe: neither a file nor a folder (and 1 more)", CopyError("", {"Ada", "Bo"}));
-    EXPECT_TRUE(editor.CanLeaveOut());
-    {
-        const editor::CAtomEditor::LeavingOut agreed(editor);
-        EXPECT_EQ("[Ada Bo]", Read(Copy("", {"Ada", "Bo"})));
-    }
     EXPECT_NE(std::string::npos, CopyError("", {"maze"}).find(": one of too many links to folders that are carried"));
     EXPECT_EQ("", CopyError("maze", {"w", "x", "y", "z"}));
     const auto pGone = Find("gone.bmp");

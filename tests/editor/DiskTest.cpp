@@ -1,9 +1,7 @@
-#include "Editor/disk/FileNames.h"
 #include "Editor/disk/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
 
 #include <fcntl.h>
-#include <set>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -104,19 +102,6 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ(0, utimensat(AT_FDCWD, folder.Path().c_str(), clockStandsStill, 0));
     EXPECT_EQ("free (2).bmp", ValidName("free.bmp"));
     EXPECT_EQ("Walk (7).bmp", ValidName("Walk (7).bmp"));
-}
-
-TEST(FileNamesTest, TheNextOfManyNamesakesIsFoundInAFewSteps)
-{
-    std::set<std::string, std::less<>> taken{"a.bmp"};
-    int nAsked = 0, nKnown = 0;
-    const auto isTaken = [&](std::string_view name) { return ++nAsked, taken.contains(name); };
-    for (int i = 2; i <= 330; ++i) {
-        const std::string name = i <= 300 ? editor::NameForCopy("a.bmp", ".bmp", isTaken, nKnown)
-                                          : editor::AnyNameForCopy("a.bmp", ".bmp", isTaken);
-        EXPECT_EQ("a (" + std::to_string(i) + ").bmp", *taken.insert(name).first);
-    }
-    EXPECT_GT(3 * 300 + 30 * 30, nAsked);
 }
 
 TEST_F(DiskTest, ANameThatIsTakenBetweenChoosingAndAddingIsChosenAnew)

@@ -189,21 +189,6 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ("[a (2).bmp a (3).bmp a.bmp b.bmp *c.bmp]", Rows());
 }
 
-TEST_F(DragTest, APictureDraggedOntoAPhaseStaysWhereItIs)
-{
-    folder.Write("Ada/walk.phase", "");
-    Open();
-    DoubleClick("Ada");
-    DoubleClick("walk.phase");
-    Drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { desktop.Key(VK_ESCAPE); });
-    Tree().Expand(Tree().GetSelectedItem(), TVE_EXPAND);
-    Click("a.bmp");
-    Drag(List(), PlaceOf("a.bmp"), [&] { DropOnList(PlaceOf("walk.phase")); });
-    EXPECT_EQ(DROPEFFECT_COPY, desktop.DragEffect());
-    EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
-    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/walk.phase Bo/", folder.Everything());
-}
-
 TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
 {
     folder.Write("Bo/Poses/walk.phase", "#delay 80\n");

@@ -80,21 +80,6 @@ TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
     EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
 }
 
-TEST_F(EditorTest, APictureThatCannotBeReadSaysWhy)
-{
-    folder.Write("bad.bmp", "no picture");
-    folder.Write("story.phase", "lost.bmp\n");
-    Open();
-    DoubleClick("bad.bmp");
-    EXPECT_EQ("/bad.bmp/ | picture |  | ! bad.bmp: not a BMP picture", Screen());
-    EXPECT_NE(toolkit::ToPixel(editor::CalmColor()), MiddleOf(Picture()));
-    desktop.Key(VK_BACK);
-    EXPECT_EQ("/ | [(*bad.bmp) story.phase] | 2 objects, 1 selected | ! bad.bmp: not a BMP picture", Screen());
-    DoubleClick("story.phase");
-    DoubleClick("lost.bmp");
-    EXPECT_EQ("/story.phase/lost.bmp/ | picture |  | ! lost.bmp: no such file or directory", Screen());
-}
-
 TEST_F(EditorTest, AFolderThatIsEmptyOrCannotBeOpenedSaysSoInTheListsPlace)
 {
     folder.Make("Ada/");

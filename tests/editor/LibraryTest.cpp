@@ -93,14 +93,11 @@ TEST_F(LibraryTest, APhaseThatCannotBeReadSaysWhyAndIsEmpty)
     folder.MakeFolder("folder.phase");
     folder.Link("gone.phase", "nowhere");
     EXPECT_EQ("[binary.phase> folder.phase/ gone.phase> huge.phase>]", Open());
-
-    const std::pair<const char*, const char*> errors[] = {{"binary.phase", "not a text"},
-                                                          {"gone.phase", "no such file or directory"},
-                                                          {"huge.phase", "too large for a phase"}};
-    for (const auto& [pszName, pszReason] : errors) {
-        const auto pPhase = Container(pszName);
+    for (const char* const pszError :
+         {"binary.phase: not a text", "gone.phase: no such file or directory", "huge.phase: too large for a phase"}) {
+        const auto pPhase = Container(std::string(pszError).substr(0, std::string(pszError).find(':')));
         EXPECT_EQ(0u, pPhase->GetCount());
-        EXPECT_EQ(std::string(pszName) + ": " + pszReason, Error(pPhase.Get()));
+        EXPECT_EQ(pszError, Error(pPhase.Get()));
     }
 }
 
