@@ -1,7 +1,9 @@
+#include "Editor/disk/FileNames.h"
 #include "Editor/disk/TempEntry.h"
 #include "tests/editor/ArchiveFixture.h"
 
 #include <fcntl.h>
+#include <set>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -61,6 +63,9 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     EXPECT_EQ(0440u, status.st_mode & 07777) << "a private picture stays private";
     stat(folder.At("Bo/Poses").c_str(), &status);
     EXPECT_EQ(0750u, status.st_mode & 07777);
+    folder.Remove("Bo/a.bmp"); // nobody has heard of it
+    EXPECT_EQ("", CopyTo("Ada", {"a.bmp"}, "Bo", true));
+    EXPECT_EQ("[Poses/ a.bmp]", Members("Bo")) << "once";
 }
 
 TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
@@ -102,6 +107,19 @@ TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
     EXPECT_EQ(0, utimensat(AT_FDCWD, folder.Path().c_str(), clockStandsStill, 0));
     EXPECT_EQ("free (2).bmp", ValidName("free.bmp"));
     EXPECT_EQ("Walk (7).bmp", ValidName("Walk (7).bmp"));
+}
+
+TEST(FileNamesTest, TheNextOfManyNamesakesIsFoundInAFewSteps)
+{
+    std::set<std::string, std::less<>> taken{"a.bmp"};
+    int nAsked = 0, nKnown = 0;
+    const auto isTaken = [&](std::string_view name) { return ++nAsked, taken.contains(name); };
+    for (int i = 2; i <= 330; ++i) {
+        const std::string name = i <= 300 ? editor::NameForCopy("a.bmp", ".bmp", isTaken, nKnown)
+                                          : editor::AnyNameForCopy("a.bmp", ".bmp", isTaken);
+        EXPECT_EQ("a (" + std::to_string(i) + ").bmp", *taken.insert(name).first);
+    }
+    EXPECT_GT(3 * 300 + 30 * 30, nAsked);
 }
 
 TEST_F(DiskTest, ANameThatIsTakenBetweenChoosingAndAddingIsChosenAnew)
@@ -296,6 +314,8 @@ TEST_F(DiskTest, ManyMembersComeAndGoAndAllAreFoundUnderTheirNames)
         const bool bGone = pAtom->GetID() % 2;
         EXPECT_EQ(bGone ? nullptr : pAtom.Get(), Find(pAda.Get(), Name(pAtom.Get()).c_str()).Get());
         EXPECT_EQ(!bGone, pAda->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE);
+        EXPECT_EQ(!bGone, pAda->GetPermissions(pAtom.Get()) != 0);
+        EXPECT_TRUE(!bGone || !pAda->RemoveAtom(pAtom.Get()));
     }
 }
 
