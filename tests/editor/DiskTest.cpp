@@ -36,6 +36,7 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     folder.Link("Ada/Poses/link.bmp", "../a.bmp");
     folder.Link("Ada/Poses/nowhere.bmp", "../there/was one.bmp");
     folder.Write("Ada/Poses/aux.h", "what other systems call devices");
+    folder.Write("Ada/aux.bmp", "as they may be called here");
     folder.Write("Ada/Poses/back\\slash.bmp", "and separators");
     folder.Write("Ada/Poses/.views-new-ideas", "no file in the making");
     folder.MakeFolder("Bo");
@@ -45,6 +46,7 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     chmod(folder.At("Ada/Poses").c_str(), 0550);
     Open();
 
+    const auto pBo = Container("Bo");
     const mode_t former = umask(022);
     EXPECT_EQ("", CopyTo("Ada", {"Poses", "a.bmp"}, "Bo"));
     umask(former);
@@ -64,8 +66,8 @@ TEST_F(DiskTest, CopiesAreTheOriginalsByteForByteWithAllThatIsInThem)
     stat(folder.At("Bo/Poses").c_str(), &status);
     EXPECT_EQ(0750u, status.st_mode & 07777);
     folder.Remove("Bo/a.bmp"); // nobody has heard of it
-    EXPECT_EQ("", CopyTo("Ada", {"a.bmp"}, "Bo", true));
-    EXPECT_EQ("[Poses/ a.bmp]", Members("Bo")) << "once";
+    EXPECT_EQ("", CopyTo("Ada", {"a.bmp", "aux.bmp"}, "Bo", true));
+    EXPECT_EQ("[Poses/ a.bmp aux.bmp]", Members("Bo")) << "once";
 }
 
 TEST_F(DiskTest, CopiesAreCalledAsAPersonWould)
