@@ -244,52 +244,6 @@ TEST_F(DragTest, ADragThatIsCancelledOrRefusedTakesNothingAway)
     EXPECT_FALSE(desktop.IsDragging());
 }
 
-TEST_F(DragTest, ADragEndsCleanlyWhateverIsDestroyedUnderIt)
-{
-    // The view that it came from: what it dragged is moved all the same.
-    DragRow(0, [&] {
-        list->DestroyWindow();
-        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
-        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
-    });
-    EXPECT_EQ("b c / d a", Members(pBox) + " / " + Members(pBag));
-    DragItem(pBag, [&] {
-        tree->DestroyWindow();
-        desktop.Release(frame.m_hWnd, {5, 5});
-    });
-
-    // The view that it is over, also while that asks the host, and while it pastes.
-    for (const char* pszCall : {"", "permits b", "adds b as b"}) {
-        tree.reset();
-        MakeViews();
-        const CPoint at = ItemPoint(pBag);
-        DragRow(0, [&] {
-            desktop.MoveTo(tree->m_hWnd, at);
-            desktop.MoveTo(tree->m_hWnd, at + CPoint(1, 0));
-            if (!*pszCall)
-                tree->DestroyWindow();
-            pBag->onCall = [&](const std::string& strCall) {
-                if (strCall == pszCall)
-                    tree->DestroyWindow();
-            };
-            desktop.Release(frame.m_hWnd, {400 + at.x + 3, at.y + 3});
-        });
-        pBag->onCall = nullptr;
-        EXPECT_FALSE(tree->m_hWnd) << pszCall;
-        EXPECT_FALSE(desktop.IsDragging());
-    }
-
-    // The atoms themselves.
-    MakeViews();
-    DragRow(0, [&] {
-        pBox->Remove(pBox->members.front().Get());
-        list->OnDeleteAtom(nullptr, pBox);
-        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
-        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
-    });
-    EXPECT_FALSE(desktop.IsDragging());
-}
-
 TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
 {
     editor.hMain = field.m_hWnd;
@@ -314,24 +268,6 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
     tree->Create(&frame);
     tree->SendMessage(WM_CONTEXTMENU, 0, -1);
     EXPECT_EQ(Ledger(), desktop.TakeMenus());
-}
-
-TEST_F(DragTest, TheRightButtonSelectsInATreeThatHasTheFocus)
-{
-    tree->SetFocus();
-    tree->SelectItem(tree->GetItem(world.Get()));
-    desktop.Click(tree->m_hWnd, ItemPoint(pBag), toolkit::MouseButton::Right);
-    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
-    desktop.Click(tree->m_hWnd, ItemPoint(pBox) + CPoint(150, 0), toolkit::MouseButton::Right); // beside the label
-    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
-
-    field.SetFocus();
-    editor.active = CStubRef<IAtom>::Share(pBag);
-    editor.Veto(&IAEStateHandler::PreSaveAtom);
-    world->isLibrary = true;
-    desktop.Click(tree->m_hWnd, ItemPoint(pBox), toolkit::MouseButton::Right);
-    EXPECT_TRUE(HasFocus(field));
-    EXPECT_EQ(tree->GetItem(pBag), tree->GetSelectedItem());
 }
 
 } // namespace

@@ -52,25 +52,6 @@ TEST_F(LabelEditTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
     EXPECT_EQ("world! [*box! [b c x] sack]", tree->State());
 }
 
-TEST_F(LabelEditTest, TheAtomsOwnNameIsEditedWhateverItsLabelShows)
-{
-    world->permissions = APF_RENAME;
-    for (FakeAtom* pAtom : std::initializer_list<FakeAtom*>{pBox->Named("a"), pBag}) {
-        pAtom->displayName = "shown";
-        pAtom->isModified = true;
-        const bool bList = pAtom != pBag;
-        list->OnChangeAtom(pAtom, nullptr);
-        ASSERT_TRUE(bList ? EditRow(0) : EditItem(pAtom));
-        const HWND hField = bList ? list->GetEditControl() : tree->GetEditControl();
-        EXPECT_EQ(pAtom->name, ::GetWindowText(hField).GetString());
-        if (!bList)
-            desktop.Type("x");
-        desktop.Key(bList ? VK_RETURN : VK_ESCAPE); // as it is
-        EXPECT_EQ(0, std::ranges::count_if(editor.TakeLedger(), [](auto& s) { return s.starts_with("nobody"); }));
-    }
-    EXPECT_EQ("a b c", Members(pBox));
-}
-
 TEST_F(LabelEditTest, NothingIsEditedThatMayNotBeRenamed)
 {
     pBox->permissionsFor["a"] = APF_ACCEPT;
@@ -105,48 +86,6 @@ TEST_F(LabelEditTest, NothingIsEditedThatMayNotBeRenamed)
     tree.reset();
     MakeViews(true);
     EXPECT_FALSE(EditItem(pBag));
-}
-
-TEST_F(LabelEditTest, ANameGoesToTheAtomItWasMeantForHoweverRowsMove)
-{
-    ASSERT_TRUE(EditRow(2));
-    const AtomRef pRemoved = pBox->Remove(pBox->Named("a"));
-    list->OnDeleteAtom(pRemoved.Get(), pBox);
-    list->OnCreateAtom(pBox->Add("0"), pBox);
-    EXPECT_EQ(1, std::ranges::count(Enter("x"), "box renames c to x"));
-    EXPECT_EQ("b 0 x", Members(pBox));
-
-    ASSERT_TRUE(EditRow(0)); // the atom itself goes: no name is wanted any more
-    const AtomRef pEdited = pBox->Remove(pBox->Named("b"));
-    list->OnDeleteAtom(pEdited.Get(), pBox);
-    EXPECT_EQ(nullptr, list->GetEditControl());
-    EXPECT_EQ(Ledger(), Enter("y"));
-
-    ASSERT_TRUE(EditRow(0));
-    list->SetRootAtom(pBag);
-    EXPECT_EQ(nullptr, list->GetEditControl());
-    EXPECT_EQ(Ledger(), Enter("z"));
-    EXPECT_EQ("0 x / d", Members(pBox) + " / " + Members(pBag));
-}
-
-TEST_F(LabelEditTest, WhatIsTypedIsTakenThoughTheNameHasChangedMeanwhileAndAFieldLeftAsItIsUndoesNothing)
-{
-    world->permissions = APF_RENAME;
-    for (const char* pszTyped : {"", "x"}) {
-        list->SetRootAtom(pBox); // it follows the tree
-        ASSERT_TRUE(EditRow(1));
-        FakeAtom* const pAtom = pBox->members[1].Get();
-        pAtom->name += "!";
-        list->OnChangeAtom(pAtom, pBox);
-        EXPECT_EQ(*pszTyped ? 1 : 0, std::ranges::count(Enter(pszTyped), "box renames b!! to x"));
-        EXPECT_EQ(*pszTyped ? "a c x" : "a b! c", Members(pBox));
-
-        ASSERT_TRUE(EditItem(pBag));
-        pBag->name += "!";
-        tree->OnChangeAtom(pBag, world.Get());
-        Enter(pszTyped);
-        EXPECT_EQ(*pszTyped ? "box x" : "box bag!", Members(world.Get()));
-    }
 }
 
 // The focus leaves the field then, which takes the name as it does everywhere.

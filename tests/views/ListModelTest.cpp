@@ -1,6 +1,9 @@
 // The list as a window, its rows and what it remembers of them.
 #include "tests/support/AllocationFailures.h"
 #include "tests/views/ListTest.h"
+#include "tests/views/TreeTest.h"
+
+#include <algorithm>
 
 namespace
 {
@@ -35,26 +38,6 @@ TEST_F(ListModelTest, ACreatedListIsARegisteredHiddenChildThatIsAnEmptyComponent
     list.DestroyWindow();
     EXPECT_EQ(Ledger({"list unregisters"}), editor.TakeLedger());
     EXPECT_EQ(Ledger({"clear"}), TakeHooks());
-}
-
-TEST_F(ListModelTest, EnteringAContainerShowsItsMembersAndThePaneOnce)
-{
-    FakeContainer* const pBox = MakeBox({"b", "a"});
-    ProbeList& list = MakeList({});
-    EXPECT_TRUE(list.SetRootAtom(pBox));
-    list.OnAtomEntered(world.Get(), nullptr);
-    EXPECT_EQ("[box]", list.State());
-    list.OnAtomEntered(pBox, world.Get());
-    EXPECT_EQ("[a b]", list.State());
-    EXPECT_EQ(Ledger({"list registers", "pane 1 \"Icons\" with icon"}), editor.TakeLedger());
-    EXPECT_EQ(1, pBox->CountReferences() - 1); // the view holds one, to its container only
-
-    list.OnAtomEntered(pBox->Named("a"), pBox);
-    EXPECT_EQ("[]", list.State());
-    list.OnAtomEntered(nullptr, nullptr);
-    EXPECT_EQ(Ledger({"no pane 1"}), editor.TakeLedger());
-    list.OnAtomEntered(pBox, world.Get());
-    EXPECT_EQ(Ledger({"pane 1 \"Icons\" with icon"}), editor.TakeLedger());
 }
 
 TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
@@ -203,21 +186,38 @@ TEST_F(ListModelTest, WhereverMemoryRunsOutTheRowsStayInStep)
     FailEveryAllocation([&] { list.SetRootAtom(pBox); }, check);
 }
 
-TEST_F(ListModelTest, ADoubleClickOpensTheRowInEveryView)
+TEST_F(ListModelTest, AViewWhoseWindowGoesWhileItJoinsTheEditorOrForWantOfMemoryIsNotRegistered)
 {
-    FakeContainer* const pBox = MakeBox({"a", "b"});
-    ProbeList& list = ShowList(world.Get());
-    ProbeList& other = ShowList(world.Get(), {.x = 400, .name = "other"});
-    desktop.DoubleClick(list.m_hWnd, EmptyPoint(list));
-    editor.TakeLedger();
-    desktop.DoubleClick(list.m_hWnd, PointOf(list, 0));
-    EXPECT_EQ("nobody tells OnAtomEntered(box in world)", editor.TakeLedger().back());
-    EXPECT_EQ("a b", list.Names());
-    EXPECT_EQ("a b", other.Names());
-
-    desktop.DoubleClick(list.m_hWnd, PointOf(list, 1)); // not a container
-    EXPECT_EQ("[]", list.State());
-    EXPECT_EQ(1, pBox->CountReferences());
+    resources.AddBitmap(1013, toolkit::Surface(CSize(32, 16), 0xFFFFFF00));
+    resources.AddString(57357, "Libraries");
+    resources.AddIcon(1007, toolkit::Surface(CSize(16, 16), 0xFF0000FF));
+    resources.AddBitmap(1011, toolkit::Surface(CSize(16, 16), 0xFFFFFF00));
+    FakeContainer* const pBox = MakeBox({"a"});
+    const auto check = [&](auto&& view, int nJoin) {
+        editor.onJoin = [&] {
+            if (--nJoin == 0)
+                view.DestroyWindow();
+        };
+        if (view.Create(&frame))
+            view.SetRootAtom(pBox);
+        editor.onJoin = nullptr;
+        EXPECT_EQ(nullptr, view.m_hWnd);
+        EXPECT_EQ(0, editor.CountHandlers());
+        FailEveryAllocation([&] { view.Create(&frame) && view.SetRootAtom(pBox); }, // and nothing is thrown
+                            [&] {
+                                view.DestroyWindow();
+                                EXPECT_EQ(0, editor.CountHandlers());
+                            });
+    };
+    for (const int nJoin : {1, 2}) {
+        check(CThumbList(), nJoin);
+        check(ProbeList(hooks, FALSE), nJoin);
+        check(ProbeTree(FALSE), nJoin);
+    }
+    const Ledger told = editor.TakeLedger();
+    for (const char* pszPane : {"pane 0 \"Libraries\"", "pane 1 \"Icons\""}) // the icon fails for itself
+        EXPECT_NE(0, std::ranges::count(told, pszPane));
+    desktop.TakeMessageBoxes();
 }
 
 } // namespace

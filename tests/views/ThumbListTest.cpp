@@ -164,28 +164,6 @@ TEST_F(ThumbListTest, WithoutTheHostsBitmapsPicturesAreBlankAndNeverAnotherRows)
     resources.Join();
 }
 
-TEST_F(ThumbListTest, ImagesOfRowsThatLeftArePaintedOverTheOldestFirst)
-{
-    CThumbList& list = MakeHidden();
-    Hint(list, 0, 1);
-    EXPECT_EQ(1, list.OnChangeAtom(b, nullptr));
-    EXPECT_EQ(1, list.OnChangeAtom(a, nullptr));
-    for (const int nRow : {2, 0, 3})
-        Hint(list, nRow, nRow);
-    EXPECT_EQ("a 1, , c 2, d 3", Shown(list, 0, 3));
-    EXPECT_EQ("", ImageDifference(list, 2, kFolderFills));
-    list.SetRootAtom(box);
-    Hint(list, 0, 3);
-    EXPECT_EQ(5, CountImages(list)) << "one more than before, for b";
-
-    list.DestroyWindow(); // a new window begins with its folder picture alone
-    ASSERT_TRUE(list.Create(&frame));
-    EXPECT_EQ(1, CountImages(list));
-    list.SetRootAtom(box);
-    Hint(list, 0, 0);
-    EXPECT_EQ("a 1", Shown(list, 0));
-}
-
 TEST_F(ThumbListTest, WhereMemoryRunsOutARowHasNoPictureOrTheFolderAndTheNextOneItsOwn)
 {
     CThumbList& list = MakeHidden();

@@ -110,36 +110,4 @@ TEST_F(TreeDisplayTest, AtomsWithoutAnIconShowAFolderThatIsOpenWhileItsItemIs)
     EXPECT_EQ(-7, Ask(tree, box, TVIF_SELECTEDIMAGE).iSelectedImage);
 }
 
-TEST_F(TreeDisplayTest, IconsAreLentToItemsThatAreShown)
-{
-    AddIcon(box, "i");
-    FakeContainer* const pLast = MakeBox("last", {});
-    for (const char* pszName : {"l", "m", "n"})
-        AddIcon(pLast, pszName);
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ(Ledger({"icon i at -1", "icon l at -1", "icon m at -1", "icon n at -1"}), TakeIcons());
-
-    tree.Expand(tree.GetItem(box), TVE_COLLAPSE);
-    tree.OnCreateAtom(AddIcon(pLast, "o"), pLast);
-    desktop.Run();
-    EXPECT_EQ(Ledger({"icon o at 2"}), TakeIcons());
-    tree.OnChangeAtom(pLast->Named("m"), pLast);
-    EXPECT_EQ(Ledger({"icon m at 4"}), TakeIcons());
-    Remove(tree, pLast->Named("n"));
-    Expand(tree, box);
-    desktop.Run();
-    EXPECT_EQ(Ledger({"icon i at 5"}), TakeIcons());
-    EXPECT_EQ(5, Ask(tree, box->Named("i"), TVIF_IMAGE).iImage);
-
-    tree.OnCreateAtom(AddIcon(pLast, "k"), pLast);
-    Select(tree, box->Named("i"));
-    EXPECT_EQ(Ledger({"icon k at -1"}), TakeIcons());
-    editor.onNotify = [&](AEStateOperation operation, IAtom*) {
-        if (operation == &IAEStateHandler::OnAtomDeselected)
-            tree.OnCreateAtom(AddIcon(pLast, "p"), pLast), tree.UpdateWindow();
-    };
-    tree.Expand(tree.GetItem(box), TVE_COLLAPSE); // hides what is selected: already as that is told
-    EXPECT_EQ(Ledger({"icon p at 5"}), TakeIcons());
-}
-
 } // namespace

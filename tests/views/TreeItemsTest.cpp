@@ -20,49 +20,6 @@ TEST_F(TreeItemsTest, ATreeShowsItsPaneAndRegistersUntilItGoes)
     EXPECT_EQ(Ledger({"tree unregisters", "tree registers", "tree unregisters"}), editor.TakeLedger());
 }
 
-TEST_F(TreeItemsTest, AnAnnouncedAtomBringsItsSubtreeToWhereItsContainerIsShown)
-{
-    MakeBox("second", {"c", "A", "b"})->Add(new FakeContainer("empty"));
-    MakeBox("First", {"x"});
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ("world [First [x] second [A b c empty]]", tree.State());
-
-    const auto pHidden = ContainerRef::Adopt(new FakeContainer("hidden"));
-    FakeAtom* const pMember = pHidden->Add("member");
-    EXPECT_FALSE(tree.OnCreateAtom(pMember, pHidden.Get()));
-    EXPECT_FALSE(tree.OnCreateAtom(nullptr, world.Get()));
-    EXPECT_EQ(nullptr, tree.GetItem(pMember));
-    EXPECT_EQ(1, pMember->CountReferences());
-    EXPECT_TRUE(tree.OnCreateAtom(pMember, nullptr));
-    EXPECT_EQ("member world [First [x] second [A b c empty]]", tree.State());
-}
-
-TEST_F(TreeItemsTest, RemovingTakesWhatIsBelowAndSynchronisingOnlyWhatIsNoMember)
-{
-    FakeContainer* const pBox = MakeBox("box", {"a", "b"});
-    FakeContainer* const pOther = MakeBox("other", {"c", "d"});
-    ProbeTree& tree = ShowTree();
-    const auto pHidden = ContainerRef::Adopt(new FakeContainer("hidden"));
-    tree.OnDeleteAtom(pBox, pHidden.Get());
-    tree.OnDeleteAtom(pHidden.Get(), world.Get());
-    tree.OnDeleteAtom(nullptr, pHidden.Get());
-    tree.OnDeleteAtom(nullptr, nullptr);
-    EXPECT_EQ("world [box [a b] other [c d]]", tree.State());
-
-    const AtomRef pRemoved = pOther->Remove(pOther->Named("c"));
-    pOther->Add("new");
-    tree.OnDeleteAtom(nullptr, pOther);
-    EXPECT_EQ("world [box [a b] other [d]]", tree.State());
-    Remove(tree, pBox);
-    EXPECT_EQ("world [other [d]]", tree.State());
-    EXPECT_EQ(nullptr, tree.GetItem(pBox->Named("a")));
-    EXPECT_EQ(1, pBox->Named("a")->CountReferences());
-    EXPECT_EQ(1, pBox->CountReferences());
-    world->Remove(pOther);
-    tree.OnDeleteAtom(nullptr, world.Get());
-    EXPECT_EQ("world", tree.State());
-}
-
 TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCounts)
 {
     FakeContainer* const pBox = MakeBox("box", {"a", "b"});
