@@ -33,17 +33,6 @@ protected:
     static int Compare1(IAtom* a, IAtom* b) { return ProbeList::CompareFunc1(&a, &b); }
 };
 
-TEST_F(ListOrderTest, NamesAreOrderedWithoutRegardToCaseAndDisplayNamesDoNotCount)
-{
-    FakeContainer* const pBox = MakeBox({"b", "C", "a", "B2", "Äpfel", "älter", "zebra"});
-    pBox->Named("a")->displayName = "zz";
-    EXPECT_EQ("a b B2 C zebra älter Äpfel", ShowList(pBox).Names());
-    EXPECT_GT(0, Compare(pBox->Named("a"), pBox->Named("b")));
-    EXPECT_EQ(0, Compare1(pBox->Named("a"), pBox->Named("b")));
-    EXPECT_EQ(1, Compare1(pBox->Named("b"), pBox->Named("a")));
-    EXPECT_EQ(0, Compare1(pBox->Named("b"), pBox->Named("b")));
-}
-
 TEST_F(ListOrderTest, LinksOfOnePhaseAreOrderedByPositionAndAmongOthersByName)
 {
     FakeContainer* const pPhase = MakeBox({"a", "b", "c"});

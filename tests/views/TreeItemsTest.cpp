@@ -1,13 +1,137 @@
-// Items that come and go as the editor announces.
+// Items that come and go as the editor announces, and the selection that it hears of.
 #include "tests/support/AllocationFailures.h"
 #include "tests/views/TreeTest.h"
 
+#include <algorithm>
 #include <set>
 
 namespace
 {
 
-using TreeItemsTest = TreeTest;
+class TreeItemsTest : public TreeTest
+{
+protected:
+    FakeContainer* const box = MakeBox({"a", "b", "c"});
+    FakeAtom* const a = box->Named("a");
+    FakeAtom* const b = box->Named("b");
+};
+
+TEST_F(TreeItemsTest, AClickIsAskedForAndToldAfterTheFocusHasReassertedTheOldSelection)
+{
+    ProbeTree& tree = ShowTree();
+    EXPECT_EQ("world [box [a b c]]", tree.State());
+    Select(tree, a);
+    EXPECT_TRUE(HasFocus(tree));
+    EXPECT_EQ("world! [box! [*a! b c]]", tree.State());
+    field.SetFocus();
+    editor.active = CStubRef<IAtom>::Share(b);
+    Click(tree, b);
+    EXPECT_TRUE(HasFocus(tree));
+    EXPECT_EQ("world! [box! [a *b! c]]", tree.State());
+    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)", "tree asks OnAtomSelecting(a in box)",
+                      "tree tells OnAtomSelected(a in box)", "tree asks OnAtomDeselecting(a in box)",
+                      "tree asks OnAtomSelecting(b in box)", "tree tells OnAtomDeselected(a in box)",
+                      "tree tells OnAtomEntered(b in box)", "tree tells OnAtomSelected(b in box)"}),
+              editor.TakeLedger());
+
+    Remove(tree, b);
+    EXPECT_EQ("world! [box! [a *c!]]", tree.State());
+    tree.OnCreateAtom(box->Add("A2"), box);
+    EXPECT_EQ("world! [box! [a A2 *c!]]", tree.State());
+    EXPECT_FALSE(tree.OnCreateAtom(nullptr, box));
+    field.SetFocus();
+    editor.Uninstall();
+    editor.TakeLedger();
+    Click(tree, a);
+    editor.Install();
+    EXPECT_EQ("world! [box! [*a! A2 c]]", tree.State());
+    EXPECT_EQ(Ledger(), editor.TakeLedger());
+}
+
+TEST_F(TreeItemsTest, TheSelectedAtomIsGivenWithReferencesAloneOrAsTheOneActivePair)
+{
+    ProbeTree& tree = ShowTree();
+    DWORD dwCount = 7;
+    OBJPAIR pair{};
+    EXPECT_FALSE(tree.OnGetActivePairs(&pair, nullptr));
+    EXPECT_FALSE(tree.GetSelectedAtom(nullptr, IID_IAtom));
+    EXPECT_FALSE(tree.OnGetActivePairs(nullptr, &dwCount));
+    EXPECT_TRUE(tree.OnGetActivePairs(&pair, &dwCount));
+    EXPECT_EQ(7u, dwCount);
+    CStubRef<IAtom> pAtom;
+    EXPECT_FALSE(tree.GetSelectedAtom(pAtom.Receive(), IID_IAtom));
+
+    EXPECT_FALSE(tree.SetRootAtom(nullptr));
+    EXPECT_TRUE(tree.SetRootAtom(world.Get()));
+    EXPECT_FALSE(tree.GetSelectedAtom(pAtom.Receive(), IID_IPhase));
+    EXPECT_TRUE(tree.GetSelectedAtom(pAtom.Receive(), IID_IAtom));
+    EXPECT_EQ(static_cast<IAtom*>(world.Get()), pAtom.Get());
+    pair = {CStubRef<IAtom>::Share(b).Detach(), CStubRef<IAtomContainer>::Share(box).Detach()};
+    EXPECT_FALSE(tree.OnGetActivePairs(nullptr, &dwCount));
+    EXPECT_EQ(1u, dwCount);
+    dwCount = 0;
+    EXPECT_TRUE(tree.OnGetActivePairs(&pair, &dwCount)); // which gives up what the slot held
+    EXPECT_EQ(1u, dwCount);
+    EXPECT_EQ(static_cast<IAtom*>(world.Get()), pair.pAtom);
+    EXPECT_EQ(nullptr, pair.pContainer);
+    CStubRef<IAtom>::Adopt(pair.pAtom).Release();
+}
+
+TEST_F(TreeItemsTest, AContainerBelowItselfIsNotShownAgainAndMembersThatVanishArePassedBy)
+{
+    box->nMissing = 3;
+    auto* const pInner = new FakeContainer("inner");
+    box->Add(pInner);
+    pInner->members.push_back(AtomRef::Share(box));
+    pInner->members.push_back(AtomRef::Share(pInner));
+    pInner->Add("x");
+    ProbeTree& tree = ShowTree();
+    EXPECT_FALSE(tree.OnCreateAtom(box, box));
+    EXPECT_FALSE(tree.OnCreateAtom(world.Get(), pInner));
+    EXPECT_EQ("world [box [a b c inner [x]]]", tree.State());
+    Remove(tree, box);
+    EXPECT_EQ("world", tree.State());
+    pInner->members.clear(); // it holds itself
+}
+
+// While a click goes from a to b. What is said of c while the click is only asked for, or the tree hears of b itself
+// after that, does not count.
+TEST_F(TreeItemsTest, AHandlerMayRemoveTheAtomItIsToldAboutOrSelectSomethingElse)
+{
+    using Handler = IAEStateHandler;
+    const struct
+    {
+        AEStateOperation operation;
+        const char *pszWithoutA, *pszWithoutB, *pszSelectingC;
+    } rows[] = {
+        {&Handler::OnAtomDeselecting, "[*b! c]", "[*a! c]", "[a *b! c]"},
+        {&Handler::OnAtomSelecting, "[*b! c]", "[*a! c]", "[a *b! c]"},
+        {&Handler::OnAtomDeselected, "[*b! c]", "[a *c!]", "[a b *c!]"},
+        {&Handler::OnAtomEntered, "[*b! c]", "[a *c!]", "[a *b! c]"},
+        {&Handler::OnAtomSelected, "[*b! c]", "[a *c!]", "[a b *c!]"},
+    };
+    for (const auto& row : rows) {
+        const auto after = [&](const std::function<void(ProbeTree&)>& deed) {
+            ProbeTree& tree = ShowTree();
+            Select(tree, a);
+            editor.onNotify = [&](AEStateOperation told, IAtom*) {
+                if (told == row.operation) {
+                    editor.onNotify = nullptr;
+                    deed(tree);
+                }
+            };
+            Click(tree, b);
+            EXPECT_FALSE(editor.onNotify);
+            const std::string strState = tree.State();
+            tree.DestroyWindow();
+            return strState;
+        };
+        const auto in = [](const std::string& members) { return "world! [box! " + members + "]"; };
+        EXPECT_EQ(in(row.pszWithoutA), after([&](ProbeTree& tree) { Remove(tree, a); }));
+        EXPECT_EQ(in(row.pszWithoutB), after([&](ProbeTree& tree) { Remove(tree, b); }));
+        EXPECT_EQ(in(row.pszSelectingC), after([&](ProbeTree& tree) { tree.OnAtomEntered(box->Named("c"), box); }));
+    }
+}
 
 TEST_F(TreeItemsTest, ATreeShowsItsPaneAndRegistersUntilItGoes)
 {
@@ -22,43 +146,39 @@ TEST_F(TreeItemsTest, ATreeShowsItsPaneAndRegistersUntilItGoes)
 
 TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCounts)
 {
-    FakeContainer* const pBox = MakeBox("box", {"a", "b"});
     ProbeTree& tree = ShowTree();
-    FakeAtom* const a = pBox->Named("a");
     const HTREEITEM hFirst = tree.GetItem(a);
-    EXPECT_TRUE(tree.OnCreateAtom(a, pBox));
-    EXPECT_EQ("world [box [a a b]]", tree.State());
+    EXPECT_TRUE(tree.OnCreateAtom(a, box));
+    EXPECT_EQ("world [box [a a b c]]", tree.State());
     EXPECT_EQ(hFirst, tree.GetPrevSiblingItem(tree.GetItem(a)));
     for (int i = 0; i < 2; ++i) {
         Remove(tree, a);
-        EXPECT_EQ("world [box [a b]]", tree.State());
+        EXPECT_EQ("world [box [a b c]]", tree.State());
         EXPECT_EQ(nullptr, tree.GetItem(a));
     }
-    const AtomRef pRemoved = pBox->Remove(a);
-    tree.OnDeleteAtom(nullptr, pBox);
-    EXPECT_EQ("world [box [b]]", tree.State());
-    EXPECT_EQ(1, a->CountReferences());
+    const AtomRef pRemoved = box->Remove(a);
+    tree.OnDeleteAtom(nullptr, box);
+    EXPECT_EQ("world [box [b c]]", tree.State());
 }
 
 TEST_F(TreeItemsTest, OnDemandMembersComeWhenTheyAreAskedForAndThenOnlyTheNewOnes)
 {
-    FakeContainer* const pBox = MakeBox("box", {"b", "a"});
     FakeContainer* const pOther = MakeBox("other", {});
-    pOther->members.push_back(AtomRef::Share(pBox->Named("a")));
+    pOther->members.push_back(AtomRef::Share(a));
     ProbeTree& tree = MakeTree();
     tree.ShowMembersOnDemand();
     tree.OnCreateAtom(world.Get(), nullptr);
-    EXPECT_FALSE(tree.OnCreateAtom(pBox, world.Get()));
+    EXPECT_FALSE(tree.OnCreateAtom(box, world.Get()));
     EXPECT_EQ("world", tree.State());
-    for (FakeContainer* const pContainer : {static_cast<FakeContainer*>(world.Get()), pBox, pOther})
+    for (FakeContainer* const pContainer : {static_cast<FakeContainer*>(world.Get()), box, pOther})
         EXPECT_TRUE(tree.ShowMembers(pContainer));
-    EXPECT_EQ("world [box [a b] other [a]]", tree.State());
+    EXPECT_EQ("world [box [a b c] other [a]]", tree.State());
 
-    pBox->Add("A new one");
-    EXPECT_TRUE(tree.ShowMembers(pBox)); // though the item that counts for a is the other one
-    EXPECT_EQ("world [box [a A new one b] other [a]]", tree.State());
-    EXPECT_FALSE(tree.ShowMembers(pBox->Named("b")));
-    Remove(tree, pBox);
+    box->Add("A new one");
+    EXPECT_TRUE(tree.ShowMembers(box)); // though the item that counts for a is the other one
+    EXPECT_EQ("world [box [a A new one b c] other [a]]", tree.State());
+    EXPECT_FALSE(tree.ShowMembers(b));
+    Remove(tree, box);
     EXPECT_EQ("world [other]", tree.State());
 }
 
@@ -84,43 +204,37 @@ protected:
 
 TEST_F(TreeItemsTest, TheWindowsEndGivesEverythingBackAndIsNoNewsToAnyone)
 {
-    FakeContainer* const pBox = MakeBox("box", {"a", "b"});
-    FakeAtom* const a = pBox->Named("a");
     ProbeTree& tree = ShowTree();
     const auto pNobody = ContainerRef::Adopt(new NobodysContainer("nobody"));
     const auto pOrphan = AtomRef::Adopt(new FakeAtom("orphan"));
     tree.OnCreateAtom(pOrphan.Get(), pNobody.Get()); // which will never agree to its removal
     tree.OnCreateAtom(world.Get(), nullptr);
-    tree.OnCreateAtom(a, pBox);
-    EXPECT_TRUE(tree.SelectItem(tree.InsertItem("own", tree.GetItem(pBox))));
-    EXPECT_EQ("orphan world [box [a b]] world! [box! [a a b *-!]]", tree.State());
+    tree.OnCreateAtom(a, box);
+    EXPECT_TRUE(tree.SelectItem(tree.InsertItem("own", tree.GetItem(box))));
+    EXPECT_EQ("orphan world [box [a b c]] world! [box! [a a b c *-!]]", tree.State());
     Select(tree, pOrphan.Get());
 
     tree.DestroyWindow();
     EXPECT_EQ(Ledger({"tree unregisters"}), editor.TakeLedger());
-    EXPECT_EQ(1, pOrphan->CountReferences());
-    EXPECT_EQ(1, world->CountReferences());
-    EXPECT_EQ(1, a->CountReferences());
     EXPECT_EQ(nullptr, tree.GetItem(world.Get()));
 }
 
 // Each allocation fails in its turn. What is shown then is whole, and all is given back.
 TEST_F(TreeItemsTest, WithoutMemoryLessIsShownButNothingWrong)
 {
-    FakeContainer* const pBox = MakeBox("box", {"c", "b", "a"});
+    std::ranges::reverse(box->members);
     ProbeTree& tree = MakeTree();
     std::set<std::string> states;
     const auto check = [&] {
         const std::string strState = tree.State();
-        for (const AtomRef& pMember : pBox->members)
+        for (const AtomRef& pMember : box->members)
             EXPECT_EQ(tree.GetItem(pMember.Get()) != nullptr, strState.find(pMember->name, 4) != std::string::npos);
         states.insert(strState);
-        tree.OnDeleteAtom(pBox, nullptr);
+        tree.OnDeleteAtom(box, nullptr);
         EXPECT_EQ("", tree.State());
-        EXPECT_EQ(1, pBox->CountReferences());
-        EXPECT_EQ(1, pBox->Named("a")->CountReferences());
+        EXPECT_EQ(1, box->CountReferences());
     };
-    FailEveryAllocation([&] { tree.OnCreateAtom(pBox, nullptr); }, check);
+    FailEveryAllocation([&] { tree.OnCreateAtom(box, nullptr); }, check);
     EXPECT_EQ((std::set<std::string>{"", "box [a b c]", "box [a c]", "box [b c]"}), states);
     desktop.TakeMessageBoxes();
 }
