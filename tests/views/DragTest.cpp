@@ -1,4 +1,4 @@
-// Dragging atoms out of the views and dropping them on them, by the mouse.
+// Dragging atoms out of the views and dropping them on them, their menus, and renaming in place.
 #include "Toolkit/ole/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/tree/TreeDropTarget.h"
@@ -96,7 +96,7 @@ TEST_F(DragTest, AnItemIsDraggedIntoTheListAndTheEffectFollowsTheCtrlKey)
     EXPECT_EQ("[a b c (*bag)]", list->State());
 }
 
-TEST_F(DragTest, TheListsHighlightFollowsTheDragWhereItWouldBeTaken)
+TEST_F(DragTest, TheHighlightFollowsTheDragWhereItWouldBeTaken)
 {
     list->SetRootAtom(world.Get()); // bag and box are rows now
     world->pLedger = &editor.ledger;
@@ -106,30 +106,21 @@ TEST_F(DragTest, TheListsHighlightFollowsTheDragWhereItWouldBeTaken)
     EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*list, RowPoint(1)));
     EXPECT_EQ(Ledger({"reads", "box permits x", "box finds x", "box -> 2"}),
               MoveOver(*list, RowPoint(1) + CPoint(1, 1)));
-    EXPECT_EQ(Ledger({"reads", "bag permits x", "bag finds x", "bag -> 2"}), MoveOver(*list, RowPoint(0)));
     pBag->permissions = APF_ACCEPTCOPY;
-    EXPECT_EQ("bag -> 1", MoveOver(*list, RowPoint(0) + CPoint(1, 1)).back());
+    EXPECT_EQ("bag -> 1", MoveOver(*list, RowPoint(0)).back());
     pBox->permissions = 0;
     EXPECT_EQ(Ledger({"reads", "box permits x", "-> 0"}), MoveOver(*list, RowPoint(1)));
     MoveOver(*list, RowPoint(0));
-    EXPECT_EQ("bag -> 1", Hover());
     world->permissions = 0;
     EXPECT_EQ(Ledger({"reads", "world permits x", "bag -> 0"}), MoveOver(*list, EmptyPoint())); // kept: refused
     world->permissions = APF_ACCEPTCOPY;
     EXPECT_EQ(Ledger({"reads", "world permits x", "world finds x", "-> 2"}),
               MoveOver(*list, EmptyPoint() + CPoint(1, 1)));
-    MoveOver(*list, RowPoint(0));
-    desktop.Release(list->m_hWnd, RowPoint(0));
-    EXPECT_EQ("x", pBag->members.back()->name);
-    EXPECT_EQ("-> 1", Hover());
-}
 
-TEST_F(DragTest, TheTreesHighlightFollowsTheDragFromItemToItem)
-{
-    DragIn("x\n");
+    pBox->permissions = pBag->permissions = APF_ACCEPT;
+    world->permissions = 0;
     MoveOver(*tree, ItemPoint(pBox));
     EXPECT_EQ("box -> 2", MoveOver(*tree, ItemPoint(pBox) + CPoint(1, 0)).back());
-    EXPECT_EQ("bag -> 2", MoveOver(*tree, ItemPoint(pBag)).back());
     EXPECT_EQ("-> 0", MoveOver(*tree, ItemPoint(world.Get())).back());
     EXPECT_EQ("bag -> 2", MoveOver(*tree, ItemPoint(pBag)).back());
     EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*tree, {200, 300})); // off every item
@@ -161,6 +152,10 @@ TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
         tryDrop(wnd, at);
     }
     EXPECT_EQ("a b c", Members(pBox));
+    editor.Veto(&IAEStateHandler::OnAtomSelecting, "bag"); // nor is what may not be selected dragged
+    DragItem(pBag, [] {});
+    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), "drags bag"));
+    desktop.Release(tree->m_hWnd, ItemPoint(pBag));
 
     CTreeDropTarget treeTarget; // has no view
     CListDropTarget listTarget;
@@ -222,28 +217,6 @@ TEST_F(DragTest, TheTransferFileIsReadOnceUnlessItChangesAndLetGoOfHoweverTheDra
     desktop.DragOut();
 }
 
-TEST_F(DragTest, ADragThatIsCancelledOrRefusedTakesNothingAway)
-{
-    DragRow(0, [&] { desktop.Key(VK_ESCAPE); });
-    EXPECT_EQ(1, std::ranges::count(editor.TakeLedger(), "dragged: 0"));
-    DragRow(0, [&] {
-        desktop.MoveTo(tree->m_hWnd, ItemPoint(pBag));
-        pBag->permissions = 0;
-        desktop.Release(tree->m_hWnd, ItemPoint(pBag));
-    });
-    EXPECT_EQ("a b c / d", Members(pBox) + " / " + Members(pBag));
-    EXPECT_EQ("-> 0", Hover());
-
-    desktop.Release(list->m_hWnd, EmptyPoint());
-    desktop.Press(list->m_hWnd, EmptyPoint()); // empty space is not dragged
-    desktop.MoveTo(list->m_hWnd, EmptyPoint() + CPoint(10, 10));
-    desktop.Release(list->m_hWnd, EmptyPoint() + CPoint(10, 10));
-    editor.Veto(&IAEStateHandler::OnAtomSelecting, "bag"); // nor what may not be selected
-    DragItem(pBag, [] {});
-    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), "drags bag"));
-    EXPECT_FALSE(desktop.IsDragging());
-}
-
 TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
 {
     editor.hMain = field.m_hWnd;
@@ -268,6 +241,76 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
     tree->Create(&frame);
     tree->SendMessage(WM_CONTEXTMENU, 0, -1);
     EXPECT_EQ(Ledger(), desktop.TakeMenus());
+}
+
+class RenameTest : public InteractionTest
+{
+protected:
+    // Begins on the request of the editor, as its key does it.
+    bool EditRow(int nRow)
+    {
+        desktop.Click(list->m_hWnd, RowPoint(nRow));
+        editor.TakeLedger();
+        return list->OnAtomRename(nullptr, nullptr) != FALSE;
+    }
+    bool EditItem(FakeAtom* pAtom)
+    {
+        desktop.Click(tree->m_hWnd, ItemPoint(pAtom));
+        desktop.Run();
+        editor.TakeLedger();
+        return tree->OnAtomRename(nullptr, nullptr) != FALSE;
+    }
+};
+
+TEST_F(RenameTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
+{
+    ASSERT_TRUE(EditRow(0));
+    EXPECT_EQ(Ledger({"box permits a", "list asks PreRenameAtom(a in box)"}), editor.TakeLedger());
+    desktop.Type("x");
+    desktop.Key(VK_RETURN);
+    const Ledger told = editor.TakeLedger();
+    for (const char* pszLine :
+         {"box renames a to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(a in box)"})
+        EXPECT_EQ(1, std::ranges::count(told, pszLine)) << pszLine;
+    EXPECT_EQ("[(*b) c x]", list->State());
+
+    EXPECT_FALSE(EditItem(pBag)); // not permitted
+    world->permissions = APF_RENAME;
+    ASSERT_TRUE(EditItem(pBag));
+    EXPECT_EQ(Ledger({"tree asks PreRenameAtom(bag in world)"}), editor.TakeLedger());
+    desktop.Type("sack");
+    desktop.Key(VK_RETURN);
+    EXPECT_EQ("world! [*box! [b c x] sack]", tree->State());
+}
+
+TEST_F(RenameTest, WhoeverIsAskedMayTakeTheAtomAwayAndAViewTakesItsFieldAlong)
+{
+    editor.onNotify = [&](AEStateOperation operation, IAtom* pAtom) {
+        if (operation == &IAEStateHandler::PreRenameAtom && NameOf(pAtom) == "b") {
+            editor.onNotify = nullptr;
+            pBox->Remove(pBox->Named("b"));
+            list->OnDeleteAtom(nullptr, pBox);
+        }
+    };
+    EXPECT_FALSE(EditRow(1));
+    EXPECT_EQ("[a c]", list->State());
+    desktop.Click(list->m_hWnd, RowPoint(1));
+    editor.Uninstall(); // without an editor the list does not rename, the tree does not ask
+    EXPECT_FALSE(list->OnAtomRename(nullptr, nullptr));
+    world->permissions = APF_RENAME;
+    tree->SelectItem(tree->GetItem(pBag));
+    EXPECT_TRUE(tree->OnAtomRename(nullptr, nullptr));
+    desktop.Key(VK_ESCAPE);
+    editor.Install();
+
+    list->SetRootAtom(pBox);
+    ASSERT_TRUE(EditRow(1));
+    desktop.Type("x");
+    list.reset(); // the focus leaves the field then, which takes the name as it does everywhere
+    EXPECT_EQ("a x", Members(pBox));
+    tree.reset();
+    MakeViews(true);
+    EXPECT_FALSE(EditItem(pBag));
 }
 
 } // namespace
