@@ -76,30 +76,19 @@ TEST_F(ListModelTest, WithoutAnEditorAListWorksAndItsPaneComesWithTheNextContain
     list.DestroyWindow();
 }
 
-TEST_F(ListModelTest, AnnouncedMembersThatAreMissingAreRowsWithoutAnything)
-{
-    FakeContainer* const pBox = MakeBox({"b", "a"});
-    pBox->nMissing = 2;
-    ProbeList& list = ShowList(pBox);
-    Hint(list, 2, 3);
-    EXPECT_EQ("", Shown(list, 2));
-    EXPECT_EQ("[a b - -]", list.State());
-    for (const int nRow : {-1, 3, 4})
-        EXPECT_EQ(nullptr, list.Pair(nRow));
-    EXPECT_EQ(Ledger(), TakeHooks());
-    list.OnAtomSelected(pBox->Named("b"), pBox); // finding its row passes the empty ones by
-    EXPECT_EQ("[a *b - -]", list.State());
-}
-
 TEST_F(ListModelTest, RowsAreReadWhenTheyAreAboutToBeDrawnAndOnlyThen)
 {
-    FakeContainer* const pBox = MakeBox({"a", "b", "c", "d"});
+    FakeContainer* const pBox = MakeBox({"a", "b", "c"});
+    pBox->nMissing = 2; // which are rows without anything
     pBox->Named("b")->displayName = "B shown";
     ProbeList& list = HideList(pBox);
+    EXPECT_EQ("[a b c - -]", list.State());
     EXPECT_EQ("", Shown(list, 1));
 
-    Hint(list, 1, 2);
-    EXPECT_EQ(", B shown 0, c 0", Shown(list, 0, 2));
+    Hint(list, 1, 4);
+    EXPECT_EQ(", B shown 0, c 0, , ", Shown(list, 0, 4));
+    for (const int nRow : {-1, 4, 5})
+        EXPECT_EQ(nullptr, list.Pair(nRow));
     EXPECT_EQ(Ledger({"cache 1 b in box \"B shown\"", "cache 2 c in box \"c\""}), TakeHooks());
     const int nReads = pBox->Named("c")->nNameReads;
     Hint(list, 2, 1);
@@ -109,11 +98,13 @@ TEST_F(ListModelTest, RowsAreReadWhenTheyAreAboutToBeDrawnAndOnlyThen)
 
     list.ShowWindow(SW_SHOW);
     desktop.Dump(list.m_hWnd); // the control hints what it draws
-    EXPECT_EQ(Ledger({"cache 0 a in box \"a\"", "cache 3 d in box \"d\""}), TakeHooks());
+    EXPECT_EQ(Ledger({"cache 0 a in box \"a\""}), TakeHooks());
+    list.OnAtomSelected(pBox->Named("b"), pBox); // finding its row passes the empty ones by
+    EXPECT_EQ("[a *b c - -]", list.State());
     list.OnAtomEntered(nullptr, nullptr);
-    EXPECT_EQ(Ledger({"uncache 3 d in box \"d\"", "uncache 0 a in box \"a\"", "uncache 2 c in box \"c\"",
-                      "uncache 1 b in box \"B shown\"", "clear"}),
-              TakeHooks());
+    EXPECT_EQ(
+        Ledger({"uncache 0 a in box \"a\"", "uncache 2 c in box \"c\"", "uncache 1 b in box \"B shown\"", "clear"}),
+        TakeHooks());
 }
 
 TEST_F(ListModelTest, PastAThousandRowsEachNewOneTakesThePlaceOfTheOneHintedLongestAgo)
@@ -143,28 +134,21 @@ TEST_F(ListModelTest, PastAThousandRowsEachNewOneTakesThePlaceOfTheOneHintedLong
 
 TEST_F(ListModelTest, ANameThatCannotBeReadIsReportedAndTriedAgainAndWithoutMemoryForItThereIsNoText)
 {
-    FakeContainer* const pBox = MakeBox({"a", "b", "c"});
+    FakeContainer* const pBox = MakeBox({"a", "b"});
     ProbeList& list = HideList(pBox);
     pBox->Named("b")->nameFails = true;
     for (int i = 0; i < 2; ++i) {
-        Hint(list, 0, 2);
+        Hint(list, 0, 1);
         EXPECT_EQ(Ledger({"error \"Unreadable\" of b"}), editor.TakeLedger());
     }
-    EXPECT_EQ(Ledger({"cache 0 a in box \"a\""}), TakeHooks());
-    EXPECT_EQ("a 0, , ", Shown(list, 0, 2));
-
+    EXPECT_EQ("a 0, ", Shown(list, 0, 1));
     pBox->Named("b")->displayName = "B";
-    Hint(list, 0, 2);
-    EXPECT_EQ("B 0", Shown(list, 1));
-    pBox->Named("c")->displayName = "C";
-    list.OnChangeAtom(pBox->Named("c"), nullptr);
-    pBox->Named("c")->displayNameFails = true;
-    Hint(list, 2, 2);
-    EXPECT_EQ(Ledger({"error \"Unreadable\" of c"}), editor.TakeLedger());
+    pBox->Named("b")->displayNameFails = true;
+    Hint(list, 0, 1);
+    EXPECT_EQ(Ledger({"error \"Unreadable\" of b"}), editor.TakeLedger());
 
     pBox->Named("a")->name = "a name that is long enough to need memory of its own";
     list.OnChangeAtom(pBox->members[0].Get(), nullptr);
-    TakeHooks();
     hooks.reserve(8);
     {
         const FailAllocation failure(1);
@@ -172,6 +156,34 @@ TEST_F(ListModelTest, ANameThatCannotBeReadIsReportedAndTriedAgainAndWithoutMemo
     }
     EXPECT_EQ(" 0", Shown(list, 0)); // without text
     EXPECT_EQ(Ledger({": Out of memory."}), desktop.TakeMessageBoxes());
+}
+
+TEST_F(ListModelTest, IconsFollowTheDefaultPictureAndAtomsWithoutOneShareIt)
+{
+    FakeContainer* const pBox = MakeBox({"a", "b", "c", "d", "e"});
+    Ledger icons;
+    for (const AtomRef& pMember : pBox->members) {
+        pMember->pLedger = &icons;
+        pMember->hasIcon = pMember->name != "e";
+    }
+    pBox->Named("c")->iconFails = pBox->Named("d")->iconNeedsTooMuch = true;
+    ProbeList& list = HideList(pBox);
+    Hint(list, 0, 4);
+    EXPECT_EQ("a 1, b 2, c 0, d 0, e 0", Shown(list, 0, 4));
+    EXPECT_EQ(Ledger({"icon a at -1", "icon b at -1", "icon c at -1", "icon d at -1"}), icons);
+    list.OnChangeAtom(pBox->Named("c"), nullptr); // the default picture is never free
+    list.OnChangeAtom(pBox->Named("b"), nullptr);
+    Hint(list, 1, 1);
+    EXPECT_EQ("icon b at 2", icons.back());
+
+    list.DestroyWindow();
+    resources.Leave(); // without the host's bitmap rows have no picture
+    ASSERT_TRUE(list.Create(&frame));
+    list.SetRootAtom(pBox);
+    EXPECT_EQ(0, list.SendMessage(LVM_GETIMAGELIST, LVSIL_NORMAL));
+    Hint(list, 0, 0);
+    EXPECT_EQ("a 0", Shown(list, 0));
+    resources.Join();
 }
 
 TEST_F(ListModelTest, WhereverMemoryRunsOutTheRowsStayInStep)

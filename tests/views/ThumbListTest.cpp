@@ -128,27 +128,20 @@ TEST_F(ThumbListTest, APictureIsTheThumbnailElseTheIconElseTheFolder)
     EXPECT_EQ("", ImageDifference(list, 0, kFolderFills));
 
     AddContainer("e", 3);
+    FakeContainer* const pThumb = AddContainer("f", 1); // what fails gives the folder without a marker
+    FakeContainer* const pIcon = AddContainer("g", 0);
+    pThumb->hasIcon = pIcon->hasIcon = pThumb->thumbFails = pIcon->iconFails = true;
     list.SetRootAtom(box);
-    Hint(list, 0, 4);
-    EXPECT_EQ("a 1, b 2, c 3, d 4, e 5", Shown(list, 0, 4));
-    EXPECT_EQ(Ledger({"draw a at 24,24-104,104 (0, 2, 0)", "icon b 48x48", "draw e at 24,24-104,104 (0, 2, 0)"}),
+    Hint(list, 0, 6);
+    EXPECT_EQ("a 1, b 2, c 3, d 4, e 5, f 6, g 7", Shown(list, 0, 6));
+    EXPECT_EQ(Ledger({"draw a at 24,24-104,104 (0, 2, 0)", "icon b 48x48", "draw e at 24,24-104,104 (0, 2, 0)",
+                      "draw f at 24,24-104,104 (0, 2, 0)", "icon g 48x48"}),
               drawn);
     EXPECT_EQ("", ImageDifference(list, 1, kThumbFills));
     EXPECT_EQ("", ImageDifference(list, 2, {{kMiddle, kGreen}}));
-    EXPECT_EQ("", ImageDifference(list, 3, kFolderFills));
+    for (const int nImage : {3, 6, 7})
+        EXPECT_EQ("", ImageDifference(list, nImage, kFolderFills));
     EXPECT_EQ("", ImageDifference(list, 5, {kThumbFills[0], kThumbFills[1], {{108, 108, 124, 124}, kMarker}}));
-}
-
-TEST_F(ThumbListTest, WhatFailsGivesTheFolderWithoutAMarker)
-{
-    FakeContainer* const pThumb = AddContainer("e", 1);
-    FakeContainer* const pIcon = AddContainer("f", 0);
-    pThumb->hasIcon = pIcon->hasIcon = pThumb->thumbFails = pIcon->iconFails = true;
-    CThumbList& list = MakeHidden();
-    Hint(list, 4, 5);
-    EXPECT_EQ(Ledger({"draw e at 24,24-104,104 (0, 2, 0)", "icon f 48x48"}), drawn);
-    EXPECT_EQ("", ImageDifference(list, 1, kFolderFills));
-    EXPECT_EQ("", ImageDifference(list, 2, kFolderFills));
 }
 
 TEST_F(ThumbListTest, WithoutTheHostsBitmapsPicturesAreBlankAndNeverAnotherRows)
