@@ -21,25 +21,7 @@ protected:
         desktop.DragIn({{toolkit::KindsOfFormat(editor.format).front(), m_folder.At("atoms") + std::string(1, 0)}},
                        allowed);
     }
-    // What a drag of these rows or of that item does while the script plays.
-    void DragRow(int nRow, std::function<void()> script) { Drag(*list, RowPoint(nRow), std::move(script)); }
-    void DragItem(FakeAtom* pAtom, std::function<void()> script)
-    {
-        editor.pSelected = tree.get();
-        Drag(*tree, ItemPoint(pAtom), std::move(script));
-    }
-    void SelectRows(int nFirst, int nLast)
-    {
-        desktop.Click(list->m_hWnd, RowPoint(nFirst));
-        desktop.Hold({.shift = true});
-        desktop.Click(list->m_hWnd, RowPoint(nLast));
-        desktop.Hold({});
-        editor.TakeLedger();
-    }
-
-    TempFolder m_folder; // of the other program
-
-private:
+    // What a drag from there does while the script plays.
     void Drag(const CWnd& wnd, CPoint at, std::function<void()> script)
     {
         const HWND hWnd = wnd.m_hWnd;
@@ -48,12 +30,18 @@ private:
         desktop.Press(hWnd, at);
         desktop.MoveTo(hWnd, at + CPoint(3, 6));
     }
+
+    TempFolder m_folder; // of the other program
 };
 
 TEST_F(DragTest, SelectedRowsAreDraggedTogetherIntoTheTree)
 {
-    SelectRows(0, 1);
-    DragRow(1, [&] {
+    desktop.Click(list->m_hWnd, RowPoint(0));
+    desktop.Hold({.shift = true});
+    desktop.Click(list->m_hWnd, RowPoint(1));
+    desktop.Hold({});
+    editor.TakeLedger();
+    Drag(*list, RowPoint(1), [&] {
         EXPECT_EQ(Ledger({"writes 2", "drags a b"}), editor.TakeLedger());
         EXPECT_EQ(Ledger({"-> 0"}), MoveOver(*tree, ItemPoint(pBox))); // entering has no effect
         EXPECT_EQ(Ledger({"reads", "box permits a", "box finds a", "-> 0"}),
@@ -76,24 +64,6 @@ TEST_F(DragTest, SelectedRowsAreDraggedTogetherIntoTheTree)
     EXPECT_EQ("[c]", list->State());
     EXPECT_EQ("world [bag [a b d] box [c]]", tree->State());
     EXPECT_EQ("-> 2", Hover());
-}
-
-TEST_F(DragTest, AnItemIsDraggedIntoTheListAndTheEffectFollowsTheCtrlKey)
-{
-    DragItem(pBag, [&] {
-        EXPECT_EQ("drags bag", editor.TakeLedger().back());
-        list->SetRootAtom(pBox); // it has followed the tree to the bag
-        desktop.Run();
-        MoveOver(*list, RowPoint(0));
-        EXPECT_EQ(Ledger({"reads", "-> 0"}), MoveOver(*list, RowPoint(1))); // no container to ask
-        EXPECT_EQ(Ledger({"reads", "box permits bag", "box finds bag", "-> 2"}), MoveOver(*list, EmptyPoint()));
-        desktop.Hold({.control = true});
-        EXPECT_EQ(Ledger({"reads", "box permits bag"}), editor.TakeLedger());
-        EXPECT_EQ("-> 1", Hover());
-        desktop.Release(list->m_hWnd, EmptyPoint());
-    });
-    EXPECT_EQ("a b c bag / d", Members(pBox) + " / " + Members(pBag)); // a copy: nothing is taken away
-    EXPECT_EQ("[a b c (*bag)]", list->State());
 }
 
 TEST_F(DragTest, TheHighlightFollowsTheDragWhereItWouldBeTaken)
@@ -153,7 +123,8 @@ TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
     }
     EXPECT_EQ("a b c", Members(pBox));
     editor.Veto(&IAEStateHandler::OnAtomSelecting, "bag"); // nor is what may not be selected dragged
-    DragItem(pBag, [] {});
+    editor.pSelected = tree.get();
+    Drag(*tree, ItemPoint(pBag), [] {});
     EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), "drags bag"));
     desktop.Release(tree->m_hWnd, ItemPoint(pBag));
 
@@ -233,9 +204,6 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
         editor.menu.clear();
     }
     editor.menu = "Open";
-    editor.Uninstall();
-    desktop.Click(list->m_hWnd, {200, 200}, toolkit::MouseButton::Right);
-    editor.Install();
     tree.reset();
     tree = std::make_unique<ProbeTree>(TRUE);
     tree->Create(&frame);

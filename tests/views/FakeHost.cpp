@@ -131,33 +131,6 @@ int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
     return nImage;
 }
 
-void RestlessAtom::Do(int nth, std::function<void()> fn)
-{
-    m_nUntil = nth;
-    deed = std::move(fn);
-}
-
-void RestlessAtom::Stir()
-{
-    if (deed && --m_nUntil == 0)
-        std::exchange(deed, nullptr)();
-}
-
-BOOL RestlessAtom::GetName(char* pBuffer, DWORD* pLength)
-{
-    const BOOL bRead = FakeAtom::GetName(pBuffer, pLength);
-    if (pBuffer)
-        Stir();
-    return bRead;
-}
-
-int RestlessAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
-{
-    const int nImage = FakeAtom::AddToImageList(hImageList, nReplace);
-    Stir();
-    return nImage;
-}
-
 FakeAtom* FakeContainer::Add(FakeAtom* pNew)
 {
     pNew->parent = this;
@@ -183,8 +156,6 @@ FakeAtom* FakeContainer::Named(const std::string& strName) const
 
 void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
 {
-    if (onGetAtoms)
-        onGetAtoms(nFirst);
     for (UINT i = 0; i < nCount; ++i) {
         ppOut[i] = nullptr;
         if (nFirst + i < members.size())
@@ -339,10 +310,8 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
         hook(operation, atom);
 
     BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
-    for (const auto& [cookie, pHandler] : std::map(m_handlers)) {
-        if (pHandler != sender || !skipsSender)
-            bAgreed &= (pHandler->*operation)(atom, container) != FALSE;
-    }
+    for (const auto& [cookie, pHandler] : std::map(m_handlers))
+        bAgreed &= (pHandler->*operation)(atom, container) != FALSE;
     return bAgreed;
 }
 

@@ -71,23 +71,6 @@ protected:
 
 using AtomRef = CStubRef<FakeAtom>;
 
-// An atom that does something else while it says its name or gives its picture.
-class RestlessAtom : public FakeAtom
-{
-public:
-    using FakeAtom::FakeAtom;
-
-    std::function<void()> deed; // none once it is done
-
-    void Do(int nth, std::function<void()> fn); // when it is asked for the nth time from now on
-    BOOL GetName(char* pBuffer, DWORD* pLength) override;
-    int AddToImageList(HIMAGELIST hImageList, int nReplace) override;
-
-private:
-    void Stir();
-    int m_nUntil = 0;
-};
-
 // A container, and a phase when it is told so. What it is asked to do with members is written down, in words: "box
 // removes b".
 class FakeContainer : public FakeAtom, public IAtomContainer, public IPhase
@@ -103,7 +86,6 @@ public:
     std::map<std::string, DWORD> permissionsFor;
     std::set<std::string> refused;                  // "removes b": what it will not do, in the ledger's words
     std::function<void(const std::string&)> onCall; // runs before it does what the words say
-    std::function<void(UINT nFirst)> onGetAtoms;    // runs before members are handed out
 
     FakeAtom* Add(FakeAtom* pNew); // takes the one reference of a new atom
     FakeAtom* Add(const std::string& strName) { return Add(new FakeAtom(strName)); }
@@ -156,7 +138,6 @@ public:
     IAEStateHandler* pSelected = nullptr; // whose atoms are dragged
     HWND hMain = nullptr;
     std::string menu; // the only item of its context menu, with the command 7; none without a text
-    bool skipsSender = false;
     std::function<void(AEStateOperation, IAtom*)> onNotify; // runs before the handlers are called
 
     std::function<void()> onJoin; // runs when a handler has registered or a pane is added

@@ -1,7 +1,6 @@
 // How the library reaches its host: identifiers, services, tables of operations, references.
 #include "Kernel/Kernel.h"
 #include "tests/views/FakeHost.h"
-#include "tests/views/KernelCalls.h"
 
 #include <cstring>
 #include <dlfcn.h>
@@ -9,6 +8,22 @@
 
 namespace
 {
+
+// "id IAtom", "service GetAtomEditorSv", "wait", "done": every call since a test last cleared them. This program stands
+// before the kernel.
+Ledger& KernelCalls()
+{
+    static Ledger s_calls;
+    return s_calls;
+}
+
+const Ledger s_atLoad = KernelCalls(); // this program's own globals are made after the libraries'
+
+template <class Function>
+Function* Next(const char* pszSymbol)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, pszSymbol));
+}
 
 class HostTest : public testing::Test
 {
@@ -27,7 +42,7 @@ TEST_F(HostTest, LoadingTheLibraryAsksTheKernelForElevenNumbersAndOneServiceInOr
     const Ledger expected{"id IPhase",    "id IImageLink",   "id IArchive",       "id ICharacterLibrary",
                           "id IAtom",     "id IDispAtom",    "id IAtomContainer", "id IAEStateHandler",
                           "id IAtomIcon", "id IMyErrorInfo", "id IAtomThumbnail", "service ConstructMemoryStream"};
-    EXPECT_EQ(expected, KernelCallsAtLoad());
+    EXPECT_EQ(expected, s_atLoad);
     EXPECT_EQ(INT_GetUniqueInterfaceID("IAtom"), IID_IAtom);
     EXPECT_EQ(INT_GetUniqueInterfaceID("IAtomThumbnail"), IID_IAtomThumbnail);
 }
@@ -157,3 +172,27 @@ TEST_F(HostTest, TheTopOfAHierarchyIsTheLastContainerOrALibraryByItself)
 }
 
 } // namespace
+
+DWORD INT_GetUniqueInterfaceID(const char* pszName)
+{
+    KernelCalls().push_back(std::string("id ") + pszName);
+    return Next<DWORD(const char*)>("_Z24INT_GetUniqueInterfaceIDPKc")(pszName);
+}
+
+SERVICEREC* SRVN_GetUniqueServiceID(const char* pszName)
+{
+    KernelCalls().push_back(std::string("service ") + pszName);
+    return Next<SERVICEREC*(const char*)>("_Z23SRVN_GetUniqueServiceIDPKc")(pszName);
+}
+
+void CSyncWrRd::WaitForRead()
+{
+    KernelCalls().push_back("wait");
+    Next<void(CSyncWrRd*)>("_ZN9CSyncWrRd11WaitForReadEv")(this);
+}
+
+void CSyncWrRd::DoneReading()
+{
+    KernelCalls().push_back("done");
+    Next<void(CSyncWrRd*)>("_ZN9CSyncWrRd11DoneReadingEv")(this);
+}

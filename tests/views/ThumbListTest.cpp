@@ -206,14 +206,6 @@ TEST_F(ThumbListTest, ThePaneIsTheThumbnailPaneAndItsTimerRunsWhileItIsShownAndC
     drawn.clear();
     desktop.Advance(500);
     EXPECT_EQ(Ledger(), drawn);
-
-    desktop.Press(list.m_hWnd, {690, 390}); // rows are swept and clicked as ever
-    desktop.MoveTo(list.m_hWnd, {600, 300});
-    desktop.MoveTo(list.m_hWnd, PointOf(list, 1));
-    desktop.Release(list.m_hWnd, PointOf(list, 1));
-    EXPECT_EQ(3, list.GetSelectedCount());
-    desktop.Click(list.m_hWnd, PointOf(list, 0));
-    EXPECT_EQ(1, list.GetSelectedCount());
     list.ShowWindow(SW_HIDE);
     EXPECT_EQ(0, toolkit::CountWindows().timers);
 }
