@@ -10,7 +10,7 @@
 #include "Toolkit/window/MessageBox.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/views/InteractionTest.h"
+#include "tests/views/TransferTest.h"
 
 #include <algorithm>
 #include <cstdlib>

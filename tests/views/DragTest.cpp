@@ -2,7 +2,9 @@
 #include "Toolkit/ole/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/tree/TreeDropTarget.h"
-#include "tests/views/InteractionTest.h"
+#include "tests/views/ListTest.h"
+#include "tests/views/TransferTest.h"
+#include "tests/views/TreeTest.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -10,10 +12,56 @@
 namespace
 {
 
-class DragTest : public InteractionTest
+// The list on the left shows the box and its members; the tree on the right shows the world, expanded: the bag below
+// the box.
+class DragTest : public TransferTest
 {
 protected:
-    DragTest() { editor.readsOn = true; }
+    DragTest()
+    {
+        editor.readsOn = true;
+        MakeViews();
+    }
+    void MakeViews(bool bPassive = false)
+    {
+        list = std::make_unique<ProbeList>(hooks, bPassive);
+        tree = std::make_unique<ProbeTree>(bPassive);
+        editor.pSelected = list.get();
+        Place(*list, CRect(0, 0, 390, 380), "list").SetRootAtom(pBox);
+        Place(*tree, CRect(400, 0, 800, 380), "tree").OnCreateAtom(world.Get(), nullptr);
+        tree->Expand(tree->GetItem(world.Get()), TVE_EXPAND);
+        desktop.Run();
+        editor.TakeLedger();
+    }
+    CPoint RowPoint(int nRow) const { return PointOf(*list, nRow); }
+    CPoint ItemPoint(FakeAtom* pAtom) const { return tree->PointOf(pAtom); }
+    CPoint EmptyPoint() const // in no row
+    {
+        CRect rect;
+        list->GetClientRect(&rect);
+        return {rect.right - 3, rect.bottom - 3};
+    }
+    // "b -> 2": the rows and items that are highlighted, and the effect that a drop would have now.
+    std::string Hover() const
+    {
+        std::string strHover;
+        for (int i = -1; (i = list->GetNextItem(i, LVNI_DROPHILITED)) >= 0;)
+            strHover += NameOf(list->Pair(i)->pAtom) + " ";
+        for (FakeAtom* p : std::initializer_list<FakeAtom*>{world.Get(), pBox, pBag}) {
+            if (tree->GetItemState(tree->GetItem(p), TVIS_DROPHILITED))
+                strHover += p->name + " ";
+        }
+        return strHover + "-> " + std::to_string(desktop.DragEffect());
+    }
+    // Moves there, and says what was asked of the host, followed by Hover.
+    Ledger MoveOver(const CWnd& wnd, CPoint at)
+    {
+        editor.TakeLedger();
+        desktop.MoveTo(wnd.m_hWnd, at);
+        Ledger told = editor.TakeLedger();
+        told.push_back(Hover());
+        return told;
+    }
     // Another program drags these atoms, over the frame's edge at first.
     void DragIn(const std::string& names, DROPEFFECT allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE)
     {
@@ -32,6 +80,9 @@ protected:
     }
 
     TempFolder m_folder; // of the other program
+    Ledger hooks;
+    std::unique_ptr<ProbeList> list;
+    std::unique_ptr<ProbeTree> tree;
 };
 
 TEST_F(DragTest, SelectedRowsAreDraggedTogetherIntoTheTree)
@@ -211,7 +262,7 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
     EXPECT_EQ(Ledger(), desktop.TakeMenus());
 }
 
-class RenameTest : public InteractionTest
+class RenameTest : public DragTest
 {
 protected:
     // Begins on the request of the editor, as its key does it.

@@ -42,7 +42,7 @@ TEST_F(ListModelTest, ACreatedListIsARegisteredHiddenChildThatIsAnEmptyComponent
 
 TEST_F(ListModelTest, APassiveListShowsRowsAndTellsNobody)
 {
-    ProbeList& list = ShowList(MakeBox({"a", "b"}), {.passive = true});
+    ProbeList& list = ShowList(MakeBox({"a", "b"}), true);
     EXPECT_EQ(0, editor.CountHandlers());
     editor.active = CStubRef<IAtom>::Share(world->members[0].Get());
     Hint(list, 0, 1);
@@ -62,7 +62,7 @@ TEST_F(ListModelTest, WithoutAnEditorAListWorksAndItsPaneComesWithTheNextContain
 {
     FakeContainer* const pBox = MakeBox({"a"});
     editor.Uninstall();
-    ProbeList& list = MakeList({});
+    ProbeList& list = MakeList();
     list.SetRootAtom(pBox);
     EXPECT_EQ("[a]", list.State());
     Click(list, 0);
@@ -189,7 +189,7 @@ TEST_F(ListModelTest, IconsFollowTheDefaultPictureAndAtomsWithoutOneShareIt)
 TEST_F(ListModelTest, WhereverMemoryRunsOutTheRowsStayInStep)
 {
     FakeContainer* const pBox = MakeBox({"b", "a", "c", "d"});
-    ProbeList& list = MakeList({});
+    ProbeList& list = MakeList();
     const auto check = [&] {
         const std::string strNames = list.Names();
         EXPECT_TRUE(strNames == "a b c d" || strNames.empty()) << strNames;

@@ -50,13 +50,6 @@ CPoint PointOf(const CListCtrl& list, int nRow)
     return rect.CenterPoint();
 }
 
-CPoint EmptyPoint(const CListCtrl& list)
-{
-    CRect rect;
-    list.GetClientRect(&rect);
-    return {rect.right - 3, rect.bottom - 3};
-}
-
 ListTest::ListTest()
 {
     resources.AddString(1008, "Icons");
@@ -64,15 +57,15 @@ ListTest::ListTest()
     resources.AddBitmap(1006, toolkit::Surface(CSize(48, 48), 0xFFFFFF00));
 }
 
-ProbeList& ListTest::MakeList(const Shape& shape)
+ProbeList& ListTest::MakeList(bool bPassive)
 {
-    m_lists.push_back(std::make_unique<ProbeList>(hooks, shape.passive));
-    return Place(*m_lists.back(), CRect(shape.x, 0, shape.x + 390, 400), shape.name);
+    m_lists.push_back(std::make_unique<ProbeList>(hooks, bPassive));
+    return Place(*m_lists.back(), CRect(0, 0, 390, 400), "list");
 }
 
-ProbeList& ListTest::ShowList(FakeContainer* pContainer, const Shape& shape)
+ProbeList& ListTest::ShowList(FakeContainer* pContainer, bool bPassive)
 {
-    ProbeList& list = MakeList(shape);
+    ProbeList& list = MakeList(bPassive);
     EXPECT_TRUE(list.SetRootAtom(pContainer));
     desktop.Run();
     editor.TakeLedger();
@@ -82,7 +75,7 @@ ProbeList& ListTest::ShowList(FakeContainer* pContainer, const Shape& shape)
 
 ProbeList& ListTest::HideList(FakeContainer* pContainer)
 {
-    ProbeList& list = MakeList({});
+    ProbeList& list = MakeList();
     list.ShowWindow(SW_HIDE);
     list.SetRootAtom(pContainer);
     editor.TakeLedger();

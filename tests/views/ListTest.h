@@ -30,22 +30,14 @@ private:
 };
 
 CPoint PointOf(const CListCtrl& list, int nRow); // the middle of its picture
-CPoint EmptyPoint(const CListCtrl& list);        // in no row
 
 class ListTest : public ViewTest
 {
 protected:
     ListTest();
 
-    struct Shape
-    {
-        bool passive = false;
-        int x = 0; // in the frame
-        const char* name = "list";
-    };
-    ProbeList& MakeList(const Shape& shape);                            // created and shown, with nothing in it
-    ProbeList& ShowList(FakeContainer* pContainer, const Shape& shape); // showing it, all news taken
-    ProbeList& ShowList(FakeContainer* pContainer) { return ShowList(pContainer, Shape()); }
+    ProbeList& MakeList(bool bPassive = false);                            // created and shown, with nothing in it
+    ProbeList& ShowList(FakeContainer* pContainer, bool bPassive = false); // showing it, all news taken
 
     // Showing it, but not visible: a test hints the rows it wants.
     ProbeList& HideList(FakeContainer* pContainer);

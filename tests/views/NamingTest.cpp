@@ -1,7 +1,7 @@
 // Names: what atoms may be called, and who hears of a new name.
 #include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/views/InteractionTest.h"
+#include "tests/views/TransferTest.h"
 
 namespace
 {

@@ -161,27 +161,6 @@ TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCou
     EXPECT_EQ("world [box [b c]]", tree.State());
 }
 
-TEST_F(TreeItemsTest, OnDemandMembersComeWhenTheyAreAskedForAndThenOnlyTheNewOnes)
-{
-    FakeContainer* const pOther = MakeBox("other", {});
-    pOther->members.push_back(AtomRef::Share(a));
-    ProbeTree& tree = MakeTree();
-    tree.ShowMembersOnDemand();
-    tree.OnCreateAtom(world.Get(), nullptr);
-    EXPECT_FALSE(tree.OnCreateAtom(box, world.Get()));
-    EXPECT_EQ("world", tree.State());
-    for (FakeContainer* const pContainer : {static_cast<FakeContainer*>(world.Get()), box, pOther})
-        EXPECT_TRUE(tree.ShowMembers(pContainer));
-    EXPECT_EQ("world [box [a b c] other [a]]", tree.State());
-
-    box->Add("A new one");
-    EXPECT_TRUE(tree.ShowMembers(box)); // though the item that counts for a is the other one
-    EXPECT_EQ("world [box [a A new one b c] other [a]]", tree.State());
-    EXPECT_FALSE(tree.ShowMembers(b));
-    Remove(tree, box);
-    EXPECT_EQ("world [other]", tree.State());
-}
-
 TEST_F(TreeItemsTest, AnItemThatTheControlRefusesIsReportedAndNothingIsKept)
 {
     const auto pAtom = AtomRef::Adopt(new FakeAtom("a"));

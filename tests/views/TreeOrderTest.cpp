@@ -64,19 +64,6 @@ TEST_F(TreeOrderTest, MembersOfEveryKindStandByTheirNamesAndEqualOnesByTheirLabe
     EXPECT_EQ("c, y, b", tree.Labels(pLater));
 }
 
-TEST_F(TreeOrderTest, ImageLinksStandByTheirPositionsAndElseNamesDecide)
-{
-    FakeContainer* const pPhase = MakeBox("phase", {"five", "two", "nine"});
-    pPhase->isPhase = true;
-    for (const auto& [pszName, nPosition] : {std::pair("five", 5), std::pair("two", 2), std::pair("nine", 9)}) {
-        pPhase->Named(pszName)->isLink = true;
-        pPhase->Named(pszName)->position = nPosition;
-    }
-    MakeBox("mixed", {"beta", "Alpha", "link"})->Named("link")->isLink = true;
-    MakeBox("unread", {"c", "bad", "a", "b"})->Named("bad")->nameFails = true;
-    EXPECT_EQ("world [mixed [Alpha beta link] phase [two five nine] unread [bad a b c]]", ShowTree().State());
-}
-
 TEST_F(TreeOrderTest, AnAnnouncementReadsEachNameAFewTimesAndOneAtomMoreOnlyAFewNames)
 {
     FakeContainer* const pBox = MakeBox({});
