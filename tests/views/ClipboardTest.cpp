@@ -148,6 +148,7 @@ TEST_F(ClipboardTest, ACutAtomIsInItsContainerOrOnTheClipboardWhateverFails)
     const auto check = [&] {
         EXPECT_NE(pBox->Named("a") != nullptr, OnClipboard() == "a\n");
         EXPECT_EQ(OnClipboard() == "a\n" ? 1 : 0, CountFiles());
+        EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
         desktop.TakeMessageBoxes();
         EmptyClipboard();
         if (!pBox->Named("a"))
@@ -185,24 +186,6 @@ TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAndTheAtomsAsTheyWere
     EXPECT_FALSE(PasteObjects(pArchive.Get(), pBox, FALSE));
     EXPECT_EQ(0u, CheckPaste(pArchive.Get(), pBox, FALSE));
     EXPECT_EQ("a b c", Members(pBox));
-}
-
-TEST_F(ClipboardTest, WithoutMemoryNothingIsLost)
-{
-    Activate({{pBox, "a"}});
-    pBox->pLedger = nullptr;
-    const auto copy = [] {
-        try {
-            CopyObjects(FALSE);
-        } catch (const CMemoryException&) { // of the host's or the clipboard's
-        }
-    };
-    FailEveryAllocation(copy, [&] {
-        EXPECT_EQ(OnClipboard() == "a\n" ? 1 : 0, CountFiles());
-        EXPECT_GE(1u, desktop.TakeMessageBoxes().size());
-        EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
-    });
-    EXPECT_EQ("a\n", OnClipboard());
 }
 
 TEST_F(ClipboardTest, TheWaitCursorShowsWhileObjectsAreWorkedOnAndNotWhileOneLooks)
