@@ -42,15 +42,12 @@ TEST_F(ListOrderTest, LinksOfOnePhaseAreOrderedByPositionAndAmongOthersByName)
         pMember->position = -pMember->name[0];
     }
     EXPECT_EQ("c b a", ShowList(pPhase).Names());
-    EXPECT_LT(0, Compare(pPhase->Named("a"), pPhase->Named("c")));
     EXPECT_EQ(1, Compare1(pPhase->Named("a"), pPhase->Named("c")));
 
     const auto pOther = AtomRef::Adopt(new FakeAtom("b2"));
     EXPECT_GT(0, Compare(pPhase->Named("b"), pOther.Get())); // not a link: by name
-    EXPECT_LT(0, Compare(pOther.Get(), pPhase->Named("b")));
     pPhase->isPhase = false;
     EXPECT_GT(0, Compare(pPhase->Named("a"), pPhase->Named("c"))); // no phase: by name
-    EXPECT_EQ(2, pPhase->Named("a")->CountReferences());           // the box's and the row's
 }
 
 // The same order whether keys or comparisons make it: with names that differ in case, at once or late or not at all, in
