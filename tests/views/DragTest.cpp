@@ -244,17 +244,19 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
 
 TEST_F(DragTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
 {
-    desktop.Click(list->m_hWnd, RowPoint(0));
+    desktop.Click(list->m_hWnd, RowPoint(1));
     editor.TakeLedger();
     ASSERT_TRUE(list->OnAtomRename(nullptr, nullptr)); // the request of the editor, as its key makes it
-    EXPECT_EQ(Ledger({"box permits a", "list asks PreRenameAtom(a in box)"}), editor.TakeLedger());
+    EXPECT_EQ(Ledger({"box permits b", "list asks PreRenameAtom(b in box)"}), editor.TakeLedger());
+    const AtomRef pRemoved = pBox->Remove(pBox->Named("a")); // rows move, and the field with them
+    list->OnDeleteAtom(pRemoved.Get(), pBox);
     desktop.Type("x");
     desktop.Key(VK_RETURN);
     const Ledger told = editor.TakeLedger();
     for (const char* pszLine :
-         {"box renames a to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(a in box)"})
+         {"box renames b to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(b in box)"})
         EXPECT_EQ(1, std::ranges::count(told, pszLine)) << pszLine;
-    EXPECT_EQ("[(*b) c x]", list->State());
+    EXPECT_EQ("[(*c) x]", list->State());
 
     tree->SelectItem(tree->GetItem(pBag));
     list->SetRootAtom(pBox); // it has followed the tree
