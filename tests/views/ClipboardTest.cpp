@@ -72,6 +72,7 @@ TEST_F(ClipboardTest, ACopyLivesOnDiskUntilTheClipboardLetsGoOfIt)
 TEST_F(ClipboardTest, ACutTellsOnceOfWhatIsGone)
 {
     Activate({{pBox, "a"}, {pBag, "d"}});
+    pBox->onCall = [&](const std::string&) { EXPECT_EQ(toolkit::Cursor::Wait, desktop.CurrentCursor()); };
     EXPECT_TRUE(CopyObjects(TRUE));
     EXPECT_EQ(Ledger({"writes 2", "enumerates", "box permits a", "box removes a", "bag permits d", "bag removes d",
                       "nobody tells OnDeleteAtom(- in box)"}),
@@ -188,26 +189,6 @@ TEST_F(ClipboardTest, WhatCannotBeWrittenLeavesTheClipboardAndTheAtomsAsTheyWere
     EXPECT_EQ("a b c", Members(pBox));
 }
 
-TEST_F(ClipboardTest, TheWaitCursorShowsWhileObjectsAreWorkedOnAndNotWhileOneLooks)
-{
-    const auto pArchive = Holding("x\n");
-    std::string strCursors;
-    pBox->onCall = [&](const std::string&) {
-        strCursors += desktop.CurrentCursor() == toolkit::Cursor::Wait ? "w" : "-";
-    };
-    CheckPaste(pArchive.Get(), pBox, FALSE);
-    EXPECT_EQ("-", strCursors);
-    PasteObjects(pArchive.Get(), pBox, TRUE);
-    Activate({{pBox, "a"}});
-    CopyObjects(TRUE);
-    Activate({{pBox, "b"}});
-    desktop.Answer(IDYES);
-    RemoveObjects(TRUE);
-    desktop.TakeMessageBoxes();
-    EXPECT_EQ("-wwwwww", strCursors);
-    EXPECT_EQ(toolkit::Cursor::Arrow, desktop.CurrentCursor());
-}
-
 TEST_F(ClipboardTest, RemovingAsksAndGivesTheFocusBack)
 {
     Activate({{pBox, "a"}, {pBox, "b"}, {pBag, "d"}});
@@ -218,6 +199,7 @@ TEST_F(ClipboardTest, RemovingAsksAndGivesTheFocusBack)
     EXPECT_TRUE(HasFocus(field));
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 
+    pBox->onCall = [&](const std::string&) { EXPECT_EQ(toolkit::Cursor::Wait, desktop.CurrentCursor()); };
     pBox->permissionsFor["a"] = ~APF_REMOVE;
     pBox->refused = {"removes b"};
     editor.goesOnAfterRefusal = true;
@@ -237,6 +219,7 @@ TEST_F(ClipboardTest, RemovingAsksAndGivesTheFocusBack)
 TEST_F(ClipboardTest, PastedAtomsKeepTheirNamesOnlyWhenTheyMove)
 {
     const auto pArchive = Holding("a\nx\n");
+    pBox->onCall = [&](const std::string&) { EXPECT_EQ(toolkit::Cursor::Wait, desktop.CurrentCursor()); };
     EXPECT_TRUE(PasteObjects(pArchive.Get(), pBox, FALSE));
     EXPECT_EQ(Ledger({"reads", "box permits a", "box validates a", "box adds a as a (2)",
                       "nobody tells OnCreateAtom(a (2) in box)", "box permits x", "box validates x", "box adds x as x",
@@ -299,12 +282,10 @@ TEST_F(ClipboardTest, ATransferFileGoesWithItsOwnersLastReference)
     EXPECT_EQ(0u, pOwner->Release());
     EXPECT_EQ(Ledger({"reads"}), editor.TakeLedger());
 
-    // A file that is gone already, and a handle that cannot be locked.
     void* const hPath = HGLOBALFromArchive(Holding("a\n").Get());
-    DeleteFile(static_cast<const char*>(GlobalLock(hPath)));
-    GlobalUnlock(hPath);
-    (new CTransferFileOwner(hPath))->Release();
-    (new CTransferFileOwner(hPath))->Release();
+    DeleteFile(toolkit::GlobalLocker<const char>(hPath).Get());
+    for (int i = 0; i < 2; ++i) // of a file that is gone already, and of a handle that cannot be locked
+        (new CTransferFileOwner(hPath))->Release();
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 }
 
