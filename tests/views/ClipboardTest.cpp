@@ -105,12 +105,6 @@ TEST_F(ClipboardTest, ACutThatIsRefusedPartWayLosesNothing)
     EXPECT_FALSE(CopyObjects(TRUE));
     EXPECT_EQ("c a / d e", Members(pBox) + " / " + Members(pBag));
     EXPECT_EQ(kept, folder.Everything());
-
-    pBag->permissionsFor["d"] = APF_ACCEPT;
-    Activate({{pBag, "d"}});
-    editor.TakeLedger();
-    EXPECT_FALSE(CopyObjects(TRUE)); // nothing went, so nothing is told
-    EXPECT_EQ(Ledger({"writes 1", "enumerates", "bag permits d"}), editor.TakeLedger());
 }
 
 TEST_F(ClipboardTest, WhatACutCannotKeepComesBackToItsOwnPlace)

@@ -85,7 +85,10 @@ BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
         return TRUE;
     }
     nNameReads += pBuffer != nullptr;
-    return CopyName(name, nameFails, pBuffer, pLength);
+    const BOOL bRead = CopyName(name, nameFails, pBuffer, pLength);
+    if (pBuffer && onAsked)
+        onAsked();
+    return bRead;
 }
 
 BOOL FakeAtom::GetDisplayName(char* pBuffer, DWORD* pLength)
@@ -128,6 +131,8 @@ int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
     const HICON hIcon = CreateIconFromSurface(toolkit::Surface(CSize(48, 48), 0xFF00FF00));
     const int nImage = ImageList_ReplaceIcon(hImageList, nReplace, hIcon);
     DestroyIcon(hIcon);
+    if (onAsked)
+        onAsked();
     return nImage;
 }
 

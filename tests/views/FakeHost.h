@@ -47,8 +47,9 @@ public:
     bool isLibrary = false; // offers ICharacterLibrary
     bool isModified = false;
     FakeContainer* parent = nullptr;
-    int nNameReads = 0;        // names filled in, lengths asked for not counted
-    Ledger* pLedger = nullptr; // where icons, thumbnails and what a container is asked to do, are written down
+    std::function<void()> onAsked; // runs when its name or its icon has been given
+    int nNameReads = 0;            // names filled in, lengths asked for not counted
+    Ledger* pLedger = nullptr;     // where icons, thumbnails and what a container is asked to do, are written down
 
     DWORD GetID() override { return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(this)); }
     BOOL GetName(char* pBuffer, DWORD* pLength) override;

@@ -125,19 +125,6 @@ TEST_F(ListEventsTest, WhatAListIsToldWhileItIsTellingItIgnoresButForNames)
     EXPECT_EQ(0, RowOf("d")); // the first of the name
 }
 
-TEST_F(ListEventsTest, TheWindowThatHadTheFocusMayGoWhileASaveIsOffered)
-{
-    list.OnAtomSelected(box->Named("b"), box);
-    auto pOther = std::make_unique<CWnd>();
-    pOther->CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(0, 380, 10, 390), &frame, 2);
-    pOther->SetFocus();
-    editor.active = CStubRef<IAtom>::Share(box);
-    editor.Veto(&IAEStateHandler::PreSaveAtom);
-    editor.onNotify = [&](AEStateOperation, IAtom*) { pOther.reset(); };
-    list.SetFocus();
-    EXPECT_TRUE(HasFocus(list)); // there is nobody to give it back to
-}
-
 // An icon list that writes down where the button goes up.
 class PostingList : public CIconList
 {

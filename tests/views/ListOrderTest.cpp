@@ -41,7 +41,7 @@ TEST_F(ListOrderTest, LinksOfOnePhaseAreOrderedByPositionAndAmongOthersByName)
         pMember->isLink = true;
         pMember->position = -pMember->name[0];
     }
-    EXPECT_EQ("c b a", ShowList(pPhase).Names());
+    EXPECT_EQ("[c b a]", ShowList(pPhase).State());
     EXPECT_EQ(1, Compare1(pPhase->Named("a"), pPhase->Named("c")));
 
     const auto pOther = AtomRef::Adopt(new FakeAtom("b2"));
@@ -83,7 +83,7 @@ TEST_F(ListOrderTest, ANameOfAnImpossibleLengthIsReportedAndEqualToAnyOther)
 {
     FakeContainer* const pBox = MakeBox({"b", "a"});
     pBox->Named("a")->nameIsEndless = true;
-    EXPECT_EQ("b a", HideList(pBox).Names());
+    EXPECT_EQ("[b a]", HideList(pBox).State());
     const std::vector<std::string> told = desktop.TakeMessageBoxes(); // as often as the sort compares the two
     EXPECT_EQ(std::set<std::string>{": Out of memory."}, std::set<std::string>(told.begin(), told.end()));
 }

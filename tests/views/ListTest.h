@@ -16,7 +16,6 @@ public:
     const OBJPAIR* Pair(int nRow) const { return reinterpret_cast<const OBJPAIR*>(GetItemData(nRow)); }
     // "[a *b (c)]": every row's atom, * when it is selected, () when it has the focus; - for a row without an atom.
     std::string State() const;
-    std::string Names() const; // "a b c"
 
 protected:
     void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;

@@ -54,6 +54,8 @@ TEST(TreeIconSlotsTest, DrawingManyItemsAsksAboutEachOfThemOnce)
         slots.Lend(item(i), i);
     }
     EXPECT_LE(nAsked, 2000);
+    slots.ItemsHidden();
+    EXPECT_EQ(2, slots.TakeOver([](HTREEITEM) { return false; })); // the oldest
 }
 
 // A source of names that fills what it likes.

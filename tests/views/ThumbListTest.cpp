@@ -178,16 +178,12 @@ TEST_F(ThumbListTest, TheAnimatedThumbnailsTheMousePassedOverAreHeldUntilTheRows
     pAnimated->nFrames = 2;
     CThumbList& list = MakeShown();
     EXPECT_EQ(1, toolkit::CountWindows().timers);
-    const int nBefore = pAnimated->CountReferences(), nStill = a->CountReferences();
-
+    const int nBefore = pAnimated->CountReferences();
     EXPECT_FALSE(Animates(list, PointOf(list, 0))); // a single frame
     EXPECT_FALSE(Animates(list, PointOf(list, 1))); // an icon
-    EXPECT_FALSE(Animates(list, {695, 395}));
     EXPECT_TRUE(Animates(list, PointOf(list, 2)));
-    EXPECT_FALSE(Animates(list, PointOf(list, 0)));
     EXPECT_FALSE(Animates(list, PointOf(list, 2))); // known already
     EXPECT_EQ(nBefore + 1, pAnimated->CountReferences());
-    EXPECT_EQ(nStill, a->CountReferences());
 
     list.SetRootAtom(a); // no container: the view is emptied
     EXPECT_EQ(1, pAnimated->CountReferences());

@@ -38,6 +38,12 @@ TEST_F(TreeDisplayTest, LabelsAreAskedForEachTimeAndMarkWhatIsModified)
 {
     ProbeTree& tree = ShowTree();
     a->isModified = true;
+    MakeBox("wide", {std::string(1000, 'w')}); // more than the buffer has held so far
+    a->onAsked = [&] {
+        a->onAsked = nullptr;
+        tree.OnCreateAtom(world->Named("wide"), world.Get());
+        tree.OnChangeAtom(box, world.Get()); // draws
+    };
     EXPECT_EQ("a *", tree.Labels(box));
     a->displayName = "Anna";
     EXPECT_EQ("Anna *", tree.Labels(box));
@@ -108,6 +114,26 @@ TEST_F(TreeDisplayTest, AtomsWithoutAnIconShowAFolderThatIsOpenWhileItsItemIs)
     EXPECT_EQ(std::pair(0, 0), images(box->Named("big"), 0));
     EXPECT_EQ(Ledger({"icon bad at -1", "icon big at -1"}), TakeIcons()); // and are not tried again
     EXPECT_EQ(-7, Ask(tree, box, TVIF_SELECTEDIMAGE).iSelectedImage);
+}
+
+TEST_F(TreeDisplayTest, ImagesAreLentToItemsThatAreShown)
+{
+    for (const char* pszName : {"i", "j"})
+        AddIcon(box, pszName);
+    ProbeTree& tree = ShowTree();
+    EXPECT_EQ(Ledger({"icon i at -1", "icon j at -1"}), TakeIcons());
+    const auto draw = [&](const char* pszName) {
+        tree.OnCreateAtom(AddIcon(world.Get(), pszName), world.Get());
+        tree.UpdateWindow();
+    };
+    Select(tree, box->Named("i"));
+    editor.onNotify = [&](AEStateOperation operation, IAtom*) {
+        if (operation == &IAEStateHandler::OnAtomDeselected)
+            draw("k");
+    };
+    tree.Expand(tree.GetItem(box), TVE_COLLAPSE); // hides what is selected: already as that is told
+    draw("l");
+    EXPECT_EQ(Ledger({"icon k at 2", "icon l at 3"}), TakeIcons());
 }
 
 } // namespace

@@ -65,11 +65,6 @@ ProbeTree& TreeTest::ShowTree(bool bPassive)
     return tree;
 }
 
-void TreeTest::Expand(ProbeTree& tree, FakeAtom* pAtom)
-{
-    EXPECT_TRUE(tree.Expand(tree.GetItem(pAtom), TVE_EXPAND)) << pAtom->name;
-}
-
 void TreeTest::Click(ProbeTree& tree, FakeAtom* pAtom)
 {
     desktop.Click(tree.m_hWnd, tree.PointOf(pAtom));

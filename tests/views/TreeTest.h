@@ -32,7 +32,6 @@ protected:
     ProbeTree& MakeTree(bool bPassive = false); // created and shown, with nothing in it
     ProbeTree& ShowTree(bool bPassive = false); // the world and what is in it, expanded; all news taken
 
-    static void Expand(ProbeTree& tree, FakeAtom* pAtom);
     void Click(ProbeTree& tree, FakeAtom* pAtom);        // on its label
     void Select(ProbeTree& tree, FakeAtom* pAtom);       // by the editor; all news taken
     void Remove(ProbeTree& tree, FakeAtom* pAtom) const; // as its container's member
