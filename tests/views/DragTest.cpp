@@ -2,7 +2,6 @@
 #include "Toolkit/ole/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/views/ListTest.h"
-#include "tests/views/TransferTest.h"
 #include "tests/views/TreeTest.h"
 
 #include <algorithm>
@@ -253,6 +252,11 @@ TEST_F(DragTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
          {"box renames b to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(b in box)"})
         EXPECT_EQ(1, std::ranges::count(told, pszLine)) << pszLine;
     EXPECT_EQ("[(*c) x]", list->State());
+
+    ASSERT_TRUE(list->OnAtomRename(nullptr, nullptr));
+    pBox->Named("c")->name = "c!";
+    desktop.Key(VK_RETURN); // the field left as it is undoes nothing
+    EXPECT_EQ("c! x", Members(pBox));
 
     tree->SelectItem(tree->GetItem(pBag));
     list->SetRootAtom(pBox); // it has followed the tree

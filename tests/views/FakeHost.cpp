@@ -45,9 +45,7 @@ std::string Word(std::integral auto number)
     return std::to_string(number);
 }
 
-// All the parts, one after the other.
-template <class... Parts>
-std::string Words(const Parts&... parts)
+std::string Words(const auto&... parts) // one after the other
 {
     return (Word(parts) + ...);
 }

@@ -6,7 +6,7 @@
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"
-#include "tests/views/TransferTest.h"
+#include "tests/views/ViewTest.h"
 
 #include <csignal>
 #include <cstdlib>

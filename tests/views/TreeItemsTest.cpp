@@ -48,6 +48,39 @@ TEST_F(TreeItemsTest, AClickIsAskedForAndToldAfterTheFocusHasReassertedTheOldSel
     EXPECT_EQ(Ledger(), editor.TakeLedger());
 }
 
+TEST_F(TreeItemsTest, AFocusThatIsRefusedGoesBackWhereThereIsAWindowAndIsForgottenAfterTheChange)
+{
+    ProbeTree& tree = ShowTree();
+    Select(tree, a);
+    editor.active = CStubRef<IAtom>::Share(b);
+    const Ledger reassert{"nobody asks PreSaveAtom(world in -)", "tree asks OnAtomSelecting(a in box)",
+                          "tree tells OnAtomSelected(a in box)"};
+    const auto told = [&](AEStateOperation refused, const std::function<void()>& deed) {
+        editor.Allow();
+        editor.TakeLedger();
+        if (refused)
+            editor.Veto(refused);
+        deed();
+        editor.Allow();
+        return editor.TakeLedger();
+    };
+    ::SetFocus(nullptr);
+    told(&IAEStateHandler::OnAtomSelecting, [&] { Click(tree, b); });
+    EXPECT_TRUE(HasFocus(tree));
+    EXPECT_EQ("world! [box! [*a! b c]]", tree.State());
+    field.SetFocus();
+    EXPECT_EQ(Ledger({reassert[0], reassert[1]}), told(&IAEStateHandler::OnAtomSelecting, [&] { Click(tree, b); }));
+    EXPECT_TRUE(HasFocus(field));
+
+    told(&IAEStateHandler::OnAtomDeselecting, [&] { tree.OnAtomEntered(b, box); });
+    field.SetFocus();
+    EXPECT_EQ(reassert, told(nullptr, [&] { Click(tree, a); }));
+    field.SetFocus();
+    told(&IAEStateHandler::PreSaveAtom, [&] { tree.OnAtomEntered(b, box); });
+    told(&IAEStateHandler::PreSaveAtom, [&] { tree.OnAtomEntered(a, box); });
+    EXPECT_EQ(reassert, told(nullptr, [&] { Click(tree, a); }));
+}
+
 TEST_F(TreeItemsTest, TheSelectedAtomIsGivenWithReferencesAloneOrAsTheOneActivePair)
 {
     ProbeTree& tree = ShowTree();

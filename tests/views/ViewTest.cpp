@@ -1,6 +1,10 @@
 #include "tests/views/ViewTest.h"
 
 #include "Kernel/Kernel.h"
+#include "Toolkit/base/GlobalMemory.h"
+#include "Toolkit/ole/ClipboardFormat.h"
+
+#include <cstdlib>
 
 ViewTest::ViewTest() : world(ContainerRef::Adopt(new FakeContainer("world")))
 {
@@ -34,4 +38,32 @@ FakeContainer* ViewTest::MakeBox(const std::string& strName, const std::vector<s
     for (const std::string& strMember : names)
         pBox->Add(strMember);
     return pBox;
+}
+
+TransferTest::TransferTest() : pBox(MakeBox("box", {"a", "b", "c"})), pBag(MakeBox("bag", {"d"}))
+{
+    setenv("TEMP", folder.Path().c_str(), 1);
+    resources.AddString(0xE012, "It was not renamed");
+    resources.AddString(0xE013, "Remove?");
+    editor.format = RegisterClipboardFormat("Atoms of the fake");
+    for (FakeContainer* p : {pBox, pBag}) {
+        p->permissions = APF_ACCEPT | APF_REMOVE | APF_RENAME;
+        p->pLedger = &editor.ledger;
+    }
+}
+
+TransferTest::~TransferTest()
+{
+    unsetenv("TEMP");
+    editor.pairs.clear();
+    EXPECT_EQ("", folder.Everything());
+    EXPECT_EQ(0, toolkit::CountGlobalBlocks());
+}
+
+std::string TransferTest::Members(const FakeContainer* pIn)
+{
+    std::string strNames;
+    for (const AtomRef& p : pIn->members)
+        strNames += (strNames.empty() ? "" : " ") + p->name;
+    return strNames;
 }

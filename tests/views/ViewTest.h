@@ -3,7 +3,9 @@
 
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/window/Wnd.h"
+#include "tests/editor/TempFolder.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/views/FakeArchive.h"
 #include "tests/views/FakeHost.h"
 
 // At its end the derived fixture's views must be gone; the test fails for every reference, handler and message box
@@ -36,4 +38,21 @@ protected:
     CWnd frame;
     CWnd field; // something else in the frame that can have the focus
     ContainerRef world;
+};
+
+// A box (a, b, c) and a bag (d) that let all in and out and write down what they are asked, archives, and a folder for
+// transfer files that must be empty at the end.
+class TransferTest : public ViewTest
+{
+protected:
+    TransferTest();
+    ~TransferTest() override;
+
+    static std::string Members(const FakeContainer* pIn);
+    std::ptrdiff_t CountFiles() const { return std::distance(std::filesystem::directory_iterator(folder.Path()), {}); }
+
+    TempFolder folder;
+    FakeArchives archives;
+    FakeContainer* const pBox;
+    FakeContainer* const pBag;
 };
