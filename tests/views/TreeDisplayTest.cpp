@@ -120,20 +120,27 @@ TEST_F(TreeDisplayTest, ImagesAreLentToItemsThatAreShown)
 {
     for (const char* pszName : {"i", "j"})
         AddIcon(box, pszName);
-    ProbeTree& tree = ShowTree();
-    EXPECT_EQ(Ledger({"icon i at -1", "icon j at -1"}), TakeIcons());
-    const auto draw = [&](const char* pszName) {
-        tree.OnCreateAtom(AddIcon(world.Get(), pszName), world.Get());
-        tree.UpdateWindow();
-    };
-    Select(tree, box->Named("i"));
-    editor.onNotify = [&](AEStateOperation operation, IAtom*) {
-        if (operation == &IAEStateHandler::OnAtomDeselected)
-            draw("k");
-    };
-    tree.Expand(tree.GetItem(box), TVE_COLLAPSE); // hides what is selected: already as that is told
-    draw("l");
-    EXPECT_EQ(Ledger({"icon k at 2", "icon l at 3"}), TakeIcons());
+    for (const bool bSelectedInside : {false, true}) {
+        ProbeTree& tree = ShowTree();
+        EXPECT_EQ(Ledger({"icon i at -1", "icon j at -1"}), TakeIcons());
+        Select(tree, bSelectedInside ? box->Named("i") : world.Get());
+        const auto draw = [&] {
+            FakeAtom* const pNew = AddIcon(MakeBox("other", {}), "k");
+            tree.OnCreateAtom(pNew, nullptr);
+            tree.UpdateWindow();
+        };
+        editor.onNotify = [&](AEStateOperation operation, IAtom*) {
+            if (operation == &IAEStateHandler::OnAtomDeselected)
+                draw();
+        };
+        tree.Expand(tree.GetItem(box), TVE_COLLAPSE); // tells of what it hides already as its selection goes
+        editor.onNotify = nullptr;
+        if (!bSelectedInside)
+            draw();
+        EXPECT_EQ(Ledger({"icon k at 2"}), TakeIcons());
+        tree.DestroyWindow();
+        world->members.pop_back();
+    }
 }
 
 } // namespace
