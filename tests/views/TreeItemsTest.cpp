@@ -79,6 +79,15 @@ TEST_F(TreeItemsTest, AFocusThatIsRefusedGoesBackWhereThereIsAWindowAndIsForgott
     told(&IAEStateHandler::PreSaveAtom, [&] { tree.OnAtomEntered(b, box); });
     told(&IAEStateHandler::PreSaveAtom, [&] { tree.OnAtomEntered(a, box); });
     EXPECT_EQ(reassert, told(nullptr, [&] { Click(tree, a); }));
+
+    field.SetFocus();
+    editor.onNotify = [this](AEStateOperation operation, IAtom*) {
+        if (operation == &IAEStateHandler::OnAtomDeselecting)
+            editor.Allow(); // the focus, when it is taken again for the incoming item
+    };
+    const Ledger accepted = told(&IAEStateHandler::PreSaveAtom, [&] { tree.OnAtomEntered(b, box); });
+    EXPECT_EQ(0, std::ranges::count(accepted, reassert[1]));
+    EXPECT_TRUE(HasFocus(tree));
 }
 
 TEST_F(TreeItemsTest, TheSelectedAtomIsGivenWithReferencesAloneOrAsTheOneActivePair)
