@@ -177,6 +177,21 @@ TEST_F(TreeItemsTest, AnAtomAnnouncedTwiceHasTwoItemsAndTheSecondIsTheOneThatCou
     EXPECT_EQ("world [box [b c]]", tree.State());
 }
 
+TEST_F(TreeItemsTest, OnDemandMembersComeWhenTheyAreAskedForAndThenOnlyTheNewOnes)
+{
+    ProbeTree& tree = MakeTree();
+    tree.ShowMembersOnDemand();
+    tree.OnCreateAtom(world.Get(), nullptr);
+    EXPECT_FALSE(tree.OnCreateAtom(box, world.Get()));
+    EXPECT_EQ("world", tree.State());
+    EXPECT_TRUE(tree.ShowMembers(world.Get()));
+    EXPECT_TRUE(tree.ShowMembers(box));
+    box->Add("A new one");
+    EXPECT_TRUE(tree.ShowMembers(box));
+    EXPECT_EQ("world [box [a A new one b c]]", tree.State());
+    EXPECT_FALSE(tree.ShowMembers(b));
+}
+
 TEST_F(TreeItemsTest, AnItemThatTheControlRefusesIsReportedAndNothingIsKept)
 {
     const auto pAtom = AtomRef::Adopt(new FakeAtom("a"));

@@ -11,6 +11,8 @@ public:
     ~ProbeTree() override { DestroyWindow(); }
 
     using CObjectsTree::GetItem;
+    using CObjectsTree::ShowMembers;
+    using CObjectsTree::ShowMembersOnDemand;
     // "box! [a *b! c]": items by their atoms' names, * the selected one, ! the bold ones, [] around children; - for an
     // item without an atom.
     std::string State(HTREEITEM hParent = TVI_ROOT) const;
