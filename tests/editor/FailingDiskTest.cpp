@@ -28,6 +28,11 @@ struct Command
     const char* pszLine;   // what the disk fails under; NULL: the saving of a phase
 };
 
+void PrintTo(const Command& command, std::ostream* pStream)
+{
+    *pStream << command.pszName;
+}
+
 // What a process of its own leaves behind, however it ends.
 struct Outcome
 {

@@ -142,10 +142,9 @@ TEST_F(HostTest, OnlyASecondBlockBlocksTheFocus)
         EXPECT_TRUE(FocusBlock::IsInFocusBlock());
     }
     EXPECT_FALSE(FocusBlock::IsInFocusBlock());
-    void* const hViews = dlopen("libViews.so", RTLD_LAZY | RTLD_NOLOAD);
     for (const char* pszOperation : {"C1Ev", "D1Ev", "aSERKS_", "14IsInFocusBlockEv"})
-        EXPECT_NE(nullptr, dlsym(hViews, (std::string("_ZN10FocusBlock") + pszOperation).c_str())) << pszOperation;
-    dlclose(hViews);
+        EXPECT_NE(nullptr, dlsym(RTLD_DEFAULT, (std::string("_ZN10FocusBlock") + pszOperation).c_str()))
+            << pszOperation;
     static_assert(sizeof(FocusBlock) == 1 && !std::is_copy_constructible_v<FocusBlock>);
 }
 
