@@ -1,4 +1,6 @@
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/controls/list/ListCtrl.h"
+#include "Toolkit/controls/tree/TreeCtrl.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"
@@ -129,6 +131,15 @@ TEST_F(WindowTest, AnExceptionInAHandlerIsReportedOnceAndEndsThere)
     child.At(WM_CREATE, [] { AfxThrowMemoryException(); });
     EXPECT_FALSE(child.Show(&frame, {0, 0, 10, 10}));
     EXPECT_EQ(std::vector<std::string>(), desktop.TakeMessageBoxes());
+}
+
+TEST_F(WindowTest, AnObjectWithoutAWindowAnswersThatThereIsNone)
+{
+    UINT nFlags = 0;
+    EXPECT_EQ(-1, CListCtrl().GetNextItem(-1, LVNI_SELECTED));
+    EXPECT_EQ(-1, CListCtrl().HitTest({1, 1}, &nFlags));
+    EXPECT_EQ(nullptr, CTreeCtrl().HitTest({1, 1}, &nFlags));
+    EXPECT_EQ(nullptr, CTreeCtrl().SetFocus());
 }
 
 TEST_F(WindowTest, RunningOutOfMemoryLeavesNoHalfWindow)
