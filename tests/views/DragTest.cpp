@@ -1,6 +1,7 @@
 // Dragging atoms out of the views and dropping them on them, their menus, and renaming in place.
 #include "Toolkit/ole/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
+#include "Views/tree/TreeDropTarget.h"
 #include "tests/views/ListTest.h"
 #include "tests/views/TreeTest.h"
 
@@ -152,6 +153,10 @@ TEST_F(DragTest, TheHighlightFollowsTheDragWhereItWouldBeTaken)
 
 TEST_F(DragTest, WhatHoldsNoAtomsIsNotTaken)
 {
+    COleDataObject none; // and a target without a view takes nothing
+    EXPECT_FALSE(CTreeDropTarget().OnDrop(nullptr, &none, DROPEFFECT_MOVE, {}));
+    EXPECT_FALSE(CListDropTarget().OnDrop(nullptr, &none, DROPEFFECT_MOVE, {}));
+
     const auto tryDrop = [&](const CWnd& wnd, CPoint at) {
         desktop.MoveTo(wnd.m_hWnd, at);
         EXPECT_EQ(Ledger({"-> 0"}), MoveOver(wnd, at + CPoint(1, 0)));
