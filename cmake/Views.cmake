@@ -22,7 +22,10 @@ function(views_library name prefix)
     target_link_options(${name} PRIVATE $<$<NOT:$<BOOL:${VIEWS_SANITIZE}>>:-Wl,--no-undefined>)
     # Nobody puts functions of his own in the place of a library's, so inside it they are called without detours.
     target_link_options(${name} PRIVATE $<$<CONFIG:Release>:-Wl,-Bsymbolic-functions>)
-    string(REGEX REPLACE "^ViewsViews$" Views file Views${name})
+    set(file Views${name})
+    if(name STREQUAL Views)
+        set(file Views)
+    endif()
     set_target_properties(${name} PROPERTIES OUTPUT_NAME ${file} INSTALL_RPATH "$ORIGIN"
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
 endfunction()
