@@ -113,16 +113,10 @@ void FrameCommands::PasteHere()
 
 bool FrameCommands::SaveOrTell()
 {
-    const std::string failure = Save();
+    const std::string failure = m_parts.modified.Save();
+    m_parts.updateStatus();
     ShowFailure(IDS_SAVE_FAILED, failure);
     return failure.empty();
-}
-
-std::string FrameCommands::Save()
-{
-    std::string failure = m_parts.modified.Save();
-    m_parts.updateStatus();
-    return failure;
 }
 
 std::string FrameCommands::Cut()

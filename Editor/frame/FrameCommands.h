@@ -32,7 +32,6 @@ public:
     std::string Cut();
     std::string Remove();
     std::string Paste(); // into the container that is shown
-    std::string Save();  // all phases that are modified; the reason for the first that was not saved
     std::string RefreshQuietly();
     // These members of the container that is shown and no others. The views hear of the last alone, however many.
     void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
@@ -42,7 +41,7 @@ public:
     void CutSelection();
     void RemoveSelection(); // asks first
     void PasteHere();
-    bool SaveOrTell();   // was all saved?
+    bool SaveOrTell();   // all phases that are modified; were all saved?
     void OpenSelected(); // the one that is
     void RenameSelected();
     void SelectAll(); // in the list

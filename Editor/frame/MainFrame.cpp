@@ -59,10 +59,9 @@ BOOL CMainFrame::Create(CSize client)
 // The former library goes when nothing of it is selected any more.
 void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 {
-    const auto pFormer = std::exchange(m_pLibrary, CStubRef<CLibrary>::Share(pLibrary));
+    const CStubRef<CMember> pFormer = m_navigation.SetTop(pLibrary);
     m_editor.AddTop(pLibrary);
     m_tree.ExpandAtom(pLibrary);
-    m_navigation.SetTop(pLibrary);
     m_navigation.GoToTop();
     if (pFormer)
         m_editor.RemoveTop(pFormer.Get());
@@ -235,8 +234,7 @@ CPropertiesPane::Phases CMainFrame::SelectedPhases() const
 
 bool CMainFrame::MayClose()
 {
-    if (m_properties.HasFocus())
-        m_content.TakeFocus();
+    LeaveFields();
     const std::string question = m_modified.SaveQuestion();
     if (question.empty())
         return true;

@@ -75,7 +75,8 @@ private:
     void OpenFocused(); // the list's focused row
     void FocusNextPane();
     void SaveByKey();
-    bool MayClose(); // asks what is to become of phases that are modified
+    void LeaveFields(); // which enters what was typed
+    bool MayClose();    // asks what is to become of phases that are modified
     void AwaitNextCheck();
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
@@ -94,7 +95,6 @@ private:
     DWORD m_dwHandlerCookie = 0;
     Navigation m_navigation;
     ModifiedPhases m_modified;
-    CStubRef<CLibrary> m_pLibrary;
     CStubRef<CMember> m_pCreated;         // what came last, until the next news
     FrameCommands::Position m_beforeMove; // while a drag's originals go
     DraggedOut m_draggedOut;

@@ -83,9 +83,14 @@ void CMainFrame::OpenFocused()
 
 void CMainFrame::SaveByKey()
 {
-    if (m_properties.HasFocus())
-        m_content.TakeFocus(); // which enters what was typed
+    LeaveFields();
     m_commands.SaveOrTell();
+}
+
+void CMainFrame::LeaveFields()
+{
+    if (m_properties.HasFocus())
+        m_content.TakeFocus();
 }
 
 void CMainFrame::FocusNextPane()

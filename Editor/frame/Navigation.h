@@ -5,6 +5,7 @@
 #include "Editor/services/AtomEditor.h"
 
 #include <functional>
+#include <utility>
 
 namespace editor
 {
@@ -24,7 +25,10 @@ public:
     CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
     std::vector<CMember*> Path() const;               // from the top to what is shown; borrowed
 
-    void SetTop(CMember* pTop) { m_pTop = CStubRef<CMember>::Share(pTop); }
+    CStubRef<CMember> SetTop(CMember* pTop)
+    {
+        return std::exchange(m_pTop, CStubRef<CMember>::Share(pTop));
+    } // the former
     void SetShown(CMember* pMember) { m_pShown = CStubRef<CMember>::Share(pMember); }
 
     void GoTo(CMember* pMember); // opens it, whatever it is

@@ -64,19 +64,23 @@ std::string Script::RunLine(std::string_view line)
         return trouble;
     const std::string command = words.front();
     words.erase(words.begin());
-    const auto known = std::find_if(std::begin(kCommands), std::end(kCommands),
-                                    [&](const Command& one) { return command == one.pszName; });
-    const bool bOwn = known != std::end(kCommands);
-    const CommandEntry* const pShared = bOwn ? nullptr : FindCommandOfWord(command);
-    if (!bOwn && !pShared)
-        return command + ": unknown command";
-    if (bOwn && words.size() < known->nLeast)
-        return command + ": something is missing behind it";
-    if (words.size() > (bOwn ? known->nMost : 0))
-        return command + ": there is too much behind it";
-    const std::string reason = bOwn ? (this->*known->run)(words) : (Frame().GetCommands().*pShared->runQuietly)();
+    const std::string reason = RunCommand(command, words);
     m_app.WaitUntilSettled(m_outside.isToEnd);
     return reason.empty() ? reason : command + ": " + reason;
+}
+
+std::string Script::RunCommand(const std::string& command, const Words& words)
+{
+    const CommandEntry* const pShared = FindCommandOfWord(command);
+    const auto own = std::find_if(std::begin(kCommands), std::end(kCommands),
+                                  [&](const Command& one) { return command == one.pszName; });
+    if (!pShared && own == std::end(kCommands))
+        return "unknown command";
+    if (!pShared && words.size() < own->nLeast)
+        return "something is missing behind it";
+    if (words.size() > (pShared ? 0 : own->nMost))
+        return "there is too much behind it";
+    return pShared ? (Frame().GetCommands().*pShared->runQuietly)() : (this->*own->run)(words);
 }
 
 CMainFrame& Script::Frame() const

@@ -41,6 +41,7 @@ private:
     static const Command kCommands[]; // besides those that the frame has, too (FindCommandOfWord)
 
     std::string RunLine(std::string_view line);
+    std::string RunCommand(const std::string& command, const Words& words);
     CMainFrame& Frame() const;
     std::string Find(const std::string& name, CStubRef<CMember>& pFound) const; // in the container that is shown
 
