@@ -58,6 +58,7 @@ std::string EditorApp::OpenFolder(const std::string& path)
     const CStubRef<CLibrary> pLibrary = CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error);
     if (!pLibrary)
         return error;
+    pLibrary->SetHistory(&m_parts->atomEditor.GetHistory());
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
     if (!GetMainWindow()) {
         pFrame = std::make_unique<CMainFrame>(m_parts->atomEditor, *m_parts->pPictures, m_parts->options.onClosed);

@@ -1,5 +1,7 @@
 #include "Editor/disk/DiskFile.h"
 
+#include "Toolkit/base/Text.h"
+
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
@@ -29,6 +31,15 @@ int RenameWithCare(int nFrom, const char* pszFrom, int nTo, const char* pszTo)
     if (errno == EEXIST)
         return EEXIST;
     return renameat(nFrom, pszFrom, nTo, pszTo) == 0 ? 0 : errno;
+}
+
+// One file under two spellings, as a file system has it that does not tell upper from lower case.
+bool IsOtherSpelling(int nFolder, const std::string& a, const std::string& b)
+{
+    struct stat first, second;
+    return toolkit::CompareNoCase(a, b) == 0 && fstatat(nFolder, a.c_str(), &first, AT_SYMLINK_NOFOLLOW) == 0 &&
+           fstatat(nFolder, b.c_str(), &second, AT_SYMLINK_NOFOLLOW) == 0 && first.st_dev == second.st_dev &&
+           first.st_ino == second.st_ino;
 }
 
 } // namespace
@@ -73,6 +84,17 @@ int RenameWithoutReplacing(int nFrom, const std::string& from, int nTo, const st
     if (errno != EINVAL && errno != ENOSYS)
         return errno;
     return RenameWithCare(nFrom, from.c_str(), nTo, to.c_str());
+}
+
+int RenameInFolder(const std::string& folder, const std::string& from, const std::string& to)
+{
+    const FileDescriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!handle)
+        return errno;
+    const int error = RenameWithoutReplacing(handle.Get(), from, handle.Get(), to);
+    if (error != EEXIST || !IsOtherSpelling(handle.Get(), from, to))
+        return error;
+    return renameat(handle.Get(), from.c_str(), handle.Get(), to.c_str()) == 0 ? 0 : errno;
 }
 
 } // namespace editor

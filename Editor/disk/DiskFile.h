@@ -51,5 +51,7 @@ int WriteAll(int fd, std::string_view bytes);
 // Gives a file or folder another name, also in another folder of the same file system. EEXIST when there is
 // something of that name already; nothing is ever replaced. The error number; 0: none.
 int RenameWithoutReplacing(int nFrom, const std::string& from, int nTo, const std::string& to);
+// The same in its folder, where a name may also change to another spelling of itself.
+int RenameInFolder(const std::string& folder, const std::string& from, const std::string& to);
 
 } // namespace editor

@@ -26,7 +26,6 @@ constexpr std::string_view kInfoEnding = ".trashinfo";
 constexpr std::size_t kLongestEnding = 15;                        // of a name, that is kept as an extension
 constexpr std::size_t kLongestStem = kLongestName - 15 - 10 - 10; // leaves room for an extension, a number, the above
 int g_nAllowed = 0, g_nMissed = 0;
-TrashPlace g_trashed;
 
 // One trash; what lies on another file system than it cannot be moved there.
 struct Trash
@@ -164,10 +163,10 @@ std::string InfoFor(const Trash& trash, const std::string& path)
 }
 
 // In the info folder first, which decides who has the name. EEXIST: somebody was faster.
-int PutInto(const Trash& trash, const std::string& path, const std::string& name)
+int PutInto(const Trash& trash, const std::string& path, const std::string& name, TrashPlace& place)
 {
     const std::string info = trash.path + "/info/" + name + std::string(kInfoEnding);
-    TrashPlace place{trash.path, name};
+    TrashPlace there{trash.path, name};
     FileDescriptor handle(open(info.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, S_IRUSR | S_IWUSR));
     if (!handle)
         return errno;
@@ -179,7 +178,7 @@ int PutInto(const Trash& trash, const std::string& path, const std::string& name
     if (error != 0)
         unlink(info.c_str());
     else
-        g_trashed = std::move(place);
+        place = std::move(there);
     return error;
 }
 
@@ -190,7 +189,7 @@ bool Exists(const std::string& path)
 }
 
 // Names that are in the trash already are counted up. The error number; 0: it is there.
-int PutUnderFreeName(const Trash& trash, const std::string& path)
+int PutUnderFreeName(const Trash& trash, const std::string& path, TrashPlace& place)
 {
     const fs::path file(path);
     const std::string ending = file.extension().string();
@@ -204,7 +203,7 @@ int PutUnderFreeName(const Trash& trash, const std::string& path)
     };
     int error = EEXIST;
     while (error == EEXIST)
-        error = PutInto(trash, path, AnyNameForCopy(stem + extension, extension, isTaken));
+        error = PutInto(trash, path, AnyNameForCopy(stem + extension, extension, isTaken), place);
     return error;
 }
 
@@ -218,35 +217,26 @@ TrashResult MoveToTrash(const std::string& path)
     const std::string folder = fs::canonical(fs::path(path).parent_path(), missing).string();
     struct stat status;
     if (missing || stat(folder.c_str(), &status) != 0)
-        return {SystemErrorText(missing ? missing.value() : errno), false};
+        return {SystemErrorText(missing ? missing.value() : errno), false, {}};
     const std::string real = (fs::path(folder) / fs::path(path).filename()).string();
     std::string top;
     if (std::string trouble = FindTop(folder, status.st_dev, top); !trouble.empty())
-        return {std::move(trouble), false};
+        return {std::move(trouble), false, {}};
     int failure = 0; // of the first that is missed
+    TrashPlace place;
     for (const Trash& trash : TrashesFor(top, status.st_dev)) {
         bool bNone = false;
         if (const int error = MakeTrash(trash, bNone); error != 0) {
             failure = failure == 0 && !bNone ? error : failure;
             continue;
         }
-        const int error = IsSameDevice(trash.path, status.st_dev) ? PutUnderFreeName(trash, real) : EXDEV;
+        const int error = IsSameDevice(trash.path, status.st_dev) ? PutUnderFreeName(trash, real, place) : EXDEV;
         if (error != EXDEV) // one file system mounted twice counts as two
-            return {error == 0 ? std::string() : SystemErrorText(error), false};
+            return {error == 0 ? std::string() : SystemErrorText(error), false, std::move(place)};
     }
     if (failure != 0)
-        return {"not removed, the trash cannot be made: " + SystemErrorText(failure), false};
-    return {"not removed, there is no trash on its file system", true};
-}
-
-TrashPlace TakeTrashed()
-{
-    return std::exchange(g_trashed, {});
-}
-
-void ForgetTrashed()
-{
-    g_trashed = {};
+        return {"not removed, the trash cannot be made: " + SystemErrorText(failure), false, {}};
+    return {"not removed, there is no trash on its file system", true, {}};
 }
 
 int TakeFromTrash(const TrashPlace& place, const std::string& path)
@@ -273,14 +263,15 @@ bool PermanentRemoval::IsAllowed()
     return g_nAllowed > 0;
 }
 
-std::string RemoveFromDisk(const std::string& path)
+std::string RemoveFromDisk(const std::string& path, TrashPlace& place)
 {
     if (!Exists(path) && errno == ENOENT)
         return {};
     const fs::path file(path);
     if (eaccess(file.parent_path().c_str(), W_OK | X_OK) != 0)
         return SystemErrorText(errno);
-    const TrashResult result = MoveToTrash(path);
+    TrashResult result = MoveToTrash(path);
+    place = std::move(result.place);
     if (!result.isNoTrash || !PermanentRemoval::IsAllowed()) {
         g_nMissed += result.isNoTrash;
         return result.reason;

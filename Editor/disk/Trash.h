@@ -11,20 +11,17 @@ namespace editor
 // Nothing is ever copied. Empty when it is there. Else nothing has changed, `reason` tells why, and `isNoTrash`
 // whether it is only that this file system has no trash, and none can be on it for this user: a trash that cannot be
 // made because the disk is full or broken, or the user's home is protected, is missed.
-struct TrashResult
-{
-    std::string reason;
-    bool isNoTrash = false;
-};
-TrashResult MoveToTrash(const std::string& path);
-
-// Where something is in a trash.
 struct TrashPlace
 {
     std::string trash, name; // empty: nowhere
 };
-TrashPlace TakeTrashed(); // of what was moved to a trash last, told once
-void ForgetTrashed();
+struct TrashResult
+{
+    std::string reason;
+    bool isNoTrash = false;
+    TrashPlace place; // where it is now
+};
+TrashResult MoveToTrash(const std::string& path);
 // Moves it back, and leaves nothing of it in the trash. The error number; EEXIST when the path is taken.
 int TakeFromTrash(const TrashPlace& place, const std::string& path);
 
@@ -43,8 +40,8 @@ public:
 };
 
 // Moves it to the trash or, when that is allowed, removes it for good. Empty when it is gone from its place, also
-// when it was not there any more; else the reason.
-std::string RemoveFromDisk(const std::string& path);
+// when it was not there any more; else the reason. `place` is where it is in the trash, if it is.
+std::string RemoveFromDisk(const std::string& path, TrashPlace& place);
 // How many removals were refused so far only because there was no trash for what was to go.
 int CountMissedTrashes();
 

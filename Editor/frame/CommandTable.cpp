@@ -16,6 +16,9 @@ using Run = FrameCommands;
 // In the menu's order.
 constexpr CommandEntry kCommands[] = {
     {ID_OPEN, "&Open", true, VK_RETURN, With::Views, &State::canOpen, &Run::OpenSelected, nullptr, nullptr},
+    {ID_UNDO, "&Undo", true, 'Z', With::Control, &State::canUndo, &Run::UndoOrTell, "undo", &Run::Undo},
+    {ID_REDO, "Re&do", false, 'Z', With::ControlShift, &State::canRedo, &Run::RedoOrTell, "redo", &Run::Redo},
+    {ID_REDO, nullptr, false, 'Y', With::Control, &State::canRedo, &Run::RedoOrTell, nullptr, nullptr},
     {ID_CUT, "Cu&t", true, 'X', With::Control, &State::canRemove, &Run::CutSelection, "cut", &Run::Cut},
     {ID_COPY, "&Copy", false, 'C', With::Control, &State::canCarry, &Run::CopySelection, "copy", &Run::Copy},
     {ID_PASTE, "&Paste", false, 'V', With::Control, &State::canPaste, &Run::PasteHere, "paste", &Run::Paste},
@@ -41,7 +44,9 @@ bool IsGivenBy(With with, bool bControl, bool bShift)
     case With::Nothing:
         return !bControl && !bShift;
     case With::Control:
-        return bControl;
+        return bControl && !bShift;
+    case With::ControlShift:
+        return bControl && bShift;
     case With::Whatever:
         return true;
     case With::Views:
@@ -61,8 +66,18 @@ std::string KeyText(const CommandEntry& command)
     case VK_F5:
         return "F" + std::to_string(command.vkey - VK_F1 + 1);
     default:
-        return std::string("Ctrl+") + static_cast<char>(command.vkey);
+        return std::string(command.with == With::ControlShift ? "Ctrl+Shift+" : "Ctrl+") +
+               static_cast<char>(command.vkey);
     }
+}
+
+// " rename of "walk.png"" behind what takes a step back or does it again. What is an & there is none of the menu's.
+std::string StepOf(const CommandEntry& command, const CommandState& state)
+{
+    std::string name = command.nID == ID_UNDO ? state.undo : command.nID == ID_REDO ? state.redo : std::string();
+    for (std::size_t at = name.find('&'); at != name.npos; at = name.find('&', at + 2))
+        name.insert(at, 1, '&');
+    return name.empty() ? name : ' ' + name;
 }
 
 } // namespace
@@ -93,7 +108,7 @@ std::unique_ptr<CMenu> MakeContextMenu(const CommandState& state)
             continue;
         if (command.bSection && &command != kCommands)
             pMenu->AppendMenu(MF_SEPARATOR);
-        const std::string text = command.pszMenu + ('\t' + KeyText(command));
+        const std::string text = command.pszMenu + StepOf(command, state) + '\t' + KeyText(command);
         pMenu->AppendMenu(MF_STRING | (state.*command.pCan ? MF_ENABLED : MF_GRAYED), command.nID, text.c_str());
     }
     return pMenu;

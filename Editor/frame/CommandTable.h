@@ -24,13 +24,16 @@ inline constexpr UINT ID_SELECT_ALL = 3007;
 inline constexpr UINT ID_REFRESH = 3008;
 inline constexpr UINT ID_ICONS = 3009;
 inline constexpr UINT ID_THUMBNAILS = 3010;
+inline constexpr UINT ID_UNDO = 3011;
+inline constexpr UINT ID_REDO = 3012;
 
 // What can be done just now; all else is grayed.
 struct CommandState
 {
     bool canOpen = false, canCarry = false, canRemove = false, canRename = false, canPaste = false;
-    bool canSelectAll = false;
+    bool canSelectAll = false, canUndo = false, canRedo = false;
     bool always = true;
+    std::string undo, redo; // which step
 };
 
 struct CommandEntry
@@ -39,6 +42,7 @@ struct CommandEntry
     {
         Nothing,
         Control,
+        ControlShift,
         Whatever, // else is held down
         Views     // know it themselves
     };

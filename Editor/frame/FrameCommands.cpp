@@ -40,6 +40,10 @@ CommandState FrameCommands::GetState() const
     state.canRemove = state.canCarry && std::all_of(members.begin(), members.end(), canGo);
     state.canRename = pOne && CanRenameObject(pOne->pAtom.Get(), pOne->pContainer.Get());
     state.canPaste = navigation.ShownContainer() != nullptr;
+    state.undo = GetHistory().NameToUndo();
+    state.redo = GetHistory().NameToRedo();
+    state.canUndo = !state.undo.empty();
+    state.canRedo = !state.redo.empty();
     state.canSelectAll = !m_parts.content.IsPictureShown() && List().GetItemCount() > 0 && !List().AreAllSelected();
     return state;
 }
@@ -109,6 +113,37 @@ void FrameCommands::PasteHere()
     bool bAny = false;
     std::string reason = PasteAnd(bAny);
     ShowFailure(bAny ? IDS_PASTE_FAILED : IDS_NOTHING_PASTED, std::move(reason));
+}
+
+void FrameCommands::UndoOrTell()
+{
+    if (!GetHistory().NameToUndo().empty())
+        ShowFailure(IDS_UNDO_FAILED, Undo());
+}
+
+void FrameCommands::RedoOrTell()
+{
+    if (!GetHistory().NameToRedo().empty())
+        ShowFailure(IDS_REDO_FAILED, Redo());
+}
+
+std::string FrameCommands::Undo()
+{
+    return Take(&UndoRedo::Undo);
+}
+
+std::string FrameCommands::Redo()
+{
+    return Take(&UndoRedo::Redo);
+}
+
+std::string FrameCommands::Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&))
+{
+    UndoRedo::Atoms present;
+    std::string reason = ChangeSelection([&] { return (m_undoRedo.*step)(present); });
+    if (!present.empty())
+        SelectJust(present);
+    return reason;
 }
 
 bool FrameCommands::SaveOrTell()

@@ -5,6 +5,7 @@
 #include "Editor/frame/Content.h"
 #include "Editor/frame/ModifiedPhases.h"
 #include "Editor/frame/Navigation.h"
+#include "Editor/frame/UndoRedo.h"
 #include "Editor/services/Commands.h"
 
 namespace editor
@@ -22,9 +23,14 @@ public:
         ModifiedPhases& modified;
         std::function<void()> updateStatus;
     };
-    explicit FrameCommands(Parts parts) : m_parts(std::move(parts)), m_commands(m_parts.editor) {}
+    explicit FrameCommands(Parts parts)
+        : m_parts(std::move(parts)),
+          m_commands(m_parts.editor),
+          m_undoRedo(m_parts.editor, m_parts.pictures, m_parts.navigation, m_parts.modified)
+    {}
 
     Commands& GetPlain() { return m_commands; }
+    History& GetHistory() const { return m_parts.editor.GetHistory(); }
     CommandState GetState() const;
 
     // Nothing is asked, and the answer is the reason for what was not done.
@@ -32,6 +38,8 @@ public:
     std::string Cut();
     std::string Remove();
     std::string Paste(); // into the container that is shown
+    std::string Undo();  // the last step that was done, wherever that was
+    std::string Redo();
     std::string RefreshQuietly();
     // These members of the container that is shown and no others. The views hear of the last alone, however many.
     void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
@@ -41,6 +49,8 @@ public:
     void CutSelection();
     void RemoveSelection(); // asks first
     void PasteHere();
+    void UndoOrTell();
+    void RedoOrTell();
     bool SaveOrTell();   // all phases that are modified; were all saved?
     void OpenSelected(); // the one that is
     void RenameSelected();
@@ -65,12 +75,14 @@ private:
     std::string PasteAnd(bool& bAny); // did any object come?
     template <class Carry>
     std::string CarryAsAgreed(Carry carry);
+    std::string Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&));
     template <class Change>
     std::string ChangeSelection(Change change);
     CEditorList& List() const { return m_parts.content.GetList(); }
 
     const Parts m_parts;
     Commands m_commands;
+    UndoRedo m_undoRedo;
 };
 
 } // namespace editor

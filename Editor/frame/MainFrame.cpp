@@ -41,7 +41,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
       m_tree(ReportDrop()),
       m_properties({[this] { return SelectedPhases(); },
-                    [this](const CPropertiesPane::Phases& phases) { m_modified.Add(phases); },
+                    [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),
       m_statusBar([this] { return GetStatus(); })
 {}
@@ -59,7 +59,7 @@ BOOL CMainFrame::Create(CSize client)
 // The former library goes when nothing of it is selected any more.
 void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 {
-    const CStubRef<CMember> pFormer = m_navigation.SetTop(pLibrary);
+    const CStubRef<CLibrary> pFormer = m_navigation.SetLibrary(pLibrary);
     m_editor.AddTop(pLibrary);
     m_tree.ExpandAtom(pLibrary);
     m_navigation.GoToTop();
@@ -158,6 +158,10 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     // The frame hears of everything first; the lists, registered before the tree, show what was entered by the time
     // that the tree selects it.
     m_editor.SetFrame(this);
+    m_editor.GetHistory().SetNews([this](const std::string& line) {
+        m_news = line;
+        m_statusBar.Invalidate();
+    });
     m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
@@ -170,6 +174,7 @@ void CMainFrame::OnDestroy()
 {
     m_editor.UnregisterHandler(m_dwHandlerCookie);
     m_editor.SetFrame(nullptr);
+    m_editor.GetHistory().SetNews({});
     CWnd::OnDestroy();
 }
 
@@ -212,8 +217,10 @@ void CMainFrame::UpdateStatus()
 
 Status CMainFrame::GetStatus() const
 {
-    return m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures)
-                                      : DescribeList(m_content.GetList(), Shown(), m_pictures);
+    Status status = m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures)
+                                               : DescribeList(m_content.GetList(), Shown(), m_pictures);
+    status.news = m_news;
+    return status;
 }
 
 // Without a selection, the phase that is shown.

@@ -75,6 +75,7 @@ private:
     void OpenFocused(); // the list's focused row
     void FocusNextPane();
     void SaveByKey();
+    void ForgetNews(const MSG& message);
     void LeaveFields(); // which enters what was typed
     bool MayClose();    // asks what is to become of phases that are modified
     void AwaitNextCheck();
@@ -108,6 +109,7 @@ private:
     CEditorTree m_tree;
     CPropertiesPane m_properties;
     CStatusBar m_statusBar;
+    std::string m_news; // what the user has just done, until the next key or click
 };
 
 } // namespace editor

@@ -20,10 +20,23 @@ BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam)
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 {
+    ForgetNews(*pMsg);
     const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
     if ((bAlt || pMsg->message == WM_KEYDOWN) && HandleKey(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
+}
+
+// They tell of keys, and stay while these are looked for.
+void CMainFrame::ForgetNews(const MSG& message)
+{
+    const bool bModifier = message.wParam == VK_CONTROL || message.wParam == VK_SHIFT;
+    const bool bInput = (message.message == WM_KEYDOWN && !bModifier) || message.message == WM_LBUTTONDOWN ||
+                        message.message == WM_RBUTTONDOWN;
+    if (!bInput || m_news.empty())
+        return;
+    m_news.clear();
+    m_statusBar.Invalidate();
 }
 
 bool CMainFrame::HandleKey(HWND hWnd, UINT vkey, bool bAlt)

@@ -8,6 +8,17 @@
 namespace editor
 {
 
+void ModifiedPhases::Enter(const Phases& phases, int PhaseTiming::*number, int nValue)
+{
+    const History::Step step(&m_editor.GetHistory(), "timing");
+    for (const auto& pPhase : phases) {
+        PhaseTiming timing = pPhase->GetTiming();
+        timing.*number = nValue;
+        pPhase->ChangeTiming(timing);
+    }
+    Add(phases);
+}
+
 void ModifiedPhases::Add(const Phases& phases)
 {
     for (const auto& pPhase : phases) {
@@ -40,6 +51,14 @@ void ModifiedPhases::Forget(IAtom* pGone, CMember* pRenamed)
     *at = CStubRef<CPhase>::Share(pNow);
 }
 
+void ModifiedPhases::Follow(const std::string& from, CMember* pRenamed)
+{
+    const auto at =
+        std::find_if(m_phases.begin(), m_phases.end(), [&](const auto& pPhase) { return pPhase->Path() == from; });
+    if (at != m_phases.end())
+        Forget(CStubRef<CPhase>::Share(at->Get()).Get(), pRenamed);
+}
+
 void ModifiedPhases::ForgetGone()
 {
     std::erase_if(m_phases, [](const auto& pPhase) { return WhatIsLeftOf(pPhase.Get()) != pPhase.Get(); });
@@ -47,6 +66,7 @@ void ModifiedPhases::ForgetGone()
 
 std::string ModifiedPhases::Save()
 {
+    const History::Step step(&m_editor.GetHistory(), "saving");
     std::string failure;
     Phases left;
     for (auto& pPhase : std::exchange(m_phases, {})) {

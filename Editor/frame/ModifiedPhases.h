@@ -16,11 +16,13 @@ public:
 
     std::string SaveQuestion() const; // what a user who leaves is asked; empty when nothing is modified
 
+    void Enter(const Phases& phases, int PhaseTiming::*number, int nValue);
     void Add(const Phases& phases); // everyone is told that they have changed
     // One is no member any more; its numbers go to what it has become, if anything.
     void Forget(IAtom* pGone, CMember* pRenamed);
-    void ForgetGone();  // all that are no members any more
-    std::string Save(); // all; the reason for the first that was not saved
+    void Follow(const std::string& from, CMember* pRenamed); // the same for one whose file was there
+    void ForgetGone();                                       // all that are no members any more
+    std::string Save();                                      // all; the reason for the first that was not saved
 
 private:
     void TellOfChange(CPhase* pPhase);

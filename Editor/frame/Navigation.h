@@ -1,7 +1,7 @@
 // What of the library is shown, and the ways from there.
 #pragma once
 
-#include "Editor/model/Container.h"
+#include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 
 #include <functional>
@@ -25,9 +25,11 @@ public:
     CContainer* ShownContainer() const;               // that, or the one that holds the picture; NULL without either
     std::vector<CMember*> Path() const;               // from the top to what is shown; borrowed
 
-    CStubRef<CMember> SetTop(CMember* pTop)
+    CLibrary* Library() const { return m_pTop.Get(); }
+
+    CStubRef<CLibrary> SetLibrary(CLibrary* pTop)
     {
-        return std::exchange(m_pTop, CStubRef<CMember>::Share(pTop));
+        return std::exchange(m_pTop, CStubRef<CLibrary>::Share(pTop));
     } // the former
     void SetShown(CMember* pMember) { m_pShown = CStubRef<CMember>::Share(pMember); }
 
@@ -42,7 +44,8 @@ private:
 
     CAtomEditor& m_editor;
     const std::function<void()> m_cameBack;
-    CStubRef<CMember> m_pTop, m_pShown;
+    CStubRef<CLibrary> m_pTop;
+    CStubRef<CMember> m_pShown;
 };
 
 } // namespace editor

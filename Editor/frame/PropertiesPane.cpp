@@ -112,19 +112,10 @@ CNumberField::Events CPropertiesPane::FieldEvents(int PhaseTiming::*number, std:
 
 void CPropertiesPane::EnterNumber(int PhaseTiming::*number, int nValue)
 {
-    const auto shareAll = [](const Phases& phases) {
-        Phases shared;
-        for (const auto& pPhase : phases)
-            shared.push_back(CStubRef<CPhase>::Share(pPhase.Get()));
-        return shared;
-    };
-    const Phases phases = shareAll(m_phases); // those told may select others
-    for (const auto& pPhase : phases) {
-        PhaseTiming timing = pPhase->GetTiming();
-        timing.*number = nValue;
-        pPhase->SetTiming(timing);
-    }
-    m_events.change(phases);
+    Phases phases; // those told may select others
+    for (const auto& pPhase : m_phases)
+        phases.push_back(CStubRef<CPhase>::Share(pPhase.Get()));
+    m_events.enter(phases, number, nValue);
     ShowNumbers();
     Update();
 }

@@ -19,9 +19,9 @@ public:
     using Phases = std::vector<CStubRef<CPhase>>;
     struct Events
     {
-        std::function<Phases()> ask;                      // which phases the fields stand for
-        std::function<void(const Phases& phases)> change; // numbers of these have been entered
-        std::function<void()> leave;                      // the focus goes back to the views
+        std::function<Phases()> ask; // which phases the fields stand for
+        std::function<void(const Phases& phases, int PhaseTiming::*number, int nValue)> enter; // for all of these
+        std::function<void()> leave; // the focus goes back to the views
     };
 
     explicit CPropertiesPane(Events events);

@@ -33,7 +33,8 @@ void CStatusBar::OnPaint()
     left.right = std::min<int>(left.right, left.left + TextWidth(status.text));
     right.left = left.right + 2 * kSpace;
     DrawTextLine(dc, left, status.text, GetSysColor(COLOR_GRAYTEXT));
-    DrawTextLine(dc, right, status.detail, status.isError ? ErrorColor() : GetSysColor(COLOR_WINDOWTEXT), Align::Right);
+    const std::string& detail = status.isError || status.news.empty() ? status.detail : status.news;
+    DrawTextLine(dc, right, detail, status.isError ? ErrorColor() : GetSysColor(COLOR_WINDOWTEXT), Align::Right);
 }
 
 } // namespace editor

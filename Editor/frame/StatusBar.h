@@ -14,6 +14,7 @@ struct Status
     std::string text;     // at the left: what is shown
     std::string detail;   // at the right: what is selected
     bool isError = false; // is `detail` the reason of a failure?
+    std::string news{};   // in place of `detail`, unless that is a reason: what was just done
 };
 
 // Asks for its text whenever it is drawn: telling it of a change costs nothing, however often it is done.

@@ -36,6 +36,19 @@ void CContainer::ReadAgain()
     m_failure.clear();
 }
 
+void CContainer::ReadAgainIfRead()
+{
+    m_holdsAny.reset();
+    if (m_pContents)
+        ReadAgain();
+}
+
+CMember* CContainer::LiveMember(std::string_view name)
+{
+    const UINT nIndex = m_pContents ? FindName(Members().table, name) : MemberTable::kNone;
+    return nIndex == MemberTable::kNone ? nullptr : m_pContents->table.LiveAt(nIndex);
+}
+
 bool CContainer::HoldsAny()
 {
     if (m_pContents)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/archive/ArchiveFormat.h"
+#include "Editor/disk/Trash.h"
 #include "Editor/model/Member.h"
 
 #include <map>
@@ -20,6 +21,8 @@ class CContainer : public CMember, public IAtomContainer
 public:
     // Members that are still there keep their atoms and identifiers.
     void ReadAgain();
+    void ReadAgainIfRead();                     // else only what was found out without reading is forgotten
+    CMember* LiveMember(std::string_view name); // whose atom somebody holds; borrowed, else NULL. Reads nothing
     // Whether there are members, found out without reading more than need be; known until the container it is in is
     // read anew.
     bool HoldsAny();
@@ -72,8 +75,8 @@ protected:
     // Under that name or, when it `mayDiffer`, under another like it, should that have been taken meanwhile.
     virtual std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) = 0;
     virtual std::string Rename(const CMember& member, const std::string& name, Entry& renamed) = 0;
-    virtual std::string Remove(const CMember& member) = 0;
-    virtual std::string ValidNameFor(std::string_view name) = 0; // empty when there is none
+    virtual std::string Remove(const CMember& member, TrashPlace& place) = 0; // `place`: where it went, if to the trash
+    virtual std::string ValidNameFor(std::string_view name) = 0;              // empty when there is none
 
     std::string_view NameOf(const CMember& member) const; // as it was listed; empty when that is forgotten
     MemberKind KindOf(const CMember& present) const { return m_pContents->table.KindOf(present.Index()); }

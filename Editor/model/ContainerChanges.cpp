@@ -57,9 +57,10 @@ BOOL CContainer::RemoveAtom(IAtom* pAtom)
     RevocableRemoval* const pRevocable = RevocableRemoval::Current();
     if (pRevocable)
         pRevocable->Begin(*pMember, KindOf(*pMember));
-    const bool bRemoved = Note(Remove(*pMember));
+    TrashPlace place;
+    const bool bRemoved = Note(Remove(*pMember, place));
     if (pRevocable)
-        pRevocable->End(bRemoved);
+        pRevocable->End(bRemoved, place);
     if (bRemoved)
         Drop(pMember->Index());
     else
@@ -127,6 +128,8 @@ std::optional<UINT> CContainer::BringBack(std::string_view name)
         return returned->nLine;
     }
     CMember& member = *returned->pMember.Get();
+    if (History* const pHistory = Context().pHistory)
+        pHistory->CameBack(Path() + '/' + std::string(name));
     const UINT nIndex = Append({std::string(name), returned->kind});
     m_pContents->table.Identify(nIndex, returned->dwID, &member);
     m_pContents->gone.erase(&member);

@@ -30,7 +30,7 @@ protected:
     DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) override;
     std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) override;
     std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
-    std::string Remove(const CMember& member) override;
+    std::string Remove(const CMember& member, TrashPlace& place) override;
     std::string ValidNameFor(std::string_view name) override;
 
 private:

@@ -38,26 +38,6 @@ bool HoldsOrIs(const FileIdentity& identity, const std::string& path)
     return IsFile(folder.string(), identity);
 }
 
-// One file under two spellings, as a file system has it that does not tell upper from lower case.
-bool IsOtherSpelling(int nFolder, const std::string& a, const std::string& b)
-{
-    struct stat first, second;
-    return toolkit::CompareNoCase(a, b) == 0 && fstatat(nFolder, a.c_str(), &first, AT_SYMLINK_NOFOLLOW) == 0 &&
-           fstatat(nFolder, b.c_str(), &second, AT_SYMLINK_NOFOLLOW) == 0 && first.st_dev == second.st_dev &&
-           first.st_ino == second.st_ino;
-}
-
-int RenameIn(const std::string& folder, const std::string& from, const std::string& to)
-{
-    const FileDescriptor handle(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!handle)
-        return errno;
-    const int error = RenameWithoutReplacing(handle.Get(), from, handle.Get(), to);
-    if (error != EEXIST || !IsOtherSpelling(handle.Get(), from, to))
-        return error;
-    return renameat(handle.Get(), from.c_str(), handle.Get(), to.c_str()) == 0 ? 0 : errno;
-}
-
 std::string FormerFolder(const std::string& root, std::string_view origin)
 {
     return (fs::path(root) / origin).parent_path().string();
@@ -109,6 +89,8 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
     std::string failure = Unpack(path, added.name, adapted, another);
     if (failure.empty() && bCurrent)
         m_taken.Added(path, added.name);
+    if (History* const pHistory = Context().pHistory; pHistory && failure.empty())
+        pHistory->Came(path, added.name);
     return failure;
 }
 
@@ -119,16 +101,22 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
     if (std::string trouble = TroubleOfNewName(KindOf(member), name, renamed.kind); !trouble.empty())
         return FailureOf(former, trouble);
     m_taken.Forget();
-    const int error = RenameIn(Path(), former, name);
+    const std::string path = Path();
+    const int error = RenameInFolder(path, former, name);
+    if (History* const pHistory = Context().pHistory; pHistory && error == 0)
+        pHistory->Renamed(path, former, name);
     if (error == EEXIST)
         return FailureOf(former, "there is a \"" + ToShown(name) + "\" already");
     return error == 0 ? std::string() : FailureOf(former, SystemErrorText(error));
 }
 
-std::string CFolder::Remove(const CMember& member)
+std::string CFolder::Remove(const CMember& member, TrashPlace& place)
 {
     m_taken.Forget();
-    const std::string reason = RemoveFromDisk(member.Path());
+    const std::string path = member.Path();
+    const std::string reason = RemoveFromDisk(path, place);
+    if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty())
+        pHistory->Went(path, place);
     return reason.empty() ? reason : FailureOf(member.Name(), reason);
 }
 

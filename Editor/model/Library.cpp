@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <filesystem>
 #include <sys/stat.h>
 
 namespace editor
@@ -27,6 +28,17 @@ std::string FindFolder(const std::string& path, std::string& absolute)
         return SystemErrorText(errno);
     absolute = buffer;
     return S_ISDIR(status.st_mode) ? std::string() : "not a folder";
+}
+
+// The names on the way from the root to the path. What lies outside it has one that nothing bears.
+std::vector<std::string> PartsBelow(const std::string& root, const std::string& path)
+{
+    const std::filesystem::path below = std::filesystem::path(path).lexically_relative(root);
+    std::vector<std::string> parts;
+    if (below != ".")
+        for (const auto& part : below)
+            parts.push_back(part.string());
+    return parts;
 }
 
 } // namespace
@@ -55,6 +67,27 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
 CLibrary::CLibrary(LibraryContext context)
     : CFolder(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
 {}
+
+CStubRef<CMember> CLibrary::Find(const std::string& path)
+{
+    auto pFound = CStubRef<CMember>::Share(this);
+    for (const std::string& part : PartsBelow(m_context.rootPath, path)) {
+        auto* const pContainer = dynamic_cast<CContainer*>(pFound.Get());
+        CStubRef<IAtom> pAtom;
+        if (pContainer)
+            pContainer->FindAtom(part.c_str(), pAtom.Receive(), IID_IAtom);
+        pFound = CStubRef<CMember>::Share(CMember::Of(pAtom.Get()));
+    }
+    return pFound;
+}
+
+CContainer* CLibrary::FindLive(const std::string& path)
+{
+    CContainer* pFound = this;
+    for (const std::string& part : PartsBelow(m_context.rootPath, path))
+        pFound = pFound ? dynamic_cast<CContainer*>(pFound->LiveMember(part)) : nullptr;
+    return pFound;
+}
 
 void* CLibrary::FindInterface(DWORD id)
 {

@@ -15,6 +15,13 @@ public:
     [[nodiscard]] static CStubRef<CLibrary> Open(const std::string& path, const std::vector<std::string>& extensions,
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error);
 
+    void SetHistory(History* pHistory) { m_context.pHistory = pHistory; } // borrowed
+
+    // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
+    CStubRef<CMember> Find(const std::string& path);
+    // The container at that path if anybody has asked for it so far; borrowed, else NULL.
+    CContainer* FindLive(const std::string& path);
+
     std::string_view Name() const override { return m_name; }
     std::string Path() const override { return m_context.rootPath; }
 

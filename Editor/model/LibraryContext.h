@@ -1,6 +1,7 @@
 // What all atoms of one library share.
 #pragma once
 
+#include "Editor/history/History.h"
 #include "Editor/pictures/PictureStore.h"
 
 #include <memory>
@@ -17,6 +18,7 @@ struct LibraryContext
     std::string rootPath;                       // absolute, with neither links nor a slash at its end
     std::vector<std::string> pictureExtensions; // sorted
     std::shared_ptr<PictureStore> pPictures;
+    History* pHistory = nullptr; // of what is done to the disk; borrowed. NULL: nothing is remembered
     DWORD nextId = 1;
     std::vector<const CPhase*> unsaved; // whose timing is set and not saved
 };

@@ -2,6 +2,7 @@
 
 #include "Editor/disk/FileText.h"
 #include "Editor/disk/TempEntry.h"
+#include "Editor/disk/TextFile.h"
 #include "Editor/model/Folder.h"
 #include "Editor/model/ImageLink.h"
 #include "Editor/model/LibraryContext.h"
@@ -41,6 +42,24 @@ void CPhase::SetTiming(const PhaseTiming& timing)
     KeepTiming(timing == SavedTiming() ? std::nullopt : std::optional(timing));
 }
 
+void CPhase::ChangeTiming(const PhaseTiming& timing)
+{
+    const std::optional<std::string> former = Unsaved();
+    SetTiming(timing);
+    if (History* const pHistory = Context().pHistory)
+        pHistory->Unsaved(Path(), former, Unsaved());
+}
+
+std::optional<std::string> CPhase::Unsaved() const
+{
+    return m_timing ? std::optional(WithTiming({}, *m_timing)) : std::nullopt;
+}
+
+void CPhase::SetUnsaved(const std::optional<std::string>& text)
+{
+    KeepTiming(text ? std::optional(TimingOf(*text)) : std::nullopt);
+}
+
 // The library knows all phases that are not saved.
 void CPhase::KeepTiming(std::optional<PhaseTiming> timing)
 {
@@ -59,8 +78,14 @@ std::string CPhase::SaveTiming()
     std::string text;
     if (const std::string reason = ReadPhaseText(Path(), text); !reason.empty())
         return ShownName() + ": " + reason;
+    History* const pHistory = Context().pHistory;
+    const History::Step step(pHistory, "saving");
+    const std::string path = Path();
+    const std::optional<std::string> unsaved = Unsaved();
     std::string failure = Save(WithTiming(std::move(text), *m_timing));
     if (failure.empty()) {
+        if (pHistory)
+            pHistory->Unsaved(path, unsaved, std::nullopt);
         m_savedTiming = m_timing;
         KeepTiming(std::nullopt);
     }
@@ -125,7 +150,7 @@ std::string CPhase::Rename(const CMember& member, const std::string&, Entry&)
     return member.ShownName() + ": a line of a phase bears the name of its picture";
 }
 
-std::string CPhase::Remove(const CMember& member)
+std::string CPhase::Remove(const CMember& member, TrashPlace&)
 {
     const auto gone = std::find_if(m_going.begin(), m_going.end(), [&](const Going& g) { return g.pLink == &member; });
     if (gone != m_going.end()) {
@@ -238,7 +263,13 @@ std::string CPhase::Save(const std::string& text)
     const std::string real = std::filesystem::canonical(Path(), unreadable).string();
     if (!unreadable && KindOfName(real) != MemberKind::Phase)
         return ShownName() + ": a link to a file that is no phase";
-    const int error = ReplaceFile(Path(), text);
+    const std::string path = Path();
+    TextState former;
+    int error = ReadText(path, kLargestPhase, former);
+    if (error == 0)
+        error = ReplaceFile(path, text);
+    if (History* const pHistory = Context().pHistory; pHistory && error == 0)
+        pHistory->Rewrote(path, former);
     return error == 0 ? std::string() : ShownName() + ": " + SystemErrorText(error);
 }
 

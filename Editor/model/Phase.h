@@ -37,6 +37,10 @@ public:
 
     PhaseTiming GetTiming() const; // as it was set or, failing that, as the file says; the usual one without a file
     void SetTiming(const PhaseTiming& timing);
+    void ChangeTiming(const PhaseTiming& timing); // the same, and the history hears of it
+    // Of the timing what is not saved, as it would stand in the file; nothing: it is not modified.
+    std::optional<std::string> Unsaved() const;
+    void SetUnsaved(const std::optional<std::string>& text);
     std::string SaveTiming(); // nothing when it is not modified. Empty when done, else one line with name and reason
     BOOL IsModified() override { return m_timing.has_value(); }
 
@@ -51,7 +55,7 @@ protected:
     DWORD PermissionsFor(const ArchiveRecord& record, std::string& trouble) override; // a picture becomes a line
     std::string Add(const ArchiveRecord& record, const std::string& name, bool mayDiffer, Entry& added) override;
     std::string Rename(const CMember& member, const std::string& name, Entry& renamed) override;
-    std::string Remove(const CMember& member) override;
+    std::string Remove(const CMember& member, TrashPlace& place) override;
     std::string ValidNameFor(std::string_view name) override { return std::string(name); } // as often as one likes
 
 private:

@@ -1,13 +1,12 @@
 #include "Editor/model/PhaseText.h"
 
-#include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileText.h"
+#include "Editor/disk/TextFile.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <fcntl.h>
 #include <filesystem>
-#include <sys/stat.h>
+#include <unistd.h>
 
 namespace editor
 {
@@ -15,8 +14,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-constexpr std::size_t kLargest = 4 << 20; // bytes; far more than any phase needs
 
 std::string_view Trimmed(std::string_view line)
 {
@@ -63,25 +60,17 @@ std::vector<PictureLine> PictureLines(std::string_view text)
 
 std::string ReadPhaseText(const std::string& path, std::string& text)
 {
-    const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status;
-    if (!file || fstat(file.Get(), &status) != 0)
-        return SystemErrorText(errno);
-    if (!S_ISREG(status.st_mode))
-        return "not a file";
-    if (static_cast<std::uint64_t>(status.st_size) > kLargest)
-        return "too large for a phase";
-    text.resize(static_cast<std::size_t>(status.st_size));
-    const ssize_t got = read(file.Get(), text.data(), text.size());
-    if (got < 0)
-        return SystemErrorText(errno);
-    text.resize(static_cast<std::size_t>(got));
+    TextState state;
+    const int error = ReadText(path, kLargestPhase, state);
+    if (error != 0)
+        return error == EFBIG ? "too large for a phase" : error == EINVAL ? "not a file" : SystemErrorText(error);
+    text = std::move(state.text);
     return IsPhaseText(text) ? std::string() : "not a text";
 }
 
 bool IsPhaseText(std::string_view text)
 {
-    return text.size() <= kLargest && text.find('\0') == text.npos;
+    return text.size() <= kLargestPhase && text.find('\0') == text.npos;
 }
 
 PicturePlace FindPicture(std::string_view picture, const std::string& folder, const std::string& root)

@@ -18,6 +18,8 @@ struct PictureLine
 // The lines that name pictures, in order: all but empty ones and those that begin with #.
 std::vector<PictureLine> PictureLines(std::string_view text);
 
+inline constexpr std::size_t kLargestPhase = 4 << 20; // bytes; far more than any phase needs
+
 // The whole file. Empty when it has been read; else the reason, also when it can be no phase.
 std::string ReadPhaseText(const std::string& path, std::string& text);
 bool IsPhaseText(std::string_view text); // could it be one?

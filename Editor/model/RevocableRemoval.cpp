@@ -42,17 +42,16 @@ void RevocableRemoval::Begin(CMember& member, MemberKind kind)
                          member.Path(),
                          {},
                          nLine});
-    ForgetTrashed();
 }
 
-void RevocableRemoval::End(bool bRemoved)
+void RevocableRemoval::End(bool bRemoved, const TrashPlace& place)
 {
     if (!bRemoved) {
         m_removed.pop_back();
         return;
     }
     m_removed.back().bGone = true;
-    m_removed.back().place = TakeTrashed();
+    m_removed.back().place = place;
 }
 
 std::optional<RevocableRemoval::Returned> RevocableRemoval::BringBack(CContainer& container, std::string_view name)

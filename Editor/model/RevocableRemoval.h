@@ -28,7 +28,7 @@ public:
 
     // Around a removal: what can fail, before it; what became of it.
     void Begin(CMember& member, MemberKind kind);
-    void End(bool bRemoved);
+    void End(bool bRemoved, const TrashPlace& place);
 
     // An object that has come back to the container.
     struct Returned

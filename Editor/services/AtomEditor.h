@@ -1,6 +1,7 @@
 // The atom editor: it knows what the user is working on and passes the views' news on.
 #pragma once
 
+#include "Editor/history/History.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/HandlerRegistry.h"
 
@@ -55,6 +56,8 @@ public:
     void RemoveTop(IAtom* pTop);                            // told as deleted
     void ForgetAtoms();                                     // tells nobody
     int CountReferences() const { return m_nRefs; }         // beside the owner's
+
+    History& GetHistory() { return m_history; } // of what is done to the disk
 
     void AddRef() override { ++m_nRefs; }
     void Release() override { --m_nRefs; }
@@ -116,10 +119,11 @@ private:
     {
         ActiveMembers members;
         bool bRemoving = false; // whoever dragged them has asked for them
+        std::unique_ptr<History::Step> pStep;
     };
 
     void TellOfFailedDrag();
-    void BeginMove(ActiveMembers members);
+    void BeginMove(ActiveMembers members, std::unique_ptr<History::Step> pStep);
     void EndMove();
     BOOL EnumMoved(ACTIVEPAIRPROC callback, void* context);
     void Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer);
@@ -128,6 +132,7 @@ private:
     HWND GetFrameWindow() const { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
     BOOL NoteArchiveError(std::string line); // FALSE when there is one
 
+    History m_history;
     HandlerRegistry m_handlers;
     PaneFrame* m_pFrame = nullptr;
     std::vector<CStubRef<IAtom>> m_tops;

@@ -37,9 +37,10 @@ try {
         return DROPEFFECT_NONE;
     }
     const DWORD dwAllowed = CanAllGo(members) ? allowedEffects : allowedEffects & ~DROPEFFECT_MOVE;
+    auto pStep = std::make_unique<History::Step>(&m_history);
     const DROPEFFECT effect = pData->DoDragDrop(dwAllowed);
     if (effect == DROPEFFECT_MOVE)
-        BeginMove(std::move(members));
+        BeginMove(std::move(members), std::move(pStep));
     else if (effect == DROPEFFECT_COPY && m_pFrame)
         m_pFrame->OnCopied(members);
     return effect;
@@ -54,10 +55,10 @@ void CAtomEditor::TellOfFailedDrag()
     ShowAtomError(GetFrameWindow(), IDS_DRAG_FAILED, CErrorInfo::Make(reason).Get());
 }
 
-// The view that began the drag removes the atoms right away; the task comes after that.
-void CAtomEditor::BeginMove(ActiveMembers members)
+// The view that began the drag removes the atoms right away; the task comes after that. Until then all is one step.
+void CAtomEditor::BeginMove(ActiveMembers members, std::unique_ptr<History::Step> pStep)
 {
-    m_pMoved = std::make_shared<Moved>(Moved{std::move(members)});
+    m_pMoved = std::make_shared<Moved>(Moved{std::move(members), false, std::move(pStep)});
     if (m_pFrame)
         m_pFrame->OnMoving();
     toolkit::PostTask([this, pWatched = std::weak_ptr<Moved>(m_pMoved)] {
@@ -69,6 +70,7 @@ void CAtomEditor::BeginMove(ActiveMembers members)
 void CAtomEditor::EndMove()
 {
     const auto pMoved = std::exchange(m_pMoved, nullptr);
+    pMoved->pStep.reset();
     if (m_pFrame)
         m_pFrame->OnMoved(pMoved->bRemoving ? WhyStillThere(pMoved->members) : std::string());
 }

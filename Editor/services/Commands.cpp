@@ -121,6 +121,7 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
+    const History::Step step(&m_editor.GetHistory(), "cut");
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
     const RevocableRemoval revocable(OwnOf(members));
@@ -150,6 +151,7 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
+    const History::Step step(&m_editor.GetHistory(), "deletion");
     const JointRemoval joint(members);
     ForgetWhatStayed(members);
     RemoveObjects(FALSE);
@@ -160,6 +162,7 @@ try {
 
 std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
 try {
+    const History::Step step(&m_editor.GetHistory(), "paste");
     const Arrivals arrivals(m_editor, pTarget, arrived);
     return AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
 } catch (const CException& e) {

@@ -12,21 +12,6 @@ protected:
     DragTest() { folder.Make("Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/"); }
 
     // Presses there and moves on, which begins the drag; the script is what the user does then.
-    void Drag(HWND hFrom, CPoint at, std::function<void()> script)
-    {
-        desktop.DuringDrag(std::move(script));
-        desktop.Advance(1000);
-        desktop.Press(hFrom, at);
-        desktop.MoveTo(hFrom, at + CPoint(9, 0));
-        if (desktop.IsDragging())
-            ADD_FAILURE() << "still dragging";
-        Settle();
-    }
-    void DropOnTree(const std::string& label)
-    {
-        desktop.MoveTo(Tree().m_hWnd, PlaceInTree(label));
-        desktop.Release(Tree().m_hWnd, PlaceInTree(label));
-    }
     void DropOnList(CPoint at)
     {
         desktop.MoveTo(List(), at);
@@ -137,8 +122,10 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
     };
     choose("Select all", BelowTheRows());
     desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
-    EXPECT_EQ(Ledger({"[(Open) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | Select all | Refresh]",
-                      "[(Open) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select all) | Refresh]"}),
+    EXPECT_EQ(Ledger({"[(Open) | - | (Undo) | (Redo) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | "
+                      "Select all | Refresh]",
+                      "[(Open) | - | (Undo) | (Redo) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select "
+                      "all) | Refresh]"}),
               desktop.TakeMenus());
     Click("b.bmp");
     choose("Copy", PlaceOf("b.bmp"));

@@ -135,6 +135,23 @@ void EditorTest::AltUp()
     Settle();
 }
 
+void EditorTest::Drag(HWND hFrom, CPoint at, std::function<void()> script)
+{
+    desktop.DuringDrag(std::move(script));
+    desktop.Advance(1000);
+    desktop.Press(hFrom, at);
+    desktop.MoveTo(hFrom, at + CPoint(9, 0));
+    if (desktop.IsDragging())
+        ADD_FAILURE() << "still dragging";
+    Settle();
+}
+
+void EditorTest::DropOnTree(const std::string& label)
+{
+    desktop.MoveTo(Tree().m_hWnd, PlaceInTree(label));
+    desktop.Release(Tree().m_hWnd, PlaceInTree(label));
+}
+
 toolkit::Pixel EditorTest::MiddleOf(HWND hWnd)
 {
     const toolkit::Surface shown = desktop.Dump(hWnd);

@@ -39,6 +39,8 @@ protected:
     void DoubleClick(const char* pszName);
     void ClickPath(int nPart); // -1: the button that leads up
     void AltUp();
+    void Drag(HWND hFrom, CPoint at, std::function<void()> script); // the script moves the mouse on
+    void DropOnTree(const std::string& label);
     toolkit::Pixel MiddleOf(HWND hWnd);
     CPoint PlaceOf(const char* pszName);
     CPoint PlaceInTree(const std::string& label);

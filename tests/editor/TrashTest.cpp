@@ -15,10 +15,11 @@ namespace
 class TrashTest : public testing::Test
 {
 protected:
-    std::string Remove(const std::string& name) { return editor::RemoveFromDisk(folder.At(name)); }
+    std::string Remove(const std::string& name) { return editor::RemoveFromDisk(folder.At(name), place); }
 
     TrashHome trash;
     TempFolder folder;
+    editor::TrashPlace place; // of what was removed last
 };
 
 TEST_F(TrashTest, WhatIsRemovedLiesInTheTrashWithItsFormerPlaceAndTime)
@@ -70,7 +71,7 @@ TEST_F(TrashTest, WhatLiesBehindALinkGoesToTheTrashOfItsOwnFileSystem)
     elsewhere.Link("link", folder.Path());
     folder.Write("a.bmp", "bytes");
 
-    EXPECT_EQ("", editor::RemoveFromDisk(elsewhere.At("link/a.bmp")));
+    EXPECT_EQ("", editor::RemoveFromDisk(elsewhere.At("link/a.bmp"), place));
     EXPECT_EQ("bytes", trash.folder.Read("Trash/files/a.bmp"));
     EXPECT_NE(std::string::npos, trash.folder.Read("Trash/info/a.bmp.trashinfo").find(folder.Path() + "/a.bmp\n"));
 }

@@ -1,0 +1,89 @@
+#include "Editor/frame/UndoRedo.h"
+
+#include "Editor/disk/FileText.h"
+#include "Editor/model/Library.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+bool IsOrIsBelow(std::string_view path, std::string_view top)
+{
+    return path.starts_with(top) && (path.size() == top.size() || path[top.size()] == '/');
+}
+
+} // namespace
+
+std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& present)
+{
+    CLibrary* const pLibrary = m_navigation.Library();
+    const std::string shown = m_navigation.Shown()->Path();
+    Changes changes;
+    std::string reason = (m_editor.GetHistory().*step)(changes);
+    std::sort(changes.containers.begin(), changes.containers.end());
+    changes.containers.erase(std::unique(changes.containers.begin(), changes.containers.end()),
+                             changes.containers.end());
+    m_pictures.Recheck();
+    for (const std::string& path : changes.containers)
+        if (CContainer* const pContainer = pLibrary->FindLive(path))
+            TellOf(*pContainer);
+    FollowNames(changes, shown);
+    KeepUnsaved(changes);
+    present = Present(changes);
+    return reason;
+}
+
+void UndoRedo::TellOf(CContainer& container)
+{
+    const auto pHeld = CStubRef<CContainer>::Share(&container);
+    container.ReadAgainIfRead();
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, &container, 0);
+    if (auto* const pPhase = dynamic_cast<CPhase*>(&container))
+        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pPhase, pPhase->Container(), 0);
+}
+
+void UndoRedo::FollowNames(const Changes& changes, const std::string& shown)
+{
+    for (const auto& [from, to] : changes.otherNames) {
+        m_modified.Follow(from, m_navigation.Library()->Find(to).Get());
+        if (!IsOrIsBelow(shown, from))
+            continue;
+        if (const CStubRef<CMember> pNow = m_navigation.Library()->Find(to + shown.substr(from.size())))
+            m_navigation.GoTo(pNow.Get());
+    }
+}
+
+void UndoRedo::KeepUnsaved(const Changes& changes)
+{
+    ModifiedPhases::Phases phases;
+    for (const Changes::Unsaved& one : changes.unsaved) {
+        const CStubRef<CMember> pMember = m_navigation.Library()->Find(one.path);
+        auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get());
+        if (!pPhase)
+            continue;
+        pPhase->SetUnsaved(one.text);
+        phases.push_back(CStubRef<CPhase>::Share(pPhase));
+    }
+    m_modified.Add(phases);
+}
+
+UndoRedo::Atoms UndoRedo::Present(const Changes& changes) const
+{
+    Atoms atoms;
+    CContainer* const pShown = m_navigation.ShownContainer();
+    const std::string folder = pShown->Path();
+    for (const std::string& path : changes.present) {
+        const std::string_view name = BaseName(path);
+        CStubRef<IAtom> pAtom;
+        if (path.size() == folder.size() + 1 + name.size() && path.starts_with(folder))
+            pShown->FindAtom(std::string(name).c_str(), pAtom.Receive(), IID_IAtom);
+        if (pAtom)
+            atoms.push_back(std::move(pAtom));
+    }
+    return atoms;
+}
+
+} // namespace editor

@@ -1,0 +1,127 @@
+#include "Editor/history/Edit.h"
+
+#include "Editor/disk/DiskFile.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/disk/Fingerprint.h"
+
+#include <cerrno>
+
+namespace editor
+{
+namespace
+{
+
+std::string FolderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/'));
+}
+
+std::string Line(const std::string& path, const std::string& reason)
+{
+    return ToShown(BaseName(path)) + ": " + reason;
+}
+
+void Name(std::string& name, std::string_view path)
+{
+    if (name.empty())
+        name = BaseName(path);
+}
+
+constexpr const char* kChanged = "was changed by another program meanwhile";
+
+} // namespace
+
+PlacingEdit::PlacingEdit(std::string path)
+    : m_path(std::move(path)), m_bComing(true), m_fingerprint(FingerprintOf(m_path))
+{}
+
+PlacingEdit::PlacingEdit(std::string path, TrashPlace place)
+    : m_path(std::move(path)), m_bComing(false), m_place(std::move(place))
+{}
+
+std::string PlacingEdit::Remove()
+{
+    const std::uint64_t now = FingerprintOf(m_path);
+    if (now != m_fingerprint)
+        return Line(m_path, now == 0 ? "is not there any more" : kChanged);
+    TrashResult result = MoveToTrash(m_path);
+    if (!result.reason.empty())
+        return Line(m_path, result.reason);
+    m_place = std::move(result.place);
+    return {};
+}
+
+std::string PlacingEdit::Restore()
+{
+    const int error = TakeFromTrash(m_place, m_path);
+    if (error == EEXIST)
+        return "there is a \"" + ToShown(BaseName(m_path)) + "\" already";
+    if (error != 0)
+        return Line(m_path,
+                    error == ENOENT ? "is not in the trash any more, or its folder has gone" : SystemErrorText(error));
+    m_fingerprint = FingerprintOf(m_path);
+    return {};
+}
+
+void PlacingEdit::Tell(Changes& changes) const
+{
+    changes.containers.push_back(FolderOf(m_path));
+    if (m_bComing == IsMade())
+        changes.present.push_back(m_path);
+}
+
+void PlacingEdit::CountIn(StepSummary& summary) const
+{
+    ++(m_bComing ? summary.nCame : summary.nWent);
+    Name(summary.object, m_path);
+}
+
+std::string RenamingEdit::Rename(const std::string& from, const std::string& to) const
+{
+    const int error = RenameInFolder(m_folder, from, to);
+    if (error == EEXIST)
+        return Line(from, "there is a \"" + ToShown(to) + "\" already");
+    return error == 0 ? std::string() : Line(from, SystemErrorText(error));
+}
+
+void RenamingEdit::Tell(Changes& changes) const
+{
+    const std::string former = m_folder + '/' + m_former, now = m_folder + '/' + m_name;
+    changes.containers.push_back(m_folder);
+    changes.present.push_back(IsMade() ? now : former);
+    changes.otherNames.emplace_back(IsMade() ? former : now, changes.present.back());
+}
+
+void RenamingEdit::CountIn(StepSummary& summary) const
+{
+    ++summary.nRenamed;
+    Name(summary.object, m_former);
+}
+
+std::string RewritingEdit::Rewrite(const TextState& from, const TextState& to) const
+{
+    TextState found;
+    int error = ReadText(m_path, from.text.size(), found);
+    if (error == EFBIG || (error == 0 && found.text != from.text))
+        return Line(m_path, kChanged);
+    if (error == 0)
+        error = WriteText(m_path, to);
+    return error == 0 ? std::string() : Line(m_path, SystemErrorText(error));
+}
+
+void RewritingEdit::Tell(Changes& changes) const
+{
+    changes.containers.push_back(m_path);
+}
+
+void RewritingEdit::CountIn(StepSummary& summary) const
+{
+    Name(summary.text, m_path);
+}
+
+void UnsavedEdit::CountIn(StepSummary& summary) const
+{
+    Name(summary.text, m_path);
+}
+
+} // namespace editor

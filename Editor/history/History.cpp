@@ -1,0 +1,218 @@
+#include "Editor/history/History.h"
+
+#include "Editor/disk/FileText.h"
+
+#include <algorithm>
+#include <new>
+
+namespace editor
+{
+namespace
+{
+
+constexpr std::uint64_t kLargestText = 64 << 20; // bytes; a larger one is none of ours
+
+std::string Objects(int count, const std::string& first)
+{
+    return count == 1 ? '"' + ToShown(first) + '"' : std::to_string(count) + " objects";
+}
+
+const char* UsualVerb(const StepSummary& summary)
+{
+    if (summary.nCame > 0)
+        return "paste";
+    return summary.nWent > 0 ? "deletion" : summary.nRenamed > 0 ? "rename" : "change";
+}
+
+std::string NameOf(const std::string& verb, const StepSummary& summary)
+{
+    const bool bMoved = summary.nCame > 0 && summary.nWent > 0;
+    const std::string name = bMoved ? "move" : verb.empty() ? UsualVerb(summary) : verb;
+    const int nObjects = std::max({summary.nCame, summary.nWent, summary.nRenamed});
+    return nObjects > 0 ? name + " of " + Objects(nObjects, summary.object)
+                        : name + " in \"" + ToShown(summary.text) + '"';
+}
+
+std::string NewsOf(const std::string& name, const StepSummary& summary)
+{
+    if (summary.nWent > 0 && summary.nCame == 0)
+        return Objects(summary.nWent, summary.object) + (summary.nWent == 1
+                                                             ? " is in the trash. Ctrl+Z brings it back"
+                                                             : " are in the trash. Ctrl+Z brings them back");
+    return "Done: " + name + ". Ctrl+Z takes it back";
+}
+
+// All of them in that order or, when one cannot be done, none.
+template <class Iterator, class Make, class TakeBack>
+std::string DoAll(Iterator first, Iterator last, Make make, TakeBack takeBack)
+{
+    for (Iterator at = first; at != last; ++at) {
+        std::string reason = make(**at);
+        if (reason.empty())
+            continue;
+        while (at != first)
+            takeBack(**--at);
+        return reason;
+    }
+    return {};
+}
+
+std::string UndoOne(Edit& edit)
+{
+    return edit.Undo();
+}
+
+std::string RedoOne(Edit& edit)
+{
+    return edit.Redo();
+}
+
+} // namespace
+
+History::Step::Step(History* pHistory, const char* pszVerb) : m_pHistory(pHistory)
+{
+    if (m_pHistory)
+        m_pHistory->Begin(pszVerb);
+}
+
+History::Step::~Step()
+{
+    if (m_pHistory)
+        m_pHistory->End();
+}
+
+std::string History::Undo(Changes& changes)
+{
+    if (m_nDone == 0)
+        return "there is nothing to undo";
+    const Done& step = m_steps[m_nDone - 1];
+    std::string reason = DoAll(step.edits.rbegin(), step.edits.rend(), UndoOne, RedoOne);
+    for (const auto& pEdit : step.edits)
+        pEdit->Tell(changes);
+    if (!reason.empty())
+        return reason;
+    --m_nDone;
+    Tell("Undone: " + step.name + ". Ctrl+Y does it again");
+    return {};
+}
+
+std::string History::Redo(Changes& changes)
+{
+    if (m_nDone == m_steps.size())
+        return "there is nothing to do again";
+    const Done& step = m_steps[m_nDone];
+    std::string reason = DoAll(step.edits.begin(), step.edits.end(), RedoOne, UndoOne);
+    for (const auto& pEdit : step.edits)
+        pEdit->Tell(changes);
+    if (!reason.empty())
+        return reason;
+    ++m_nDone;
+    Tell("Done again: " + step.name + ". Ctrl+Z takes it back");
+    return {};
+}
+
+void History::Came(const std::string& folder, const std::string& name) noexcept
+{
+    Note([&] { m_open.push_back(std::make_unique<PlacingEdit>(folder + '/' + name)); });
+}
+
+void History::Went(const std::string& path, const TrashPlace& place) noexcept
+{
+    Note([&] { m_open.push_back(std::make_unique<PlacingEdit>(path, place)); });
+}
+
+void History::CameBack(const std::string& path) noexcept
+{
+    const auto last = std::find_if(m_open.rbegin(), m_open.rend(), [&](const auto& pEdit) {
+        const auto* const pPlacing = dynamic_cast<const PlacingEdit*>(pEdit.get());
+        return pPlacing && !pPlacing->IsComing() && pPlacing->Path() == path;
+    });
+    if (last != m_open.rend())
+        m_open.erase(std::next(last).base());
+}
+
+void History::Renamed(const std::string& folder, const std::string& former, const std::string& name) noexcept
+{
+    Note([&] { m_open.push_back(std::make_unique<RenamingEdit>(folder, former, name)); });
+}
+
+// However often a text changes in a step, it is one change.
+void History::Rewrote(const std::string& path, const TextState& former) noexcept
+{
+    Note([&] {
+        TextState now;
+        if (ReadText(path, kLargestText, now) != 0)
+            return;
+        auto* const pLast = m_open.empty() ? nullptr : dynamic_cast<RewritingEdit*>(m_open.back().get());
+        if (!pLast || pLast->Path() != path)
+            m_open.push_back(std::make_unique<RewritingEdit>(path, former, now));
+        else if (pLast->IsFrom(now))
+            m_open.pop_back();
+        else
+            pLast->GoOnTo(now);
+    });
+}
+
+void History::Unsaved(const std::string& path, const UnsavedEdit::Text& former, const UnsavedEdit::Text& now) noexcept
+{
+    if (former != now)
+        Note([&] { m_open.push_back(std::make_unique<UnsavedEdit>(path, former, now)); });
+}
+
+template <class Change>
+void History::Note(Change change) noexcept
+{
+    const Step alone(this);
+    try {
+        change();
+    } catch (const std::bad_alloc&) {
+        m_bLost = true;
+    }
+}
+
+void History::Begin(const char* pszVerb) noexcept
+{
+    ++m_nOpen;
+    if (m_verb.empty())
+        m_verb = pszVerb;
+}
+
+void History::End() noexcept
+{
+    if (--m_nOpen > 0)
+        return;
+    Edits edits;
+    edits.swap(m_open);
+    try {
+        if (!edits.empty() && !m_bLost)
+            Keep(std::move(edits));
+    } catch (const std::bad_alloc&) {
+        m_nDone = std::min(m_nDone, m_steps.size());
+    }
+    m_verb.clear();
+    m_bLost = false;
+}
+
+void History::Keep(Edits edits)
+{
+    StepSummary summary;
+    for (const auto& pEdit : edits)
+        pEdit->CountIn(summary);
+    std::string name = NameOf(m_verb, summary);
+    m_steps.resize(m_nDone);
+    if (m_steps.size() == kMostSteps) {
+        m_steps.pop_front();
+        --m_nDone;
+    }
+    m_steps.push_back({std::move(name), std::move(edits)});
+    ++m_nDone;
+    Tell(NewsOf(m_steps.back().name, summary));
+}
+
+void History::Tell(const std::string& line) const
+{
+    if (m_news)
+        m_news(line);
+}
+
+} // namespace editor

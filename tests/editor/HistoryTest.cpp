@@ -1,0 +1,331 @@
+// What was done is taken back and done again, in the window and on the disk.
+#include "Toolkit/window/MessageBox.h"
+#include "tests/editor/EditorFixture.h"
+
+#include <filesystem>
+#include <map>
+#include <random>
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+class HistoryTest : public EditorTest
+{
+protected:
+    HistoryTest()
+    {
+        folder.Make("Ada/a.bmp Ada/b.bmp Ada/Poses/one.bmp Bo/ c.bmp");
+        folder.Write("walk.phase", "#delay 80\nc.bmp\nAda/a.bmp\n");
+    }
+    void Redo()
+    {
+        desktop.Hold({.shift = true, .control = true});
+        desktop.Key('Z');
+        desktop.Hold({});
+        Settle();
+    }
+    std::string NextUndo() { return History().NameToUndo(); }
+    editor::History& History() { return Frame().GetCommands().GetHistory(); }
+};
+
+TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
+{
+    Open();
+    DoubleClick("Ada");
+    const std::string start = folder.Everything();
+    Select({"a.bmp", "b.bmp"});
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
+    EXPECT_EQ("deletion of 2 objects", NextUndo());
+    const std::string removed = folder.Everything();
+    Control('Z');
+    EXPECT_EQ("[(*a.bmp) (b.bmp) Poses]", Rows());
+    EXPECT_EQ(start, folder.Everything());
+    Redo();
+    EXPECT_EQ("[*Poses]", Rows());
+    EXPECT_EQ(removed, folder.Everything());
+    Control('Z');
+
+    Click("Poses");
+    Press(VK_F2);
+    desktop.Type("Moves");
+    Press(VK_RETURN);
+    DoubleClick("Moves");
+    EXPECT_EQ("rename of \"Poses\"", NextUndo());
+    Control('Z');
+    EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "what is shown is shown under its former name";
+    Control('Y');
+    EXPECT_EQ("/Ada/Moves/ | [one.bmp] | 1 object", Screen());
+    Control('Z');
+    Press(VK_BACK);
+
+    Drag(List(), PlaceOf("b.bmp"), [&] { DropOnTree("Bo"); });
+    EXPECT_EQ("move of \"b.bmp\"", NextUndo());
+    desktop.Click(List(), PlaceOf("a.bmp"), toolkit::MouseButton::Right);
+    EXPECT_NE(std::string::npos, desktop.TakeMenus().at(0).find("| Undo move of \"b.bmp\" | (Redo) |"));
+    Control('Z');
+    EXPECT_EQ(start, folder.Everything());
+    Control('Y');
+    Control('Z');
+    Control('Y');
+    Click("a.bmp");
+    Control('X');
+    Control('Y'); // nothing: what can be done again is over
+    EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/one.bmp Bo/ Bo/b.bmp c.bmp walk.phase", folder.Everything());
+    Control('Z');
+    Control('Z');
+    EXPECT_EQ(start, folder.Everything());
+    Control('Z');
+    EXPECT_EQ(Ledger({"Views: Remove 2 objects?"}), TakeBoxes()) << "without a step nothing happens";
+}
+
+TEST_F(HistoryTest, APhasesFramesAndTimingAreStepsToo)
+{
+    const std::string text = folder.Read("walk.phase");
+    const auto written = fs::last_write_time(folder.At("walk.phase"));
+    Open();
+    DoubleClick("walk.phase");
+    const auto delay = [&] {
+        desktop.Run();
+        return std::string(Frame().GetProperties().GetDelay().GetWindowText()) + ' ' +
+               Frame().GetProperties().GetText();
+    };
+    Press(VK_F4);
+    desktop.Type("65");
+    Press(VK_RETURN);
+    Control('S');
+    Click("a.bmp");
+    Control('X');
+    EXPECT_EQ("#delay 65\nc.bmp\n", folder.Read("walk.phase"));
+    EXPECT_EQ("cut in \"walk.phase\"", NextUndo());
+    Control('Z');
+    EXPECT_EQ("/walk.phase/ | [*c.bmp a.bmp] | 2 objects", Screen());
+    Control('Z');
+    EXPECT_EQ("65 walk.phase: not saved yet (Ctrl+S)", delay());
+    EXPECT_EQ(text, folder.Read("walk.phase"));
+    EXPECT_EQ(written, fs::last_write_time(folder.At("walk.phase")));
+    Control('Z');
+    EXPECT_EQ("80 walk.phase", delay());
+    Control('Y');
+    Control('Y');
+    EXPECT_EQ("65 walk.phase", delay());
+    EXPECT_EQ("#delay 65\nc.bmp\nAda/a.bmp\n", folder.Read("walk.phase"));
+}
+
+TEST_F(HistoryTest, WhatOthersHaveChangedStaysAsTheyLeftItAndTheStepWaits)
+{
+    Open();
+    DoubleClick("Ada");
+    Click("a.bmp");
+    Control('X');
+    folder.Write("Ada/a.bmp", "another's");
+    Control('Z');
+    EXPECT_EQ(Ledger({"Nothing was undone: there is a \"a.bmp\" already"}), TakeBoxes());
+    EXPECT_EQ("another's", folder.Read("Ada/a.bmp"));
+    folder.Remove("Ada/a.bmp");
+    Control('Z');
+    Control('C');
+    Press(VK_BACK);
+    DoubleClick("Bo");
+    Control('V');
+    folder.Write("Bo/a.bmp", "painted over");
+    Control('Z');
+    EXPECT_EQ("painted over", folder.Read("Bo/a.bmp"));
+    EXPECT_EQ(Ledger({"Nothing was undone: a.bmp: was changed by another program meanwhile"}), TakeBoxes());
+    EXPECT_EQ("paste of \"a.bmp\"", NextUndo());
+}
+
+// All there is on the disk by its path: kind, content and time; of a folder the kind alone.
+using State = std::map<std::string, std::string>;
+
+class HistoryWalk : public HistoryTest, public testing::WithParamInterface<unsigned>
+{
+protected:
+    HistoryWalk() : m_random(GetParam())
+    {
+        folder.Make("Ada/Poses/two.bmp Bo/a.bmp Bo/d.bmp");
+        folder.Write("Ada/run.phase", "a.bmp\nb.bmp\n../c.bmp\na.bmp\n");
+        folder.Link("Bo/link.bmp", "../c.bmp");
+        folder.Link("Bo/dead.bmp", "nowhere.bmp");
+    }
+
+    int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+    State Disk() const
+    {
+        State state;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+            const std::string path = entry.path().string().substr(folder.Path().size() + 1);
+            if (entry.is_symlink())
+                state[path] = "-> " + fs::read_symlink(entry.path()).string();
+            else if (entry.is_directory())
+                state[path] = "/";
+            else
+                state[path] = ShortOf(TempFolder::ReadFile(entry.path().string())) + " @" +
+                              std::to_string(entry.last_write_time().time_since_epoch().count());
+        }
+        return state;
+    }
+    static std::string ShortOf(std::string bytes)
+    {
+        if (bytes.starts_with("BM"))
+            return "picture " + std::to_string(std::hash<std::string>()(bytes));
+        std::replace(bytes.begin(), bytes.end(), '\n', '|');
+        return bytes;
+    }
+
+    void SelectAny()
+    {
+        editor::CEditorList& list = Frame().GetList();
+        list.SetItemState(-1, 0, LVIS_SELECTED);
+        for (int i = 0, most = 1 + Below(3); i < most && list.GetItemCount() > 0; ++i)
+            list.SetItemState(Below(list.GetItemCount()), LVIS_SELECTED, LVIS_SELECTED);
+    }
+    std::string AnyName() { return "n" + std::to_string(Below(6)); }
+    void RenameAny()
+    {
+        editor::CEditorList& list = Frame().GetList();
+        if (list.GetItemCount() == 0)
+            return;
+        const CStubRef<IAtom> pAtom = list.GetAtom(Below(list.GetItemCount()));
+        editor::CMember* const pMember = editor::CMember::Of(pAtom.Get());
+        Frame().GetCommands().GetPlain().Rename(pMember,
+                                                AnyName() + fs::path(pMember->ShownName()).extension().string());
+        Settle();
+    }
+    void GoAnywhere()
+    {
+        editor::CEditorList& list = Frame().GetList();
+        const CStubRef<IAtom> pAtom = list.GetItemCount() > 0 ? list.GetAtom(Below(list.GetItemCount())) : nullptr;
+        if (Below(3) > 0 && CStubRef<IAtomContainer>::From(pAtom.Get()))
+            Frame().GetNavigation().GoTo(editor::CMember::Of(pAtom.Get()));
+        else
+            Frame().GetNavigation().GoUp();
+        Settle();
+    }
+    void DragAny()
+    {
+        SelectAny();
+        const int nRow = Frame().GetList().GetNextItem(-1, LVNI_SELECTED);
+        CRect icon;
+        if (nRow < 0 || !Frame().GetList().GetItemRect(nRow, &icon, LVIR_ICON))
+            return;
+        const HTREEITEM hRoot = Tree().GetRootItem();
+        const HTREEITEM hTarget = Below(2) ? hRoot : Tree().GetChildItem(hRoot);
+        desktop.Hold({.control = Below(3) == 0});
+        Drag(List(), icon.CenterPoint(), [&] { DropOnTree(Tree().GetItemText(hTarget).GetString()); });
+        desktop.Hold({});
+        Settle();
+    }
+    void TimeAny()
+    {
+        editor::CPropertiesPane& pane = Frame().GetProperties();
+        desktop.Run();
+        if (!pane.GetDelay().IsWindowVisible())
+            return;
+        Press(VK_F4);
+        desktop.Type(std::to_string(20 + Below(5)).c_str());
+        Press(VK_RETURN);
+    }
+    void Act()
+    {
+        editor::FrameCommands& commands = Frame().GetCommands();
+        switch (Below(10)) {
+        case 0:
+            return SelectAny(), void(commands.Cut());
+        case 1:
+            return SelectAny(), void(commands.Copy());
+        case 2:
+        case 3:
+            return void(commands.Paste());
+        case 4:
+            return SelectAny(), void(commands.Remove());
+        case 5:
+            return RenameAny();
+        case 6:
+            return DragAny();
+        case 7:
+            return SelectAny(), TimeAny();
+        case 8:
+            return Control('S');
+        default:
+            return GoAnywhere();
+        }
+    }
+
+    // Another program is at work while a step is to be taken back; what it has done is then taken back, too.
+    void UndoBesideAnother()
+    {
+        std::vector<std::string> files;
+        for (const auto& [path, what] : Disk())
+            if (what != "/" && !what.starts_with("->"))
+                files.push_back(path);
+        if (files.empty())
+            return;
+        const std::string victim = files[static_cast<std::size_t>(Below(static_cast<int>(files.size())))];
+        const std::string bytes = folder.Read(victim);
+        const auto time = fs::last_write_time(folder.At(victim));
+        folder.Write(victim, "another's\n");
+        const State before = Disk();
+        const std::size_t nDone = History().CountDone();
+        Frame().GetCommands().Undo();
+        EXPECT_TRUE(nDone > History().CountDone() || before == Disk()) << "nothing of the step was taken back";
+        int nFound = 0;
+        for (const auto& [path, what] : Disk()) {
+            if (!what.starts_with("another's| @"))
+                continue;
+            ++nFound;
+            folder.Write(path, bytes);
+            fs::last_write_time(folder.At(path), time);
+        }
+        EXPECT_EQ(1, nFound) << victim << ": what another wrote is kept, and in sight";
+    }
+
+private:
+    std::minstd_rand m_random;
+};
+
+TEST_P(HistoryWalk, ThroughAnythingAndBackTheDiskIsAsItWas)
+{
+    Open();
+    std::vector<State> states = {Disk()}; // before the first step, and after each
+    const auto check = [&] {
+        ASSERT_LT(History().CountDone(), states.size());
+        ASSERT_EQ(states[History().CountDone()], Disk()) << History().NameToUndo();
+    };
+    for (int i = 0; i < 100 && !HasFailure(); ++i) {
+        SCOPED_TRACE(i);
+        const std::size_t nDone = History().CountDone();
+        const int what = Below(12);
+        if (what == 0)
+            Frame().GetCommands().Redo();
+        else if (what == 1)
+            Frame().GetCommands().Undo();
+        else if (what == 2)
+            UndoBesideAnother();
+        else
+            Act();
+        if (what > 2 && History().CountDone() != nDone) {
+            states.resize(nDone + 1);
+            states.push_back(Disk());
+        }
+        check();
+    }
+    const State end = states[History().CountDone()];
+    const std::size_t nDone = History().CountDone();
+    while (History().CountDone() > 0 && !HasFailure()) {
+        ASSERT_EQ("", Frame().GetCommands().Undo());
+        check();
+    }
+    while (History().CountDone() < nDone && !HasFailure()) {
+        ASSERT_EQ("", Frame().GetCommands().Redo());
+        check();
+    }
+    EXPECT_EQ(end, Disk());
+    TakeBoxes();
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, HistoryWalk, testing::Range(1u, 21u));
+
+} // namespace
