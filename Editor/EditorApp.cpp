@@ -3,8 +3,8 @@
 #include "Editor/frame/MainFrame.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/Services.h"
-#include "Toolkit/window/Desktop.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/menu/MessageBox.h"
 
 namespace editor
 {

@@ -3,7 +3,7 @@
 #include "QtDesktop/DropReceipt.h"
 #include "QtDesktop/OfferedMime.h"
 #include "QtDesktop/QtDrag.h"
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "QtDesktop/DropReceipt.h"
-#include "Toolkit/window/DragTracker.h"
+#include "Toolkit/exchange/DragTracker.h"
 
 #include <QDropEvent>
 #include <memory>

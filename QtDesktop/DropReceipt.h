@@ -7,7 +7,7 @@
 // another kind move what they are only to copy.
 #pragma once
 
-#include "Toolkit/window/DropEffect.h"
+#include "Toolkit/desktop/DropEffect.h"
 
 #include <QByteArray>
 #include <QDeadlineTimer>

@@ -1,8 +1,8 @@
 #include "QtDesktop/InputMethod.h"
 
 #include "Toolkit/controls/edit/EditMessages.h"
-#include "Toolkit/window/Desktop.h"
-#include "Toolkit/window/Input.h"
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/Input.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <QRect>

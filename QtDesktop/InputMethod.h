@@ -3,7 +3,7 @@
 // Positions are Qt's here: they count UTF-16 units, those of the toolkit bytes of UTF-8.
 #pragma once
 
-#include "Toolkit/window/TextInput.h"
+#include "Toolkit/input/TextInput.h"
 
 #include <QInputMethodEvent>
 #include <QVariant>

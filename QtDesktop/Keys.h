@@ -1,7 +1,7 @@
 // What a key event of Qt means to the toolkit.
 #pragma once
 
-#include "Toolkit/window/Input.h"
+#include "Toolkit/message/Input.h"
 
 #include <QKeyEvent>
 #include <string>

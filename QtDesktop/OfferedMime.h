@@ -2,7 +2,7 @@
 #pragma once
 
 #include "QtDesktop/DropReceipt.h"
-#include "Toolkit/window/OfferedData.h"
+#include "Toolkit/desktop/OfferedData.h"
 
 #include <QMimeData>
 #include <memory>

@@ -6,7 +6,7 @@
 #pragma once
 
 #include "QtDesktop/Export.h"
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 // Drags that begin in this program.
 #pragma once
 
-#include "Toolkit/window/DropEffect.h"
-#include "Toolkit/window/OfferedData.h"
+#include "Toolkit/desktop/DropEffect.h"
+#include "Toolkit/desktop/OfferedData.h"
 
 #include <memory>
 

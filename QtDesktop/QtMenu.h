@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Toolkit/base/Geometry.h"
-#include "Toolkit/window/MenuItems.h"
+#include "Toolkit/desktop/MenuItems.h"
 
 class QWidget;
 

@@ -1,6 +1,6 @@
 #include "QtDesktop/QtMessageBox.h"
 
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 
 #include <QMessageBox>
 #include <QPointer>

@@ -6,8 +6,8 @@
 #pragma once
 
 #include "QtDesktop/DropArea.h"
-#include "Toolkit/window/Desktop.h"
-#include "Toolkit/window/Input.h"
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/Input.h"
 
 #include <QWidget>
 #include <memory>

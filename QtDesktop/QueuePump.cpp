@@ -1,7 +1,7 @@
 #include "QtDesktop/QueuePump.h"
 
 #include "Toolkit/base/Ticks.h"
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 
 #include <QCoreApplication>
 #include <QTimerEvent>

@@ -1,7 +1,7 @@
 #include "bench/BenchWindow.h"
 
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Resources.h"
-#include "Toolkit/window/Desktop.h"
 #include "bench/Samples.h"
 
 #ifdef VIEWS_BENCH_QT
@@ -10,7 +10,7 @@
 #include <QApplication>
 #include <QFont>
 #else
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #endif
 
 namespace bench

@@ -3,8 +3,8 @@
 #include "Editor/model/Library.h"
 #include "Editor/services/Services.h"
 #include "Toolkit/base/GlobalMemory.h"
-#include "Toolkit/ole/DataObject.h"
-#include "Toolkit/ole/DataSource.h"
+#include "Toolkit/exchange/DataObject.h"
+#include "Toolkit/exchange/DataSource.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
 

@@ -3,8 +3,8 @@
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/Services.h"
-#include "Toolkit/ole/ClipboardFormat.h"
-#include "Toolkit/window/DragTracker.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
+#include "Toolkit/exchange/DragTracker.h"
 #include "Views/clipboard/clipboard.h"
 #include "bench/BenchWindow.h"
 

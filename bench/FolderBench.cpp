@@ -2,7 +2,7 @@
 #include "Editor/EditorApp.h"
 #include "Editor/frame/CommandTable.h"
 #include "Editor/frame/MainFrame.h"
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 
 #include <benchmark/benchmark.h>
 #include <dirent.h>

@@ -1,5 +1,5 @@
 // What an icon list costs: opening a container, frames in the middle of it, selecting, one atom more or changed.
-#include "Toolkit/window/Input.h"
+#include "Toolkit/message/Input.h"
 #include "bench/BenchHost.h"
 #include "bench/BenchWindow.h"
 #include "bench/Memory.h"

@@ -1,7 +1,7 @@
 // The numeric field under whatever is typed, pasted and set. Bytes from the blank on are typed; those below are keys
 // and commands, some of which take what follows.
 #include "Toolkit/base/Text.h"
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #include "Views/controls/controls.h"
 #include "fuzz/Check.h"
 

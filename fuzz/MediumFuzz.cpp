@@ -5,7 +5,7 @@
 #include "Editor/objects/LiveObjects.h"
 #include "Editor/services/Services.h"
 #include "Toolkit/base/Files.h"
-#include "Toolkit/ole/StgMedium.h"
+#include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/clipboard.h"
 #include "fuzz/Check.h"
 #include "fuzz/Folder.h"

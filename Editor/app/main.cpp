@@ -15,7 +15,7 @@
 #include "Editor/script/ScriptFile.h"
 #include "Editor/services/LeftTransfers.h"
 #include "QtDesktop/QtDesktop.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 
 #include <QApplication>
 #include <QSocketNotifier>

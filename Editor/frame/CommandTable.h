@@ -2,7 +2,7 @@
 // does.
 #pragma once
 
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 
 #include <memory>
 #include <string>

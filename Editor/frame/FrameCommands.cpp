@@ -3,7 +3,7 @@
 #include "Editor/disk/Trash.h"
 #include "Editor/objects/ErrorInfo.h"
 #include "Editor/resources/EditorResources.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "Views/clipboard/Naming.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "Editor/frame/StatusText.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 
 #include <utility>
 

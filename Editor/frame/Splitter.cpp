@@ -1,8 +1,8 @@
 #include "Editor/frame/Splitter.h"
 
 #include "Editor/frame/Look.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/Desktop.h"
 
 #include <utility>
 

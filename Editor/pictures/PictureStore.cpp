@@ -1,6 +1,6 @@
 #include "Editor/pictures/PictureStore.h"
 
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/UnsavedPhases.h"
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
 
 namespace editor
 {

@@ -5,7 +5,7 @@
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/ole/DataObject.h"
+#include "Toolkit/exchange/DataObject.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
 

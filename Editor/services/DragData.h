@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/services/ActiveMembers.h"
-#include "Toolkit/ole/DataSource.h"
+#include "Toolkit/exchange/DataSource.h"
 
 #include <memory>
 

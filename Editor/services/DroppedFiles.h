@@ -2,7 +2,7 @@
 // look.
 #pragma once
 
-#include "Toolkit/ole/DataObject.h"
+#include "Toolkit/exchange/DataObject.h"
 #include "Views/host/host.h"
 
 #include <string>

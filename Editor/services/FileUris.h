@@ -1,7 +1,7 @@
 // Files as file managers name them: a list of URIs (RFC 2483), with "file" URIs (RFC 8089).
 #pragma once
 
-#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
 
 #include <string>
 #include <string_view>

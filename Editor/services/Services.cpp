@@ -3,7 +3,7 @@
 #include "Editor/archive/Archive.h"
 #include "Editor/archive/MemoryStream.h"
 #include "Editor/objects/ErrorInfo.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 
 #include <new>
 

@@ -1,10 +1,10 @@
 // What a window does with a message that nobody has handled.
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/scroll/Frame.h"
 #include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/Frame.h"
 #include "Toolkit/window/WindowApi.h"
-#include "Toolkit/window/WindowGeometry.h"
 #include "Toolkit/window/WndAccess.h"
 
 #include <algorithm>

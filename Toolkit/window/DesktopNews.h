@@ -1,7 +1,7 @@
 // What the window layer tells the desktop of top-level windows. Internal to it.
 #pragma once
 
-#include "Toolkit/window/WindowRecord.h"
+#include "Toolkit/handle/WindowRecord.h"
 
 namespace toolkit
 {

@@ -1,7 +1,7 @@
 // How a message's parameters become a handler's arguments: one function for each kind of handler.
 #pragma once
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 class CWnd;
 

@@ -1,6 +1,6 @@
 #include "Toolkit/window/NativeWindow.h"
 
-#include "Toolkit/window/Dispatch.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/window/NativeClasses.h"
 
 #include <map>

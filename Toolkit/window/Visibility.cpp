@@ -1,11 +1,11 @@
 #include "Toolkit/window/Visibility.h"
 
-#include "Toolkit/window/Capture.h"
+#include "Toolkit/focus/Capture.h"
+#include "Toolkit/focus/Focus.h"
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/paint/Painting.h"
 #include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/Focus.h"
-#include "Toolkit/window/Painting.h"
 #include "Toolkit/window/WindowApi.h"
-#include "Toolkit/window/WindowGeometry.h"
 
 using toolkit::FindRecord;
 using toolkit::WindowRecord;

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Toolkit/base/String.h"
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 // Life. A window belongs to its parent and is destroyed with it; one without a parent is a top-level window. A new
 // window lies above its siblings. Class names are those that toolkit::RegisterWindowClass knows; "" is a plain

@@ -1,11 +1,11 @@
 #include "Toolkit/window/WindowCreation.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/NativeClasses.h"
 #include "Toolkit/window/WindowApi.h"
 #include "Toolkit/window/WindowDestruction.h"
-#include "Toolkit/window/WindowGeometry.h"
 #include "Toolkit/window/WndAccess.h"
 
 namespace

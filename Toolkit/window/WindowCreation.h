@@ -1,7 +1,7 @@
 // Making windows. Internal to the window layer.
 #pragma once
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 class CWnd;
 

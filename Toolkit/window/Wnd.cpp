@@ -1,8 +1,8 @@
 #include "Toolkit/window/Wnd.h"
 
+#include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/window/NativeWindow.h"
 #include "Toolkit/window/WindowCreation.h"
-#include "Toolkit/window/WindowRecord.h"
 #include "Toolkit/window/WndAccess.h"
 
 namespace

@@ -4,7 +4,7 @@
 #include "Kernel/Kernel.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/GlobalMemory.h"
-#include "Toolkit/ole/StgMedium.h"
+#include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/FileArchive.h"
 #include "Views/clipboard/FileHandle.h"
 #include "Views/host/IArchive.h"

@@ -1,7 +1,7 @@
 // Inside the library: what the drop targets of all views have in common.
 #pragma once
 
-#include "Toolkit/ole/DropTarget.h"
+#include "Toolkit/exchange/DropTarget.h"
 #include "Views/clipboard/Drags.h"
 #include "Views/host/Api.h"
 #include "Views/host/IAtomContainer.h"

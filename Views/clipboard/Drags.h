@@ -1,7 +1,7 @@
 // Inside the library: atoms that are dragged, at both ends.
 #pragma once
 
-#include "Toolkit/ole/DataObject.h"
+#include "Toolkit/exchange/DataObject.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/StubRef.h"
 

@@ -1,6 +1,6 @@
 // Pasting an archive's atoms into a container, and whether that may be.
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/window/WaitCursor.h"
+#include "Toolkit/desktop/WaitCursor.h"
 #include "Views/clipboard/Commands.h"
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IAtomContainer.h"

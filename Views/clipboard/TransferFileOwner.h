@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Toolkit/base/GlobalMemory.h"
-#include "Toolkit/ole/Unknown.h"
+#include "Toolkit/exchange/Unknown.h"
 #include "Views/host/Api.h"
 
 // The releaser of clipboard data: it owns a path handle and its transfer file, and disposes of both when its last

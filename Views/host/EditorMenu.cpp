@@ -1,6 +1,6 @@
 #include "Views/host/EditorMenu.h"
 
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Toolkit/ole/ClipboardFormat.h"
-#include "Toolkit/window/DropEffect.h"
+#include "Toolkit/desktop/DropEffect.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
 #include "Views/host/IAEStateHandler.h"
 
 class CMenu;

@@ -1,6 +1,6 @@
 // Items: from an atom announced to its item, with the members below it, and back.
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "Views/host/Resources.h"
 #include "Views/tree/MemberKeys.h"
 #include "Views/tree/ObjectsTree.h"

@@ -5,8 +5,8 @@
 // in; "vanish" destroys its window at the drop; "forget" deletes what it drags once that has moved; "foreign" is a
 // program of another kind, which does what is proposed.
 #include "QtDesktop/QtDesktop.h"
-#include "Toolkit/ole/DataSource.h"
-#include "Toolkit/ole/DropTarget.h"
+#include "Toolkit/exchange/DataSource.h"
+#include "Toolkit/exchange/DropTarget.h"
 
 #include <QApplication>
 #include <QDropEvent>

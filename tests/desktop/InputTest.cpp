@@ -1,4 +1,4 @@
-#include "Toolkit/ole/DropTarget.h"
+#include "Toolkit/exchange/DropTarget.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QDropEvent>

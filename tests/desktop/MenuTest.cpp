@@ -1,5 +1,5 @@
 // Popup menus in Qt's menus.
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 
 #include "tests/desktop/DesktopTest.h"
 

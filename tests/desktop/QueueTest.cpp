@@ -1,4 +1,4 @@
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>

@@ -1,5 +1,5 @@
 // Objects copied, cut, pasted and removed by their keys, on the disk.
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
 #include "tests/support/FailingDisk.h"
 

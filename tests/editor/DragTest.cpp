@@ -1,6 +1,6 @@
 // Objects dragged with the mouse, between list and tree; what lies on the disk afterwards. And their menu.
-#include "Toolkit/window/Input.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/Input.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace

@@ -4,7 +4,7 @@
 #include "Editor/disk/TempEntry.h"
 #include "Editor/frame/MainFrame.h"
 #include "Editor/script/Script.h"
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/editor/TempFolder.h"
 #include "tests/support/AllocationFailures.h"

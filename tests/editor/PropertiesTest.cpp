@@ -1,7 +1,7 @@
 // The timing of phases: set in fields, kept in their files.
 #include "Editor/model/PhaseTiming.h"
-#include "Toolkit/window/Input.h"
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/Input.h"
 #include "tests/editor/EditorFixture.h"
 
 namespace

@@ -1,7 +1,7 @@
 // What somebody may write who knows the public headers only: a list, a tree and a numeric field, and no host at all.
 #include "AtomLib/AtomLib.h"
 #include "Kernel/Kernel.h"
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/controls/controls.h"
 #include "Views/host/host.h"

@@ -1,7 +1,7 @@
 // The fixture of every test that shows windows: a desktop without a screen, and a check that nothing is left.
 #pragma once
 
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/support/Ledger.h"
 
 #include <gtest/gtest.h>

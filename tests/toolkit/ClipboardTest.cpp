@@ -1,7 +1,7 @@
-#include "Toolkit/ole/DataObject.h"
-#include "Toolkit/ole/DataSource.h"
-#include "Toolkit/ole/OleException.h"
-#include "Toolkit/window/WaitCursor.h"
+#include "Toolkit/desktop/WaitCursor.h"
+#include "Toolkit/exchange/DataObject.h"
+#include "Toolkit/exchange/DataSource.h"
+#include "Toolkit/exchange/OleException.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 

@@ -1,6 +1,6 @@
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/ole/DataSource.h"
-#include "Toolkit/ole/DropTarget.h"
+#include "Toolkit/exchange/DataSource.h"
+#include "Toolkit/exchange/DropTarget.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"
 

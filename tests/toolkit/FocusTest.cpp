@@ -1,4 +1,4 @@
-#include "Toolkit/window/Input.h"
+#include "Toolkit/message/Input.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"
 

@@ -1,4 +1,4 @@
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"

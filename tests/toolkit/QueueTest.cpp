@@ -1,4 +1,4 @@
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"

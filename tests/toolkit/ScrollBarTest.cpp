@@ -1,4 +1,4 @@
-#include "Toolkit/window/ScrollBar.h"
+#include "Toolkit/scroll/ScrollBar.h"
 
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"

@@ -1,5 +1,5 @@
 // Dragging atoms out of the views and dropping them on them, their menus, and renaming in place.
-#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/tree/TreeDropTarget.h"
 #include "tests/views/ListTest.h"

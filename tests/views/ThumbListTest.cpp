@@ -1,5 +1,5 @@
 // The pictures of a thumbnail list, its images, and what the mouse has passed over.
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/views/ListTest.h"
 

@@ -2,7 +2,7 @@
 #include "Toolkit/base/Files.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/base/WideText.h"
-#include "Toolkit/ole/StgMedium.h"
+#include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"

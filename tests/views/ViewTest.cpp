@@ -2,7 +2,7 @@
 
 #include "Kernel/Kernel.h"
 #include "Toolkit/base/GlobalMemory.h"
-#include "Toolkit/ole/ClipboardFormat.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
 
 #include <cstdlib>
 

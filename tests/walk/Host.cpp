@@ -1,8 +1,8 @@
 #include "tests/walk/Host.h"
 
-#include "Toolkit/ole/ClipboardFormat.h"
-#include "Toolkit/ole/DataSource.h"
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
+#include "Toolkit/exchange/DataSource.h"
+#include "Toolkit/menu/Menu.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/views/FakeArchive.h"

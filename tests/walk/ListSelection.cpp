@@ -1,5 +1,5 @@
 // How a list's selection changes, and what the user does to it.
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 #include "tests/walk/ListModel.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // What all views have in common: who hears what, the focus, and labels edited in place.
 #include "tests/walk/Model.h"
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 #include <algorithm>
 #include <cctype>

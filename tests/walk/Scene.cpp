@@ -3,7 +3,7 @@
 #include "Toolkit/base/Files.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/graphics/Gdi.h"
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 
 #include <algorithm>
 

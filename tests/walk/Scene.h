@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Toolkit/graphics/Resources.h"
-#include "Toolkit/window/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/views/FakeArchive.h"
 #include "tests/walk/Model.h"
 #include "tests/walk/Views.h"

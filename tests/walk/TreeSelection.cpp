@@ -1,5 +1,5 @@
 // How a tree's selection moves, and what the user does to it.
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 #include "tests/walk/TreeModel.h"
 
 #include <algorithm>

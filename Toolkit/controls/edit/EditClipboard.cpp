@@ -1,7 +1,7 @@
 #include "Toolkit/controls/edit/EditClipboard.h"
 
-#include "Toolkit/ole/DataObject.h"
-#include "Toolkit/ole/DataSource.h"
+#include "Toolkit/exchange/DataObject.h"
+#include "Toolkit/exchange/DataSource.h"
 
 #include <cstring>
 

@@ -1,6 +1,6 @@
 #include "Toolkit/controls/edit/EditControl.h"
 
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit

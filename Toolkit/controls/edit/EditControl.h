@@ -7,8 +7,8 @@
 #include "Toolkit/controls/edit/EditHistory.h"
 #include "Toolkit/controls/edit/EditLayout.h"
 #include "Toolkit/controls/edit/EditMessages.h"
+#include "Toolkit/input/TextInput.h"
 #include "Toolkit/window/NativeWindow.h"
-#include "Toolkit/window/TextInput.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 // The edit control's own context menu.
 #include "Toolkit/controls/edit/EditControl.h"
-#include "Toolkit/window/Menu.h"
+#include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
 
 namespace toolkit

@@ -1,7 +1,7 @@
 // The edit control under the mouse: placing the caret, selecting by dragging and by words.
 #include "Toolkit/controls/edit/EditControl.h"
 #include "Toolkit/controls/edit/EditTimers.h"
-#include "Toolkit/window/Desktop.h"
+#include "Toolkit/desktop/Desktop.h"
 
 namespace toolkit
 {

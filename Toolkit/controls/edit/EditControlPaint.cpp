@@ -1,9 +1,9 @@
 // How the edit control draws, and how its caret blinks.
 #include "Toolkit/controls/edit/EditControl.h"
 #include "Toolkit/controls/edit/EditTimers.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/Desktop.h"
 #include "Toolkit/window/Wnd.h"
 
 namespace toolkit

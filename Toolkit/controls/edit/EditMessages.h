@@ -5,7 +5,7 @@
 // inside a character or before a mark that stands on the character before it, counts as the nearest place to its left.
 #pragma once
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 inline constexpr LPCSTR WC_EDIT = "Edit";
 

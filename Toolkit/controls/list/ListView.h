@@ -4,7 +4,7 @@
 // selected and focused; text and pictures it asks for whenever it draws. Row numbers count from 0.
 #pragma once
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 inline constexpr LPCSTR WC_LISTVIEW = "SysListView32";
 

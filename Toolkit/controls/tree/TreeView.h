@@ -4,7 +4,7 @@
 // the control, is refused by every message: FALSE, NULL, 0 or -1, and nothing happens.
 #pragma once
 
-#include "Toolkit/window/Messages.h"
+#include "Toolkit/message/Messages.h"
 
 inline constexpr LPCSTR WC_TREEVIEW = "SysTreeView32";
 

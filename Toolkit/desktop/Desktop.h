@@ -1,0 +1,99 @@
+// The desktop: everything the toolkit needs of the machine around it.
+//
+// One desktop is installed at a time, before the first window. HeadlessDesktop is built in; a real one shows
+// the same surfaces in real windows. All calls come on the user-interface thread.
+#pragma once
+
+#include "Toolkit/desktop/DropEffect.h"
+#include "Toolkit/desktop/MenuItems.h"
+#include "Toolkit/desktop/OfferedData.h"
+#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/TextEngine.h"
+#include "Toolkit/message/Messages.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace toolkit
+{
+
+enum class Cursor
+{
+    Arrow,
+    Wait,
+    Text,
+    Hand,
+    SizeWE, // moves something to the left or right
+    NoDrop, // what a drag would do here
+    DropCopy,
+    DropMove
+};
+
+class TOOLKIT_API Desktop
+{
+public:
+    virtual ~Desktop() = default;
+
+    virtual DWORD Ticks() = 0; // milliseconds; may wrap
+    virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
+
+    // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
+    virtual void WindowCreated(HWND hTop) = 0;
+    virtual void WindowChanged(HWND hTop) = 0; // shown, hidden or renamed
+    // Moved or sized by the program. Not called for what InputResize and InputMoved told: the desktop knows, and a
+    // late echo would undo what the user has done since.
+    virtual void WindowPlaced(HWND hTop) = 0;
+    virtual void WindowDestroyed(HWND hTop) = 0;
+    virtual void Present(HWND hTop, const Surface& surface, const CRect& dirty) = 0;
+
+    // The queue has something to do: at once (0) or in so many milliseconds, for the next timer. Replaces the
+    // former request; nullopt: nothing at all. The desktop then calls toolkit::RunPendingMessages.
+    virtual void Wake(std::optional<DWORD> inMilliseconds) = 0;
+    virtual void WakeFromThread() = 0; // a task was posted by another thread, which calls this: have the queue run
+
+    virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
+    // The command chosen, 0 for none. Messages run meanwhile.
+    virtual UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) = 0;
+    virtual void ShowCursor(Cursor cursor) = 0;
+
+    // The clipboard. Publishing takes it from whoever has it, the program's own former data included, which is not
+    // told. The desktop holds the data as long as it is there, renders of it what others ask for, and calls its OnLost
+    // when another program takes the clipboard, or when the desktop itself goes. FALSE when the clipboard is not to be
+    // had: the data is let go of, and what the program had there before is lost and told so.
+    virtual BOOL PublishClipboard(std::shared_ptr<OfferedData> data) = 0;
+    // What another program has there; NULL when it is empty or the program's own.
+    virtual std::shared_ptr<OfferedData> FetchClipboard() = 0;
+
+    // Drags the data until the user has dropped or cancelled it, or it is gone; one of the allowed effects, or none.
+    // While it is over the program's own windows, a DragTracker tells them. Messages run meanwhile.
+    virtual DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) = 0;
+
+    // Another field has the focus, or none, or the field's text or caret is new: ask FocusedTextInput.
+    virtual void TextInputChanged() {}
+};
+
+TOOLKIT_API void InstallDesktop(Desktop* pDesktop); // borrowed; NULL takes it away, after the last window
+TOOLKIT_API Desktop& CurrentDesktop();
+
+// The queue. One message: posted, else input, else a paint, else a due timer. FALSE when there was none.
+TOOLKIT_API bool RunOneMessage();
+TOOLKIT_API void RunPendingMessages(); // until there is none; timers that come due meanwhile included
+// As above, but gives up after about so many milliseconds, so that real input is never starved.
+TOOLKIT_API bool RunPendingMessagesFor(DWORD nMilliseconds); // true when nothing is left
+
+// Has a task run on the user-interface thread, in order with the posted messages. Any thread may call it, as
+// long as a desktop is installed; tasks that have not run when the desktop goes are dropped.
+TOOLKIT_API void PostTask(std::function<void()> task);
+
+// What tests compare: windows, timers and posted messages alive.
+struct WindowCounts
+{
+    int windows, timers, posted;
+};
+TOOLKIT_API WindowCounts CountWindows();
+
+// A top-level window's picture as last painted; NULL for a stale handle.
+TOOLKIT_API const Surface* WindowSurface(HWND hTop);
+
+} // namespace toolkit

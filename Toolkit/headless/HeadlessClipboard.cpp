@@ -1,0 +1,78 @@
+// The headless desktop's clipboard, and the other program that a test plays on it.
+#include "Toolkit/headless/HeadlessDesktop.h"
+#include "Toolkit/headless/HeadlessDrag.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace
+{
+class ForeignOffer : public toolkit::OfferedData
+{
+public:
+    explicit ForeignOffer(toolkit::KindsAndBytes data) : m_data(std::move(data)) {}
+
+    std::vector<std::string> GetKinds() override
+    {
+        std::vector<std::string> kinds;
+        for (const auto& [kind, bytes] : m_data)
+            kinds.push_back(kind);
+        return kinds;
+    }
+
+    std::optional<std::string> Render(std::string_view kind) override
+    {
+        const auto found =
+            std::find_if(m_data.begin(), m_data.end(), [kind](const auto& d) { return d.first == kind; });
+        return found == m_data.end() ? std::nullopt : std::optional(found->second);
+    }
+
+private:
+    const toolkit::KindsAndBytes m_data;
+};
+} // namespace
+
+std::shared_ptr<toolkit::OfferedData> toolkit::MakeOffer(KindsAndBytes data)
+{
+    return std::make_shared<ForeignOffer>(std::move(data));
+}
+
+std::string toolkit::JoinKinds(OfferedData& data)
+{
+    std::string all;
+    for (const std::string& kind : data.GetKinds())
+        all += (all.empty() ? "" : " ") + kind;
+    return all;
+}
+
+BOOL toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
+{
+    m_foreign.reset();
+    if (m_bRefusesClipboard)
+        LosePublished();
+    else
+        m_published = std::move(data);
+    return !m_bRefusesClipboard;
+}
+
+void toolkit::HeadlessDesktop::LosePublished()
+{
+    if (const auto lost = std::exchange(m_published, nullptr))
+        lost->OnLost();
+}
+
+void toolkit::HeadlessDesktop::TakeClipboard(KindsAndBytes data)
+{
+    m_foreign = data.empty() ? nullptr : MakeOffer(std::move(data));
+    LosePublished();
+}
+
+std::string toolkit::HeadlessDesktop::PublishedKinds()
+{
+    return m_published ? JoinKinds(*m_published) : "";
+}
+
+std::optional<std::string> toolkit::HeadlessDesktop::ReadPublished(std::string_view kind)
+{
+    return m_published ? m_published->Render(kind) : std::nullopt;
+}

@@ -1,0 +1,137 @@
+// A desktop without a screen: scripted, deterministic, its clock included.
+//
+// Installs itself when made and goes when destroyed. Screen coordinates are those of the windows, which lie
+// where they were created. Input takes effect at once: each call runs the queue until nothing is left, but the
+// clock stands still unless Advance is called.
+#pragma once
+
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/Input.h"
+
+#include <condition_variable>
+#include <deque>
+#include <mutex>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace toolkit
+{
+
+struct HeadlessDrag;
+using KindsAndBytes = std::vector<std::pair<std::string, std::string>>; // MIME types and what is rendered as them
+
+class TOOLKIT_API HeadlessDesktop : public Desktop
+{
+public:
+    HeadlessDesktop();
+    ~HeadlessDesktop() override;
+    HeadlessDesktop(const HeadlessDesktop&) = delete;
+    HeadlessDesktop& operator=(const HeadlessDesktop&) = delete;
+
+    // Mouse, at client coordinates of any window. Buttons pressed stay down until released; a press after a press
+    // at the same place is a double click only within the double-click time, so tests Advance between clicks.
+    void MoveTo(HWND hWnd, CPoint at);
+    void Press(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
+    void Release(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
+    void Click(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left); // never the second of a double click
+    void DoubleClick(HWND hWnd, CPoint at);
+    void Wheel(HWND hWnd, CPoint at, int notches); // up is positive
+
+    // Keys, to the focus. Modifiers hold for mouse and keys until changed.
+    void Hold(Modifiers modifiers);
+    void Key(UINT vkey);              // down and up
+    void Type(std::string_view utf8); // a key for each character
+
+    // Lets the time pass, a timer at a time, each handled when it is due.
+    void Advance(DWORD nMilliseconds);
+    void SetTicks(DWORD ticks) { m_ticks = ticks; }
+    void Run(); // until nothing is left to do at the present time
+    // Runs the queue, waiting for the tasks that other threads post, until the condition holds. FALSE when it does
+    // not within ten seconds of real time.
+    bool RunUntil(const std::function<bool()>& condition);
+
+    // Message boxes: answers in order (IDOK when there is none left), and what was shown: "caption: text".
+    void Answer(int nButton) { m_answers.push_back(nButton); }
+    std::vector<std::string> TakeMessageBoxes();
+
+    // Menus: what the user chooses in the next ones, by its text without mark and shortcut (nothing when there is no
+    // such enabled item, or no text is left); and what was shown, as DescribeMenu gives it, where the last one was.
+    void Choose(std::string text) { m_choices.push_back(std::move(text)); }
+    std::vector<std::string> TakeMenus() { return std::exchange(m_menus, {}); }
+    CPoint LastMenuPlace() const { return m_menuPlace; } // screen
+
+    // Drags. One of the program's own runs inside the call that begins it, mostly a MoveTo: the script, made before,
+    // then plays its user with MoveTo, Hold, Release, Key(VK_ESCAPE), Advance and the two below. A drag that is still
+    // going on when its script ends, or that has none, is cancelled. The cursor shows what a drop would do.
+    void DuringDrag(std::function<void()> script) { m_dragScripts.push_back(std::move(script)); }
+    void DragOut();                      // the mouse leaves the program's windows
+    void DropOutside(DROPEFFECT effect); // another program takes the data and confirms what it did with it
+    // Another program's drag, of data of its own, begun outside all windows with the left button; driven with MoveTo,
+    // Hold, Release and Key(VK_ESCAPE), with no script. It is over when it is dropped or cancelled.
+    void DragIn(KindsAndBytes data, DROPEFFECT allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE);
+    bool IsDragging() const;
+    DROPEFFECT DragEffect() const { return m_dragEffect; } // what a drop would do; after the drag, what it did
+    std::string DraggedKinds();                            // as PublishedKinds, of the drag
+    std::optional<std::string> ReadDragged(std::string_view kind);
+
+    // The clipboard as another program sees it: it takes it with data of its own, or leaves it empty, or asks for
+    // what the program under test has published.
+    void TakeClipboard(KindsAndBytes data);
+    void RefuseClipboard(bool bRefuse) { m_bRefusesClipboard = bRefuse; } // to the program under test
+    std::string PublishedKinds(); // separated by spaces; "" when nothing is published
+    std::optional<std::string> ReadPublished(std::string_view kind);
+
+    // The pixels of a window, border included, cut out of its top-level window after all painting is done.
+    Surface Dump(HWND hWnd);
+    CPoint CursorPos() const { return m_cursorPos; }
+    Cursor CurrentCursor() const { return m_cursor; }
+
+    DWORD Ticks() override { return m_ticks; }
+    void WindowCreated(HWND) override {}
+    void WindowChanged(HWND) override {}
+    void WindowPlaced(HWND) override {}
+    void WindowDestroyed(HWND) override {}
+    void Present(HWND, const Surface&, const CRect&) override {}
+    void Wake(std::optional<DWORD> inMilliseconds) override;
+    void WakeFromThread() override;
+    int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
+    void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
+    UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) override;
+    DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) override;
+    BOOL PublishClipboard(std::shared_ptr<OfferedData> data) override;
+    std::shared_ptr<OfferedData> FetchClipboard() override { return m_foreign; }
+
+private:
+    void LosePublished();
+    DWORD KeyState() const; // MK_*, of a drag
+    void StepDrag();        // to where the mouse is now, with the present keys
+    bool EndIfGone();
+    void DropOrCancel(MouseButton button, bool down);
+    void EndDrag(DROPEFFECT effect);
+    void FinishDragStep();
+    void PutButton(HWND hWnd, CPoint at, MouseButton button, bool down);
+
+    std::mutex m_mutex; // of m_bTaskPosted
+    std::condition_variable m_taskPosted;
+    bool m_bTaskPosted = false;
+
+    DWORD m_ticks = 1000;
+    std::optional<DWORD> m_wakeAt; // when the queue asked to be run
+    Modifiers m_modifiers;
+    CPoint m_cursorPos;
+    HWND m_hUnderMouse = nullptr; // top-level window
+    Cursor m_cursor = Cursor::Arrow;
+    std::deque<int> m_answers;
+    std::vector<std::string> m_boxes;
+    std::deque<std::string> m_choices;
+    std::vector<std::string> m_menus;
+    CPoint m_menuPlace;
+    std::deque<std::function<void()>> m_dragScripts;
+    std::unique_ptr<HeadlessDrag> m_drag;
+    DROPEFFECT m_dragEffect = DROPEFFECT_NONE;
+    std::shared_ptr<OfferedData> m_published, m_foreign; // one of them at most
+    bool m_bRefusesClipboard = false;
+};
+
+} // namespace toolkit

@@ -1,0 +1,22 @@
+#include "Toolkit/input/DoubleClick.h"
+
+#include "Toolkit/window/WindowApi.h"
+
+#include <cstdlib>
+
+bool toolkit::DoubleClick::IsSecond(HWND hWnd, MouseButton button, CPoint screen, DWORD time)
+{
+    const CPoint moved = screen - m_at;
+    const bool bSecond = hWnd == m_hWnd && button == m_button && time - m_time < kDoubleClickTime &&
+                         std::abs(moved.x) <= kDoubleClickDistance && std::abs(moved.y) <= kDoubleClickDistance;
+    m_hWnd = bSecond ? nullptr : hWnd;
+    m_button = button;
+    m_at = screen;
+    m_time = time;
+    return bSecond;
+}
+
+UINT GetDoubleClickTime()
+{
+    return toolkit::kDoubleClickTime;
+}

@@ -1,0 +1,26 @@
+// Tells double clicks from single ones. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/message/InputQueue.h"
+
+namespace toolkit
+{
+
+inline constexpr DWORD kDoubleClickTime = 500; // milliseconds
+inline constexpr int kDoubleClickDistance = 4; // pixels each way
+
+class DoubleClick
+{
+public:
+    // Is this press the second of a double click? The third of three is a first one again.
+    bool IsSecond(HWND hWnd, MouseButton button, CPoint screen, DWORD time);
+    void Forget() { m_hWnd = nullptr; }
+
+private:
+    HWND m_hWnd = nullptr; // of the last press that was not a second one
+    MouseButton m_button = MouseButton::Left;
+    CPoint m_at;
+    DWORD m_time = 0;
+};
+
+} // namespace toolkit

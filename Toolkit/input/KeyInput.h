@@ -1,0 +1,11 @@
+// Keys on their way to the focus. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/message/InputQueue.h"
+
+namespace toolkit
+{
+void HandleKey(const InputEvent& event);
+void HandleCharacter(const InputEvent& event);
+void DispatchPosted(MSG msg); // a posted message; key messages go the way of keys
+} // namespace toolkit

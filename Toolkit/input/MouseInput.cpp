@@ -1,0 +1,145 @@
+#include "Toolkit/input/MouseInput.h"
+
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/handle/HitTest.h"
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/input/DoubleClick.h"
+#include "Toolkit/scroll/ScrollTracker.h"
+#include "Toolkit/window/WindowApi.h"
+
+#include <utility>
+
+namespace
+{
+using toolkit::FindRecord;
+using toolkit::InputEvent;
+using toolkit::InputKind;
+using toolkit::MouseButton;
+
+CPoint s_cursor;        // screen
+HWND s_hOver = nullptr; // whose client area the mouse is over
+toolkit::DoubleClick s_doubleClick;
+
+UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
+{
+    const UINT down = button == MouseButton::Left    ? WM_LBUTTONDOWN
+                      : button == MouseButton::Right ? WM_RBUTTONDOWN
+                                                     : WM_MBUTTONDOWN;
+    if (!bDown)
+        return down + (WM_LBUTTONUP - WM_LBUTTONDOWN);
+    return bSecond ? down + (WM_LBUTTONDBLCLK - WM_LBUTTONDOWN) : down;
+}
+
+void SetOver(HWND hWnd)
+{
+    const HWND hFormer = std::exchange(s_hOver, hWnd);
+    if (hFormer == hWnd)
+        return;
+    SendMessage(hFormer, WM_MOUSELEAVE, 0, 0);
+    toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow); // until the window wants another
+}
+
+void SendMouse(HWND hWnd, UINT message)
+{
+    CPoint client = s_cursor;
+    ScreenToClient(hWnd, &client);
+    SendMessage(hWnd, message, toolkit::MouseKeyFlags(), MAKELPARAM(client.x, client.y));
+}
+
+void Wheel(const InputEvent& event)
+{
+    const auto wParam =
+        static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(static_cast<int>(toolkit::MouseKeyFlags()), event.delta)));
+    SendMessage(GetFocus(), WM_MOUSEWHEEL, wParam, MAKELPARAM(s_cursor.x, s_cursor.y));
+}
+
+void SendToWindow(HWND hWnd, const InputEvent& event)
+{
+    if (event.kind == InputKind::MouseMove)
+        return SendMouse(hWnd, WM_MOUSEMOVE);
+    const bool bSecond = event.down && s_doubleClick.IsSecond(hWnd, event.button, s_cursor, event.time);
+    SendMouse(hWnd, ButtonMessage(event.button, event.down, bSecond));
+}
+
+// The mouse is over a border or a scroll bar, which the window itself does not see.
+void HandleOnFrame(HWND hWnd, const InputEvent& event)
+{
+    const bool bPress = event.kind == InputKind::MouseButton && event.down && event.button == MouseButton::Left;
+    if (bPress)
+        toolkit::PressScrollBar(hWnd, s_cursor);
+}
+
+void TakeNote(const InputEvent& event)
+{
+    toolkit::SetModifiersDown(event.modifiers);
+    if (event.kind == InputKind::MouseButton)
+        toolkit::SetKeyDown(toolkit::KeyOfButton(event.button), event.down);
+    if (const toolkit::WindowRecord* pTop = FindRecord(event.hTop))
+        s_cursor = event.at + toolkit::SurfaceToScreen(*pTop);
+}
+
+void LeaveTop(HWND hTop)
+{
+    if (GetCapture())
+        return;
+    toolkit::HoverScrollBars(nullptr, {});
+    if (s_hOver == hTop || IsChild(hTop, s_hOver))
+        SetOver(nullptr);
+}
+} // namespace
+
+void toolkit::HandleMouse(const InputEvent& event)
+{
+    if (event.kind == InputKind::MouseLeave)
+        return LeaveTop(event.hTop);
+    if (!FindRecord(event.hTop))
+        return;
+    TakeNote(event);
+    if (event.kind == InputKind::MouseWheel)
+        return Wheel(event);
+    if (IsTrackingScrollBar())
+        return TrackScrollBar(event, s_cursor);
+
+    const HWND hCapture = GetCapture();
+    const MouseTarget target = hCapture ? MouseTarget{hCapture, true} : FindMouseTarget(event.hTop, s_cursor);
+    HoverScrollBars(target.bClient ? nullptr : target.hWnd, s_cursor);
+    SetOver(target.bClient ? target.hWnd : nullptr);
+    if (event.kind == InputKind::MouseMove && !hCapture)
+        SendMessage(s_hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_hOver), 0);
+    if (target.bClient)
+        SendToWindow(target.hWnd, event);
+    else if (target.hWnd)
+        HandleOnFrame(target.hWnd, event);
+}
+
+void toolkit::ForgetMouse(HWND hWnd)
+{
+    if (s_hOver == hWnd)
+        s_hOver = nullptr;
+    ForgetScrollBars(hWnd);
+}
+
+void toolkit::ResetMouse()
+{
+    s_cursor = {};
+    s_hOver = nullptr;
+    ForgetLastPress();
+}
+
+void toolkit::NoteMouse(CPoint screen, DWORD dwKeyState)
+{
+    s_cursor = screen;
+    SetMouseKeyFlags(dwKeyState);
+}
+
+void toolkit::ForgetLastPress()
+{
+    s_doubleClick.Forget();
+}
+
+BOOL GetCursorPos(POINT* pPoint)
+{
+    *pPoint = s_cursor;
+    return TRUE;
+}

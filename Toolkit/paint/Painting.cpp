@@ -1,0 +1,148 @@
+#include "Toolkit/paint/Painting.h"
+
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/handle/VisibleRegion.h"
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/message/Queue.h"
+#include "Toolkit/paint/WindowDC.h"
+#include "Toolkit/window/WindowApi.h"
+
+#include <utility>
+
+namespace
+{
+using toolkit::FindRecord;
+using toolkit::Region;
+using toolkit::WindowRecord;
+
+// Something may be noted or painted and not yet presented: the queue has to look.
+bool s_bNoted = false;
+
+bool NeedsPaint(const WindowRecord& window)
+{
+    return !window.frameUpdate.IsEmpty() || !window.update.IsEmpty();
+}
+
+// The first shown window that is wanted, parents before their children, lower siblings first: what is not clipped
+// away is painted over in the right order.
+template <class Wanted>
+WindowRecord* FindShown(WindowRecord& window, Wanted wanted)
+{
+    if (!window.Is(WS_VISIBLE) || IsUpdateLocked(window))
+        return nullptr;
+    if (wanted(window))
+        return &window;
+    for (WindowRecord* pChild : window.children)
+        if (WindowRecord* pFound = FindShown(*pChild, wanted))
+            return pFound;
+    return nullptr;
+}
+
+WindowRecord* FindNoted()
+{
+    for (WindowRecord* pTop : toolkit::TopLevelRecords())
+        if (WindowRecord* pFound = FindShown(*pTop, NeedsPaint))
+            return pFound;
+    return nullptr;
+}
+
+// Paints the window and its children. Handlers may destroy any of them, and note more: once is enough.
+void PaintTreeOnce(HWND hWnd)
+{
+    static unsigned s_nPass = 0;
+    const unsigned nPass = ++s_nPass;
+    const auto wanted = [nPass](const WindowRecord& window) {
+        return window.nPaintPass != nPass && NeedsPaint(window);
+    };
+    while (WindowRecord* pWindow = FindRecord(hWnd)) {
+        WindowRecord* pNoted = FindShown(*pWindow, wanted);
+        if (!pNoted)
+            return;
+        pNoted->nPaintPass = nPass;
+        toolkit::PaintWindow(pNoted->hWnd);
+    }
+}
+
+void PaintFrameOf(WindowRecord& window)
+{
+    const HWND hWnd = window.hWnd;
+    const CPoint origin = toolkit::WindowArea(window).TopLeft();
+    Region clip = window.frameUpdate.Take({CPoint(), window.rect.Size()});
+    clip.Offset(origin);
+    clip = Intersection(clip, VisibleFrame(window));
+    if (clip.IsEmpty())
+        return;
+    const HDC hdc = toolkit::OpenWindowDC(window, origin, clip);
+    SendMessage(hWnd, WM_NCPAINT, reinterpret_cast<WPARAM>(hdc), 0);
+    toolkit::CloseWindowDC(hWnd, hdc);
+}
+
+// A frame that finds no memory is left as it is, as a client area is.
+void TryToPaintFrame(WindowRecord& window)
+{
+    try {
+        PaintFrameOf(window);
+    } catch (const CException&) {
+    }
+}
+} // namespace
+
+void toolkit::RequestPaint()
+{
+    s_bNoted = true;
+    RequestRun();
+}
+
+bool toolkit::HasPaint()
+{
+    return s_bNoted;
+}
+
+bool toolkit::RunOnePaint()
+{
+    if (!s_bNoted)
+        return false;
+    if (WindowRecord* pWindow = FindNoted()) {
+        PaintWindow(pWindow->hWnd);
+        return true;
+    }
+    s_bNoted = false;
+    PresentPainted();
+    return false;
+}
+
+void toolkit::PaintWindow(HWND hWnd)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (pWindow && !pWindow->frameUpdate.IsEmpty())
+        TryToPaintFrame(*pWindow);
+    pWindow = FindRecord(hWnd);
+    if (!pWindow || pWindow->update.IsEmpty())
+        return;
+    pWindow->bPaintBegun = false;
+    SendMessage(hWnd, WM_PAINT, 0, 0);
+    // A handler that does not paint is not asked again and again.
+    pWindow = FindRecord(hWnd);
+    if (pWindow && !pWindow->bPaintBegun)
+        ValidateRect(hWnd, nullptr);
+}
+
+void toolkit::ForgetPainting(WindowRecord& window)
+{
+    ForgetUpdateLock(window.hWnd);
+    CloseWindowDCs(window.hWnd);
+    if (window.IsTop())
+        CloseSurfaceDCs(window.hWnd);
+}
+
+BOOL UpdateWindow(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    if (toolkit::IsShown(*pWindow)) {
+        PaintTreeOnce(hWnd);
+        toolkit::PresentPainted();
+    }
+    return TRUE;
+}

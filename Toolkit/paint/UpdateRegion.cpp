@@ -1,0 +1,98 @@
+// Noting what is to be painted.
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/message/Queue.h"
+#include "Toolkit/paint/Painting.h"
+#include "Toolkit/window/WindowApi.h"
+
+#include <utility>
+
+namespace
+{
+using toolkit::FindRecord;
+using toolkit::WindowRecord;
+
+// The window and all its children; it is shown, and `area` is relative to its own top left corner.
+void NoteTree(WindowRecord& window, const CRect& area)
+{
+    const CRect client = toolkit::ClientBox(window);
+    const CRect inClient = (area & client) - client.TopLeft();
+    if (!((area & client) == area))
+        toolkit::InvalidateFrame(window, area);
+    toolkit::InvalidateArea(window, inClient, true);
+    toolkit::InvalidateChildren(window, inClient);
+}
+} // namespace
+
+void toolkit::InvalidateChildren(WindowRecord& window, const CRect& area)
+{
+    for (WindowRecord* pChild : window.children) {
+        const CRect common = area & pChild->rect;
+        if (pChild->Is(WS_VISIBLE) && !common.IsRectEmpty())
+            NoteTree(*pChild, common - pChild->rect.TopLeft());
+    }
+}
+
+void toolkit::InvalidateArea(WindowRecord& window, const CRect& area, bool bErase)
+{
+    const CRect part = area & toolkit::ClientRect(window);
+    if (part.IsRectEmpty())
+        return;
+    window.update.Add(part);
+    window.bErase |= bErase;
+    RequestPaint();
+}
+
+void toolkit::InvalidateFrame(WindowRecord& window, const CRect& area)
+{
+    if (area.IsRectEmpty() || !IsShown(window))
+        return;
+    window.frameUpdate.Add(area);
+    RequestPaint();
+}
+
+void toolkit::InvalidateWhole(WindowRecord& window)
+{
+    if (IsShown(window))
+        NoteTree(window, {CPoint(), window.rect.Size()});
+}
+
+void toolkit::InvalidateExposed(WindowRecord& parent, const CRect& area)
+{
+    if (!IsShown(parent))
+        return;
+    InvalidateArea(parent, area, true);
+    InvalidateChildren(parent, area & toolkit::ClientRect(parent));
+}
+
+BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    if (toolkit::IsShown(*pWindow))
+        toolkit::InvalidateArea(*pWindow, pRect ? CRect(*pRect) : toolkit::ClientRect(*pWindow), bErase != FALSE);
+    return TRUE;
+}
+
+BOOL ValidateRect(HWND hWnd, const RECT* pRect)
+{
+    WindowRecord* pWindow = FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    if (pRect)
+        pWindow->update.Remove(*pRect, toolkit::ClientRect(*pWindow));
+    else
+        pWindow->update.Clear();
+    if (pWindow->update.IsEmpty())
+        pWindow->bErase = false;
+    return TRUE;
+}
+
+BOOL GetUpdateRect(HWND hWnd, RECT* pRect)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    const CRect bounds = pWindow ? pWindow->update.Bounds(toolkit::ClientRect(*pWindow)) : CRect();
+    if (pRect)
+        *pRect = bounds;
+    return !bounds.IsRectEmpty();
+}

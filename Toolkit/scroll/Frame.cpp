@@ -1,0 +1,95 @@
+#include "Toolkit/scroll/Frame.h"
+
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/SysColors.h"
+#include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/scroll/ScrollTracker.h"
+
+namespace
+{
+using toolkit::ScrollBar;
+using toolkit::WindowRecord;
+
+constexpr COLORREF kTrack = RGB(246, 246, 246);
+constexpr COLORREF kThumb = RGB(196, 196, 196);
+constexpr COLORREF kHotThumb = RGB(160, 160, 160);
+constexpr COLORREF kPressedThumb = RGB(120, 120, 120);
+constexpr int kThumbMargin = 3; // between the thumb and the track's edge
+constexpr int kThumbRadius = 4; // half of what is left across
+
+// How much of the pixel (x, y) counted from a rounded corner the corner covers, 0 to 255.
+BYTE CornerCoverage(int x, int y)
+{
+    constexpr int kSamples = 8; // each way
+    int nInside = 0;
+    for (int i = 0; i < kSamples * kSamples; ++i) {
+        const int dx = 2 * (kThumbRadius - x) * kSamples - 2 * (i % kSamples) - 1;
+        const int dy = 2 * (kThumbRadius - y) * kSamples - 2 * (i / kSamples) - 1;
+        nInside += dx * dx + dy * dy <= 4 * kThumbRadius * kThumbRadius * kSamples * kSamples;
+    }
+    return static_cast<BYTE>(nInside * 255 / (kSamples * kSamples));
+}
+
+void BlendCorners(HDC hdc, const CRect& rect, int x, int y, COLORREF color)
+{
+    const BYTE alpha = CornerCoverage(x, y);
+    for (const int nLeft : {rect.left + x, rect.right - 1 - x})
+        for (const int nTop : {rect.top + y, rect.bottom - 1 - y})
+            BlendRect(hdc, CRect({nLeft, nTop}, {1, 1}), color, alpha);
+}
+
+void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
+{
+    constexpr int r = kThumbRadius;
+    FillSolidRect(hdc, CRect(rect.left + r, rect.top, rect.right - r, rect.bottom), color);
+    FillSolidRect(hdc, CRect(rect.left, rect.top + r, rect.left + r, rect.bottom - r), color);
+    FillSolidRect(hdc, CRect(rect.right - r, rect.top + r, rect.right, rect.bottom - r), color);
+    for (int i = 0; i < r * r; ++i)
+        BlendCorners(hdc, rect, i % r, i / r, color);
+}
+
+void PaintScrollBar(const WindowRecord& window, HDC hdc, int nBar)
+{
+    const CRect box = toolkit::ScrollBarBox(window, nBar);
+    if (box.IsRectEmpty())
+        return;
+    FillSolidRect(hdc, box, kTrack);
+    const SCROLLINFO& info = window.bars[static_cast<std::size_t>(nBar)].info;
+    if (!ScrollBar::IsNeeded(info))
+        return;
+    const ScrollBar bar(box, nBar, info);
+    const toolkit::ScrollBarLook look = toolkit::GetScrollBarLook(window.hWnd, nBar, bar);
+    CRect thumb = bar.GetThumbAt(look.nThumbOffset);
+    thumb.DeflateRect(kThumbMargin, kThumbMargin);
+    if (thumb.Width() >= 2 * kThumbRadius && thumb.Height() >= 2 * kThumbRadius)
+        FillRounded(hdc, thumb, look.bPressed ? kPressedThumb : look.bHot ? kHotThumb : kThumb);
+}
+
+// The square where two scroll bars meet.
+void PaintCorner(const WindowRecord& window, HDC hdc)
+{
+    const CRect below = toolkit::ScrollBarBox(window, SB_HORZ);
+    const CRect beside = toolkit::ScrollBarBox(window, SB_VERT);
+    if (!below.IsRectEmpty() && !beside.IsRectEmpty())
+        FillSolidRect(hdc, CRect(beside.left, below.top, beside.right, below.bottom), kTrack);
+}
+
+void PaintBorder(const WindowRecord& window, HDC hdc)
+{
+    if (!window.Is(WS_BORDER) && !(window.exStyle & WS_EX_CLIENTEDGE))
+        return;
+    const int cx = window.rect.Width(), cy = window.rect.Height();
+    const COLORREF color = GetSysColor(COLOR_BTNSHADOW);
+    for (const CRect& side : {CRect(0, 0, cx, kClientEdge), CRect(0, cy - kClientEdge, cx, cy),
+                              CRect(0, 0, kClientEdge, cy), CRect(cx - kClientEdge, 0, cx, cy)})
+        FillSolidRect(hdc, side, color);
+}
+} // namespace
+
+void toolkit::PaintFrame(const WindowRecord& window, HDC hdc)
+{
+    PaintBorder(window, hdc);
+    PaintScrollBar(window, hdc, SB_HORZ);
+    PaintScrollBar(window, hdc, SB_VERT);
+    PaintCorner(window, hdc);
+}

@@ -1,0 +1,10 @@
+// A window's frame: its border and scroll bars. Internal to the window layer.
+#pragma once
+
+#include "Toolkit/handle/WindowRecord.h"
+
+namespace toolkit
+{
+// Draws it; the device context's origin is the window's top left corner.
+void PaintFrame(const WindowRecord& window, HDC hdc);
+} // namespace toolkit

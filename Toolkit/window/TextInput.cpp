@@ -1,8 +1,0 @@
-#include "Toolkit/window/TextInput.h"
-
-#include "Toolkit/window/NativeWindow.h"
-
-toolkit::TextInput* toolkit::FocusedTextInput()
-{
-    return dynamic_cast<TextInput*>(FindNativeWindow(GetFocus()));
-}
