@@ -1,5 +1,5 @@
 // What was done is taken back and done again, in the window and on the disk.
-#include "Toolkit/window/MessageBox.h"
+#include "Toolkit/menu/MessageBox.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <filesystem>
