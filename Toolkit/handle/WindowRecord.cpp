@@ -73,7 +73,7 @@ void toolkit::RemoveRecord(HWND hWnd) noexcept
         pWindow->pTemporaryWnd->m_hWnd = nullptr;
     WindowRecord& window = *pWindow;
     window.pParent = nullptr;
-    if (window.nCalls > 0)
+    if (window.nHolds > 0)
         window.pSelf = std::move(pWindow);
 }
 

@@ -59,8 +59,8 @@ struct WindowRecord
     HWND hLastFocus = nullptr;
     bool bKnownToDesktop = false;
 
-    // A destroyed window's record lives on, owning itself, until no message of it is being handled any more.
-    int nCalls = 0;
+    // A destroyed window's record lives on, owning itself, until nobody holds it any more (WindowHold).
+    int nHolds = 0;
     std::unique_ptr<WindowRecord> pSelf;
 };
 
@@ -73,22 +73,5 @@ int CountRecords();
 HWND AddRecord(std::unique_ptr<WindowRecord> pWindow, WindowRecord* pParent);
 void RemoveRecord(HWND hWnd) noexcept;
 void RaiseRecord(WindowRecord& window);
-
-// Keeps a record alive while a message of its window is handled, whatever the handler destroys.
-class WindowInUse
-{
-public:
-    explicit WindowInUse(WindowRecord& window) : m_window(window) { ++window.nCalls; }
-    ~WindowInUse()
-    {
-        if (--m_window.nCalls == 0 && m_window.pSelf)
-            const auto last = std::move(m_window.pSelf);
-    }
-    WindowInUse(const WindowInUse&) = delete;
-    WindowInUse& operator=(const WindowInUse&) = delete;
-
-private:
-    WindowRecord& m_window;
-};
 
 } // namespace toolkit

@@ -26,7 +26,7 @@ LRESULT AfterException(HWND hWnd, UINT message, CException& exception)
 
 LRESULT toolkit::CallWindow(WindowRecord& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const WindowInUse inUse(window);
+    const WindowHold hold(window);
     try {
         if (window.pWnd)
             return WndAccess::CallWindowProc(*window.pWnd, message, wParam, lParam);

@@ -1,4 +1,4 @@
-// Which member function of a control handles which message.
+// Which member function of a control, or of one of its parts, handles which message.
 #pragma once
 
 #include "Toolkit/window/WindowApi.h"
@@ -14,7 +14,7 @@ template <class Control>
 class HandlerTable
 {
 public:
-    using Handler = LRESULT (Control::*)(WPARAM, LPARAM);
+    using Handler = LRESULT (*)(Control&, WPARAM, LPARAM);
     using Entry = std::pair<UINT, Handler>;
 
     HandlerTable(std::initializer_list<Entry> handlers)
@@ -25,11 +25,22 @@ public:
             m_slots[SlotOf(entry.first)] = entry;
     }
 
-    // The handler's answer; that of ::DefWindowProc for a message that has none. The control may be gone afterwards.
-    LRESULT Call(Control& control, HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam) const
+    template <auto handler>
+    static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
+    {
+        return (control.*handler)(wParam, lParam);
+    }
+    template <auto part, auto handler>
+    static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
+    {
+        return ((control.*part).*handler)(wParam, lParam);
+    }
+
+    // The handler's answer; that of ::DefWindowProc for a message that has none.
+    LRESULT Call(Control& control, UINT message, WPARAM wParam, LPARAM lParam) const
     {
         const Handler handler = m_slots[SlotOf(message)].second;
-        return handler ? (control.*handler)(wParam, lParam) : ::DefWindowProc(hWnd, message, wParam, lParam);
+        return handler ? handler(control, wParam, lParam) : ::DefWindowProc(control.m_hWnd, message, wParam, lParam);
     }
 
 private:

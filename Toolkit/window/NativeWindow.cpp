@@ -48,12 +48,38 @@ LRESULT toolkit::NativeWindow::Notify(UINT code, NMHDR& header) const
     return CallWindow(*pWindow->pParent, WM_NOTIFY, header.idFrom, reinterpret_cast<LPARAM>(&header));
 }
 
-bool toolkit::NativeWindow::TakeFocus()
+LRESULT toolkit::NativeWindow::Notify(UINT code) const
 {
-    const HWND hWnd = m_hWnd;
-    if (GetFocus() != hWnd)
-        SetFocus(hWnd);
-    return IsWindow(hWnd);
+    NMHDR header{};
+    return Notify(code, header);
+}
+
+void toolkit::NativeWindow::TakeFocus()
+{
+    if (!IsFocused())
+        SetFocus(m_hWnd);
+}
+
+toolkit::WindowHold::WindowHold(WindowRecord& window) : m_pWindow(&window)
+{
+    ++window.nHolds;
+}
+
+toolkit::WindowHold::WindowHold(HWND hWnd) : m_pWindow(FindRecord(hWnd))
+{
+    if (m_pWindow)
+        ++m_pWindow->nHolds;
+}
+
+toolkit::WindowHold::~WindowHold()
+{
+    if (m_pWindow && --m_pWindow->nHolds == 0 && m_pWindow->pSelf)
+        const auto last = std::move(m_pWindow->pSelf);
+}
+
+toolkit::NativeWindow* toolkit::WindowHold::Native() const
+{
+    return m_pWindow ? m_pWindow->pNative.get() : nullptr;
 }
 
 // A handle has 32 bits, whatever the width of a pointer.

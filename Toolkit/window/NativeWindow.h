@@ -9,9 +9,16 @@
 namespace toolkit
 {
 
-// One object for each window of the class. It is made before WM_NCCREATE and deleted after WM_NCDESTROY, once none
-// of its window's messages is being handled any more: a handler may go on after its window has been destroyed. A
-// window's CWnd sees every message first; what it leaves, or hands on with Default(), comes here.
+struct WindowRecord;
+
+// One object for each window of the class. It is made before WM_NCCREATE. A window's CWnd sees every message first;
+// what it leaves, or hands on with Default(), comes here.
+//
+// It lives until the last message of its window has returned, WM_NCDESTROY included, and as long as somebody holds it
+// (WindowHold). So its handlers go on as they are after whatever they have called, the parent they notify first of
+// all, may have destroyed the window. All that is done with the handle has no effect then: nobody is told, no answer
+// refuses. IsAlive is asked only where the answer changes what is done. All else may have changed under way as well:
+// what was known before a call out is looked up again.
 class TOOLKIT_API NativeWindow
 {
 public:
@@ -23,23 +30,42 @@ public:
     virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0; // ends in ::DefWindowProc
     virtual HBRUSH ClassBackground() const { return nullptr; } // what GetClassLong tells; nobody's to delete
 
-protected:
-    // Sends WM_NOTIFY to the parent, which reflects it; fills in the header's window and identifier. The
-    // answer. The window may be gone afterwards: ask IsWindow.
+    // For itself and what it consists of.
+    //
+    // Sends WM_NOTIFY to the parent, which reflects it; fills in the header's window and identifier. The answer, 0 when
+    // the window is gone.
     LRESULT Notify(UINT code, NMHDR& header) const;
+    LRESULT Notify(UINT code) const;
 
+    bool IsAlive() const { return IsWindow(m_hWnd); }
     bool Is(DWORD style) const { return (GetWindowStyle(m_hWnd) & style) != 0; } // any of these
     bool IsFocused() const { return GetFocus() == m_hWnd; }
-    [[nodiscard]] bool TakeFocus(); // false when the window is gone; the focus may be refused all the same
+    void TakeFocus(); // it may be refused
     void RedrawAll() { InvalidateRect(m_hWnd, nullptr); }
 
     const HWND m_hWnd;
 };
 
+// Holds a window while a message of it is handled. So does whoever calls its native window directly.
+class TOOLKIT_API WindowHold
+{
+public:
+    explicit WindowHold(WindowRecord& window);
+    explicit WindowHold(HWND hWnd); // holds nothing when it is stale
+    ~WindowHold();
+    WindowHold(const WindowHold&) = delete;
+    WindowHold& operator=(const WindowHold&) = delete;
+
+    NativeWindow* Native() const; // NULL, too, when the class is plain
+
+private:
+    WindowRecord* const m_pWindow;
+};
+
 using NativeWindowFactory = std::function<std::unique_ptr<NativeWindow>(HWND)>;
 TOOLKIT_API void RegisterWindowClass(LPCSTR pszClass, NativeWindowFactory factory);
 
-// NULL when the handle is stale or its class is plain.
+// NULL when the handle is stale or its class is plain. Not to be called without a hold.
 TOOLKIT_API NativeWindow* FindNativeWindow(HWND hWnd);
 
 } // namespace toolkit

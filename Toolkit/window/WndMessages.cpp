@@ -81,7 +81,8 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    toolkit::NativeWindow* pNative = toolkit::FindNativeWindow(m_hWnd);
+    const toolkit::WindowHold hold(m_hWnd); // the caller may handle no message
+    toolkit::NativeWindow* const pNative = hold.Native();
     return pNative ? pNative->HandleMessage(message, wParam, lParam) : ::DefWindowProc(m_hWnd, message, wParam, lParam);
 }
 

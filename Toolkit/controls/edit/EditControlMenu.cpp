@@ -23,7 +23,7 @@ enum MenuCommand : UINT
 
 LRESULT EditControl::OnRButtonDown(WPARAM, LPARAM)
 {
-    static_cast<void>(TakeFocus());
+    TakeFocus();
     return 0;
 }
 

@@ -8,7 +8,8 @@ namespace toolkit
 
 LRESULT EditControl::OnLButtonDown(WPARAM wParam, LPARAM lParam)
 {
-    if (!TakeFocus())
+    TakeFocus();
+    if (!IsAlive())
         return 0;
     const CPoint at(lParam);
     MoveCaret(m_layout.PositionAt(m_text.Text(), at.x), (wParam & MK_SHIFT) != 0);
@@ -19,7 +20,8 @@ LRESULT EditControl::OnLButtonDown(WPARAM wParam, LPARAM lParam)
 
 LRESULT EditControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 {
-    if (!TakeFocus())
+    TakeFocus();
+    if (!IsAlive())
         return 0;
     const CPoint at(lParam);
     const TextSpan word = WordAt(m_text.Text(), m_layout.CharacterAt(m_text.Text(), at.x));

@@ -13,9 +13,15 @@ constexpr LPCSTR kFieldClass = "LabelField", kClockClass = "LabelClock";
 constexpr UINT_PTR kClockTimer = 1;
 constexpr int kBorder = 1;
 
-LabelOwner* OwnerOf(HWND hWnd)
+// Does something with the parent, which may be destroyed meanwhile.
+template <class Call>
+bool CallOwner(HWND hWnd, const Call& call)
 {
-    return dynamic_cast<LabelOwner*>(FindNativeWindow(GetParent(hWnd)));
+    const WindowHold hold(GetParent(hWnd));
+    auto* const pOwner = dynamic_cast<LabelOwner*>(hold.Native());
+    if (pOwner)
+        call(*pOwner);
+    return pOwner;
 }
 
 class LabelField : public EditControl
@@ -43,15 +49,13 @@ public:
 protected:
     void TextIsNew() override
     {
-        if (LabelOwner* const pOwner = OwnerOf(m_hWnd))
-            pOwner->LabelTyped();
+        CallOwner(m_hWnd, [](LabelOwner& owner) { owner.LabelTyped(); });
     }
 
 private:
     void Done(bool bTaken)
     {
-        if (LabelOwner* const pOwner = OwnerOf(m_hWnd))
-            pOwner->LabelDone(bTaken); // destroys this window
+        CallOwner(m_hWnd, [bTaken](LabelOwner& owner) { owner.LabelDone(bTaken); }); // destroys this window
     }
 
     void OnLeft(HWND hGainer)
@@ -70,11 +74,8 @@ public:
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        LabelOwner* const pOwner = OwnerOf(m_hWnd);
-        if (message != WM_TIMER || !pOwner)
-            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
-        pOwner->LabelClickDue(); // destroys this window
-        return 0;
+        const auto tell = [](LabelOwner& owner) { owner.LabelClickDue(); }; // destroys this window
+        return message == WM_TIMER && CallOwner(m_hWnd, tell) ? 0 : ::DefWindowProc(m_hWnd, message, wParam, lParam);
     }
 };
 

@@ -36,7 +36,8 @@ bool ListControl::BeginLabel(int row)
     if (!Is(LVS_EDITLABELS) || !m_rows.Has(row))
         return true;
     EndTracking();
-    if (!TakeFocus())
+    TakeFocus();
+    if (!IsAlive())
         return false;
     if (!IsFocused() || !m_rows.Has(row))
         return true; // refused

@@ -54,7 +54,8 @@ bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
 {
     EndTracking();
     StopLabelClock();
-    if (!TakeFocus())
+    TakeFocus();
+    if (!IsAlive())
         return false;
 
     const CPoint at(lParam);

@@ -11,7 +11,6 @@ namespace
 constexpr LPCSTR kTrackerClass = "ListTracker";
 constexpr UINT_PTR kAutoScrollTimer = 1;
 
-// Destroyed by the list in the middle of any of these calls: nothing is touched behind them.
 class ListTracker : public NativeWindow
 {
 public:
@@ -20,7 +19,8 @@ public:
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         const HWND hList = GetParent(m_hWnd);
-        auto* const pList = dynamic_cast<ListControl*>(FindNativeWindow(hList));
+        const WindowHold hold(hList);
+        auto* const pList = dynamic_cast<ListControl*>(hold.Native());
         if (!pList)
             return ::DefWindowProc(m_hWnd, message, wParam, lParam);
 

@@ -199,6 +199,7 @@ private:
     LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
     [[nodiscard]] bool BeginPress(const Hit& hit, CPoint at, bool right);
+    [[nodiscard]] bool Focus() { return TakeFocus(), IsAlive(); }
     [[nodiscard]] bool CancelPress(); // and gives the capture back
     void BeginDrag();
 

@@ -25,7 +25,7 @@ bool TreeControl::BeginLabel(HTREEITEM hItem)
     StopLabelClock();
     if (!Is(TVS_EDITLABELS) || m_items.Find(hItem) == kNoItem)
         return true;
-    if (!CancelPress() || !TakeFocus())
+    if (!CancelPress() || !Focus())
         return false;
     if (!IsFocused())
         return true; // refused

@@ -11,7 +11,7 @@ LRESULT TreeControl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
     StopLabelClock();
-    if (!CancelPress() || !TakeFocus() || !HitTest(CPoint(lParam), hit))
+    if (!CancelPress() || !Focus() || !HitTest(CPoint(lParam), hit))
         return 0;
     if (hit.flags & TVHT_ONITEMBUTTON)
         static_cast<void>(Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE));
@@ -24,7 +24,7 @@ LRESULT TreeControl::OnRButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
     StopLabelClock();
-    if (CancelPress() && TakeFocus() && HitTest(CPoint(lParam), hit))
+    if (CancelPress() && Focus() && HitTest(CPoint(lParam), hit))
         static_cast<void>(BeginPress(hit, CPoint(lParam), true));
     return 0;
 }
@@ -59,7 +59,7 @@ LRESULT TreeControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 {
     Hit hit;
     StopLabelClock();
-    if (!CancelPress() || !TakeFocus() || !HitTest(CPoint(lParam), hit))
+    if (!CancelPress() || !Focus() || !HitTest(CPoint(lParam), hit))
         return 0;
     LRESULT taken = 0;
     if (!(hit.flags & TVHT_ONITEMBUTTON) && !TellPlain(NM_DBLCLK, &taken))
