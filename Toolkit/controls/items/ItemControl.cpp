@@ -1,6 +1,6 @@
 #include "Toolkit/controls/items/ItemControl.h"
 
-#include "Toolkit/base/Ticks.h"
+#include "Toolkit/graphics/Gdi.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -13,33 +13,6 @@ namespace
 {
 constexpr int kDragDistance = 4;
 } // namespace
-
-bool ItemControl::IsDrag(CPoint from, CPoint to)
-{
-    return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y)) >= kDragDistance;
-}
-
-LRESULT ItemControl::OnCreate(WPARAM, LPARAM)
-{
-    Measure();
-    return Relayout() ? 0 : -1;
-}
-
-LRESULT ItemControl::OnGetImageList(WPARAM wParam, LPARAM)
-{
-    return wParam == kNormalImages ? reinterpret_cast<LRESULT>(m_hImages) : 0;
-}
-
-LRESULT ItemControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
-{
-    if (wParam != kNormalImages)
-        return 0;
-    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
-    Measure();
-    RedrawAll();
-    static_cast<void>(Relayout());
-    return reinterpret_cast<LRESULT>(former);
-}
 
 CSize ItemControl::ClientSize() const
 {
@@ -56,70 +29,79 @@ CSize ItemControl::SizeWithoutBars() const
     return {rect.Width() - 2 * edge, rect.Height() - 2 * edge};
 }
 
-void ItemControl::DrawImage(HDC hdc, CPoint at, int image, UINT style) const
+bool ItemControl::IsDrag(CPoint from, CPoint to)
 {
-    if (image >= 0)
-        ImageList_Draw(m_hImages, image, hdc, at.x, at.y, style);
+    return std::max(std::abs(to.x - from.x), std::abs(to.y - from.y)) >= kDragDistance;
 }
 
-bool ItemControl::Tell(UINT code, NMHDR& header, LRESULT* pAnswer) const
+std::int64_t ItemControl::ScrollTarget(int nBar, WPARAM wParam, std::int64_t position, int line, int page,
+                                       std::int64_t unit) const
 {
-    const HWND hWnd = m_hWnd;
-    const LRESULT answer = Notify(code, header);
-    if (pAnswer)
-        *pAnswer = answer;
-    return IsWindow(hWnd);
+    SCROLLINFO info{};
+    switch (LOWORD(wParam)) {
+    case SB_LINEUP:
+        return position - line;
+    case SB_LINEDOWN:
+        return position + line;
+    case SB_PAGEUP:
+        return position - std::max(page - line, line);
+    case SB_PAGEDOWN:
+        return position + std::max(page - line, line);
+    case SB_THUMBTRACK:
+    case SB_THUMBPOSITION:
+        return GetScrollInfo(m_hWnd, nBar, &info) ? info.nTrackPos * unit : position;
+    default:
+        return position;
+    }
 }
 
-bool ItemControl::TellPlain(UINT code, LRESULT* pAnswer) const
+int ItemControl::WheelSteps(WPARAM wParam, int perNotch)
 {
-    NMHDR header{};
-    return Tell(code, header, pAnswer);
+    m_wheelRest += static_cast<std::int16_t>(HIWORD(wParam)) * perNotch;
+    const int steps = m_wheelRest / WHEEL_DELTA;
+    m_wheelRest %= WHEEL_DELTA;
+    return steps;
 }
 
-bool ItemControl::OpenLabelField(const std::string& text, DWORD align)
+LRESULT ItemControl::OnCreate(WPARAM, LPARAM)
 {
-    const HWND hWnd = m_hWnd;
-    const HWND hField = CreateLabelField(hWnd, text, align);
-    if (!IsWindow(hWnd) || !hField)
-        return IsWindow(hWnd);
-    m_hLabelField = hField;
-    PlaceLabelField();
-    ShowWindow(hField, SW_SHOW);
-    SetFocus(hField);
-    return IsWindow(hWnd);
+    Measure();
+    Relayout();
+    return 0;
 }
 
-std::optional<std::string> ItemControl::CloseLabelField()
+LRESULT ItemControl::OnEraseBackground(WPARAM wParam, LPARAM)
 {
-    const HWND hWnd = m_hWnd;
-    const HWND hField = std::exchange(m_hLabelField, nullptr);
-    std::string text(GetWindowText(hField).View());
-    DestroyWindow(hField); // the focus comes back, unless it is elsewhere already
-    return IsWindow(hWnd) ? std::optional(std::move(text)) : std::nullopt;
+    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), ClientSize()), GetSysColor(COLOR_WINDOW));
 }
 
-void ItemControl::LabelDone(bool taken)
+LRESULT ItemControl::OnGetImageList(WPARAM wParam, LPARAM)
 {
-    static_cast<void>(FinishLabel(taken));
+    return wParam == kNormalImages ? reinterpret_cast<LRESULT>(m_hImages) : 0;
 }
 
-// A click into a window that was not the active one comes right behind the focus that it brings.
-bool ItemControl::HasJustComeBack() const
+LRESULT ItemControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
 {
-    return GetTickCount() - m_focusedAt < GetDoubleClickTime();
+    if (wParam != kNormalImages)
+        return 0;
+    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
+    MeasuresChanged();
+    return reinterpret_cast<LRESULT>(former);
 }
 
-void ItemControl::StartLabelClock()
+LRESULT ItemControl::MeasuresChanged()
 {
-    StopLabelClock();
-    m_hLabelClock = toolkit::StartLabelClock(m_hWnd);
+    Measure();
+    RedrawAll();
+    Relayout();
+    return 0;
 }
 
-void ItemControl::StopLabelClock()
+LRESULT ItemControl::EditLabel(LPARAM item, bool takesFormer)
 {
-    if (const HWND hClock = std::exchange(m_hLabelClock, nullptr))
-        DestroyWindow(hClock);
+    m_labels.Finish(takesFormer);
+    m_labels.Begin(item);
+    return IsAlive() ? OnGetEditControl(0, 0) : 0;
 }
 
 } // namespace toolkit

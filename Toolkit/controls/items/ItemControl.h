@@ -1,70 +1,80 @@
-// What the list control and the tree control have in common: how they tell their owner, its pictures, and the windows
-// of a label that is edited in place.
+// What the list control and the tree control have in common: their owner's pictures, how they scroll, and their labels.
 #pragma once
 
-#include "Toolkit/controls/items/LabelField.h"
+#include "Toolkit/controls/items/LabelEditing.h"
 #include "Toolkit/graphics/ImageList.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/NativeWindow.h"
 
-#include <optional>
-#include <string>
+#include <cstdint>
 
 namespace toolkit
 {
 
 inline constexpr WPARAM kNormalImages = 0; // which image list, in the messages of every such control
 
-class ItemControl : public NativeWindow, public LabelOwner
+// Notes, as long as it lives, that something is under way.
+class UnderWay
 {
 public:
-    using NativeWindow::NativeWindow;
+    explicit UnderWay(int& count) : m_count(count) { ++m_count; }
+    ~UnderWay() { --m_count; }
+    UnderWay(const UnderWay&) = delete;
+    UnderWay& operator=(const UnderWay&) = delete;
+
+private:
+    int& m_count;
+};
+
+class ItemControl : public NativeWindow, protected LabelHost
+{
+public:
+    ItemControl(HWND hWnd, DWORD editStyle, DWORD labelAlign)
+        : NativeWindow(hWnd), m_labels(*this, *this, editStyle, labelAlign)
+    {}
 
     HBRUSH ClassBackground() const override { return reinterpret_cast<HBRUSH>(UINT_PTR{COLOR_WINDOW + 1}); }
 
-    void LabelTyped() override { PlaceLabelField(); }
-    void LabelDone(bool taken) override;
+    // For its parts.
+    LabelEditing& Labels() { return m_labels; }
+    HIMAGELIST Images() const { return m_hImages; }
+    CSize ClientSize() const;
+    CSize SizeWithoutBars() const;              // what the client area has when no scroll bar is shown
+    static bool IsDrag(CPoint from, CPoint to); // rather than an unsteady click
+    // Where a scroll bar's message leads; the present position for one that leads nowhere. A bar too short for all
+    // positions counts in units of several.
+    std::int64_t ScrollTarget(int nBar, WPARAM wParam, std::int64_t position, int line, int page,
+                              std::int64_t unit = 1) const;
+    int WheelSteps(WPARAM wParam, int perNotch); // what a finer wheel turns less adds up
 
 protected:
-    static bool IsDrag(CPoint from, CPoint to); // rather than an unsteady click
-
-    // Those that notify give false when the window is gone.
-    virtual void Measure() = 0;                // takes over the text's and the pictures' size
-    [[nodiscard]] virtual bool Relayout() = 0; // the client area, the items or a measure are new
-    virtual void PlaceLabelField() = 0;
-    [[nodiscard]] virtual bool FinishLabel(bool taken) = 0;
+    virtual void Measure() = 0;  // takes over the text's and the pictures' size
+    virtual void Relayout() = 0; // the client area, the items or a measure are new
 
     LRESULT OnCreate(WPARAM, LPARAM);
+    LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
     LRESULT OnGetImageList(WPARAM wParam, LPARAM);
     LRESULT OnSetImageList(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetEditControl(WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(m_hLabelField); }
+    LRESULT OnGetEditControl(WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(m_labels.Field()); }
+    LRESULT EditLabel(LPARAM item, bool takesFormer); // the field
+    LRESULT MeasuresChanged();                        // all anew
 
-    CSize ClientSize() const;
-    CSize SizeWithoutBars() const; // what the client area has when no scroll bar is shown
-    void DrawImage(HDC hdc, CPoint at, int image, UINT style) const; // ILD_*; nothing for image -1
-
-    // Notifications.
-    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const;
-    [[nodiscard]] bool TellPlain(UINT code, LRESULT* pAnswer = nullptr) const;
-
-    // Editing a label in place.
-    //
-    // The field shows the text, all of it selected, has its place and the focus. Whose label it is the derived class
-    // notes first.
-    [[nodiscard]] bool OpenLabelField(const std::string& text, DWORD align);
-    // What was typed; the field is gone. Nothing when the window is gone, too.
-    std::optional<std::string> CloseLabelField();
-    bool HasJustComeBack() const; // the user, to this window
-    void StartLabelClock();       // LabelClickDue follows, unless it is stopped
-    void StopLabelClock();
-
-    HIMAGELIST m_hImages = nullptr; // the owner's
-    HWND m_hLabelField = nullptr;   // while a label is edited
-    DWORD m_focusedAt = 0;          // tick
-    int m_nWheelRest = 0;           // of the wheel's turn, in the control's steps times WHEEL_DELTA
+    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const
+    {
+        const LRESULT answer = Notify(code, header);
+        if (pAnswer)
+            *pAnswer = answer;
+        return IsAlive();
+    }
+    [[nodiscard]] bool TellPlain(UINT code, LRESULT* pAnswer = nullptr) const
+    {
+        NMHDR header{};
+        return Tell(code, header, pAnswer);
+    }
 
 private:
-    HWND m_hLabelClock = nullptr;
+    LabelEditing m_labels;
+    HIMAGELIST m_hImages = nullptr; // the owner's
+    int m_wheelRest = 0;            // in steps times WHEEL_DELTA
 };
 
 } // namespace toolkit

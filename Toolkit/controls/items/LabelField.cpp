@@ -1,6 +1,7 @@
 #include "Toolkit/controls/items/LabelField.h"
 
 #include "Toolkit/controls/edit/EditControl.h"
+#include "Toolkit/controls/items/ItemControl.h"
 #include "Toolkit/graphics/TextEngine.h"
 
 namespace toolkit
@@ -18,9 +19,9 @@ template <class Call>
 bool CallOwner(HWND hWnd, const Call& call)
 {
     const WindowHold hold(GetParent(hWnd));
-    auto* const pOwner = dynamic_cast<LabelOwner*>(hold.Native());
+    auto* const pOwner = dynamic_cast<ItemControl*>(hold.Native());
     if (pOwner)
-        call(*pOwner);
+        call(pOwner->Labels());
     return pOwner;
 }
 
@@ -49,13 +50,13 @@ public:
 protected:
     void TextIsNew() override
     {
-        CallOwner(m_hWnd, [](LabelOwner& owner) { owner.LabelTyped(); });
+        CallOwner(m_hWnd, [](LabelEditing& labels) { labels.Place(); });
     }
 
 private:
     void Done(bool bTaken)
     {
-        CallOwner(m_hWnd, [bTaken](LabelOwner& owner) { owner.LabelDone(bTaken); }); // destroys this window
+        CallOwner(m_hWnd, [bTaken](LabelEditing& labels) { labels.Finish(bTaken); }); // destroys this window
     }
 
     void OnLeft(HWND hGainer)
@@ -74,18 +75,18 @@ public:
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
     {
-        const auto tell = [](LabelOwner& owner) { owner.LabelClickDue(); }; // destroys this window
+        const auto tell = [](LabelEditing& labels) { labels.WaitIsOver(); }; // destroys this window
         return message == WM_TIMER && CallOwner(m_hWnd, tell) ? 0 : ::DefWindowProc(m_hWnd, message, wParam, lParam);
     }
 };
 
-} // namespace
-
-void RegisterLabelField()
-{
+const bool s_registered = [] {
     RegisterWindowClass(kFieldClass, [](HWND hWnd) { return std::make_unique<LabelField>(hWnd); });
     RegisterWindowClass(kClockClass, [](HWND hWnd) { return std::make_unique<LabelClock>(hWnd); });
-}
+    return true;
+}();
+
+} // namespace
 
 HWND CreateLabelField(HWND hOwner, const std::string& text, DWORD align)
 {

@@ -1,31 +1,17 @@
-// What the list control and the tree control need to have a label edited in place: the field, and the wait of the slow
-// second click.
+// The windows of a label that is edited in place: the field, and the wait of the slow second click. They tell the item
+// control whose children they are.
 //
 // The field is an edit control and a child of its owner. It lives until its owner destroys it. Switching to another
 // window, or a message box, takes the focus from it, too, but ends nothing: the editing goes on when the user comes
 // back.
 #pragma once
 
-#include "Toolkit/window/NativeWindow.h"
+#include "Toolkit/base/Geometry.h"
 
 #include <string>
 
 namespace toolkit
 {
-
-// The native window of a control whose labels are edited. The window may be gone when a call returns.
-class LabelOwner
-{
-public:
-    virtual void LabelTyped() = 0;           // the text is new: the field may need other room. Must not notify
-    virtual void LabelDone(bool bTaken) = 0; // Enter, or the focus is elsewhere in the window; else Escape
-    virtual void LabelClickDue() = 0;        // the double-click time has passed since StartLabelClock
-
-protected:
-    ~LabelOwner() = default;
-};
-
-void RegisterLabelField();
 
 // A hidden field with the text, all of it selected; NULL when it failed. The alignment is an ES_ style.
 HWND CreateLabelField(HWND hOwner, const std::string& text, DWORD align);
@@ -34,8 +20,8 @@ CSize LabelFieldSize(HWND hField);
 // From the field's left or top edge to the text's.
 inline constexpr int kLabelFieldEdge = 4, kLabelFieldTop = 2;
 
-// A hidden child that tells its owner once, and is then to be destroyed. A timer of the owner's own would be in the way
-// of a derived class that keeps timers to itself.
+// A hidden child that tells its owner once, after the double-click time, and is then to be destroyed. A timer of the
+// owner's own would be in the way of a derived class that keeps timers to itself.
 HWND StartLabelClock(HWND hOwner);
 
 } // namespace toolkit

@@ -17,8 +17,6 @@ static_assert(kNormalImages == LVSIL_NORMAL);
 
 const bool s_registered = [] {
     RegisterWindowClass(WC_LISTVIEW, [](HWND hWnd) { return std::make_unique<ListControl>(hWnd); });
-    RegisterListTracker();
-    RegisterLabelField();
     return true;
 }();
 
@@ -82,7 +80,10 @@ LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
     if (m_press && m_press->row >= count)
         EndTracking();
     RedrawAll();
-    return Relayout() && (m_editedRow < count || FinishLabel(false));
+    Relayout();
+    if (Labels().Item() >= count)
+        Labels().Finish(false);
+    return TRUE;
 }
 
 LRESULT ListControl::OnSetIconSpacing(WPARAM, LPARAM lParam)
@@ -90,22 +91,21 @@ LRESULT ListControl::OnSetIconSpacing(WPARAM, LPARAM lParam)
     const CSize former = m_layout.Cell();
     const CSize cell(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
     m_spacing = cell.cx > 0 && cell.cy > 0 ? std::optional(cell) : std::nullopt;
-    Measure();
-    RedrawAll();
-    static_cast<void>(Relayout());
+    MeasuresChanged();
     return MAKELONG(former.cx, former.cy);
 }
 
 LRESULT ListControl::OnArrange(WPARAM, LPARAM)
 {
     RedrawAll(); // the rows always lie in the grid
-    return Relayout();
+    Relayout();
+    return TRUE;
 }
 
 void ListControl::Measure()
 {
     int cx = 0, cy = 0;
-    if (!ImageList_GetIconSize(m_hImages, &cx, &cy))
+    if (!ImageList_GetIconSize(Images(), &cx, &cy))
         cx = cy = 0;
     const int line = CurrentTextEngine().LineHeight();
     const int label = ListLayout::kTopPadding + ListLayout::kLabelGap + 2 * line + 1;

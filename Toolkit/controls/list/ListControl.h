@@ -5,6 +5,7 @@
 // notification nothing is taken for granted that was known before it.
 #pragma once
 
+#include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/items/ItemControl.h"
 #include "Toolkit/controls/list/ListLabel.h"
 #include "Toolkit/controls/list/ListLayout.h"
@@ -20,7 +21,7 @@ namespace toolkit
 class ListControl : public ItemControl
 {
 public:
-    using ItemControl::ItemControl;
+    explicit ListControl(HWND hWnd) : ItemControl(hWnd, LVS_EDITLABELS, ES_CENTER) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
@@ -28,8 +29,6 @@ public:
     void TrackMove(WPARAM keys, CPoint at);
     void AutoScroll();
     void TrackingLost(HWND hTracker);
-
-    void LabelClickDue() override;
 
 private:
     // What the owner shows in a row.
@@ -108,7 +107,8 @@ private:
     LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetTopIndex(WPARAM, LPARAM) { return m_layout.FirstVisibleRow(); }
     LRESULT OnGetCountPerPage(WPARAM, LPARAM) { return m_layout.FullLinesPerPage() * m_layout.Columns(); }
-    [[nodiscard]] bool Relayout() override;
+    void Relayout() override { static_cast<void>(LayOut()); }
+    [[nodiscard]] bool LayOut();
     [[nodiscard]] bool UpdateScrollBar();
     [[nodiscard]] bool ScrollTo(std::int64_t position);
 
@@ -123,7 +123,6 @@ private:
 
     // Painting.
     LRESULT OnPaint(WPARAM, LPARAM);
-    LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
     LRESULT OnUpdate(WPARAM wParam, LPARAM);
     [[nodiscard]] bool DrawRows(HDC hdc, const CRect& rcPaint);
     void DrawRow(HDC hdc, int row, const Face& face);
@@ -156,12 +155,15 @@ private:
     // Editing a label in place.
     LRESULT OnEditLabel(WPARAM wParam, LPARAM);
     LRESULT OnMoveEditLabel(WPARAM wParam, LPARAM);
-    [[nodiscard]] bool BeginLabel(int row); // m_hLabelField tells whether it did
-    [[nodiscard]] bool AskLabelEdit(int row, std::string& text, bool* pAllowed);
-    [[nodiscard]] bool FinishLabel(bool taken) override;
-    void PlaceLabelField() override;
-    bool IsEdited(int row) const { return m_hLabelField && row == m_editedRow; }
-    bool MeansLabel(const Press& press, UINT hitFlags) const;
+    bool HasItem(LPARAM row) const override { return m_rows.Has(static_cast<int>(row)); }
+    bool IsSelected(LPARAM row) const override;
+    bool IsPressed() const override { return m_press.has_value(); }
+    void CancelPress() override { EndTracking(); }
+    void ShowItem(LPARAM row) override;
+    void RedrawItem(LPARAM row) override { Redraw(static_cast<int>(row)); }
+    CRect FieldBox(LPARAM row, CSize wanted) const override;
+    std::optional<std::string> AskLabel(LPARAM row) override;
+    void TellLabel(LPARAM row, std::string& text, bool taken) override;
 
     // Keys and focus.
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
@@ -184,10 +186,8 @@ private:
     std::optional<RubberBand> m_band;
     HWND m_hTracker = nullptr; // while a button is down
     CPoint m_trackedAt;
-    int m_editedRow = -1;  // while the label's field is there
-    int m_clickedRow = -1; // is edited next, once it is certain that no double click follows
     bool m_bAutoScrolls = false;
-    bool m_bInRelayout = false;
+    int m_relayouts = 0; // under way
 };
 
 } // namespace toolkit

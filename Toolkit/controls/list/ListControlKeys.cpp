@@ -1,5 +1,4 @@
 // The list control under the keyboard, and how it gains and loses the focus.
-#include "Toolkit/base/Ticks.h"
 #include "Toolkit/controls/list/ListControl.h"
 
 namespace toolkit
@@ -14,7 +13,7 @@ LRESULT ListControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
     const int row = RowByKey(vkey);
-    StopLabelClock();
+    Labels().StopWaiting();
     if (row >= 0)
         static_cast<void>(MoveFocus(row, vkey == VK_HOME || vkey == VK_END));
     else if (vkey == VK_SPACE)
@@ -90,12 +89,9 @@ bool ListControl::PressSpace()
     return keys.shift ? ExtendTo(row, false) : SelectOnly(row);
 }
 
-// A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
 {
-    m_focusedAt = GetTickCount();
-    if (!FinishLabel(true))
-        return 0;
+    Labels().GotFocus();
     RedrawStates(LVIS_SELECTED | LVIS_FOCUSED);
     static_cast<void>(TellPlain(NM_SETFOCUS));
     return 0;
@@ -104,7 +100,7 @@ LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
 LRESULT ListControl::OnKillFocus(WPARAM, LPARAM)
 {
     EndTracking();
-    StopLabelClock();
+    Labels().StopWaiting();
     RedrawStates(LVIS_SELECTED | LVIS_FOCUSED);
     static_cast<void>(TellPlain(NM_KILLFOCUS));
     return 0;

@@ -53,7 +53,7 @@ LRESULT ListControl::OnLButtonDblClk(WPARAM wParam, LPARAM lParam)
 bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
 {
     EndTracking();
-    StopLabelClock();
+    Labels().StopWaiting();
     TakeFocus();
     if (!IsAlive())
         return false;
@@ -64,7 +64,8 @@ bool ListControl::BeginPress(WPARAM wParam, LPARAM lParam, bool right)
         return false;
     const Keys keys{(wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0};
     Press press{hit->row, at, ToContent(at), right, keys, Press::OnRelease::Nothing};
-    press.meansLabel = MeansLabel(press, hit->flags);
+    press.meansLabel =
+        !right && !keys.shift && !keys.control && (hit->flags & LVHT_ONITEMLABEL) && Labels().IsMeant(press.row);
     if (!(press.row >= 0 ? PressRow(press) : PressEmpty(press)))
         return false;
     if (press.row >= m_rows.Count())
@@ -126,10 +127,8 @@ bool ListControl::EndPress(bool right)
         alive = ExtendTo(press.row, press.keys.control);
     if (!alive || !TellClick(right ? NM_RCLICK : NM_CLICK, press.row, press.at))
         return false;
-    if (press.meansLabel) {
-        m_clickedRow = press.row;
-        StartLabelClock();
-    }
+    if (press.meansLabel)
+        Labels().BeginLater(press.row);
     return true;
 }
 

@@ -23,12 +23,6 @@ void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
 
 } // namespace
 
-LRESULT ListControl::OnEraseBackground(WPARAM wParam, LPARAM)
-{
-    return FillSolidRect(reinterpret_cast<HDC>(wParam), {0, 0, m_layout.Client().cx, m_layout.Client().cy},
-                         GetSysColor(COLOR_WINDOW));
-}
-
 LRESULT ListControl::OnPaint(WPARAM, LPARAM)
 {
     const CPaintDC paint(m_hWnd);
@@ -73,7 +67,7 @@ void ListControl::DrawRow(HDC hdc, int row, const Face& face)
 
     const Label label = PlaceLabel(row, face.text);
     DrawPicture(hdc, row, face.image, state);
-    if (IsEdited(row))
+    if (Labels().Edits(row))
         return; // the field stands there
     DrawLabel(hdc, label, state);
     if (focused && (state & LVIS_FOCUSED))
@@ -84,7 +78,8 @@ void ListControl::DrawPicture(HDC hdc, int row, int image, UINT state)
 {
     const bool marked = (state & LVIS_DROPHILITED) || ((state & LVIS_SELECTED) && IsFocused());
     // The label tells of the selection already; half of its colour would leave little of a large picture.
-    DrawImage(hdc, m_layout.IconRect(row).TopLeft(), image, marked ? ILD_BLEND25 : ILD_NORMAL);
+    const CPoint at = m_layout.IconRect(row).TopLeft();
+    ImageList_Draw(Images(), image, hdc, at.x, at.y, marked ? ILD_BLEND25 : ILD_NORMAL);
 }
 
 void ListControl::DrawLabel(HDC hdc, const Label& label, UINT state)

@@ -28,7 +28,7 @@ std::optional<ListControl::Face> ListControl::AskFace(int row)
 {
     std::array<char, 512> buffer{};
     NMLVDISPINFO info{};
-    info.item.mask = LVIF_TEXT | (m_hImages ? LVIF_IMAGE : 0);
+    info.item.mask = LVIF_TEXT | (Images() ? LVIF_IMAGE : 0);
     info.item.iItem = row;
     info.item.pszText = buffer.data(); // the owner fills it, or names a text of its own
     info.item.cchTextMax = static_cast<int>(buffer.size());

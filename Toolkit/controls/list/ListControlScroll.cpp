@@ -18,34 +18,15 @@ std::int64_t PixelsPerStep(std::int64_t contentHeight)
     return contentHeight / kScrollBarRange + 1;
 }
 
-// Holds a flag of a window's object up; lets it down at the end unless the window is gone.
-class Raised
-{
-public:
-    Raised(HWND hWnd, bool& flag) : m_hWnd(hWnd), m_flag(flag) { m_flag = true; }
-    ~Raised()
-    {
-        if (IsWindow(m_hWnd))
-            m_flag = false;
-    }
-    Raised(const Raised&) = delete;
-    Raised& operator=(const Raised&) = delete;
-
-private:
-    const HWND m_hWnd;
-    bool& m_flag;
-};
-
 } // namespace
 
-bool ListControl::Relayout()
+bool ListControl::LayOut()
 {
-    if (m_bInRelayout) // the scroll bar comes or goes: the loop below looks again
+    if (m_relayouts > 0) // the scroll bar comes or goes: the loop below looks again
         return true;
 
-    const HWND hWnd = m_hWnd;
     const int columns = m_layout.Columns();
-    const Raised inRelayout(hWnd, m_bInRelayout);
+    const UnderWay relayout(m_relayouts);
     CSize client;
     do {
         client = ClientSize();
@@ -55,7 +36,7 @@ bool ListControl::Relayout()
     } while (!(ClientSize() == client));
     if (m_layout.Columns() != columns && m_band)
         EndTracking(); // its cells are no longer where they were
-    PlaceLabelField();
+    Labels().Place();
     return true;
 }
 
@@ -80,11 +61,11 @@ LRESULT ListControl::OnSize(WPARAM, LPARAM)
 {
     const CSize former = m_layout.Client();
     const std::int64_t position = m_layout.ScrollPosition();
-    if (m_bInRelayout) {
+    if (m_relayouts > 0) {
         RedrawAll();
         return 0;
     }
-    if (Relayout() && (m_layout.Client().cx != former.cx || m_layout.ScrollPosition() != position))
+    if (LayOut() && (m_layout.Client().cx != former.cx || m_layout.ScrollPosition() != position))
         RedrawAll();
     return 0;
 }
@@ -101,8 +82,8 @@ bool ListControl::ScrollTo(std::int64_t position)
         ScrollWindow(m_hWnd, 0, static_cast<int>(-up));
     else
         RedrawAll();
-    StopLabelClock();
-    PlaceLabelField();
+    Labels().StopWaiting();
+    Labels().Place();
     if (!UpdateScrollBar())
         return false;
     return !m_band || MoveBand(); // its corner stays under the mouse
@@ -110,43 +91,17 @@ bool ListControl::ScrollTo(std::int64_t position)
 
 LRESULT ListControl::OnVScroll(WPARAM wParam, LPARAM)
 {
-    const std::int64_t position = m_layout.ScrollPosition();
     const int line = std::max<int>(m_layout.Cell().cy / kLinesPerCell, 1);
-    const int page = std::max<int>(m_layout.Client().cy - line, line);
-    std::int64_t target = position;
-    switch (LOWORD(wParam)) {
-    case SB_LINEUP:
-        target -= line;
-        break;
-    case SB_LINEDOWN:
-        target += line;
-        break;
-    case SB_PAGEUP:
-        target -= page;
-        break;
-    case SB_PAGEDOWN:
-        target += page;
-        break;
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION: {
-        SCROLLINFO info{};
-        if (GetScrollInfo(m_hWnd, SB_VERT, &info))
-            target = info.nTrackPos * PixelsPerStep(m_layout.ContentHeight());
-        break;
-    }
-    default:
-        break;
-    }
+    const std::int64_t unit = PixelsPerStep(m_layout.ContentHeight());
+    const std::int64_t target =
+        ScrollTarget(SB_VERT, wParam, m_layout.ScrollPosition(), line, m_layout.Client().cy, unit);
     static_cast<void>(ScrollTo(target));
     return 0;
 }
 
 LRESULT ListControl::OnMouseWheel(WPARAM wParam, LPARAM)
 {
-    // One notch is one cell's height; what a finer wheel turns less adds up.
-    m_nWheelRest += static_cast<std::int16_t>(HIWORD(wParam)) * m_layout.Cell().cy;
-    const int pixels = m_nWheelRest / WHEEL_DELTA;
-    m_nWheelRest %= WHEEL_DELTA;
+    const int pixels = WheelSteps(wParam, m_layout.Cell().cy);
     static_cast<void>(ScrollTo(m_layout.ScrollPosition() - pixels));
     return 0;
 }

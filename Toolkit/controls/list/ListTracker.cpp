@@ -43,12 +43,12 @@ public:
     }
 };
 
-} // namespace
-
-void RegisterListTracker()
-{
+const bool s_registered = [] {
     RegisterWindowClass(kTrackerClass, [](HWND hWnd) { return std::make_unique<ListTracker>(hWnd); });
-}
+    return true;
+}();
+
+} // namespace
 
 HWND CreateListTracker(HWND hList)
 {

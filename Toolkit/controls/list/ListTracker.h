@@ -11,7 +11,6 @@ namespace toolkit
 
 inline constexpr UINT kAutoScrollPeriod = 30; // milliseconds
 
-void RegisterListTracker();
 HWND CreateListTracker(HWND hList); // NULL when it failed; its coordinates are the list's
 void SetAutoScroll(HWND hTracker, bool on);
 

@@ -12,7 +12,6 @@ static_assert(kNormalImages == TVSIL_NORMAL);
 
 const bool s_registered = [] {
     RegisterWindowClass(WC_TREEVIEW, [](HWND hWnd) { return std::make_unique<TreeControl>(hWnd); });
-    RegisterLabelField();
     return true;
 }();
 
@@ -76,22 +75,19 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT TreeControl::OnDestroy(WPARAM, LPARAM)
 {
     m_hCaret = nullptr;
-    static_cast<void>(CancelPress() && DeleteChildren(kRootItem));
+    static_cast<void>(EndPress() && DeleteChildren(kRootItem));
     return 0;
 }
 
 LRESULT TreeControl::OnStyleChanged(WPARAM, LPARAM)
 {
-    Measure();
-    RedrawAll();
-    static_cast<void>(Relayout());
-    return 0;
+    return MeasuresChanged();
 }
 
 void TreeControl::Measure()
 {
     int cx = 0, cy = 0;
-    if (!ImageList_GetIconSize(m_hImages, &cx, &cy))
+    if (!ImageList_GetIconSize(Images(), &cx, &cy))
         cx = cy = 0;
     m_layout.SetMeasures(CurrentTextEngine().LineHeight(), {cx, cy});
     m_layout.SetButtonsAtRoot(Is(TVS_LINESATROOT) && Is(TVS_HASLINES | TVS_HASBUTTONS));

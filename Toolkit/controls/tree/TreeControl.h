@@ -5,6 +5,7 @@
 // handle and looked up again, and nothing is taken for granted that was known before it.
 #pragma once
 
+#include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/items/ItemControl.h"
 #include "Toolkit/controls/tree/TreeItems.h"
 #include "Toolkit/controls/tree/TreeLayout.h"
@@ -18,11 +19,9 @@ namespace toolkit
 class TreeControl : public ItemControl
 {
 public:
-    using ItemControl::ItemControl;
+    explicit TreeControl(HWND hWnd) : ItemControl(hWnd, TVS_EDITLABELS, ES_LEFT) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
-
-    void LabelClickDue() override;
 
 private:
     // What the owner shows in an item; as far as it was asked for.
@@ -51,24 +50,6 @@ private:
     {
         std::string text;
         DWORD at = 0;
-    };
-
-    // Counts something that is under way, as long as the window lives.
-    class UnderWay
-    {
-    public:
-        UnderWay(HWND hWnd, int& count) : m_hWnd(hWnd), m_count(count) { ++m_count; }
-        ~UnderWay()
-        {
-            if (IsWindow(m_hWnd))
-                --m_count;
-        }
-        UnderWay(const UnderWay&) = delete;
-        UnderWay& operator=(const UnderWay&) = delete;
-
-    private:
-        const HWND m_hWnd;
-        int& m_count;
     };
 
     // Life and looks of the whole.
@@ -146,7 +127,8 @@ private:
     LRESULT OnGetVisibleCount(WPARAM, LPARAM) { return m_layout.FullRows(); }
     // From that row on; keeps the item at the top where it is, as long as that is not the first row.
     [[nodiscard]] bool RowsChanged(int from);
-    [[nodiscard]] bool Relayout() override;
+    void Relayout() override { static_cast<void>(LayOut()); }
+    [[nodiscard]] bool LayOut();
     [[nodiscard]] bool UpdateBarAtSide(int height);
     [[nodiscard]] bool UpdateBarBelow();
     [[nodiscard]] bool UpdateBar(int nBar, const SCROLLINFO& info);
@@ -171,11 +153,10 @@ private:
 
     // Painting.
     LRESULT OnPaint(WPARAM, LPARAM);
-    LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
     // How wide the content is in these rows, and whether they were all that are in sight.
     [[nodiscard]] bool DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& complete);
     [[nodiscard]] bool TakeWidth(int width, bool complete);
-    int DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) const; // the label's right end, in the content
+    int DrawRow(HDC hdc, int row, ItemIndex item, const Face& face); // the label's right end, in the content
     void DrawLines(HDC hdc, int row, int level, ItemIndex item) const;
     void DrawButton(HDC hdc, const CRect& slot, bool expanded) const;
     void DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const;
@@ -200,19 +181,22 @@ private:
     LRESULT OnCaptureChanged(WPARAM, LPARAM);
     [[nodiscard]] bool BeginPress(const Hit& hit, CPoint at, bool right);
     [[nodiscard]] bool Focus() { return TakeFocus(), IsAlive(); }
-    [[nodiscard]] bool CancelPress(); // and gives the capture back
+    [[nodiscard]] bool EndPress(); // and gives the capture back
     void BeginDrag();
 
     // Editing a label in place.
-    LRESULT OnEditLabel(WPARAM, LPARAM lParam);
-    [[nodiscard]] bool BeginLabel(HTREEITEM hItem); // m_hLabelField tells whether it did
-    [[nodiscard]] bool AskLabelEdit(HTREEITEM hItem, std::string& text, bool& allowed);
-    [[nodiscard]] bool FinishLabel(bool taken) override;
-    [[nodiscard]] bool TakeLabel(HTREEITEM hItem, std::string& text);
+    LRESULT OnEditLabel(WPARAM, LPARAM lParam) { return EditLabel(lParam, true); }
+    bool HasItem(LPARAM item) const override;
+    bool IsSelected(LPARAM item) const override { return reinterpret_cast<HTREEITEM>(item) == m_hCaret; }
+    bool IsPressed() const override { return m_press.has_value(); }
+    void CancelPress() override { static_cast<void>(EndPress()); }
+    void ShowItem(LPARAM item) override { static_cast<void>(Reveal(reinterpret_cast<HTREEITEM>(item))); }
+    void RedrawItem(LPARAM item) override { Redraw(reinterpret_cast<HTREEITEM>(item)); }
+    CRect FieldBox(LPARAM item, CSize wanted) const override;
+    std::optional<std::string> AskLabel(LPARAM item) override;
+    void TellLabel(LPARAM item, std::string& text, bool taken) override;
+    HTREEITEM Edited() { return Labels().Field() ? reinterpret_cast<HTREEITEM>(Labels().Item()) : nullptr; }
     [[nodiscard]] bool CancelLabelWithin(HTREEITEM hTop); // which is about to be deleted
-    void PlaceLabelField() override;
-    bool IsEdited(ItemIndex item) const { return m_hLabelField && item == m_items.Find(m_hEdited); }
-    bool MeansLabel(const Hit& hit) const;
 
     // Keys and focus.
     LRESULT OnSetFocus(WPARAM, LPARAM);
@@ -252,8 +236,6 @@ private:
     int m_nDeleting = 0;                // deletions under way
     int m_nRelayouts = 0;               // under way, and of scroll bars
     std::optional<Press> m_press;
-    HTREEITEM m_hEdited = nullptr;  // while the label's field is there
-    HTREEITEM m_hClicked = nullptr; // is edited next, once it is certain that no double click follows
     Search m_search;
     bool m_bWidthStale = false;  // what made the content as wide as it is may be gone
     bool m_bCharIsTaken = false; // the key that is down was a command, or its owner kept it from the search

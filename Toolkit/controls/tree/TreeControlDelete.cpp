@@ -38,7 +38,7 @@ bool TreeControl::MoveSelectionOutOf(ItemIndex item)
 bool TreeControl::DeleteChildren(ItemIndex parent)
 {
     const HTREEITEM hParent = m_items.HandleOf(parent);
-    const UnderWay deleting(m_hWnd, m_nDeleting);
+    const UnderWay deleting(m_nDeleting);
     const bool went = m_items[parent].goes;
     m_items[parent].goes = true; // nothing is to be inserted meanwhile
     for (;;) {
@@ -60,7 +60,7 @@ bool TreeControl::DeleteChildren(ItemIndex parent)
 // announced once.
 bool TreeControl::DeleteBranch(HTREEITEM hTop)
 {
-    const UnderWay deleting(m_hWnd, m_nDeleting);
+    const UnderWay deleting(m_nDeleting);
     if (!CancelLabelWithin(hTop))
         return false;
     for (HTREEITEM hItem = hTop;;) {

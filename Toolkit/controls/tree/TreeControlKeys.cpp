@@ -1,16 +1,12 @@
 // The tree control under the keyboard, and how it gains and loses the focus.
-#include "Toolkit/base/Ticks.h"
 #include "Toolkit/controls/tree/TreeControl.h"
 
 namespace toolkit
 {
 
-// A field that lost the focus while its window was left ends when the user comes back to something else.
 LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
 {
-    m_focusedAt = GetTickCount();
-    if (!FinishLabel(true))
-        return 0;
+    Labels().GotFocus();
     Redraw(m_hCaret);
     // A change of the selection that moves the focus on its way finds the item itself.
     if (!m_hCaret && m_nSelecting == 0) {
@@ -25,8 +21,8 @@ LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
 LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
 {
     m_search.text.clear();
-    StopLabelClock();
-    if (!CancelPress())
+    Labels().StopWaiting();
+    if (!EndPress())
         return 0;
     Redraw(m_hCaret);
     static_cast<void>(TellPlain(NM_KILLFOCUS));
@@ -36,7 +32,7 @@ LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
 LRESULT TreeControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
-    StopLabelClock();
+    Labels().StopWaiting();
     m_bCharIsTaken = vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;
     bool handled = true;
     if (!DoKey(vkey, handled) || handled)
@@ -72,7 +68,7 @@ bool TreeControl::DoKey(UINT vkey, bool& handled)
         return TellPlain(NM_RETURN);
     case VK_ESCAPE:
         handled = m_press.has_value();
-        return CancelPress();
+        return EndPress();
     default: {
         const int row = RowByKey(vkey);
         handled = row >= 0;

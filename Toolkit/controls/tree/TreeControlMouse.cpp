@@ -10,21 +10,21 @@ namespace toolkit
 LRESULT TreeControl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
-    StopLabelClock();
-    if (!CancelPress() || !Focus() || !HitTest(CPoint(lParam), hit))
+    Labels().StopWaiting();
+    if (!EndPress() || !Focus() || !HitTest(CPoint(lParam), hit))
         return 0;
     if (hit.flags & TVHT_ONITEMBUTTON)
         static_cast<void>(Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE));
     else if (BeginPress(hit, CPoint(lParam), false) && m_press)
-        m_press->meansLabel = MeansLabel(hit);
+        m_press->meansLabel = (hit.flags & TVHT_ONITEMLABEL) && Labels().IsMeant(reinterpret_cast<LPARAM>(hit.hItem));
     return 0;
 }
 
 LRESULT TreeControl::OnRButtonDown(WPARAM, LPARAM lParam)
 {
     Hit hit;
-    StopLabelClock();
-    if (CancelPress() && Focus() && HitTest(CPoint(lParam), hit))
+    Labels().StopWaiting();
+    if (EndPress() && Focus() && HitTest(CPoint(lParam), hit))
         static_cast<void>(BeginPress(hit, CPoint(lParam), true));
     return 0;
 }
@@ -36,12 +36,10 @@ LRESULT TreeControl::OnLButtonUp(WPARAM, LPARAM)
     const Hit hit = m_press->hit;
     const bool meansLabel = m_press->meansLabel;
     LRESULT taken = 0;
-    if (!CancelPress() || !TellPlain(NM_CLICK, &taken) || taken != 0 || !(hit.flags & TVHT_ONITEM))
+    if (!EndPress() || !TellPlain(NM_CLICK, &taken) || taken != 0 || !(hit.flags & TVHT_ONITEM))
         return 0;
-    if ((m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE)) && meansLabel) {
-        m_hClicked = hit.hItem;
-        StartLabelClock();
-    }
+    if ((m_items.Find(hit.hItem) == kNoItem || Select(hit.hItem, TVC_BYMOUSE)) && meansLabel)
+        Labels().BeginLater(reinterpret_cast<LPARAM>(hit.hItem));
     return 0;
 }
 
@@ -49,7 +47,7 @@ LRESULT TreeControl::OnLButtonUp(WPARAM, LPARAM)
 LRESULT TreeControl::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 {
     LRESULT taken = 0;
-    if (m_press && m_press->right && (!CancelPress() || !TellPlain(NM_RCLICK, &taken) || taken != 0))
+    if (m_press && m_press->right && (!EndPress() || !TellPlain(NM_RCLICK, &taken) || taken != 0))
         return 0;
     return ::DefWindowProc(m_hWnd, WM_RBUTTONUP, wParam, lParam); // makes it a WM_CONTEXTMENU
 }
@@ -58,8 +56,8 @@ LRESULT TreeControl::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 LRESULT TreeControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 {
     Hit hit;
-    StopLabelClock();
-    if (!CancelPress() || !Focus() || !HitTest(CPoint(lParam), hit))
+    Labels().StopWaiting();
+    if (!EndPress() || !Focus() || !HitTest(CPoint(lParam), hit))
         return 0;
     LRESULT taken = 0;
     if (!(hit.flags & TVHT_ONITEMBUTTON) && !TellPlain(NM_DBLCLK, &taken))
@@ -73,7 +71,7 @@ LRESULT TreeControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 LRESULT TreeControl::OnMouseMove(WPARAM wParam, LPARAM lParam)
 {
     if (m_press && !(wParam & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
-        static_cast<void>(CancelPress());
+        static_cast<void>(EndPress());
     else if (m_press && IsDrag(m_press->at, CPoint(lParam)))
         BeginDrag();
     return 0;
@@ -99,7 +97,7 @@ bool TreeControl::BeginPress(const Hit& hit, CPoint at, bool right)
     return IsWindow(hWnd);
 }
 
-bool TreeControl::CancelPress()
+bool TreeControl::EndPress()
 {
     const HWND hWnd = m_hWnd;
     if (m_press && GetCapture() == hWnd)
@@ -114,7 +112,7 @@ bool TreeControl::CancelPress()
 void TreeControl::BeginDrag()
 {
     const Press press = *m_press;
-    if (!(press.hit.flags & TVHT_ONITEM) || Is(TVS_DISABLEDRAGDROP) || !CancelPress())
+    if (!(press.hit.flags & TVHT_ONITEM) || Is(TVS_DISABLEDRAGDROP) || !EndPress())
         return;
     if (m_items.Find(press.hit.hItem) == kNoItem)
         return;

@@ -28,11 +28,6 @@ void DrawLine(HDC hdc, const CRect& rect)
 
 } // namespace
 
-LRESULT TreeControl::OnEraseBackground(WPARAM wParam, LPARAM)
-{
-    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), m_layout.Client()), GetSysColor(COLOR_WINDOW));
-}
-
 LRESULT TreeControl::OnPaint(WPARAM, LPARAM)
 {
     int width = 0;
@@ -56,7 +51,7 @@ bool TreeControl::DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& comp
     const unsigned version = m_items.Version();
     const int top = m_layout.TopRow(), x = m_layout.X();
     const UINT parts =
-        TVIF_TEXT | (m_hImages ? TVIF_IMAGE | TVIF_SELECTEDIMAGE : 0) | (Is(TVS_HASBUTTONS) ? TVIF_CHILDREN : 0);
+        TVIF_TEXT | (Images() ? TVIF_IMAGE | TVIF_SELECTEDIMAGE : 0) | (Is(TVS_HASBUTTONS) ? TVIF_CHILDREN : 0);
     complete = rows.first == shown.first && rows.end == shown.end;
     for (int row = rows.first; row < rows.end; ++row) {
         if (!RectVisible(hdc, m_layout.RowRect(row))) {
@@ -77,7 +72,7 @@ bool TreeControl::DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& comp
     return true;
 }
 
-int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) const
+int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face)
 {
     const int level = m_items.Level(item);
     const int textWidth = TextWidth(item, face.text);
@@ -86,7 +81,7 @@ int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face) con
     if (face.hasChildren && HasButtonAt(level))
         DrawButton(hdc, m_layout.ButtonSlot(row, level), m_items.IsExpanded(item) && m_items.ChildCount(item) > 0);
     DrawPicture(hdc, m_layout.IconAt(row, level), item, face);
-    if (!IsEdited(item)) // else the field stands there
+    if (item != m_items.Find(Edited())) // else the field stands there
         DrawLabel(hdc, m_layout.LabelBox(row, level, textWidth), item, face.text);
     return m_layout.RightOf(level, textWidth);
 }
@@ -128,7 +123,8 @@ void TreeControl::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
 void TreeControl::DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const
 {
     const UINT state = m_items[item].state;
-    DrawImage(hdc, at, state & TVIS_SELECTED ? face.selectedImage : face.image, ILD_NORMAL);
+    const int image = state & TVIS_SELECTED ? face.selectedImage : face.image;
+    ImageList_Draw(Images(), image, hdc, at.x, at.y, ILD_NORMAL);
 }
 
 void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const
@@ -168,7 +164,7 @@ bool TreeControl::TakeWidth(int width, bool complete)
     if (width == m_layout.Width())
         return true;
     m_layout.SetWidth(width);
-    return Relayout();
+    return LayOut();
 }
 
 void TreeControl::Redraw(HTREEITEM hItem)

@@ -15,27 +15,6 @@ namespace
 constexpr int kRowsPerNotch = 3;
 constexpr int kPixelsPerStep = TreeLayout::kIndent; // sideways
 
-// Where a scroll bar's message leads; the present position for one that leads nowhere.
-int TargetOf(HWND hWnd, int nBar, WPARAM wParam, int pos, int step, int page)
-{
-    SCROLLINFO info{};
-    switch (LOWORD(wParam)) {
-    case SB_LINEUP:
-        return pos - step;
-    case SB_LINEDOWN:
-        return pos + step;
-    case SB_PAGEUP:
-        return pos - std::max(page - step, step);
-    case SB_PAGEDOWN:
-        return pos + std::max(page - step, step);
-    case SB_THUMBTRACK:
-    case SB_THUMBPOSITION:
-        return GetScrollInfo(hWnd, nBar, &info) ? info.nTrackPos : pos;
-    default:
-        return pos;
-    }
-}
-
 } // namespace
 
 bool TreeControl::RowsChanged(int from)
@@ -44,7 +23,7 @@ bool TreeControl::RowsChanged(int from)
     const ItemIndex top = m_items.Find(m_hTop);
     if (m_layout.TopRow() > 0 && top != kNoItem)
         m_layout.ScrollToRow(m_items.RowOf(top));
-    if (!Relayout())
+    if (!LayOut())
         return false;
     RedrawFrom(from);
     return true;
@@ -75,11 +54,11 @@ void TreeControl::ForgetWidth()
 
 // Each bar takes room from the other. The one below is certain when the rows are wider than all the room there is;
 // else it is only needed when the one at the side is, which must not stay for the one below alone.
-bool TreeControl::Relayout()
+bool TreeControl::LayOut()
 {
     if (m_nRelayouts > 0) // a bar comes or goes: it is looked after below
         return true;
-    const UnderWay relayout(m_hWnd, m_nRelayouts);
+    const UnderWay relayout(m_nRelayouts);
     const CSize room = SizeWithoutBars();
     const bool certain = m_layout.Width() > room.cx;
     m_layout.SetClient(ClientSize());
@@ -88,7 +67,7 @@ bool TreeControl::Relayout()
     if (!UpdateBarBelow() || !UpdateBarAtSide(m_layout.Client().cy) || !UpdateBarBelow())
         return false;
     FollowPlace();
-    PlaceLabelField();
+    Labels().Place();
     return true;
 }
 
@@ -127,7 +106,7 @@ LRESULT TreeControl::OnSize(WPARAM, LPARAM)
         return 0;
     }
     const CSize former = m_layout.Client();
-    if (!Relayout())
+    if (!LayOut())
         return 0;
     if (m_layout.Client().cx != former.cx)
         RedrawAll();
@@ -148,8 +127,8 @@ bool TreeControl::ScrollToRow(int row)
     else
         RedrawAll();
     KeepPlace();
-    StopLabelClock();
-    PlaceLabelField();
+    Labels().StopWaiting();
+    Labels().Place();
     return UpdateBarAtSide(m_layout.Client().cy);
 }
 
@@ -165,7 +144,7 @@ bool TreeControl::ScrollToX(int x)
     else
         RedrawAll();
     KeepPlace();
-    PlaceLabelField();
+    Labels().Place();
     return UpdateBarBelow();
 }
 
@@ -193,7 +172,7 @@ bool TreeControl::ScrollIntoView(HTREEITEM hItem)
     const int right = m_layout.RightOf(level, TextWidth(itemNow, face.text));
     if (right > m_layout.Width()) {
         m_layout.SetWidth(right);
-        if (!Relayout())
+        if (!LayOut())
             return false;
     }
     return ScrollToX(m_layout.XToShow(m_layout.LeftOf(level), right));
@@ -213,23 +192,22 @@ LRESULT TreeControl::OnEnsureVisible(WPARAM, LPARAM lParam)
 
 LRESULT TreeControl::OnVScroll(WPARAM wParam, LPARAM)
 {
-    static_cast<void>(ScrollToRow(TargetOf(m_hWnd, SB_VERT, wParam, m_layout.TopRow(), 1, m_layout.FullRows())));
+    const std::int64_t row = ScrollTarget(SB_VERT, wParam, m_layout.TopRow(), 1, m_layout.FullRows());
+    static_cast<void>(ScrollToRow(static_cast<int>(row)));
     return 0;
 }
 
 LRESULT TreeControl::OnHScroll(WPARAM wParam, LPARAM)
 {
-    const int page = m_layout.Client().cx;
-    static_cast<void>(ScrollToX(TargetOf(m_hWnd, SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, page)));
+    const std::int64_t x = ScrollTarget(SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, m_layout.Client().cx);
+    static_cast<void>(ScrollToX(static_cast<int>(x)));
     return 0;
 }
 
-// What a finer wheel turns less than a row adds up. With Shift it scrolls sideways.
+// With Shift it scrolls sideways.
 LRESULT TreeControl::OnMouseWheel(WPARAM wParam, LPARAM)
 {
-    m_nWheelRest += static_cast<std::int16_t>(HIWORD(wParam)) * kRowsPerNotch;
-    const int rows = m_nWheelRest / WHEEL_DELTA;
-    m_nWheelRest %= WHEEL_DELTA;
+    const int rows = WheelSteps(wParam, kRowsPerNotch);
     static_cast<void>(LOWORD(wParam) & MK_SHIFT ? ScrollToX(m_layout.X() - rows * kPixelsPerStep)
                                                 : ScrollToRow(m_layout.TopRow() - rows));
     return 0;

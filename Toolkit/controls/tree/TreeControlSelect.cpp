@@ -34,7 +34,7 @@ bool TreeControl::Select(HTREEITEM hItem, UINT cause, bool* pDone)
     if (done || !MaySelect(hItem))
         return true;
 
-    const UnderWay selecting(m_hWnd, m_nSelecting);
+    const UnderWay selecting(m_nSelecting);
     LRESULT refused = 0;
     if (!TellSelection(TVN_SELCHANGING, m_hCaret, hItem, cause, &refused))
         return false;

@@ -113,7 +113,7 @@ bool TreeControl::SettleGathered()
 {
     if (m_nSettling > 0)
         return true;
-    const UnderWay settling(m_hWnd, m_nSettling);
+    const UnderWay settling(m_nSettling);
     try {
         while (!m_unsettled.empty()) {
             const HTREEITEM hParent = m_unsettled.back();
