@@ -1,6 +1,4 @@
-#include "Toolkit/controls/list/ListLayout.h"
-
-#include "Toolkit/controls/list/ListLabel.h"
+#include "Toolkit/controls/list/IconLayout.h"
 #include "tests/toolkit/Ruler.h"
 
 #include <gtest/gtest.h>
@@ -11,9 +9,9 @@ namespace
 {
 
 // Three columns of 110, lines of 96, with pictures of 48.
-ListLayout MakeLayout(int count, CSize client = {330, 300})
+IconLayout MakeLayout(int count, CSize client = {330, 300})
 {
-    ListLayout layout;
+    IconLayout layout;
     layout.SetIcon({48, 48});
     layout.SetClient(client);
     layout.SetCount(count);
@@ -22,7 +20,7 @@ ListLayout MakeLayout(int count, CSize client = {330, 300})
 
 TEST(ListLayoutTest, ARowIsShownByTheShortestWayAndStaysAtTheTopOfAWiderView)
 {
-    ListLayout layout = MakeLayout(100);
+    IconLayout layout = MakeLayout(100);
     layout.ScrollTo(100);
     EXPECT_EQ(96, layout.ScrollToShow(3, false)); // cut at the top
     EXPECT_EQ(100, layout.ScrollToShow(3, true));

@@ -1,6 +1,5 @@
 #include "Toolkit/controls/list/ListControl.h"
 
-#include "Toolkit/controls/list/ListTracker.h"
 #include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit
@@ -9,9 +8,7 @@ namespace toolkit
 namespace
 {
 
-constexpr CSize kAroundPicture{28, 48}; // what a cell has beyond its picture, at least
-constexpr int kMinCellWidth = 100;
-constexpr int kMinCellLines = 7; // and at least so many line heights wide, for the label's sake
+constexpr UINT kStates = LVIS_FOCUSED | LVIS_SELECTED | LVIS_DROPHILITED;
 
 static_assert(kNormalImages == LVSIL_NORMAL);
 
@@ -28,20 +25,20 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     using Table = HandlerTable<ListControl>;
     static const Table handlers{
         {WM_CREATE, Table::To<&ListControl::OnCreate>},
-        {WM_SIZE, Table::To<&ListControl::OnSize>},
-        {WM_PAINT, Table::To<&ListControl::OnPaint>},
+        {WM_SIZE, Table::To<&ListControl::m_viewport, &ListViewport::OnSize>},
+        {WM_PAINT, Table::To<&ListControl::m_painter, &ListPainter::OnPaint>},
         {WM_ERASEBKGND, Table::To<&ListControl::OnEraseBackground>},
         {WM_SETFOCUS, Table::To<&ListControl::OnSetFocus>},
         {WM_KILLFOCUS, Table::To<&ListControl::OnKillFocus>},
-        {WM_KEYDOWN, Table::To<&ListControl::OnKeyDown>},
-        {WM_LBUTTONDOWN, Table::To<&ListControl::OnLButtonDown>},
-        {WM_LBUTTONUP, Table::To<&ListControl::OnLButtonUp>},
-        {WM_LBUTTONDBLCLK, Table::To<&ListControl::OnLButtonDblClk>},
-        {WM_RBUTTONDOWN, Table::To<&ListControl::OnRButtonDown>},
-        {WM_RBUTTONDBLCLK, Table::To<&ListControl::OnRButtonDown>},
-        {WM_RBUTTONUP, Table::To<&ListControl::OnRButtonUp>},
-        {WM_VSCROLL, Table::To<&ListControl::OnVScroll>},
-        {WM_MOUSEWHEEL, Table::To<&ListControl::OnMouseWheel>},
+        {WM_KEYDOWN, Table::To<&ListControl::m_keys, &ListKeys::OnKeyDown>},
+        {WM_LBUTTONDOWN, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDown>},
+        {WM_LBUTTONUP, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonUp>},
+        {WM_LBUTTONDBLCLK, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDblClk>},
+        {WM_RBUTTONDOWN, Table::To<&ListControl::m_mouse, &ListMouse::OnRButtonDown>},
+        {WM_RBUTTONDBLCLK, Table::To<&ListControl::m_mouse, &ListMouse::OnRButtonDown>},
+        {WM_RBUTTONUP, Table::To<&ListControl::m_mouse, &ListMouse::OnRButtonUp>},
+        {WM_VSCROLL, Table::To<&ListControl::m_viewport, &ListViewport::OnVScroll>},
+        {WM_MOUSEWHEEL, Table::To<&ListControl::m_viewport, &ListViewport::OnMouseWheel>},
         {LVM_GETIMAGELIST, Table::To<&ListControl::OnGetImageList>},
         {LVM_SETIMAGELIST, Table::To<&ListControl::OnSetImageList>},
         {LVM_GETITEMCOUNT, Table::To<&ListControl::OnGetItemCount>},
@@ -50,12 +47,12 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {LVM_GETSELECTEDCOUNT, Table::To<&ListControl::OnGetSelectedCount>},
         {LVM_GETITEMSTATE, Table::To<&ListControl::OnGetItemState>},
         {LVM_SETITEMSTATE, Table::To<&ListControl::OnSetItemState>},
-        {LVM_GETITEMRECT, Table::To<&ListControl::OnGetItemRect>},
-        {LVM_HITTEST, Table::To<&ListControl::OnHitTest>},
-        {LVM_ENSUREVISIBLE, Table::To<&ListControl::OnEnsureVisible>},
-        {LVM_SCROLL, Table::To<&ListControl::OnScroll>},
-        {LVM_GETTOPINDEX, Table::To<&ListControl::OnGetTopIndex>},
-        {LVM_GETCOUNTPERPAGE, Table::To<&ListControl::OnGetCountPerPage>},
+        {LVM_GETITEMRECT, Table::To<&ListControl::m_places, &ListPlaces::OnGetItemRect>},
+        {LVM_HITTEST, Table::To<&ListControl::m_places, &ListPlaces::OnHitTest>},
+        {LVM_ENSUREVISIBLE, Table::To<&ListControl::m_viewport, &ListViewport::OnEnsureVisible>},
+        {LVM_SCROLL, Table::To<&ListControl::m_viewport, &ListViewport::OnScroll>},
+        {LVM_GETTOPINDEX, Table::To<&ListControl::m_viewport, &ListViewport::OnGetTopIndex>},
+        {LVM_GETCOUNTPERPAGE, Table::To<&ListControl::m_viewport, &ListViewport::OnGetCountPerPage>},
         {LVM_UPDATE, Table::To<&ListControl::OnUpdate>},
         {LVM_ARRANGE, Table::To<&ListControl::OnArrange>},
         {LVM_SETICONSPACING, Table::To<&ListControl::OnSetIconSpacing>},
@@ -72,13 +69,10 @@ LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
     if (count < 0)
         return FALSE;
 
-    m_rows.SetCount(count);
+    m_selection.SetCount(count);
     m_layout.SetCount(count);
-    m_hinted = {0, 0};
-    if (m_band)
-        m_band->Truncate(count);
-    if (m_press && m_press->row >= count)
-        EndTracking();
+    m_owner.ForgetHint();
+    m_mouse.RowsAreNew(count);
     RedrawAll();
     Relayout();
     if (Labels().Item() >= count)
@@ -102,17 +96,110 @@ LRESULT ListControl::OnArrange(WPARAM, LPARAM)
     return TRUE;
 }
 
+LRESULT ListControl::OnUpdate(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    if (!Rows().Has(row))
+        return FALSE;
+    m_owner.ForgetHint(row); // what it said of it may be out of date
+    m_viewport.Redraw(row);
+    return TRUE;
+}
+
 void ListControl::Measure()
 {
     int cx = 0, cy = 0;
-    if (!ImageList_GetIconSize(Images(), &cx, &cy))
-        cx = cy = 0;
-    const int line = CurrentTextEngine().LineHeight();
-    const int label = ListLayout::kTopPadding + ListLayout::kLabelGap + 2 * line + 1;
-    const CSize natural(std::max<int>({kMinCellWidth, kMinCellLines * line, cx + kAroundPicture.cx}),
-                        cy + std::max<int>(label, kAroundPicture.cy));
-    m_layout.SetIcon({cx, cy});
-    m_layout.SetCell(m_spacing.value_or(natural));
+    const bool pictures = ImageList_GetIconSize(Images(), &cx, &cy);
+    m_layout.SetIcon(pictures ? CSize(cx, cy) : CSize());
+    m_layout.SetCell(m_spacing.value_or(m_layout.NaturalCell()));
+}
+
+LRESULT ListControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
+{
+    constexpr UINT kAsked = LVNI_FOCUSED | LVNI_SELECTED | LVNI_DROPHILITED;
+    static_assert(kAsked == kStates); // the flags are the states
+    return Rows().Next(static_cast<int>(wParam), static_cast<UINT>(lParam) & kAsked);
+}
+
+LRESULT ListControl::OnGetItemState(WPARAM wParam, LPARAM lParam)
+{
+    return Rows().State(static_cast<int>(wParam)) & static_cast<UINT>(lParam);
+}
+
+LRESULT ListControl::OnSetItemState(WPARAM wParam, LPARAM lParam)
+{
+    const auto* const pItem = reinterpret_cast<const LVITEM*>(lParam);
+    const int row = static_cast<int>(wParam);
+    if (!pItem || (row != -1 && !Rows().Has(row)))
+        return FALSE;
+
+    const UINT mask = pItem->stateMask & kStates;
+    const UINT state = pItem->state & mask;
+    if (row == -1) {
+        m_selection.ChangeAll(state, mask);
+        return IsAlive();
+    }
+    m_selection.Change(row, state, mask);
+    return IsAlive() && (Rows().State(row) & mask) == state;
+}
+
+void ListControl::HasChanged(int row, UINT oldState, UINT newState)
+{
+    if (row >= 0)
+        m_viewport.Redraw(row);
+    else
+        RedrawAll();
+    m_owner.TellChange(row, oldState, newState);
+}
+
+LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
+{
+    Labels().GotFocus();
+    RedrawChosen();
+    Notify(NM_SETFOCUS);
+    return 0;
+}
+
+LRESULT ListControl::OnKillFocus(WPARAM, LPARAM)
+{
+    m_mouse.Cancel();
+    Labels().StopWaiting();
+    RedrawChosen();
+    Notify(NM_KILLFOCUS);
+    return 0;
+}
+
+void ListControl::RedrawChosen() const
+{
+    const CellBlock visible = m_layout.CellsTouching({CPoint(), m_layout.Client()});
+    const RowSet rows = m_layout.RowsOf(visible);
+    for (int row = rows.Next(-1); row >= 0; row = rows.Next(row))
+        if (Rows().State(row) & (LVIS_SELECTED | LVIS_FOCUSED))
+            m_viewport.Redraw(row);
+}
+
+LRESULT ListControl::OnEditLabel(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    return EditLabel(row, row >= 0);
+}
+
+LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
+{
+    const int row = static_cast<int>(wParam);
+    if (!Labels().Field())
+        return FALSE;
+    if (Rows().Has(row))
+        Labels().MoveTo(row);
+    else
+        Labels().Finish(false);
+    return TRUE;
+}
+
+bool ListControl::IsSelected(LPARAM row) const
+{
+    constexpr UINT kBoth = LVIS_SELECTED | LVIS_FOCUSED;
+    return (Rows().State(static_cast<int>(row)) & kBoth) == kBoth && Rows().CountWith(LVIS_SELECTED) == 1;
 }
 
 } // namespace toolkit

@@ -1,6 +1,7 @@
 // How a row's name is set below its picture: in up to two lines, the last one cut with dots when it must be.
 #pragma once
 
+#include "Toolkit/base/Geometry.h"
 #include "Toolkit/graphics/TextEngine.h"
 
 #include <string>
@@ -13,6 +14,12 @@ struct LabelLine
 {
     std::string text;
     int width; // pixels
+};
+
+struct RowLabel
+{
+    std::vector<LabelLine> lines;
+    CRect box; // client; holds the lines; empty without one
 };
 
 // Breaks between words, and behind hyphens and underscores; inside a word where the line would stay too empty, or

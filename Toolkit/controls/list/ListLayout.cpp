@@ -1,5 +1,7 @@
 #include "Toolkit/controls/list/ListLayout.h"
 
+#include "Toolkit/message/Messages.h"
+
 #include <limits>
 
 namespace toolkit
@@ -8,7 +10,6 @@ namespace toolkit
 namespace
 {
 
-constexpr int kLabelMargin = 3; // left and right of the label's room, so that neighbours do not touch
 constexpr std::int64_t kFarAway = 1 << 29;
 
 int ToClient(std::int64_t y)
@@ -48,29 +49,9 @@ void ListLayout::SetCell(CSize size)
     ScrollTo(m_scroll);
 }
 
-void ListLayout::SetIcon(CSize size)
-{
-    m_icon = size;
-}
-
 void ListLayout::ScrollTo(std::int64_t position)
 {
-    m_scroll = std::clamp<std::int64_t>(position, 0, MaxScroll());
-}
-
-int ListLayout::ColumnsIn(int clientWidth) const
-{
-    return std::max(clientWidth / m_cell.cx, 1);
-}
-
-int ListLayout::Columns() const
-{
-    return ColumnsIn(m_client.cx);
-}
-
-int ListLayout::Lines() const
-{
-    return m_nCount == 0 ? 0 : (m_nCount - 1) / Columns() + 1;
+    m_scroll = std::clamp<std::int64_t>(position, 0, std::max<std::int64_t>(ContentHeight() - m_client.cy, 0));
 }
 
 int ListLayout::RowAt(int line, int column) const
@@ -88,42 +69,11 @@ std::int64_t ListLayout::ContentHeight(int clientWidth) const
     return (static_cast<std::int64_t>(m_nCount - 1) / ColumnsIn(clientWidth) + 1) * m_cell.cy;
 }
 
-std::int64_t ListLayout::MaxScroll() const
-{
-    return std::max<std::int64_t>(ContentHeight() - m_client.cy, 0);
-}
-
-int ListLayout::ColumnLeft(int column) const
-{
-    // A client area narrower than one cell shows the cell's left part.
-    const std::int64_t width = std::max<int>(m_client.cx, m_cell.cx);
-    return static_cast<int>(width * column / Columns());
-}
-
 CRect ListLayout::CellRect(int row) const
 {
     const int column = ColumnOf(row);
     const int top = ToClient(static_cast<std::int64_t>(LineOf(row)) * m_cell.cy - m_scroll);
     return {ColumnLeft(column), top, ColumnLeft(column + 1), top + m_cell.cy};
-}
-
-CRect ListLayout::IconRect(int row) const
-{
-    const CRect cell = CellRect(row);
-    return {CPoint(cell.left + (cell.Width() - m_icon.cx) / 2, cell.top + kTopPadding), m_icon};
-}
-
-CRect ListLayout::LabelRoom(int row) const
-{
-    CRect room = CellRect(row);
-    room.DeflateRect(kLabelMargin, 0);
-    room.top += LabelTop();
-    return room;
-}
-
-int ListLayout::LabelTop() const
-{
-    return kTopPadding + (m_icon.cy > 0 ? m_icon.cy + kLabelGap : 0);
 }
 
 int ListLayout::CellAt(CPoint client) const
@@ -141,40 +91,17 @@ CellBlock ListLayout::Clamp(CellBlock block) const
     return block.IsEmpty() ? CellBlock() : block;
 }
 
+CellBlock ListLayout::LinesTouching(std::int64_t top, std::int64_t bottom) const
+{
+    return {FloorToInt(top, m_cell.cy), FloorToInt(bottom - 1, m_cell.cy) + 1, 0, Columns()};
+}
+
 CellBlock ListLayout::CellsTouching(const CRect& client) const
 {
-    CellBlock block{FloorToInt(client.top + m_scroll, m_cell.cy),
-                    FloorToInt(client.bottom - 1 + m_scroll, m_cell.cy) + 1, 0, Columns()};
+    CellBlock block = LinesTouching(client.top + m_scroll, client.bottom + m_scroll);
     while (block.firstColumn < block.endColumn && ColumnLeft(block.firstColumn + 1) <= client.left)
         ++block.firstColumn;
     while (block.firstColumn < block.endColumn && ColumnLeft(block.endColumn - 1) >= client.right)
-        --block.endColumn;
-    return Clamp(block);
-}
-
-CRect ListLayout::BlockRect(const CellBlock& block) const
-{
-    const std::int64_t top = static_cast<std::int64_t>(block.firstLine) * m_cell.cy - m_scroll;
-    const std::int64_t bottom = static_cast<std::int64_t>(block.endLine) * m_cell.cy - m_scroll;
-    return CRect(ColumnLeft(block.firstColumn), ToClient(top), ColumnLeft(block.endColumn), ToClient(bottom)) &
-           CRect(CPoint(), m_client);
-}
-
-CellBlock ListLayout::BodiesTouching(const ContentRect& rect) const
-{
-    // The body is as wide as the picture, or as half the cell where that is more, and reaches half way down the label.
-    const int bodyBottom = (LabelTop() + m_cell.cy) / 2;
-    CellBlock block{FloorToInt(rect.top - bodyBottom, m_cell.cy) + 1,
-                    FloorToInt(rect.bottom - 1 - kTopPadding, m_cell.cy) + 1, 0, Columns()};
-    const auto inset = [&](int column) {
-        const int width = ColumnLeft(column + 1) - ColumnLeft(column);
-        return (width - std::clamp<int>(m_icon.cx, width / 2, width)) / 2;
-    };
-    while (block.firstColumn < block.endColumn &&
-           ColumnLeft(block.firstColumn + 1) - inset(block.firstColumn) <= rect.left)
-        ++block.firstColumn;
-    while (block.firstColumn < block.endColumn &&
-           ColumnLeft(block.endColumn - 1) + inset(block.endColumn - 1) >= rect.right)
         --block.endColumn;
     return Clamp(block);
 }
@@ -184,6 +111,17 @@ CellBlock ListLayout::BlockBetween(int row, int otherRow) const
     const auto [firstLine, lastLine] = std::minmax({LineOf(row), LineOf(otherRow)});
     const auto [firstColumn, lastColumn] = std::minmax({ColumnOf(row), ColumnOf(otherRow)});
     return {firstLine, lastLine + 1, firstColumn, lastColumn + 1};
+}
+
+RowSet ListLayout::RowsOf(const CellBlock& block) const
+{
+    RowSet rows;
+    for (int line = block.firstLine; line < block.endLine; ++line) {
+        const int first = RowAt(line, block.firstColumn);
+        if (first >= 0)
+            rows.Insert({first, std::min(first + block.endColumn - block.firstColumn, m_nCount)});
+    }
+    return rows;
 }
 
 int ListLayout::FirstVisibleRow() const
@@ -206,6 +144,39 @@ std::int64_t ListLayout::ScrollToShow(int row, bool partIsEnough) const
     if (top < m_scroll || m_cell.cy > m_client.cy)
         return top;
     return std::max(m_scroll, bottom - m_client.cy);
+}
+
+// Left and right run through all rows; up and down keep the column as long as the last line has it.
+int ListLayout::RowByKey(int focus, UINT vkey) const
+{
+    const int last = m_nCount - 1;
+    const auto lineAway = [&](int lines) {
+        const int row = RowAt(std::clamp(LineOf(focus) + lines, 0, LineOf(last)), ColumnOf(focus));
+        return row >= 0 ? row : last;
+    };
+    if (last < 0)
+        return -1;
+
+    switch (vkey) {
+    case VK_HOME:
+        return 0;
+    case VK_END:
+        return last;
+    case VK_LEFT:
+        return std::max(focus - 1, 0);
+    case VK_RIGHT:
+        return std::min(focus + 1, last);
+    case VK_UP:
+        return focus < 0 ? 0 : lineAway(-1);
+    case VK_DOWN:
+        return focus < 0 ? 0 : lineAway(1);
+    case VK_PRIOR:
+        return focus < 0 ? 0 : lineAway(-FullLinesPerPage());
+    case VK_NEXT:
+        return focus < 0 ? 0 : lineAway(FullLinesPerPage());
+    default:
+        return -1;
+    }
 }
 
 } // namespace toolkit

@@ -1,11 +1,15 @@
-// How the list control asks and tells its owner.
-#include "Toolkit/controls/list/ListControl.h"
+#include "Toolkit/controls/list/ListOwner.h"
+
+#include <array>
 
 namespace toolkit
 {
 
 namespace
 {
+
+constexpr std::size_t kLabelBuffer = 512; // lent to the owner, who may name a text of its own instead
+
 NMLISTVIEW StateChange(int row, UINT oldState, UINT newState)
 {
     NMLISTVIEW change{};
@@ -15,29 +19,92 @@ NMLISTVIEW StateChange(int row, UINT oldState, UINT newState)
     change.uChanged = LVIF_STATE;
     return change;
 }
+
+NMLVDISPINFO LabelInfo(int row, LPSTR pszText, std::size_t room)
+{
+    NMLVDISPINFO info{};
+    info.item.mask = LVIF_TEXT;
+    info.item.iItem = row;
+    info.item.pszText = pszText;
+    info.item.cchTextMax = static_cast<int>(room);
+    return info;
+}
+
 } // namespace
 
-bool ListControl::TellClick(UINT code, int row, CPoint at) const
+void ListOwner::Hint(RowRange rows)
+{
+    NMLVCACHEHINT hint{};
+    hint.iFrom = rows.first;
+    hint.iTo = rows.end - 1;
+    m_hinted = rows;
+    m_control.Notify(LVN_ODCACHEHINT, hint.hdr);
+}
+
+void ListOwner::ForgetHint(int row)
+{
+    if (row >= m_hinted.first && row < m_hinted.end)
+        ForgetHint();
+}
+
+RowFace ListOwner::AskFace(int row) const
+{
+    std::array<char, kLabelBuffer> buffer{};
+    NMLVDISPINFO info = LabelInfo(row, buffer.data(), buffer.size());
+    info.item.mask |= m_control.Images() ? LVIF_IMAGE : 0;
+    info.item.iImage = -1;
+    m_control.Notify(LVN_GETDISPINFO, info.hdr);
+    return {info.item.pszText ? info.item.pszText : "", info.item.iImage};
+}
+
+RowFace ListOwner::HintAndAsk(int row)
+{
+    if (row < m_hinted.first || row >= m_hinted.end)
+        Hint({row, row + 1});
+    return AskFace(row);
+}
+
+bool ListOwner::MayChange(int row, UINT oldState, UINT newState) const
+{
+    NMLISTVIEW change = StateChange(row, oldState, newState);
+    return m_control.Notify(LVN_ITEMCHANGING, change.hdr) == 0;
+}
+
+void ListOwner::TellChange(int row, UINT oldState, UINT newState) const
+{
+    NMLISTVIEW change = StateChange(row, oldState, newState);
+    m_control.Notify(LVN_ITEMCHANGED, change.hdr);
+}
+
+void ListOwner::TellClick(UINT code, int row, CPoint at) const
 {
     NMITEMACTIVATE click{};
     click.iItem = row;
     click.ptAction = at;
-    return Tell(code, click.hdr);
+    m_control.Notify(code, click.hdr);
 }
 
-bool ListControl::AskChange(int row, UINT oldState, UINT newState, bool* pAllowed) const
+void ListOwner::TellDrag(UINT code, int row, CPoint at) const
 {
-    NMLISTVIEW change = StateChange(row, oldState, newState);
-    LRESULT refused = 0;
-    const bool alive = Tell(LVN_ITEMCHANGING, change.hdr, &refused);
-    *pAllowed = refused == 0;
-    return alive;
+    NMLISTVIEW drag{};
+    drag.iItem = row;
+    drag.ptAction = at;
+    m_control.Notify(code, drag.hdr);
 }
 
-bool ListControl::TellChange(int row, UINT oldState, UINT newState) const
+std::optional<std::string> ListOwner::AskLabel(int row)
 {
-    NMLISTVIEW change = StateChange(row, oldState, newState);
-    return Tell(LVN_ITEMCHANGED, change.hdr);
+    std::string text = HintAndAsk(row).text;
+    NMLVDISPINFO info = LabelInfo(row, text.data(), text.size() + 1);
+    if (m_control.Notify(LVN_BEGINLABELEDIT, info.hdr) != 0)
+        return std::nullopt;
+    return info.item.pszText ? std::string(info.item.pszText) : text;
+}
+
+void ListOwner::TellLabel(int row, std::string& text, bool taken) const
+{
+    NMLVDISPINFO info = LabelInfo(row, taken ? text.data() : nullptr, text.size() + 1);
+    m_control.Notify(LVN_ENDLABELEDIT, info.hdr);
 }
 
 } // namespace toolkit

@@ -26,13 +26,13 @@ public:
 
         switch (message) {
         case WM_MOUSEMOVE:
-            pList->TrackMove(wParam, CPoint(lParam));
+            pList->Mouse().TrackMove(wParam, CPoint(lParam));
             return 0;
         case WM_TIMER:
-            pList->AutoScroll();
+            pList->Mouse().AutoScroll();
             return 0;
         case WM_CAPTURECHANGED:
-            pList->TrackingLost(m_hWnd);
+            pList->Mouse().TrackingLost(m_hWnd);
             return 0;
         case WM_LBUTTONUP:
         case WM_RBUTTONUP:

@@ -1,5 +1,6 @@
-// The list control's view on its content: client area, scroll bar, wheel.
-#include "Toolkit/controls/list/ListControl.h"
+#include "Toolkit/controls/list/ListViewport.h"
+
+#include "Toolkit/controls/list/ListMouse.h"
 
 #include <cstdlib>
 
@@ -20,29 +21,32 @@ std::int64_t PixelsPerStep(std::int64_t contentHeight)
 
 } // namespace
 
-bool ListControl::LayOut()
+void ListViewport::Redraw(int row) const
+{
+    const CRect cell = m_layout.CellRect(row);
+    InvalidateRect(m_control.m_hWnd, &cell);
+}
+
+void ListViewport::Relayout()
 {
     if (m_relayouts > 0) // the scroll bar comes or goes: the loop below looks again
-        return true;
+        return;
 
     const int columns = m_layout.Columns();
     const UnderWay relayout(m_relayouts);
     CSize client;
     do {
-        client = ClientSize();
+        client = m_control.ClientSize();
         m_layout.SetClient(client);
-        if (!UpdateScrollBar())
-            return false;
-    } while (!(ClientSize() == client));
-    if (m_layout.Columns() != columns && m_band)
-        EndTracking(); // its cells are no longer where they were
-    Labels().Place();
-    return true;
+        UpdateScrollBar();
+    } while (!(m_control.ClientSize() == client));
+    if (m_layout.Columns() != columns)
+        m_mouse.CancelBand(); // its cells are no longer where they were
+    m_control.Labels().Place();
 }
 
-bool ListControl::UpdateScrollBar()
+void ListViewport::UpdateScrollBar()
 {
-    const HWND hWnd = m_hWnd;
     const std::int64_t height = m_layout.ContentHeight();
     const std::int64_t step = PixelsPerStep(height);
     const int page = std::max<int>(m_layout.Client().cy, 1);
@@ -51,70 +55,68 @@ bool ListControl::UpdateScrollBar()
     info.nPage = static_cast<int>(std::max<std::int64_t>(page / step, 1));
     info.nPos = static_cast<int>(m_layout.ScrollPosition() / step);
     // The bar must not stay only because it takes the width that makes it needed.
-    if (m_layout.ContentHeight(SizeWithoutBars().cx) <= page)
+    if (m_layout.ContentHeight(m_control.SizeWithoutBars().cx) <= page)
         info.nPage = info.nMax + 1;
-    SetScrollInfo(hWnd, SB_VERT, info);
-    return IsWindow(hWnd);
+    SetScrollInfo(m_control.m_hWnd, SB_VERT, info);
 }
 
-LRESULT ListControl::OnSize(WPARAM, LPARAM)
+LRESULT ListViewport::OnSize(WPARAM, LPARAM)
 {
-    const CSize former = m_layout.Client();
+    const int width = m_layout.Client().cx;
     const std::int64_t position = m_layout.ScrollPosition();
-    if (m_relayouts > 0) {
-        RedrawAll();
-        return 0;
-    }
-    if (LayOut() && (m_layout.Client().cx != former.cx || m_layout.ScrollPosition() != position))
-        RedrawAll();
+    const bool inRelayout = m_relayouts > 0;
+    Relayout();
+    if (inRelayout || m_layout.Client().cx != width || m_layout.ScrollPosition() != position)
+        m_control.RedrawAll();
     return 0;
 }
 
-bool ListControl::ScrollTo(std::int64_t position)
+void ListViewport::ScrollTo(std::int64_t position)
 {
     const std::int64_t former = m_layout.ScrollPosition();
     m_layout.ScrollTo(position);
     const std::int64_t up = m_layout.ScrollPosition() - former;
     if (up == 0)
-        return true;
+        return;
 
     if (std::abs(up) < m_layout.Client().cy)
-        ScrollWindow(m_hWnd, 0, static_cast<int>(-up));
+        ScrollWindow(m_control.m_hWnd, 0, static_cast<int>(-up));
     else
-        RedrawAll();
-    Labels().StopWaiting();
-    Labels().Place();
-    if (!UpdateScrollBar())
-        return false;
-    return !m_band || MoveBand(); // its corner stays under the mouse
+        m_control.RedrawAll();
+    m_control.Labels().StopWaiting();
+    m_control.Labels().Place();
+    UpdateScrollBar();
+    m_mouse.MoveBand(); // its corner stays under the mouse
 }
 
-LRESULT ListControl::OnVScroll(WPARAM wParam, LPARAM)
+LRESULT ListViewport::OnVScroll(WPARAM wParam, LPARAM)
 {
     const int line = std::max<int>(m_layout.Cell().cy / kLinesPerCell, 1);
     const std::int64_t unit = PixelsPerStep(m_layout.ContentHeight());
-    const std::int64_t target =
-        ScrollTarget(SB_VERT, wParam, m_layout.ScrollPosition(), line, m_layout.Client().cy, unit);
-    static_cast<void>(ScrollTo(target));
+    ScrollTo(m_control.ScrollTarget(SB_VERT, wParam, m_layout.ScrollPosition(), line, m_layout.Client().cy, unit));
     return 0;
 }
 
-LRESULT ListControl::OnMouseWheel(WPARAM wParam, LPARAM)
+// One notch is one cell's height.
+LRESULT ListViewport::OnMouseWheel(WPARAM wParam, LPARAM)
 {
-    const int pixels = WheelSteps(wParam, m_layout.Cell().cy);
-    static_cast<void>(ScrollTo(m_layout.ScrollPosition() - pixels));
+    ScrollTo(m_layout.ScrollPosition() - m_control.WheelSteps(wParam, m_layout.Cell().cy));
     return 0;
 }
 
-LRESULT ListControl::OnScroll(WPARAM, LPARAM lParam)
+LRESULT ListViewport::OnScroll(WPARAM, LPARAM lParam)
 {
-    return ScrollTo(m_layout.ScrollPosition() + static_cast<int>(lParam));
+    ScrollTo(m_layout.ScrollPosition() + static_cast<int>(lParam));
+    return TRUE;
 }
 
-LRESULT ListControl::OnEnsureVisible(WPARAM wParam, LPARAM lParam)
+LRESULT ListViewport::OnEnsureVisible(WPARAM wParam, LPARAM lParam)
 {
     const int row = static_cast<int>(wParam);
-    return m_rows.Has(row) && ScrollTo(m_layout.ScrollToShow(row, lParam != 0));
+    if (!m_layout.Has(row))
+        return FALSE;
+    ScrollTo(m_layout.ScrollToShow(row, lParam != 0));
+    return TRUE;
 }
 
 } // namespace toolkit
