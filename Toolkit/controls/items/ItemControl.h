@@ -58,19 +58,6 @@ protected:
     LRESULT EditLabel(LPARAM item, bool takesFormer); // the field
     LRESULT MeasuresChanged();                        // all anew
 
-    [[nodiscard]] bool Tell(UINT code, NMHDR& header, LRESULT* pAnswer = nullptr) const
-    {
-        const LRESULT answer = Notify(code, header);
-        if (pAnswer)
-            *pAnswer = answer;
-        return IsAlive();
-    }
-    [[nodiscard]] bool TellPlain(UINT code, LRESULT* pAnswer = nullptr) const
-    {
-        NMHDR header{};
-        return Tell(code, header, pAnswer);
-    }
-
 private:
     LabelEditing m_labels;
     HIMAGELIST m_hImages = nullptr; // the owner's

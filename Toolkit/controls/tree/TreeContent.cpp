@@ -1,6 +1,4 @@
-// The tree control's items: making, changing, asking, walking.
-#include "Toolkit/base/Text.h"
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeContent.h"
 
 #include <cstring>
 #include <new>
@@ -12,7 +10,6 @@ namespace
 {
 
 constexpr UINT kSettable = TVIS_DROPHILITED | TVIS_BOLD | TVIS_EXPANDEDONCE;
-constexpr UINT kSeen = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
 
 // Cuts between code points.
 void CopyText(const std::string& text, LPSTR pszBuffer, int nBuffer)
@@ -29,72 +26,54 @@ void CopyText(const std::string& text, LPSTR pszBuffer, int nBuffer)
 // As an item does that has no face of its own.
 bool AsksForAll(const TVITEM& item)
 {
-    return (item.mask & kSeen) == kSeen && item.pszText == LPSTR_TEXTCALLBACK && item.iImage == I_IMAGECALLBACK &&
-           item.iSelectedImage == I_IMAGECALLBACK && item.cChildren == I_CHILDRENCALLBACK;
-}
-
-TreeFace Changed(TreeFace face, const TVITEM& by)
-{
-    if (by.mask & TVIF_TEXT) {
-        face.asksForText = by.pszText == LPSTR_TEXTCALLBACK;
-        face.text = face.asksForText ? LPCSTR() : by.pszText;
-    }
-    if (by.mask & TVIF_IMAGE)
-        face.image = by.iImage;
-    if (by.mask & TVIF_SELECTEDIMAGE)
-        face.selectedImage = by.iSelectedImage;
-    if (by.mask & TVIF_CHILDREN)
-        face.childrenFlag = std::clamp(by.cChildren, I_CHILDRENCALLBACK, 1);
-    return face;
+    return (item.mask & TreeFace::kParts) == TreeFace::kParts && item.pszText == LPSTR_TEXTCALLBACK &&
+           item.iImage == I_IMAGECALLBACK && item.iSelectedImage == I_IMAGECALLBACK &&
+           item.cChildren == I_CHILDRENCALLBACK;
 }
 
 } // namespace
 
 // An insertion that memory is lacking for is refused like any other. When it only lacked for noting what to paint, the
 // item is in.
-LRESULT TreeControl::OnInsertItem(WPARAM, LPARAM lParam)
+LRESULT TreeContent::OnInsertItem(WPARAM, LPARAM lParam)
 {
     const auto* const pInsert = reinterpret_cast<const TVINSERTSTRUCT*>(lParam);
     HTREEITEM hNew = nullptr;
     try {
-        if (!pInsert || !Insert(*pInsert, hNew))
-            return 0;
+        if (pInsert)
+            Insert(*pInsert, hNew);
     } catch (const std::bad_alloc&) {
     }
     return reinterpret_cast<LRESULT>(hNew);
 }
 
-bool TreeControl::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
+void TreeContent::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
 {
     const bool sorted = insert.hInsertAfter == TVI_SORT;
-    if (!sorted && !Settle()) // it goes before or behind the others as they stand
-        return false;
+    if (!sorted)
+        m_order.Settle(); // it goes before or behind the others as they stand
     const ItemIndex parent = m_items.FindParent(insert.hParent);
-    if (parent == kNoItem || IsGoing(parent))
-        return true;
+    if (!m_control.IsAlive() || parent == kNoItem || m_items.Goes(parent))
+        return; // nobody would hear of the item's end
     if (sorted)
-        m_unsettled.reserve(m_unsettled.size() + 1);
+        m_order.MakeRoom();
     const ItemIndex last = m_items.LastChild(parent);
     const ItemIndex item = Make(insert, parent);
     if (item == kNoItem)
-        return true;
+        return;
     hNew = m_items.HandleOf(item);
-    if (last == kNoItem) {
+    if (last == kNoItem)
         m_items[parent].order = ChildOrder::ByLabel;
-    } else if (sorted) {
-        Gather(item, parent, m_items[last].gathered);
-        return true;
-    } else {
-        DoubtOrder(parent);
-    }
-    if (!ShowPlaced(item, parent))
-        return false;
+    else if (sorted)
+        return m_order.Gather(item, parent, m_items[last].gathered);
+    else
+        m_order.Doubt(parent);
+    m_viewport.ItemIsPlaced(item);
     if (m_items.Find(hNew) == kNoItem)
         hNew = nullptr;
-    return true;
 }
 
-ItemIndex TreeControl::Make(const TVINSERTSTRUCT& insert, ItemIndex parent)
+ItemIndex TreeContent::Make(const TVINSERTSTRUCT& insert, ItemIndex parent)
 {
     const TVITEM& from = insert.item;
     const UINT state = from.mask & TVIF_STATE ? from.state & from.stateMask & TVIS_EXPANDED : 0;
@@ -103,7 +82,7 @@ ItemIndex TreeControl::Make(const TVINSERTSTRUCT& insert, ItemIndex parent)
         return kNoItem;
     try {
         if (!AsksForAll(from))
-            m_items.SetFace(item, Changed(TreeFace(), from));
+            m_items.SetFace(item, TreeFace().With(from));
     } catch (...) {
         m_items.Delete(item);
         throw;
@@ -112,7 +91,7 @@ ItemIndex TreeControl::Make(const TVINSERTSTRUCT& insert, ItemIndex parent)
     return item;
 }
 
-int TreeControl::FindPlace(ItemIndex parent, HTREEITEM hInsertAfter) const
+int TreeContent::FindPlace(ItemIndex parent, HTREEITEM hInsertAfter) const
 {
     if (hInsertAfter == TVI_FIRST)
         return 0;
@@ -122,45 +101,20 @@ int TreeControl::FindPlace(ItemIndex parent, HTREEITEM hInsertAfter) const
                                                                          : m_items.ChildCount(parent);
 }
 
-bool TreeControl::ShowPlaced(ItemIndex item, ItemIndex parent)
-{
-    if (m_items.IsShown(item))
-        return RowsChanged(RowAbove(item));
-    if (m_items.ChildCount(parent) == 1)
-        Redraw(m_items.HandleOf(parent)); // its button appears
-    return true;
-}
-
-// A change of an item among its siblings is seen from here on: lines and the parent's button change, too.
-int TreeControl::RowAbove(ItemIndex item) const
-{
-    const ItemIndex previous = m_items.Previous(item);
-    return std::max(m_items.RowOf(previous != kNoItem ? previous : m_items.Parent(item)), 0);
-}
-
-void TreeControl::Assign(ItemIndex item, const TVITEM& from)
-{
-    if (from.mask & kSeen)
-        m_items.SetFace(item, Changed(m_items.FaceOf(item), from));
-    AssignRest(item, from);
-}
-
-void TreeControl::AssignRest(ItemIndex item, const TVITEM& from)
+void TreeContent::AssignRest(ItemIndex item, const TVITEM& from)
 {
     if (from.mask & TVIF_PARAM)
         m_items[item].lParam = from.lParam;
     if (from.mask & TVIF_STATE)
-        SetState(item, from.state, from.stateMask & kSettable);
+        m_selection.SetState(item, from.state, from.stateMask & kSettable);
 }
 
-LRESULT TreeControl::OnGetItem(WPARAM, LPARAM lParam)
+LRESULT TreeContent::OnGetItem(WPARAM, LPARAM lParam)
 {
     auto* const pItem = reinterpret_cast<TVITEM*>(lParam);
-    if (!pItem || m_items.Find(pItem->hItem) == kNoItem)
+    if (!pItem)
         return FALSE;
-    Face face;
-    if (!AskFace(pItem->hItem, pItem->mask & kSeen, face))
-        return FALSE;
+    const ItemFace face = m_owner.AskFace(pItem->hItem, pItem->mask & TreeFace::kParts);
     const ItemIndex index = m_items.Find(pItem->hItem);
     if (index == kNoItem)
         return FALSE;
@@ -181,77 +135,45 @@ LRESULT TreeControl::OnGetItem(WPARAM, LPARAM lParam)
     return TRUE;
 }
 
-LRESULT TreeControl::OnSetItem(WPARAM, LPARAM lParam)
+LRESULT TreeContent::OnSetItem(WPARAM, LPARAM lParam)
 {
     const auto* const pItem = reinterpret_cast<const TVITEM*>(lParam);
     const ItemIndex item = pItem ? m_items.Find(pItem->hItem) : kNoItem;
     if (item == kNoItem)
         return FALSE;
     const bool asked = m_items.FaceOf(item).asksForText;
-    Assign(item, *pItem);
+    if (pItem->mask & TreeFace::kParts)
+        m_items.SetFace(item, m_items.FaceOf(item).With(*pItem));
+    AssignRest(item, *pItem);
     if (pItem->mask & TVIF_TEXT) {
-        DoubtOrder(m_items.ParentOrRoot(item));
+        m_order.Doubt(m_items.ParentOrRoot(item));
         if (!asked || !m_items.FaceOf(item).asksForText)
-            ForgetWidth(); // of a label that is asked for the width is seen when it is painted
+            m_viewport.ForgetWidth(); // of a label that is asked for the width is seen when it is painted
     }
-    if (pItem->mask & kSeen)
-        Redraw(pItem->hItem);
+    if (pItem->mask & TreeFace::kParts)
+        m_viewport.Redraw(pItem->hItem);
     return TRUE;
 }
 
-LRESULT TreeControl::OnGetItemState(WPARAM wParam, LPARAM lParam)
+LRESULT TreeContent::OnGetItemState(WPARAM wParam, LPARAM lParam)
 {
     const ItemIndex item = m_items.Find(reinterpret_cast<HTREEITEM>(wParam));
     return item == kNoItem ? 0 : m_items[item].state & static_cast<UINT>(lParam);
 }
 
-LRESULT TreeControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
-{
-    const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
-    if (wParam == TVGN_CARET)
-        return reinterpret_cast<LRESULT>(m_hCaret);
-    return reinterpret_cast<LRESULT>(m_items.HandleOf(Neighbour(static_cast<UINT>(wParam), hItem)));
-}
-
-ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
+// What the owner keeps itself it is told to change.
+void TreeContent::TakeLabel(HTREEITEM hItem, std::string& text)
 {
     const ItemIndex item = m_items.Find(hItem);
-    const auto nextRow = [&] {
-        const int row = item == kNoItem ? -1 : m_items.RowOf(item);
-        return row < 0 ? kNoItem : m_items.AtRow(row + 1);
-    };
-    switch (code) {
-    case TVGN_ROOT:
-        return m_items.FirstChild(kRootItem);
-    case TVGN_CHILD:
-        return m_items.FirstChild(m_items.FindParent(hItem));
-    case TVGN_NEXT:
-        return m_items.Next(item);
-    case TVGN_PREVIOUS:
-        return m_items.Previous(item);
-    case TVGN_PARENT:
-        return m_items.Parent(item);
-    case TVGN_FIRSTVISIBLE:
-        return m_items.AtRow(m_layout.TopRow());
-    case TVGN_LASTVISIBLE:
-        return m_items.AtRow(m_items.RowCount() - 1);
-    case TVGN_NEXTVISIBLE:
-        return nextRow();
-    default:
-        return kNoItem;
-    }
-}
-
-void TreeControl::SetState(ItemIndex index, UINT state, UINT mask)
-{
-    TreeItem& item = m_items[index];
-    const UINT former = item.state;
-    item.state = static_cast<BYTE>((former & ~mask) | (state & mask));
-    if (item.state == former)
+    if (item == kNoItem)
         return;
-    if ((item.state ^ former) & TVIS_DROPHILITED)
-        CountDropMark(index);
-    Redraw(m_items.HandleOf(index));
+    if (m_items.FaceOf(item).asksForText)
+        return m_owner.TellText(hItem, text);
+    TVITEM change{};
+    change.mask = TVIF_TEXT;
+    change.hItem = hItem;
+    change.pszText = text.data();
+    OnSetItem(0, reinterpret_cast<LPARAM>(&change));
 }
 
 } // namespace toolkit

@@ -53,6 +53,9 @@ struct TreeFace
     int image = 0, selectedImage = 0;
     int childrenFlag = kChildrenCounted; // or as in TVITEM::cChildren
 
+    static constexpr UINT kParts = TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_CHILDREN;
+
+    TreeFace With(const TVITEM& changes) const;
     bool AsksForAll() const
     {
         return asksForText && image == I_IMAGECALLBACK && selectedImage == I_IMAGECALLBACK &&

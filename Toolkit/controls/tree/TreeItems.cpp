@@ -12,6 +12,8 @@ bool TreeItems::IsWithin(ItemIndex ancestor, ItemIndex item) const
 
 bool TreeItems::Goes(ItemIndex item) const
 {
+    if (m_deletions == 0)
+        return false;
     while (item != kNoItem && !m_pool[item].goes)
         item = m_siblings.ParentOf(item);
     return item != kNoItem;

@@ -28,6 +28,7 @@ public:
     bool IsExpanded(ItemIndex item) const { return (m_pool[item].state & TVIS_EXPANDED) != 0; }
     bool IsWithin(ItemIndex ancestor, ItemIndex item) const; // an item is within itself
     bool Goes(ItemIndex item) const;                         // it or an ancestor is being deleted
+    int& Deletions() { return m_deletions; }                 // under way
     int Level(ItemIndex item) const;                         // 0 for a top-level item
 
     // Neighbours; kNoItem where there is none.
@@ -72,6 +73,7 @@ private:
     TreeSiblings m_siblings{m_pool};
     std::unordered_map<ItemIndex, TreeFace> m_faces; // of items with hasFace
     unsigned m_nVersion = 0;
+    int m_deletions = 0;
 };
 
 } // namespace toolkit

@@ -1,92 +1,70 @@
-// The tree control under the keyboard, and how it gains and loses the focus.
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeKeys.h"
 
 namespace toolkit
 {
 
-LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
-{
-    Labels().GotFocus();
-    Redraw(m_hCaret);
-    // A change of the selection that moves the focus on its way finds the item itself.
-    if (!m_hCaret && m_nSelecting == 0) {
-        const HTREEITEM hFirst = m_items.HandleOf(m_items.AtRow(m_layout.TopRow()));
-        if (hFirst && !Select(hFirst, TVC_UNKNOWN))
-            return 0;
-    }
-    static_cast<void>(TellPlain(NM_SETFOCUS));
-    return 0;
-}
-
-LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
-{
-    m_search.text.clear();
-    Labels().StopWaiting();
-    if (!EndPress())
-        return 0;
-    Redraw(m_hCaret);
-    static_cast<void>(TellPlain(NM_KILLFOCUS));
-    return 0;
-}
-
-LRESULT TreeControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
+LRESULT TreeKeys::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     const UINT vkey = static_cast<UINT>(wParam);
-    Labels().StopWaiting();
+    m_control.Labels().StopWaiting();
     m_bCharIsTaken = vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;
-    bool handled = true;
-    if (!DoKey(vkey, handled) || handled)
-        return 0;
-    return ::DefWindowProc(m_hWnd, WM_KEYDOWN, wParam, lParam);
+    const bool done = GetKeyState(VK_CONTROL) < 0 ? ScrollByKey(vkey) : DoKey(vkey);
+    return done ? 0 : ::DefWindowProc(m_control.m_hWnd, WM_KEYDOWN, wParam, lParam);
 }
 
-LRESULT TreeControl::OnKeyUp(WPARAM wParam, LPARAM lParam)
+LRESULT TreeKeys::OnKeyUp(WPARAM wParam, LPARAM lParam)
 {
     m_bCharIsTaken = false;
-    return ::DefWindowProc(m_hWnd, WM_KEYUP, wParam, lParam);
+    return ::DefWindowProc(m_control.m_hWnd, WM_KEYUP, wParam, lParam);
 }
 
-bool TreeControl::DoKey(UINT vkey, bool& handled)
+bool TreeKeys::DoKey(UINT vkey)
 {
-    if (GetKeyState(VK_CONTROL) < 0)
-        return ScrollByKey(vkey, handled);
-    const ItemIndex caret = m_items.Find(m_hCaret);
+    const HTREEITEM hCaret = m_selection.Caret();
+    const ItemIndex caret = m_items.Find(hCaret);
+    const auto expand = [&](UINT code) { m_selection.Expand(hCaret, code, TVC_BYKEYBOARD); };
     switch (vkey) {
     case VK_LEFT:
-        return IsOpen(caret) ? Expand(m_hCaret, TVE_COLLAPSE, TVC_BYKEYBOARD) : MoveTo(m_items.Parent(caret));
+        return IsOpen(caret) ? expand(TVE_COLLAPSE) : MoveTo(m_items.Parent(caret)), true;
     case VK_RIGHT:
-        return IsOpen(caret) ? MoveTo(m_items.FirstChild(caret)) : Expand(m_hCaret, TVE_EXPAND, TVC_BYKEYBOARD);
+        return IsOpen(caret) ? MoveTo(m_items.FirstChild(caret)) : expand(TVE_EXPAND), true;
     case VK_BACK:
-        return MoveTo(m_items.Parent(caret));
+        return MoveTo(m_items.Parent(caret)), true;
     case VK_ADD:
-        return Expand(m_hCaret, TVE_EXPAND, TVC_BYKEYBOARD);
+        return expand(TVE_EXPAND), true;
     case VK_SUBTRACT:
-        return Expand(m_hCaret, TVE_COLLAPSE, TVC_BYKEYBOARD);
+        return expand(TVE_COLLAPSE), true;
     case VK_MULTIPLY:
-        return ExpandBranch(m_hCaret);
+        return m_selection.ExpandBranch(hCaret), true;
     case VK_RETURN:
-        return TellPlain(NM_RETURN);
-    case VK_ESCAPE:
-        handled = m_press.has_value();
-        return EndPress();
+        return m_control.Notify(NM_RETURN), true;
+    case VK_ESCAPE: {
+        const bool pressed = m_mouse.IsPressed();
+        return m_mouse.Cancel(), pressed;
+    }
     default: {
         const int row = RowByKey(vkey);
-        handled = row >= 0;
-        return !handled || MoveTo(m_items.AtRow(row));
+        return MoveTo(m_items.AtRow(row)), row >= 0;
     }
     }
+}
+
+void TreeKeys::MoveTo(ItemIndex item)
+{
+    if (item != kNoItem)
+        m_selection.Select(m_items.HandleOf(item), TVC_BYKEYBOARD);
 }
 
 // An expanded item that has lost its children is not open to the user.
-bool TreeControl::IsOpen(ItemIndex item) const
+bool TreeKeys::IsOpen(ItemIndex item) const
 {
     return m_items.IsExpanded(item) && m_items.ChildCount(item) > 0;
 }
 
 // Where the key moves the selection; -1: nowhere. A hidden selection counts as its last ancestor that is shown.
-int TreeControl::RowByKey(UINT vkey) const
+int TreeKeys::RowByKey(UINT vkey) const
 {
-    ItemIndex from = m_items.Find(m_hCaret);
+    ItemIndex from = m_items.Find(m_selection.Caret());
     while (from != kNoItem && !m_items.IsShown(from))
         from = m_items.Parent(from);
     const int row = m_items.RowOf(from);
@@ -112,28 +90,27 @@ int TreeControl::RowByKey(UINT vkey) const
 }
 
 // With Ctrl the keys move what is seen, not the selection.
-bool TreeControl::ScrollByKey(UINT vkey, bool& handled)
+bool TreeKeys::ScrollByKey(UINT vkey)
 {
     switch (vkey) {
     case VK_UP:
-        return ScrollToRow(m_layout.TopRow() - 1);
+        return m_viewport.ScrollToRow(m_layout.TopRow() - 1), true;
     case VK_DOWN:
-        return ScrollToRow(m_layout.TopRow() + 1);
+        return m_viewport.ScrollToRow(m_layout.TopRow() + 1), true;
     case VK_PRIOR:
-        return ScrollToRow(m_layout.TopRow() - m_layout.FullRows());
+        return m_viewport.ScrollToRow(m_layout.TopRow() - m_layout.FullRows()), true;
     case VK_NEXT:
-        return ScrollToRow(m_layout.TopRow() + m_layout.FullRows());
+        return m_viewport.ScrollToRow(m_layout.TopRow() + m_layout.FullRows()), true;
     case VK_HOME:
-        return ScrollToRow(0);
+        return m_viewport.ScrollToRow(0), true;
     case VK_END:
-        return ScrollToRow(m_layout.MaxTopRow());
+        return m_viewport.ScrollToRow(m_layout.MaxTopRow()), true;
     case VK_LEFT:
-        return ScrollToX(m_layout.X() - TreeLayout::kIndent);
+        return m_viewport.ScrollToX(m_layout.X() - TreeLayout::kIndent), true;
     case VK_RIGHT:
-        return ScrollToX(m_layout.X() + TreeLayout::kIndent);
+        return m_viewport.ScrollToX(m_layout.X() + TreeLayout::kIndent), true;
     default:
-        handled = false;
-        return true;
+        return false;
     }
 }
 

@@ -1,5 +1,4 @@
-// How the tree control asks and tells its owner.
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeOwner.h"
 
 #include <array>
 
@@ -8,11 +7,25 @@ namespace toolkit
 
 namespace
 {
-constexpr UINT kPictures = TVIF_IMAGE | TVIF_SELECTEDIMAGE;
+
 constexpr std::size_t kLabelBuffer = 512; // lent to the owner, who may name a text of its own instead
+
+UINT PartsToAsk(const TreeFace& item, UINT parts)
+{
+    if (!item.asksForText)
+        parts &= ~TVIF_TEXT;
+    if (item.image != I_IMAGECALLBACK)
+        parts &= ~TVIF_IMAGE;
+    if (item.selectedImage != I_IMAGECALLBACK)
+        parts &= ~TVIF_SELECTEDIMAGE;
+    if (item.childrenFlag != I_CHILDRENCALLBACK)
+        parts &= ~TVIF_CHILDREN;
+    return parts & TreeFace::kParts;
+}
+
 } // namespace
 
-TVITEM TreeControl::Describe(HTREEITEM hItem) const
+TVITEM TreeOwner::Describe(HTREEITEM hItem) const
 {
     TVITEM described{};
     const ItemIndex item = m_items.Find(hItem);
@@ -26,41 +39,43 @@ TVITEM TreeControl::Describe(HTREEITEM hItem) const
     return described;
 }
 
-bool TreeControl::TellSelection(UINT code, HTREEITEM hOld, HTREEITEM hNew, UINT cause, LRESULT* pAnswer) const
+LRESULT TreeOwner::TellSelection(UINT code, HTREEITEM hOld, HTREEITEM hNew, UINT cause) const
 {
     NMTREEVIEW change{};
     change.action = cause;
     change.itemOld = Describe(hOld);
     change.itemNew = Describe(hNew);
-    return Tell(code, change.hdr, pAnswer);
+    return m_window.Notify(code, change.hdr);
 }
 
-bool TreeControl::TellItem(UINT code, HTREEITEM hItem, UINT action, LRESULT* pAnswer) const
+LRESULT TreeOwner::TellItem(UINT code, HTREEITEM hItem, UINT action) const
 {
     NMTREEVIEW news{};
     news.action = action;
     (code == TVN_DELETEITEM ? news.itemOld : news.itemNew) = Describe(hItem);
-    return Tell(code, news.hdr, pAnswer);
+    return m_window.Notify(code, news.hdr);
 }
 
-UINT TreeControl::PartsToAsk(const TreeFace& item, UINT parts)
+LRESULT TreeOwner::TellDrag(UINT code, HTREEITEM hItem, CPoint at) const
 {
-    if (!item.asksForText)
-        parts &= ~TVIF_TEXT;
-    if (item.image != I_IMAGECALLBACK)
-        parts &= ~TVIF_IMAGE;
-    if (item.selectedImage != I_IMAGECALLBACK)
-        parts &= ~TVIF_SELECTEDIMAGE;
-    if (item.childrenFlag != I_CHILDRENCALLBACK)
-        parts &= ~TVIF_CHILDREN;
-    return parts & (TVIF_TEXT | kPictures | TVIF_CHILDREN);
+    NMTREEVIEW drag{};
+    drag.itemNew = Describe(hItem);
+    drag.ptDrag = at;
+    return m_window.Notify(code, drag.hdr);
 }
 
-bool TreeControl::AskFace(HTREEITEM hItem, UINT parts, Face& face)
+ItemFace TreeOwner::AskFace(HTREEITEM hItem, UINT parts) const
+{
+    ItemFace face;
+    AskFace(hItem, parts, face);
+    return face;
+}
+
+void TreeOwner::AskFace(HTREEITEM hItem, UINT parts, ItemFace& face) const
 {
     const ItemIndex index = m_items.Find(hItem);
     if (index == kNoItem)
-        return true;
+        return;
     const TreeFace& item = m_items.FaceOf(index);
     const UINT asked = PartsToAsk(item, parts);
     const UINT known = parts & ~asked;
@@ -73,10 +88,11 @@ bool TreeControl::AskFace(HTREEITEM hItem, UINT parts, Face& face)
     if (known & TVIF_CHILDREN)
         face.hasChildren =
             item.childrenFlag == TreeFace::kChildrenCounted ? m_items.ChildCount(index) > 0 : item.childrenFlag != 0;
-    return asked == 0 || AskOwner(hItem, asked, face);
+    if (asked != 0)
+        AskOwner(hItem, asked, face);
 }
 
-bool TreeControl::AskOwner(HTREEITEM hItem, UINT parts, Face& face)
+void TreeOwner::AskOwner(HTREEITEM hItem, UINT parts, ItemFace& face) const
 {
     std::array<char, kLabelBuffer> buffer;
     buffer[0] = '\0';
@@ -86,8 +102,7 @@ bool TreeControl::AskOwner(HTREEITEM hItem, UINT parts, Face& face)
     info.item.pszText = buffer.data();
     info.item.cchTextMax = static_cast<int>(buffer.size());
     info.item.iImage = info.item.iSelectedImage = -1;
-    if (!Tell(TVN_GETDISPINFO, info.hdr))
-        return false;
+    m_window.Notify(TVN_GETDISPINFO, info.hdr);
 
     if ((parts & TVIF_TEXT) && info.item.pszText && info.item.pszText != LPSTR_TEXTCALLBACK)
         face.text = info.item.pszText;
@@ -101,9 +116,43 @@ bool TreeControl::AskOwner(HTREEITEM hItem, UINT parts, Face& face)
     const ItemIndex index = m_items.Find(hItem);
     if ((info.item.mask & TVIF_DI_SETITEM) && index != kNoItem) {
         info.item.mask = parts;
-        Assign(index, info.item);
+        m_items.SetFace(index, m_items.FaceOf(index).With(info.item));
     }
-    return true;
+}
+
+NMTVDISPINFO TreeOwner::LabelInfo(HTREEITEM hItem, std::string& text) const
+{
+    NMTVDISPINFO info{};
+    info.item = Describe(hItem);
+    info.item.mask |= TVIF_TEXT;
+    info.item.pszText = text.data();
+    info.item.cchTextMax = static_cast<int>(text.size()) + 1;
+    return info;
+}
+
+std::optional<std::string> TreeOwner::AskLabel(HTREEITEM hItem) const
+{
+    std::string text = AskText(hItem);
+    NMTVDISPINFO info = LabelInfo(hItem, text);
+    if (m_window.Notify(TVN_BEGINLABELEDIT, info.hdr) != 0)
+        return std::nullopt;
+    const bool named = info.item.pszText && info.item.pszText != LPSTR_TEXTCALLBACK;
+    return named ? std::string(info.item.pszText) : text;
+}
+
+bool TreeOwner::TellLabel(HTREEITEM hItem, std::string& text, bool taken) const
+{
+    NMTVDISPINFO info = LabelInfo(hItem, text);
+    if (!taken)
+        info.item.pszText = nullptr;
+    return m_window.Notify(TVN_ENDLABELEDIT, info.hdr) != 0 && taken;
+}
+
+void TreeOwner::TellText(HTREEITEM hItem, std::string& text) const
+{
+    NMTVDISPINFO info = LabelInfo(hItem, text);
+    info.item.cchTextMax = 0;
+    m_window.Notify(TVN_SETDISPINFO, info.hdr);
 }
 
 } // namespace toolkit

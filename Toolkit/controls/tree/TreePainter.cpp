@@ -1,5 +1,5 @@
-// How the tree control draws: only the rows that touch what is to be painted.
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreePainter.h"
+
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -28,30 +28,28 @@ void DrawLine(HDC hdc, const CRect& rect)
 
 } // namespace
 
-LRESULT TreeControl::OnPaint(WPARAM, LPARAM)
+LRESULT TreePainter::OnPaint(WPARAM, LPARAM)
 {
     int width = 0;
     bool complete = false;
     {
-        const CPaintDC paint(m_hWnd);
-        const HDC hdc = paint;
-        const CRect rcPaint = paint.GetPaintRect();
-        if (!DrawRows(hdc, rcPaint, width, complete))
-            return 0;
+        const CPaintDC paint(m_control.m_hWnd);
+        width = DrawRows(paint, paint.GetPaintRect(), complete);
     }
-    static_cast<void>(TakeWidth(width, complete));
+    m_viewport.TakeWidth(width, complete);
     return 0;
 }
 
 // The owner may change the tree while it is asked what to show: then all is painted anew.
-bool TreeControl::DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& complete)
+int TreePainter::DrawRows(HDC hdc, const CRect& rcPaint, bool& complete) const
 {
     const RowSpan rows = m_layout.RowsTouching(rcPaint);
     const RowSpan shown = m_layout.RowsTouching(CRect(CPoint(), m_layout.Client()));
     const unsigned version = m_items.Version();
     const int top = m_layout.TopRow(), x = m_layout.X();
-    const UINT parts =
-        TVIF_TEXT | (Images() ? TVIF_IMAGE | TVIF_SELECTEDIMAGE : 0) | (Is(TVS_HASBUTTONS) ? TVIF_CHILDREN : 0);
+    const UINT parts = TVIF_TEXT | (m_control.Images() ? TVIF_IMAGE | TVIF_SELECTEDIMAGE : 0) |
+                       (m_control.Is(TVS_HASBUTTONS) ? TVIF_CHILDREN : 0);
+    int width = 0;
     complete = rows.first == shown.first && rows.end == shown.end;
     for (int row = rows.first; row < rows.end; ++row) {
         if (!RectVisible(hdc, m_layout.RowRect(row))) {
@@ -59,38 +57,38 @@ bool TreeControl::DrawRows(HDC hdc, const CRect& rcPaint, int& width, bool& comp
             continue;
         }
         const HTREEITEM hItem = m_items.HandleOf(m_items.AtRow(row));
-        Face face;
-        if (!AskFace(hItem, parts, face))
-            return false;
+        const ItemFace face = m_owner.AskFace(hItem, parts);
         if (m_items.Version() != version || m_layout.TopRow() != top || m_layout.X() != x) {
-            RedrawAll();
+            m_control.RedrawAll();
             complete = false;
-            return true;
+            break;
         }
         width = std::max(width, DrawRow(hdc, row, m_items.Find(hItem), face));
     }
-    return true;
+    return width;
 }
 
-int TreeControl::DrawRow(HDC hdc, int row, ItemIndex item, const Face& face)
+int TreePainter::DrawRow(HDC hdc, int row, ItemIndex item, const ItemFace& face) const
 {
     const int level = m_items.Level(item);
-    const int textWidth = TextWidth(item, face.text);
-    if (Is(TVS_HASLINES))
+    const int textWidth = m_viewport.TextWidth(item, face.text);
+    if (m_control.Is(TVS_HASLINES))
         DrawLines(hdc, row, level, item);
-    if (face.hasChildren && HasButtonAt(level))
+    if (face.hasChildren && m_viewport.HasButtonAt(level))
         DrawButton(hdc, m_layout.ButtonSlot(row, level), m_items.IsExpanded(item) && m_items.ChildCount(item) > 0);
-    DrawPicture(hdc, m_layout.IconAt(row, level), item, face);
-    if (item != m_items.Find(Edited())) // else the field stands there
+    const int image = m_items[item].state & TVIS_SELECTED ? face.selectedImage : face.image;
+    const CPoint at = m_layout.IconAt(row, level);
+    ImageList_Draw(m_control.Images(), image, hdc, at.x, at.y, ILD_NORMAL);
+    if (!m_control.Labels().Edits(reinterpret_cast<LPARAM>(m_items.HandleOf(item)))) // else the field stands there
         DrawLabel(hdc, m_layout.LabelBox(row, level, textWidth), item, face.text);
     return m_layout.RightOf(level, textWidth);
 }
 
 // Every sibling is joined to the one before it, the first one to the parent.
-void TreeControl::DrawLines(HDC hdc, int row, int level, ItemIndex item) const
+void TreePainter::DrawLines(HDC hdc, int row, int level, ItemIndex item) const
 {
     const ItemIndex own = item;
-    for (; item != kNoItem && HasLinesAt(level); item = m_items.Parent(item), --level) {
+    for (; item != kNoItem && m_viewport.HasLinesAt(level); item = m_items.Parent(item), --level) {
         const CRect slot = m_layout.ButtonSlot(row, level);
         const CPoint middle = slot.CenterPoint();
         if (slot.right <= 0 || slot.left >= m_layout.Client().cx)
@@ -106,7 +104,7 @@ void TreeControl::DrawLines(HDC hdc, int row, int level, ItemIndex item) const
     }
 }
 
-void TreeControl::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
+void TreePainter::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
 {
     const CPoint middle = slot.CenterPoint();
     const CRect box(CPoint(middle.x - kButton / 2, middle.y - kButton / 2), CSize(kButton, kButton));
@@ -120,14 +118,7 @@ void TreeControl::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
         FillSolidRect(hdc, CRect(CPoint(middle.x, middle.y - kSign / 2), CSize(1, kSign)), ink);
 }
 
-void TreeControl::DrawPicture(HDC hdc, CPoint at, ItemIndex item, const Face& face) const
-{
-    const UINT state = m_items[item].state;
-    const int image = state & TVIS_SELECTED ? face.selectedImage : face.image;
-    ImageList_Draw(Images(), image, hdc, at.x, at.y, ILD_NORMAL);
-}
-
-void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const
+void TreePainter::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std::string& text) const
 {
     const Mark mark = MarkOf(item);
     CRect ground = box;
@@ -136,52 +127,23 @@ void TreeControl::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std
         FillRounded(hdc, ground, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
 
     SetTextColor(hdc, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    SetFontStyle(hdc, FontOf(item));
+    SetFontStyle(hdc, m_viewport.FontOf(item));
     const int lineHeight = CurrentTextEngine().LineHeight();
     TextOut(hdc, box.left + TreeLayout::kLabelPadding, box.top + (box.Height() - lineHeight) / 2, text);
 }
 
 // What is pressed, or would take what is dragged, stands out alone; the selected item steps back meanwhile.
-TreeControl::Mark TreeControl::MarkOf(ItemIndex item) const
+TreePainter::Mark TreePainter::MarkOf(ItemIndex item) const
 {
     const HTREEITEM hItem = m_items.HandleOf(item);
-    const HTREEITEM hPressed = m_press && (m_press->hit.flags & TVHT_ONITEM) ? m_press->hit.hItem : nullptr;
+    const HTREEITEM hPressed = m_mouse.Pressed();
     if ((m_items[item].state & TVIS_DROPHILITED) || hItem == hPressed)
         return Mark::Full;
-    if (hItem != m_hCaret)
+    if (hItem != m_selection.Caret())
         return Mark::None;
-    if (IsFocused())
-        return hPressed || m_nDropMarks > 0 ? Mark::Grey : Mark::Full;
-    return Is(TVS_SHOWSELALWAYS) ? Mark::Grey : Mark::None;
-}
-
-bool TreeControl::TakeWidth(int width, bool complete)
-{
-    if (m_bWidthStale && complete)
-        m_bWidthStale = false;
-    else
-        width = std::max(width, m_layout.Width());
-    if (width == m_layout.Width())
-        return true;
-    m_layout.SetWidth(width);
-    return LayOut();
-}
-
-void TreeControl::Redraw(HTREEITEM hItem)
-{
-    const ItemIndex item = m_items.Find(hItem);
-    const int row = item == kNoItem ? -1 : m_items.RowOf(item);
-    const CRect visible = m_layout.RowRect(row) & CRect(CPoint(), m_layout.Client());
-    if (row >= 0 && !visible.IsRectEmpty())
-        InvalidateRect(m_hWnd, &visible);
-}
-
-void TreeControl::RedrawFrom(int row)
-{
-    const int top = m_layout.RowRect(std::max(row, m_layout.TopRow())).top;
-    const CRect rect(0, top, m_layout.Client().cx, m_layout.Client().cy);
-    if (!rect.IsRectEmpty())
-        InvalidateRect(m_hWnd, &rect);
+    if (m_control.IsFocused())
+        return hPressed || m_selection.HasDropMarks() ? Mark::Grey : Mark::Full;
+    return m_control.Is(TVS_SHOWSELALWAYS) ? Mark::Grey : Mark::None;
 }
 
 } // namespace toolkit

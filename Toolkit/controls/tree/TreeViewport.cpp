@@ -1,10 +1,7 @@
-// The tree control's view on its rows: client area, scroll bars, wheel.
-//
-// How wide the content is would take every label to know. So the bar below knows the rows that were painted, and
-// learns as others come into sight.
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeViewport.h"
 
 #include <cstdlib>
+#include <cstring>
 
 namespace toolkit
 {
@@ -17,199 +14,300 @@ constexpr int kPixelsPerStep = TreeLayout::kIndent; // sideways
 
 } // namespace
 
-bool TreeControl::RowsChanged(int from)
+FontStyle TreeViewport::FontOf(ItemIndex item) const
+{
+    return m_items[item].state & TVIS_BOLD ? FontStyle::Bold : FontStyle::Regular;
+}
+
+int TreeViewport::TextWidth(ItemIndex item, const std::string& text) const
+{
+    return CurrentTextEngine().Measure(text, FontOf(item));
+}
+
+LRESULT TreeViewport::OnGetItemRect(WPARAM wParam, LPARAM lParam)
+{
+    auto* const pRect = reinterpret_cast<RECT*>(lParam);
+    if (!pRect)
+        return FALSE;
+    HTREEITEM hItem = nullptr;
+    std::memcpy(&hItem, pRect, sizeof(hItem));
+    const std::string text = wParam == FALSE ? std::string() : m_owner.AskText(hItem);
+
+    const ItemIndex item = m_items.Find(hItem);
+    const int row = m_items.RowOf(item);
+    if (row < 0)
+        return FALSE;
+    *pRect =
+        wParam == FALSE ? m_layout.RowRect(row) : m_layout.LabelBox(row, m_items.Level(item), TextWidth(item, text));
+    return TRUE;
+}
+
+LRESULT TreeViewport::OnHitTest(WPARAM, LPARAM lParam)
+{
+    auto* const pInfo = reinterpret_cast<TVHITTESTINFO*>(lParam);
+    if (!pInfo)
+        return 0;
+    const Hit hit = HitTest(pInfo->pt);
+    pInfo->hItem = hit.hItem;
+    pInfo->flags = hit.flags;
+    return reinterpret_cast<LRESULT>(hit.hItem);
+}
+
+UINT TreeViewport::Outside(CPoint client) const
+{
+    UINT flags = 0;
+    if (client.y < 0)
+        flags |= TVHT_ABOVE;
+    else if (client.y >= m_layout.Client().cy)
+        flags |= TVHT_BELOW;
+    if (client.x < 0)
+        flags |= TVHT_TOLEFT;
+    else if (client.x >= m_layout.Client().cx)
+        flags |= TVHT_TORIGHT;
+    return flags;
+}
+
+TreeViewport::Hit TreeViewport::HitTest(CPoint client) const
+{
+    if (const UINT outside = Outside(client))
+        return {nullptr, outside};
+    const int row = m_layout.RowAt(client.y);
+    return row < 0 ? Hit() : HitTestRow(client, row);
+}
+
+// The owner is asked for what the answer hangs on, and only then.
+TreeViewport::Hit TreeViewport::HitTestRow(CPoint client, int row) const
+{
+    const ItemIndex item = m_items.AtRow(row);
+    const HTREEITEM hItem = m_items.HandleOf(item);
+    const int level = m_items.Level(item);
+    const CRect button = m_layout.ButtonSlot(row, level);
+    const CRect icon = m_layout.IconSlot(row, level);
+    UINT flags = TVHT_ONITEMINDENT;
+    if (client.x >= icon.right) {
+        const std::string text = m_owner.AskText(hItem);
+        const ItemIndex itemNow = m_items.Find(hItem);
+        const int width = itemNow == kNoItem ? 0 : TextWidth(itemNow, text);
+        flags = client.x < m_layout.LabelBox(row, level, width).right ? TVHT_ONITEMLABEL : TVHT_ONITEMRIGHT;
+    } else if (client.x >= icon.left) {
+        flags = TVHT_ONITEMICON;
+    } else if (client.x >= button.left && HasButtonAt(level)) {
+        if (m_owner.AskFace(hItem, TVIF_CHILDREN).hasChildren)
+            flags = TVHT_ONITEMBUTTON;
+    }
+    return m_items.Find(hItem) == kNoItem ? Hit() : Hit{hItem, flags};
+}
+
+void TreeViewport::Redraw(HTREEITEM hItem) const
+{
+    const int row = m_items.RowOf(m_items.Find(hItem));
+    const CRect rect = m_layout.RowRect(row);
+    if (row >= 0)
+        InvalidateRect(m_control.m_hWnd, &rect);
+}
+
+void TreeViewport::Measure()
+{
+    int cx = 0, cy = 0;
+    if (!ImageList_GetIconSize(m_control.Images(), &cx, &cy))
+        cx = cy = 0;
+    m_layout.SetMeasures(CurrentTextEngine().LineHeight(), {cx, cy});
+    m_layout.SetButtonsAtRoot(m_control.Is(TVS_LINESATROOT) && m_control.Is(TVS_HASLINES | TVS_HASBUTTONS));
+    m_bWidthStale = true;
+}
+
+void TreeViewport::RowsChanged(int from)
 {
     m_layout.SetRows(m_items.RowCount());
     const ItemIndex top = m_items.Find(m_hTop);
     if (m_layout.TopRow() > 0 && top != kNoItem)
         m_layout.ScrollToRow(m_items.RowOf(top));
-    if (!LayOut())
-        return false;
-    RedrawFrom(from);
-    return true;
+    Relayout();
+    const int y = m_layout.RowRect(std::max(from, m_layout.TopRow())).top;
+    const CRect below(0, y, m_layout.Client().cx, m_layout.Client().cy);
+    InvalidateRect(m_control.m_hWnd, &below);
 }
 
-void TreeControl::KeepPlace()
+void TreeViewport::ItemIsPlaced(ItemIndex item)
+{
+    if (m_items.IsShown(item))
+        RowsChanged(RowAbove(item));
+    else if (const ItemIndex parent = m_items.ParentOrRoot(item); m_items.ChildCount(parent) == 1)
+        Redraw(m_items.HandleOf(parent)); // its button appears
+}
+
+// A change of an item among its siblings is seen from here on: lines and the parent's button change, too.
+int TreeViewport::RowAbove(ItemIndex item) const
+{
+    const ItemIndex previous = m_items.Previous(item);
+    return std::max(m_items.RowOf(previous != kNoItem ? previous : m_items.Parent(item)), 0);
+}
+
+void TreeViewport::KeepPlace()
 {
     m_hTop = m_items.HandleOf(m_items.AtRow(m_layout.TopRow()));
     m_nLeft = m_layout.X();
 }
 
 // Whatever has scrolled the layout meanwhile, be it only that it was clamped to less content.
-void TreeControl::FollowPlace()
+void TreeViewport::FollowPlace()
 {
     const HTREEITEM hTop = m_hTop;
     const int left = m_nLeft;
     KeepPlace();
     if (m_hTop != hTop || m_nLeft != left)
-        RedrawAll();
+        m_control.RedrawAll();
 }
 
-void TreeControl::ForgetWidth()
+void TreeViewport::ForgetWidth()
 {
     m_bWidthStale = true;
     if (m_layout.MaxX() > 0)
-        RedrawAll();
+        m_control.RedrawAll();
+}
+
+void TreeViewport::TakeWidth(int width, bool complete)
+{
+    if (m_bWidthStale && complete)
+        m_bWidthStale = false;
+    else
+        width = std::max(width, m_layout.Width());
+    if (width == m_layout.Width())
+        return;
+    m_layout.SetWidth(width);
+    Relayout();
 }
 
 // Each bar takes room from the other. The one below is certain when the rows are wider than all the room there is;
 // else it is only needed when the one at the side is, which must not stay for the one below alone.
-bool TreeControl::LayOut()
+void TreeViewport::Relayout()
 {
-    if (m_nRelayouts > 0) // a bar comes or goes: it is looked after below
-        return true;
-    const UnderWay relayout(m_nRelayouts);
-    const CSize room = SizeWithoutBars();
+    if (m_relayouts > 0) // a bar comes or goes: it is looked after below
+        return;
+    const UnderWay relayout(m_relayouts);
+    const CSize room = m_control.SizeWithoutBars();
     const bool certain = m_layout.Width() > room.cx;
-    m_layout.SetClient(ClientSize());
-    if (!certain && !UpdateBarAtSide(room.cy))
-        return false;
-    if (!UpdateBarBelow() || !UpdateBarAtSide(m_layout.Client().cy) || !UpdateBarBelow())
-        return false;
+    m_layout.SetClient(m_control.ClientSize());
+    if (!certain)
+        UpdateBarAtSide(room.cy);
+    UpdateBarBelow();
+    UpdateBarAtSide(m_layout.Client().cy);
+    UpdateBarBelow();
     FollowPlace();
-    Labels().Place();
-    return true;
+    m_control.Labels().Place();
 }
 
-bool TreeControl::UpdateBarAtSide(int height)
+void TreeViewport::UpdateBarAtSide(int height)
 {
     SCROLLINFO info{};
     info.nMax = m_layout.Rows() - 1;
     info.nPage = m_layout.FullRows(height);
     info.nPos = m_layout.TopRow();
-    return UpdateBar(SB_VERT, info);
+    UpdateBar(SB_VERT, info);
 }
 
-bool TreeControl::UpdateBarBelow()
+void TreeViewport::UpdateBarBelow()
 {
     SCROLLINFO info{};
     info.nMax = m_layout.Width() - 1;
     info.nPage = std::max<int>(m_layout.Client().cx, 1);
     info.nPos = m_layout.X();
-    return UpdateBar(SB_HORZ, info);
+    UpdateBar(SB_HORZ, info);
 }
 
-bool TreeControl::UpdateBar(int nBar, const SCROLLINFO& info)
+void TreeViewport::UpdateBar(int nBar, const SCROLLINFO& info)
 {
-    const HWND hWnd = m_hWnd;
-    SetScrollInfo(hWnd, nBar, info);
-    if (!IsWindow(hWnd))
-        return false;
-    m_layout.SetClient(ClientSize());
-    return true;
+    SetScrollInfo(m_control.m_hWnd, nBar, info);
+    m_layout.SetClient(m_control.ClientSize());
 }
 
-LRESULT TreeControl::OnSize(WPARAM, LPARAM)
+bool TreeViewport::OnSize()
 {
-    if (m_nRelayouts > 0) {
-        RedrawAll();
-        return 0;
-    }
     const CSize former = m_layout.Client();
-    if (!LayOut())
-        return 0;
-    if (m_layout.Client().cx != former.cx)
-        RedrawAll();
-    if (former.cx <= 0 || former.cy <= 0)
-        static_cast<void>(ScrollIntoView(m_hCaret)); // nobody could see it before
-    return 0;
+    const bool inRelayout = m_relayouts > 0;
+    Relayout();
+    if (inRelayout || m_layout.Client().cx != former.cx)
+        m_control.RedrawAll();
+    return !inRelayout && (former.cx <= 0 || former.cy <= 0);
 }
 
-bool TreeControl::ScrollToRow(int row)
+void TreeViewport::ScrollToRow(int row)
 {
     const int former = m_layout.TopRow();
     m_layout.ScrollToRow(row);
     const int rows = m_layout.TopRow() - former;
     if (rows == 0)
-        return true;
+        return;
     if (std::abs(rows) < m_layout.FullRows())
-        ScrollWindow(m_hWnd, 0, -rows * m_layout.RowHeight());
+        ScrollWindow(m_control.m_hWnd, 0, -rows * m_layout.RowHeight());
     else
-        RedrawAll();
+        m_control.RedrawAll();
     KeepPlace();
-    Labels().StopWaiting();
-    Labels().Place();
-    return UpdateBarAtSide(m_layout.Client().cy);
+    m_control.Labels().StopWaiting();
+    m_control.Labels().Place();
+    UpdateBarAtSide(m_layout.Client().cy);
 }
 
-bool TreeControl::ScrollToX(int x)
+void TreeViewport::ScrollToX(int x)
 {
     const int former = m_layout.X();
     m_layout.ScrollToX(x);
     const int pixels = m_layout.X() - former;
     if (pixels == 0)
-        return true;
+        return;
     if (std::abs(pixels) < m_layout.Client().cx)
-        ScrollWindow(m_hWnd, -pixels, 0);
+        ScrollWindow(m_control.m_hWnd, -pixels, 0);
     else
-        RedrawAll();
+        m_control.RedrawAll();
     KeepPlace();
-    Labels().Place();
-    return UpdateBarBelow();
+    m_control.Labels().Place();
+    UpdateBarBelow();
 }
 
 // The row, and as much of picture and label as fits, the picture first.
-bool TreeControl::ScrollIntoView(HTREEITEM hItem)
+void TreeViewport::ScrollIntoView(HTREEITEM hItem)
 {
-    if (!Settle())
-        return false;
-    const ItemIndex item = m_items.Find(hItem);
-    const int row = item == kNoItem ? -1 : m_items.RowOf(item);
+    const int row = m_items.RowOf(m_items.Find(hItem));
     if (row < 0 || m_layout.Client().cx <= 0 || m_layout.Client().cy <= 0)
-        return true;
-    if (!ScrollToRow(m_layout.TopRowToShow(row)))
-        return false;
-    if (!IsWindowVisible(m_hWnd))
-        return true;
+        return;
+    ScrollToRow(m_layout.TopRowToShow(row));
+    if (!IsWindowVisible(m_control.m_hWnd))
+        return;
 
-    Face face;
-    if (!AskFace(hItem, TVIF_TEXT, face))
-        return false;
-    const ItemIndex itemNow = m_items.Find(hItem);
-    if (itemNow == kNoItem)
-        return true;
-    const int level = m_items.Level(itemNow);
-    const int right = m_layout.RightOf(level, TextWidth(itemNow, face.text));
+    const std::string text = m_owner.AskText(hItem);
+    const ItemIndex item = m_items.Find(hItem);
+    if (item == kNoItem)
+        return;
+    const int level = m_items.Level(item);
+    const int right = m_layout.RightOf(level, TextWidth(item, text));
     if (right > m_layout.Width()) {
         m_layout.SetWidth(right);
-        if (!LayOut())
-            return false;
+        Relayout();
     }
-    return ScrollToX(m_layout.XToShow(m_layout.LeftOf(level), right));
+    ScrollToX(m_layout.XToShow(m_layout.LeftOf(level), right));
 }
 
-bool TreeControl::Reveal(HTREEITEM hItem, bool* pExpanded)
+LRESULT TreeViewport::OnVScroll(WPARAM wParam, LPARAM)
 {
-    return ExpandAncestors(hItem, pExpanded) && ScrollIntoView(hItem);
-}
-
-LRESULT TreeControl::OnEnsureVisible(WPARAM, LPARAM lParam)
-{
-    const int top = m_layout.TopRow();
-    bool expanded = false;
-    return Reveal(reinterpret_cast<HTREEITEM>(lParam), &expanded) && !expanded && m_layout.TopRow() != top;
-}
-
-LRESULT TreeControl::OnVScroll(WPARAM wParam, LPARAM)
-{
-    const std::int64_t row = ScrollTarget(SB_VERT, wParam, m_layout.TopRow(), 1, m_layout.FullRows());
-    static_cast<void>(ScrollToRow(static_cast<int>(row)));
+    ScrollToRow(static_cast<int>(m_control.ScrollTarget(SB_VERT, wParam, m_layout.TopRow(), 1, m_layout.FullRows())));
     return 0;
 }
 
-LRESULT TreeControl::OnHScroll(WPARAM wParam, LPARAM)
+LRESULT TreeViewport::OnHScroll(WPARAM wParam, LPARAM)
 {
-    const std::int64_t x = ScrollTarget(SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, m_layout.Client().cx);
-    static_cast<void>(ScrollToX(static_cast<int>(x)));
+    ScrollToX(
+        static_cast<int>(m_control.ScrollTarget(SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, m_layout.Client().cx)));
     return 0;
 }
 
 // With Shift it scrolls sideways.
-LRESULT TreeControl::OnMouseWheel(WPARAM wParam, LPARAM)
+LRESULT TreeViewport::OnMouseWheel(WPARAM wParam, LPARAM)
 {
-    const int rows = WheelSteps(wParam, kRowsPerNotch);
-    static_cast<void>(LOWORD(wParam) & MK_SHIFT ? ScrollToX(m_layout.X() - rows * kPixelsPerStep)
-                                                : ScrollToRow(m_layout.TopRow() - rows));
+    const int rows = m_control.WheelSteps(wParam, kRowsPerNotch);
+    if (LOWORD(wParam) & MK_SHIFT)
+        ScrollToX(m_layout.X() - rows * kPixelsPerStep);
+    else
+        ScrollToRow(m_layout.TopRow() - rows);
     return 0;
 }
 

@@ -1,7 +1,7 @@
 // How typing finds the next shown item whose label begins with what was typed.
 #include "Toolkit/base/Text.h"
 #include "Toolkit/base/Ticks.h"
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeKeys.h"
 
 namespace toolkit
 {
@@ -47,48 +47,43 @@ bool IsRepeated(std::string_view text, std::string_view letter)
 
 } // namespace
 
-LRESULT TreeControl::OnChar(WPARAM wParam, LPARAM)
+LRESULT TreeKeys::OnChar(WPARAM wParam, LPARAM)
 {
     const auto c = static_cast<char32_t>(wParam);
-    const bool begins = m_search.text.empty() || GetTickCount() - m_search.at > kPatience;
+    const bool begins = m_typed.empty() || GetTickCount() - m_typedAt > kPatience;
     const bool types = c > ' ' || (c == ' ' && !begins);
     if (m_bCharIsTaken || !types || c == 0x7F)
         return 0;
     if (begins)
-        m_search.text.clear();
-    m_search.text += Encode(c);
-    m_search.at = GetTickCount();
-    static_cast<void>(SearchFor(Encode(c)));
+        m_typed.clear();
+    m_typed += Encode(c);
+    m_typedAt = GetTickCount();
+    SearchFor(Encode(c));
     return 0;
 }
 
 // A longer word may be that of the item found so far. The same letter again goes on to the next item.
-bool TreeControl::SearchFor(const std::string& letter)
+void TreeKeys::SearchFor(const std::string& letter)
 {
-    const bool begins = m_search.text == letter;
-    HTREEITEM hFound = nullptr;
-    if (!FindLabel(m_search.text, begins, hFound))
-        return false;
-    if (!hFound && !begins && IsRepeated(m_search.text, letter) && !FindLabel(letter, true, hFound))
-        return false;
-    return !hFound || Select(hFound, TVC_BYKEYBOARD);
+    const std::string typed = m_typed;
+    const bool begins = typed == letter;
+    HTREEITEM hFound = FindLabel(typed, begins);
+    if (!hFound && !begins && IsRepeated(typed, letter))
+        hFound = FindLabel(letter, true);
+    MoveTo(m_items.Find(hFound));
 }
 
-bool TreeControl::FindLabel(std::string prefix, bool afterCaret, HTREEITEM& hFound)
+HTREEITEM TreeKeys::FindLabel(const std::string& prefix, bool afterCaret) const
 {
-    const ItemIndex caret = m_items.Find(m_hCaret);
+    const ItemIndex caret = m_items.Find(m_selection.Caret());
     const int from = std::max(m_items.RowOf(caret), 0) + (afterCaret && caret != kNoItem ? 1 : 0);
     for (int i = 0; i < m_items.RowCount(); ++i) {
         const HTREEITEM hItem = m_items.HandleOf(m_items.AtRow((from + i) % m_items.RowCount()));
-        Face face;
-        if (!AskFace(hItem, TVIF_TEXT, face))
-            return false;
-        if (m_items.Find(hItem) != kNoItem && BeginsWith(face.text, prefix)) {
-            hFound = hItem;
-            return true;
-        }
+        const std::string text = m_owner.AskText(hItem);
+        if (m_items.Find(hItem) != kNoItem && BeginsWith(text, prefix))
+            return hItem;
     }
-    return true;
+    return nullptr;
 }
 
 } // namespace toolkit

@@ -1,29 +1,31 @@
 // How the tree control's items go: the selection leaves first, then each item is announced, children first.
-#include "Toolkit/controls/tree/TreeControl.h"
+#include "Toolkit/controls/tree/TreeContent.h"
 
 namespace toolkit
 {
 
-LRESULT TreeControl::OnDeleteItem(WPARAM, LPARAM lParam)
+LRESULT TreeContent::OnDeleteItem(WPARAM, LPARAM lParam)
 {
     const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
     // First: the selection takes the focus along, and what was typed would be taken for the name of what goes.
-    if (!CancelLabelWithin(hItem))
-        return TRUE;
+    CancelLabelWithin(hItem);
     const ItemIndex item = hItem == TVI_ROOT ? kRootItem : m_items.Find(hItem);
     if (item == kNoItem)
         return FALSE;
-    if (!MoveSelectionOutOf(item))
-        return TRUE;
-    static_cast<void>(item == kRootItem ? DeleteChildren(kRootItem) : DeleteBranch(hItem));
+    MoveSelectionOutOf(item);
+    if (item == kRootItem)
+        DeleteChildren(kRootItem);
+    else
+        DeleteBranch(hItem);
     return TRUE;
 }
 
 // Where the selection may not leave, it goes with its item, without a word.
-bool TreeControl::MoveSelectionOutOf(ItemIndex item)
+void TreeContent::MoveSelectionOutOf(ItemIndex item)
 {
-    if (!m_hCaret || !m_items.IsWithin(item, m_items.Find(m_hCaret)))
-        return true;
+    const HTREEITEM hCaret = m_selection.Caret();
+    if (!hCaret || !m_items.IsWithin(item, m_items.Find(hCaret)))
+        return;
     ItemIndex heir = kNoItem;
     if (item != kRootItem) {
         heir = m_items.Next(item);
@@ -32,41 +34,39 @@ bool TreeControl::MoveSelectionOutOf(ItemIndex item)
         if (heir == kNoItem)
             heir = m_items.Previous(item);
     }
-    return Select(m_items.HandleOf(heir), TVC_UNKNOWN);
+    m_selection.Select(m_items.HandleOf(heir), TVC_UNKNOWN);
 }
 
-bool TreeControl::DeleteChildren(ItemIndex parent)
+void TreeContent::DeleteChildren(ItemIndex parent)
 {
     const HTREEITEM hParent = m_items.HandleOf(parent);
-    const UnderWay deleting(m_nDeleting);
+    const UnderWay deleting(m_items.Deletions());
     const bool went = m_items[parent].goes;
     m_items[parent].goes = true; // nothing is to be inserted meanwhile
     for (;;) {
         const ItemIndex parentNow = m_items.FindParent(hParent);
         if (parentNow == kNoItem)
-            return true;
+            return;
         const ItemIndex child = m_items.FirstChild(parentNow);
         if (child == kNoItem) {
             m_items[parentNow].goes = went;
-            return true;
+            return;
         }
-        if (!DeleteBranch(m_items.HandleOf(child)))
-            return false;
+        DeleteBranch(m_items.HandleOf(child));
     }
 }
 
 // Down to a leaf, which goes, and on from its parent. No recursion: a branch may be deep. Nothing is inserted into
 // what goes, and nothing of it selected. A handler may delete the rest of it, or what it is a branch of: each item is
 // announced once.
-bool TreeControl::DeleteBranch(HTREEITEM hTop)
+void TreeContent::DeleteBranch(HTREEITEM hTop)
 {
-    const UnderWay deleting(m_nDeleting);
-    if (!CancelLabelWithin(hTop))
-        return false;
+    const UnderWay deleting(m_items.Deletions());
+    CancelLabelWithin(hTop);
     for (HTREEITEM hItem = hTop;;) {
         const ItemIndex item = m_items.Find(hItem);
         if (item == kNoItem)
-            return true;
+            return;
         m_items[item].goes = true;
         const ItemIndex child = m_items.FirstChild(item);
         if (child != kNoItem) {
@@ -76,34 +76,43 @@ bool TreeControl::DeleteBranch(HTREEITEM hTop)
         const HTREEITEM hParent = m_items.HandleOf(m_items.Parent(item));
         const bool announced = m_items[item].announced;
         m_items[item].announced = true;
-        if ((!announced && !TellItem(TVN_DELETEITEM, hItem, 0)) || !Remove(hItem))
-            return false;
+        if (!announced)
+            m_owner.TellItem(TVN_DELETEITEM, hItem, 0);
+        Remove(hItem);
         if (hItem == hTop)
-            return true;
+            return;
         hItem = hParent;
     }
 }
 
-bool TreeControl::Remove(HTREEITEM hItem)
+void TreeContent::Remove(HTREEITEM hItem)
 {
     const ItemIndex item = m_items.Find(hItem);
     if (item == kNoItem)
-        return true;
+        return;
     const ItemIndex parent = m_items.Parent(item);
     const int row = m_items.RowOf(item);
-    const int from = RowAbove(item);
-    if (m_hCaret == hItem)
-        m_hCaret = nullptr;
-    SetState(item, 0, TVIS_DROPHILITED);
+    const int from = m_viewport.RowAbove(item);
+    if (m_selection.Caret() == hItem)
+        m_selection.Forget();
+    m_selection.SetState(item, 0, TVIS_DROPHILITED);
     m_items.Delete(item);
 
-    if (row < 0) {
-        if (parent != kNoItem && m_items.ChildCount(parent) == 0)
-            Redraw(m_items.HandleOf(parent)); // its button goes
-        return true;
+    if (row >= 0) {
+        m_viewport.ForgetWidth();
+        m_viewport.RowsChanged(from);
+    } else if (parent != kNoItem && m_items.ChildCount(parent) == 0) {
+        m_viewport.Redraw(m_items.HandleOf(parent)); // its button goes
     }
-    ForgetWidth();
-    return RowsChanged(from);
+}
+
+void TreeContent::CancelLabelWithin(HTREEITEM hTop)
+{
+    LabelEditing& labels = m_control.Labels();
+    const ItemIndex top = m_items.Find(hTop);
+    const ItemIndex edited = labels.Field() ? m_items.Find(reinterpret_cast<HTREEITEM>(labels.Item())) : kNoItem;
+    if (top != kNoItem && m_items.IsWithin(top, edited))
+        labels.Finish(false);
 }
 
 } // namespace toolkit
