@@ -4,6 +4,7 @@
 #include "Toolkit/window/WindowApi.h"
 
 #include <initializer_list>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -25,15 +26,17 @@ public:
             m_slots[SlotOf(entry.first)] = entry;
     }
 
+    // A handler takes both of the message's parameters, the first of them or none, each as the type that it is: a
+    // number, a pointer, a point. The answer of one that gives none is 0.
     template <auto handler>
     static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
     {
-        return (control.*handler)(wParam, lParam);
+        return Handle<handler>(control, wParam, lParam);
     }
     template <auto part, auto handler>
     static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
     {
-        return ((control.*part).*handler)(wParam, lParam);
+        return Handle<handler>(control.*part, wParam, lParam);
     }
 
     // The handler's answer; that of ::DefWindowProc for a message that has none.
@@ -44,6 +47,46 @@ public:
     }
 
 private:
+    template <class Raw>
+    struct Param
+    {
+        Raw value;
+
+        template <class T>
+        operator T() const
+        {
+            if constexpr (std::is_pointer_v<T>)
+                return reinterpret_cast<T>(value);
+            else
+                return T(value);
+        }
+    };
+
+    template <auto handler, class Object, class... Params>
+    static LRESULT Invoke(Object& object, Params... params)
+    {
+        using Answer = decltype((object.*handler)(params...));
+        if constexpr (std::is_void_v<Answer>)
+            return (object.*handler)(params...), 0;
+        else if constexpr (std::is_pointer_v<Answer>)
+            return reinterpret_cast<LRESULT>((object.*handler)(params...));
+        else
+            return static_cast<LRESULT>((object.*handler)(params...));
+    }
+
+    template <auto handler, class Object>
+    static LRESULT Handle(Object& object, WPARAM wParam, LPARAM lParam)
+    {
+        const Param<WPARAM> first{wParam};
+        const Param<LPARAM> second{lParam};
+        if constexpr (requires { (object.*handler)(first, second); })
+            return Invoke<handler>(object, first, second);
+        else if constexpr (requires { (object.*handler)(first); })
+            return Invoke<handler>(object, first);
+        else
+            return Invoke<handler>(object);
+    }
+
     // The message's slot, or the empty one where it would be.
     std::size_t SlotOf(UINT message) const
     {

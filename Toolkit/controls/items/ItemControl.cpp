@@ -14,6 +14,12 @@ namespace
 constexpr int kDragDistance = 4;
 } // namespace
 
+CSize ItemControl::ImageSize() const
+{
+    int cx = 0, cy = 0;
+    return ImageList_GetIconSize(m_hImages, &cx, &cy) ? CSize(cx, cy) : CSize();
+}
+
 CSize ItemControl::ClientSize() const
 {
     CRect rect;
@@ -63,45 +69,38 @@ int ItemControl::WheelSteps(WPARAM wParam, int perNotch)
     return steps;
 }
 
-LRESULT ItemControl::OnCreate(WPARAM, LPARAM)
+void ItemControl::OnCreate()
 {
     Measure();
     Relayout();
-    return 0;
 }
 
-LRESULT ItemControl::OnEraseBackground(WPARAM wParam, LPARAM)
+BOOL ItemControl::OnEraseBackground(HDC hdc)
 {
-    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), ClientSize()), GetSysColor(COLOR_WINDOW));
+    return FillSolidRect(hdc, CRect(CPoint(), ClientSize()), GetSysColor(COLOR_WINDOW));
 }
 
-LRESULT ItemControl::OnGetImageList(WPARAM wParam, LPARAM)
+HIMAGELIST ItemControl::OnSetImageList(WPARAM which, HIMAGELIST hImages)
 {
-    return wParam == kNormalImages ? reinterpret_cast<LRESULT>(m_hImages) : 0;
-}
-
-LRESULT ItemControl::OnSetImageList(WPARAM wParam, LPARAM lParam)
-{
-    if (wParam != kNormalImages)
-        return 0;
-    const HIMAGELIST former = std::exchange(m_hImages, reinterpret_cast<HIMAGELIST>(lParam));
+    if (which != kNormalImages)
+        return nullptr;
+    const HIMAGELIST former = std::exchange(m_hImages, hImages);
     MeasuresChanged();
-    return reinterpret_cast<LRESULT>(former);
+    return former;
 }
 
-LRESULT ItemControl::MeasuresChanged()
+void ItemControl::MeasuresChanged()
 {
     Measure();
     RedrawAll();
     Relayout();
-    return 0;
 }
 
-LRESULT ItemControl::EditLabel(LPARAM item, bool takesFormer)
+HWND ItemControl::EditLabel(LPARAM item, bool takesFormer)
 {
     m_labels.Finish(takesFormer);
     m_labels.Begin(item);
-    return IsAlive() ? OnGetEditControl(0, 0) : 0;
+    return IsAlive() ? m_labels.Field() : nullptr;
 }
 
 } // namespace toolkit

@@ -37,6 +37,7 @@ public:
     // For its parts.
     LabelEditing& Labels() { return m_labels; }
     HIMAGELIST Images() const { return m_hImages; }
+    CSize ImageSize() const; // 0 by 0 without pictures
     CSize ClientSize() const;
     CSize SizeWithoutBars() const;              // what the client area has when no scroll bar is shown
     static bool IsDrag(CPoint from, CPoint to); // rather than an unsteady click
@@ -50,13 +51,13 @@ protected:
     virtual void Measure() = 0;  // takes over the text's and the pictures' size
     virtual void Relayout() = 0; // the client area, the items or a measure are new
 
-    LRESULT OnCreate(WPARAM, LPARAM);
-    LRESULT OnEraseBackground(WPARAM wParam, LPARAM);
-    LRESULT OnGetImageList(WPARAM wParam, LPARAM);
-    LRESULT OnSetImageList(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetEditControl(WPARAM, LPARAM) { return reinterpret_cast<LRESULT>(m_labels.Field()); }
-    LRESULT EditLabel(LPARAM item, bool takesFormer); // the field
-    LRESULT MeasuresChanged();                        // all anew
+    void OnCreate();
+    BOOL OnEraseBackground(HDC hdc);
+    HIMAGELIST OnGetImageList(WPARAM which) const { return which == kNormalImages ? m_hImages : nullptr; }
+    HIMAGELIST OnSetImageList(WPARAM which, HIMAGELIST hImages);
+    HWND OnGetEditControl() const { return m_labels.Field(); }
+    HWND EditLabel(LPARAM item, bool takesFormer); // the field
+    void MeasuresChanged();                        // all anew
 
 private:
     LabelEditing m_labels;

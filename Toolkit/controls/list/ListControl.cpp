@@ -30,7 +30,7 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_ERASEBKGND, Table::To<&ListControl::OnEraseBackground>},
         {WM_SETFOCUS, Table::To<&ListControl::OnSetFocus>},
         {WM_KILLFOCUS, Table::To<&ListControl::OnKillFocus>},
-        {WM_KEYDOWN, Table::To<&ListControl::m_keys, &ListKeys::OnKeyDown>},
+        {WM_KEYDOWN, Table::To<&ListControl::OnKeyDown>},
         {WM_LBUTTONDOWN, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDown>},
         {WM_LBUTTONUP, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonUp>},
         {WM_LBUTTONDBLCLK, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDblClk>},
@@ -41,17 +41,17 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_MOUSEWHEEL, Table::To<&ListControl::m_viewport, &ListViewport::OnMouseWheel>},
         {LVM_GETIMAGELIST, Table::To<&ListControl::OnGetImageList>},
         {LVM_SETIMAGELIST, Table::To<&ListControl::OnSetImageList>},
-        {LVM_GETITEMCOUNT, Table::To<&ListControl::OnGetItemCount>},
+        {LVM_GETITEMCOUNT, Table::To<&ListControl::m_layout, &ListLayout::Count>},
         {LVM_SETITEMCOUNT, Table::To<&ListControl::OnSetItemCount>},
         {LVM_GETNEXTITEM, Table::To<&ListControl::OnGetNextItem>},
         {LVM_GETSELECTEDCOUNT, Table::To<&ListControl::OnGetSelectedCount>},
         {LVM_GETITEMSTATE, Table::To<&ListControl::OnGetItemState>},
         {LVM_SETITEMSTATE, Table::To<&ListControl::OnSetItemState>},
-        {LVM_GETITEMRECT, Table::To<&ListControl::m_places, &ListPlaces::OnGetItemRect>},
-        {LVM_HITTEST, Table::To<&ListControl::m_places, &ListPlaces::OnHitTest>},
+        {LVM_GETITEMRECT, Table::To<&ListControl::m_viewport, &ListViewport::OnGetItemRect>},
+        {LVM_HITTEST, Table::To<&ListControl::m_viewport, &ListViewport::OnHitTest>},
         {LVM_ENSUREVISIBLE, Table::To<&ListControl::m_viewport, &ListViewport::OnEnsureVisible>},
         {LVM_SCROLL, Table::To<&ListControl::m_viewport, &ListViewport::OnScroll>},
-        {LVM_GETTOPINDEX, Table::To<&ListControl::m_viewport, &ListViewport::OnGetTopIndex>},
+        {LVM_GETTOPINDEX, Table::To<&ListControl::m_layout, &ListLayout::FirstVisibleRow>},
         {LVM_GETCOUNTPERPAGE, Table::To<&ListControl::m_viewport, &ListViewport::OnGetCountPerPage>},
         {LVM_UPDATE, Table::To<&ListControl::OnUpdate>},
         {LVM_ARRANGE, Table::To<&ListControl::OnArrange>},
@@ -63,9 +63,8 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     return handlers.Call(*this, message, wParam, lParam);
 }
 
-LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
+BOOL ListControl::OnSetItemCount(int count)
 {
-    const int count = static_cast<int>(wParam);
     if (count < 0)
         return FALSE;
 
@@ -80,25 +79,23 @@ LRESULT ListControl::OnSetItemCount(WPARAM wParam, LPARAM)
     return TRUE;
 }
 
-LRESULT ListControl::OnSetIconSpacing(WPARAM, LPARAM lParam)
+LRESULT ListControl::OnSetIconSpacing(WPARAM, CPoint cell)
 {
     const CSize former = m_layout.Cell();
-    const CSize cell(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam));
-    m_spacing = cell.cx > 0 && cell.cy > 0 ? std::optional(cell) : std::nullopt;
+    m_spacing = cell.x > 0 && cell.y > 0 ? std::optional(CSize(cell.x, cell.y)) : std::nullopt;
     MeasuresChanged();
     return MAKELONG(former.cx, former.cy);
 }
 
-LRESULT ListControl::OnArrange(WPARAM, LPARAM)
+BOOL ListControl::OnArrange()
 {
     RedrawAll(); // the rows always lie in the grid
     Relayout();
     return TRUE;
 }
 
-LRESULT ListControl::OnUpdate(WPARAM wParam, LPARAM)
+BOOL ListControl::OnUpdate(int row)
 {
-    const int row = static_cast<int>(wParam);
     if (!Rows().Has(row))
         return FALSE;
     m_owner.ForgetHint(row); // what it said of it may be out of date
@@ -108,39 +105,29 @@ LRESULT ListControl::OnUpdate(WPARAM wParam, LPARAM)
 
 void ListControl::Measure()
 {
-    int cx = 0, cy = 0;
-    const bool pictures = ImageList_GetIconSize(Images(), &cx, &cy);
-    m_layout.SetIcon(pictures ? CSize(cx, cy) : CSize());
+    m_layout.SetIcon(ImageSize());
     m_layout.SetCell(m_spacing.value_or(m_layout.NaturalCell()));
 }
 
-LRESULT ListControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
+int ListControl::OnGetNextItem(int after, UINT flags) const
 {
     constexpr UINT kAsked = LVNI_FOCUSED | LVNI_SELECTED | LVNI_DROPHILITED;
     static_assert(kAsked == kStates); // the flags are the states
-    return Rows().Next(static_cast<int>(wParam), static_cast<UINT>(lParam) & kAsked);
+    return Rows().Next(after, flags & kAsked);
 }
 
-LRESULT ListControl::OnGetItemState(WPARAM wParam, LPARAM lParam)
+BOOL ListControl::OnSetItemState(int row, const LVITEM* pItem)
 {
-    return Rows().State(static_cast<int>(wParam)) & static_cast<UINT>(lParam);
-}
-
-LRESULT ListControl::OnSetItemState(WPARAM wParam, LPARAM lParam)
-{
-    const auto* const pItem = reinterpret_cast<const LVITEM*>(lParam);
-    const int row = static_cast<int>(wParam);
     if (!pItem || (row != -1 && !Rows().Has(row)))
         return FALSE;
 
     const UINT mask = pItem->stateMask & kStates;
     const UINT state = pItem->state & mask;
-    if (row == -1) {
+    if (row == -1)
         m_selection.ChangeAll(state, mask);
-        return IsAlive();
-    }
-    m_selection.Change(row, state, mask);
-    return IsAlive() && (Rows().State(row) & mask) == state;
+    else
+        m_selection.Change(row, state, mask);
+    return IsAlive() && (row == -1 || (Rows().State(row) & mask) == state);
 }
 
 void ListControl::HasChanged(int row, UINT oldState, UINT newState)
@@ -152,41 +139,31 @@ void ListControl::HasChanged(int row, UINT oldState, UINT newState)
     m_owner.TellChange(row, oldState, newState);
 }
 
-LRESULT ListControl::OnSetFocus(WPARAM, LPARAM)
+void ListControl::OnSetFocus()
 {
     Labels().GotFocus();
     RedrawChosen();
     Notify(NM_SETFOCUS);
-    return 0;
 }
 
-LRESULT ListControl::OnKillFocus(WPARAM, LPARAM)
+void ListControl::OnKillFocus()
 {
     m_mouse.Cancel();
     Labels().StopWaiting();
     RedrawChosen();
     Notify(NM_KILLFOCUS);
-    return 0;
 }
 
 void ListControl::RedrawChosen() const
 {
-    const CellBlock visible = m_layout.CellsTouching({CPoint(), m_layout.Client()});
-    const RowSet rows = m_layout.RowsOf(visible);
+    const RowSet rows = m_layout.RowsOf(m_layout.CellsTouching({CPoint(), m_layout.Client()}));
     for (int row = rows.Next(-1); row >= 0; row = rows.Next(row))
         if (Rows().State(row) & (LVIS_SELECTED | LVIS_FOCUSED))
             m_viewport.Redraw(row);
 }
 
-LRESULT ListControl::OnEditLabel(WPARAM wParam, LPARAM)
+BOOL ListControl::OnMoveEditLabel(int row)
 {
-    const int row = static_cast<int>(wParam);
-    return EditLabel(row, row >= 0);
-}
-
-LRESULT ListControl::OnMoveEditLabel(WPARAM wParam, LPARAM)
-{
-    const int row = static_cast<int>(wParam);
     if (!Labels().Field())
         return FALSE;
     if (Rows().Has(row))

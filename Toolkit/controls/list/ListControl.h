@@ -3,7 +3,6 @@
 
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/list/IconLayout.h"
-#include "Toolkit/controls/list/ListKeys.h"
 #include "Toolkit/controls/list/ListPainter.h"
 
 namespace toolkit
@@ -22,21 +21,20 @@ private:
     const RowStates& Rows() const { return m_selection.Rows(); }
 
     // Rows and their measures.
-    LRESULT OnGetItemCount(WPARAM, LPARAM) { return Rows().Count(); }
-    LRESULT OnSetItemCount(WPARAM wParam, LPARAM);
-    LRESULT OnSetIconSpacing(WPARAM, LPARAM lParam);
-    LRESULT OnArrange(WPARAM, LPARAM);
-    LRESULT OnUpdate(WPARAM wParam, LPARAM);
+    BOOL OnSetItemCount(int count);
+    LRESULT OnSetIconSpacing(WPARAM, CPoint cell);
+    BOOL OnArrange();
+    BOOL OnUpdate(int row);
     void Measure() override;
     void Relayout() override { m_viewport.Relayout(); }
 
     // States.
-    LRESULT OnGetNextItem(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetSelectedCount(WPARAM, LPARAM) { return Rows().CountWith(LVIS_SELECTED); }
-    LRESULT OnGetItemState(WPARAM wParam, LPARAM lParam);
-    LRESULT OnSetItemState(WPARAM wParam, LPARAM lParam);
-    LRESULT OnSetFocus(WPARAM, LPARAM);
-    LRESULT OnKillFocus(WPARAM, LPARAM);
+    int OnGetNextItem(int after, UINT flags) const;
+    int OnGetSelectedCount() const { return Rows().CountWith(LVIS_SELECTED); }
+    UINT OnGetItemState(int row, UINT mask) const { return Rows().State(row) & mask; }
+    BOOL OnSetItemState(int row, const LVITEM* pItem);
+    void OnSetFocus();
+    void OnKillFocus();
     void RedrawChosen() const; // what looks otherwise with the focus
     bool MayChange(int row, UINT oldState, UINT newState) override
     {
@@ -44,11 +42,16 @@ private:
     }
     void HasChanged(int row, UINT oldState, UINT newState) override;
 
+    // Keys.
+    LRESULT OnKeyDown(UINT vkey, LPARAM lParam);
+    void MoveFocus(int row, bool allBetween);
+    void PressSpace();
+
     // Editing a label in place. The control knows rows by number only. An owner that moves rows meanwhile says where
     // the edited one is now, so that no row is ever given a name that was meant for another. What the row shows may
     // change: what was typed is taken all the same.
-    LRESULT OnEditLabel(WPARAM wParam, LPARAM);
-    LRESULT OnMoveEditLabel(WPARAM wParam, LPARAM);
+    HWND OnEditLabel(int row) { return EditLabel(row, row >= 0); }
+    BOOL OnMoveEditLabel(int row);
     bool HasItem(LPARAM row) const override { return Rows().Has(static_cast<int>(row)); }
     bool IsSelected(LPARAM row) const override;
     bool IsPressed() const override { return m_mouse.IsPressed(); }
@@ -65,10 +68,8 @@ private:
     IconLayout m_layout; // the parts know it as one layout among possible ones
     ListOwner m_owner{*this};
     ListSelection m_selection{m_layout, *this};
-    ListPlaces m_places{m_layout, m_owner};
-    ListViewport m_viewport{*this, m_layout, m_mouse};
-    ListMouse m_mouse{*this, m_selection, m_layout, m_owner, m_places, m_viewport};
-    ListKeys m_keys{*this, m_selection, m_layout, m_viewport, m_mouse};
+    ListViewport m_viewport{*this, m_layout, m_owner, m_mouse};
+    ListMouse m_mouse{*this, m_selection, m_layout, m_owner, m_viewport};
     ListPainter m_painter{*this, Rows(), m_layout, m_owner, m_mouse};
     std::optional<CSize> m_spacing; // as set; else it follows from the pictures
 };

@@ -1,6 +1,4 @@
-#include "Toolkit/controls/list/ListMouse.h"
-
-#include "Toolkit/controls/list/ListTracker.h"
+#include "Toolkit/controls/list/ListControl.h"
 
 #include <cstdlib>
 #include <utility>
@@ -8,23 +6,51 @@
 namespace toolkit
 {
 
-LRESULT ListMouse::OnLButtonDown(WPARAM wParam, LPARAM lParam)
+namespace
 {
-    BeginPress(wParam, CPoint(lParam), false);
-    return 0;
-}
 
-LRESULT ListMouse::OnRButtonDown(WPARAM wParam, LPARAM lParam)
-{
-    BeginPress(wParam, CPoint(lParam), true);
-    return 0;
-}
+constexpr LPCSTR kTrackerClass = "ListTracker";
+constexpr UINT_PTR kAutoScrollTimer = 1;
+constexpr UINT kAutoScrollPeriod = 30; // milliseconds
 
-LRESULT ListMouse::OnLButtonUp(WPARAM, LPARAM)
+class ListTracker : public NativeWindow
 {
-    EndPress(false); // without a press there is nothing to end
-    return 0;
-}
+public:
+    using NativeWindow::NativeWindow;
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const HWND hList = GetParent(m_hWnd);
+        const WindowHold hold(hList);
+        auto* const pList = dynamic_cast<ListControl*>(hold.Native());
+        if (!pList)
+            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+
+        switch (message) {
+        case WM_MOUSEMOVE:
+            pList->Mouse().TrackMove(wParam, CPoint(lParam));
+            return 0;
+        case WM_TIMER:
+            pList->Mouse().AutoScroll();
+            return 0;
+        case WM_CAPTURECHANGED:
+            pList->Mouse().TrackingLost(m_hWnd);
+            return 0;
+        case WM_LBUTTONUP:
+        case WM_RBUTTONUP:
+            return SendMessage(hList, message, wParam, lParam);
+        default:
+            return ::DefWindowProc(m_hWnd, message, wParam, lParam);
+        }
+    }
+};
+
+const bool s_registered = [] {
+    RegisterWindowClass(kTrackerClass, [](HWND hWnd) { return std::make_unique<ListTracker>(hWnd); });
+    return true;
+}();
+
+} // namespace
 
 LRESULT ListMouse::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 {
@@ -34,29 +60,28 @@ LRESULT ListMouse::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 
 // The second press of a double click selects like the first; nothing follows its release. On empty space it may
 // begin a rubber band.
-LRESULT ListMouse::OnLButtonDblClk(WPARAM wParam, LPARAM lParam)
+void ListMouse::OnLButtonDblClk(WPARAM keys, CPoint at)
 {
-    BeginPress(wParam, CPoint(lParam), false);
+    BeginPress(keys, at, false);
     const std::optional<Press> press = m_press;
     if (!press)
-        return 0;
+        return;
     if (press->row >= 0) {
         Cancel();
         if (press->onRelease == Press::OnRelease::Toggle)
             m_selection.Toggle(press->row);
     }
     m_owner.TellClick(NM_DBLCLK, press->row, press->at);
-    return 0;
 }
 
-void ListMouse::BeginPress(WPARAM wParam, CPoint at, bool right)
+void ListMouse::BeginPress(WPARAM keys, CPoint at, bool right)
 {
     Cancel();
     m_control.Labels().StopWaiting();
     m_control.TakeFocus();
 
-    const ListPlaces::Hit hit = m_places.HitTest(at);
-    Press press{hit.row, at, ToContent(at), right, (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0};
+    const ListViewport::Hit hit = m_viewport.HitTest(at);
+    Press press{hit.row, at, ToContent(at), right, (keys & MK_SHIFT) != 0, (keys & MK_CONTROL) != 0};
     press.meansLabel = !right && !press.shift && !press.control && (hit.flags & LVHT_ONITEMLABEL) &&
                        m_control.Labels().IsMeant(press.row);
     if (press.row >= 0)
@@ -66,7 +91,7 @@ void ListMouse::BeginPress(WPARAM wParam, CPoint at, bool right)
     if (press.row >= m_layout.Count())
         return; // a handler took the row away
 
-    const HWND hTracker = CreateListTracker(m_control.m_hWnd);
+    const HWND hTracker = CreateWindowEx(0, kTrackerClass, "", WS_CHILD, 0, 0, 0, 0, m_control.m_hWnd, 0, nullptr);
     m_hTracker = hTracker;
     SetCapture(hTracker);
     m_press = press;
@@ -189,8 +214,10 @@ void ListMouse::MoveBand()
     RedrawBand(former, *BandRect());
 
     const bool outside = m_trackedAt.y < 0 || m_trackedAt.y >= m_layout.Client().cy;
-    if (outside != m_bAutoScrolls)
-        SetAutoScroll(m_hTracker, outside);
+    if (outside && !m_bAutoScrolls)
+        SetTimer(m_hTracker, kAutoScrollTimer, kAutoScrollPeriod);
+    else if (!outside && m_bAutoScrolls)
+        KillTimer(m_hTracker, kAutoScrollTimer);
     m_bAutoScrolls = outside;
 
     for (const CellBlock& block : m_band->Touch(m_layout.BodiesTouching(m_band->Rect()))) {

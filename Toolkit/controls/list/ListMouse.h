@@ -1,7 +1,6 @@
 // The list control under the mouse: clicks, drags and the rubber band.
 #pragma once
 
-#include "Toolkit/controls/list/ListPlaces.h"
 #include "Toolkit/controls/list/ListSelection.h"
 #include "Toolkit/controls/list/ListViewport.h"
 #include "Toolkit/controls/list/RubberBand.h"
@@ -15,13 +14,8 @@ class ListMouse
 {
 public:
     ListMouse(ItemControl& control, ListSelection& selection, const ListLayout& layout, ListOwner& owner,
-              const ListPlaces& places, ListViewport& viewport)
-        : m_control(control),
-          m_selection(selection),
-          m_layout(layout),
-          m_owner(owner),
-          m_places(places),
-          m_viewport(viewport)
+              ListViewport& viewport)
+        : m_control(control), m_selection(selection), m_layout(layout), m_owner(owner), m_viewport(viewport)
     {}
 
     bool IsPressed() const { return m_press.has_value(); }
@@ -31,13 +25,15 @@ public:
     std::optional<CRect> BandRect() const; // client, cut near the client area's edges
     void MoveBand();                       // to where the mouse is in the content
 
-    LRESULT OnLButtonDown(WPARAM wParam, LPARAM lParam);
-    LRESULT OnRButtonDown(WPARAM wParam, LPARAM lParam);
-    LRESULT OnLButtonUp(WPARAM, LPARAM);
+    void OnLButtonDown(WPARAM keys, CPoint at) { BeginPress(keys, at, false); }
+    void OnRButtonDown(WPARAM keys, CPoint at) { BeginPress(keys, at, true); }
+    void OnLButtonUp() { EndPress(false); } // without a press there is nothing to end
     LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
-    LRESULT OnLButtonDblClk(WPARAM wParam, LPARAM lParam);
+    void OnLButtonDblClk(WPARAM keys, CPoint at);
 
-    // From the tracker, which holds the capture while a button is down. Client coordinates.
+    // From the tracker, an invisible child that holds the capture while a button is down. It sees movements and timers
+    // that a class derived from the list keeps to itself, so that dragging and the rubber band work whatever that class
+    // does with its own messages. Client coordinates.
     void TrackMove(WPARAM keys, CPoint at);
     void AutoScroll();
     void TrackingLost(HWND hTracker);
@@ -62,7 +58,7 @@ private:
         bool meansLabel = false; // unless a double click or a drag follows, its release begins the editing
     };
 
-    void BeginPress(WPARAM wParam, CPoint at, bool right);
+    void BeginPress(WPARAM keys, CPoint at, bool right);
     void PressRow(Press& press);
     void EndPress(bool right);
     void BeginDrag();
@@ -73,7 +69,6 @@ private:
     ListSelection& m_selection;
     const ListLayout& m_layout;
     ListOwner& m_owner;
-    const ListPlaces& m_places;
     ListViewport& m_viewport;
 
     std::optional<Press> m_press;

@@ -23,13 +23,12 @@ void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
 
 } // namespace
 
-LRESULT ListPainter::OnPaint(WPARAM, LPARAM)
+void ListPainter::OnPaint() const
 {
     const CPaintDC paint(m_control.m_hWnd);
     DrawRows(paint, paint.GetPaintRect());
     if (const std::optional<CRect> band = m_mouse.BandRect())
         DrawBand(paint, *band);
-    return 0;
 }
 
 void ListPainter::DrawRows(HDC hdc, const CRect& rcPaint) const

@@ -14,7 +14,7 @@ public:
         : m_control(control), m_rows(rows), m_layout(layout), m_owner(owner), m_mouse(mouse)
     {}
 
-    LRESULT OnPaint(WPARAM, LPARAM);
+    void OnPaint() const;
 
 private:
     void DrawRows(HDC hdc, const CRect& rcPaint) const;

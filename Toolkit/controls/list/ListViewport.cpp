@@ -60,7 +60,7 @@ void ListViewport::UpdateScrollBar()
     SetScrollInfo(m_control.m_hWnd, SB_VERT, info);
 }
 
-LRESULT ListViewport::OnSize(WPARAM, LPARAM)
+void ListViewport::OnSize()
 {
     const int width = m_layout.Client().cx;
     const std::int64_t position = m_layout.ScrollPosition();
@@ -68,7 +68,6 @@ LRESULT ListViewport::OnSize(WPARAM, LPARAM)
     Relayout();
     if (inRelayout || m_layout.Client().cx != width || m_layout.ScrollPosition() != position)
         m_control.RedrawAll();
-    return 0;
 }
 
 void ListViewport::ScrollTo(std::int64_t position)
@@ -89,33 +88,72 @@ void ListViewport::ScrollTo(std::int64_t position)
     m_mouse.MoveBand(); // its corner stays under the mouse
 }
 
-LRESULT ListViewport::OnVScroll(WPARAM wParam, LPARAM)
+void ListViewport::OnVScroll(WPARAM wParam)
 {
     const int line = std::max<int>(m_layout.Cell().cy / kLinesPerCell, 1);
     const std::int64_t unit = PixelsPerStep(m_layout.ContentHeight());
     ScrollTo(m_control.ScrollTarget(SB_VERT, wParam, m_layout.ScrollPosition(), line, m_layout.Client().cy, unit));
-    return 0;
 }
 
 // One notch is one cell's height.
-LRESULT ListViewport::OnMouseWheel(WPARAM wParam, LPARAM)
+void ListViewport::OnMouseWheel(WPARAM wParam)
 {
     ScrollTo(m_layout.ScrollPosition() - m_control.WheelSteps(wParam, m_layout.Cell().cy));
-    return 0;
 }
 
-LRESULT ListViewport::OnScroll(WPARAM, LPARAM lParam)
+BOOL ListViewport::OnScroll(WPARAM, int pixels)
 {
-    ScrollTo(m_layout.ScrollPosition() + static_cast<int>(lParam));
+    ScrollTo(m_layout.ScrollPosition() + pixels);
     return TRUE;
 }
 
-LRESULT ListViewport::OnEnsureVisible(WPARAM wParam, LPARAM lParam)
+BOOL ListViewport::OnEnsureVisible(int row, BOOL partIsEnough)
 {
-    const int row = static_cast<int>(wParam);
     if (!m_layout.Has(row))
         return FALSE;
-    ScrollTo(m_layout.ScrollToShow(row, lParam != 0));
+    ScrollTo(m_layout.ScrollToShow(row, partIsEnough));
+    return TRUE;
+}
+
+ListViewport::Hit ListViewport::HitTest(CPoint client) const
+{
+    const int row = m_layout.CellAt(client);
+    if (row < 0 || !CRect(CPoint(), m_layout.Client()).PtInRect(client))
+        return {};
+    if (m_layout.IconRect(row).PtInRect(client))
+        return {row, LVHT_ONITEMICON};
+    if (!m_layout.LabelRoom(row).PtInRect(client))
+        return {};
+
+    const RowFace face = m_owner.HintAndAsk(row);
+    const bool hit = m_layout.Has(row) && m_layout.PlaceLabel(row, face.text).box.PtInRect(client);
+    return hit ? Hit{row, LVHT_ONITEMLABEL} : Hit();
+}
+
+int ListViewport::OnHitTest(WPARAM, LVHITTESTINFO* pInfo) const
+{
+    if (!pInfo)
+        return -1;
+    const Hit hit = HitTest(pInfo->pt);
+    pInfo->iItem = hit.row;
+    pInfo->flags = hit.flags;
+    return hit.row;
+}
+
+BOOL ListViewport::OnGetItemRect(int row, RECT* pRect) const
+{
+    if (!pRect || !m_layout.Has(row))
+        return FALSE;
+    const CRect icon = m_layout.IconRect(row);
+    if (pRect->left == LVIR_ICON) {
+        *pRect = icon;
+        return TRUE;
+    }
+    const RowFace face = m_owner.HintAndAsk(row);
+    if (!m_layout.Has(row))
+        return FALSE;
+    const CRect label = m_layout.PlaceLabel(row, face.text).box;
+    *pRect = pRect->left == LVIR_LABEL ? label : icon | label;
     return TRUE;
 }
 

@@ -1,8 +1,9 @@
-// The list control's view on its rows: client area, scroll bar, wheel, and what is drawn anew.
+// The list control's view on its rows: client area, scroll bar, wheel, what lies where, and what is drawn anew.
 #pragma once
 
 #include "Toolkit/controls/items/ItemControl.h"
 #include "Toolkit/controls/list/ListLayout.h"
+#include "Toolkit/controls/list/ListOwner.h"
 
 namespace toolkit
 {
@@ -12,28 +13,37 @@ class ListMouse;
 class ListViewport
 {
 public:
-    ListViewport(ItemControl& control, ListLayout& layout, ListMouse& mouse)
-        : m_control(control), m_layout(layout), m_mouse(mouse)
+    struct Hit
+    {
+        int row = -1; // -1: none
+        UINT flags = LVHT_NOWHERE;
+    };
+
+    ListViewport(ItemControl& control, ListLayout& layout, ListOwner& owner, ListMouse& mouse)
+        : m_control(control), m_layout(layout), m_owner(owner), m_mouse(mouse)
     {}
 
+    Hit HitTest(CPoint client) const;
     void Redraw(int row) const;
     void Relayout(); // the client area, the rows or a measure are new
     void ScrollTo(std::int64_t position);
     void Show(int row) { ScrollTo(m_layout.ScrollToShow(row, false)); }
 
-    LRESULT OnSize(WPARAM, LPARAM);
-    LRESULT OnVScroll(WPARAM wParam, LPARAM);
-    LRESULT OnMouseWheel(WPARAM wParam, LPARAM);
-    LRESULT OnScroll(WPARAM, LPARAM lParam);
-    LRESULT OnEnsureVisible(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetTopIndex(WPARAM, LPARAM) { return m_layout.FirstVisibleRow(); }
-    LRESULT OnGetCountPerPage(WPARAM, LPARAM) { return m_layout.FullLinesPerPage() * m_layout.Columns(); }
+    void OnSize();
+    void OnVScroll(WPARAM wParam);
+    void OnMouseWheel(WPARAM wParam);
+    BOOL OnScroll(WPARAM, int pixels);
+    BOOL OnEnsureVisible(int row, BOOL partIsEnough);
+    BOOL OnGetItemRect(int row, RECT* pRect) const;
+    int OnHitTest(WPARAM, LVHITTESTINFO* pInfo) const;
+    int OnGetCountPerPage() const { return m_layout.FullLinesPerPage() * m_layout.Columns(); }
 
 private:
     void UpdateScrollBar();
 
     ItemControl& m_control;
     ListLayout& m_layout;
+    ListOwner& m_owner;
     ListMouse& m_mouse;
     int m_relayouts = 0; // under way
 };

@@ -35,16 +35,15 @@ bool AsksForAll(const TVITEM& item)
 
 // An insertion that memory is lacking for is refused like any other. When it only lacked for noting what to paint, the
 // item is in.
-LRESULT TreeContent::OnInsertItem(WPARAM, LPARAM lParam)
+HTREEITEM TreeContent::OnInsertItem(WPARAM, const TVINSERTSTRUCT* pInsert)
 {
-    const auto* const pInsert = reinterpret_cast<const TVINSERTSTRUCT*>(lParam);
     HTREEITEM hNew = nullptr;
     try {
         if (pInsert)
             Insert(*pInsert, hNew);
     } catch (const std::bad_alloc&) {
     }
-    return reinterpret_cast<LRESULT>(hNew);
+    return hNew;
 }
 
 void TreeContent::Insert(const TVINSERTSTRUCT& insert, HTREEITEM& hNew)
@@ -109,9 +108,8 @@ void TreeContent::AssignRest(ItemIndex item, const TVITEM& from)
         m_selection.SetState(item, from.state, from.stateMask & kSettable);
 }
 
-LRESULT TreeContent::OnGetItem(WPARAM, LPARAM lParam)
+BOOL TreeContent::OnGetItem(WPARAM, TVITEM* pItem) const
 {
-    auto* const pItem = reinterpret_cast<TVITEM*>(lParam);
     if (!pItem)
         return FALSE;
     const ItemFace face = m_owner.AskFace(pItem->hItem, pItem->mask & TreeFace::kParts);
@@ -135,9 +133,8 @@ LRESULT TreeContent::OnGetItem(WPARAM, LPARAM lParam)
     return TRUE;
 }
 
-LRESULT TreeContent::OnSetItem(WPARAM, LPARAM lParam)
+BOOL TreeContent::OnSetItem(WPARAM, const TVITEM* pItem)
 {
-    const auto* const pItem = reinterpret_cast<const TVITEM*>(lParam);
     const ItemIndex item = pItem ? m_items.Find(pItem->hItem) : kNoItem;
     if (item == kNoItem)
         return FALSE;
@@ -155,10 +152,10 @@ LRESULT TreeContent::OnSetItem(WPARAM, LPARAM lParam)
     return TRUE;
 }
 
-LRESULT TreeContent::OnGetItemState(WPARAM wParam, LPARAM lParam)
+UINT TreeContent::OnGetItemState(HTREEITEM hItem, UINT mask) const
 {
-    const ItemIndex item = m_items.Find(reinterpret_cast<HTREEITEM>(wParam));
-    return item == kNoItem ? 0 : m_items[item].state & static_cast<UINT>(lParam);
+    const ItemIndex item = m_items.Find(hItem);
+    return item == kNoItem ? 0 : m_items[item].state & mask;
 }
 
 // What the owner keeps itself it is told to change.
@@ -173,7 +170,7 @@ void TreeContent::TakeLabel(HTREEITEM hItem, std::string& text)
     change.mask = TVIF_TEXT;
     change.hItem = hItem;
     change.pszText = text.data();
-    OnSetItem(0, reinterpret_cast<LPARAM>(&change));
+    OnSetItem(0, &change);
 }
 
 } // namespace toolkit

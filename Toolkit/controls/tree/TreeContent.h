@@ -19,15 +19,14 @@ public:
           m_selection(selection)
     {}
 
-    LRESULT OnInsertItem(WPARAM, LPARAM lParam);
-    LRESULT OnGetItem(WPARAM, LPARAM lParam);
-    LRESULT OnSetItem(WPARAM, LPARAM lParam);
-    LRESULT OnGetItemState(WPARAM wParam, LPARAM lParam);
-    LRESULT OnGetCount(WPARAM, LPARAM) { return m_items.Count(); }
+    HTREEITEM OnInsertItem(WPARAM, const TVINSERTSTRUCT* pInsert);
+    BOOL OnGetItem(WPARAM, TVITEM* pItem) const;
+    BOOL OnSetItem(WPARAM, const TVITEM* pItem);
+    UINT OnGetItemState(HTREEITEM hItem, UINT mask) const;
     void TakeLabel(HTREEITEM hItem, std::string& text); // that the user has given
 
     // The selection leaves first, then each item is announced, children first.
-    LRESULT OnDeleteItem(WPARAM, LPARAM lParam);
+    BOOL OnDeleteItem(WPARAM, HTREEITEM hItem);
     void DeleteChildren(ItemIndex parent);
 
 private:

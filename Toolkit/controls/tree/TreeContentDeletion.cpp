@@ -4,9 +4,8 @@
 namespace toolkit
 {
 
-LRESULT TreeContent::OnDeleteItem(WPARAM, LPARAM lParam)
+BOOL TreeContent::OnDeleteItem(WPARAM, HTREEITEM hItem)
 {
-    const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
     // First: the selection takes the focus along, and what was typed would be taken for the name of what goes.
     CancelLabelWithin(hItem);
     const ItemIndex item = hItem == TVI_ROOT ? kRootItem : m_items.Find(hItem);

@@ -29,7 +29,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_CREATE, Table::To<&TreeControl::OnCreate>},
         {WM_DESTROY, Table::To<&TreeControl::OnDestroy>},
         {WM_SIZE, Table::To<&TreeControl::OnSize>},
-        {WM_STYLECHANGED, Table::To<&TreeControl::OnStyleChanged>},
+        {WM_STYLECHANGED, Table::To<&TreeControl::MeasuresChanged>},
         {WM_PAINT, Table::To<&TreeControl::m_painter, &TreePainter::OnPaint>},
         {WM_ERASEBKGND, Table::To<&TreeControl::OnEraseBackground>},
         {WM_SETFOCUS, Table::To<&TreeControl::OnSetFocus>},
@@ -52,7 +52,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_DELETEITEM, Table::To<&TreeControl::m_content, &TreeContent::OnDeleteItem>},
         {TVM_EXPAND, Table::To<&TreeControl::m_selection, &TreeSelection::OnExpand>},
         {TVM_GETITEMRECT, Table::To<&TreeControl::m_viewport, &TreeViewport::OnGetItemRect>},
-        {TVM_GETCOUNT, Table::To<&TreeControl::m_content, &TreeContent::OnGetCount>},
+        {TVM_GETCOUNT, Table::To<&TreeControl::m_items, &TreeItems::Count>},
         {TVM_GETINDENT, Table::To<&TreeControl::OnGetIndent>},
         {TVM_GETIMAGELIST, Table::To<&TreeControl::OnGetImageList>},
         {TVM_SETIMAGELIST, Table::To<&TreeControl::OnSetImageList>},
@@ -66,7 +66,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_SORTCHILDRENCB, Table::To<&TreeControl::m_order, &TreeOrder::OnSortChildrenCB>},
         {TVM_ENSUREVISIBLE, Table::To<&TreeControl::m_selection, &TreeSelection::OnEnsureVisible>},
         {TVM_ARRANGECHILDREN, Table::To<&TreeControl::m_order, &TreeOrder::OnArrangeChildren>},
-        {TVM_GETITEMHEIGHT, Table::To<&TreeControl::m_viewport, &TreeViewport::OnGetItemHeight>},
+        {TVM_GETITEMHEIGHT, Table::To<&TreeControl::m_layout, &TreeLayout::RowHeight>},
         {TVM_GETITEMSTATE, Table::To<&TreeControl::m_content, &TreeContent::OnGetItemState>},
         {TVM_EDITLABEL, Table::To<&TreeControl::OnEditLabel>},
         {TVM_GETEDITCONTROL, Table::To<&TreeControl::OnGetEditControl>},
@@ -75,24 +75,22 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 }
 
 // The items go with the window: each is announced, but the selection is not asked about any more.
-LRESULT TreeControl::OnDestroy(WPARAM, LPARAM)
+void TreeControl::OnDestroy()
 {
     m_selection.Forget();
     m_mouse.Cancel();
     m_content.DeleteChildren(kRootItem);
-    return 0;
 }
 
-LRESULT TreeControl::OnSize(WPARAM, LPARAM)
+void TreeControl::OnSize()
 {
     if (m_viewport.OnSize()) {
         m_order.Settle();
         m_viewport.ScrollIntoView(m_selection.Caret()); // nobody could see it before
     }
-    return 0;
 }
 
-LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
+void TreeControl::OnSetFocus()
 {
     Labels().GotFocus();
     m_viewport.Redraw(m_selection.Caret());
@@ -100,24 +98,20 @@ LRESULT TreeControl::OnSetFocus(WPARAM, LPARAM)
     if (!m_selection.Caret() && !m_selection.IsChanging())
         m_selection.Select(m_items.HandleOf(m_items.AtRow(m_layout.TopRow())), TVC_UNKNOWN);
     Notify(NM_SETFOCUS);
-    return 0;
 }
 
-LRESULT TreeControl::OnKillFocus(WPARAM, LPARAM)
+void TreeControl::OnKillFocus()
 {
     m_keys.ForgetTyped();
     Labels().StopWaiting();
     m_mouse.Cancel();
     m_viewport.Redraw(m_selection.Caret());
     Notify(NM_KILLFOCUS);
-    return 0;
 }
 
-LRESULT TreeControl::OnGetNextItem(WPARAM wParam, LPARAM lParam)
+HTREEITEM TreeControl::OnGetNextItem(UINT code, HTREEITEM hItem) const
 {
-    if (wParam == TVGN_CARET)
-        return reinterpret_cast<LRESULT>(m_selection.Caret());
-    return reinterpret_cast<LRESULT>(m_items.HandleOf(Neighbour(static_cast<UINT>(wParam), ToHandle(lParam))));
+    return code == TVGN_CARET ? m_selection.Caret() : m_items.HandleOf(Neighbour(code, hItem));
 }
 
 ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const

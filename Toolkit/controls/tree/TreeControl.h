@@ -22,20 +22,19 @@ private:
     static HTREEITEM ToHandle(LPARAM item) { return reinterpret_cast<HTREEITEM>(item); }
 
     // Life and looks of the whole.
-    LRESULT OnDestroy(WPARAM, LPARAM);
-    LRESULT OnSize(WPARAM, LPARAM);
-    LRESULT OnStyleChanged(WPARAM, LPARAM) { return MeasuresChanged(); }
-    LRESULT OnSetFocus(WPARAM, LPARAM);
-    LRESULT OnKillFocus(WPARAM, LPARAM);
-    LRESULT OnGetIndent(WPARAM, LPARAM) { return TreeLayout::kIndent; }
-    LRESULT OnGetNextItem(WPARAM wParam, LPARAM lParam);
+    void OnDestroy();
+    void OnSize();
+    void OnSetFocus();
+    void OnKillFocus();
+    int OnGetIndent() const { return TreeLayout::kIndent; }
+    HTREEITEM OnGetNextItem(UINT code, HTREEITEM hItem) const;
     ItemIndex Neighbour(UINT code, HTREEITEM hItem) const;
     void Measure() override { m_viewport.Measure(); }
     void Relayout() override { m_viewport.Relayout(); }
 
     // Editing a label in place. The field stays with its item wherever that goes, and out of sight while the item is
     // inside a collapsed branch; it goes with the item.
-    LRESULT OnEditLabel(WPARAM, LPARAM lParam) { return EditLabel(lParam, true); }
+    HWND OnEditLabel(WPARAM, LPARAM item) { return EditLabel(item, true); }
     bool HasItem(LPARAM item) const override;
     bool IsSelected(LPARAM item) const override { return ToHandle(item) == m_selection.Caret(); }
     bool IsPressed() const override { return m_mouse.IsPressed(); }

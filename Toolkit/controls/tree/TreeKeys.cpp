@@ -3,13 +3,12 @@
 namespace toolkit
 {
 
-LRESULT TreeKeys::OnKeyDown(WPARAM wParam, LPARAM lParam)
+LRESULT TreeKeys::OnKeyDown(UINT vkey, LPARAM lParam)
 {
-    const UINT vkey = static_cast<UINT>(wParam);
     m_control.Labels().StopWaiting();
     m_bCharIsTaken = vkey == VK_ADD || vkey == VK_SUBTRACT || vkey == VK_MULTIPLY;
     const bool done = GetKeyState(VK_CONTROL) < 0 ? ScrollByKey(vkey) : DoKey(vkey);
-    return done ? 0 : ::DefWindowProc(m_control.m_hWnd, WM_KEYDOWN, wParam, lParam);
+    return done ? 0 : ::DefWindowProc(m_control.m_hWnd, WM_KEYDOWN, vkey, lParam);
 }
 
 LRESULT TreeKeys::OnKeyUp(WPARAM wParam, LPARAM lParam)

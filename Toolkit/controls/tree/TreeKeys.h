@@ -22,9 +22,9 @@ public:
 
     void ForgetTyped() { m_typed.clear(); }
 
-    LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
+    LRESULT OnKeyDown(UINT vkey, LPARAM lParam);
     LRESULT OnKeyUp(WPARAM wParam, LPARAM lParam);
-    LRESULT OnChar(WPARAM wParam, LPARAM);
+    void OnChar(char32_t c);
 
 private:
     bool DoKey(UINT vkey); // false: it is none of the control's

@@ -47,19 +47,17 @@ bool IsRepeated(std::string_view text, std::string_view letter)
 
 } // namespace
 
-LRESULT TreeKeys::OnChar(WPARAM wParam, LPARAM)
+void TreeKeys::OnChar(char32_t c)
 {
-    const auto c = static_cast<char32_t>(wParam);
     const bool begins = m_typed.empty() || GetTickCount() - m_typedAt > kPatience;
     const bool types = c > ' ' || (c == ' ' && !begins);
     if (m_bCharIsTaken || !types || c == 0x7F)
-        return 0;
+        return;
     if (begins)
         m_typed.clear();
     m_typed += Encode(c);
     m_typedAt = GetTickCount();
     SearchFor(Encode(c));
-    return 0;
 }
 
 // A longer word may be that of the item found so far. The same letter again goes on to the next item.

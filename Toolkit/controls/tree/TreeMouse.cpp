@@ -13,37 +13,29 @@ TreeViewport::Hit TreeMouse::TakeHit(CPoint at)
     return m_viewport.HitTest(at);
 }
 
-LRESULT TreeMouse::OnLButtonDown(WPARAM, LPARAM lParam)
+void TreeMouse::OnLButtonDown(WPARAM, CPoint at)
 {
-    const TreeViewport::Hit hit = TakeHit(CPoint(lParam));
+    const TreeViewport::Hit hit = TakeHit(at);
     const bool meansLabel =
         (hit.flags & TVHT_ONITEMLABEL) && m_control.Labels().IsMeant(reinterpret_cast<LPARAM>(hit.hItem));
     if (hit.flags & TVHT_ONITEMBUTTON)
         m_selection.Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE);
     else
-        BeginPress({hit, CPoint(lParam), false, meansLabel});
-    return 0;
+        BeginPress({hit, at, false, meansLabel});
 }
 
-LRESULT TreeMouse::OnRButtonDown(WPARAM, LPARAM lParam)
-{
-    BeginPress({TakeHit(CPoint(lParam)), CPoint(lParam), true, false});
-    return 0;
-}
-
-LRESULT TreeMouse::OnLButtonUp(WPARAM, LPARAM)
+void TreeMouse::OnLButtonUp()
 {
     if (!m_press || m_press->right)
-        return 0;
+        return;
     const Press press = *m_press;
     Cancel();
     if (m_control.Notify(NM_CLICK) != 0 || !(press.hit.flags & TVHT_ONITEM))
-        return 0;
+        return;
     if (m_items.Find(press.hit.hItem) != kNoItem)
         m_selection.Select(press.hit.hItem, TVC_BYMOUSE);
     if (press.meansLabel)
         m_control.Labels().BeginLater(reinterpret_cast<LPARAM>(press.hit.hItem));
-    return 0;
 }
 
 // The selection stays as it is. A click that the owner takes makes no context menu.
@@ -58,34 +50,30 @@ LRESULT TreeMouse::OnRButtonUp(WPARAM wParam, LPARAM lParam)
 }
 
 // The first click has selected the item.
-LRESULT TreeMouse::OnLButtonDblClk(WPARAM, LPARAM lParam)
+void TreeMouse::OnLButtonDblClk(WPARAM, CPoint at)
 {
-    const TreeViewport::Hit hit = TakeHit(CPoint(lParam));
+    const TreeViewport::Hit hit = TakeHit(at);
     const bool onButton = (hit.flags & TVHT_ONITEMBUTTON) != 0;
-    if (!onButton && (m_control.Notify(NM_DBLCLK) != 0 || !(hit.flags & TVHT_ONITEM)))
-        return 0;
-    m_selection.Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE);
-    return 0;
+    if (onButton || (m_control.Notify(NM_DBLCLK) == 0 && (hit.flags & TVHT_ONITEM)))
+        m_selection.Expand(hit.hItem, TVE_TOGGLE, TVC_BYMOUSE);
 }
 
 // A message box on the way, from whoever hears of the focus, may have had the release.
-LRESULT TreeMouse::OnMouseMove(WPARAM wParam, LPARAM lParam)
+void TreeMouse::OnMouseMove(WPARAM keys, CPoint at)
 {
-    if (m_press && !(wParam & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
+    if (m_press && !(keys & (m_press->right ? MK_RBUTTON : MK_LBUTTON)))
         Cancel();
-    else if (m_press && ItemControl::IsDrag(m_press->at, CPoint(lParam)))
+    else if (m_press && ItemControl::IsDrag(m_press->at, at))
         BeginDrag();
-    return 0;
 }
 
 // Someone else took the mouse: the press comes to nothing.
-LRESULT TreeMouse::OnCaptureChanged(WPARAM, LPARAM)
+void TreeMouse::OnCaptureChanged()
 {
     if (const std::optional<Press> press = std::exchange(m_press, std::nullopt)) {
         m_viewport.Redraw(press->hit.hItem);
         m_viewport.Redraw(m_selection.Caret());
     }
-    return 0;
 }
 
 HTREEITEM TreeMouse::Pressed() const
@@ -104,8 +92,8 @@ void TreeMouse::BeginPress(const Press& press)
 void TreeMouse::Cancel()
 {
     if (m_press && GetCapture() == m_control.m_hWnd)
-        ReleaseCapture();   // tells OnCaptureChanged
-    OnCaptureChanged(0, 0); // a derived class may have kept it
+        ReleaseCapture(); // tells OnCaptureChanged
+    OnCaptureChanged();   // a derived class may have kept it
 }
 
 // The owner runs the drag before it answers, so that nothing of the press may be left by then.

@@ -19,13 +19,13 @@ public:
     HTREEITEM Pressed() const; // it looks selected
     void Cancel();             // and gives the capture back
 
-    LRESULT OnLButtonDown(WPARAM, LPARAM lParam);
-    LRESULT OnLButtonUp(WPARAM, LPARAM);
-    LRESULT OnLButtonDblClk(WPARAM, LPARAM lParam);
-    LRESULT OnRButtonDown(WPARAM, LPARAM lParam);
+    void OnLButtonDown(WPARAM, CPoint at);
+    void OnLButtonUp();
+    void OnLButtonDblClk(WPARAM, CPoint at);
+    void OnRButtonDown(WPARAM, CPoint at) { BeginPress({TakeHit(at), at, true, false}); }
     LRESULT OnRButtonUp(WPARAM wParam, LPARAM lParam);
-    LRESULT OnMouseMove(WPARAM wParam, LPARAM lParam);
-    LRESULT OnCaptureChanged(WPARAM, LPARAM);
+    void OnMouseMove(WPARAM keys, CPoint at);
+    void OnCaptureChanged();
 
 private:
     // A button is down on an item's picture or label, or beside every item, and it is not yet known whether it will

@@ -203,9 +203,8 @@ void TreeOrder::Doubt(ItemIndex parent)
         m_items[parent].order = ChildOrder::Unknown;
 }
 
-LRESULT TreeOrder::OnSortChildren(WPARAM, LPARAM lParam)
+BOOL TreeOrder::OnSortChildren(WPARAM, HTREEITEM hParent)
 {
-    const auto hParent = reinterpret_cast<HTREEITEM>(lParam);
     ItemIndex parent = m_items.FindParent(hParent);
     // Among siblings that are out of order the place of what is gathered tells which of its equals it follows.
     if (parent != kNoItem && m_items[parent].order != ChildOrder::ByLabel)
@@ -235,9 +234,8 @@ bool TreeOrder::SortByLabel(HTREEITEM hParent, int settled)
     return true;
 }
 
-LRESULT TreeOrder::OnSortChildrenCB(WPARAM, LPARAM lParam)
+BOOL TreeOrder::OnSortChildrenCB(WPARAM, const TVSORTCB* pSort)
 {
-    const auto* const pSort = reinterpret_cast<const TVSORTCB*>(lParam);
     const ItemIndex parent = pSort ? m_items.FindParent(pSort->hParent) : kNoItem;
     if (parent == kNoItem || !pSort->lpfnCompare || m_items.Goes(parent))
         return FALSE;
@@ -264,9 +262,8 @@ LRESULT TreeOrder::OnSortChildrenCB(WPARAM, LPARAM lParam)
     return TRUE;
 }
 
-LRESULT TreeOrder::OnArrangeChildren(WPARAM, LPARAM lParam)
+BOOL TreeOrder::OnArrangeChildren(WPARAM, const TVARRANGECHILDREN* pArrange)
 {
-    const auto* const pArrange = reinterpret_cast<const TVARRANGECHILDREN*>(lParam);
     const ItemIndex parent = pArrange ? m_items.FindParent(pArrange->hParent) : kNoItem;
     if (parent == kNoItem || m_items.Goes(parent) || pArrange->cChildren != m_items.ChildCount(parent))
         return FALSE;

@@ -35,9 +35,9 @@ public:
     static bool IsNeededBy(UINT message, WPARAM wParam);
 
     void Doubt(ItemIndex parent); // its children's labels or places have changed
-    LRESULT OnSortChildren(WPARAM, LPARAM lParam);
-    LRESULT OnSortChildrenCB(WPARAM, LPARAM lParam);
-    LRESULT OnArrangeChildren(WPARAM, LPARAM lParam);
+    BOOL OnSortChildren(WPARAM, HTREEITEM hParent);
+    BOOL OnSortChildrenCB(WPARAM, const TVSORTCB* pSort);
+    BOOL OnArrangeChildren(WPARAM, const TVARRANGECHILDREN* pArrange);
 
 private:
     void SettleGathered();

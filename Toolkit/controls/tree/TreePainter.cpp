@@ -28,7 +28,7 @@ void DrawLine(HDC hdc, const CRect& rect)
 
 } // namespace
 
-LRESULT TreePainter::OnPaint(WPARAM, LPARAM)
+void TreePainter::OnPaint() const
 {
     int width = 0;
     bool complete = false;
@@ -37,7 +37,6 @@ LRESULT TreePainter::OnPaint(WPARAM, LPARAM)
         width = DrawRows(paint, paint.GetPaintRect(), complete);
     }
     m_viewport.TakeWidth(width, complete);
-    return 0;
 }
 
 // The owner may change the tree while it is asked what to show: then all is painted anew.

@@ -20,7 +20,7 @@ public:
           m_mouse(mouse)
     {}
 
-    LRESULT OnPaint(WPARAM, LPARAM);
+    void OnPaint() const;
 
 private:
     enum class Mark

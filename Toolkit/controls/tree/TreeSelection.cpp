@@ -5,12 +5,11 @@
 namespace toolkit
 {
 
-LRESULT TreeSelection::OnSelectItem(WPARAM wParam, LPARAM lParam)
+BOOL TreeSelection::OnSelectItem(UINT code, HTREEITEM hItem)
 {
-    const auto hItem = reinterpret_cast<HTREEITEM>(lParam);
     if (hItem && m_items.Find(hItem) == kNoItem)
         return FALSE;
-    switch (wParam) {
+    switch (code) {
     case TVGN_CARET:
         return Select(hItem, TVC_UNKNOWN);
     case TVGN_FIRSTVISIBLE:
@@ -79,11 +78,6 @@ void TreeSelection::SetState(ItemIndex index, UINT state, UINT mask)
         m_viewport.Redraw(m_hCaret); // it steps back while something else is marked
     }
     m_viewport.Redraw(m_items.HandleOf(index));
-}
-
-LRESULT TreeSelection::OnExpand(WPARAM wParam, LPARAM lParam)
-{
-    return Expand(reinterpret_cast<HTREEITEM>(lParam), static_cast<UINT>(wParam), TVC_UNKNOWN);
 }
 
 bool TreeSelection::Expand(HTREEITEM hItem, UINT code, UINT cause)
@@ -156,10 +150,10 @@ bool TreeSelection::Reveal(HTREEITEM hItem)
     return expanded;
 }
 
-LRESULT TreeSelection::OnEnsureVisible(WPARAM, LPARAM lParam)
+BOOL TreeSelection::OnEnsureVisible(WPARAM, HTREEITEM hItem)
 {
     const int top = m_layout.TopRow();
-    return !Reveal(reinterpret_cast<HTREEITEM>(lParam)) && m_layout.TopRow() != top;
+    return !Reveal(hItem) && m_layout.TopRow() != top;
 }
 
 void TreeSelection::ExpandBranch(HTREEITEM hTop)

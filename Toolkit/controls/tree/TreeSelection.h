@@ -19,7 +19,7 @@ public:
     bool IsChanging() const { return m_changes > 0; }
     bool Select(HTREEITEM hItem, UINT cause); // is it the selected one now?
     void Forget() { m_hCaret = nullptr; }     // tells nobody
-    LRESULT OnSelectItem(WPARAM wParam, LPARAM lParam);
+    BOOL OnSelectItem(UINT code, HTREEITEM hItem);
 
     bool HasDropMarks() const { return m_dropMarks > 0; }
     void SetState(ItemIndex item, UINT state, UINT mask); // TVIS_*, of those that need no asking
@@ -29,8 +29,8 @@ public:
     bool ExpandAncestors(HTREEITEM hItem);
     bool Reveal(HTREEITEM hItem); // expands ancestors and scrolls
     void ExpandBranch(HTREEITEM hTop);
-    LRESULT OnExpand(WPARAM wParam, LPARAM lParam);
-    LRESULT OnEnsureVisible(WPARAM, LPARAM lParam);
+    BOOL OnExpand(UINT code, HTREEITEM hItem) { return Expand(hItem, code, TVC_UNKNOWN); }
+    BOOL OnEnsureVisible(WPARAM, HTREEITEM hItem);
 
 private:
     bool MaySelect(HTREEITEM hItem) const;

@@ -24,33 +24,30 @@ int TreeViewport::TextWidth(ItemIndex item, const std::string& text) const
     return CurrentTextEngine().Measure(text, FontOf(item));
 }
 
-LRESULT TreeViewport::OnGetItemRect(WPARAM wParam, LPARAM lParam)
+BOOL TreeViewport::OnGetItemRect(BOOL label, RECT* pRect) const
 {
-    auto* const pRect = reinterpret_cast<RECT*>(lParam);
     if (!pRect)
         return FALSE;
     HTREEITEM hItem = nullptr;
     std::memcpy(&hItem, pRect, sizeof(hItem));
-    const std::string text = wParam == FALSE ? std::string() : m_owner.AskText(hItem);
+    const std::string text = label ? m_owner.AskText(hItem) : std::string();
 
     const ItemIndex item = m_items.Find(hItem);
     const int row = m_items.RowOf(item);
     if (row < 0)
         return FALSE;
-    *pRect =
-        wParam == FALSE ? m_layout.RowRect(row) : m_layout.LabelBox(row, m_items.Level(item), TextWidth(item, text));
+    *pRect = label ? m_layout.LabelBox(row, m_items.Level(item), TextWidth(item, text)) : m_layout.RowRect(row);
     return TRUE;
 }
 
-LRESULT TreeViewport::OnHitTest(WPARAM, LPARAM lParam)
+HTREEITEM TreeViewport::OnHitTest(WPARAM, TVHITTESTINFO* pInfo) const
 {
-    auto* const pInfo = reinterpret_cast<TVHITTESTINFO*>(lParam);
     if (!pInfo)
-        return 0;
+        return nullptr;
     const Hit hit = HitTest(pInfo->pt);
     pInfo->hItem = hit.hItem;
     pInfo->flags = hit.flags;
-    return reinterpret_cast<LRESULT>(hit.hItem);
+    return hit.hItem;
 }
 
 UINT TreeViewport::Outside(CPoint client) const
@@ -108,10 +105,7 @@ void TreeViewport::Redraw(HTREEITEM hItem) const
 
 void TreeViewport::Measure()
 {
-    int cx = 0, cy = 0;
-    if (!ImageList_GetIconSize(m_control.Images(), &cx, &cy))
-        cx = cy = 0;
-    m_layout.SetMeasures(CurrentTextEngine().LineHeight(), {cx, cy});
+    m_layout.SetMeasures(CurrentTextEngine().LineHeight(), m_control.ImageSize());
     m_layout.SetButtonsAtRoot(m_control.Is(TVS_LINESATROOT) && m_control.Is(TVS_HASLINES | TVS_HASBUTTONS));
     m_bWidthStale = true;
 }
@@ -287,28 +281,26 @@ void TreeViewport::ScrollIntoView(HTREEITEM hItem)
     ScrollToX(m_layout.XToShow(m_layout.LeftOf(level), right));
 }
 
-LRESULT TreeViewport::OnVScroll(WPARAM wParam, LPARAM)
+void TreeViewport::OnVScroll(WPARAM wParam)
 {
-    ScrollToRow(static_cast<int>(m_control.ScrollTarget(SB_VERT, wParam, m_layout.TopRow(), 1, m_layout.FullRows())));
-    return 0;
+    const int page = m_layout.FullRows();
+    ScrollToRow(static_cast<int>(m_control.ScrollTarget(SB_VERT, wParam, m_layout.TopRow(), 1, page)));
 }
 
-LRESULT TreeViewport::OnHScroll(WPARAM wParam, LPARAM)
+void TreeViewport::OnHScroll(WPARAM wParam)
 {
-    ScrollToX(
-        static_cast<int>(m_control.ScrollTarget(SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, m_layout.Client().cx)));
-    return 0;
+    const int page = m_layout.Client().cx;
+    ScrollToX(static_cast<int>(m_control.ScrollTarget(SB_HORZ, wParam, m_layout.X(), kPixelsPerStep, page)));
 }
 
 // With Shift it scrolls sideways.
-LRESULT TreeViewport::OnMouseWheel(WPARAM wParam, LPARAM)
+void TreeViewport::OnMouseWheel(WPARAM wParam)
 {
     const int rows = m_control.WheelSteps(wParam, kRowsPerNotch);
     if (LOWORD(wParam) & MK_SHIFT)
         ScrollToX(m_layout.X() - rows * kPixelsPerStep);
     else
         ScrollToRow(m_layout.TopRow() - rows);
-    return 0;
 }
 
 } // namespace toolkit

@@ -48,13 +48,12 @@ public:
     void ScrollToX(int x);
     void ScrollIntoView(HTREEITEM hItem);
 
-    LRESULT OnVScroll(WPARAM wParam, LPARAM);
-    LRESULT OnHScroll(WPARAM wParam, LPARAM);
-    LRESULT OnMouseWheel(WPARAM wParam, LPARAM);
-    LRESULT OnGetVisibleCount(WPARAM, LPARAM) { return m_layout.FullRows(); }
-    LRESULT OnGetItemHeight(WPARAM, LPARAM) { return m_layout.RowHeight(); }
-    LRESULT OnGetItemRect(WPARAM wParam, LPARAM lParam);
-    LRESULT OnHitTest(WPARAM, LPARAM lParam);
+    void OnVScroll(WPARAM wParam);
+    void OnHScroll(WPARAM wParam);
+    void OnMouseWheel(WPARAM wParam);
+    int OnGetVisibleCount() const { return m_layout.FullRows(); }
+    BOOL OnGetItemRect(BOOL label, RECT* pRect) const;
+    HTREEITEM OnHitTest(WPARAM, TVHITTESTINFO* pInfo) const;
     bool OnSize(); // was there nothing to see before?
 
 private:

@@ -1,4 +1,5 @@
-#include "Toolkit/controls/list/ListKeys.h"
+// The list control under the keyboard.
+#include "Toolkit/controls/list/ListControl.h"
 
 namespace toolkit
 {
@@ -13,27 +14,26 @@ bool IsDown(int vkey)
 
 } // namespace
 
-LRESULT ListKeys::OnKeyDown(WPARAM wParam, LPARAM lParam)
+LRESULT ListControl::OnKeyDown(UINT vkey, LPARAM lParam)
 {
-    const UINT vkey = static_cast<UINT>(wParam);
-    const int row = m_layout.RowByKey(m_selection.Rows().Focus(), vkey);
-    m_control.Labels().StopWaiting();
+    const int row = m_layout.RowByKey(Rows().Focus(), vkey);
+    Labels().StopWaiting();
     if (row >= 0)
         MoveFocus(row, vkey == VK_HOME || vkey == VK_END);
     else if (vkey == VK_SPACE)
         PressSpace();
     else if (vkey == VK_RETURN)
-        m_control.Notify(NM_RETURN);
+        Notify(NM_RETURN);
     else if (vkey == 'A' && IsDown(VK_CONTROL))
         m_selection.ChangeAll(LVIS_SELECTED, LVIS_SELECTED);
     else if (vkey == VK_ESCAPE && m_mouse.IsPressed())
         m_mouse.Cancel();
     else
-        return ::DefWindowProc(m_control.m_hWnd, WM_KEYDOWN, wParam, lParam);
+        return ::DefWindowProc(m_hWnd, WM_KEYDOWN, vkey, lParam);
     return 0;
 }
 
-void ListKeys::MoveFocus(int row, bool allBetween)
+void ListControl::MoveFocus(int row, bool allBetween)
 {
     const bool control = IsDown(VK_CONTROL);
     if (IsDown(VK_SHIFT))
@@ -46,9 +46,9 @@ void ListKeys::MoveFocus(int row, bool allBetween)
         m_viewport.Show(row);
 }
 
-void ListKeys::PressSpace()
+void ListControl::PressSpace()
 {
-    const int row = m_selection.Rows().Focus();
+    const int row = Rows().Focus();
     if (row < 0)
         return;
     if (IsDown(VK_CONTROL))
