@@ -7,7 +7,7 @@
 #include "Editor/objects/ErrorInfo.h"
 #include "Editor/objects/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/host/IconHolder.h"
+#include "Views/host/inside/IconHolder.h"
 
 #include <algorithm>
 

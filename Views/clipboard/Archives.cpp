@@ -5,13 +5,13 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/exchange/StgMedium.h"
-#include "Views/clipboard/FileArchive.h"
-#include "Views/clipboard/FileHandle.h"
+#include "Views/clipboard/inside/FileArchive.h"
+#include "Views/clipboard/inside/FileHandle.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IMemoryStream.h"
-#include "Views/host/LoadedServices.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
+#include "Views/host/inside/LoadedServices.h"
 
 #include <algorithm>
 #include <optional>

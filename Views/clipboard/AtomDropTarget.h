@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Toolkit/exchange/DropTarget.h"
-#include "Views/clipboard/Drags.h"
+#include "Views/clipboard/inside/Drags.h"
 #include "Views/host/Api.h"
 #include "Views/host/IAtomContainer.h"
 

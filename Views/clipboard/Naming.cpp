@@ -5,10 +5,10 @@
 #include "Views/host/IAtomContainer.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/IMyErrorInfo.h"
-#include "Views/host/ReadName.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
+#include "Views/host/inside/ReadName.h"
 
 namespace
 {

@@ -5,9 +5,9 @@
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IAtomContainer.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
+#include "Views/host/inside/ReadName.h"
 
 namespace
 {

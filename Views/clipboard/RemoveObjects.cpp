@@ -4,7 +4,7 @@
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/window/WindowApi.h"
 #include "Views/clipboard/Commands.h"
-#include "Views/clipboard/RemovedAtoms.h"
+#include "Views/clipboard/inside/RemovedAtoms.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"

@@ -2,7 +2,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Views/clipboard/Archives.h"
-#include "Views/clipboard/FileHandle.h"
+#include "Views/clipboard/inside/FileHandle.h"
 #include "Views/host/IArchive.h"
 
 #include <cstdlib>

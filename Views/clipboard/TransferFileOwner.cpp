@@ -3,7 +3,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Files.h"
 #include "Views/clipboard/Archives.h"
-#include "Views/clipboard/HeldFiles.h"
+#include "Views/clipboard/inside/HeldFiles.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/IAtomEditor.h"

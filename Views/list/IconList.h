@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/list/FreeImages.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/FreeImages.h"
 
 // Pictures are 48 pixels wide and as high as the host's bitmap IDB_LIST_ITEMS (Resources.h), whose first picture serves
 // atoms without an icon. The images of rows that leave the cache are used again for rows that enter it, the longest

@@ -1,10 +1,10 @@
 #include "Views/list/ObjectsList.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Views/host/AddPane.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
-#include "Views/list/MemberOrder.h"
+#include "Views/host/inside/AddPane.h"
+#include "Views/list/inside/MemberOrder.h"
 
 namespace
 {

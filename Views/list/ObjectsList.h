@@ -2,14 +2,14 @@
 #pragma once
 
 #include "Toolkit/controls/list/ListCtrl.h"
-#include "Views/clipboard/EditedName.h"
-#include "Views/host/HandlerRegistration.h"
-#include "Views/host/HeldPair.h"
+#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/StateHandler.h"
-#include "Views/list/AppendedRows.h"
+#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/list/ListDropTarget.h"
-#include "Views/list/ObjectsListCache.h"
+#include "Views/list/inside/AppendedRows.h"
+#include "Views/list/inside/ObjectsListCache.h"
 
 #include <unordered_set>
 #include <vector>

@@ -3,9 +3,9 @@
 #include "Toolkit/base/Ticks.h"
 #include "Views/host/IDispAtom.h"
 #include "Views/host/IMyErrorInfo.h"
-#include "Views/host/ReadName.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
 
 #include <algorithm>

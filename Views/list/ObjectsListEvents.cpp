@@ -3,7 +3,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/list/ObjectsList.h"
-#include "Views/list/UpdateLock.h"
+#include "Views/list/inside/UpdateLock.h"
 
 #include <algorithm>
 

@@ -1,8 +1,8 @@
 // The mouse in the list view, beyond selection. What is dropped on it is in ListDropTarget.cpp.
-#include "Views/clipboard/Drags.h"
-#include "Views/host/EditorMenu.h"
+#include "Views/clipboard/inside/Drags.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorMenu.h"
 #include "Views/list/ObjectsList.h"
 
 // Opens the row under the cursor, in every view.

@@ -2,8 +2,8 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
 #include "Views/host/IPhase.h"
-#include "Views/host/LinkOrder.h"
-#include "Views/host/ReadName.h"
+#include "Views/host/inside/LinkOrder.h"
+#include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
 
 #include <algorithm>

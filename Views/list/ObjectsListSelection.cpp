@@ -1,11 +1,11 @@
 // Selection and focus: what the list view tells the editor of them, and what it takes from it.
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/OfferSave.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/OfferSave.h"
 #include "Views/list/ObjectsList.h"
-#include "Views/list/SyncPause.h"
-#include "Views/list/UpdateLock.h"
+#include "Views/list/inside/SyncPause.h"
+#include "Views/list/inside/UpdateLock.h"
 
 namespace
 {

@@ -4,9 +4,9 @@
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/host/IAtomIcon.h"
 #include "Views/host/IAtomThumbnail.h"
-#include "Views/list/FreeImages.h"
-#include "Views/list/MaskedBitmap.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/FreeImages.h"
+#include "Views/list/inside/MaskedBitmap.h"
 
 #include <unordered_map>
 

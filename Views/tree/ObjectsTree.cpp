@@ -1,10 +1,10 @@
 // The tree view's life, from Create to its window's end.
 #include "Views/tree/ObjectsTree.h"
 
-#include "Views/host/AddPane.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/AddPane.h"
 #include "Views/tree/TreeDropTarget.h"
 
 namespace

@@ -3,12 +3,12 @@
 
 #include "Toolkit/controls/tree/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/clipboard/EditedName.h"
-#include "Views/host/HandlerRegistration.h"
-#include "Views/host/HeldPair.h"
+#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/StateHandler.h"
-#include "Views/tree/TreeIconSlots.h"
-#include "Views/tree/TreeRecords.h"
+#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/HeldPair.h"
+#include "Views/tree/inside/TreeIconSlots.h"
+#include "Views/tree/inside/TreeRecords.h"
 
 #include <memory>
 #include <unordered_set>

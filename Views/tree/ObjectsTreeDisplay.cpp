@@ -6,7 +6,7 @@
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/tree/ObjectsTree.h"
-#include "Views/tree/TreeLabel.h"
+#include "Views/tree/inside/TreeLabel.h"
 
 namespace
 {

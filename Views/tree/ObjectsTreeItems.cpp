@@ -2,8 +2,8 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/host/Resources.h"
-#include "Views/tree/MemberKeys.h"
 #include "Views/tree/ObjectsTree.h"
+#include "Views/tree/inside/MemberKeys.h"
 
 #include <memory>
 #include <utility>

@@ -1,8 +1,8 @@
 // The mouse in the tree, beyond selection, and the keys. What is dropped on it is in TreeDropTarget.cpp.
-#include "Views/clipboard/Drags.h"
-#include "Views/host/EditorMenu.h"
+#include "Views/clipboard/inside/Drags.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorMenu.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Also where a key has asked for it.

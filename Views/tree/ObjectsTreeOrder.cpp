@@ -3,10 +3,10 @@
 #include "Toolkit/base/Text.h"
 #include "Views/host/IDispAtom.h"
 #include "Views/host/IPhase.h"
-#include "Views/host/LinkOrder.h"
-#include "Views/host/ReadName.h"
-#include "Views/tree/MemberKeys.h"
+#include "Views/host/inside/LinkOrder.h"
+#include "Views/host/inside/ReadName.h"
 #include "Views/tree/ObjectsTree.h"
+#include "Views/tree/inside/MemberKeys.h"
 
 namespace
 {

@@ -1,8 +1,8 @@
 // Selection and focus: what the tree asks and tells the editor of them.
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/OfferSave.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/OfferSave.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Nothing is sent for the item that is selected already: an announcement of the tree's own that comes back ends here.

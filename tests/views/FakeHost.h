@@ -5,8 +5,8 @@
 #pragma once
 
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/host/HeldPair.h"
 #include "Views/host/host.h"
+#include "Views/host/inside/HeldPair.h"
 #include "tests/kernel/FakeCounted.h"
 #include "tests/kernel/FakeService.h"
 #include "tests/support/Ledger.h"

@@ -1,7 +1,7 @@
 // What the views are made of and knows no window: the map of cached rows, the images lent to items, the one label.
-#include "Views/list/ObjectsListCache.h"
-#include "Views/tree/TreeIconSlots.h"
-#include "Views/tree/TreeLabel.h"
+#include "Views/list/inside/ObjectsListCache.h"
+#include "Views/tree/inside/TreeIconSlots.h"
+#include "Views/tree/inside/TreeLabel.h"
 
 #include <gtest/gtest.h>
 #include <string>

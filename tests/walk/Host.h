@@ -3,7 +3,7 @@
 // Every call that a view makes of the host passes through Called, where a step may have armed something rude.
 #pragma once
 
-#include "Views/host/HeldPair.h"
+#include "Views/host/inside/HeldPair.h"
 #include "tests/kernel/FakeService.h"
 #include "tests/walk/Atom.h"
 

@@ -1,4 +1,4 @@
-#include "Views/clipboard/HeldFiles.h"
+#include "Views/clipboard/inside/HeldFiles.h"
 
 #include <fcntl.h>
 #include <map>

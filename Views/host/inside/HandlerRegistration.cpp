@@ -1,4 +1,4 @@
-#include "Views/host/HandlerRegistration.h"
+#include "Views/host/inside/HandlerRegistration.h"
 
 #include "Toolkit/window/WindowApi.h"
 #include "Views/host/IAtomEditor.h"

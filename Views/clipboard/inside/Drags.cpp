@@ -1,8 +1,8 @@
-#include "Views/clipboard/Drags.h"
+#include "Views/clipboard/inside/Drags.h"
 
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/Commands.h"
-#include "Views/clipboard/FileArchive.h"
+#include "Views/clipboard/inside/FileArchive.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 

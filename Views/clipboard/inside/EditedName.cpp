@@ -1,9 +1,9 @@
-#include "Views/clipboard/EditedName.h"
+#include "Views/clipboard/inside/EditedName.h"
 
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IAtom.h"
-#include "Views/host/ReadName.h"
+#include "Views/host/inside/ReadName.h"
 
 LPSTR views::EditedName::Begin(IAtom* pAtom)
 {

@@ -1,4 +1,4 @@
-#include "Views/tree/TreeLabel.h"
+#include "Views/tree/inside/TreeLabel.h"
 
 void views::EndLabel(char* pszLabel, std::size_t nLength, bool bModified)
 {

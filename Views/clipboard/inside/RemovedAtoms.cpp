@@ -1,11 +1,11 @@
-#include "Views/clipboard/RemovedAtoms.h"
+#include "Views/clipboard/inside/RemovedAtoms.h"
 
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/Naming.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/ReadName.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/ReadName.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "Views/tree/TreeRecords.h"
+#include "Views/tree/inside/TreeRecords.h"
 
 #include <utility>
 

@@ -1,4 +1,4 @@
-#include "Views/tree/TreeIconSlots.h"
+#include "Views/tree/inside/TreeIconSlots.h"
 
 const views::ICONSLOT* views::TreeIconSlots::Find(HTREEITEM hItem) const
 {

@@ -1,8 +1,8 @@
-#include "Views/list/MemberOrder.h"
+#include "Views/list/inside/MemberOrder.h"
 
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IPhase.h"
-#include "Views/host/NameKeys.h"
+#include "Views/host/inside/NameKeys.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -1,4 +1,4 @@
-#include "Views/host/LinkOrder.h"
+#include "Views/host/inside/LinkOrder.h"
 
 #include "Views/host/IAtom.h"
 #include "Views/host/IPhase.h"

@@ -1,6 +1,6 @@
-#include "Views/host/NameKeys.h"
+#include "Views/host/inside/NameKeys.h"
 
-#include "Views/host/ReadName.h"
+#include "Views/host/inside/ReadName.h"
 
 bool views::NameKeys::Add(IAtom* pAtom)
 {

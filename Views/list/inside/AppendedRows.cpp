@@ -1,7 +1,7 @@
-#include "Views/list/AppendedRows.h"
+#include "Views/list/inside/AppendedRows.h"
 
 #include "Toolkit/base/Text.h"
-#include "Views/host/ReadName.h"
+#include "Views/host/inside/ReadName.h"
 
 #include <algorithm>
 #include <iterator>

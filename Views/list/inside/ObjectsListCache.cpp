@@ -1,4 +1,4 @@
-#include "Views/list/ObjectsListCache.h"
+#include "Views/list/inside/ObjectsListCache.h"
 
 #include <utility>
 

@@ -1,9 +1,9 @@
-#include "Views/host/AddPane.h"
+#include "Views/host/inside/AddPane.h"
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/IconHolder.h"
+#include "Views/host/inside/IconHolder.h"
 
 namespace
 {

@@ -1,4 +1,4 @@
-#include "Views/host/OfferSave.h"
+#include "Views/host/inside/OfferSave.h"
 
 #include "Views/host/IAtom.h"
 #include "Views/host/IAtomEditor.h"

@@ -1,4 +1,4 @@
-#include "Views/host/EditorMenu.h"
+#include "Views/host/inside/EditorMenu.h"
 
 #include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
