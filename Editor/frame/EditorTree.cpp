@@ -91,7 +91,7 @@ void CEditorTree::OnGetDispInfo(TVDISPINFO* pInfo)
 {
     TVITEM& item = pInfo->item;
     const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(item.lParam);
-    if (!(item.mask & TVIF_CHILDREN) || !pRecord || pRecord->bMembersShown)
+    if (!(item.mask & TVIF_CHILDREN) || !pRecord || AreMembersShown(item.hItem))
         return;
     if (auto* const pContainer = dynamic_cast<CContainer*>(pRecord->pAtom.Get()))
         item.cChildren = pContainer->HoldsAny() ? 1 : 0;

@@ -7,7 +7,6 @@
 #include "Editor/objects/ErrorInfo.h"
 #include "Editor/objects/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/host/inside/IconHolder.h"
 
 #include <algorithm>
 
@@ -148,7 +147,8 @@ int CMember::AddToImageList(HIMAGELIST hImageList, int nReplace)
     int cx = 0, cy = 0;
     if (!ImageList_GetIconSize(hImageList, &cx, &cy))
         return -1;
-    const views::IconHolder hIcon(CreateIconFromSurface(DrawIcon({cx, cy})));
+    const std::unique_ptr<HICON__, decltype(&DestroyIcon)> hIcon(CreateIconFromSurface(DrawIcon({cx, cy})),
+                                                                 &DestroyIcon);
     return ImageList_ReplaceIcon(hImageList, nReplace, hIcon.get());
 }
 

@@ -9,9 +9,8 @@
 #include "Views/clipboard/inside/FileHandle.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IMemoryStream.h"
-#include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
-#include "Views/host/inside/LoadedServices.h"
+#include "Views/host/inside/ServiceCalls.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,12 +1,19 @@
-// Inside the library: what the drop targets of all views have in common.
+// What the drop targets of all views have in common.
 #pragma once
 
 #include "Toolkit/exchange/DropTarget.h"
-#include "Views/clipboard/inside/Drags.h"
 #include "Views/host/Api.h"
+#include "Views/host/IArchive.h"
 #include "Views/host/IAtomContainer.h"
+#include "Views/host/StubRef.h"
 
+#include <memory>
 #include <optional>
+
+namespace views
+{
+class DraggedAtoms;
+}
 
 // Takes atoms that are dropped on a view. Which container is meant, and what is highlighted, the view's own class says.
 //
@@ -14,6 +21,7 @@
 class VIEWS_API CAtomDropTarget : public COleDropTarget
 {
 public:
+    ~CAtomDropTarget() override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
     // Both only let go of what was read of the drag.
     void OnDragLeave(CWnd* pWnd) override;
@@ -26,20 +34,29 @@ protected:
 
     static DROPEFFECT WantedEffect(DWORD dwKeyState); // a move, or a copy with Ctrl
     bool Offers(CWnd* pWnd, COleDataObject* pDataObject) const;
-    views::DraggedAtoms::Look LookAt(COleDataObject* pDataObject) { return m_atoms.LookAt(pDataObject, m_cfAtoms); }
+    // An archive of what is dragged, empty where there is none; nothing when it does not come in global memory.
+    std::optional<CStubRef<IArchive>> LookAt(COleDataObject* pDataObject);
     // What CheckPaste says of a drop that has the effect. Nothing when the view's window is gone.
     std::optional<DWORD> Check(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect);
     // What Check has found last.
     DWORD GetVerdict() const { return m_dwVerdict; }
 
-    // The drag is over no place any more; takes the highlight away.
-    virtual void ForgetPlace() = 0;
-    // The container that a drop at that point is meant for, empty where none is. Nothing: no drop.
-    virtual std::optional<CStubRef<IAtomContainer>> FindContainer(CPoint point) const = 0;
+    // The same of the container at a place, which is where the drag is from now on, marked when it would be taken: the
+    // effect.
+    DROPEFFECT OverPlace(INT_PTR nPlace, IArchive* pArchive, DROPEFFECT effect);
+    void ForgetPlace(); // the drag is over none any more
+
+    // A place is a row's number or an item's handle.
+    virtual INT_PTR PlaceAt(CPoint point) const = 0;
+    virtual void MarkPlace(INT_PTR nPlace, bool bMarked) = 0;
+    // The container that a drop there is meant for, empty where none is. Nothing: no drop.
+    virtual std::optional<CStubRef<IAtomContainer>> ContainerAt(INT_PTR nPlace) const = 0;
+
+    INT_PTR m_nPlace = -1; // where the drag was at its previous movement; -1: at none
 
 private:
     const CLIPFORMAT m_cfAtoms; // under which atoms travel
     CWnd* m_pView = nullptr;
-    views::DraggedAtoms m_atoms;
+    const std::unique_ptr<views::DraggedAtoms> m_pAtoms;
     DWORD m_dwVerdict = 0;
 };

@@ -6,9 +6,9 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/IMyErrorInfo.h"
 #include "Views/host/Resources.h"
-#include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
 #include "Views/host/inside/ReadName.h"
+#include "Views/host/inside/ServiceCalls.h"
 
 namespace
 {

@@ -1,8 +1,7 @@
 #include "Views/host/InterfaceIds.h"
 
 #include "Kernel/Kernel.h"
-#include "Views/host/Services.h"
-#include "Views/host/inside/LoadedServices.h"
+#include "Views/host/inside/ServiceCalls.h"
 
 // All that the library does at load, in one file because only there the order is certain. The order is part of
 // the contract with the kernel, which may number the names as they come.

@@ -37,9 +37,3 @@ VIEWS_API IAtomEditor* GetAtomEditor();
 // Has the host show an object's error (borrowed, may be NULL) under the caption of that string resource. Nothing
 // happens without a provider.
 VIEWS_API void ShowAtomError(HWND owner, UINT nCaptionID, IMyErrorInfo* error);
-
-namespace views
-{
-// Inside the library: for whoever has the caption before the error is asked for.
-VIEWS_API void ShowAtomError(HWND owner, LPCSTR pszCaption, IMyErrorInfo* error);
-} // namespace views

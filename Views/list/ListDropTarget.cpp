@@ -9,32 +9,33 @@ BOOL CListDropTarget::Register(CObjectsList* pList)
     return CAtomDropTarget::Register(pList);
 }
 
-// Of every row when none is known.
-void CListDropTarget::ClearHighlight()
+INT_PTR CListDropTarget::PlaceAt(CPoint point) const
 {
-    m_pList->SetItemState(m_nDropItem, 0, LVIS_DROPHILITED);
+    return m_pList->HitTest(point);
 }
 
-void CListDropTarget::ForgetPlace()
+// Every row when none is known.
+void CListDropTarget::MarkPlace(INT_PTR nPlace, bool bMarked)
 {
-    ClearHighlight();
-    m_nDropItem = -1;
+    m_pList->SetItemState(static_cast<int>(nPlace), bMarked ? LVIS_DROPHILITED : 0, LVIS_DROPHILITED);
 }
 
-std::optional<CStubRef<IAtomContainer>> CListDropTarget::FindContainer(CPoint point) const
+std::optional<CStubRef<IAtomContainer>> CListDropTarget::ContainerAt(INT_PTR nPlace) const
 {
-    const int nRow = m_pList->HitTest(point);
-    return nRow < 0 ? m_pList->ShareContainer() : m_pList->ContainerInRow(nRow);
+    return nPlace < 0 ? m_pList->ShareContainer() : m_pList->ContainerInRow(static_cast<int>(nPlace));
 }
 
 DROPEFFECT CListDropTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
-    const auto pArchive = Offers(pWnd, pDataObject) ? LookAt(pDataObject).pArchive : nullptr;
-    if (!pArchive)
+    const auto archive = Offers(pWnd, pDataObject) ? LookAt(pDataObject) : std::nullopt;
+    if (!archive || !*archive)
         return DROPEFFECT_NONE;
-    const DROPEFFECT effect = WantedEffect(dwKeyState);
-    const int nRow = m_pList->HitTest(point);
-    return nRow < 0 ? OverEmptySpace(pArchive.Get(), effect) : OverRow(nRow, pArchive.Get(), effect);
+    const INT_PTR nRow = PlaceAt(point);
+    if (nRow < 0)
+        return OverEmptySpace(archive->Get(), WantedEffect(dwKeyState));
+    if (m_nPlace != nRow)
+        MarkPlace(m_nPlace, false);
+    return OverPlace(nRow, archive->Get(), WantedEffect(dwKeyState));
 }
 
 DROPEFFECT CListDropTarget::OverEmptySpace(IArchive* pArchive, DROPEFFECT effect)
@@ -43,20 +44,7 @@ DROPEFFECT CListDropTarget::OverEmptySpace(IArchive* pArchive, DROPEFFECT effect
     if (!verdict)
         return DROPEFFECT_NONE;
     if (*verdict != PASTE_REFUSED)
-        ClearHighlight();
-    m_nDropItem = -1;
+        MarkPlace(m_nPlace, false);
+    m_nPlace = -1;
     return *verdict != PASTE_REFUSED ? effect : DROPEFFECT_NONE;
-}
-
-DROPEFFECT CListDropTarget::OverRow(int nRow, IArchive* pArchive, DROPEFFECT effect)
-{
-    if (m_nDropItem != nRow)
-        ClearHighlight();
-    const auto verdict = Check(pArchive, m_pList->ContainerInRow(nRow).Get(), effect);
-    if (!verdict)
-        return DROPEFFECT_NONE;
-    if (*verdict != PASTE_REFUSED && m_nDropItem != nRow)
-        m_pList->SetItemState(nRow, LVIS_DROPHILITED, LVIS_DROPHILITED);
-    m_nDropItem = nRow;
-    return *verdict == PASTE_ANY ? effect : *verdict;
 }

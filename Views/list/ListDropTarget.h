@@ -17,14 +17,12 @@ public:
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
 
 protected:
-    void ForgetPlace() override;
-    std::optional<CStubRef<IAtomContainer>> FindContainer(CPoint point) const override;
+    INT_PTR PlaceAt(CPoint point) const override; // -1: in no row
+    void MarkPlace(INT_PTR nPlace, bool bMarked) override;
+    std::optional<CStubRef<IAtomContainer>> ContainerAt(INT_PTR nPlace) const override;
 
 private:
-    void ClearHighlight();
     DROPEFFECT OverEmptySpace(IArchive* pArchive, DROPEFFECT effect);
-    DROPEFFECT OverRow(int nRow, IArchive* pArchive, DROPEFFECT effect);
 
     CObjectsList* m_pList = nullptr;
-    int m_nDropItem = -1; // the row that the drag was over at its previous movement
 };

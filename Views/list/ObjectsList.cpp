@@ -1,10 +1,15 @@
 #include "Views/list/ObjectsList.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/AddPane.h"
-#include "Views/list/inside/MemberOrder.h"
+#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/HeldPair.h"
+#include "Views/host/inside/ViewFocus.h"
+#include "Views/list/inside/ObjectsListCache.h"
+#include "Views/list/inside/Rows.h"
 
 namespace
 {
@@ -14,6 +19,21 @@ constexpr DWORD kStyle =
     WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN | LVS_ICON | LVS_OWNERDATA | LVS_EDITLABELS | LVS_SHOWSELALWAYS;
 static_assert(kStyle == 0x46001208);
 constexpr int kLoadTries = 10;
+
+// Without memory for the members there are none, and the user has been told. True when names alone order them.
+bool ReadMembers(IAtomContainer* pContainer, views::AtomComparator compare, views::AtomArray& atoms)
+{
+    try {
+        atoms = views::AtomArray(pContainer->GetCount());
+        if (!atoms.empty())
+            pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
+        return views::OrderMembers(atoms, compare);
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        atoms.clear();
+        return false;
+    }
+}
 
 } // namespace
 
@@ -41,7 +61,15 @@ BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
 END_MESSAGE_MAP()
 
 CObjectsList::CObjectsList(UINT nPaneKind, UINT nResourceID, int bPassive)
-    : m_nPaneKind(nPaneKind), m_nResourceID(nResourceID), m_bPassive(bPassive)
+    : m_pRows(std::make_unique<views::Rows>(&CompareFunc)),
+      m_pCache(std::make_unique<CObjectsListCache>()),
+      m_pSpareCache(std::make_unique<CObjectsListCache>()),
+      m_nPaneKind(nPaneKind),
+      m_nResourceID(nResourceID),
+      m_bPassive(bPassive),
+      m_pRegistration(std::make_unique<views::HandlerRegistration>()),
+      m_pFocus(std::make_unique<views::ViewFocus>(*this, bPassive)),
+      m_pEditedName(std::make_unique<views::EditedName>())
 {}
 
 // A window that is still there goes now, while it can still take its handler from the editor. The derived class with
@@ -83,9 +111,10 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
     m_bSync = TRUE;
     m_bClosing = false;
-    m_bHasFocus = m_bFocusFromSelChange = m_bPaneShown = FALSE; // a former window's
+    m_bPaneShown = FALSE; // a former window's
+    m_pFocus->Reset();
     const auto pEditor = EditorToTell();
-    if (pEditor && !m_registration.Begin(pEditor.Get(), m_hWnd, this))
+    if (pEditor && !m_pRegistration->Begin(pEditor.Get(), m_hWnd, this))
         return -1;
     m_dropTarget.Register(this);
     UpdateIndexes();
@@ -95,7 +124,7 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 void CObjectsList::OnDestroy()
 {
     m_bClosing = true;
-    m_registration.End();
+    m_pRegistration->End();
     CListCtrl::OnDestroy();
     ClearContext();
 }
@@ -143,30 +172,14 @@ bool CObjectsList::LoadMembers(unsigned nLoad)
     for (int nTries = 0; nTries < kLoadTries && nLoad == m_nLoads && (nTries == 0 || m_bMembersChanged); ++nTries) {
         m_bLoading = true;
         m_bMembersChanged = false;
-        bByName = ReadMembers(pContainer.Get(), atoms);
+        bByName = ReadMembers(pContainer.Get(), &CompareFunc, atoms);
     }
     if (nLoad != m_nLoads)
         return false;
     m_bLoading = false;
-    m_atoms.swap(atoms);
-    m_nOrdered = bByName ? static_cast<int>(m_atoms.size()) : 0;
-    SetItemCount(static_cast<int>(m_atoms.size()));
+    m_pRows->Show(std::move(atoms), bByName);
+    SetItemCount(m_pRows->GetCount());
     return nLoad == m_nLoads;
-}
-
-// Without memory for the members there are none, and the user has been told. True when names alone order them.
-bool CObjectsList::ReadMembers(IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms)
-{
-    try {
-        atoms = views::AtomArray(pContainer->GetCount());
-        if (!atoms.empty())
-            pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
-        return views::OrderMembers(atoms, &CompareFunc);
-    } catch (CMemoryException& e) {
-        e.ReportError();
-        atoms.clear();
-        return false;
-    }
 }
 
 void CObjectsList::ShowPane()
@@ -197,14 +210,10 @@ unsigned CObjectsList::ClearContext()
     SetItemCount(0);
     m_pCache->RemoveAll();
     m_nCacheFrom = m_nCacheTo = 0;
-    m_nOrdered = 0;
     m_bLoading = false;
-    m_appended.Clear();
-    m_doubted.clear();
-    ++m_nRowMoves;
     {
         const auto pContainer = std::move(m_pContainer); // goes after the atoms
-        const auto atoms = std::exchange(m_atoms, {});   // releasing atoms may re-enter: there are no rows any more
+        const auto atoms = m_pRows->Clear();
     }
     if (nLoad == m_nLoads)
         OnClearContext();
@@ -224,9 +233,7 @@ void CObjectsList::GoToItem(UINT nItem)
 
 OBJPAIR* CObjectsList::PairAt(int nItem) const
 {
-    if (nItem < 0 || static_cast<std::size_t>(nItem) >= m_atoms.size())
-        return nullptr;
-    IAtom* const pAtom = m_atoms[static_cast<std::size_t>(nItem)].Get();
+    IAtom* const pAtom = m_pRows->At(nItem);
     if (!pAtom)
         return nullptr;
     m_pair = {pAtom, m_pContainer.Get()};
@@ -244,12 +251,6 @@ CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
     if (!pPair)
         return {};
     return HELDPAIR::Share(pPair->pAtom, pPair->pContainer);
-}
-
-CStubRef<IAtom> CObjectsList::HoldAtom(int nItem) const
-{
-    const bool bIsRow = nItem >= 0 && static_cast<std::size_t>(nItem) < m_atoms.size();
-    return bIsRow ? CStubRef<IAtom>::Share(m_atoms[static_cast<std::size_t>(nItem)].Get()) : nullptr;
 }
 
 CStubRef<IAtomContainer> CObjectsList::ContainerInRow(int nItem) const

@@ -1,20 +1,25 @@
 // CObjectsList: the list view of the members of one atom container.
 #pragma once
 
+#include "Toolkit/base/String.h"
 #include "Toolkit/controls/list/ListCtrl.h"
-#include "Views/clipboard/inside/EditedName.h"
-#include "Views/host/IAtom.h"
 #include "Views/host/StateHandler.h"
-#include "Views/host/inside/HandlerRegistration.h"
-#include "Views/host/inside/HeldPair.h"
+#include "Views/host/StubRef.h"
 #include "Views/list/ListDropTarget.h"
-#include "Views/list/inside/AppendedRows.h"
-#include "Views/list/inside/ObjectsListCache.h"
 
-#include <unordered_set>
-#include <vector>
+#include <memory>
 
+class CObjectsListCache;
 class IAtomEditor;
+
+namespace views
+{
+class EditedName;
+class HandlerRegistration;
+class Rows;
+class ViewFocus;
+struct HeldPair;
+} // namespace views
 
 // The base of the list views, which add pictures through the cache hooks.
 //
@@ -27,7 +32,13 @@ class IAtomEditor;
 class VIEWS_API CObjectsList : public CListCtrl, public CStateHandler
 {
 public:
-    using CACHEDATA = CObjectsListCache::CACHEDATA;
+    // What is known of a row that was shown.
+    struct CACHEDATA
+    {
+        DWORD dwTick = 0; // when a hint last touched the row
+        int nImage = -1;  // the row's picture in the view's image list
+        CString strText;  // the row's text
+    };
 
     // nPaneKind goes to the editor's AddPane and RemovePane; nResourceID is the host's caption string and icon for the
     // pane.
@@ -113,27 +124,15 @@ private:
 
     CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor and for a passive view
     bool IsListening() const { return m_bSync && m_hWnd && !m_bClosing; } // to the editor
-    bool HasFocus() const { return m_hWnd && ::GetFocus() == m_hWnd; }
 
     void UpdateIndexes();
     // What m_nLoads is now: while it stays so, nothing else has been shown since.
     unsigned ClearContext();
     void GoToItem(UINT nItem);
     bool LoadMembers(unsigned nLoad); // false: something else has been shown meanwhile
-    static bool ReadMembers(IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms);
+    bool NoteWhileLoading();
     void ShowPane();
     void RemovePane();
-
-    CStubRef<IAtom> HoldAtom(int nItem) const; // empty when there is no such row or no atom in it
-    int FindRow(IAtom* pAtom);                 // the first row whose atom compares equal, -1: none
-    int FindEqualRow(IAtom* pAtom);
-    int FindAppendedRow(IAtom* pAtom);
-    bool IndexAppendedRows();                         // false when that cannot be done
-    bool IsSame(int nRow, IAtom* pAtom) const;        // without regard to case
-    void DoubtOrder(IAtom* pChanged, int nCachedRow); // -1: it is not cached
-    void SettleDoubts();
-    void CheckOrder(int nRow);
-    bool NoteWhileLoading();
     void RemoveRow(int nItem);
     void ReloadContainer(IAtomContainer* pContainer);
 
@@ -147,43 +146,32 @@ private:
     int FindCachedRow(IAtom* pAtom) const; // by identity, in the cache's order; -1: none
     void RekeyCache(int nRemoved);
 
-    BOOL Notify(IAtomEditor* pEditor, AEStateOperation operation, const HELDPAIR& pair);
     void MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected);
     void SetAllSelected(bool bSelected);
     void ClearSelection();
     void SelectRow(int nItem); // and give it the focus; nothing for -1
-    bool WelcomesFocus(CWnd* pOldWnd);
     void AnnounceSelection();
     void PostButtonUp();
-    bool TakeFocus();              // false when it was refused
     void MoveLabelEdit(int nItem); // the row whose label is being edited is that one now, -1: gone
 
     CStubRef<IAtomContainer> m_pContainer; // what is shown; empty when nothing is
-    std::vector<CStubRef<IAtom>> m_atoms;  // row i shows m_atoms[i]
-    CObjectsListCache m_cacheMaps[2];      // one is in use, the other serves when rows are re-keyed
-    CObjectsListCache* m_pCache = &m_cacheMaps[0];
-    mutable OBJPAIR m_pair{};             // what GetItemData gives
-    int m_nCacheFrom = 0, m_nCacheTo = 0; // the last hint's rows
+    const std::unique_ptr<views::Rows> m_pRows;
+    std::unique_ptr<CObjectsListCache> m_pCache, m_pSpareCache; // the other one serves when rows are re-keyed
+    mutable OBJPAIR m_pair{};                                   // what GetItemData gives
+    int m_nCacheFrom = 0, m_nCacheTo = 0;                       // the last hint's rows
     // Does the view react? FALSE before there is a window and while the view itself is calling the editor.
     BOOL m_bSync = FALSE;
     const UINT m_nPaneKind;
     const UINT m_nResourceID;
-    views::HandlerRegistration m_registration;
-    CListDropTarget m_dropTarget;
-    BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
-    BOOL m_bFocusFromSelChange = FALSE; // the selection last changed while the view did not have the focus
-    bool m_bFocusLost = false;          // since the last OnSetFocus began
-    bool m_bPressDropped = false;       // the last press, whose focus was refused
     const BOOL m_bPassive;
+    const std::unique_ptr<views::HandlerRegistration> m_pRegistration;
+    const std::unique_ptr<views::ViewFocus> m_pFocus;
+    const std::unique_ptr<views::EditedName> m_pEditedName;
+    CListDropTarget m_dropTarget;
     BOOL m_bPaneShown = FALSE;
     bool m_bClosing = false;        // the window is being destroyed: nothing is shown any more
     bool m_bLoading = false;        // the container is being asked for its members
     bool m_bMembersChanged = false; // while they are read
     unsigned m_nLoads = 0;          // how often the view has been emptied
-    unsigned m_nRowMoves = 0;       // how often rows have got other numbers
     int m_nEdited = -1;             // the row whose label is being edited
-    views::EditedName m_editedName;
-    int m_nOrdered = 0;             // rows before this one stand in the order of their names, but for those of the next
-    views::AppendedRows m_appended; // the others, once one of them has been looked for
-    std::unordered_set<const IAtom*> m_doubted; // atoms that may have a new name; perhaps gone, and never followed
 };

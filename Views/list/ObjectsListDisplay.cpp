@@ -1,12 +1,11 @@
 // What the list view answers when its control draws.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Ticks.h"
-#include "Views/host/IDispAtom.h"
-#include "Views/host/IMyErrorInfo.h"
-#include "Views/host/Resources.h"
-#include "Views/host/Services.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/ObjectsListCache.h"
+#include "Views/list/inside/Rows.h"
 
 #include <algorithm>
 
@@ -24,7 +23,7 @@ void CObjectsList::OnOdCacheHint(NMLVCACHEHINT* pHint, LRESULT* pResult)
     m_nCacheTo = pHint->iTo;
 
     const int nFirst = std::max(pHint->iFrom, 0);
-    const int nLast = std::min(pHint->iTo, static_cast<int>(m_atoms.size()) - 1);
+    const int nLast = std::min(pHint->iTo, m_pRows->GetCount() - 1);
     for (int i = nFirst; i <= nLast; ++i) {
         if (m_pCache->Find(i))
             m_pCache->Touch(i, GetTickCount());
@@ -83,14 +82,9 @@ bool CObjectsList::AwaitsRecord(int nItem, const HELDPAIR& pair) const
 bool CObjectsList::ReadText(IAtom* pAtom, CString& strText)
 {
     try {
-        const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
-        if (pDispAtom ? views::ReadName(pDispAtom.Get(), &IDispAtom::GetDisplayName, strText)
-                      : views::ReadName(pAtom, &IAtom::GetName, strText))
-            return true;
-        const auto pError =
-            pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
-        ShowAtomError(m_hWnd, views::IDS_NAME_FAILED, pError.Get());
-        return false;
+        return views::ReadShownName(*this, pAtom, [&](auto* pSource, auto pfnGet) {
+            return views::ReadName(pSource, pfnGet, strText) != FALSE;
+        });
     } catch (CMemoryException& e) {
         e.ReportError();
         strText.Empty();
@@ -139,10 +133,9 @@ int CObjectsList::FindCachedRow(IAtom* pAtom) const
 // memory for that all records leave, to be read again.
 void CObjectsList::RekeyCache(int nRemoved)
 {
-    CObjectsListCache& spare = m_pCache == &m_cacheMaps[0] ? m_cacheMaps[1] : m_cacheMaps[0];
     try {
-        spare.CopyWithoutRow(*m_pCache, nRemoved);
-        m_pCache = &spare;
+        m_pSpareCache->CopyWithoutRow(*m_pCache, nRemoved);
+        m_pCache.swap(m_pSpareCache);
     } catch (CMemoryException& e) {
         e.ReportError();
         UncacheAll();

@@ -2,7 +2,10 @@
 // ObjectsListSelection.cpp, OnAtomEntered is in ObjectsList.cpp.
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/ObjectsListCache.h"
+#include "Views/list/inside/Rows.h"
 #include "Views/list/inside/UpdateLock.h"
 
 #include <algorithm>
@@ -13,7 +16,7 @@ BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!IsListening() || !pAtom || !IsShown(pContainer) || NoteWhileLoading())
         return TRUE;
     try {
-        m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
+        m_pRows->Append(pAtom);
     } catch (CMemoryException& e) {
         e.ReportError();
         return TRUE;
@@ -39,7 +42,7 @@ BOOL CObjectsList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     }
     if (NoteWhileLoading())
         return TRUE;
-    const int nRow = FindRow(pAtom);
+    const int nRow = m_pRows->Find(pAtom);
     if (nRow < 0)
         return TRUE;
 
@@ -76,13 +79,7 @@ void CObjectsList::RemoveRow(int nItem)
     UncacheRow(nItem);
     m_pCache->Remove(nItem);
     RekeyCache(nItem);
-    const auto pRow = m_atoms.begin() + nItem;
-    const CStubRef<IAtom> pRemoved = std::move(*pRow); // releasing it may re-enter: the row is gone by then
-    m_atoms.erase(pRow);
-    ++m_nRowMoves;
-    m_appended.Remove(nItem);
-    if (nItem < m_nOrdered)
-        --m_nOrdered;
+    const CStubRef<IAtom> pRemoved = m_pRows->Remove(nItem); // released when all is in step again
     if (nItem <= m_nEdited)
         MoveLabelEdit(nItem == m_nEdited ? -1 : m_nEdited - 1);
 }
@@ -92,7 +89,7 @@ BOOL CObjectsList::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (!pAtom)
         return TRUE;
-    DoubtOrder(pAtom, FindCachedRow(pAtom)); // also when nothing else is done: rows must be found afterwards
+    m_pRows->Doubt(pAtom, FindCachedRow(pAtom)); // also when nothing else is done: rows must be found afterwards
     const int nRow = IsListening() ? FindCachedRow(pAtom) : -1;
     if (nRow < 0)
         return TRUE;

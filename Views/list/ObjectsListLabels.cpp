@@ -1,31 +1,23 @@
 // Renaming in the list view: the label of a row is edited in place.
-#include "Toolkit/base/Exception.h"
-#include "Views/clipboard/Naming.h"
+#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/list/ObjectsList.h"
 
 // Whoever is asked may have moved or removed the row: then there is nothing to edit.
 void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     *pResult = -1;
-    const HELDPAIR pair = HoldPair(pInfo->item.iItem);
+    const int nItem = pInfo->item.iItem;
+    const HELDPAIR pair = HoldPair(nItem);
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pair || !pEditor || !CanRenameObject(pair.pAtom.Get(), pair.pContainer.Get()))
+    if (!pEditor || !m_pEditedName->Begin(pair, m_bPassive ? nullptr : pEditor.Get(), this, pInfo->item.pszText))
         return;
-    if (!m_bPassive && !Notify(pEditor.Get(), &IAEStateHandler::PreRenameAtom, pair))
-        return;
-    try {
-        if (const LPSTR pszName = m_editedName.Begin(pair.pAtom.Get()))
-            pInfo->item.pszText = pszName;
-    } catch (CMemoryException& e) {
-        e.ReportError();
-        return;
-    }
-    const OBJPAIR* pNow = PairAt(pInfo->item.iItem);
+    const OBJPAIR* const pNow = PairAt(nItem);
     if (!pNow || pNow->pAtom != pair.pAtom.Get())
         return;
-    m_nEdited = pInfo->item.iItem;
+    m_nEdited = nItem;
     *pResult = 0;
 }
 
@@ -33,8 +25,7 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 void CObjectsList::OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     m_nEdited = -1;
-    const HELDPAIR pair = HoldPair(pInfo->item.iItem);
-    *pResult = m_editedName.End(pair.pAtom.Get(), pair.pContainer.Get(), pInfo->item.pszText) ? 0 : -1;
+    *pResult = m_pEditedName->End(HoldPair(pInfo->item.iItem), pInfo->item.pszText) ? 0 : -1;
 }
 
 // The control knows rows by their numbers alone: it is told where the edited one is, so that the name that is being

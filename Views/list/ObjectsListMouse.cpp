@@ -3,6 +3,7 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/EditorMenu.h"
+#include "Views/host/inside/ViewFocus.h"
 #include "Views/list/ObjectsList.h"
 
 // Opens the row under the cursor, in every view.
@@ -29,31 +30,27 @@ void CObjectsList::OnBeginDrag(NMHDR*, LRESULT* pResult)
     *pResult = pEditor ? 0 : -1;
 }
 
-// The focus comes before the click, which is dropped when the focus is refused; and then so is the press that would
-// make a double click of it.
 void CObjectsList::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    m_bPressDropped = !TakeFocus();
-    if (!m_bPressDropped)
+    if (m_pFocus->TakeForPress())
         CListCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CObjectsList::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    m_bPressDropped = !TakeFocus();
-    if (!m_bPressDropped)
+    if (m_pFocus->TakeForPress())
         CListCtrl::OnRButtonDown(nFlags, point);
 }
 
 void CObjectsList::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (!m_bPressDropped && TakeFocus())
+    if (m_pFocus->TakeForDoubleClick())
         CListCtrl::OnLButtonDblClk(nFlags, point);
 }
 
 void CObjectsList::OnRButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (!m_bPressDropped && TakeFocus())
+    if (m_pFocus->TakeForDoubleClick())
         CListCtrl::OnRButtonDblClk(nFlags, point);
 }
 
@@ -65,11 +62,4 @@ void CObjectsList::OnLButtonUp(UINT nFlags, CPoint point)
 void CObjectsList::OnRButtonUp(UINT nFlags, CPoint point)
 {
     CListCtrl::OnRButtonUp(nFlags, point);
-}
-
-bool CObjectsList::TakeFocus()
-{
-    if (!HasFocus())
-        SetFocus();
-    return HasFocus();
 }

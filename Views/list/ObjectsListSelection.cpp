@@ -2,8 +2,10 @@
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
-#include "Views/host/inside/OfferSave.h"
+#include "Views/host/inside/HeldPair.h"
+#include "Views/host/inside/ViewFocus.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/Rows.h"
 #include "Views/list/inside/SyncPause.h"
 #include "Views/list/inside/UpdateLock.h"
 
@@ -22,11 +24,6 @@ bool Loses(const NMLISTVIEW& change, UINT nState)
 
 } // namespace
 
-BOOL CObjectsList::Notify(IAtomEditor* pEditor, AEStateOperation operation, const HELDPAIR& pair)
-{
-    return pEditor->NotifyHandlers(this, operation, pair.pAtom.Get(), pair.pContainer.Get(), 0);
-}
-
 // Every change of a row is asked for, also one that mirrors another view.
 void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
 {
@@ -34,7 +31,7 @@ void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!IsWindowVisible() || !(pChange->uChanged & LVIF_STATE) || pChange->iItem == -1)
         return;
 
-    m_bFocusFromSelChange = !m_bHasFocus;
+    m_pFocus->NoteSelChange();
     const HELDPAIR pair = HoldPair(pChange->iItem);
     const auto pEditor = EditorToTell();
     if (!pair || !pEditor)
@@ -43,9 +40,9 @@ void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
     const views::SyncPause pause(m_bSync);
     BOOL bAllowed = TRUE;
     if (Gains(*pChange, LVIS_SELECTED))
-        bAllowed = Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelecting, pair);
+        bAllowed = pair.Notify(pEditor.Get(), this, &IAEStateHandler::OnAtomSelecting);
     else if (Loses(*pChange, LVIS_SELECTED))
-        bAllowed = Notify(pEditor.Get(), &IAEStateHandler::OnAtomDeselecting, pair);
+        bAllowed = pair.Notify(pEditor.Get(), this, &IAEStateHandler::OnAtomDeselecting);
     *pResult = !bAllowed;
 }
 
@@ -69,8 +66,8 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!pair)
         return;
     const views::SyncPause pause(m_bSync);
-    if (HasFocus()) // else the change mirrors another view's, which has told everyone
-        Notify(pEditor.Get(), operation, pair);
+    if (m_pFocus->IsHere()) // else the change mirrors another view's, which has told everyone
+        pair.Notify(pEditor.Get(), this, operation);
 }
 
 BOOL CObjectsList::OnAtomSelected(IAtom* pAtom, IAtomContainer* pContainer)
@@ -95,7 +92,7 @@ void CObjectsList::MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, boo
             SetAllSelected(bSelected);
         return;
     }
-    const int nRow = IsShown(pContainer) ? FindRow(pAtom) : -1;
+    const int nRow = IsShown(pContainer) ? m_pRows->Find(pAtom) : -1;
     if (nRow < 0)
         return;
     if (bSelected)
@@ -140,55 +137,34 @@ void CObjectsList::SelectRow(int nItem)
 
 void CObjectsList::OnSetFocus(CWnd* pOldWnd)
 {
-    m_bFocusLost = false;
     const FocusBlock block;
-    if (FocusBlock::IsInFocusBlock()) {
+    if (FocusBlock::IsInFocusBlock())
         PostButtonUp();
+    const auto announce = [this] {
+        if (!m_pFocus->IsLost())
+            AnnounceSelection();
+        return true; // no answer to it counts
+    };
+    if (m_pFocus->Gain(pOldWnd, announce))
         CListCtrl::OnSetFocus(pOldWnd);
-        return;
-    }
-    if (!m_bPassive && !WelcomesFocus(pOldWnd))
-        return;
-    m_bFocusFromSelChange = FALSE;
-    m_bHasFocus = !m_bFocusLost;
-    CListCtrl::OnSetFocus(pOldWnd);
 }
 
-// False when it was refused, and given back. Whoever is asked may destroy the window that had it, or move it on.
-bool CObjectsList::WelcomesFocus(CWnd* pOldWnd)
-{
-    const HWND hOldWnd = pOldWnd ? pOldWnd->m_hWnd : nullptr;
-    if (!views::OfferSave()) {
-        if (hOldWnd)
-            ::SetFocus(hOldWnd);
-        Invalidate(); // where nobody could take the focus back it is here, and shows
-        return false;
-    }
-    if (!m_bFocusLost)
-        AnnounceSelection();
-    return true;
-}
-
-// The view that has the focus is the one whose selection counts. Nothing to tell when the selection was made from
-// outside, while another had the focus: everyone knows it.
 void CObjectsList::AnnounceSelection()
 {
-    for (int i = -1; !m_bFocusFromSelChange && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;) {
+    for (int i = -1; !m_pFocus->IsFromSelChange() && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;) {
         const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
         const HELDPAIR pair = HoldPair(i);
         if (!pEditor || !pair)
             continue;
-        Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelecting, pair);
-        Notify(pEditor.Get(), &IAEStateHandler::OnAtomSelected, pair);
+        pair.Notify(pEditor.Get(), this, &IAEStateHandler::OnAtomSelecting);
+        pair.Notify(pEditor.Get(), this, &IAEStateHandler::OnAtomSelected);
     }
 }
 
 void CObjectsList::OnKillFocus(CWnd* pNewWnd)
 {
     CListCtrl::OnKillFocus(pNewWnd);
-    m_bFocusFromSelChange = FALSE;
-    m_bHasFocus = FALSE;
-    m_bFocusLost = true;
+    m_pFocus->Lose();
     PostButtonUp();
 }
 

@@ -1,7 +1,7 @@
 // The pictures of the thumbnail list.
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomContainer.h"
-#include "Views/host/inside/IconHolder.h"
+#include "Views/host/inside/GdiHolders.h"
 #include "Views/list/ThumbList.h"
 
 namespace

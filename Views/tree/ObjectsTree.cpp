@@ -1,11 +1,17 @@
 // The tree view's life, from Create to its window's end.
 #include "Views/tree/ObjectsTree.h"
 
+#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/AddPane.h"
+#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/HeldPair.h"
+#include "Views/host/inside/ViewFocus.h"
 #include "Views/tree/TreeDropTarget.h"
+#include "Views/tree/inside/TreeIconSlots.h"
+#include "Views/tree/inside/TreeRecords.h"
 
 namespace
 {
@@ -47,7 +53,15 @@ BEGIN_MESSAGE_MAP(CObjectsTree, CTreeCtrl)
     ON_WM_KEYUP()
 END_MESSAGE_MAP()
 
-CObjectsTree::CObjectsTree(int bPassive) : m_bPassive(bPassive), m_pDropTarget(std::make_unique<CTreeDropTarget>()) {}
+CObjectsTree::CObjectsTree(int bPassive)
+    : m_pRecords(std::make_unique<views::TreeRecords>()),
+      m_pIconSlots(std::make_unique<views::TreeIconSlots>()),
+      m_bPassive(bPassive),
+      m_pRegistration(std::make_unique<views::HandlerRegistration>()),
+      m_pFocus(std::make_unique<views::ViewFocus>(*this, bPassive)),
+      m_pEditedName(std::make_unique<views::EditedName>()),
+      m_pDropTarget(std::make_unique<CTreeDropTarget>())
+{}
 
 // A window that is still there goes now, while it can still take its handler from the editor.
 CObjectsTree::~CObjectsTree()
@@ -81,12 +95,12 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
 
     m_bClosing = false;
-    m_bHasFocus = m_bFocusFromSelChange = FALSE;
+    m_pFocus->Reset();
     m_nOpenImage = m_nDefaultImage = -1;
     if (!JoinEditor(m_hWnd))
         return -1;
     m_pDropTarget->Register(this);
-    m_iconSlots.Clear();
+    m_pIconSlots->Clear();
     m_images.Create(views::IDB_TREE_ITEMS, kImageWidth, kImagesToGrow, kTransparent);
     m_nDefaultImage = 0;
     m_nOpenImage = 1;
@@ -102,14 +116,14 @@ bool CObjectsTree::JoinEditor(HWND hWnd)
         return true;
     if (!m_bPassive)
         views::AddPane(pEditor.Get(), kPaneKind, hWnd, views::IDS_TREE_PANE, views::IDR_TREE_PANE, kFallbackCaption);
-    return ::IsWindow(hWnd) && m_registration.Begin(pEditor.Get(), hWnd, this);
+    return ::IsWindow(hWnd) && m_pRegistration->Begin(pEditor.Get(), hWnd, this);
 }
 
 // An item that OnDeleteAtom refuses goes without it. One that an outer call is removing just now is passed by.
 void CObjectsTree::OnDestroy()
 {
     m_bClosing = true;
-    m_registration.End();
+    m_pRegistration->End();
     SelectItem(nullptr); // or it would move on with each item that goes
 
     HTREEITEM hPassed = nullptr;

@@ -3,24 +3,29 @@
 
 #include "Toolkit/controls/tree/TreeCtrl.h"
 #include "Toolkit/graphics/ImageList.h"
-#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/StateHandler.h"
-#include "Views/host/inside/HandlerRegistration.h"
-#include "Views/host/inside/HeldPair.h"
-#include "Views/tree/inside/TreeIconSlots.h"
-#include "Views/tree/inside/TreeRecords.h"
+#include "Views/host/StubRef.h"
 
 #include <memory>
 #include <unordered_set>
 #include <vector>
 
 class CTreeDropTarget;
+class IAtomEditor;
 class IAtomIcon;
 
 namespace views
 {
+class EditedName;
+class HandlerRegistration;
+class TreeIconSlots;
+class TreeRecords;
+class ViewFocus;
+struct GiveBackRecord;
+struct HeldPair;
 struct MemberKeys;
-}
+struct TreeRecord;
+} // namespace views
 
 // One item for each atom announced; an announced container's members become items below it at once, and theirs below
 // them.
@@ -36,6 +41,13 @@ struct MemberKeys;
 class VIEWS_API CObjectsTree : public CTreeCtrl, public virtual CStateHandler
 {
 public:
+    // Behind an item, whose lParam is its address; owned by the tree.
+    struct TREEITEMDATA
+    {
+        CStubRef<IAtom> pAtom;
+        CStubRef<IAtomContainer> pContainer; // as announced; may be empty
+    };
+
     CObjectsTree() : CObjectsTree(FALSE) {}
     explicit CObjectsTree(int bPassive);
     ~CObjectsTree() override;
@@ -76,8 +88,6 @@ public:
     BOOL OnGetActivePairs(OBJPAIR* pPairs, DWORD* pCount) override;
 
 protected:
-    using TREEITEMDATA = views::TreeRecord; // behind an item, whose lParam is its address; owned by the tree
-
     // For a derived class whose host has more than it wants read at once; before anything is announced. From then on a
     // container is asked for its members only when ShowMembers says so, those announced below one that was not
     // asked are ignored, and whether it has a button is left to OnGetDispInfo.
@@ -119,7 +129,8 @@ protected:
 private:
     friend class CTreeDropTarget;
 
-    using RecordHolder = views::TreeRecords::Holder;
+    using RECORD = views::TreeRecord;
+    using RecordHolder = std::unique_ptr<RECORD, views::GiveBackRecord>;
     using HELDPAIR = views::HeldPair;
 
     BOOL SelectAtom(IAtom* pAtom); // FALSE when it has no item or was refused
@@ -130,27 +141,27 @@ private:
     static int MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort);
 
     bool JoinEditor(HWND hWnd);
+    CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor, for a passive tree and for one that closes
 
-    bool IsItem(HTREEITEM hItem) const;            // false for one that is gone
-    TREEITEMDATA* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
+    bool IsItem(HTREEITEM hItem) const;      // false for one that is gone
+    RECORD* RecordOf(HTREEITEM hItem) const; // NULL for one that is gone, and for a derived class's own
     HELDPAIR HoldPair(HTREEITEM hItem) const;
     CStubRef<IAtomContainer> ContainerInItem(HTREEITEM hItem) const; // the item's atom, if it is one
     std::vector<HTREEITEM> ChildrenOf(HTREEITEM hItem) const;
     std::unordered_set<IAtom*> AtomsBelow(HTREEITEM hItem) const; // right below
 
     bool IsWithin(HTREEITEM hBranch, HTREEITEM hItem) const; // an item is within its own branch
-    bool TakesMember(const TREEITEMDATA* pParent, IAtom* pAtom) const;
-    HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, const TREEITEMDATA* pParent);
-    HTREEITEM HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent);
+    bool TakesMember(const RECORD* pParent, IAtom* pAtom) const;
+    HTREEITEM AddItem(IAtom* pAtom, IAtomContainer* pContainer, const RECORD* pParent);
+    HTREEITEM HandToControl(RECORD* pRecord, HTREEITEM hParent);
     BOOL AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>* pShown = nullptr);
     void NoteMember(HTREEITEM hParent, IAtom* pAtom, HTREEITEM hItem);
-    bool Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to);
 
     RecordHolder TakeRecord(HTREEITEM hItem);
     void RemoveMembers(HTREEITEM hItem, IAtom* pAtom);
     void RemoveItem(HTREEITEM hItem);
     void RemoveChildren(HTREEITEM hItem);
-    void DropItem(HTREEITEM hItem, const TREEITEMDATA* pRecord);
+    void DropItem(HTREEITEM hItem, const RECORD* pRecord);
 
     void OrderMembers(HTREEITEM hItem, views::MemberKeys& keys);
     bool OrderByLabelAndName(HTREEITEM hItem);
@@ -163,24 +174,19 @@ private:
     BOOL Notify(AEStateOperation operation, HTREEITEM hItem); // TRUE without an editor or a record, too
     bool MayChangeSelection(const NMTREEVIEW& change);
     void GoOnSelected(HTREEITEM hItem);
-    bool WelcomesFocus(CWnd* pOldWnd);
     bool AnnounceSelection();
-    bool TakeFocus(); // false when it was refused
 
-    views::TreeRecords m_records;
+    const std::unique_ptr<views::TreeRecords> m_pRecords;
     views::MemberKeys* m_pFilling = nullptr; // of the item whose members are being read
-    views::TreeIconSlots m_iconSlots;
+    const std::unique_ptr<views::TreeIconSlots> m_pIconSlots;
     CImageList m_images;
     int m_nOpenImage = -1;    // for an expanded item with children
     int m_nDefaultImage = -1; // for any other atom without an icon
     CString m_strLabel;       // the label asked for last; the control reads it there until it asks again
-    views::EditedName m_editedName;
-    views::HandlerRegistration m_registration;
     const BOOL m_bPassive;
-    BOOL m_bHasFocus = FALSE;           // from the end of a completed OnSetFocus to the next OnKillFocus
-    BOOL m_bFocusFromSelChange = FALSE; // the selection is changing, or has changed, without the focus
-    bool m_bFocusLost = false;          // since the last OnSetFocus began
-    bool m_bPressDropped = false;       // the last press, whose focus was refused
+    const std::unique_ptr<views::HandlerRegistration> m_pRegistration;
+    const std::unique_ptr<views::ViewFocus> m_pFocus;
+    const std::unique_ptr<views::EditedName> m_pEditedName;
     const std::unique_ptr<CTreeDropTarget> m_pDropTarget;
     bool m_bOnDemand = false; // members become items only when they are asked for
     bool m_bClosing = false;  // the window is being destroyed: nothing new is shown

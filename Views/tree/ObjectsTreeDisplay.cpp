@@ -1,11 +1,9 @@
 // What the tree answers when its control draws or compares labels.
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomIcon.h"
-#include "Views/host/IDispAtom.h"
-#include "Views/host/IMyErrorInfo.h"
-#include "Views/host/Resources.h"
-#include "Views/host/Services.h"
+#include "Views/host/inside/ReadName.h"
 #include "Views/tree/ObjectsTree.h"
+#include "Views/tree/inside/TreeIconSlots.h"
 #include "Views/tree/inside/TreeLabel.h"
 
 namespace
@@ -52,9 +50,9 @@ int CObjectsTree::ImageOf(IAtom* pAtom, const TVITEM& item)
 // -1 when the icon could not be added, be it for lack of memory, now or when it was tried first.
 int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
 {
-    if (const views::ICONSLOT* pSlot = m_iconSlots.Find(hItem))
+    if (const views::ICONSLOT* pSlot = m_pIconSlots->Find(hItem))
         return pSlot->nImage;
-    const int nFree = m_iconSlots.TakeOver([this](HTREEITEM hShown) {
+    const int nFree = m_pIconSlots->TakeOver([this](HTREEITEM hShown) {
         CRect rect;
         return GetItemRect(hShown, &rect, FALSE) != FALSE;
     });
@@ -65,7 +63,7 @@ int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
         // As for an icon that fails.
     }
     try {
-        m_iconSlots.Lend(hItem, nImage);
+        m_pIconSlots->Lend(hItem, nImage);
     } catch (CMemoryException& e) {
         e.ReportError(); // the image is not used again
     }
@@ -76,7 +74,7 @@ int CObjectsTree::IconImage(IAtomIcon* pIcon, HTREEITEM hItem)
 BOOL CObjectsTree::OnItemExpanded(NMTREEVIEW* pChange, LRESULT* pResult)
 {
     if (pChange->action == TVE_COLLAPSE)
-        m_iconSlots.ItemsHidden();
+        m_pIconSlots->ItemsHidden();
     *pResult = 0;
     return FALSE; // the parent window hears of it, too
 }
@@ -84,25 +82,18 @@ BOOL CObjectsTree::OnItemExpanded(NMTREEVIEW* pChange, LRESULT* pResult)
 // False when the name could not be read: the user has been told, and nothing more is answered. Without memory for the
 // label there is none, and the request goes on.
 bool CObjectsTree::AnswerLabel(IAtom* pAtom, TVITEM& item)
-{
-    try {
-        const bool bModified = pAtom->IsModified() != FALSE;
-        const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
+try {
+    const bool bModified = pAtom->IsModified() != FALSE;
+    return views::ReadShownName(*this, pAtom, [&](auto* pSource, auto pfnGet) {
         CString strLabel = std::move(m_strLabel); // lent: should the atom have the tree draw now, that takes another
-        item.pszText = pDispAtom ? views::BuildLabel(pDispAtom.Get(), &IDispAtom::GetDisplayName, bModified, strLabel)
-                                 : views::BuildLabel(pAtom, &IAtom::GetName, bModified, strLabel);
+        const LPSTR pszLabel = views::BuildLabel(pSource, pfnGet, bModified, strLabel);
         m_strLabel = std::move(strLabel);
-        if (item.pszText)
-            return true;
-        item.pszText = const_cast<LPSTR>(kUnnamed); // read, never written
-        const auto pError =
-            pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
-        ShowAtomError(m_hWnd, views::IDS_NAME_FAILED, pError.Get());
-        return false;
-    } catch (CMemoryException& e) {
-        e.ReportError();
-        return true;
-    }
+        item.pszText = pszLabel ? pszLabel : const_cast<LPSTR>(kUnnamed); // read, never written
+        return pszLabel != nullptr;
+    });
+} catch (CMemoryException& e) {
+    e.ReportError();
+    return true;
 }
 
 BOOL CObjectsTree::SetBoldRoot(HTREEITEM hItem, BOOL bBold)

@@ -1,5 +1,7 @@
 // What the tree does when the editor asks or tells it of atoms. Atoms that come and go are in ObjectsTreeItems.cpp.
+#include "Views/host/inside/HeldPair.h"
 #include "Views/tree/ObjectsTree.h"
+#include "Views/tree/inside/TreeIconSlots.h"
 
 // The tree follows what is opened, not what is selected.
 BOOL CObjectsTree::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
@@ -24,7 +26,7 @@ BOOL CObjectsTree::RefreshItem(IAtom* pAtom)
     const HTREEITEM hItem = pAtom ? GetItem(pAtom) : nullptr;
     if (!hItem)
         return FALSE;
-    m_iconSlots.GiveUp(hItem);
+    m_pIconSlots->GiveUp(hItem);
     SetItemText(hItem, LPSTR_TEXTCALLBACK);
     return TRUE;
 }

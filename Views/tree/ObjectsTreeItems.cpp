@@ -2,14 +2,28 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/host/Resources.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/tree/ObjectsTree.h"
 #include "Views/tree/inside/MemberKeys.h"
+#include "Views/tree/inside/TreeIconSlots.h"
+#include "Views/tree/inside/TreeRecords.h"
 
 #include <memory>
 #include <utility>
 
 namespace
 {
+
+using State = views::TreeRecord::State;
+
+// False for an item that is gone, or going.
+bool Advance(views::TreeRecord* pRecord, State from, State to)
+{
+    if (!pRecord || pRecord->state != from)
+        return false;
+    pRecord->state = to;
+    return true;
+}
 
 void ReportInsertFailed()
 {
@@ -22,7 +36,7 @@ void ReportInsertFailed()
 
 HTREEITEM CObjectsTree::GetItem(IAtom* pAtom) const
 {
-    const TREEITEMDATA* pRecord = m_records.Find(pAtom);
+    const RECORD* pRecord = m_pRecords->Find(pAtom);
     return pRecord ? pRecord->hItem : nullptr;
 }
 
@@ -34,14 +48,14 @@ bool CObjectsTree::IsItem(HTREEITEM hItem) const
     return CTreeCtrl::GetItem(&item) != FALSE;
 }
 
-CObjectsTree::TREEITEMDATA* CObjectsTree::RecordOf(HTREEITEM hItem) const
+CObjectsTree::RECORD* CObjectsTree::RecordOf(HTREEITEM hItem) const
 {
-    return hItem ? reinterpret_cast<TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
+    return hItem ? static_cast<RECORD*>(reinterpret_cast<TREEITEMDATA*>(GetItemData(hItem))) : nullptr;
 }
 
 CObjectsTree::HELDPAIR CObjectsTree::HoldPair(HTREEITEM hItem) const
 {
-    const TREEITEMDATA* pRecord = RecordOf(hItem);
+    const RECORD* pRecord = RecordOf(hItem);
     if (!pRecord)
         return {};
     return HELDPAIR::Share(pRecord->pAtom.Get(), pRecord->pContainer.Get());
@@ -64,7 +78,7 @@ std::unordered_set<IAtom*> CObjectsTree::AtomsBelow(HTREEITEM hItem) const
 {
     std::unordered_set<IAtom*> atoms;
     for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild)) {
-        if (const TREEITEMDATA* pRecord = RecordOf(hChild))
+        if (const RECORD* pRecord = RecordOf(hChild))
             atoms.insert(pRecord->pAtom.Get());
     }
     return atoms;
@@ -82,9 +96,9 @@ BOOL CObjectsTree::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (!pAtom || m_bClosing)
         return FALSE;
 
-    const TREEITEMDATA* pParent = nullptr;
+    const RECORD* pParent = nullptr;
     if (const auto pOwner = CStubRef<IAtom>::From(pContainer)) {
-        pParent = m_records.Find(pOwner.Get());
+        pParent = m_pRecords->Find(pOwner.Get());
         if (!TakesMember(pParent, pAtom))
             return FALSE;
     }
@@ -110,16 +124,16 @@ BOOL CObjectsTree::ShowMembers(IAtom* pAtom)
 
 bool CObjectsTree::AreMembersShown(HTREEITEM hItem) const
 {
-    const TREEITEMDATA* pRecord = RecordOf(hItem);
+    const RECORD* pRecord = RecordOf(hItem);
     return pRecord && pRecord->bMembersShown;
 }
 
 // Not an item that is going, and not one that shows the atom itself or stands below it.
-bool CObjectsTree::TakesMember(const TREEITEMDATA* pParent, IAtom* pAtom) const
+bool CObjectsTree::TakesMember(const RECORD* pParent, IAtom* pAtom) const
 {
-    if (!pParent || pParent->state == TREEITEMDATA::State::Leaving || (m_bOnDemand && !pParent->bMembersShown))
+    if (!pParent || pParent->state == State::Leaving || (m_bOnDemand && !pParent->bMembersShown))
         return false;
-    if (!m_records.Find(pAtom))
+    if (!m_pRecords->Find(pAtom))
         return true;
     for (HTREEITEM hItem = pParent->hItem; pParent; pParent = RecordOf(hItem = GetParentItem(hItem))) {
         if (pParent->pAtom.Get() == pAtom)
@@ -129,10 +143,10 @@ bool CObjectsTree::TakesMember(const TREEITEMDATA* pParent, IAtom* pAtom) const
 }
 
 // The new item, found by its atom; NULL when there is none, and the user has been told.
-HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, const TREEITEMDATA* pParent)
+HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, const RECORD* pParent)
 {
     try {
-        RecordHolder pRecord = m_records.Make();
+        RecordHolder pRecord = m_pRecords->Make();
         pRecord->pAtom = CStubRef<IAtom>::Share(pAtom);
         pRecord->pContainer = CStubRef<IAtomContainer>::Share(pContainer);
         const HTREEITEM hParent = pParent ? pParent->hItem : TVI_ROOT;
@@ -143,8 +157,8 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, const 
             return nullptr;
         }
         pRecord->hItem = hItem;
-        pRecord->state = TREEITEMDATA::State::Settled;
-        m_records.Map(pRecord.release());
+        pRecord->state = State::Settled;
+        m_pRecords->Map(pRecord.release());
         NoteMember(hParent, pAtom, hItem);
         return hItem;
     } catch (CMemoryException& e) {
@@ -154,7 +168,7 @@ HTREEITEM CObjectsTree::AddItem(IAtom* pAtom, IAtomContainer* pContainer, const 
 }
 
 // NULL when the control refuses.
-HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
+HTREEITEM CObjectsTree::HandToControl(RECORD* pRecord, HTREEITEM hParent)
 {
     TVINSERTSTRUCT insert{};
     insert.hParent = hParent;
@@ -163,7 +177,7 @@ HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
     insert.item.pszText = LPSTR_TEXTCALLBACK;
     insert.item.iImage = insert.item.iSelectedImage = I_IMAGECALLBACK;
     insert.item.cChildren = I_CHILDRENCALLBACK;
-    insert.item.lParam = reinterpret_cast<LPARAM>(pRecord);
+    insert.item.lParam = reinterpret_cast<LPARAM>(static_cast<TREEITEMDATA*>(pRecord));
     return InsertItem(&insert);
 }
 
@@ -171,7 +185,7 @@ HTREEITEM CObjectsTree::HandToControl(TREEITEMDATA* pRecord, HTREEITEM hParent)
 BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordered_set<IAtom*>* pShown)
 {
     const auto pMembers = CStubRef<IAtomContainer>::From(pAtom);
-    if (!pMembers || !Advance(hItem, TREEITEMDATA::State::Settled, TREEITEMDATA::State::Filling))
+    if (!pMembers || !Advance(RecordOf(hItem), State::Settled, State::Filling))
         return FALSE;
     RecordOf(hItem)->bMembersShown = true;
     views::MemberKeys keys(hItem, m_pFilling);
@@ -181,19 +195,9 @@ BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordere
         if (pMember && (!pShown || !pShown->contains(pMember.Get())))
             OnCreateAtom(pMember.Get(), pMembers.Get());
     }
-    if (Advance(hItem, TREEITEMDATA::State::Filling, TREEITEMDATA::State::Settled) && keys.nAdded > 0)
+    if (Advance(RecordOf(hItem), State::Filling, State::Settled) && keys.nAdded > 0)
         OrderMembers(hItem, keys);
     return TRUE;
-}
-
-// False when the item is gone, or going.
-bool CObjectsTree::Advance(HTREEITEM hItem, TREEITEMDATA::State from, TREEITEMDATA::State to)
-{
-    TREEITEMDATA* const pRecord = RecordOf(hItem);
-    if (!pRecord || pRecord->state != from)
-        return false;
-    pRecord->state = to;
-    return true;
 }
 
 BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
@@ -218,11 +222,11 @@ BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 // when it is going already, or only arriving: the one who began that ends it.
 CObjectsTree::RecordHolder CObjectsTree::TakeRecord(HTREEITEM hItem)
 {
-    TREEITEMDATA* const pRecord = RecordOf(hItem);
-    if (!pRecord || pRecord->state == TREEITEMDATA::State::Arriving || pRecord->state == TREEITEMDATA::State::Leaving)
+    RECORD* const pRecord = RecordOf(hItem);
+    if (!pRecord || pRecord->state == State::Arriving || pRecord->state == State::Leaving)
         return nullptr;
-    pRecord->state = TREEITEMDATA::State::Leaving;
-    return m_records.Hold(pRecord);
+    pRecord->state = State::Leaving;
+    return m_pRecords->Hold(pRecord);
 }
 
 // A member that is shown above its own container stays: it is not below it.
@@ -265,13 +269,13 @@ void CObjectsTree::RemoveChildren(HTREEITEM hItem)
 
 // The caller holds the record until the item is gone: the control still tells of the item when the selection leaves it.
 // Below it are only items whose atoms are members no longer, or have another item.
-void CObjectsTree::DropItem(HTREEITEM hItem, const TREEITEMDATA* pRecord)
+void CObjectsTree::DropItem(HTREEITEM hItem, const RECORD* pRecord)
 {
     RemoveChildren(hItem);
     const HTREEITEM hParent = GetParentItem(hItem);
     DeleteItem(hItem);
     if (!GetSelectedItem())
         SetBoldRoot(hParent, FALSE); // the selection went with the item: no one would take it, or be left by it
-    m_records.Unmap(pRecord);
-    m_iconSlots.GiveUp(hItem);
+    m_pRecords->Unmap(pRecord);
+    m_pIconSlots->GiveUp(hItem);
 }

@@ -1,31 +1,21 @@
 // Renaming in the tree: the label of an item is edited in place.
-#include "Toolkit/base/Exception.h"
-#include "Views/clipboard/Naming.h"
-#include "Views/host/IAEStateHandler.h"
+#include "Views/clipboard/inside/EditedName.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Whoever is asked may remove the item: then there is nothing to edit.
 void CObjectsTree::OnBeginLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 {
-    const HTREEITEM hItem = pInfo->item.hItem;
-    const HELDPAIR pair = HoldPair(hItem);
-    *pResult = -1;
-    if (m_bPassive || !pair.pAtom || !CanRenameObject(pair.pAtom.Get(), pair.pContainer.Get()))
-        return;
-    if (!Notify(&IAEStateHandler::PreRenameAtom, hItem))
-        return;
-    try {
-        if (const LPSTR pszName = m_editedName.Begin(pair.pAtom.Get()))
-            pInfo->item.pszText = pszName;
-        *pResult = RecordOf(hItem) ? 0 : -1;
-    } catch (CMemoryException& e) {
-        e.ReportError();
-    }
+    TVITEM& item = pInfo->item;
+    const bool bBegun = !m_bPassive &&
+                        m_pEditedName->Begin(HoldPair(item.hItem), EditorToTell().Get(), this, item.pszText) &&
+                        RecordOf(item.hItem);
+    *pResult = bBegun ? 0 : -1;
 }
 
 // The label shows what the atom is called then, like every other label.
 void CObjectsTree::OnEndLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 {
-    const HELDPAIR pair = HoldPair(pInfo->item.hItem);
-    *pResult = m_editedName.End(pair.pAtom.Get(), pair.pContainer.Get(), pInfo->item.pszText) ? 0 : -1;
+    *pResult = m_pEditedName->End(HoldPair(pInfo->item.hItem), pInfo->item.pszText) ? 0 : -1;
 }

@@ -3,6 +3,7 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/EditorMenu.h"
+#include "Views/host/inside/ViewFocus.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Also where a key has asked for it.
@@ -27,33 +28,29 @@ void CObjectsTree::OnBeginDrag(NMTREEVIEW*, LRESULT* pResult)
         views::DragActiveAtoms(pEditor.Get());
 }
 
-// The focus comes before the click, which is dropped when the focus is refused; and then so is the press that would
-// make a double click of it.
 void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    m_bPressDropped = !TakeFocus();
-    if (!m_bPressDropped)
+    if (m_pFocus->TakeForPress())
         CTreeCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CObjectsTree::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (!m_bPressDropped && TakeFocus())
+    if (m_pFocus->TakeForDoubleClick())
         CTreeCtrl::OnLButtonDblClk(nFlags, point);
 }
 
 void CObjectsTree::OnRButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (!m_bPressDropped && TakeFocus())
+    if (m_pFocus->TakeForDoubleClick())
         CTreeCtrl::OnRButtonDblClk(nFlags, point);
 }
 
 // A tree that has the focus selects what the button is pressed on; the control is not asked.
 void CObjectsTree::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const bool bFocused = ::GetFocus() == m_hWnd;
-    m_bPressDropped = !TakeFocus();
-    if (m_bPressDropped)
+    const bool bFocused = m_pFocus->IsHere();
+    if (!m_pFocus->TakeForPress())
         return;
     if (!bFocused)
         return CTreeCtrl::OnRButtonDown(nFlags, point);
@@ -83,11 +80,4 @@ void CObjectsTree::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 void CObjectsTree::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
 {
     CTreeCtrl::OnKeyUp(nChar, nRepCnt, nFlags);
-}
-
-bool CObjectsTree::TakeFocus()
-{
-    if (m_hWnd && ::GetFocus() != m_hWnd)
-        SetFocus();
-    return m_hWnd && ::GetFocus() == m_hWnd;
 }

@@ -3,6 +3,7 @@
 #include "Toolkit/base/Text.h"
 #include "Views/host/IDispAtom.h"
 #include "Views/host/IPhase.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/host/inside/LinkOrder.h"
 #include "Views/host/inside/ReadName.h"
 #include "Views/tree/ObjectsTree.h"

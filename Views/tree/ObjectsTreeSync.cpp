@@ -1,5 +1,6 @@
 // Dropping items whose atoms their container holds no longer.
 #include "Toolkit/base/Exception.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Members without an item are not looked for: new ones are announced. The first item of an atom announced twice is

@@ -1,6 +1,5 @@
 #include "Views/tree/TreeDropTarget.h"
 
-#include "Views/clipboard/Commands.h"
 #include "Views/tree/ObjectsTree.h"
 
 BOOL CTreeDropTarget::Register(CObjectsTree* pTree)
@@ -9,51 +8,33 @@ BOOL CTreeDropTarget::Register(CObjectsTree* pTree)
     return CAtomDropTarget::Register(pTree);
 }
 
-// An item that is gone meanwhile has nothing to lose.
-void CTreeDropTarget::ClearHighlight()
+INT_PTR CTreeDropTarget::PlaceAt(CPoint point) const
 {
-    m_pTree->SetItemState(m_hDropItem, 0, TVIS_DROPHILITED);
+    return reinterpret_cast<INT_PTR>(m_pTree->HitTest(point));
 }
 
-void CTreeDropTarget::ForgetPlace()
+// An item that is gone meanwhile has nothing to lose, and -1 is none of any tree.
+void CTreeDropTarget::MarkPlace(INT_PTR nPlace, bool bMarked)
 {
-    ClearHighlight();
-    m_hDropItem = kNoItem;
+    m_pTree->SetItemState(reinterpret_cast<HTREEITEM>(nPlace), bMarked ? TVIS_DROPHILITED : 0, TVIS_DROPHILITED);
 }
 
-std::optional<CStubRef<IAtomContainer>> CTreeDropTarget::FindContainer(CPoint point) const
+std::optional<CStubRef<IAtomContainer>> CTreeDropTarget::ContainerAt(INT_PTR nPlace) const
 {
-    const HTREEITEM hItem = m_pTree->HitTest(point);
-    return hItem ? std::optional(m_pTree->ContainerInItem(hItem)) : std::nullopt;
+    return nPlace ? std::optional(m_pTree->ContainerInItem(reinterpret_cast<HTREEITEM>(nPlace))) : std::nullopt;
 }
 
 DROPEFFECT CTreeDropTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
     if (!Offers(pWnd, pDataObject))
         return DROPEFFECT_NONE;
-    const HTREEITEM hItem = m_pTree->HitTest(point);
-    if (m_hDropItem != hItem || !hItem)
-        ClearHighlight();
-    if (hItem)
-        return OverItem(hItem, pDataObject, WantedEffect(dwKeyState));
-    m_hDropItem = nullptr;
+    const INT_PTR nItem = PlaceAt(point);
+    if (m_nPlace != nItem || !nItem)
+        MarkPlace(m_nPlace, false);
+    const auto archive = nItem ? LookAt(pDataObject) : CStubRef<IArchive>(); // outside all items nobody looks
+    if (archive && *archive)
+        return OverPlace(nItem, archive->Get(), WantedEffect(dwKeyState));
+    if (archive)
+        m_nPlace = nItem;
     return DROPEFFECT_NONE;
-}
-
-DROPEFFECT CTreeDropTarget::OverItem(HTREEITEM hItem, COleDataObject* pDataObject, DROPEFFECT effect)
-{
-    const views::DraggedAtoms::Look atoms = LookAt(pDataObject);
-    if (!atoms.bMedium)
-        return DROPEFFECT_NONE;
-    if (!atoms.pArchive) {
-        m_hDropItem = hItem;
-        return DROPEFFECT_NONE;
-    }
-    const auto verdict = Check(atoms.pArchive.Get(), m_pTree->ContainerInItem(hItem).Get(), effect);
-    if (!verdict)
-        return DROPEFFECT_NONE;
-    if (*verdict != PASTE_REFUSED && m_hDropItem != hItem)
-        m_pTree->SetItemState(hItem, TVIS_DROPHILITED, TVIS_DROPHILITED);
-    m_hDropItem = hItem;
-    return *verdict == PASTE_ANY ? effect : *verdict;
 }

@@ -15,15 +15,10 @@ public:
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
 
 protected:
-    void ForgetPlace() override;
-    std::optional<CStubRef<IAtomContainer>> FindContainer(CPoint point) const override;
+    INT_PTR PlaceAt(CPoint point) const override; // 0: in no item
+    void MarkPlace(INT_PTR nPlace, bool bMarked) override;
+    std::optional<CStubRef<IAtomContainer>> ContainerAt(INT_PTR nPlace) const override;
 
 private:
-    void ClearHighlight();
-    DROPEFFECT OverItem(HTREEITEM hItem, COleDataObject* pDataObject, DROPEFFECT effect);
-
-    static inline const HTREEITEM kNoItem = reinterpret_cast<HTREEITEM>(INT_PTR{-1}); // of no tree
-
     CObjectsTree* m_pTree = nullptr;
-    HTREEITEM m_hDropItem = kNoItem; // under the drag at its previous movement; NULL when that was outside all items
 };

@@ -64,24 +64,24 @@ CStubRef<IArchive> views::DraggedAtoms::ArchiveOf(const char* pszPath)
     return std::move(read.pArchive);
 }
 
-views::DraggedAtoms::Look views::DraggedAtoms::LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms)
+std::optional<CStubRef<IArchive>> views::DraggedAtoms::LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms)
 try {
     const Medium medium(pData, cfAtoms);
     if (medium.Get().tymed != TYMED_HGLOBAL) {
         Forget();
-        return {};
+        return std::nullopt;
     }
     const std::optional<CString> path = PathIn(medium.Get().hGlobal);
-    return {true, path ? ArchiveOf(*path) : nullptr};
+    return path ? ArchiveOf(*path) : nullptr;
 } catch (const CMemoryException&) {
-    return {true};
+    return CStubRef<IArchive>();
 }
 
 CStubRef<IArchive> views::DraggedAtoms::TakeFrom(COleDataObject* pData, CLIPFORMAT cfAtoms)
 {
-    Look look = LookAt(pData, cfAtoms);
+    auto archive = LookAt(pData, cfAtoms);
     Forget();
-    return std::move(look.pArchive);
+    return archive ? std::move(*archive) : nullptr;
 }
 
 void views::DraggedAtoms::Forget()

@@ -28,13 +28,8 @@ CLIPFORMAT AtomFormat();
 class DraggedAtoms
 {
 public:
-    struct Look
-    {
-        bool bMedium = false;          // only global memory will do
-        CStubRef<IArchive> pArchive{}; // empty when the medium leads to none
-    };
-
-    Look LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms);
+    // Nothing for a medium that is not global memory; an empty archive when it leads to none.
+    std::optional<CStubRef<IArchive>> LookAt(COleDataObject* pData, CLIPFORMAT cfAtoms);
     // The archive for a drop, after which all else is forgotten.
     CStubRef<IArchive> TakeFrom(COleDataObject* pData, CLIPFORMAT cfAtoms);
     void Forget(); // the drag is over

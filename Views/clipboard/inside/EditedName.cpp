@@ -2,15 +2,24 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/Naming.h"
-#include "Views/host/IAtom.h"
+#include "Views/host/inside/HeldPair.h"
 #include "Views/host/inside/ReadName.h"
 
-LPSTR views::EditedName::Begin(IAtom* pAtom)
+bool views::EditedName::Begin(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, LPSTR& pszText)
 {
-    CString strName;
-    const bool bRead = ReadName(pAtom, &IAtom::GetName, strName);
-    m_strName = bRead ? strName : CString();
-    return bRead ? const_cast<LPSTR>(m_strName.GetString()) : nullptr;
+    if (!pair || !CanRenameObject(pair.pAtom.Get(), pair.pContainer.Get()) ||
+        !pair.Notify(pEditor, pView, &IAEStateHandler::PreRenameAtom))
+        return false;
+    try {
+        CString strName;
+        const bool bRead = ReadName(pair.pAtom.Get(), &IAtom::GetName, strName);
+        m_strName = bRead ? strName : CString();
+        pszText = bRead ? const_cast<LPSTR>(m_strName.GetString()) : pszText;
+        return true;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return false;
+    }
 }
 
 bool views::EditedName::IsOutdated(IAtom* pAtom) const
@@ -24,9 +33,10 @@ bool views::EditedName::IsOutdated(IAtom* pAtom) const
     }
 }
 
-BOOL views::EditedName::End(IAtom* pAtom, IAtomContainer* pContainer, LPCSTR pszTyped) const
+BOOL views::EditedName::End(const HeldPair& pair, LPCSTR pszTyped) const
 {
+    IAtom* const pAtom = pair.pAtom.Get();
     if (!pAtom || !pszTyped || (m_strName == pszTyped && IsOutdated(pAtom)))
         return FALSE;
-    return RenameObject(pAtom, pContainer, pszTyped);
+    return RenameObject(pAtom, pair.pContainer.Get(), pszTyped);
 }

@@ -3,11 +3,14 @@
 
 #include "Toolkit/base/String.h"
 
+class IAEStateHandler;
 class IAtom;
-class IAtomContainer;
+class IAtomEditor;
 
 namespace views
 {
+
+struct HeldPair;
 
 // The name that a view has edited in place of a label.
 //
@@ -16,11 +19,12 @@ namespace views
 class EditedName
 {
 public:
-    // The name that the editing begins with, to be read, not written; NULL when the atom does not give it. Raises
-    // CMemoryException.
-    LPSTR Begin(IAtom* pAtom);
+    // Whether the name may be edited: it may be changed, and nobody whom the editor asks (NULL: nobody is asked)
+    // refuses. The editing begins with pszText then, to be read, not written, which stays as it is when the atom does
+    // not give its name. Running out of memory is reported.
+    bool Begin(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, LPSTR& pszText);
     // Renames the atom to what the user has made of it (NULL: nothing). FALSE when it is not called so.
-    BOOL End(IAtom* pAtom, IAtomContainer* pContainer, LPCSTR pszTyped) const;
+    BOOL End(const HeldPair& pair, LPCSTR pszTyped) const;
 
 private:
     bool IsOutdated(IAtom* pAtom) const;

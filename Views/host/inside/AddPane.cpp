@@ -3,7 +3,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/graphics/Resources.h"
 #include "Views/host/IAtomEditor.h"
-#include "Views/host/inside/IconHolder.h"
+#include "Views/host/inside/GdiHolders.h"
 
 namespace
 {

@@ -1,8 +1,8 @@
 // Inside the library.
 #pragma once
 
-#include "Views/host/IAEStateHandler.h"
 #include "Views/host/IAtomContainer.h"
+#include "Views/host/IAtomEditor.h"
 #include "Views/host/StubRef.h"
 
 namespace views
@@ -19,6 +19,12 @@ struct HeldPair
         return {CStubRef<IAtom>::Share(p), CStubRef<IAtomContainer>::Share(pIn)};
     }
     explicit operator bool() const { return static_cast<bool>(pAtom); }
+
+    // Has the editor ask or tell all about it. TRUE, too, without an editor or an atom.
+    BOOL Notify(IAtomEditor* pEditor, IAEStateHandler* pSender, AEStateOperation operation) const
+    {
+        return !pEditor || !pAtom || pEditor->NotifyHandlers(pSender, operation, pAtom.Get(), pContainer.Get(), 0);
+    }
 
     // Hands both references to the caller's pair. What it held is released last: that may re-enter.
     void MoveTo(OBJPAIR& pair)

@@ -3,6 +3,13 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
+#include "Toolkit/window/Wnd.h"
+#include "Views/host/IAtom.h"
+#include "Views/host/IDispAtom.h"
+#include "Views/host/IMyErrorInfo.h"
+#include "Views/host/Resources.h"
+#include "Views/host/Services.h"
+#include "Views/host/StubRef.h"
 
 #include <climits>
 #include <cstring>
@@ -40,6 +47,19 @@ template <class Source>
 BOOL ReadName(Source* pSource, BOOL (Source::*pfnGet)(char*, DWORD*), CString& strName)
 {
     return FillName(pSource, pfnGet, AskNameLength(pSource, pfnGet), strName);
+}
+
+// What an atom is called where it is shown: `read` is handed the atom and its operation, or those of its display name
+// where it has one. False when it could not read that: the user has been told.
+template <class Read>
+bool ReadShownName(const CWnd& view, IAtom* pAtom, const Read& read)
+{
+    const auto pDispAtom = CStubRef<IDispAtom>::From(pAtom);
+    if (pDispAtom ? read(pDispAtom.Get(), &IDispAtom::GetDisplayName) : read(pAtom, &IAtom::GetName))
+        return true;
+    const auto pError = pDispAtom ? CStubRef<IMyErrorInfo>::From(pDispAtom.Get()) : CStubRef<IMyErrorInfo>::From(pAtom);
+    ShowAtomError(view.m_hWnd, IDS_NAME_FAILED, pError.Get());
+    return false;
 }
 
 } // namespace views

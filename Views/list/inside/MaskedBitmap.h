@@ -3,7 +3,7 @@
 
 #include "AtomLib/AtomLib.h"
 #include "Toolkit/graphics/Resources.h"
-#include "Views/list/inside/GdiHolders.h"
+#include "Views/host/inside/GdiHolders.h"
 
 namespace views
 {

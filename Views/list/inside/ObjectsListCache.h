@@ -1,8 +1,7 @@
-// What a list view remembers of the rows it has shown.
+// Inside the library: what a list view remembers of the rows it has shown.
 #pragma once
 
-#include "Toolkit/base/String.h"
-#include "Views/host/Api.h"
+#include "Views/list/ObjectsList.h"
 
 #include <array>
 #include <memory>
@@ -14,15 +13,10 @@
 // increasing order, a row in bucket (row / 16) mod 17, in a bucket the record added last first. References and
 // iterators stay good until their own record is removed. Nothing but a walk costs more when there are more records:
 // every row that comes into sight is looked for, and most make another one leave.
-class VIEWS_API CObjectsListCache
+class CObjectsListCache
 {
 public:
-    struct CACHEDATA
-    {
-        DWORD dwTick = 0; // when a hint last touched the row
-        int nImage = -1;  // the row's picture in the view's image list
-        CString strText;  // the row's text
-    };
+    using CACHEDATA = CObjectsList::CACHEDATA;
 
     struct NODE
     {

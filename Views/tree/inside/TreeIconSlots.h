@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Toolkit/controls/tree/TreeView.h"
-#include "Views/host/Api.h"
 
 #include <cstdint>
 #include <list>
@@ -25,7 +24,7 @@ struct ICONSLOT
 // Looking for a slot goes on where the last search ended, and knows which of those before were given up since, so that
 // drawing one item after another costs the same for each, however many have an image; it begins anew after items were
 // hidden.
-class VIEWS_API TreeIconSlots
+class TreeIconSlots
 {
 public:
     TreeIconSlots() = default;

@@ -3,7 +3,6 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
-#include "Views/host/Api.h"
 
 #include <climits>
 #include <cstring>
@@ -12,7 +11,7 @@ namespace views
 {
 
 // Cuts the text at nLength bytes and, for a modified atom, writes the mark behind it. The buffer has room for it.
-VIEWS_API void EndLabel(char* pszLabel, std::size_t nLength, bool bModified);
+void EndLabel(char* pszLabel, std::size_t nLength, bool bModified);
 
 // Reads a name by the name protocol (IAtom.h) into strLabel and marks it when the atom is modified. The buffer is
 // sized once, mark included, so what is there already is reused. The label, in strLabel's buffer; NULL when the name is

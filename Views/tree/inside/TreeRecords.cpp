@@ -2,6 +2,11 @@
 
 #include <utility>
 
+void views::GiveBackRecord::operator()(TreeRecord* pRecord) const
+{
+    pRecords->Free(*pRecord);
+}
+
 views::TreeRecords::Holder views::TreeRecords::Make()
 {
     MakeRoom();

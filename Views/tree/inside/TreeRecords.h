@@ -1,10 +1,8 @@
 // Inside the library: what a tree knows of its items, and which of them shows which atom.
 #pragma once
 
-#include "Toolkit/controls/tree/TreeView.h"
-#include "Views/host/Api.h"
 #include "Views/host/IAtomContainer.h"
-#include "Views/host/StubRef.h"
+#include "Views/tree/ObjectsTree.h"
 
 #include <cstdint>
 #include <memory>
@@ -13,8 +11,7 @@
 namespace views
 {
 
-// The record behind an item, whose lParam is its address.
-struct TreeRecord
+struct TreeRecord : CObjectsTree::TREEITEMDATA
 {
     enum class State : std::uint8_t
     {
@@ -24,35 +21,32 @@ struct TreeRecord
         Leaving
     };
 
-    CStubRef<IAtom> pAtom;
-    CStubRef<IAtomContainer> pContainer; // as announced; may be empty
     HTREEITEM hItem = nullptr;
     std::uint32_t nIndex = 0; // in its pool
     State state = State::Arriving;
     bool bMembersShown = false; // the atom's members have become items, or are becoming items
 };
 
+class TreeRecords;
+
+struct GiveBackRecord
+{
+    TreeRecords* pRecords = nullptr;
+    void operator()(TreeRecord* pRecord) const;
+};
+
 // There may be millions: they stand in blocks, and are found by their atoms in a table without nodes.
-class VIEWS_API TreeRecords
+class TreeRecords
 {
 public:
-    class GiveBack
-    {
-    public:
-        explicit GiveBack(TreeRecords* pRecords = nullptr) : m_pRecords(pRecords) {}
-        void operator()(TreeRecord* pRecord) const { m_pRecords->Free(*pRecord); }
-
-    private:
-        TreeRecords* m_pRecords;
-    };
-    using Holder = std::unique_ptr<TreeRecord, GiveBack>;
+    using Holder = std::unique_ptr<TreeRecord, GiveBackRecord>;
 
     TreeRecords() = default;
     TreeRecords(const TreeRecords&) = delete;
     TreeRecords& operator=(const TreeRecords&) = delete;
 
     Holder Make(); // raises CMemoryException
-    Holder Hold(TreeRecord* pRecord) { return Holder(pRecord, GiveBack(this)); }
+    Holder Hold(TreeRecord* pRecord) { return Holder(pRecord, {this}); }
 
     // An atom has one record by which it is found: the one mapped last. The atom is the record's; it needs no memory.
     void Map(TreeRecord* pRecord);
@@ -60,6 +54,8 @@ public:
     TreeRecord* Find(IAtom* pAtom) const;  // NULL: none
 
 private:
+    friend struct GiveBackRecord;
+
     static constexpr std::uint32_t kBlock = 128;
 
     struct Entry

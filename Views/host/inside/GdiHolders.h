@@ -21,6 +21,12 @@ struct DeleteDCHandle
 };
 using MemoryDC = std::unique_ptr<HDC__, DeleteDCHandle>;
 
+struct DestroyIconHandle
+{
+    void operator()(HICON hIcon) const { ::DestroyIcon(hIcon); }
+};
+using IconHolder = std::unique_ptr<HICON__, DestroyIconHandle>;
+
 class WindowDC
 {
 public:
