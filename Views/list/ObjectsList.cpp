@@ -1,13 +1,11 @@
 #include "Views/list/ObjectsList.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/AddPane.h"
-#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/list/inside/ObjectsListCache.h"
 #include "Views/list/inside/Rows.h"
 
@@ -66,10 +64,7 @@ CObjectsList::CObjectsList(UINT nPaneKind, UINT nResourceID, int bPassive)
       m_pSpareCache(std::make_unique<CObjectsListCache>()),
       m_nPaneKind(nPaneKind),
       m_nResourceID(nResourceID),
-      m_bPassive(bPassive),
-      m_pRegistration(std::make_unique<views::HandlerRegistration>()),
-      m_pFocus(std::make_unique<views::ViewFocus>(*this, bPassive)),
-      m_pEditedName(std::make_unique<views::EditedName>())
+      m_pEditor(std::make_unique<views::EditorLink>(*this, *this, bPassive))
 {}
 
 // A window that is still there goes now, while it can still take its handler from the editor. The derived class with
@@ -99,11 +94,6 @@ LRESULT CObjectsList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
-CStubRef<IAtomEditor> CObjectsList::EditorToTell() const
-{
-    return CStubRef<IAtomEditor>::Adopt(m_bPassive ? nullptr : GetAtomEditor());
-}
-
 int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CListCtrl::OnCreate(lpCreateStruct) == -1)
@@ -112,9 +102,8 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     m_bSync = TRUE;
     m_bClosing = false;
     m_bPaneShown = FALSE; // a former window's
-    m_pFocus->Reset();
-    const auto pEditor = EditorToTell();
-    if (pEditor && !m_pRegistration->Begin(pEditor.Get(), m_hWnd, this))
+    const auto pEditor = m_pEditor->GetEditor();
+    if (!m_pEditor->Join(pEditor.Get()))
         return -1;
     m_dropTarget.Register(this);
     UpdateIndexes();
@@ -124,7 +113,7 @@ int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 void CObjectsList::OnDestroy()
 {
     m_bClosing = true;
-    m_pRegistration->End();
+    m_pEditor->Leave();
     CListCtrl::OnDestroy();
     ClearContext();
 }
@@ -184,7 +173,7 @@ bool CObjectsList::LoadMembers(unsigned nLoad)
 
 void CObjectsList::ShowPane()
 {
-    const auto pEditor = m_bPaneShown ? nullptr : EditorToTell();
+    const auto pEditor = m_bPaneShown ? nullptr : m_pEditor->GetEditor();
     if (!pEditor)
         return;
     m_bPaneShown = TRUE;
@@ -193,7 +182,7 @@ void CObjectsList::ShowPane()
 
 void CObjectsList::RemovePane()
 {
-    const auto pEditor = m_bPaneShown ? EditorToTell() : nullptr;
+    const auto pEditor = m_bPaneShown ? m_pEditor->GetEditor() : nullptr;
     if (!pEditor)
         return;
     m_bPaneShown = FALSE;
@@ -227,7 +216,7 @@ void CObjectsList::GoToItem(UINT nItem)
     const HELDPAIR pair = HoldPair(static_cast<int>(nItem));
     if (!pair)
         return;
-    if (const auto pEditor = EditorToTell())
+    if (const auto pEditor = m_pEditor->GetEditor())
         pEditor->NotifyHandlers(nullptr, &IAEStateHandler::OnAtomEntered, pair.pAtom.Get(), pair.pContainer.Get(), 0);
 }
 

@@ -14,10 +14,8 @@ class IAtomEditor;
 
 namespace views
 {
-class EditedName;
-class HandlerRegistration;
+class EditorLink;
 class Rows;
-class ViewFocus;
 struct HeldPair;
 } // namespace views
 
@@ -122,7 +120,6 @@ private:
     CStubRef<IAtomContainer> ContainerInRow(int nItem) const; // the row's atom, if it is one
     bool IsShown(IAtomContainer* pContainer) const { return pContainer && pContainer == m_pContainer.Get(); }
 
-    CStubRef<IAtomEditor> EditorToTell() const; // empty without an editor and for a passive view
     bool IsListening() const { return m_bSync && m_hWnd && !m_bClosing; } // to the editor
 
     void UpdateIndexes();
@@ -163,10 +160,8 @@ private:
     BOOL m_bSync = FALSE;
     const UINT m_nPaneKind;
     const UINT m_nResourceID;
-    const BOOL m_bPassive;
-    const std::unique_ptr<views::HandlerRegistration> m_pRegistration;
-    const std::unique_ptr<views::ViewFocus> m_pFocus;
-    const std::unique_ptr<views::EditedName> m_pEditedName;
+    const std::unique_ptr<views::EditorLink> m_pEditor;
+    CString m_strEdited; // the name that is being edited in place of a label
     CListDropTarget m_dropTarget;
     BOOL m_bPaneShown = FALSE;
     bool m_bClosing = false;        // the window is being destroyed: nothing is shown any more

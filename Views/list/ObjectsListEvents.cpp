@@ -2,6 +2,7 @@
 // ObjectsListSelection.cpp, OnAtomEntered is in ObjectsList.cpp.
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomEditor.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/inside/ObjectsListCache.h"
@@ -68,7 +69,7 @@ void CObjectsList::ReloadContainer(IAtomContainer* pContainer)
 {
     const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // reloading gives up the view's own reference
     const views::UpdateLock lock(this);
-    const auto pEditor = EditorToTell();
+    const auto pEditor = m_pEditor->GetEditor();
     OnAtomEntered(pContainer, nullptr);
     if (pEditor && m_hWnd)
         pEditor->NotifyHandlers(this, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);

@@ -2,6 +2,7 @@
 #include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/list/ObjectsList.h"
 
@@ -12,7 +13,7 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
     const int nItem = pInfo->item.iItem;
     const HELDPAIR pair = HoldPair(nItem);
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pEditor || !m_pEditedName->Begin(pair, m_bPassive ? nullptr : pEditor.Get(), this, pInfo->item.pszText))
+    if (!pEditor || !views::BeginRename(pair, m_pEditor->GetEditor().Get(), this, m_strEdited, pInfo->item.pszText))
         return;
     const OBJPAIR* const pNow = PairAt(nItem);
     if (!pNow || pNow->pAtom != pair.pAtom.Get())
@@ -25,7 +26,7 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 void CObjectsList::OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     m_nEdited = -1;
-    *pResult = m_pEditedName->End(HoldPair(pInfo->item.iItem), pInfo->item.pszText) ? 0 : -1;
+    *pResult = views::EndRename(HoldPair(pInfo->item.iItem), m_strEdited, pInfo->item.pszText) ? 0 : -1;
 }
 
 // The control knows rows by their numbers alone: it is told where the edited one is, so that the name that is being

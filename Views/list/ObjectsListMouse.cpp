@@ -2,8 +2,8 @@
 #include "Views/clipboard/inside/Drags.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/EditorMenu.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/list/ObjectsList.h"
 
 // Opens the row under the cursor, in every view.
@@ -32,25 +32,25 @@ void CObjectsList::OnBeginDrag(NMHDR*, LRESULT* pResult)
 
 void CObjectsList::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForPress())
+    if (m_pEditor->TakeFocusForPress())
         CListCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CObjectsList::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForPress())
+    if (m_pEditor->TakeFocusForPress())
         CListCtrl::OnRButtonDown(nFlags, point);
 }
 
 void CObjectsList::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForDoubleClick())
+    if (m_pEditor->TakeFocusForDoubleClick())
         CListCtrl::OnLButtonDblClk(nFlags, point);
 }
 
 void CObjectsList::OnRButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForDoubleClick())
+    if (m_pEditor->TakeFocusForDoubleClick())
         CListCtrl::OnRButtonDblClk(nFlags, point);
 }
 

@@ -2,8 +2,8 @@
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/inside/Rows.h"
 #include "Views/list/inside/SyncPause.h"
@@ -31,9 +31,9 @@ void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!IsWindowVisible() || !(pChange->uChanged & LVIF_STATE) || pChange->iItem == -1)
         return;
 
-    m_pFocus->NoteSelChange();
+    m_pEditor->NoteSelChange();
     const HELDPAIR pair = HoldPair(pChange->iItem);
-    const auto pEditor = EditorToTell();
+    const auto pEditor = m_pEditor->GetEditor();
     if (!pair || !pEditor)
         return;
 
@@ -52,7 +52,7 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!m_bSync || !IsWindowVisible() || !(pChange->uChanged & LVIF_STATE))
         return;
     const bool bSelected = Gains(*pChange, LVIS_SELECTED);
-    const auto pEditor = EditorToTell();
+    const auto pEditor = m_pEditor->GetEditor();
     if (!pEditor || (!bSelected && !Loses(*pChange, LVIS_SELECTED)))
         return;
 
@@ -66,7 +66,7 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!pair)
         return;
     const views::SyncPause pause(m_bSync);
-    if (m_pFocus->IsHere()) // else the change mirrors another view's, which has told everyone
+    if (m_pEditor->HasFocus()) // else the change mirrors another view's, which has told everyone
         pair.Notify(pEditor.Get(), this, operation);
 }
 
@@ -141,17 +141,17 @@ void CObjectsList::OnSetFocus(CWnd* pOldWnd)
     if (FocusBlock::IsInFocusBlock())
         PostButtonUp();
     const auto announce = [this] {
-        if (!m_pFocus->IsLost())
+        if (!m_pEditor->IsFocusLost())
             AnnounceSelection();
         return true; // no answer to it counts
     };
-    if (m_pFocus->Gain(pOldWnd, announce))
+    if (m_pEditor->GainFocus(pOldWnd, announce))
         CListCtrl::OnSetFocus(pOldWnd);
 }
 
 void CObjectsList::AnnounceSelection()
 {
-    for (int i = -1; !m_pFocus->IsFromSelChange() && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;) {
+    for (int i = -1; !m_pEditor->IsFocusFromSelChange() && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;) {
         const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
         const HELDPAIR pair = HoldPair(i);
         if (!pEditor || !pair)
@@ -164,7 +164,7 @@ void CObjectsList::AnnounceSelection()
 void CObjectsList::OnKillFocus(CWnd* pNewWnd)
 {
     CListCtrl::OnKillFocus(pNewWnd);
-    m_pFocus->Lose();
+    m_pEditor->LoseFocus();
     PostButtonUp();
 }
 

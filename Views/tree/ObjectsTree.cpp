@@ -1,14 +1,12 @@
 // The tree view's life, from Create to its window's end.
 #include "Views/tree/ObjectsTree.h"
 
-#include "Views/clipboard/inside/EditedName.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/AddPane.h"
-#include "Views/host/inside/HandlerRegistration.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/tree/TreeDropTarget.h"
 #include "Views/tree/inside/TreeIconSlots.h"
 #include "Views/tree/inside/TreeRecords.h"
@@ -56,10 +54,7 @@ END_MESSAGE_MAP()
 CObjectsTree::CObjectsTree(int bPassive)
     : m_pRecords(std::make_unique<views::TreeRecords>()),
       m_pIconSlots(std::make_unique<views::TreeIconSlots>()),
-      m_bPassive(bPassive),
-      m_pRegistration(std::make_unique<views::HandlerRegistration>()),
-      m_pFocus(std::make_unique<views::ViewFocus>(*this, bPassive)),
-      m_pEditedName(std::make_unique<views::EditedName>()),
+      m_pEditor(std::make_unique<views::EditorLink>(*this, *this, bPassive)),
       m_pDropTarget(std::make_unique<CTreeDropTarget>())
 {}
 
@@ -95,7 +90,6 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
         return -1;
 
     m_bClosing = false;
-    m_pFocus->Reset();
     m_nOpenImage = m_nDefaultImage = -1;
     if (!JoinEditor(m_hWnd))
         return -1;
@@ -112,18 +106,16 @@ int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 bool CObjectsTree::JoinEditor(HWND hWnd)
 {
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pEditor)
-        return true;
-    if (!m_bPassive)
+    if (pEditor && !m_pEditor->IsPassive())
         views::AddPane(pEditor.Get(), kPaneKind, hWnd, views::IDS_TREE_PANE, views::IDR_TREE_PANE, kFallbackCaption);
-    return ::IsWindow(hWnd) && m_pRegistration->Begin(pEditor.Get(), hWnd, this);
+    return ::IsWindow(hWnd) && m_pEditor->Join(pEditor.Get());
 }
 
 // An item that OnDeleteAtom refuses goes without it. One that an outer call is removing just now is passed by.
 void CObjectsTree::OnDestroy()
 {
     m_bClosing = true;
-    m_pRegistration->End();
+    m_pEditor->Leave();
     SelectItem(nullptr); // or it would move on with each item that goes
 
     HTREEITEM hPassed = nullptr;

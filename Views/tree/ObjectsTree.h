@@ -16,11 +16,9 @@ class IAtomIcon;
 
 namespace views
 {
-class EditedName;
-class HandlerRegistration;
+class EditorLink;
 class TreeIconSlots;
 class TreeRecords;
-class ViewFocus;
 struct GiveBackRecord;
 struct HeldPair;
 struct MemberKeys;
@@ -183,10 +181,8 @@ private:
     int m_nOpenImage = -1;    // for an expanded item with children
     int m_nDefaultImage = -1; // for any other atom without an icon
     CString m_strLabel;       // the label asked for last; the control reads it there until it asks again
-    const BOOL m_bPassive;
-    const std::unique_ptr<views::HandlerRegistration> m_pRegistration;
-    const std::unique_ptr<views::ViewFocus> m_pFocus;
-    const std::unique_ptr<views::EditedName> m_pEditedName;
+    const std::unique_ptr<views::EditorLink> m_pEditor;
+    CString m_strEdited; // the name that is being edited in place of a label
     const std::unique_ptr<CTreeDropTarget> m_pDropTarget;
     bool m_bOnDemand = false; // members become items only when they are asked for
     bool m_bClosing = false;  // the window is being destroyed: nothing new is shown

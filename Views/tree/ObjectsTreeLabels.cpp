@@ -1,6 +1,6 @@
 // Renaming in the tree: the label of an item is edited in place.
 #include "Views/clipboard/inside/EditedName.h"
-#include "Views/host/IAtomEditor.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/tree/ObjectsTree.h"
 
@@ -8,14 +8,15 @@
 void CObjectsTree::OnBeginLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 {
     TVITEM& item = pInfo->item;
-    const bool bBegun = !m_bPassive &&
-                        m_pEditedName->Begin(HoldPair(item.hItem), EditorToTell().Get(), this, item.pszText) &&
-                        RecordOf(item.hItem);
+    const bool bBegun =
+        !m_pEditor->IsPassive() &&
+        views::BeginRename(HoldPair(item.hItem), EditorToTell().Get(), this, m_strEdited, item.pszText) &&
+        RecordOf(item.hItem);
     *pResult = bBegun ? 0 : -1;
 }
 
 // The label shows what the atom is called then, like every other label.
 void CObjectsTree::OnEndLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 {
-    *pResult = m_pEditedName->End(HoldPair(pInfo->item.hItem), pInfo->item.pszText) ? 0 : -1;
+    *pResult = views::EndRename(HoldPair(pInfo->item.hItem), m_strEdited, pInfo->item.pszText) ? 0 : -1;
 }

@@ -2,14 +2,14 @@
 #include "Views/clipboard/inside/Drags.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/EditorMenu.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Also where a key has asked for it.
 void CObjectsTree::OnContextMenu(CWnd*, CPoint)
 {
-    if (!m_bPassive)
+    if (!m_pEditor->IsPassive())
         views::ShowEditorMenu();
 }
 
@@ -30,27 +30,27 @@ void CObjectsTree::OnBeginDrag(NMTREEVIEW*, LRESULT* pResult)
 
 void CObjectsTree::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForPress())
+    if (m_pEditor->TakeFocusForPress())
         CTreeCtrl::OnLButtonDown(nFlags, point);
 }
 
 void CObjectsTree::OnLButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForDoubleClick())
+    if (m_pEditor->TakeFocusForDoubleClick())
         CTreeCtrl::OnLButtonDblClk(nFlags, point);
 }
 
 void CObjectsTree::OnRButtonDblClk(UINT nFlags, CPoint point)
 {
-    if (m_pFocus->TakeForDoubleClick())
+    if (m_pEditor->TakeFocusForDoubleClick())
         CTreeCtrl::OnRButtonDblClk(nFlags, point);
 }
 
 // A tree that has the focus selects what the button is pressed on; the control is not asked.
 void CObjectsTree::OnRButtonDown(UINT nFlags, CPoint point)
 {
-    const bool bFocused = m_pFocus->IsHere();
-    if (!m_pFocus->TakeForPress())
+    const bool bFocused = m_pEditor->HasFocus();
+    if (!m_pEditor->TakeFocusForPress())
         return;
     if (!bFocused)
         return CTreeCtrl::OnRButtonDown(nFlags, point);

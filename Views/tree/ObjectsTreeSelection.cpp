@@ -2,8 +2,8 @@
 #include "Views/host/FocusBlock.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
+#include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
-#include "Views/host/inside/ViewFocus.h"
 #include "Views/tree/ObjectsTree.h"
 #include "Views/tree/inside/TreeIconSlots.h"
 
@@ -31,7 +31,7 @@ BOOL CObjectsTree::GetSelectedAtom(void** ppOut, DWORD dwInterfaceId)
 // those that are left, and is no news to anyone.
 CStubRef<IAtomEditor> CObjectsTree::EditorToTell() const
 {
-    return CStubRef<IAtomEditor>::Adopt(m_bPassive || m_bClosing ? nullptr : GetAtomEditor());
+    return m_bClosing ? nullptr : m_pEditor->GetEditor();
 }
 
 BOOL CObjectsTree::Notify(AEStateOperation operation, HTREEITEM hItem)
@@ -42,11 +42,11 @@ BOOL CObjectsTree::Notify(AEStateOperation operation, HTREEITEM hItem)
 
 void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
 {
-    m_pFocus->NoteSelChange();
+    m_pEditor->NoteSelChange();
     if (IsWithin(pChange->itemNew.hItem, pChange->itemOld.hItem))
         m_pIconSlots->ItemsHidden(); // it may have been collapsed: that is told only when this has been told
-    if (!m_bPassive && !MayChangeSelection(*pChange)) {
-        m_pFocus->SetFromSelChange(FALSE); // there is no change that the focus could come with
+    if (!m_pEditor->IsPassive() && !MayChangeSelection(*pChange)) {
+        m_pEditor->SetFocusFromSelChange(FALSE); // there is no change that the focus could come with
         *pResult = -1;
         return;
     }
@@ -60,10 +60,10 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
 bool CObjectsTree::MayChangeSelection(const NMTREEVIEW& change)
 {
     const HTREEITEM hNew = change.itemNew.hItem;
-    m_pFocus->Take();
+    m_pEditor->TakeFocus();
     if (!Notify(&IAEStateHandler::OnAtomDeselecting, change.itemOld.hItem))
         return false;
-    m_pFocus->Take();
+    m_pEditor->TakeFocus();
     return Notify(&IAEStateHandler::OnAtomSelecting, hNew) && (!hNew || IsItem(hNew));
 }
 
@@ -71,7 +71,7 @@ BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
 {
     Notify(&IAEStateHandler::OnAtomDeselected, pChange->itemOld.hItem);
     GoOnSelected(pChange->itemNew.hItem);
-    m_pFocus->SetFromSelChange(FALSE); // the change is over; a refused focus may have left it set
+    m_pEditor->SetFocusFromSelChange(FALSE); // the change is over; a refused focus may have left it set
     *pResult = 0;
     return FALSE; // the parent window hears of it, too
 }
@@ -92,17 +92,17 @@ void CObjectsTree::GoOnSelected(HTREEITEM hItem)
 void CObjectsTree::OnSetFocus(CWnd* pOldWnd)
 {
     const FocusBlock block;
-    const BOOL bFromSelChange = m_pFocus->IsFromSelChange();
-    if (m_pFocus->Gain(pOldWnd, [this] { return AnnounceSelection(); }))
+    const BOOL bFromSelChange = m_pEditor->IsFocusFromSelChange();
+    if (m_pEditor->GainFocus(pOldWnd, [this] { return AnnounceSelection(); }))
         CTreeCtrl::OnSetFocus(pOldWnd);
     else
-        m_pFocus->SetFromSelChange(bFromSelChange); // the focus never was here, whatever losing it has done
+        m_pEditor->SetFocusFromSelChange(bFromSelChange); // the focus never was here, whatever losing it has done
 }
 
 // False: someone refused.
 bool CObjectsTree::AnnounceSelection()
 {
-    const HTREEITEM hItem = m_pFocus->IsFromSelChange() ? nullptr : GetSelectedItem();
+    const HTREEITEM hItem = m_pEditor->IsFocusFromSelChange() ? nullptr : GetSelectedItem();
     if (!Notify(&IAEStateHandler::OnAtomSelecting, hItem))
         return false;
     Notify(&IAEStateHandler::OnAtomSelected, hItem);
@@ -112,5 +112,5 @@ bool CObjectsTree::AnnounceSelection()
 void CObjectsTree::OnKillFocus(CWnd* pNewWnd)
 {
     CTreeCtrl::OnKillFocus(pNewWnd);
-    m_pFocus->Lose();
+    m_pEditor->LoseFocus();
 }

@@ -5,16 +5,33 @@
 #include "Views/host/inside/HeldPair.h"
 #include "Views/host/inside/ReadName.h"
 
-bool views::EditedName::Begin(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, LPSTR& pszText)
+namespace
+{
+
+bool IsOutdated(IAtom* pAtom, const CString& strName)
+{
+    try {
+        CString strNow;
+        return views::ReadName(pAtom, &IAtom::GetName, strNow) && strNow != strName;
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return true;
+    }
+}
+
+} // namespace
+
+bool views::BeginRename(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, CString& strName,
+                        LPSTR& pszText)
 {
     if (!pair || !CanRenameObject(pair.pAtom.Get(), pair.pContainer.Get()) ||
         !pair.Notify(pEditor, pView, &IAEStateHandler::PreRenameAtom))
         return false;
     try {
-        CString strName;
-        const bool bRead = ReadName(pair.pAtom.Get(), &IAtom::GetName, strName);
-        m_strName = bRead ? strName : CString();
-        pszText = bRead ? const_cast<LPSTR>(m_strName.GetString()) : pszText;
+        CString strRead;
+        const bool bRead = ReadName(pair.pAtom.Get(), &IAtom::GetName, strRead);
+        strName = bRead ? strRead : CString();
+        pszText = bRead ? const_cast<LPSTR>(strName.GetString()) : pszText;
         return true;
     } catch (CMemoryException& e) {
         e.ReportError();
@@ -22,21 +39,9 @@ bool views::EditedName::Begin(const HeldPair& pair, IAtomEditor* pEditor, IAESta
     }
 }
 
-bool views::EditedName::IsOutdated(IAtom* pAtom) const
+BOOL views::EndRename(const HeldPair& pair, const CString& strName, LPCSTR pszTyped)
 {
-    try {
-        CString strNow;
-        return ReadName(pAtom, &IAtom::GetName, strNow) && strNow != m_strName;
-    } catch (CMemoryException& e) {
-        e.ReportError();
-        return true;
-    }
-}
-
-BOOL views::EditedName::End(const HeldPair& pair, LPCSTR pszTyped) const
-{
-    IAtom* const pAtom = pair.pAtom.Get();
-    if (!pAtom || !pszTyped || (m_strName == pszTyped && IsOutdated(pAtom)))
+    if (!pair || !pszTyped || (strName == pszTyped && IsOutdated(pair.pAtom.Get(), strName)))
         return FALSE;
-    return RenameObject(pAtom, pair.pContainer.Get(), pszTyped);
+    return RenameObject(pair.pAtom.Get(), pair.pContainer.Get(), pszTyped);
 }

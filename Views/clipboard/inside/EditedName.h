@@ -1,10 +1,12 @@
-// Inside the library.
+// Inside the library: renaming an atom in place of its label.
+//
+// What is edited is the atom's own name, whatever the label shows in its place or behind it: a name that the user
+// leaves as it is stays as it is, and so does one that has changed meanwhile.
 #pragma once
 
 #include "Toolkit/base/String.h"
 
 class IAEStateHandler;
-class IAtom;
 class IAtomEditor;
 
 namespace views
@@ -12,24 +14,12 @@ namespace views
 
 struct HeldPair;
 
-// The name that a view has edited in place of a label.
-//
-// It is the atom's own, whatever the label shows in its place or behind it: a name that the user leaves as it is stays
-// as it is, and so does one that has changed meanwhile.
-class EditedName
-{
-public:
-    // Whether the name may be edited: it may be changed, and nobody whom the editor asks (NULL: nobody is asked)
-    // refuses. The editing begins with pszText then, to be read, not written, which stays as it is when the atom does
-    // not give its name. Running out of memory is reported.
-    bool Begin(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, LPSTR& pszText);
-    // Renames the atom to what the user has made of it (NULL: nothing). FALSE when it is not called so.
-    BOOL End(const HeldPair& pair, LPCSTR pszTyped) const;
+// Whether the atom may have a new name: its container lets it, and nobody whom the editor asks for the view (NULL:
+// nobody is asked) refuses. The editing begins with pszText then, to be read, not written: strName, or what it was
+// where the atom does not give its name. Running out of memory is reported.
+bool BeginRename(const HeldPair& pair, IAtomEditor* pEditor, IAEStateHandler* pView, CString& strName, LPSTR& pszText);
 
-private:
-    bool IsOutdated(IAtom* pAtom) const;
-
-    CString m_strName;
-};
+// Renames the atom to what the user has made of strName (NULL: nothing). FALSE when it is not called so.
+BOOL EndRename(const HeldPair& pair, const CString& strName, LPCSTR pszTyped);
 
 } // namespace views
