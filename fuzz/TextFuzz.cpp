@@ -1,7 +1,7 @@
 // Folding, comparing and sorting texts without regard to case. Each line is a text.
 #include "Toolkit/base/Text.h"
 #include "Toolkit/base/WideText.h"
-#include "Views/host/inside/NameKeys.h"
+#include "Views/host/inside/AtomOrder.h"
 #include "fuzz/Check.h"
 
 #include <algorithm>

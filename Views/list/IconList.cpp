@@ -3,6 +3,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomIcon.h"
 #include "Views/host/Resources.h"
+#include "Views/list/inside/FreeImages.h"
 
 namespace
 {
@@ -18,7 +19,9 @@ BEGIN_MESSAGE_MAP(CIconList, CObjectsList)
     ON_WM_CREATE()
 END_MESSAGE_MAP()
 
-CIconList::CIconList(int bPassive) : CObjectsList(kPaneKind, views::IDR_ICON_PANE, bPassive) {}
+CIconList::CIconList(int bPassive)
+    : CObjectsList(kPaneKind, views::IDR_ICON_PANE, bPassive), m_pFreeImages(std::make_unique<views::FreeImages>())
+{}
 
 CIconList::~CIconList()
 {
@@ -35,7 +38,7 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
     } catch (const CMemoryException&) {
         // As without the bitmap.
     }
-    m_freeImages.Clear(); // a former window's
+    m_pFreeImages->Clear(); // a former window's
     m_nDefaultImage = 0;
     SetImageList(&m_images, LVSIL_NORMAL);
     return 0;
@@ -45,7 +48,7 @@ int CIconList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData)
 {
     const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);
-    const int nFree = m_freeImages.Take();
+    const int nFree = m_pFreeImages->Take();
     int nImage = -1;
     try {
         nImage = pIcon ? pIcon->AddToImageList(m_images.GetSafeHandle(), nFree) : -1;
@@ -58,5 +61,5 @@ void CIconList::OnCacheItem(int, IAtom* pAtom, IAtomContainer*, CACHEDATA* pData
 void CIconList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
 {
     if (pData->nImage != m_nDefaultImage)
-        m_freeImages.Add(pData->nImage);
+        m_pFreeImages->Add(pData->nImage);
 }

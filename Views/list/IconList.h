@@ -3,7 +3,11 @@
 
 #include "Toolkit/graphics/ImageList.h"
 #include "Views/list/ObjectsList.h"
-#include "Views/list/inside/FreeImages.h"
+
+namespace views
+{
+class FreeImages;
+}
 
 // Pictures are 48 pixels wide and as high as the host's bitmap IDB_LIST_ITEMS (Resources.h), whose first picture serves
 // atoms without an icon. The images of rows that leave the cache are used again for rows that enter it, the longest
@@ -24,5 +28,5 @@ protected:
 private:
     CImageList m_images; // grows, never shrinks while the window lives
     int m_nDefaultImage = 0;
-    views::FreeImages m_freeImages;
+    const std::unique_ptr<views::FreeImages> m_pFreeImages;
 };

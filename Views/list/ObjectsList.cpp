@@ -3,7 +3,6 @@
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
-#include "Views/host/inside/AddPane.h"
 #include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/list/inside/ObjectsListCache.h"
@@ -48,8 +47,6 @@ BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDBLCLK()
-    ON_WM_RBUTTONUP()
-    ON_WM_LBUTTONUP()
     ON_NOTIFY_REFLECT(LVN_ITEMCHANGED, OnItemChanged)
     ON_WM_SETFOCUS()
     ON_NOTIFY_REFLECT(LVN_ITEMCHANGING, OnItemChanging)
@@ -87,11 +84,6 @@ BOOL CObjectsList::PreCreateWindow(CREATESTRUCT& cs)
     cs.style = kStyle;
     cs.dwExStyle |= WS_EX_CLIENTEDGE;
     return TRUE;
-}
-
-LRESULT CObjectsList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
 int CObjectsList::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -177,7 +169,7 @@ void CObjectsList::ShowPane()
     if (!pEditor)
         return;
     m_bPaneShown = TRUE;
-    views::AddPane(pEditor.Get(), m_nPaneKind, m_hWnd, m_nResourceID, m_nResourceID, "");
+    m_pEditor->AddPane(pEditor.Get(), m_nPaneKind, m_nResourceID, m_nResourceID, "");
 }
 
 void CObjectsList::RemovePane()

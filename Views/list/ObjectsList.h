@@ -85,7 +85,6 @@ protected:
     static int CompareFunc1(const void* p1, const void* p2);
 
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
@@ -99,8 +98,6 @@ protected:
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg void OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult);

@@ -3,7 +3,6 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/EditorLink.h"
-#include "Views/host/inside/EditorMenu.h"
 #include "Views/list/ObjectsList.h"
 
 // Opens the row under the cursor, in every view.
@@ -19,7 +18,7 @@ void CObjectsList::OnDblclk(NMHDR*, LRESULT* pResult)
 // Also where a key has asked for it.
 void CObjectsList::OnContextMenu(CWnd*, CPoint)
 {
-    views::ShowEditorMenu();
+    views::EditorLink::ShowMenu();
 }
 
 void CObjectsList::OnBeginDrag(NMHDR*, LRESULT* pResult)
@@ -52,14 +51,4 @@ void CObjectsList::OnRButtonDblClk(UINT nFlags, CPoint point)
 {
     if (m_pEditor->TakeFocusForDoubleClick())
         CListCtrl::OnRButtonDblClk(nFlags, point);
-}
-
-void CObjectsList::OnLButtonUp(UINT nFlags, CPoint point)
-{
-    CListCtrl::OnLButtonUp(nFlags, point);
-}
-
-void CObjectsList::OnRButtonUp(UINT nFlags, CPoint point)
-{
-    CListCtrl::OnRButtonUp(nFlags, point);
 }

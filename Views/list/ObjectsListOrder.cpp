@@ -1,7 +1,7 @@
 // The list view's order, which is also its test of sameness. What is found by it is in inside/Rows.cpp.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Text.h"
-#include "Views/host/inside/LinkOrder.h"
+#include "Views/host/inside/AtomOrder.h"
 #include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
 

@@ -6,11 +6,24 @@
 #include "Views/host/inside/HeldPair.h"
 #include "Views/list/ObjectsList.h"
 #include "Views/list/inside/Rows.h"
-#include "Views/list/inside/SyncPause.h"
 #include "Views/list/inside/UpdateLock.h"
 
 namespace
 {
+
+// Has a view ignore the editor for as long as it lives. Afterwards the view reacts again, also when it did not before:
+// an inner pause ends the outer one.
+class SyncPause
+{
+public:
+    explicit SyncPause(BOOL& bSync) : m_bSync(bSync) { m_bSync = FALSE; }
+    ~SyncPause() { m_bSync = TRUE; }
+    SyncPause(const SyncPause&) = delete;
+    SyncPause& operator=(const SyncPause&) = delete;
+
+private:
+    BOOL& m_bSync;
+};
 
 bool Gains(const NMLISTVIEW& change, UINT nState)
 {
@@ -37,7 +50,7 @@ void CObjectsList::OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult)
     if (!pair || !pEditor)
         return;
 
-    const views::SyncPause pause(m_bSync);
+    const SyncPause pause(m_bSync);
     BOOL bAllowed = TRUE;
     if (Gains(*pChange, LVIS_SELECTED))
         bAllowed = pair.Notify(pEditor.Get(), this, &IAEStateHandler::OnAtomSelecting);
@@ -65,7 +78,7 @@ void CObjectsList::OnItemChanged(NMLISTVIEW* pChange, LRESULT* pResult)
     const HELDPAIR pair = HoldPair(pChange->iItem);
     if (!pair)
         return;
-    const views::SyncPause pause(m_bSync);
+    const SyncPause pause(m_bSync);
     if (m_pEditor->HasFocus()) // else the change mirrors another view's, which has told everyone
         pair.Notify(pEditor.Get(), this, operation);
 }
@@ -86,7 +99,7 @@ void CObjectsList::MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, boo
 {
     if (!IsListening())
         return;
-    const views::SyncPause pause(m_bSync);
+    const SyncPause pause(m_bSync);
     if (!pAtom) {
         if (pContainer)
             SetAllSelected(bSelected);

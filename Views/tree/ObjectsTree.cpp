@@ -4,7 +4,6 @@
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
-#include "Views/host/inside/AddPane.h"
 #include "Views/host/inside/EditorLink.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/tree/TreeDropTarget.h"
@@ -45,10 +44,6 @@ BEGIN_MESSAGE_MAP(CObjectsTree, CTreeCtrl)
     ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_WM_RBUTTONDBLCLK()
-    ON_WM_LBUTTONUP()
-    ON_WM_RBUTTONUP()
-    ON_WM_KEYDOWN()
-    ON_WM_KEYUP()
 END_MESSAGE_MAP()
 
 CObjectsTree::CObjectsTree(int bPassive)
@@ -78,11 +73,6 @@ BOOL CObjectsTree::PreCreateWindow(CREATESTRUCT& cs)
     return TRUE;
 }
 
-BOOL CObjectsTree::PreTranslateMessage(MSG* pMsg)
-{
-    return CTreeCtrl::PreTranslateMessage(pMsg);
-}
-
 // Without the bitmap the tree works, but shows no pictures.
 int CObjectsTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
@@ -107,7 +97,7 @@ bool CObjectsTree::JoinEditor(HWND hWnd)
 {
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
     if (pEditor && !m_pEditor->IsPassive())
-        views::AddPane(pEditor.Get(), kPaneKind, hWnd, views::IDS_TREE_PANE, views::IDR_TREE_PANE, kFallbackCaption);
+        m_pEditor->AddPane(pEditor.Get(), kPaneKind, views::IDS_TREE_PANE, views::IDR_TREE_PANE, kFallbackCaption);
     return ::IsWindow(hWnd) && m_pEditor->Join(pEditor.Get());
 }
 

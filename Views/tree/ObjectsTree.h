@@ -60,8 +60,6 @@ public:
     // Registered when the window is made. A host that has a target of its own revokes this one.
     CTreeDropTarget& GetDropTarget() { return *m_pDropTarget; }
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
-
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override;
 
@@ -118,10 +116,6 @@ protected:
     afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
     DECLARE_MESSAGE_MAP()
 
 private:

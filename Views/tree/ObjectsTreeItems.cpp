@@ -218,6 +218,26 @@ BOOL CObjectsTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     return TRUE;
 }
 
+// Members without an item are not looked for: new ones are announced. The first item of an atom announced twice is
+// out of OnDeleteAtom's reach, which would remove the second one instead.
+void CObjectsTree::SyncItems(HTREEITEM hParent, IAtomContainer* pContainer)
+{
+    const auto pHeld = CStubRef<IAtomContainer>::Share(pContainer); // removing may re-enter and remove the parent
+    try {
+        for (const HTREEITEM hChild : ChildrenOf(hParent)) {
+            const HELDPAIR pair = HoldPair(hChild);
+            if (!pair.pAtom || pContainer->FindAtomByID(pair.pAtom->GetID(), nullptr, 0))
+                continue;
+            if (GetItem(pair.pAtom.Get()) == hChild)
+                OnDeleteAtom(pair.pAtom.Get(), pair.pContainer.Get());
+            else
+                RemoveItem(hChild);
+        }
+    } catch (CMemoryException& e) {
+        e.ReportError();
+    }
+}
+
 // From here on the item is going: it is not removed twice, however its removal comes back, and takes no members. Empty
 // when it is going already, or only arriving: the one who began that ends it.
 CObjectsTree::RecordHolder CObjectsTree::TakeRecord(HTREEITEM hItem)

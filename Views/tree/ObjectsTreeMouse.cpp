@@ -1,16 +1,15 @@
-// The mouse in the tree, beyond selection, and the keys. What is dropped on it is in TreeDropTarget.cpp.
+// The mouse in the tree, beyond selection. What is dropped on it is in TreeDropTarget.cpp.
 #include "Views/clipboard/inside/Drags.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/inside/EditorLink.h"
-#include "Views/host/inside/EditorMenu.h"
 #include "Views/tree/ObjectsTree.h"
 
 // Also where a key has asked for it.
 void CObjectsTree::OnContextMenu(CWnd*, CPoint)
 {
     if (!m_pEditor->IsPassive())
-        views::ShowEditorMenu();
+        views::EditorLink::ShowMenu();
 }
 
 // The item under the cursor is selected first, so that its atom is the one that the editor drags.
@@ -60,24 +59,4 @@ void CObjectsTree::OnRButtonDown(UINT nFlags, CPoint point)
         return;
     SetFocus();
     SelectItem(hItem);
-}
-
-void CObjectsTree::OnLButtonUp(UINT nFlags, CPoint point)
-{
-    CTreeCtrl::OnLButtonUp(nFlags, point);
-}
-
-void CObjectsTree::OnRButtonUp(UINT nFlags, CPoint point)
-{
-    CTreeCtrl::OnRButtonUp(nFlags, point);
-}
-
-void CObjectsTree::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
-{
-    CTreeCtrl::OnKeyDown(nChar, nRepCnt, nFlags);
-}
-
-void CObjectsTree::OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags)
-{
-    CTreeCtrl::OnKeyUp(nChar, nRepCnt, nFlags);
 }

@@ -1,10 +1,31 @@
 #include "Views/host/inside/EditorLink.h"
 
+#include "Toolkit/base/Exception.h"
+#include "Toolkit/base/String.h"
+#include "Toolkit/graphics/Resources.h"
+#include "Toolkit/menu/Menu.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/Services.h"
 #include "Views/host/TopLevelAtom.h"
+#include "Views/host/inside/GdiHolders.h"
 
+#include <memory>
 #include <utility>
+
+namespace
+{
+
+views::IconHolder LoadPaneIcon(UINT nIconID)
+{
+    try {
+        return views::IconHolder(::LoadIcon(LOWORD(nIconID)));
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        return nullptr;
+    }
+}
+
+} // namespace
 
 CStubRef<IAtomEditor> views::EditorLink::GetEditor() const
 {
@@ -33,6 +54,32 @@ void views::EditorLink::Leave()
         return;
     if (const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor()))
         pEditor->UnregisterHandler(*cookie);
+}
+
+void views::EditorLink::AddPane(IAtomEditor* pEditor, DWORD dwKind, UINT nCaptionID, UINT nIconID,
+                                LPCSTR pszOtherCaption) const
+{
+    const IconHolder hIcon = LoadPaneIcon(nIconID);
+    try {
+        CString strCaption;
+        strCaption.LoadString(nCaptionID);
+        pEditor->AddPane(dwKind, m_view.m_hWnd, strCaption, hIcon.get());
+    } catch (CMemoryException& e) {
+        e.ReportError();
+        pEditor->AddPane(dwKind, m_view.m_hWnd, pszOtherCaption, hIcon.get());
+    }
+}
+
+void views::EditorLink::ShowMenu()
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const std::unique_ptr<CMenu> pMenu(pEditor ? pEditor->CreateContextMenu() : nullptr);
+    if (!pMenu)
+        return;
+    CPoint point;
+    ::GetCursorPos(&point);
+    CWnd* const pOwner = CWnd::FromHandle(pEditor->GetMainWindow());
+    pMenu->TrackPopupMenu(TPM_LEFTALIGN | TPM_LEFTBUTTON, point.x, point.y, pOwner);
 }
 
 bool views::EditorLink::OfferSave()

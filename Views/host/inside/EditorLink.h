@@ -11,7 +11,7 @@
 namespace views
 {
 
-// A view's link with the atom editor: its place among the handlers, and its part in handing the focus around.
+// A view's link with the atom editor: its place among the handlers, its pane, and its part in handing the focus around.
 //
 // The view that has the focus is the one whose selection counts: the selection is announced when the focus comes,
 // unless it was made from outside while another view had the focus, which everyone knows.
@@ -29,6 +29,13 @@ public:
     // went while the editor was told.
     bool Join(IAtomEditor* pEditor);
     void Leave(); // does nothing without a registration; without an editor there is none any more
+
+    // Shows the view as a pane with a string and an icon of the host's. When memory runs out, the user is told, and the
+    // pane comes without the icon, or with the other caption in place of the string. The window may be gone afterwards.
+    void AddPane(IAtomEditor* pEditor, DWORD dwKind, UINT nCaptionID, UINT nIconID, LPCSTR pszOtherCaption) const;
+    // Shows the editor's menu for what is selected, at the cursor, until the user has chosen; what is chosen goes to
+    // the editor's main window. Nothing happens without an editor or a menu. The view may be gone afterwards.
+    static void ShowMenu();
 
     bool HasFocus() const { return m_view.m_hWnd && ::GetFocus() == m_view.m_hWnd; }
     bool TakeFocus(); // false when it was refused

@@ -2,7 +2,7 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Views/host/IPhase.h"
-#include "Views/host/inside/NameKeys.h"
+#include "Views/host/inside/AtomOrder.h"
 
 #include <algorithm>
 #include <cstdlib>

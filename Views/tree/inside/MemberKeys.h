@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Toolkit/controls/tree/TreeView.h"
-#include "Views/host/inside/NameKeys.h"
+#include "Views/host/inside/AtomOrder.h"
 
 #include <vector>
 

@@ -11,7 +11,11 @@ namespace views
 {
 
 // Cuts the text at nLength bytes and, for a modified atom, writes the mark behind it. The buffer has room for it.
-void EndLabel(char* pszLabel, std::size_t nLength, bool bModified);
+inline void EndLabel(char* pszLabel, std::size_t nLength, bool bModified)
+{
+    char* const pszEnd = pszLabel + strnlen(pszLabel, nLength);
+    std::memcpy(pszEnd, bModified ? " *" : "", bModified ? 3 : 1);
+}
 
 // Reads a name by the name protocol (IAtom.h) into strLabel and marks it when the atom is modified. The buffer is
 // sized once, mark included, so what is there already is reused. The label, in strLabel's buffer; NULL when the name is

@@ -1,13 +1,20 @@
-// Inside the library: sorting names without regard to case, each read once.
+// Inside the library: the order of atoms.
 #pragma once
 
 #include "Toolkit/base/TextKeys.h"
 #include "Views/host/IAtom.h"
 
+#include <optional>
+
 namespace views
 {
 
-// Keys that order like _mbsicmp orders the names of the atoms added.
+// Compares two image links by their positions in the phase of the second: negative, 0 or positive. Nothing when not
+// both are image links or the second is in no phase: their names decide then.
+std::optional<int> CompareLinks(IAtom* a, IAtom* b);
+
+// Sorts names without regard to case, each read once: keys that order like _mbsicmp orders the names of the atoms
+// added.
 class NameKeys
 {
 public:

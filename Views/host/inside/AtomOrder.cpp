@@ -1,8 +1,8 @@
-#include "Views/host/inside/LinkOrder.h"
+#include "Views/host/inside/AtomOrder.h"
 
-#include "Views/host/IAtom.h"
 #include "Views/host/IPhase.h"
 #include "Views/host/StubRef.h"
+#include "Views/host/inside/ReadName.h"
 
 #include <algorithm>
 #include <limits>
@@ -29,4 +29,17 @@ std::optional<int> views::CompareLinks(IAtom* a, IAtom* b)
     if (!pAtomB || !pAtomB->GetContainer(pPhase.Receive(), IID_IPhase) || !pPhase)
         return std::nullopt;
     return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
+}
+
+bool views::NameKeys::Add(IAtom* pAtom)
+{
+    auto dwLength = static_cast<DWORD>(AskNameLength(pAtom, &IAtom::GetName));
+    if (m_buffer.size() <= dwLength)
+        m_buffer.resize(std::size_t{dwLength} + 1);
+    m_buffer[0] = '\0';
+    m_buffer[dwLength] = '\0';
+    if (!pAtom->GetName(m_buffer.data(), &dwLength))
+        return false;
+    m_keys.Add(m_buffer.data());
+    return true;
 }
