@@ -1,4 +1,4 @@
-# What `cmake --install` gives to programmers: libraries, headers, and how CMake and pkg-config find them.
+# What `cmake --install` gives to programmers: libraries, headers but for those "inside", and how CMake and pkg-config find them.
 include(CMakePackageConfigHelpers)
 
 set(config_folder ${CMAKE_INSTALL_LIBDIR}/cmake/Views)
@@ -7,7 +7,8 @@ function(install_libraries set) # install_libraries(EXPORT-SET NAME...)
     install(TARGETS ${ARGN} EXPORT ${set} LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
     install(EXPORT ${set} NAMESPACE Views:: DESTINATION ${config_folder})
     foreach(name ${ARGN})
-        install(DIRECTORY ${PROJECT_SOURCE_DIR}/${name} DESTINATION ${VIEWS_HEADERS} FILES_MATCHING PATTERN *.h)
+        install(DIRECTORY ${PROJECT_SOURCE_DIR}/${name} DESTINATION ${VIEWS_HEADERS}
+                FILES_MATCHING PATTERN *.h PATTERN inside EXCLUDE)
     endforeach()
 endfunction()
 

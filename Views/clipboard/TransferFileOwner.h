@@ -1,4 +1,3 @@
-// Inside the library.
 #pragma once
 
 #include "Toolkit/base/GlobalMemory.h"

@@ -9,3 +9,4 @@
 #include "Views/clipboard/Archives.h"
 #include "Views/clipboard/Commands.h"
 #include "Views/clipboard/Naming.h"
+#include "Views/clipboard/TransferFileOwner.h"
