@@ -22,6 +22,11 @@ struct EditorApp::Parts
         AddEditorResources(resources);
         resources.Join();
         AfxSetAppName("Views");
+        if (options.isFollowing)
+            pWatch = std::make_unique<FolderWatch>([this](const auto& news) {
+                if (pFrame && pFrame->GetSafeHwnd())
+                    pFrame->OnDiskNews(news);
+            });
     }
     ~Parts()
     {
@@ -39,6 +44,7 @@ struct EditorApp::Parts
 
     const PictureReader& reader;
     const Options options;
+    std::unique_ptr<FolderWatch> pWatch; // or empty
     CResourceModule resources;
     CAtomEditor atomEditor;
     std::shared_ptr<PictureStore> pPictures;
@@ -58,6 +64,8 @@ std::string EditorApp::OpenFolder(const std::string& path)
     const CStubRef<CLibrary> pLibrary = CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error);
     if (!pLibrary)
         return error;
+    if (m_parts->pWatch)
+        pLibrary->SetWatch(m_parts->pWatch.get());
     pLibrary->SetHistory(&m_parts->atomEditor.GetHistory());
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
     if (!GetMainWindow()) {

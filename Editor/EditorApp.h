@@ -19,6 +19,7 @@ public:
     {
         CSize size{960, 640};           // of the frame's client area
         std::function<void()> onClosed; // the user closed the frame, whose window is gone; may be empty
+        bool isFollowing = false;       // are the views to show what other programs do to the files?
     };
 
     // Installs the editor's services and resources; one editor at a time. The reader is borrowed and outlives the

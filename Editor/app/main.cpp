@@ -56,7 +56,8 @@ int Show(QApplication& application, const editor::CommandLine& line, const edito
     QObject::connect(&asked, &QSocketNotifier::activated, &application, &QApplication::quit);
     application.setWindowIcon(editor::MakeProgramIcon());
     qtdesktop::QtDesktop desktop;
-    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = [&] { application.quit(); }});
+    editor::EditorApp editor(Reader(),
+                             {.size = line.size, .onClosed = [&] { application.quit(); }, .isFollowing = true});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     return application.exec();

@@ -65,8 +65,23 @@ Directory::Kind Directory::KindOf(const dirent& entry) const
     default:
         return Kind::Other;
     }
+    return KindBehind(entry.d_name);
+}
+
+bool Directory::Find(const char* pszName, bool& isDirectory) const
+{
     struct stat status;
-    if (fstatat(dirfd(m_pDir), entry.d_name, &status, 0) != 0)
+    if (!m_pDir || pszName[0] == '.' || fstatat(dirfd(m_pDir), pszName, &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return false;
+    const Kind kind = KindBehind(pszName);
+    isDirectory = kind == Kind::Directory;
+    return kind != Kind::Other;
+}
+
+Directory::Kind Directory::KindBehind(const char* pszName) const
+{
+    struct stat status;
+    if (fstatat(dirfd(m_pDir), pszName, &status, 0) != 0)
         return Kind::File;
     return S_ISDIR(status.st_mode) ? Kind::Directory : S_ISREG(status.st_mode) ? Kind::File : Kind::Other;
 }

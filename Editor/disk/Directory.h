@@ -36,6 +36,8 @@ public:
     // nowhere counts as a file. Asks the disk about a single entry only when the directory itself does not tell its
     // kind.
     void ForEach(const std::function<bool(const char* pszName, bool isDirectory)>& entry);
+    // The same for one name: is there anything that counts, and is it a directory?
+    bool Find(const char* pszName, bool& isDirectory) const;
     // Among the names passed over, those of entries in the making or left over (TempEntry).
     const std::vector<std::string>& GetTempNames() const { return m_tempNames; }
 
@@ -47,6 +49,7 @@ private:
         Other
     };
     Kind KindOf(const dirent& entry) const;
+    Kind KindBehind(const char* pszName) const;
 
     DIR* m_pDir = nullptr;
     int m_error = 0;

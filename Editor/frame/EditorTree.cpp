@@ -1,8 +1,10 @@
 #include "Editor/frame/EditorTree.h"
 
-#include "Editor/model/Container.h"
+#include "Editor/model/Folder.h"
 
+#include <set>
 #include <utility>
+#include <vector>
 
 namespace editor
 {
@@ -61,10 +63,40 @@ int CEditorTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
     const FocusKeeper keeper(m_hWnd);
+    const HTREEITEM hItem = pAtom || !pContainer ? nullptr : GetItem(pContainer);
+    const bool bShown = hItem && AreMembersShown(hItem);
+    if (bShown && dynamic_cast<CFolder*>(pContainer)) {
+        UpdateMembers(hItem, pContainer);
+        return TRUE;
+    }
     CObjectsTree::OnDeleteAtom(pAtom, pContainer);
-    if (!pAtom && pContainer && AreMembersShown(GetItem(pContainer)))
-        ShowMembers(pContainer);
+    if (bShown)
+        ShowMembers(pContainer); // lines of a phase, which may have changed places
     return TRUE;
+}
+
+// Those that are still there keep what is expanded below them.
+void CEditorTree::UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer)
+{
+    std::set<IAtom*> known;
+    std::vector<CStubRef<IAtom>> gone;
+    for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild)) {
+        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hChild));
+        IAtom* const pAtom = pRecord ? pRecord->pAtom.Get() : nullptr;
+        known.insert(pAtom);
+        if (pAtom && !pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0))
+            gone.push_back(CStubRef<IAtom>::Share(pAtom));
+    }
+    for (const auto& pAtom : gone)
+        CObjectsTree::OnDeleteAtom(pAtom.Get(), pContainer);
+    for (UINT i = 0, nCount = pContainer->GetCount(); i < nCount; ++i) {
+        CStubRef<IAtom> pAtom;
+        void* pMember = nullptr;
+        pContainer->GetAtoms(i, 1, &pMember, IID_IAtom);
+        pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(pMember));
+        if (pAtom && !known.contains(pAtom.Get()))
+            CObjectsTree::OnCreateAtom(pAtom.Get(), pContainer);
+    }
 }
 
 BOOL CEditorTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)

@@ -39,6 +39,7 @@ protected:
 
 private:
     void ShowItemOf(CMember* pMember);
+    void UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer);
 
     CEditorTreeTarget m_target;
     UINT m_nMostItems = ~0u; // with so many items nothing more is read

@@ -14,7 +14,6 @@ namespace
 {
 
 constexpr UINT kSelectRenamed = WM_USER;
-constexpr UINT_PTR kCheckTimer = 1;
 
 } // namespace
 
@@ -23,7 +22,6 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_DESTROY()
     ON_WM_CLOSE()
     ON_WM_SIZE()
-    ON_WM_TIMER()
     ON_WM_SETFOCUS()
     ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
@@ -34,6 +32,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_closed(std::move(closed)),
       m_navigation(editor, [this] { GetList().FocusSelection(); }),
       m_modified(editor),
+      m_follower(editor, pictures, m_navigation),
       m_pathBar([this] { m_navigation.GoUp(); }, [this](int nPart) { m_navigation.GoToPart(nPart); }),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
@@ -270,30 +269,13 @@ void CMainFrame::OnMoved(const std::string& reason)
     m_commands.ShowFailure(IDS_MOVE_FAILED, reason);
 }
 
-void CMainFrame::OnCopied(const ActiveMembers& members)
+void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
 {
-    m_draggedOut = DraggedOut(members);
-    AwaitNextCheck();
-}
-
-void CMainFrame::AwaitNextCheck()
-{
-    if (const unsigned nPause = m_draggedOut.NextCheck())
-        SetTimer(kCheckTimer, nPause);
-    else
-        KillTimer(kCheckTimer);
-}
-
-void CMainFrame::OnTimer(UINT_PTR)
-{
-    const auto changed = m_draggedOut.Check();
-    for (const auto& pContainer : changed)
-        m_commands.ReadAgain(*pContainer.Get());
-    if (!changed.empty()) {
-        m_navigation.LeaveWhatIsGone();
-        UpdateStatus();
-    }
-    AwaitNextCheck();
+    const FrameCommands::Position position = m_commands.RememberPosition();
+    if (std::string line = m_follower.Follow(news); !line.empty())
+        m_news = std::move(line);
+    m_pCreated.Release();
+    m_commands.GoOnAt(position);
 }
 
 } // namespace editor

@@ -1,7 +1,7 @@
 // The editor's window: the path at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
-#include "Editor/frame/DraggedOut.h"
+#include "Editor/frame/DiskFollower.h"
 #include "Editor/frame/EditorTree.h"
 #include "Editor/frame/FrameCommands.h"
 #include "Editor/frame/PaneLayout.h"
@@ -45,7 +45,7 @@ public:
     CMenu* CreateContextMenu() override;
     void OnMoving() override;
     void OnMoved(const std::string& reason) override;
-    void OnCopied(const ActiveMembers& members) override;
+    void OnDiskNews(const std::vector<FolderNews>& news); // other programs have been at work
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -61,7 +61,6 @@ protected:
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnClose();
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
@@ -78,7 +77,6 @@ private:
     void ForgetNews(const MSG& message);
     void LeaveFields(); // which enters what was typed
     bool MayClose();    // asks what is to become of phases that are modified
-    void AwaitNextCheck();
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     CPane* PaneOfKind(DWORD kind); // NULL: none
@@ -98,7 +96,7 @@ private:
     ModifiedPhases m_modified;
     CStubRef<CMember> m_pCreated;         // what came last, until the next news
     FrameCommands::Position m_beforeMove; // while a drag's originals go
-    DraggedOut m_draggedOut;
+    DiskFollower m_follower;
     CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
     CPathBar m_pathBar;
     CPane m_treePane;

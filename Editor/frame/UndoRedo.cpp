@@ -1,7 +1,7 @@
 #include "Editor/frame/UndoRedo.h"
 
 #include "Editor/disk/FileText.h"
-#include "Editor/model/Library.h"
+#include "Editor/services/MemberBroadcast.h"
 
 #include <algorithm>
 
@@ -29,20 +29,11 @@ std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& presen
     m_pictures.Recheck();
     for (const std::string& path : changes.containers)
         if (CContainer* const pContainer = pLibrary->FindLive(path))
-            TellOf(*pContainer);
+            ReadAgainAndTell(m_editor, *pContainer);
     FollowNames(changes, shown);
     KeepUnsaved(changes);
     present = Present(changes);
     return reason;
-}
-
-void UndoRedo::TellOf(CContainer& container)
-{
-    const auto pHeld = CStubRef<CContainer>::Share(&container);
-    container.ReadAgainIfRead();
-    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, &container, 0);
-    if (auto* const pPhase = dynamic_cast<CPhase*>(&container))
-        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pPhase, pPhase->Container(), 0);
 }
 
 void UndoRedo::FollowNames(const Changes& changes, const std::string& shown)

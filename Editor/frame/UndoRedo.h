@@ -24,7 +24,6 @@ public:
 
 private:
     std::string Take(std::string (History::*step)(Changes&), Atoms& present);
-    void TellOf(CContainer& container);
     void FollowNames(const Changes& changes, const std::string& shown);
     void KeepUnsaved(const Changes& changes);
     Atoms Present(const Changes& changes) const;

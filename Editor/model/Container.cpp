@@ -36,11 +36,17 @@ void CContainer::ReadAgain()
     m_failure.clear();
 }
 
-void CContainer::ReadAgainIfRead()
+void CContainer::ReadAgain(MemberNews& news)
 {
     m_holdsAny.reset();
-    if (m_pContents)
-        ReadAgain();
+    if (!m_pContents)
+        return;
+    const MemberTable former = Members().table;
+    ReadAgain();
+    const MemberTable& now = m_pContents->table;
+    news.isOther = former.GetCount() != now.GetCount();
+    for (UINT i = 0; !news.isOther && i < now.GetCount(); ++i)
+        news.isOther = former.NameOf(i) != now.NameOf(i) || former.KindOf(i) != now.KindOf(i);
 }
 
 CMember* CContainer::LiveMember(std::string_view name)

@@ -13,6 +13,18 @@
 namespace editor
 {
 
+// What has become of a container's members, for those who know them.
+struct MemberNews
+{
+    struct Renamed
+    {
+        CStubRef<CMember> pFormer, pNow;
+    };
+    std::vector<Renamed> renamed;
+    std::vector<CStubRef<CMember>> written; // which somebody knows
+    bool isOther = false;                   // have others come or gone, or is their order another?
+};
+
 // The members are read when they are first asked for. Adding, renaming and removing them acts on the disk at once. What
 // fails changes nothing, and the container's IMyErrorInfo names the object and the reason until a change succeeds or
 // the members are read anew.
@@ -21,7 +33,9 @@ class CContainer : public CMember, public IAtomContainer
 public:
     // Members that are still there keep their atoms and identifiers.
     void ReadAgain();
-    void ReadAgainIfRead();                     // else only what was found out without reading is forgotten
+    // The same for one whose members are known to somebody, who is to be told of `news`. Where they have not been read,
+    // only what was found out without reading them is forgotten.
+    void ReadAgain(MemberNews& news);
     CMember* LiveMember(std::string_view name); // whose atom somebody holds; borrowed, else NULL. Reads nothing
     // Whether there are members, found out without reading more than need be; known until the container it is in is
     // read anew.
@@ -78,6 +92,11 @@ protected:
     virtual std::string Remove(const CMember& member, TrashPlace& place) = 0; // `place`: where it went, if to the trash
     virtual std::string ValidNameFor(std::string_view name) = 0;              // empty when there is none
 
+    CStubRef<CMember> MemberAt(UINT nIndex);
+    UINT Append(const Entry& entry);
+    void Drop(UINT nIndex) noexcept;
+    bool AreRead() const { return m_pContents != nullptr; }
+
     std::string_view NameOf(const CMember& member) const; // as it was listed; empty when that is forgotten
     MemberKind KindOf(const CMember& present) const { return m_pContents->table.KindOf(present.Index()); }
     const MemberTable& Table() { return Members().table; }
@@ -96,15 +115,12 @@ private:
     };
 
     Contents& Members(); // reads them when need be
-    CStubRef<CMember> MemberAt(UINT nIndex);
     BOOL GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId);
     void MoveMembers(Contents& former, Contents& contents);
     bool IsPresent(const CMember* pMember) const;
     std::string TroubleOfMove(const ArchiveRecord& record, std::string_view name);
     BOOL Note(std::string failure); // FALSE when there is one
     std::optional<UINT> BringBack(std::string_view name);
-    UINT Append(const Entry& entry);
-    void Drop(UINT nIndex) noexcept;
     void Tidy();
     DWORD IdOf(const CMember& member) const;
     void Forget(const CMember& member);

@@ -2,6 +2,7 @@
 
 #include "Editor/disk/FileText.h"
 #include "Editor/disk/TempEntry.h"
+#include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/Picture.h"
 #include "Editor/pictures/IconPainter.h"
@@ -11,6 +12,8 @@ namespace editor
 CContainer::Listing CFolder::Read()
 {
     Listing listing;
+    if (FolderWatch* const pWatch = Context().pWatch)
+        m_watched = pWatch->Watch(Path()); // before it is read: nothing is missed
     Directory directory(Path());
     m_identity = {};
     if (directory.GetError() == 0 && IsInside(directory.GetIdentity())) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/disk/Directory.h"
+#include "Editor/disk/FolderWatch.h"
 #include "Editor/disk/TakenNames.h"
 #include "Editor/model/Container.h"
 
@@ -17,6 +18,9 @@ class CFolder : public CContainer
 {
 public:
     CFolder(CContainer* pContainer, UINT nIndex) : CContainer(pContainer, nIndex) {}
+
+    // Looks for those of its files alone that the disk has told of, if it has been read.
+    void LookFor(const FolderNews& onDisk, MemberNews& news);
 
 protected:
     Listing Read() override;
@@ -36,10 +40,14 @@ protected:
 private:
     bool CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const;
     std::string TroubleOfNewName(MemberKind former, const std::string& name, MemberKind& kind) const;
+    void LookForName(const Directory& directory, const std::string& name, MemberNews& news);
+    void LookForRenamed(const Directory& directory, const std::string& from, const std::string& to, MemberNews& news);
+    std::optional<MemberKind> KindOnDisk(const Directory& directory, const std::string& name) const;
     bool IsInside(const DirectoryIdentity& identity) const; // is one of the folders that hold this one that directory?
 
     DirectoryIdentity m_identity; // once it has been read
     TakenNames m_taken;
+    FolderWatch::Place m_watched;
 };
 
 } // namespace editor

@@ -68,6 +68,12 @@ CLibrary::CLibrary(LibraryContext context)
     : CFolder(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
 {}
 
+void CLibrary::SetWatch(FolderWatch* pWatch)
+{
+    m_context.pWatch = pWatch;
+    ReadAgain();
+}
+
 CStubRef<CMember> CLibrary::Find(const std::string& path)
 {
     auto pFound = CStubRef<CMember>::Share(this);

@@ -16,6 +16,7 @@ public:
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error);
 
     void SetHistory(History* pHistory) { m_context.pHistory = pHistory; } // borrowed
+    void SetWatch(FolderWatch* pWatch);                                   // of the folders read from now on; borrowed
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);

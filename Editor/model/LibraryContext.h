@@ -1,6 +1,7 @@
 // What all atoms of one library share.
 #pragma once
 
+#include "Editor/disk/FolderWatch.h"
 #include "Editor/history/History.h"
 #include "Editor/pictures/PictureStore.h"
 
@@ -18,7 +19,8 @@ struct LibraryContext
     std::string rootPath;                       // absolute, with neither links nor a slash at its end
     std::vector<std::string> pictureExtensions; // sorted
     std::shared_ptr<PictureStore> pPictures;
-    History* pHistory = nullptr; // of what is done to the disk; borrowed. NULL: nothing is remembered
+    History* pHistory = nullptr;   // of what is done to the disk; borrowed. NULL: nothing is remembered
+    FolderWatch* pWatch = nullptr; // of the folders that have been read; borrowed. NULL: nobody follows the disk
     DWORD nextId = 1;
     std::vector<const CPhase*> unsaved; // whose timing is set and not saved
 };

@@ -77,6 +77,12 @@ void PictureStore::Recheck()
         entry.bStale = true;
 }
 
+void PictureStore::Recheck(const std::string& path)
+{
+    if (const auto at = m_entries.find(path); at != m_entries.end())
+        at->second.bStale = true;
+}
+
 void PictureStore::Stop()
 {
     *m_pSelf = nullptr;

@@ -52,6 +52,7 @@ public:
 
     // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
     void Recheck();
+    void Recheck(const std::string& path);
     // Blocks until there is one, or nothing is under way, or the time is over.
     void WaitForResult(std::chrono::milliseconds most) { m_queue.WaitForResult(most); }
     void Stop(); // nobody hears anything any more; waits for nothing, also not for what the threads have begun

@@ -22,8 +22,6 @@ public:
     // the first one that could not go, empty when all went.
     virtual void OnMoving() = 0;
     virtual void OnMoved(const std::string& reason) = 0;
-    // A drag has ended as a copy, maybe in a program that has moved the files itself all the same.
-    virtual void OnCopied(const ActiveMembers& members) = 0;
 
 protected:
     ~PaneFrame() = default;

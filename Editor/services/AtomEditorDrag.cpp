@@ -41,8 +41,6 @@ try {
     const DROPEFFECT effect = pData->DoDragDrop(dwAllowed);
     if (effect == DROPEFFECT_MOVE)
         BeginMove(std::move(members), std::move(pStep));
-    else if (effect == DROPEFFECT_COPY && m_pFrame)
-        m_pFrame->OnCopied(members);
     return effect;
 } catch (CMemoryException& exception) {
     exception.ReportError();

@@ -8,10 +8,11 @@
 // The brush behind thumbnails stays from the first list on: it is no leak of a test.
 static const bool s_brushMade = (CThumbList(), true);
 
-EditorTest::EditorTest() : m_nLive(editor::g_nLiveObjects)
+EditorTest::EditorTest(bool isFollowing) : m_nLive(editor::g_nLiveObjects)
 {
     editor::EditorApp::Options options;
     options.size = {640, 480};
+    options.isFollowing = isFollowing;
     options.onClosed = [this] { ++nClosed; };
     m_pApp = std::make_unique<editor::EditorApp>(reader, options);
 }

@@ -11,7 +11,7 @@
 class EditorTest : public DesktopTest
 {
 protected:
-    EditorTest();
+    explicit EditorTest(bool isFollowing = false); // what other programs do to the files
     ~EditorTest() override;
 
     std::string Open() { return Open(folder.Path()); }

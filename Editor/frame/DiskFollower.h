@@ -1,0 +1,29 @@
+// What other programs do to the library's files, shown.
+#pragma once
+
+#include "Editor/disk/FolderWatch.h"
+#include "Editor/frame/Navigation.h"
+
+namespace editor
+{
+
+class DiskFollower
+{
+public:
+    DiskFollower(CAtomEditor& editor, PictureStore& pictures, Navigation& navigation)
+        : m_editor(editor), m_pictures(pictures), m_navigation(navigation)
+    {} // all borrowed
+
+    // Every view hears of it as of what the user does. Where the folder that was shown has gone the innermost one that
+    // is still there is shown, and the answer says so; else it is empty.
+    std::string Follow(const std::vector<FolderNews>& news);
+
+private:
+    void Follow(const FolderNews& news);
+
+    CAtomEditor& m_editor;
+    PictureStore& m_pictures;
+    Navigation& m_navigation;
+};
+
+} // namespace editor
