@@ -3,8 +3,8 @@
 #include "Editor/frame/MainFrame.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/Services.h"
-#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/run/Run.h"
 
 namespace editor
 {

@@ -3,6 +3,7 @@
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/message/Input.h"
+#include "Toolkit/message/TaskInbox.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <QRect>

@@ -9,6 +9,7 @@
 #include "QtDesktop/QtWindow.h"
 #include "QtDesktop/QueuePump.h"
 #include "Toolkit/base/Ticks.h"
+#include "Toolkit/run/Run.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <QFontDatabase>

@@ -1,7 +1,7 @@
 #include "QtDesktop/QueuePump.h"
 
 #include "Toolkit/base/Ticks.h"
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/run/Run.h"
 
 #include <QCoreApplication>
 #include <QTimerEvent>

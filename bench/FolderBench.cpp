@@ -2,7 +2,7 @@
 #include "Editor/EditorApp.h"
 #include "Editor/frame/CommandTable.h"
 #include "Editor/frame/MainFrame.h"
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/run/Run.h"
 
 #include <benchmark/benchmark.h>
 #include <dirent.h>

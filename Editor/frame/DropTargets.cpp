@@ -2,7 +2,7 @@
 
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/EditorTree.h"
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/TaskInbox.h"
 #include "Views/clipboard/Commands.h"
 
 #include <utility>

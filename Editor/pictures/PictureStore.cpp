@@ -1,6 +1,6 @@
 #include "Editor/pictures/PictureStore.h"
 
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/DragData.h"
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <algorithm>
 #include <utility>

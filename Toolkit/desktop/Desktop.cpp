@@ -1,10 +1,7 @@
 #include "Toolkit/desktop/Desktop.h"
 
 #include "Toolkit/base/Ticks.h"
-#include "Toolkit/menu/MessageBox.h"
-#include "Toolkit/message/InputQueue.h"
-#include "Toolkit/message/Queue.h"
-#include "Toolkit/window/DesktopNews.h"
+#include "Toolkit/desktop/MessageBoxTypes.h"
 
 namespace
 {
@@ -30,55 +27,14 @@ public:
 
 NoDesktop s_none;
 toolkit::Desktop* s_pDesktop = &s_none;
-
-DWORD DesktopTicks()
-{
-    return s_pDesktop->Ticks();
-}
-
-bool IsKnownToDesktop(HWND hWnd)
-{
-    const toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    return pWindow && pWindow->bKnownToDesktop;
-}
 } // namespace
 
-void toolkit::InstallDesktop(Desktop* pDesktop)
+void toolkit::SetCurrentDesktop(Desktop* pDesktop)
 {
-    AcceptTasks(pDesktop);
-    DropTasks();
-    ResetInput();
     s_pDesktop = pDesktop ? pDesktop : &s_none;
-    SetTickSource(pDesktop ? &DesktopTicks : nullptr);
-    InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);
-    UpdateWake();
 }
 
 toolkit::Desktop& toolkit::CurrentDesktop()
 {
     return *s_pDesktop;
-}
-
-void toolkit::TellDesktopOfCreation(WindowRecord& top)
-{
-    top.bKnownToDesktop = true;
-    CurrentDesktop().WindowCreated(top.hWnd);
-}
-
-void toolkit::TellDesktopOfChange(HWND hWnd)
-{
-    if (IsKnownToDesktop(hWnd))
-        CurrentDesktop().WindowChanged(hWnd);
-}
-
-void toolkit::TellDesktopOfPlace(HWND hWnd)
-{
-    if (IsKnownToDesktop(hWnd))
-        CurrentDesktop().WindowPlaced(hWnd);
-}
-
-void toolkit::TellDesktopOfDestruction(WindowRecord& top)
-{
-    if (std::exchange(top.bKnownToDesktop, false))
-        CurrentDesktop().WindowDestroyed(top.hWnd);
 }

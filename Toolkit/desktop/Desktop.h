@@ -4,14 +4,13 @@
 // the same surfaces in real windows. All calls come on the user-interface thread.
 #pragma once
 
+#include "Toolkit/base/Geometry.h"
 #include "Toolkit/desktop/DropEffect.h"
 #include "Toolkit/desktop/MenuItems.h"
 #include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/graphics/TextEngine.h"
-#include "Toolkit/message/Messages.h"
 
-#include <functional>
 #include <memory>
 #include <optional>
 
@@ -73,27 +72,7 @@ public:
     virtual void TextInputChanged() {}
 };
 
-TOOLKIT_API void InstallDesktop(Desktop* pDesktop); // borrowed; NULL takes it away, after the last window
-TOOLKIT_API Desktop& CurrentDesktop();
-
-// The queue. One message: posted, else input, else a paint, else a due timer. FALSE when there was none.
-TOOLKIT_API bool RunOneMessage();
-TOOLKIT_API void RunPendingMessages(); // until there is none; timers that come due meanwhile included
-// As above, but gives up after about so many milliseconds, so that real input is never starved.
-TOOLKIT_API bool RunPendingMessagesFor(DWORD nMilliseconds); // true when nothing is left
-
-// Has a task run on the user-interface thread, in order with the posted messages. Any thread may call it, as
-// long as a desktop is installed; tasks that have not run when the desktop goes are dropped.
-TOOLKIT_API void PostTask(std::function<void()> task);
-
-// What tests compare: windows, timers and posted messages alive.
-struct WindowCounts
-{
-    int windows, timers, posted;
-};
-TOOLKIT_API WindowCounts CountWindows();
-
-// A top-level window's picture as last painted; NULL for a stale handle.
-TOOLKIT_API const Surface* WindowSurface(HWND hTop);
+TOOLKIT_API Desktop& CurrentDesktop();     // one that does nothing while none is installed
+void SetCurrentDesktop(Desktop* pDesktop); // what InstallDesktop does here
 
 } // namespace toolkit

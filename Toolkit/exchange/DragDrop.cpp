@@ -2,9 +2,10 @@
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/exchange/DataCache.h"
 #include "Toolkit/exchange/DataSource.h"
-#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/focus/Capture.h"
+#include "Toolkit/focus/InputState.h"
+#include "Toolkit/message/Messages.h"
 #include "Toolkit/message/Queue.h"
-#include "Toolkit/window/WindowApi.h"
 
 namespace
 {

@@ -1,12 +1,12 @@
 #include "Toolkit/exchange/DragTracker.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/focus/InputState.h"
 #include "Toolkit/handle/HitTest.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/input/MouseInput.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/message/Timers.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 
@@ -76,7 +76,8 @@ DROPEFFECT toolkit::DragTracker::MoveTo(HWND hTop, CPoint at, DWORD dwKeyState)
     if (!pTop)
         return m_effect;
     m_screen = at + SurfaceToScreen(*pTop);
-    NoteMouse(m_screen, dwKeyState);
+    SetCursorPos(m_screen);
+    SetMouseKeyFlags(dwKeyState);
     const HWND hTarget = FindTarget(hTop, m_screen);
     if (hTarget != m_place.hWnd || FindDropSite(hTarget) != m_pSite)
         EnterTarget(hTarget, dwKeyState);

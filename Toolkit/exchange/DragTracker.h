@@ -4,7 +4,7 @@
 // under a drag that rests there. One at a time.
 #pragma once
 
-#include "Toolkit/exchange/DropSite.h"
+#include "Toolkit/handle/DropSite.h"
 
 namespace toolkit
 {

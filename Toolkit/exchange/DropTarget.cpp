@@ -1,7 +1,7 @@
 #include "Toolkit/exchange/DropTarget.h"
 
 #include "Toolkit/exchange/DataCache.h"
-#include "Toolkit/exchange/DropSite.h"
+#include "Toolkit/handle/DropSite.h"
 #include "Toolkit/scroll/ScrollBar.h"
 
 namespace

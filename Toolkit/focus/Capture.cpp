@@ -1,6 +1,7 @@
 #include "Toolkit/focus/Capture.h"
 
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
 
 #include <utility>
 

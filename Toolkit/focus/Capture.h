@@ -1,7 +1,11 @@
-// The mouse capture, as the rest of the window layer takes it away.
+// Which window gets the mouse wherever it is.
 #pragma once
 
 #include "Toolkit/base/Types.h"
+
+TOOLKIT_API HWND SetCapture(HWND hWnd); // gives the former one; NULL, and no change, for a stale handle
+TOOLKIT_API HWND GetCapture();
+TOOLKIT_API BOOL ReleaseCapture();
 
 namespace toolkit
 {

@@ -2,7 +2,8 @@
 
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
 
 #include <utility>
 

@@ -1,7 +1,11 @@
-// The focus, as the rest of the window layer moves it.
+// Which window has the focus.
 #pragma once
 
 #include "Toolkit/base/Types.h"
+
+// Gives the former focus; NULL, and no change, when the window or an ancestor is being destroyed.
+TOOLKIT_API HWND SetFocus(HWND hWnd); // NULL: no window has the focus
+TOOLKIT_API HWND GetFocus();
 
 namespace toolkit
 {

@@ -71,3 +71,14 @@ void toolkit::Region::Offset(CPoint by)
     for (CRect& rect : m_rects)
         rect.OffsetRect(by.x, by.y);
 }
+
+toolkit::Region toolkit::Intersection(const Region& a, const Region& b)
+{
+    Region onlyInA(a);
+    for (const CRect& rect : b.Rects())
+        onlyInA.Subtract(rect);
+    Region common(a);
+    for (const CRect& rect : onlyInA.Rects())
+        common.Subtract(rect);
+    return common;
+}

@@ -28,4 +28,7 @@ private:
     std::vector<CRect> m_rects;
 };
 
+// The common part, exact: regions of any number of rectangles.
+Region Intersection(const Region& a, const Region& b);
+
 } // namespace toolkit

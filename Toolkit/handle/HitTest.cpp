@@ -1,7 +1,6 @@
 #include "Toolkit/handle/HitTest.h"
 
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <algorithm>
 

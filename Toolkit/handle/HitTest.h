@@ -1,7 +1,9 @@
-// Which window the mouse is over. Internal to the window layer.
+// Which window the mouse is over.
 #pragma once
 
 #include "Toolkit/base/Geometry.h"
+
+TOOLKIT_API HWND WindowFromPoint(POINT screen); // the innermost visible one
 
 namespace toolkit
 {

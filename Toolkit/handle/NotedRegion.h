@@ -1,4 +1,4 @@
-// What of a window is noted to be painted. Internal to the window layer.
+// What of a window is noted to be painted.
 #pragma once
 
 #include "Toolkit/graphics/Region.h"

@@ -63,14 +63,3 @@ toolkit::Region toolkit::VisibleFrame(const WindowRecord& window)
     CutToSurroundings(window, region);
     return region;
 }
-
-toolkit::Region toolkit::Intersection(const Region& a, const Region& b)
-{
-    Region onlyInA(a);
-    for (const CRect& rect : b.Rects())
-        onlyInA.Subtract(rect);
-    Region common(a);
-    for (const CRect& rect : onlyInA.Rects())
-        common.Subtract(rect);
-    return common;
-}

@@ -1,11 +1,6 @@
 #include "Toolkit/handle/WindowGeometry.h"
 
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/WindowApi.h"
-
 #include <algorithm>
-#include <utility>
 
 namespace
 {
@@ -109,79 +104,4 @@ bool toolkit::IsAlive(const WindowRecord& window)
         if (p->bDestroying)
             return false;
     return true;
-}
-
-void toolkit::SendSize(HWND hWnd)
-{
-    if (const WindowRecord* pWindow = FindRecord(hWnd)) {
-        const CSize size = ClientBox(*pWindow).Size();
-        SendMessage(hWnd, WM_SIZE, 0, MAKELPARAM(size.cx, size.cy));
-    }
-}
-
-void toolkit::PlaceWindow(HWND hWnd, const CRect& rect)
-{
-    WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow || pWindow->rect == rect)
-        return;
-    const CRect former = std::exchange(pWindow->rect, rect);
-    const bool bSized = !(former.Size() == rect.Size());
-    if (pWindow->pParent && IsShown(*pWindow))
-        InvalidateExposed(*pWindow->pParent, former);
-    if (bSized || pWindow->pParent)
-        InvalidateWhole(*pWindow);
-
-    if (!(former.TopLeft() == rect.TopLeft()))
-        SendMessage(hWnd, WM_MOVE, 0, MAKELPARAM(rect.left, rect.top));
-    if (bSized)
-        SendSize(hWnd);
-}
-
-BOOL MoveWindow(HWND hWnd, int x, int y, int cx, int cy)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    const CRect rect({x, y}, {std::max(cx, 0), std::max(cy, 0)});
-    if (pWindow->rect == rect)
-        return TRUE;
-    toolkit::PlaceWindow(hWnd, rect);
-    toolkit::TellDesktopOfPlace(hWnd);
-    return TRUE;
-}
-
-BOOL GetWindowRect(HWND hWnd, RECT* pRect)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pRect = toolkit::WindowArea(*pWindow) + toolkit::SurfaceToScreen(*pWindow);
-    return TRUE;
-}
-
-BOOL GetClientRect(HWND hWnd, RECT* pRect)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pRect = toolkit::ClientRect(*pWindow);
-    return TRUE;
-}
-
-BOOL ClientToScreen(HWND hWnd, POINT* pPoint)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pPoint = CPoint(*pPoint) + toolkit::ClientToScreenOffset(*pWindow);
-    return TRUE;
-}
-
-BOOL ScreenToClient(HWND hWnd, POINT* pPoint)
-{
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pPoint = CPoint(*pPoint) - toolkit::ClientToScreenOffset(*pWindow);
-    return TRUE;
 }

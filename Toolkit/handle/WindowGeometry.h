@@ -1,4 +1,4 @@
-// Where a window and its client area lie. Internal to the window layer.
+// Where a window and its client area lie.
 #pragma once
 
 #include "Toolkit/handle/WindowRecord.h"
@@ -24,10 +24,5 @@ CPoint ClientToScreenOffset(const WindowRecord& window);
 bool IsShown(const WindowRecord& window); // it and all its ancestors
 bool IsSelfOrChild(const WindowRecord& ancestor, const WindowRecord* pWindow);
 bool IsAlive(const WindowRecord& window); // neither it nor an ancestor is being destroyed
-
-// Moves and sizes the window, notes what is to be painted, and sends WM_MOVE and WM_SIZE for what changed.
-void PlaceWindow(HWND hWnd, const CRect& rect);
-// Sends WM_SIZE with the client area's size.
-void SendSize(HWND hWnd);
 
 } // namespace toolkit

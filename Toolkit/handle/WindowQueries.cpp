@@ -1,10 +1,6 @@
-// The small questions and settings of a window.
-#include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/handle/WindowQueries.h"
 
-#include <string>
+#include "Toolkit/handle/WindowGeometry.h"
 
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
@@ -51,41 +47,44 @@ DWORD GetWindowExStyle(HWND hWnd)
     return pWindow ? pWindow->exStyle : 0;
 }
 
-// The window's visibility and whether it is enabled have functions of their own, and the scroll bars follow
-// SetScrollInfo: those styles are left as they are.
-BOOL ModifyStyle(HWND hWnd, DWORD remove, DWORD add)
+BOOL GetWindowRect(HWND hWnd, RECT* pRect)
 {
-    WindowRecord* pWindow = FindRecord(hWnd);
+    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
     if (!pWindow)
         return FALSE;
-    constexpr DWORD kKept = WS_VISIBLE | WS_VSCROLL | WS_HSCROLL;
-    const DWORD style = ((pWindow->style & ~remove) | add);
-    const DWORD changed = (style ^ pWindow->style) & ~kKept;
-    if (changed == 0)
-        return FALSE;
-    const CSize former = toolkit::ClientBox(*pWindow).Size();
-    pWindow->style ^= changed;
-    toolkit::InvalidateWhole(*pWindow);
-    const bool bSized = !(former == toolkit::ClientBox(*pWindow).Size());
-    SendMessage(hWnd, WM_STYLECHANGED, 0, 0);
-    if (bSized)
-        toolkit::SendSize(hWnd);
+    *pRect = toolkit::WindowArea(*pWindow) + toolkit::SurfaceToScreen(*pWindow);
     return TRUE;
 }
 
-BOOL SetWindowText(HWND hWnd, LPCSTR pszText)
+BOOL GetClientRect(HWND hWnd, RECT* pRect)
 {
-    return SendMessage(hWnd, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(pszText ? pszText : "")) != 0;
+    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    *pRect = toolkit::ClientRect(*pWindow);
+    return TRUE;
 }
 
-CString GetWindowText(HWND hWnd)
+BOOL ClientToScreen(HWND hWnd, POINT* pPoint)
 {
-    CString text;
-    const auto nLength = static_cast<int>(SendMessage(hWnd, WM_GETTEXTLENGTH, 0, 0));
-    if (nLength > 0) {
-        LPSTR pszBuffer = text.GetBuffer(nLength);
-        SendMessage(hWnd, WM_GETTEXT, static_cast<WPARAM>(nLength) + 1, reinterpret_cast<LPARAM>(pszBuffer));
-        text.ReleaseBuffer();
-    }
-    return text;
+    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    *pPoint = CPoint(*pPoint) + toolkit::ClientToScreenOffset(*pWindow);
+    return TRUE;
+}
+
+BOOL ScreenToClient(HWND hWnd, POINT* pPoint)
+{
+    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
+    if (!pWindow)
+        return FALSE;
+    *pPoint = CPoint(*pPoint) - toolkit::ClientToScreenOffset(*pWindow);
+    return TRUE;
+}
+
+BOOL IsWindowVisible(HWND hWnd)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    return pWindow && toolkit::IsShown(*pWindow);
 }

@@ -1,8 +1,5 @@
 #include "Toolkit/handle/WindowRecord.h"
 
-#include "Toolkit/window/NativeWindow.h"
-#include "Toolkit/window/Wnd.h"
-
 #include <algorithm>
 
 namespace
@@ -31,6 +28,12 @@ toolkit::WindowRecord::~WindowRecord()
 {
     if (pTemporaryWnd)
         pTemporaryWnd->m_hWnd = nullptr;
+}
+
+void toolkit::WindowRecord::ValidateAll()
+{
+    update.Clear();
+    bErase = false;
 }
 
 toolkit::WindowRecord* toolkit::FindRecord(HWND hWnd)

@@ -1,22 +1,21 @@
-// What a window's handle stands for. Internal to the window layer; everybody else uses handles.
+// What a window's handle stands for. Whoever is not of the toolkit uses handles.
 #pragma once
 
 #include "Toolkit/base/HandleTable.h"
 #include "Toolkit/base/String.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/handle/NotedRegion.h"
-#include "Toolkit/message/Messages.h"
+#include "Toolkit/handle/WindowObject.h"
+#include "Toolkit/handle/WindowTypes.h"
 
 #include <array>
 #include <memory>
 #include <vector>
 
-class CWnd;
-
 namespace toolkit
 {
 
-class NativeWindow;
+class DropSite;
 
 struct ScrollBarState
 {
@@ -31,6 +30,7 @@ struct WindowRecord
 
     bool Is(DWORD styleBit) const { return (style & styleBit) != 0; }
     bool IsTop() const { return !pParent; }
+    void ValidateAll(); // nothing of the client area is to be painted any more
 
     HWND hWnd = nullptr;
     WindowRecord* pParent = nullptr;
@@ -41,9 +41,10 @@ struct WindowRecord
     CString text;
     std::array<ScrollBarState, 2> bars; // by SB_HORZ, SB_VERT
 
-    CWnd* pWnd = nullptr;                // the object it was created with
-    std::unique_ptr<CWnd> pTemporaryWnd; // made by CWnd::FromHandle for a window without one
-    std::unique_ptr<NativeWindow> pNative;
+    WindowObject* pWnd = nullptr;                // the CWnd it was created with
+    std::unique_ptr<WindowObject> pTemporaryWnd; // made by CWnd::FromHandle for a window without one
+    std::unique_ptr<MessageReceiver> pNative;    // its class's behaviour, a NativeWindow
+    DropSite* pDropSite = nullptr;
     bool bDestroying = false;
 
     // What is to be painted, and whether the background is to be erased there; the frame is border and scroll bars.

@@ -4,6 +4,7 @@
 #include "Toolkit/headless/HeadlessDrag.h"
 #include "Toolkit/input/MouseInput.h"
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/paint/Presenting.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <chrono>

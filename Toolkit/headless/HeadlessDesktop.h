@@ -5,8 +5,8 @@
 // clock stands still unless Advance is called.
 #pragma once
 
-#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/message/Input.h"
+#include "Toolkit/run/Run.h"
 
 #include <condition_variable>
 #include <deque>

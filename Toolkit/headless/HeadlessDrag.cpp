@@ -1,6 +1,6 @@
 #include "Toolkit/headless/HeadlessDrag.h"
 
-#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/focus/InputState.h"
 #include "Toolkit/window/WindowApi.h"
 
 namespace

@@ -1,7 +1,10 @@
 #include "Toolkit/input/KeyInput.h"
 
-#include "Toolkit/focus/KeyStates.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/focus/Focus.h"
+#include "Toolkit/focus/InputState.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
+#include "Toolkit/message/Queue.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <limits>

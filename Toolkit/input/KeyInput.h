@@ -1,4 +1,4 @@
-// Keys on their way to the focus. Internal to the window layer.
+// Keys on their way to the focus.
 #pragma once
 
 #include "Toolkit/message/InputQueue.h"

@@ -1,12 +1,15 @@
 #include "Toolkit/input/MouseInput.h"
 
 #include "Toolkit/desktop/Desktop.h"
-#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/focus/Capture.h"
+#include "Toolkit/focus/DoubleClick.h"
+#include "Toolkit/focus/Focus.h"
+#include "Toolkit/focus/InputState.h"
 #include "Toolkit/handle/HitTest.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/input/DoubleClick.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/scroll/ScrollTracker.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 
@@ -17,8 +20,7 @@ using toolkit::InputEvent;
 using toolkit::InputKind;
 using toolkit::MouseButton;
 
-CPoint s_cursor;        // screen
-HWND s_hOver = nullptr; // whose client area the mouse is over
+HWND s_hOver = nullptr; // whose client area the mouse is over, or was when it went
 toolkit::DoubleClick s_doubleClick;
 
 UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
@@ -34,7 +36,7 @@ UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
 void SetOver(HWND hWnd)
 {
     const HWND hFormer = std::exchange(s_hOver, hWnd);
-    if (hFormer == hWnd)
+    if (hFormer == hWnd || (!hWnd && !IsWindow(hFormer)))
         return;
     SendMessage(hFormer, WM_MOUSELEAVE, 0, 0);
     toolkit::CurrentDesktop().ShowCursor(toolkit::Cursor::Arrow); // until the window wants another
@@ -42,7 +44,7 @@ void SetOver(HWND hWnd)
 
 void SendMouse(HWND hWnd, UINT message)
 {
-    CPoint client = s_cursor;
+    CPoint client = toolkit::CursorPos();
     ScreenToClient(hWnd, &client);
     SendMessage(hWnd, message, toolkit::MouseKeyFlags(), MAKELPARAM(client.x, client.y));
 }
@@ -51,14 +53,15 @@ void Wheel(const InputEvent& event)
 {
     const auto wParam =
         static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(static_cast<int>(toolkit::MouseKeyFlags()), event.delta)));
-    SendMessage(GetFocus(), WM_MOUSEWHEEL, wParam, MAKELPARAM(s_cursor.x, s_cursor.y));
+    const CPoint cursor = toolkit::CursorPos();
+    SendMessage(GetFocus(), WM_MOUSEWHEEL, wParam, MAKELPARAM(cursor.x, cursor.y));
 }
 
 void SendToWindow(HWND hWnd, const InputEvent& event)
 {
     if (event.kind == InputKind::MouseMove)
         return SendMouse(hWnd, WM_MOUSEMOVE);
-    const bool bSecond = event.down && s_doubleClick.IsSecond(hWnd, event.button, s_cursor, event.time);
+    const bool bSecond = event.down && s_doubleClick.IsSecond(hWnd, event.button, toolkit::CursorPos(), event.time);
     SendMouse(hWnd, ButtonMessage(event.button, event.down, bSecond));
 }
 
@@ -67,7 +70,7 @@ void HandleOnFrame(HWND hWnd, const InputEvent& event)
 {
     const bool bPress = event.kind == InputKind::MouseButton && event.down && event.button == MouseButton::Left;
     if (bPress)
-        toolkit::PressScrollBar(hWnd, s_cursor);
+        toolkit::PressScrollBar(hWnd, toolkit::CursorPos());
 }
 
 void TakeNote(const InputEvent& event)
@@ -76,7 +79,7 @@ void TakeNote(const InputEvent& event)
     if (event.kind == InputKind::MouseButton)
         toolkit::SetKeyDown(toolkit::KeyOfButton(event.button), event.down);
     if (const toolkit::WindowRecord* pTop = FindRecord(event.hTop))
-        s_cursor = event.at + toolkit::SurfaceToScreen(*pTop);
+        toolkit::SetCursorPos(event.at + toolkit::SurfaceToScreen(*pTop));
 }
 
 void LeaveTop(HWND hTop)
@@ -99,11 +102,11 @@ void toolkit::HandleMouse(const InputEvent& event)
     if (event.kind == InputKind::MouseWheel)
         return Wheel(event);
     if (IsTrackingScrollBar())
-        return TrackScrollBar(event, s_cursor);
+        return TrackScrollBar(event, CursorPos());
 
     const HWND hCapture = GetCapture();
-    const MouseTarget target = hCapture ? MouseTarget{hCapture, true} : FindMouseTarget(event.hTop, s_cursor);
-    HoverScrollBars(target.bClient ? nullptr : target.hWnd, s_cursor);
+    const MouseTarget target = hCapture ? MouseTarget{hCapture, true} : FindMouseTarget(event.hTop, CursorPos());
+    HoverScrollBars(target.bClient ? nullptr : target.hWnd, CursorPos());
     SetOver(target.bClient ? target.hWnd : nullptr);
     if (event.kind == InputKind::MouseMove && !hCapture)
         SendMessage(s_hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_hOver), 0);
@@ -113,33 +116,14 @@ void toolkit::HandleMouse(const InputEvent& event)
         HandleOnFrame(target.hWnd, event);
 }
 
-void toolkit::ForgetMouse(HWND hWnd)
-{
-    if (s_hOver == hWnd)
-        s_hOver = nullptr;
-    ForgetScrollBars(hWnd);
-}
-
 void toolkit::ResetMouse()
 {
-    s_cursor = {};
+    SetCursorPos({});
     s_hOver = nullptr;
     ForgetLastPress();
-}
-
-void toolkit::NoteMouse(CPoint screen, DWORD dwKeyState)
-{
-    s_cursor = screen;
-    SetMouseKeyFlags(dwKeyState);
 }
 
 void toolkit::ForgetLastPress()
 {
     s_doubleClick.Forget();
-}
-
-BOOL GetCursorPos(POINT* pPoint)
-{
-    *pPoint = s_cursor;
-    return TRUE;
 }

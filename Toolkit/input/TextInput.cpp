@@ -1,5 +1,6 @@
 #include "Toolkit/input/TextInput.h"
 
+#include "Toolkit/focus/Focus.h"
 #include "Toolkit/window/NativeWindow.h"
 
 toolkit::TextInput* toolkit::FocusedTextInput()

@@ -1,20 +1,7 @@
 // Message boxes, shown by the desktop.
 #pragma once
 
-#include "Toolkit/base/Types.h"
-
-inline constexpr UINT MB_OK = 0x0000;
-inline constexpr UINT MB_OKCANCEL = 0x0001;
-inline constexpr UINT MB_YESNOCANCEL = 0x0003;
-inline constexpr UINT MB_YESNO = 0x0004;
-inline constexpr UINT MB_ICONHAND = 0x0010;
-inline constexpr UINT MB_ICONQUESTION = 0x0020;
-inline constexpr UINT MB_ICONEXCLAMATION = 0x0030;
-
-inline constexpr int IDOK = 1;
-inline constexpr int IDCANCEL = 2;
-inline constexpr int IDYES = 6;
-inline constexpr int IDNO = 7;
+#include "Toolkit/desktop/MessageBoxTypes.h"
 
 // Waits for the user; the button's identifier. Messages run meanwhile: touch nothing afterwards that may be gone.
 TOOLKIT_API int MessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType);

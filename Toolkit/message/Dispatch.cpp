@@ -1,13 +1,11 @@
 #include "Toolkit/message/Dispatch.h"
 
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/window/NativeWindow.h"
-#include "Toolkit/window/WindowApi.h"
-#include "Toolkit/window/WndAccess.h"
+#include "Toolkit/handle/WindowGeometry.h"
 
 namespace
 {
-LRESULT AfterException(HWND hWnd, UINT message, CException& exception)
+LRESULT AfterException(toolkit::WindowRecord& window, UINT message, CException& exception)
 {
     switch (message) {
     case WM_NCCREATE:
@@ -15,7 +13,7 @@ LRESULT AfterException(HWND hWnd, UINT message, CException& exception)
     case WM_CREATE:
         return -1;
     case WM_PAINT:
-        ValidateRect(hWnd, nullptr); // else it would be asked to paint, and fail, for ever
+        window.ValidateAll(); // else it would be asked to paint, and fail, for ever
         return 0;
     default:
         exception.ReportError();
@@ -28,13 +26,10 @@ LRESULT toolkit::CallWindow(WindowRecord& window, UINT message, WPARAM wParam, L
 {
     const WindowHold hold(window);
     try {
-        if (window.pWnd)
-            return WndAccess::CallWindowProc(*window.pWnd, message, wParam, lParam);
-        if (window.pNative)
-            return window.pNative->HandleMessage(message, wParam, lParam);
-        return DefWindowProc(window.hWnd, message, wParam, lParam);
+        MessageReceiver& receiver = window.pWnd ? *window.pWnd : *window.pNative;
+        return receiver.HandleMessage(message, wParam, lParam);
     } catch (CException& exception) {
-        return AfterException(window.hWnd, message, exception);
+        return AfterException(window, message, exception);
     }
 }
 
@@ -42,4 +37,12 @@ LRESULT SendMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
 {
     toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
     return pWindow ? toolkit::CallWindow(*pWindow, message, wParam, lParam) : 0;
+}
+
+void toolkit::SendSize(HWND hWnd)
+{
+    if (const WindowRecord* pWindow = FindRecord(hWnd)) {
+        const CSize size = ClientBox(*pWindow).Size();
+        SendMessage(hWnd, WM_SIZE, 0, MAKELPARAM(size.cx, size.cy));
+    }
 }

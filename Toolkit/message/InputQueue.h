@@ -1,7 +1,9 @@
-// Input that waits to be handled. Internal to the window layer.
+// Input that waits to be handled.
 #pragma once
 
 #include "Toolkit/message/Input.h"
+
+#include <optional>
 
 namespace toolkit
 {
@@ -33,8 +35,11 @@ struct InputEvent
     DWORD time = 0; // the desktop's ticks
 };
 
+// Of several movements in a row only the last one counts. A desktop has nobody to tell that there is no memory: then
+// the event is dropped.
+void PutInput(InputEvent event);
 bool HasInput();
-bool RunOneInput();
-void ResetInput(); // nothing waits, no key is down, the mouse is nowhere: another desktop begins
+std::optional<InputEvent> TakeInput();
+void DropInput();
 
 } // namespace toolkit

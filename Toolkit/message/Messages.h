@@ -1,7 +1,7 @@
-// Messages, styles, keys and the records that travel with them, with their standard values.
+// Messages, keys and the records that travel with them, with their standard values.
 #pragma once
 
-#include "Toolkit/base/Geometry.h"
+#include "Toolkit/handle/WindowTypes.h"
 
 inline constexpr UINT WM_CREATE = 0x0001;
 inline constexpr UINT WM_DESTROY = 0x0002;
@@ -62,20 +62,6 @@ inline constexpr UINT WM_REFLECT_BASE = 0xBC00;
 
 inline constexpr int WHEEL_DELTA = 120;
 
-// Window styles.
-inline constexpr DWORD WS_POPUP = 0x80000000;
-inline constexpr DWORD WS_CHILD = 0x40000000;
-inline constexpr DWORD WS_VISIBLE = 0x10000000;
-inline constexpr DWORD WS_CLIPSIBLINGS = 0x04000000;
-inline constexpr DWORD WS_CLIPCHILDREN = 0x02000000;
-inline constexpr DWORD WS_BORDER = 0x00800000; // a line of one pixel
-inline constexpr DWORD WS_VSCROLL = 0x00200000;
-inline constexpr DWORD WS_HSCROLL = 0x00100000;
-inline constexpr DWORD WS_TABSTOP = 0x00010000;
-inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
-inline constexpr DWORD WS_EX_CLIENTEDGE = 0x00000200; // an edge of kClientEdge pixels
-inline constexpr int kClientEdge = 1;                 // flat: one line on each side
-
 // The states of keys and buttons in the wParam of mouse messages.
 inline constexpr UINT MK_LBUTTON = 0x0001;
 inline constexpr UINT MK_RBUTTON = 0x0002;
@@ -90,10 +76,6 @@ inline constexpr UINT DLGC_WANTARROWS = 0x0001;
 inline constexpr UINT DLGC_WANTALLKEYS = 0x0004;
 inline constexpr UINT DLGC_HASSETSEL = 0x0008;
 inline constexpr UINT DLGC_WANTCHARS = 0x0080;
-
-// ShowWindow.
-inline constexpr int SW_HIDE = 0;
-inline constexpr int SW_SHOW = 5;
 
 // Virtual keys. Letters and digits are their upper-case ASCII codes.
 inline constexpr UINT VK_LBUTTON = 0x01;
@@ -134,9 +116,7 @@ inline constexpr UINT VK_OEM_MINUS = 0xBD;
 inline constexpr UINT VK_OEM_PERIOD = 0xBE;
 inline constexpr UINT VK_UNKNOWN = 0xFF; // any key that has no code here: its press is told like every other
 
-// Scroll bars: which one, and what WM_VSCROLL and WM_HSCROLL carry in the low word of wParam.
-inline constexpr int SB_HORZ = 0;
-inline constexpr int SB_VERT = 1;
+// What WM_VSCROLL and WM_HSCROLL carry in the low word of wParam.
 inline constexpr UINT SB_LINEUP = 0;
 inline constexpr UINT SB_LINEDOWN = 1;
 inline constexpr UINT SB_PAGEUP = 2;
@@ -144,20 +124,6 @@ inline constexpr UINT SB_PAGEDOWN = 3;
 inline constexpr UINT SB_THUMBPOSITION = 4;
 inline constexpr UINT SB_THUMBTRACK = 5; // ask GetScrollInfo for the 32-bit track position
 inline constexpr UINT SB_ENDSCROLL = 8;
-
-// What CreateWindow hands to WM_NCCREATE and WM_CREATE. PreCreateWindow may change it before.
-struct CREATESTRUCT
-{
-    void* lpCreateParams;
-    HWND hwndParent;
-    int cy, cx, y, x; // in the parent's client coordinates
-    DWORD style;
-    LPCSTR lpszName;
-    LPCSTR lpszClass;
-    DWORD dwExStyle;
-    UINT nID;
-};
-using LPCREATESTRUCT = CREATESTRUCT*;
 
 // The head of every notification; WM_NOTIFY carries its address in lParam and idFrom in wParam.
 struct NMHDR
@@ -186,12 +152,4 @@ struct MSG
     UINT message;
     WPARAM wParam;
     LPARAM lParam;
-};
-
-struct SCROLLINFO
-{
-    int nMin, nMax; // both inclusive
-    int nPage;      // the bar is hidden while nPage covers the range
-    int nPos;
-    int nTrackPos; // where the thumb is while it is dragged
 };

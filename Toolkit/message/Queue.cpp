@@ -1,30 +1,22 @@
 #include "Toolkit/message/Queue.h"
 
-#include "Toolkit/base/Exception.h"
 #include "Toolkit/desktop/Desktop.h"
-#include "Toolkit/input/KeyInput.h"
+#include "Toolkit/handle/WindowQueries.h"
 #include "Toolkit/message/Fifo.h"
 #include "Toolkit/message/InputQueue.h"
 #include "Toolkit/message/TaskInbox.h"
 #include "Toolkit/message/Timers.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <algorithm>
-#include <chrono>
 #include <utility>
 
 namespace
 {
+using toolkit::Posted;
 using toolkit::Task;
 
-struct Posted
-{
-    MSG msg;
-    Task task; // instead of a message
-};
-
-toolkit::Fifo<Posted> s_posted;
+toolkit::Fifo<toolkit::Posted> s_posted;
+bool s_bPaintRequested = false;
 
 // What the desktop was asked for and has not done yet: to run the queue now, or at that tick.
 bool s_bWakeNow = false;
@@ -41,7 +33,7 @@ void TakeTasksIn()
 
 bool HasWork()
 {
-    return !s_posted.IsEmpty() || toolkit::HasTasks() || toolkit::HasInput() || toolkit::HasPaint();
+    return !s_posted.IsEmpty() || toolkit::HasTasks() || toolkit::HasInput() || s_bPaintRequested;
 }
 
 void AskForWakeAt(std::optional<DWORD> tick)
@@ -54,25 +46,6 @@ void AskForWakeAt(std::optional<DWORD> tick)
         return desktop.Wake(std::nullopt);
     const auto inMilliseconds = static_cast<std::int32_t>(*tick - desktop.Ticks());
     desktop.Wake(static_cast<DWORD>(std::max(inMilliseconds, 0)));
-}
-
-// The desktop has called: what it was asked for by now is done.
-void BeginRun()
-{
-    s_bWakeNow = false;
-    if (s_wakeAt && static_cast<std::int32_t>(toolkit::CurrentDesktop().Ticks() - *s_wakeAt) >= 0)
-        s_wakeAt.reset();
-}
-
-// What fails on the way to a handler is reported as what fails in one, and the queue goes on.
-bool RunNext()
-{
-    try {
-        return toolkit::RunOnePosted() || toolkit::RunOneInput() || toolkit::RunOnePaint() || toolkit::RunOneTimer();
-    } catch (CException& exception) {
-        exception.ReportError();
-        return true;
-    }
 }
 
 bool IsDropped(const Posted& posted)
@@ -98,21 +71,36 @@ void toolkit::UpdateWake()
         AskForWakeAt(NextTimer());
 }
 
-bool toolkit::RunOnePosted()
+void toolkit::BeginRun()
+{
+    s_bWakeNow = false;
+    if (s_wakeAt && static_cast<std::int32_t>(CurrentDesktop().Ticks() - *s_wakeAt) >= 0)
+        s_wakeAt.reset();
+}
+
+void toolkit::RequestPaint()
+{
+    s_bPaintRequested = true;
+    RequestRun();
+}
+
+bool toolkit::IsPaintRequested()
+{
+    return s_bPaintRequested;
+}
+
+void toolkit::EndPaintRequest()
+{
+    s_bPaintRequested = false;
+}
+
+std::optional<toolkit::Posted> toolkit::TakePosted()
 {
     TakeTasksIn();
-    while (!s_posted.IsEmpty()) {
-        const Posted posted = s_posted.Take();
-        if (IsDropped(posted))
-            continue;
-        UpdateWake();
-        if (posted.task)
-            posted.task();
-        else
-            DispatchPosted(posted.msg);
-        return true;
-    }
-    return false;
+    while (!s_posted.IsEmpty())
+        if (Posted posted = s_posted.Take(); !IsDropped(posted))
+            return posted;
+    return std::nullopt;
 }
 
 int toolkit::CountPosted()
@@ -138,36 +126,4 @@ BOOL PostMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
     s_posted.Put({{hWnd, message, wParam, lParam}, nullptr});
     toolkit::RequestRun();
     return TRUE;
-}
-
-bool toolkit::RunOneMessage()
-{
-    BeginRun();
-    const bool bRan = RunNext();
-    UpdateWake();
-    return bRan;
-}
-
-void toolkit::RunPendingMessages()
-{
-    BeginRun();
-    while (RunNext()) {
-    }
-    UpdateWake();
-}
-
-bool toolkit::RunPendingMessagesFor(DWORD nMilliseconds)
-{
-    const auto until = std::chrono::steady_clock::now() + std::chrono::milliseconds(nMilliseconds);
-    BeginRun();
-    bool bMore = true;
-    while (bMore && std::chrono::steady_clock::now() < until)
-        bMore = RunNext();
-    UpdateWake();
-    return !bMore;
-}
-
-toolkit::WindowCounts toolkit::CountWindows()
-{
-    return {CountRecords(), CountTimers(), CountPosted()};
 }

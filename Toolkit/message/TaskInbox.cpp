@@ -26,7 +26,7 @@ void toolkit::AcceptTasks(Desktop* pDesktop)
     s_uiThread = std::this_thread::get_id();
 }
 
-void toolkit::PostTask(std::function<void()> task)
+void toolkit::PostTask(Task task)
 {
     {
         const std::lock_guard lock(s_mutex);

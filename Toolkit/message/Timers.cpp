@@ -1,8 +1,9 @@
 #include "Toolkit/message/Timers.h"
 
 #include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Queue.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <algorithm>
 #include <vector>

@@ -1,9 +1,13 @@
-// Timers, as the rest of the window layer sees them.
+// Timers of windows, and the toolkit's own.
 #pragma once
 
 #include "Toolkit/base/Types.h"
 
 #include <optional>
+
+// The shortest period is 10 ms; a known identifier starts anew. Due timers are never queued twice.
+TOOLKIT_API UINT_PTR SetTimer(HWND hWnd, UINT_PTR nID, UINT nElapse); // 0 for a stale handle
+TOOLKIT_API BOOL KillTimer(HWND hWnd, UINT_PTR nID);
 
 namespace toolkit
 {
@@ -12,7 +16,7 @@ std::optional<DWORD> NextTimer(); // the tick at which the next one is due
 int CountTimers();
 void DropTimers(HWND hWnd);
 
-// A timer of the toolkit's own: calls the function instead of sending WM_TIMER.
+// Calls the function instead of sending WM_TIMER.
 using TimerProc = void (*)();
 void StartTimer(HWND hWnd, TimerProc proc, DWORD nMilliseconds);
 void StopTimer(HWND hWnd, TimerProc proc);

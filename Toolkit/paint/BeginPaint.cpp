@@ -1,8 +1,11 @@
+#include "Toolkit/paint/BeginPaint.h"
+
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
+#include "Toolkit/message/Dispatch.h"
+#include "Toolkit/paint/UpdateLock.h"
+#include "Toolkit/paint/UpdateRegion.h"
 #include "Toolkit/paint/WindowDC.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <utility>
 
@@ -43,11 +46,4 @@ toolkit::PaintTarget toolkit::BeginPaint(HWND hWnd)
 void toolkit::EndPaint(HWND hWnd, HDC hdc)
 {
     CloseWindowDC(hWnd, hdc);
-}
-
-CPaintDC::CPaintDC(HWND hWnd) : m_hWnd(hWnd), m_target(toolkit::BeginPaint(hWnd)) {}
-
-CPaintDC::~CPaintDC()
-{
-    toolkit::EndPaint(m_hWnd, m_target.hdc);
 }

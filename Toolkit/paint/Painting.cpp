@@ -3,9 +3,11 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Queue.h"
+#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/UpdateLock.h"
 #include "Toolkit/paint/WindowDC.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 
@@ -14,9 +16,6 @@ namespace
 using toolkit::FindRecord;
 using toolkit::Region;
 using toolkit::WindowRecord;
-
-// Something may be noted or painted and not yet presented: the queue has to look.
-bool s_bNoted = false;
 
 bool NeedsPaint(const WindowRecord& window)
 {
@@ -46,23 +45,6 @@ WindowRecord* FindNoted()
     return nullptr;
 }
 
-// Paints the window and its children. Handlers may destroy any of them, and note more: once is enough.
-void PaintTreeOnce(HWND hWnd)
-{
-    static unsigned s_nPass = 0;
-    const unsigned nPass = ++s_nPass;
-    const auto wanted = [nPass](const WindowRecord& window) {
-        return window.nPaintPass != nPass && NeedsPaint(window);
-    };
-    while (WindowRecord* pWindow = FindRecord(hWnd)) {
-        WindowRecord* pNoted = FindShown(*pWindow, wanted);
-        if (!pNoted)
-            return;
-        pNoted->nPaintPass = nPass;
-        toolkit::PaintWindow(pNoted->hWnd);
-    }
-}
-
 void PaintFrameOf(WindowRecord& window)
 {
     const HWND hWnd = window.hWnd;
@@ -85,33 +67,9 @@ void TryToPaintFrame(WindowRecord& window)
     } catch (const CException&) {
     }
 }
-} // namespace
 
-void toolkit::RequestPaint()
-{
-    s_bNoted = true;
-    RequestRun();
-}
-
-bool toolkit::HasPaint()
-{
-    return s_bNoted;
-}
-
-bool toolkit::RunOnePaint()
-{
-    if (!s_bNoted)
-        return false;
-    if (WindowRecord* pWindow = FindNoted()) {
-        PaintWindow(pWindow->hWnd);
-        return true;
-    }
-    s_bNoted = false;
-    PresentPainted();
-    return false;
-}
-
-void toolkit::PaintWindow(HWND hWnd)
+// Paints what is noted of the window itself, frame and client area.
+void PaintWindow(HWND hWnd)
 {
     WindowRecord* pWindow = FindRecord(hWnd);
     if (pWindow && !pWindow->frameUpdate.IsEmpty())
@@ -124,7 +82,38 @@ void toolkit::PaintWindow(HWND hWnd)
     // A handler that does not paint is not asked again and again.
     pWindow = FindRecord(hWnd);
     if (pWindow && !pWindow->bPaintBegun)
-        ValidateRect(hWnd, nullptr);
+        pWindow->ValidateAll();
+}
+
+// Paints the window and its children. Handlers may destroy any of them, and note more: once is enough.
+void PaintTreeOnce(HWND hWnd)
+{
+    static unsigned s_nPass = 0;
+    const unsigned nPass = ++s_nPass;
+    const auto wanted = [nPass](const WindowRecord& window) {
+        return window.nPaintPass != nPass && NeedsPaint(window);
+    };
+    while (WindowRecord* pWindow = FindRecord(hWnd)) {
+        WindowRecord* pNoted = FindShown(*pWindow, wanted);
+        if (!pNoted)
+            return;
+        pNoted->nPaintPass = nPass;
+        PaintWindow(pNoted->hWnd);
+    }
+}
+} // namespace
+
+bool toolkit::RunOnePaint()
+{
+    if (!IsPaintRequested())
+        return false;
+    if (WindowRecord* pWindow = FindNoted()) {
+        PaintWindow(pWindow->hWnd);
+        return true;
+    }
+    EndPaintRequest();
+    PresentPainted();
+    return false;
 }
 
 void toolkit::ForgetPainting(WindowRecord& window)

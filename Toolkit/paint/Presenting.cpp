@@ -1,7 +1,9 @@
-// The top-level windows' surfaces and what of them the desktop has not seen yet.
+#include "Toolkit/paint/Presenting.h"
+
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/paint/Painting.h"
+#include "Toolkit/handle/WindowRecord.h"
+#include "Toolkit/message/Queue.h"
 #include "Toolkit/paint/WindowDC.h"
 
 #include <utility>

@@ -1,8 +1,10 @@
-// Scrolling by moving pixels that are there already.
+#include "Toolkit/paint/ScrollWindow.h"
+
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/UpdateLock.h"
+#include "Toolkit/paint/UpdateRegion.h"
 
 #include <algorithm>
 #include <cstring>

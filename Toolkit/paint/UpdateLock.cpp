@@ -1,6 +1,8 @@
+#include "Toolkit/paint/UpdateLock.h"
+
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/message/Queue.h"
+#include "Toolkit/paint/UpdateRegion.h"
 
 #include <utility>
 

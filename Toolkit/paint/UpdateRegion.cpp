@@ -1,8 +1,7 @@
-// Noting what is to be painted.
+#include "Toolkit/paint/UpdateRegion.h"
+
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/message/Queue.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 
@@ -82,7 +81,7 @@ BOOL ValidateRect(HWND hWnd, const RECT* pRect)
     if (pRect)
         pWindow->update.Remove(*pRect, toolkit::ClientRect(*pWindow));
     else
-        pWindow->update.Clear();
+        pWindow->ValidateAll();
     if (pWindow->update.IsEmpty())
         pWindow->bErase = false;
     return TRUE;

@@ -3,8 +3,8 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/UpdateLock.h"
 
 #include <algorithm>
 #include <vector>

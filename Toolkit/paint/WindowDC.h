@@ -1,10 +1,15 @@
-// Device contexts that draw on windows. Internal to the window layer.
+// Device contexts that draw on windows.
 #pragma once
 
-#include "Toolkit/handle/WindowRecord.h"
+#include "Toolkit/graphics/Region.h"
+
+TOOLKIT_API HDC GetDC(HWND hWnd);       // draws on the client area at once; give it back
+TOOLKIT_API HDC GetWindowDC(HWND hWnd); // the same on the whole window, its border included
+TOOLKIT_API int ReleaseDC(HWND hWnd, HDC hdc);
 
 namespace toolkit
 {
+struct WindowRecord;
 
 // Shifted to `origin` and clipped to `clip`, both on the top-level window's surface. It ends, and is refused from
 // then on, when the window goes or the surface is replaced. NULL without memory for it.

@@ -1,4 +1,4 @@
-// A window's frame: its border and scroll bars. Internal to the window layer.
+// A window's frame: its border and scroll bars.
 #pragma once
 
 #include "Toolkit/handle/WindowRecord.h"

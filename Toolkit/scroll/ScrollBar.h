@@ -4,7 +4,7 @@
 // range: the thumb's first pixel is the first position, its last one the last.
 #pragma once
 
-#include "Toolkit/message/Messages.h"
+#include "Toolkit/handle/WindowTypes.h"
 
 namespace toolkit
 {

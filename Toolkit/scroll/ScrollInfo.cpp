@@ -1,8 +1,9 @@
-// The scroll bars' ranges, and whether they are shown.
+#include "Toolkit/scroll/ScrollInfo.h"
+
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
+#include "Toolkit/message/Dispatch.h"
+#include "Toolkit/paint/UpdateRegion.h"
 #include "Toolkit/scroll/ScrollTracker.h"
-#include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 

@@ -1,9 +1,10 @@
 #include "Toolkit/scroll/ScrollTracker.h"
 
+#include "Toolkit/focus/Capture.h"
 #include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Timers.h"
-#include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/paint/UpdateRegion.h"
 
 #include <algorithm>
 #include <utility>
@@ -167,14 +168,6 @@ void toolkit::HoverScrollBars(HWND hWnd, CPoint screen)
     Redraw(s_hot.hWnd, s_hot.nBar);
     s_hot = {hHot, nBar == SB_HORZ ? SB_HORZ : SB_VERT, bOnThumb};
     Redraw(s_hot.hWnd, s_hot.nBar);
-}
-
-void toolkit::ForgetScrollBars(HWND hWnd)
-{
-    if (s_hot.hWnd == hWnd)
-        s_hot.hWnd = nullptr;
-    if (s_held.hWnd == hWnd)
-        s_held.hWnd = nullptr;
 }
 
 toolkit::ScrollBarLook toolkit::GetScrollBarLook(HWND hWnd, int nBar, const ScrollBar& bar)

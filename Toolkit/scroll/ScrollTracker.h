@@ -1,5 +1,5 @@
 // Scroll bars under the mouse: dragging the thumb, paging by a press on the track, and the hover's feedback.
-// Internal to the window layer. Points are on the screen.
+// Points are on the screen.
 #pragma once
 
 #include "Toolkit/message/InputQueue.h"
@@ -12,7 +12,6 @@ void PressScrollBar(HWND hWnd, CPoint screen);
 bool IsTrackingScrollBar();
 void TrackScrollBar(const InputEvent& event, CPoint screen);
 void HoverScrollBars(HWND hWnd, CPoint screen); // NULL: the mouse is over none
-void ForgetScrollBars(HWND hWnd);               // the window is gone
 
 // How a bar is to be drawn now.
 struct ScrollBarLook

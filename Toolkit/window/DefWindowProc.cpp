@@ -1,4 +1,5 @@
-// What a window does with a message that nobody has handled.
+#include "Toolkit/window/DefWindowProc.h"
+
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/handle/WindowGeometry.h"

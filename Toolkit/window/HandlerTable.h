@@ -1,7 +1,7 @@
 // Which member function of a control, or of one of its parts, handles which message.
 #pragma once
 
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/DefWindowProc.h"
 
 #include <initializer_list>
 #include <type_traits>

@@ -1,17 +1,28 @@
 #include "Toolkit/window/NativeWindow.h"
 
+#include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/message/Dispatch.h"
-#include "Toolkit/window/NativeClasses.h"
 
 #include <map>
 #include <string>
 
 namespace
 {
+class PlainWindow final : public toolkit::NativeWindow
+{
+public:
+    using NativeWindow::NativeWindow;
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        return DefWindowProc(m_hWnd, message, wParam, lParam);
+    }
+};
+
 // Controls register while the library is being loaded, so the table is made by the first of them.
 std::map<std::string, toolkit::NativeWindowFactory, std::less<>>& Classes()
 {
-    static std::map<std::string, toolkit::NativeWindowFactory, std::less<>> classes;
+    static std::map<std::string, toolkit::NativeWindowFactory, std::less<>> classes{
+        {"", [](HWND hWnd) { return std::make_unique<PlainWindow>(hWnd); }}};
     return classes;
 }
 } // namespace
@@ -21,22 +32,16 @@ void toolkit::RegisterWindowClass(LPCSTR pszClass, NativeWindowFactory factory)
     Classes()[pszClass] = std::move(factory);
 }
 
-bool toolkit::FindWindowClass(LPCSTR pszClass, const NativeWindowFactory** ppFactory)
+const toolkit::NativeWindowFactory* toolkit::FindWindowClass(LPCSTR pszClass)
 {
-    *ppFactory = nullptr;
-    if (!pszClass || !*pszClass)
-        return true;
-    const auto it = Classes().find(std::string_view(pszClass));
-    if (it == Classes().end())
-        return false;
-    *ppFactory = &it->second;
-    return true;
+    const auto it = Classes().find(std::string_view(pszClass ? pszClass : ""));
+    return it == Classes().end() ? nullptr : &it->second;
 }
 
 toolkit::NativeWindow* toolkit::FindNativeWindow(HWND hWnd)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);
-    return pWindow ? pWindow->pNative.get() : nullptr;
+    return pWindow ? static_cast<NativeWindow*>(pWindow->pNative.get()) : nullptr;
 }
 
 LRESULT toolkit::NativeWindow::Notify(UINT code, NMHDR& header) const
@@ -58,35 +63,4 @@ void toolkit::NativeWindow::TakeFocus()
 {
     if (!IsFocused())
         SetFocus(m_hWnd);
-}
-
-toolkit::WindowHold::WindowHold(WindowRecord& window) : m_pWindow(&window)
-{
-    ++window.nHolds;
-}
-
-toolkit::WindowHold::WindowHold(HWND hWnd) : m_pWindow(FindRecord(hWnd))
-{
-    if (m_pWindow)
-        ++m_pWindow->nHolds;
-}
-
-toolkit::WindowHold::~WindowHold()
-{
-    if (m_pWindow && --m_pWindow->nHolds == 0 && m_pWindow->pSelf)
-        const auto last = std::move(m_pWindow->pSelf);
-}
-
-toolkit::NativeWindow* toolkit::WindowHold::Native() const
-{
-    return m_pWindow ? m_pWindow->pNative.get() : nullptr;
-}
-
-// A handle has 32 bits, whatever the width of a pointer.
-DWORD GetClassLong(HWND hWnd, int nIndex)
-{
-    const toolkit::NativeWindow* pNative = toolkit::FindNativeWindow(hWnd);
-    if (!pNative || nIndex != GCL_HBRBACKGROUND)
-        return 0;
-    return static_cast<DWORD>(reinterpret_cast<UINT_PTR>(pNative->ClassBackground()));
 }

@@ -1,6 +1,7 @@
 // The behaviour behind a window class: what a control does before any class of the library has its say.
 #pragma once
 
+#include "Toolkit/handle/WindowObject.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <functional>
@@ -8,8 +9,6 @@
 
 namespace toolkit
 {
-
-struct WindowRecord;
 
 // One object for each window of the class. It is made before WM_NCCREATE. A window's CWnd sees every message first;
 // what it leaves, or hands on with Default(), comes here.
@@ -19,15 +18,14 @@ struct WindowRecord;
 // all, may have destroyed the window. All that is done with the handle has no effect then: nobody is told, no answer
 // refuses. IsAlive is asked only where the answer changes what is done. All else may have changed under way as well:
 // what was known before a call out is looked up again.
-class TOOLKIT_API NativeWindow
+class TOOLKIT_API NativeWindow : public MessageReceiver
 {
 public:
     explicit NativeWindow(HWND hWnd) : m_hWnd(hWnd) {}
-    virtual ~NativeWindow() = default;
     NativeWindow(const NativeWindow&) = delete;
     NativeWindow& operator=(const NativeWindow&) = delete;
 
-    virtual LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0; // ends in ::DefWindowProc
+    // HandleMessage ends in ::DefWindowProc.
     virtual HBRUSH ClassBackground() const { return nullptr; } // what GetClassLong tells; nobody's to delete
 
     // For itself and what it consists of.
@@ -46,26 +44,11 @@ public:
     const HWND m_hWnd;
 };
 
-// Holds a window while a message of it is handled. So does whoever calls its native window directly.
-class TOOLKIT_API WindowHold
-{
-public:
-    explicit WindowHold(WindowRecord& window);
-    explicit WindowHold(HWND hWnd); // holds nothing when it is stale
-    ~WindowHold();
-    WindowHold(const WindowHold&) = delete;
-    WindowHold& operator=(const WindowHold&) = delete;
-
-    NativeWindow* Native() const; // NULL, too, when the class is plain
-
-private:
-    WindowRecord* const m_pWindow;
-};
-
 using NativeWindowFactory = std::function<std::unique_ptr<NativeWindow>(HWND)>;
 TOOLKIT_API void RegisterWindowClass(LPCSTR pszClass, NativeWindowFactory factory);
+const NativeWindowFactory* FindWindowClass(LPCSTR pszClass); // NULL for an unknown one; NULL or "" is the plain class
 
-// NULL when the handle is stale or its class is plain. Not to be called without a hold.
+// NULL when the handle is stale. Not to be called without a hold.
 TOOLKIT_API NativeWindow* FindNativeWindow(HWND hWnd);
 
 } // namespace toolkit

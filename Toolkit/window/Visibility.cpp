@@ -3,9 +3,9 @@
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/Focus.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Painting.h"
+#include "Toolkit/message/Dispatch.h"
+#include "Toolkit/paint/UpdateRegion.h"
 #include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/WindowApi.h"
 
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
@@ -39,10 +39,4 @@ BOOL ShowWindow(HWND hWnd, int nShow)
         toolkit::SetVisible(hWnd, bShow);
     }
     return bWas;
-}
-
-BOOL IsWindowVisible(HWND hWnd)
-{
-    const WindowRecord* pWindow = FindRecord(hWnd);
-    return pWindow && toolkit::IsShown(*pWindow);
 }

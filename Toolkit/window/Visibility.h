@@ -1,10 +1,12 @@
-// Showing and hiding without asking or telling the window. Internal to the window layer.
+// Showing and hiding.
 #pragma once
 
-#include "Toolkit/base/Types.h"
+#include "Toolkit/handle/WindowTypes.h"
+
+TOOLKIT_API BOOL ShowWindow(HWND hWnd, int nShow); // TRUE when it was visible before
 
 namespace toolkit
 {
-// Notes what is to be painted; a hidden window lets go of focus and capture.
+// Without asking or telling the window. Notes what is to be painted; a hidden window lets go of focus and capture.
 void SetVisible(HWND hWnd, bool bShow);
 } // namespace toolkit

@@ -2,9 +2,11 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/handle/WindowQueries.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/NativeClasses.h"
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/NativeWindow.h"
+#include "Toolkit/window/Visibility.h"
 #include "Toolkit/window/WindowDestruction.h"
 #include "Toolkit/window/WndAccess.h"
 
@@ -17,10 +19,10 @@ using toolkit::WindowRecord;
 HWND AddWindow(const CREATESTRUCT& cs, CWnd* pOwner)
 {
     WindowRecord* pParent = toolkit::FindRecord(cs.hwndParent);
-    const toolkit::NativeWindowFactory* pFactory = nullptr;
+    const toolkit::NativeWindowFactory* pFactory = toolkit::FindWindowClass(cs.lpszClass);
     const bool bTop = !cs.hwndParent && !(cs.style & WS_CHILD);
     const bool bHasPlace = bTop || (pParent && toolkit::IsAlive(*pParent));
-    if (!bHasPlace || !toolkit::FindWindowClass(cs.lpszClass, &pFactory))
+    if (!bHasPlace || !pFactory)
         return nullptr;
 
     const HWND hWnd = toolkit::AddRecord(std::make_unique<WindowRecord>(cs), pParent);
@@ -28,8 +30,7 @@ HWND AddWindow(const CREATESTRUCT& cs, CWnd* pOwner)
     if (!pWindow)
         return nullptr;
     try {
-        if (pFactory)
-            pWindow->pNative = (*pFactory)(hWnd);
+        pWindow->pNative = (*pFactory)(hWnd);
     } catch (...) {
         toolkit::RemoveRecord(hWnd);
         throw;

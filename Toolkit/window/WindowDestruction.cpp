@@ -1,15 +1,14 @@
 // Any handler called on the way may destroy windows, so every step looks its window up again.
 #include "Toolkit/window/WindowDestruction.h"
 
-#include "Toolkit/exchange/DropSite.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/Focus.h"
-#include "Toolkit/input/MouseInput.h"
+#include "Toolkit/handle/DropSite.h"
+#include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Timers.h"
 #include "Toolkit/paint/Painting.h"
 #include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/Visibility.h"
-#include "Toolkit/window/WindowApi.h"
 #include "Toolkit/window/WndAccess.h"
 
 #include <algorithm>
@@ -63,13 +62,13 @@ CWnd* Forget(WindowRecord& window)
     const HWND hWnd = window.hWnd;
     toolkit::ForgetFocus(hWnd);
     toolkit::ForgetCapture(hWnd);
-    toolkit::ForgetMouse(hWnd);
     toolkit::DropTimers(hWnd);
-    toolkit::ForgetDropSite(hWnd);
+    if (window.pDropSite)
+        window.pDropSite->WindowGone();
     toolkit::ForgetPainting(window);
     if (window.IsTop())
         toolkit::TellDesktopOfDestruction(window);
-    CWnd* const pWnd = std::exchange(window.pWnd, nullptr);
+    CWnd* const pWnd = static_cast<CWnd*>(std::exchange(window.pWnd, nullptr));
     toolkit::RemoveRecord(hWnd);
     return pWnd;
 }

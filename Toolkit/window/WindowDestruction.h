@@ -1,7 +1,9 @@
-// The second half of a window's end. Internal to the window layer.
+// Destroying windows.
 #pragma once
 
 #include "Toolkit/base/Types.h"
+
+TOOLKIT_API BOOL DestroyWindow(HWND hWnd); // FALSE when it is gone, or being destroyed already
 
 namespace toolkit
 {

@@ -53,18 +53,18 @@ CWnd* CWnd::FromHandle(HWND hWnd)
     if (!pWindow)
         return nullptr;
     if (pWindow->pWnd)
-        return pWindow->pWnd;
+        return static_cast<CWnd*>(pWindow->pWnd);
     if (!pWindow->pTemporaryWnd) {
         pWindow->pTemporaryWnd = std::make_unique<CWnd>();
         pWindow->pTemporaryWnd->m_hWnd = hWnd;
     }
-    return pWindow->pTemporaryWnd.get();
+    return static_cast<CWnd*>(pWindow->pTemporaryWnd.get());
 }
 
 CWnd* CWnd::FromHandlePermanent(HWND hWnd)
 {
     const toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    return pWindow ? pWindow->pWnd : nullptr;
+    return pWindow ? static_cast<CWnd*>(pWindow->pWnd) : nullptr;
 }
 
 CWnd* toolkit::WndFromHandle(HWND hWnd)
@@ -125,4 +125,11 @@ CWnd* AfxGetMainWnd()
 void AfxSetMainWnd(CWnd* pWnd)
 {
     s_pMainWnd = pWnd;
+}
+
+CPaintDC::CPaintDC(HWND hWnd) : m_hWnd(hWnd), m_target(toolkit::BeginPaint(hWnd)) {}
+
+CPaintDC::~CPaintDC()
+{
+    toolkit::EndPaint(m_hWnd, m_target.hdc);
 }

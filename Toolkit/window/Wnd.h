@@ -4,14 +4,16 @@
 // the object lives on; the object, when it goes first, destroys its window.
 #pragma once
 
+#include "Toolkit/handle/WindowObject.h"
+#include "Toolkit/paint/BeginPaint.h"
 #include "Toolkit/window/MessageMap.h"
 #include "Toolkit/window/WindowApi.h"
 
-class TOOLKIT_API CWnd
+class TOOLKIT_API CWnd : public toolkit::WindowObject
 {
 public:
     CWnd() = default;
-    virtual ~CWnd();
+    ~CWnd() override;
     CWnd(const CWnd&) = delete;
     CWnd& operator=(const CWnd&) = delete;
 
@@ -58,8 +60,6 @@ public:
     // before any of them handles it. TRUE swallows the message.
     virtual BOOL PreTranslateMessage(MSG* pMsg);
 
-    HWND m_hWnd = nullptr; // NULL while there is no window
-
 protected:
     // Every message of the window comes here first; looks it up in the message maps and else calls DefWindowProc.
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -102,7 +102,9 @@ protected:
     virtual const toolkit::MessageMap* GetMessageMap() const;
 
 private:
-    friend struct WndAccess; // the window manager's way to WindowProc, PostNcDestroy and the message map
+    friend struct WndAccess; // the window manager's way to PostNcDestroy and the message map
+
+    LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) final;
 };
 
 // The window that AfxGetMainWnd's caller's thread shows its application in; NULL before there is one.

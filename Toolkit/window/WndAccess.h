@@ -1,11 +1,10 @@
-// The window manager's way to what CWnd keeps to itself. Internal to the window layer.
+// The window manager's way to what CWnd keeps to itself.
 #pragma once
 
 #include "Toolkit/window/Wnd.h"
 
 struct WndAccess
 {
-    static LRESULT CallWindowProc(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam);
     static void PostNcDestroy(CWnd& wnd) { wnd.PostNcDestroy(); }
 
     // A child's notification or command on its way to the parent. True when the child's own class took it.

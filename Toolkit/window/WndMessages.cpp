@@ -23,16 +23,6 @@ private:
 };
 } // namespace
 
-const toolkit::MessageEntry* toolkit::SearchMessageEntry(const MessageMap* pMap, UINT message, UINT code, UINT id)
-{
-    for (; pMap; pMap = pMap->base ? pMap->base() : nullptr) {
-        for (const MessageEntry* p = pMap->entries; p->message != 0; ++p)
-            if (p->message == message && p->code == code && id >= p->id && id <= p->lastID)
-                return p;
-    }
-    return nullptr;
-}
-
 const toolkit::MessageMap* CWnd::GetThisMessageMap()
 {
     static constexpr toolkit::MessageEntry entries[] = {{0, 0, 0, 0, nullptr}};
@@ -45,23 +35,11 @@ const toolkit::MessageMap* CWnd::GetMessageMap() const
     return GetThisMessageMap();
 }
 
-LRESULT WndAccess::CallWindowProc(CWnd& wnd, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CWnd::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const toolkit::MessageCall call{message, wParam, lParam, 0};
     const CurrentMessage current(call);
-    return wnd.WindowProc(message, wParam, lParam);
-}
-
-bool WndAccess::Dispatch(CWnd& wnd, UINT message, UINT code, UINT id, toolkit::MessageCall& call)
-{
-    const toolkit::MessageEntry* pEntry = toolkit::FindMessageEntry(wnd.GetMessageMap(), message, code, id);
-    return pEntry && pEntry->handler(&wnd, call);
-}
-
-bool WndAccess::Reflect(HWND hChild, toolkit::MessageCall& call, UINT code)
-{
-    CWnd* pChild = CWnd::FromHandlePermanent(hChild);
-    return pChild && Dispatch(*pChild, WM_REFLECT_BASE + call.message, code, 0, call);
+    return WindowProc(message, wParam, lParam);
 }
 
 LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -82,8 +60,8 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const toolkit::WindowHold hold(m_hWnd); // the caller may handle no message
-    toolkit::NativeWindow* const pNative = hold.Native();
-    return pNative ? pNative->HandleMessage(message, wParam, lParam) : ::DefWindowProc(m_hWnd, message, wParam, lParam);
+    toolkit::MessageReceiver* const pNative = hold.Native();
+    return pNative ? pNative->HandleMessage(message, wParam, lParam) : 0;
 }
 
 BOOL CWnd::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult)

@@ -1,6 +1,8 @@
 #include "tests/desktop/DesktopTest.h"
 
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/message/TaskInbox.h"
+#include "Toolkit/run/Run.h"
 
 namespace
 {

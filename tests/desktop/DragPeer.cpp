@@ -7,6 +7,7 @@
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/exchange/DataSource.h"
 #include "Toolkit/exchange/DropTarget.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <QApplication>
 #include <QDropEvent>

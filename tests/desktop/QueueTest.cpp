@@ -1,4 +1,5 @@
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/TaskInbox.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>

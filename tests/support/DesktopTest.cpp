@@ -4,6 +4,7 @@
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/menu/Menu.h"
+#include "Toolkit/run/Run.h"
 
 DesktopTest::DesktopTest()
     : m_counts(toolkit::CountWindows()),

@@ -1,4 +1,6 @@
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/TaskInbox.h"
+#include "Toolkit/run/Run.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"

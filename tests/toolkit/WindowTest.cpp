@@ -1,6 +1,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/controls/list/ListCtrl.h"
 #include "Toolkit/controls/tree/TreeCtrl.h"
+#include "Toolkit/run/Run.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"

@@ -1,5 +1,5 @@
 // The pictures of a thumbnail list, its images, and what the mouse has passed over.
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/run/Run.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/views/ListTest.h"
 

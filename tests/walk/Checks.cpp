@@ -1,3 +1,4 @@
+#include "Toolkit/paint/Presenting.h"
 #include "tests/walk/Scene.h"
 
 #include <algorithm>

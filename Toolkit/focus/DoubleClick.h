@@ -1,7 +1,9 @@
-// Tells double clicks from single ones. Internal to the window layer.
+// Tells double clicks from single ones.
 #pragma once
 
-#include "Toolkit/message/InputQueue.h"
+#include "Toolkit/message/Input.h"
+
+TOOLKIT_API UINT GetDoubleClickTime(); // milliseconds
 
 namespace toolkit
 {

@@ -3,12 +3,13 @@
 
 #include "Toolkit/base/Geometry.h"
 #include "Toolkit/desktop/DropEffect.h"
-#include "Toolkit/desktop/OfferedData.h"
 
 #include <memory>
 
 namespace toolkit
 {
+
+class OfferedData;
 
 // Where a drag is: over which window, at which point of its client area, with which keys and buttons (MK_*).
 struct DragPlace
@@ -43,7 +44,6 @@ protected:
 
 bool RegisterDropSite(HWND hWnd, DropSite* pSite); // false for a stale handle and when the window has one
 void RevokeDropSite(HWND hWnd);
-void ForgetDropSite(HWND hWnd);    // the window goes: tells the site, and revokes it
 DropSite* FindDropSite(HWND hWnd); // NULL when the window has none
 
 } // namespace toolkit

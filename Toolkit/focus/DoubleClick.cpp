@@ -1,6 +1,4 @@
-#include "Toolkit/input/DoubleClick.h"
-
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/focus/DoubleClick.h"
 
 #include <cstdlib>
 

@@ -1,12 +1,13 @@
-#include "Toolkit/focus/KeyStates.h"
+#include "Toolkit/focus/InputState.h"
 
-#include "Toolkit/window/WindowApi.h"
+#include "Toolkit/message/Messages.h"
 
 #include <bitset>
 
 namespace
 {
 std::bitset<256> s_down;
+CPoint s_cursor; // screen
 
 constexpr struct
 {
@@ -54,6 +55,16 @@ void toolkit::SetMouseKeyFlags(UINT flags)
         s_down[vkey] = flags & flag;
 }
 
+CPoint toolkit::CursorPos()
+{
+    return s_cursor;
+}
+
+void toolkit::SetCursorPos(CPoint screen)
+{
+    s_cursor = screen;
+}
+
 UINT toolkit::KeyOfButton(MouseButton button)
 {
     switch (button) {
@@ -69,4 +80,10 @@ UINT toolkit::KeyOfButton(MouseButton button)
 std::int16_t GetKeyState(UINT vkey)
 {
     return toolkit::IsKeyDown(vkey) ? std::int16_t{-128} : std::int16_t{0};
+}
+
+BOOL GetCursorPos(POINT* pPoint)
+{
+    *pPoint = s_cursor;
+    return TRUE;
 }

@@ -1,0 +1,66 @@
+#include "Toolkit/message/Input.h"
+
+#include "Toolkit/base/Text.h"
+#include "Toolkit/message/InputQueue.h"
+
+void toolkit::InputMouseMove(HWND hTop, CPoint at, Modifiers modifiers)
+{
+    const InputEvent move{.kind = InputKind::MouseMove, .hTop = hTop, .at = at, .modifiers = modifiers};
+    PutInput(move);
+}
+
+void toolkit::InputMouseButton(HWND hTop, CPoint at, MouseButton button, bool down, Modifiers modifiers)
+{
+    PutInput({.kind = InputKind::MouseButton,
+              .hTop = hTop,
+              .at = at,
+              .modifiers = modifiers,
+              .button = button,
+              .down = down});
+}
+
+void toolkit::InputMouseWheel(HWND hTop, CPoint at, int delta, Modifiers modifiers)
+{
+    PutInput({.kind = InputKind::MouseWheel, .hTop = hTop, .at = at, .modifiers = modifiers, .delta = delta});
+}
+
+void toolkit::InputMouseLeave(HWND hTop)
+{
+    PutInput({.kind = InputKind::MouseLeave, .hTop = hTop});
+}
+
+void toolkit::InputKey(UINT vkey, bool down, Modifiers modifiers)
+{
+    PutInput({.kind = InputKind::Key, .modifiers = modifiers, .down = down, .value = vkey});
+}
+
+void toolkit::InputText(std::string_view utf8)
+{
+    while (!utf8.empty()) {
+        const CodePoint c = DecodeUtf8(utf8);
+        utf8.remove_prefix(static_cast<std::size_t>(c.bytes));
+        const bool bPrintable = c.value >= 0x20 && c.value != 0x7F && c.value < 0x110000;
+        if (bPrintable)
+            PutInput({.kind = InputKind::Character, .value = c.value});
+    }
+}
+
+void toolkit::InputActivate(HWND hTop, bool active)
+{
+    PutInput({.kind = InputKind::Activate, .hTop = hTop, .down = active});
+}
+
+void toolkit::InputResize(HWND hTop, CSize client)
+{
+    PutInput({.kind = InputKind::Resize, .hTop = hTop, .at = {client.cx, client.cy}});
+}
+
+void toolkit::InputMoved(HWND hTop, CPoint screen)
+{
+    PutInput({.kind = InputKind::Moved, .hTop = hTop, .at = screen});
+}
+
+void toolkit::InputClose(HWND hTop)
+{
+    PutInput({.kind = InputKind::Close, .hTop = hTop});
+}
