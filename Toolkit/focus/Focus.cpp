@@ -12,8 +12,11 @@ namespace
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
 
-HWND s_hFocus = nullptr;
-unsigned s_nMoves = 0; // tells whether a handler moved the focus meanwhile
+struct
+{
+    HWND hWnd = nullptr;
+    unsigned nMoves = 0; // tells whether a handler moved the focus meanwhile
+} s_focus;
 
 bool CanHaveFocus(HWND hWnd)
 {
@@ -24,25 +27,25 @@ bool CanHaveFocus(HWND hWnd)
 bool HasFocusWithin(HWND hWnd)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);
-    return s_hFocus && pWindow && toolkit::IsSelfOrChild(*pWindow, FindRecord(s_hFocus));
+    return s_focus.hWnd && pWindow && toolkit::IsSelfOrChild(*pWindow, FindRecord(s_focus.hWnd));
 }
 
 // So that the top-level window can give the focus back when the user comes back to it.
 void RememberFocus()
 {
-    if (const WindowRecord* pFocus = FindRecord(s_hFocus))
-        toolkit::TopOf(*pFocus).hLastFocus = s_hFocus;
+    if (const WindowRecord* pFocus = FindRecord(s_focus.hWnd))
+        toolkit::TopOf(*pFocus).hLastFocus = s_focus.hWnd;
 }
 
 HWND MoveFocus(HWND hWnd)
 {
-    const HWND hFormer = s_hFocus;
+    const HWND hFormer = s_focus.hWnd;
     if (hFormer == hWnd)
         return hFormer;
-    s_hFocus = hWnd;
-    const unsigned nMove = ++s_nMoves;
+    s_focus.hWnd = hWnd;
+    const unsigned nMove = ++s_focus.nMoves;
     SendMessage(hFormer, WM_KILLFOCUS, reinterpret_cast<WPARAM>(hWnd), 0);
-    if (nMove == s_nMoves)
+    if (nMove == s_focus.nMoves)
         SendMessage(hWnd, WM_SETFOCUS, reinterpret_cast<WPARAM>(hFormer), 0);
     return hFormer;
 }
@@ -55,7 +58,7 @@ HWND SetFocus(HWND hWnd)
 
 HWND GetFocus()
 {
-    return s_hFocus;
+    return s_focus.hWnd;
 }
 
 void toolkit::PassFocusOn(HWND hWnd)
@@ -68,8 +71,8 @@ void toolkit::PassFocusOn(HWND hWnd)
 
 void toolkit::ForgetFocus(HWND hWnd)
 {
-    if (s_hFocus == hWnd)
-        s_hFocus = nullptr;
+    if (s_focus.hWnd == hWnd)
+        s_focus.hWnd = nullptr;
 }
 
 void toolkit::SetActive(HWND hTop, bool bActive)

@@ -6,8 +6,11 @@
 
 namespace
 {
-std::bitset<256> s_down;
-CPoint s_cursor; // screen
+struct
+{
+    std::bitset<256> down; // by virtual key
+    CPoint cursor;         // screen
+} s_state;
 
 constexpr struct
 {
@@ -18,51 +21,51 @@ constexpr struct
 
 bool toolkit::IsKeyDown(UINT vkey)
 {
-    return vkey < s_down.size() && s_down[vkey];
+    return vkey < s_state.down.size() && s_state.down[vkey];
 }
 
 bool toolkit::SetKeyDown(UINT vkey, bool bDown)
 {
     const bool bWas = IsKeyDown(vkey);
-    if (vkey < s_down.size())
-        s_down[vkey] = bDown;
+    if (vkey < s_state.down.size())
+        s_state.down[vkey] = bDown;
     return bWas;
 }
 
 void toolkit::SetModifiersDown(Modifiers modifiers)
 {
-    s_down[VK_SHIFT] = modifiers.shift;
-    s_down[VK_CONTROL] = modifiers.control;
-    s_down[VK_MENU] = modifiers.alt;
+    s_state.down[VK_SHIFT] = modifiers.shift;
+    s_state.down[VK_CONTROL] = modifiers.control;
+    s_state.down[VK_MENU] = modifiers.alt;
 }
 
 void toolkit::ReleaseAllKeys()
 {
-    s_down.reset();
+    s_state.down.reset();
 }
 
 UINT toolkit::MouseKeyFlags()
 {
     UINT flags = 0;
     for (const auto& [vkey, flag] : kFlags)
-        flags |= s_down[vkey] ? flag : 0;
+        flags |= s_state.down[vkey] ? flag : 0;
     return flags;
 }
 
 void toolkit::SetMouseKeyFlags(UINT flags)
 {
     for (const auto& [vkey, flag] : kFlags)
-        s_down[vkey] = flags & flag;
+        s_state.down[vkey] = flags & flag;
 }
 
 CPoint toolkit::CursorPos()
 {
-    return s_cursor;
+    return s_state.cursor;
 }
 
 void toolkit::SetCursorPos(CPoint screen)
 {
-    s_cursor = screen;
+    s_state.cursor = screen;
 }
 
 UINT toolkit::KeyOfButton(MouseButton button)
@@ -84,6 +87,6 @@ std::int16_t GetKeyState(UINT vkey)
 
 BOOL GetCursorPos(POINT* pPoint)
 {
-    *pPoint = s_cursor;
+    *pPoint = s_state.cursor;
     return TRUE;
 }

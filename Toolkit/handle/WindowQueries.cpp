@@ -5,6 +5,18 @@
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
 
+namespace
+{
+template <class Ask>
+BOOL IfThere(HWND hWnd, Ask ask)
+{
+    const WindowRecord* pWindow = FindRecord(hWnd);
+    if (pWindow)
+        ask(*pWindow);
+    return pWindow != nullptr;
+}
+} // namespace
+
 BOOL IsWindow(HWND hWnd)
 {
     return FindRecord(hWnd) != nullptr;
@@ -49,38 +61,26 @@ DWORD GetWindowExStyle(HWND hWnd)
 
 BOOL GetWindowRect(HWND hWnd, RECT* pRect)
 {
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pRect = toolkit::WindowArea(*pWindow) + toolkit::SurfaceToScreen(*pWindow);
-    return TRUE;
+    return IfThere(hWnd, [=](const WindowRecord& window) {
+        *pRect = toolkit::WindowArea(window) + toolkit::SurfaceToScreen(window);
+    });
 }
 
 BOOL GetClientRect(HWND hWnd, RECT* pRect)
 {
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pRect = toolkit::ClientRect(*pWindow);
-    return TRUE;
+    return IfThere(hWnd, [=](const WindowRecord& window) { *pRect = toolkit::ClientRect(window); });
 }
 
 BOOL ClientToScreen(HWND hWnd, POINT* pPoint)
 {
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pPoint = CPoint(*pPoint) + toolkit::ClientToScreenOffset(*pWindow);
-    return TRUE;
+    return IfThere(
+        hWnd, [=](const WindowRecord& window) { *pPoint = CPoint(*pPoint) + toolkit::ClientToScreenOffset(window); });
 }
 
 BOOL ScreenToClient(HWND hWnd, POINT* pPoint)
 {
-    const WindowRecord* pWindow = toolkit::FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    *pPoint = CPoint(*pPoint) - toolkit::ClientToScreenOffset(*pWindow);
-    return TRUE;
+    return IfThere(
+        hWnd, [=](const WindowRecord& window) { *pPoint = CPoint(*pPoint) - toolkit::ClientToScreenOffset(window); });
 }
 
 BOOL IsWindowVisible(HWND hWnd)

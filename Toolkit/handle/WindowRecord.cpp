@@ -4,12 +4,15 @@
 
 namespace
 {
-toolkit::HandleTable<HWND, toolkit::WindowRecord> s_windows;
-std::vector<toolkit::WindowRecord*> s_tops;
+struct
+{
+    toolkit::HandleTable<HWND, toolkit::WindowRecord> all;
+    std::vector<toolkit::WindowRecord*> tops;
+} s_windows;
 
 std::vector<toolkit::WindowRecord*>& Siblings(const toolkit::WindowRecord& window)
 {
-    return window.pParent ? window.pParent->children : s_tops;
+    return window.pParent ? window.pParent->children : s_windows.tops;
 }
 } // namespace
 
@@ -38,17 +41,17 @@ void toolkit::WindowRecord::ValidateAll()
 
 toolkit::WindowRecord* toolkit::FindRecord(HWND hWnd)
 {
-    return s_windows.Find(hWnd);
+    return s_windows.all.Find(hWnd);
 }
 
 const std::vector<toolkit::WindowRecord*>& toolkit::TopLevelRecords()
 {
-    return s_tops;
+    return s_windows.tops;
 }
 
 int toolkit::CountRecords()
 {
-    return s_windows.GetCount();
+    return s_windows.all.GetCount();
 }
 
 HWND toolkit::AddRecord(std::unique_ptr<WindowRecord> pWindow, WindowRecord* pParent)
@@ -58,7 +61,7 @@ HWND toolkit::AddRecord(std::unique_ptr<WindowRecord> pWindow, WindowRecord* pPa
     auto& siblings = Siblings(*p);
     if (siblings.size() == siblings.capacity())
         siblings.reserve(2 * siblings.size() + 4); // before anything changes: the only memory needed after Add
-    const HWND hWnd = s_windows.Add(std::move(pWindow));
+    const HWND hWnd = s_windows.all.Add(std::move(pWindow));
     if (!hWnd)
         return nullptr;
     p->hWnd = hWnd;
@@ -68,7 +71,7 @@ HWND toolkit::AddRecord(std::unique_ptr<WindowRecord> pWindow, WindowRecord* pPa
 
 void toolkit::RemoveRecord(HWND hWnd) noexcept
 {
-    std::unique_ptr<WindowRecord> pWindow = s_windows.Remove(hWnd);
+    std::unique_ptr<WindowRecord> pWindow = s_windows.all.Remove(hWnd);
     if (!pWindow)
         return;
     std::erase(Siblings(*pWindow), pWindow.get());

@@ -37,14 +37,6 @@ std::shared_ptr<toolkit::OfferedData> toolkit::MakeOffer(KindsAndBytes data)
     return std::make_shared<ForeignOffer>(std::move(data));
 }
 
-std::string toolkit::JoinKinds(OfferedData& data)
-{
-    std::string all;
-    for (const std::string& kind : data.GetKinds())
-        all += (all.empty() ? "" : " ") + kind;
-    return all;
-}
-
 BOOL toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
 {
     m_foreign.reset();
@@ -69,7 +61,10 @@ void toolkit::HeadlessDesktop::TakeClipboard(KindsAndBytes data)
 
 std::string toolkit::HeadlessDesktop::PublishedKinds()
 {
-    return m_published ? JoinKinds(*m_published) : "";
+    std::string all;
+    for (const std::string& kind : m_published ? m_published->GetKinds() : std::vector<std::string>())
+        all += (all.empty() ? "" : " ") + kind;
+    return all;
 }
 
 std::optional<std::string> toolkit::HeadlessDesktop::ReadPublished(std::string_view kind)

@@ -72,7 +72,6 @@ public:
     void DragIn(KindsAndBytes data, DROPEFFECT allowed = DROPEFFECT_COPY | DROPEFFECT_MOVE);
     bool IsDragging() const;
     DROPEFFECT DragEffect() const { return m_dragEffect; } // what a drop would do; after the drag, what it did
-    std::string DraggedKinds();                            // as PublishedKinds, of the drag
     std::optional<std::string> ReadDragged(std::string_view kind);
 
     // The clipboard as another program sees it: it takes it with data of its own, or leaves it empty, or asks for

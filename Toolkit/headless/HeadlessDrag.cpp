@@ -130,11 +130,6 @@ DROPEFFECT toolkit::HeadlessDesktop::RunDrag(std::shared_ptr<OfferedData> data, 
     return m_dragEffect;
 }
 
-std::string toolkit::HeadlessDesktop::DraggedKinds()
-{
-    return m_drag ? JoinKinds(*m_drag->data) : "";
-}
-
 std::optional<std::string> toolkit::HeadlessDesktop::ReadDragged(std::string_view kind)
 {
     return m_drag ? m_drag->data->Render(kind) : std::nullopt;

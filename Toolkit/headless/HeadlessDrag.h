@@ -21,8 +21,7 @@ struct HeadlessDrag
     bool bOver = false;    // dropped or cancelled
 };
 
-// Another program's data, and the kinds of any, separated by spaces.
+// Another program's data.
 std::shared_ptr<OfferedData> MakeOffer(KindsAndBytes data);
-std::string JoinKinds(OfferedData& data);
 
 } // namespace toolkit

@@ -7,7 +7,7 @@
 #include "Toolkit/input/MouseInput.h"
 #include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Queue.h"
-#include "Toolkit/window/WindowPlacing.h"
+#include "Toolkit/window/WindowSettings.h"
 
 namespace
 {

@@ -1,7 +1,7 @@
 // Keys on their way to the focus.
 #pragma once
 
-#include "Toolkit/message/InputQueue.h"
+#include "Toolkit/message/Input.h"
 
 namespace toolkit
 {

@@ -20,8 +20,11 @@ using toolkit::InputEvent;
 using toolkit::InputKind;
 using toolkit::MouseButton;
 
-HWND s_hOver = nullptr; // whose client area the mouse is over, or was when it went
-toolkit::DoubleClick s_doubleClick;
+struct
+{
+    HWND hOver = nullptr; // whose client area the mouse is over, or was when it went
+    toolkit::DoubleClick doubleClick;
+} s_mouse;
 
 UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
 {
@@ -35,7 +38,7 @@ UINT ButtonMessage(MouseButton button, bool bDown, bool bSecond)
 
 void SetOver(HWND hWnd)
 {
-    const HWND hFormer = std::exchange(s_hOver, hWnd);
+    const HWND hFormer = std::exchange(s_mouse.hOver, hWnd);
     if (hFormer == hWnd || (!hWnd && !IsWindow(hFormer)))
         return;
     SendMessage(hFormer, WM_MOUSELEAVE, 0, 0);
@@ -61,7 +64,8 @@ void SendToWindow(HWND hWnd, const InputEvent& event)
 {
     if (event.kind == InputKind::MouseMove)
         return SendMouse(hWnd, WM_MOUSEMOVE);
-    const bool bSecond = event.down && s_doubleClick.IsSecond(hWnd, event.button, toolkit::CursorPos(), event.time);
+    const bool bSecond =
+        event.down && s_mouse.doubleClick.IsSecond(hWnd, event.button, toolkit::CursorPos(), event.time);
     SendMouse(hWnd, ButtonMessage(event.button, event.down, bSecond));
 }
 
@@ -87,7 +91,7 @@ void LeaveTop(HWND hTop)
     if (GetCapture())
         return;
     toolkit::HoverScrollBars(nullptr, {});
-    if (s_hOver == hTop || IsChild(hTop, s_hOver))
+    if (s_mouse.hOver == hTop || IsChild(hTop, s_mouse.hOver))
         SetOver(nullptr);
 }
 } // namespace
@@ -109,7 +113,7 @@ void toolkit::HandleMouse(const InputEvent& event)
     HoverScrollBars(target.bClient ? nullptr : target.hWnd, CursorPos());
     SetOver(target.bClient ? target.hWnd : nullptr);
     if (event.kind == InputKind::MouseMove && !hCapture)
-        SendMessage(s_hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_hOver), 0);
+        SendMessage(s_mouse.hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_mouse.hOver), 0);
     if (target.bClient)
         SendToWindow(target.hWnd, event);
     else if (target.hWnd)
@@ -119,11 +123,11 @@ void toolkit::HandleMouse(const InputEvent& event)
 void toolkit::ResetMouse()
 {
     SetCursorPos({});
-    s_hOver = nullptr;
+    s_mouse.hOver = nullptr;
     ForgetLastPress();
 }
 
 void toolkit::ForgetLastPress()
 {
-    s_doubleClick.Forget();
+    s_mouse.doubleClick.Forget();
 }

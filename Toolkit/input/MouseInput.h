@@ -1,7 +1,7 @@
 // The mouse on its way to a window.
 #pragma once
 
-#include "Toolkit/message/InputQueue.h"
+#include "Toolkit/message/Input.h"
 
 namespace toolkit
 {

@@ -22,22 +22,25 @@ struct Menu
     std::vector<Item> items;
 };
 
-toolkit::HandleTable<HMENU, Menu> s_menus;
-bool s_bTracking = false;
+struct
+{
+    toolkit::HandleTable<HMENU, Menu> all;
+    bool bTracking = false;
+} s_menus;
 
 // Gives the flag back whatever happens.
 class Tracking
 {
 public:
-    Tracking() { s_bTracking = true; }
-    ~Tracking() { s_bTracking = false; }
+    Tracking() { s_menus.bTracking = true; }
+    ~Tracking() { s_menus.bTracking = false; }
     Tracking(const Tracking&) = delete;
     Tracking& operator=(const Tracking&) = delete;
 };
 
 void Destroy(HMENU hMenu)
 {
-    const std::unique_ptr<Menu> menu = s_menus.Remove(hMenu);
+    const std::unique_ptr<Menu> menu = s_menus.all.Remove(hMenu);
     if (!menu)
         return;
     for (const Item& item : menu->items)
@@ -48,7 +51,7 @@ void Destroy(HMENU hMenu)
 std::vector<toolkit::MenuItem> Snapshot(HMENU hMenu)
 {
     std::vector<toolkit::MenuItem> items;
-    const Menu* pMenu = s_menus.Find(hMenu);
+    const Menu* pMenu = s_menus.all.Find(hMenu);
     for (const Item& item : pMenu ? pMenu->items : std::vector<Item>()) {
         items.push_back(item.look);
         items.back().items = Snapshot(item.hSub);
@@ -81,7 +84,7 @@ CMenu::~CMenu()
 BOOL CMenu::CreatePopupMenu()
 {
     if (!m_hMenu)
-        m_hMenu = s_menus.Add(std::make_unique<Menu>());
+        m_hMenu = s_menus.all.Add(std::make_unique<Menu>());
     else
         return FALSE;
     return m_hMenu != nullptr;
@@ -90,7 +93,7 @@ BOOL CMenu::CreatePopupMenu()
 BOOL CMenu::DestroyMenu()
 {
     const HMENU hMenu = Detach();
-    const bool bThere = s_menus.Find(hMenu) != nullptr;
+    const bool bThere = s_menus.all.Find(hMenu) != nullptr;
     Destroy(hMenu);
     return bThere;
 }
@@ -102,9 +105,9 @@ HMENU CMenu::Detach()
 
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
 {
-    Menu* pMenu = s_menus.Find(m_hMenu);
+    Menu* pMenu = s_menus.all.Find(m_hMenu);
     Item item = MakeItem(nFlags, nIDNewItem, pszNewItem);
-    if (!pMenu || (item.look.popup && !s_menus.Find(item.hSub)) || (item.hSub && item.hSub == m_hMenu))
+    if (!pMenu || (item.look.popup && !s_menus.all.Find(item.hSub)) || (item.hSub && item.hSub == m_hMenu))
         return FALSE;
     pMenu->items.push_back(std::move(item));
     return TRUE;
@@ -113,7 +116,7 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT*)
 {
     const HWND hOwner = pWnd ? pWnd->GetSafeHwnd() : nullptr;
-    if (s_bTracking || !IsWindow(hOwner) || !s_menus.Find(m_hMenu))
+    if (s_menus.bTracking || !IsWindow(hOwner) || !s_menus.all.Find(m_hMenu))
         return FALSE;
     const Tracking tracking;
     ReleaseCapture();
@@ -128,5 +131,5 @@ BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT*)
 
 int toolkit::CountMenus()
 {
-    return s_menus.GetCount();
+    return s_menus.all.GetCount();
 }

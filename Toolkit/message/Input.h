@@ -8,6 +8,7 @@
 
 #include "Toolkit/message/Messages.h"
 
+#include <optional>
 #include <string_view>
 
 namespace toolkit
@@ -36,5 +37,40 @@ TOOLKIT_API void InputActivate(HWND hTop, bool active); // leaving and coming ba
 TOOLKIT_API void InputResize(HWND hTop, CSize client);
 TOOLKIT_API void InputMoved(HWND hTop, CPoint screen); // where the top-level window's client area now is
 TOOLKIT_API void InputClose(HWND hTop);                // WM_CLOSE
+
+// The toolkit's own: what waits.
+enum class InputKind
+{
+    MouseMove,
+    MouseButton,
+    MouseWheel,
+    MouseLeave,
+    Key,
+    Character,
+    Activate,
+    Resize,
+    Moved,
+    Close
+};
+
+struct InputEvent
+{
+    InputKind kind;
+    HWND hTop = nullptr;
+    CPoint at{}; // surface; for Resize the size, for Moved the screen point
+    Modifiers modifiers{};
+    MouseButton button = MouseButton::Left;
+    bool down = false; // for Activate: active
+    int delta = 0;
+    UINT value = 0; // key or character
+    DWORD time = 0; // the desktop's ticks
+};
+
+// Of several movements in a row only the last one counts. A desktop has nobody to tell that there is no memory: then
+// the event is dropped.
+void PutInput(InputEvent event);
+bool HasInput();
+std::optional<InputEvent> TakeInput();
+void DropInput();
 
 } // namespace toolkit

@@ -3,7 +3,7 @@
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/handle/WindowQueries.h"
 #include "Toolkit/message/Fifo.h"
-#include "Toolkit/message/InputQueue.h"
+#include "Toolkit/message/Input.h"
 #include "Toolkit/message/TaskInbox.h"
 #include "Toolkit/message/Timers.h"
 
@@ -15,32 +15,34 @@ namespace
 using toolkit::Posted;
 using toolkit::Task;
 
-toolkit::Fifo<toolkit::Posted> s_posted;
-bool s_bPaintRequested = false;
-
-// What the desktop was asked for and has not done yet: to run the queue now, or at that tick.
-bool s_bWakeNow = false;
-std::optional<DWORD> s_wakeAt;
+struct
+{
+    toolkit::Fifo<Posted> posted;
+    bool bPaintRequested = false;
+    // What the desktop was asked for and has not done yet: to run the queue now, or at that tick.
+    bool bWakeNow = false;
+    std::optional<DWORD> wakeAt;
+} s_queue;
 
 void TakeTasksIn()
 {
     if (toolkit::HasTasks())
         toolkit::TakeTasks([](Task& task) {
-            s_posted.MakeRoom();
-            s_posted.Put({{}, std::move(task)});
+            s_queue.posted.MakeRoom();
+            s_queue.posted.Put({{}, std::move(task)});
         });
 }
 
 bool HasWork()
 {
-    return !s_posted.IsEmpty() || toolkit::HasTasks() || toolkit::HasInput() || s_bPaintRequested;
+    return !s_queue.posted.IsEmpty() || toolkit::HasTasks() || toolkit::HasInput() || s_queue.bPaintRequested;
 }
 
 void AskForWakeAt(std::optional<DWORD> tick)
 {
-    if (!std::exchange(s_bWakeNow, false) && s_wakeAt == tick)
+    if (!std::exchange(s_queue.bWakeNow, false) && s_queue.wakeAt == tick)
         return;
-    s_wakeAt = tick;
+    s_queue.wakeAt = tick;
     toolkit::Desktop& desktop = toolkit::CurrentDesktop();
     if (!tick)
         return desktop.Wake(std::nullopt);
@@ -56,10 +58,10 @@ bool IsDropped(const Posted& posted)
 
 void toolkit::RequestRun()
 {
-    if (s_bWakeNow)
+    if (s_queue.bWakeNow)
         return;
-    s_bWakeNow = true;
-    s_wakeAt.reset();
+    s_queue.bWakeNow = true;
+    s_queue.wakeAt.reset();
     CurrentDesktop().Wake(0);
 }
 
@@ -73,32 +75,32 @@ void toolkit::UpdateWake()
 
 void toolkit::BeginRun()
 {
-    s_bWakeNow = false;
-    if (s_wakeAt && static_cast<std::int32_t>(CurrentDesktop().Ticks() - *s_wakeAt) >= 0)
-        s_wakeAt.reset();
+    s_queue.bWakeNow = false;
+    if (s_queue.wakeAt && static_cast<std::int32_t>(CurrentDesktop().Ticks() - *s_queue.wakeAt) >= 0)
+        s_queue.wakeAt.reset();
 }
 
 void toolkit::RequestPaint()
 {
-    s_bPaintRequested = true;
+    s_queue.bPaintRequested = true;
     RequestRun();
 }
 
 bool toolkit::IsPaintRequested()
 {
-    return s_bPaintRequested;
+    return s_queue.bPaintRequested;
 }
 
 void toolkit::EndPaintRequest()
 {
-    s_bPaintRequested = false;
+    s_queue.bPaintRequested = false;
 }
 
 std::optional<toolkit::Posted> toolkit::TakePosted()
 {
     TakeTasksIn();
-    while (!s_posted.IsEmpty())
-        if (Posted posted = s_posted.Take(); !IsDropped(posted))
+    while (!s_queue.posted.IsEmpty())
+        if (Posted posted = s_queue.posted.Take(); !IsDropped(posted))
             return posted;
     return std::nullopt;
 }
@@ -106,16 +108,16 @@ std::optional<toolkit::Posted> toolkit::TakePosted()
 int toolkit::CountPosted()
 {
     TakeTasksIn();
-    return static_cast<int>(
-        std::count_if(s_posted.begin(), s_posted.end(), [](const Posted& posted) { return !IsDropped(posted); }));
+    return static_cast<int>(std::count_if(s_queue.posted.begin(), s_queue.posted.end(),
+                                          [](const Posted& posted) { return !IsDropped(posted); }));
 }
 
 void toolkit::DropTasks()
 {
     TakeTasksIn();
-    s_posted.RemoveIf([](const Posted& posted) { return posted.task != nullptr; });
-    s_bWakeNow = false;
-    s_wakeAt.reset();
+    s_queue.posted.RemoveIf([](const Posted& posted) { return posted.task != nullptr; });
+    s_queue.bWakeNow = false;
+    s_queue.wakeAt.reset();
 }
 
 BOOL PostMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
@@ -123,7 +125,7 @@ BOOL PostMessage(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
     if (!IsWindow(hWnd))
         return FALSE;
     TakeTasksIn(); // a task that was posted before this message runs before it
-    s_posted.Put({{hWnd, message, wParam, lParam}, nullptr});
+    s_queue.posted.Put({{hWnd, message, wParam, lParam}, nullptr});
     toolkit::RequestRun();
     return TRUE;
 }

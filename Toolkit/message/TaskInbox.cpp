@@ -11,31 +11,33 @@
 
 namespace
 {
-std::mutex s_mutex; // of all that follows
-std::vector<toolkit::Task> s_tasks;
-toolkit::Desktop* s_pDesktop = nullptr;
-std::thread::id s_uiThread;
-
-std::atomic<bool> s_bHasTasks{false}; // looked at before every message, without the lock
+struct
+{
+    std::atomic<bool> bHasTasks{false}; // looked at before every message, without the lock
+    std::mutex mutex;                   // of all that follows
+    std::vector<toolkit::Task> tasks;
+    toolkit::Desktop* pDesktop = nullptr;
+    std::thread::id uiThread;
+} s_inbox;
 } // namespace
 
 void toolkit::AcceptTasks(Desktop* pDesktop)
 {
-    const std::lock_guard lock(s_mutex);
-    s_pDesktop = pDesktop;
-    s_uiThread = std::this_thread::get_id();
+    const std::lock_guard lock(s_inbox.mutex);
+    s_inbox.pDesktop = pDesktop;
+    s_inbox.uiThread = std::this_thread::get_id();
 }
 
 void toolkit::PostTask(Task task)
 {
     {
-        const std::lock_guard lock(s_mutex);
-        if (!s_pDesktop || !task)
+        const std::lock_guard lock(s_inbox.mutex);
+        if (!s_inbox.pDesktop || !task)
             return;
-        s_tasks.push_back(std::move(task));
-        s_bHasTasks = true;
-        if (std::this_thread::get_id() != s_uiThread) {
-            s_pDesktop->WakeFromThread(); // under the lock, so that the desktop is still there
+        s_inbox.tasks.push_back(std::move(task));
+        s_inbox.bHasTasks = true;
+        if (std::this_thread::get_id() != s_inbox.uiThread) {
+            s_inbox.pDesktop->WakeFromThread(); // under the lock, so that the desktop is still there
             return;
         }
     }
@@ -44,20 +46,20 @@ void toolkit::PostTask(Task task)
 
 bool toolkit::HasTasks()
 {
-    return s_bHasTasks.load(std::memory_order_acquire);
+    return s_inbox.bHasTasks.load(std::memory_order_acquire);
 }
 
 void toolkit::TakeTasks(const std::function<void(Task&)>& take)
 {
-    const std::lock_guard lock(s_mutex);
-    auto it = s_tasks.begin();
+    const std::lock_guard lock(s_inbox.mutex);
+    auto it = s_inbox.tasks.begin();
     try {
-        for (; it != s_tasks.end(); ++it)
+        for (; it != s_inbox.tasks.end(); ++it)
             take(*it);
     } catch (...) {
-        s_tasks.erase(s_tasks.begin(), it);
+        s_inbox.tasks.erase(s_inbox.tasks.begin(), it);
         throw;
     }
-    s_tasks.clear();
-    s_bHasTasks = false;
+    s_inbox.tasks.clear();
+    s_inbox.bHasTasks = false;
 }

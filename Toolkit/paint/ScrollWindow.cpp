@@ -3,7 +3,6 @@
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/paint/Presenting.h"
-#include "Toolkit/paint/UpdateLock.h"
 #include "Toolkit/paint/UpdateRegion.h"
 
 #include <algorithm>

@@ -10,6 +10,12 @@ namespace
 using toolkit::FindRecord;
 using toolkit::WindowRecord;
 
+struct
+{
+    HWND hWnd = nullptr;
+    bool bDrawn = false; // somebody would have drawn on it
+} s_locked;
+
 // The window and all its children; it is shown, and `area` is relative to its own top left corner.
 void NoteTree(WindowRecord& window, const CRect& area)
 {
@@ -94,4 +100,37 @@ BOOL GetUpdateRect(HWND hWnd, RECT* pRect)
     if (pRect)
         *pRect = bounds;
     return !bounds.IsRectEmpty();
+}
+
+bool toolkit::IsUpdateLocked(const WindowRecord& window)
+{
+    const WindowRecord* pLocked = s_locked.hWnd ? FindRecord(s_locked.hWnd) : nullptr;
+    return pLocked && IsSelfOrChild(*pLocked, &window);
+}
+
+void toolkit::NoteDrawnWhileLocked()
+{
+    s_locked.bDrawn = true;
+}
+
+void toolkit::ForgetUpdateLock(HWND hWnd)
+{
+    if (s_locked.hWnd == hWnd)
+        s_locked.hWnd = nullptr;
+}
+
+BOOL LockWindowUpdate(HWND hWnd)
+{
+    if (hWnd) {
+        if (s_locked.hWnd || !FindRecord(hWnd))
+            return FALSE;
+        s_locked.hWnd = hWnd;
+        s_locked.bDrawn = false;
+        return TRUE;
+    }
+    WindowRecord* pFormer = FindRecord(std::exchange(s_locked.hWnd, nullptr));
+    if (pFormer && s_locked.bDrawn)
+        toolkit::InvalidateWhole(*pFormer); // where it was drawn is not known, so all of it
+    toolkit::RequestPaint();                // what was held back is due now
+    return TRUE;
 }

@@ -4,7 +4,7 @@
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/paint/Presenting.h"
-#include "Toolkit/paint/UpdateLock.h"
+#include "Toolkit/paint/UpdateRegion.h"
 
 #include <algorithm>
 #include <vector>

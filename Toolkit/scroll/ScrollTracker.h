@@ -2,7 +2,7 @@
 // Points are on the screen.
 #pragma once
 
-#include "Toolkit/message/InputQueue.h"
+#include "Toolkit/message/Input.h"
 #include "Toolkit/scroll/ScrollBar.h"
 
 namespace toolkit

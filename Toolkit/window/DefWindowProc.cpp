@@ -4,8 +4,8 @@
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/scroll/Frame.h"
-#include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/WindowApi.h"
+#include "Toolkit/window/WindowSettings.h"
 #include "Toolkit/window/WndAccess.h"
 
 #include <algorithm>

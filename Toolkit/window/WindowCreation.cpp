@@ -1,13 +1,13 @@
 #include "Toolkit/window/WindowCreation.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/handle/WindowQueries.h"
 #include "Toolkit/message/Dispatch.h"
-#include "Toolkit/window/DesktopNews.h"
 #include "Toolkit/window/NativeWindow.h"
-#include "Toolkit/window/Visibility.h"
 #include "Toolkit/window/WindowDestruction.h"
+#include "Toolkit/window/WindowSettings.h"
 #include "Toolkit/window/WndAccess.h"
 
 namespace
@@ -73,8 +73,10 @@ HWND toolkit::MakeWindow(const CREATESTRUCT& cs, CWnd* pOwner)
         return nullptr;
 
     WindowRecord* pWindow = FindRecord(hWnd);
-    if (pWindow && pWindow->IsTop())
-        TellDesktopOfCreation(*pWindow);
+    if (pWindow && pWindow->IsTop()) {
+        pWindow->bKnownToDesktop = true;
+        CurrentDesktop().WindowCreated(hWnd);
+    }
     SendSize(hWnd);
     SendMessage(hWnd, WM_MOVE, 0, MAKELPARAM(cs.x, cs.y));
     if (cs.style & WS_VISIBLE)

@@ -1,14 +1,15 @@
 // Any handler called on the way may destroy windows, so every step looks its window up again.
 #include "Toolkit/window/WindowDestruction.h"
 
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/Focus.h"
 #include "Toolkit/handle/DropSite.h"
+#include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Timers.h"
 #include "Toolkit/paint/Painting.h"
-#include "Toolkit/window/DesktopNews.h"
-#include "Toolkit/window/Visibility.h"
+#include "Toolkit/window/WindowSettings.h"
 #include "Toolkit/window/WndAccess.h"
 
 #include <algorithm>
@@ -66,8 +67,8 @@ CWnd* Forget(WindowRecord& window)
     if (window.pDropSite)
         window.pDropSite->WindowGone();
     toolkit::ForgetPainting(window);
-    if (window.IsTop())
-        toolkit::TellDesktopOfDestruction(window);
+    if (std::exchange(window.bKnownToDesktop, false))
+        toolkit::CurrentDesktop().WindowDestroyed(hWnd);
     CWnd* const pWnd = static_cast<CWnd*>(std::exchange(window.pWnd, nullptr));
     toolkit::RemoveRecord(hWnd);
     return pWnd;

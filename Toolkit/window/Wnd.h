@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Toolkit/handle/WindowObject.h"
-#include "Toolkit/paint/BeginPaint.h"
+#include "Toolkit/paint/Painting.h"
 #include "Toolkit/window/MessageMap.h"
 #include "Toolkit/window/WindowApi.h"
 
