@@ -85,6 +85,18 @@ toolkit::CodePoint toolkit::DecodeUtf8(std::string_view text)
     return IsScalar(c, bytes) ? CodePoint{c, bytes} : invalid;
 }
 
+std::string toolkit::EncodeUtf8(char32_t c)
+{
+    const auto trail = [c](int shift) { return static_cast<char>(0x80 | (c >> shift & 0x3F)); };
+    if (c < 0x80)
+        return {static_cast<char>(c)};
+    if (c < 0x800)
+        return {static_cast<char>(0xC0 | c >> 6), trail(0)};
+    if (c < 0x10000)
+        return {static_cast<char>(0xE0 | c >> 12), trail(6), trail(0)};
+    return {static_cast<char>(0xF0 | c >> 18), trail(12), trail(6), trail(0)};
+}
+
 char32_t toolkit::FoldCase(char32_t c)
 {
     if (c < 0x80)

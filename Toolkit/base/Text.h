@@ -3,6 +3,7 @@
 
 #include "Toolkit/base/Types.h"
 
+#include <string>
 #include <string_view>
 
 // Compares two zero-terminated texts by their code points after case folding: negative, 0 or positive.
@@ -20,6 +21,7 @@ struct CodePoint
     int bytes;
 };
 TOOLKIT_API CodePoint DecodeUtf8(std::string_view text);
+TOOLKIT_API std::string EncodeUtf8(char32_t c);
 
 // The code point's simple case folding; itself when it has none.
 TOOLKIT_API char32_t FoldCase(char32_t c);

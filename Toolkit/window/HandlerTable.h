@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Toolkit/window/DefWindowProc.h"
+#include "Toolkit/window/MessageParam.h"
 
 #include <initializer_list>
-#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -55,36 +55,27 @@ private:
         template <class T>
         operator T() const
         {
-            if constexpr (std::is_pointer_v<T>)
-                return reinterpret_cast<T>(value);
-            else
-                return T(value);
+            return FromMessage<T>(value);
         }
     };
-
-    template <auto handler, class Object, class... Params>
-    static LRESULT Invoke(Object& object, Params... params)
-    {
-        using Answer = decltype((object.*handler)(params...));
-        if constexpr (std::is_void_v<Answer>)
-            return (object.*handler)(params...), 0;
-        else if constexpr (std::is_pointer_v<Answer>)
-            return reinterpret_cast<LRESULT>((object.*handler)(params...));
-        else
-            return static_cast<LRESULT>((object.*handler)(params...));
-    }
 
     template <auto handler, class Object>
     static LRESULT Handle(Object& object, WPARAM wParam, LPARAM lParam)
     {
         const Param<WPARAM> first{wParam};
         const Param<LPARAM> second{lParam};
-        if constexpr (requires { (object.*handler)(first, second); })
-            return Invoke<handler>(object, first, second);
-        else if constexpr (requires { (object.*handler)(first); })
-            return Invoke<handler>(object, first);
+        const auto call = [&] {
+            if constexpr (requires { (object.*handler)(first, second); })
+                return (object.*handler)(first, second);
+            else if constexpr (requires { (object.*handler)(first); })
+                return (object.*handler)(first);
+            else
+                return (object.*handler)();
+        };
+        if constexpr (std::is_void_v<decltype(call())>)
+            return call(), 0;
         else
-            return Invoke<handler>(object);
+            return FromMessage<LRESULT>(call());
     }
 
     // The message's slot, or the empty one where it would be.

@@ -7,6 +7,7 @@
 #include "Toolkit/handle/WindowObject.h"
 #include "Toolkit/paint/Painting.h"
 #include "Toolkit/window/MessageMap.h"
+#include "Toolkit/window/MessageParam.h"
 #include "Toolkit/window/WindowApi.h"
 
 class TOOLKIT_API CWnd : public toolkit::WindowObject
@@ -52,6 +53,12 @@ public:
     UINT_PTR SetTimer(UINT_PTR nID, UINT nElapse) { return ::SetTimer(m_hWnd, nID, nElapse); }
     BOOL KillTimer(UINT_PTR nID) { return ::KillTimer(m_hWnd, nID); }
     LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    template <class Answer, class First = WPARAM, class Second = LPARAM>
+    Answer Ask(UINT message, First first = {}, Second second = {}) const
+    {
+        return toolkit::FromMessage<Answer>(
+            SendMessage(message, toolkit::FromMessage<WPARAM>(first), toolkit::FromMessage<LPARAM>(second)));
+    }
     BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
 
     // May change what CreateEx was called with; FALSE refuses.

@@ -12,21 +12,26 @@ public:
     BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParent, UINT nID);
     BOOL PreCreateWindow(CREATESTRUCT& cs) override; // names the control's class
 
-    int GetItemCount() const { return static_cast<int>(SendMessage(LVM_GETITEMCOUNT)); }
-    BOOL SetItemCount(int nItems) { return SendMessage(LVM_SETITEMCOUNT, static_cast<WPARAM>(nItems)) != 0; }
-    int GetNextItem(int nItem, UINT nFlags) const;
-    int GetSelectedCount() const { return static_cast<int>(SendMessage(LVM_GETSELECTEDCOUNT)); }
-    UINT GetItemState(int nItem, UINT nMask) const;
+    int GetItemCount() const { return Ask<int>(LVM_GETITEMCOUNT); }
+    BOOL SetItemCount(int nItems) { return Ask<BOOL>(LVM_SETITEMCOUNT, nItems); }
+    int GetNextItem(int nItem, UINT nFlags) const { return m_hWnd ? Ask<int>(LVM_GETNEXTITEM, nItem, nFlags) : -1; }
+    int GetSelectedCount() const { return Ask<int>(LVM_GETSELECTEDCOUNT); }
+    UINT GetItemState(int nItem, UINT nMask) const { return Ask<UINT>(LVM_GETITEMSTATE, nItem, nMask); }
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);     // row -1: all rows
     BOOL GetItemRect(int nItem, RECT* pRect, int nArea) const; // client; FALSE without that row
     int HitTest(CPoint pt, UINT* pFlags = nullptr) const;      // client; the row, -1 on none
-    BOOL EnsureVisible(int nItem, BOOL bPartialOK);
-    BOOL Arrange(UINT nCode) { return SendMessage(LVM_ARRANGE, nCode) != 0; }
-    BOOL Update(int nItem) { return SendMessage(LVM_UPDATE, static_cast<WPARAM>(nItem)) != 0; }
-    int GetTopIndex() const { return static_cast<int>(SendMessage(LVM_GETTOPINDEX)); }
-    HWND EditLabel(int nItem); // the edit field; NULL when the editing was refused
-    HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(LVM_GETEDITCONTROL)); }
+    BOOL EnsureVisible(int nItem, BOOL bPartialOK) { return Ask<BOOL>(LVM_ENSUREVISIBLE, nItem, bPartialOK); }
+    BOOL Arrange(UINT nCode) { return Ask<BOOL>(LVM_ARRANGE, nCode); }
+    BOOL Update(int nItem) { return Ask<BOOL>(LVM_UPDATE, nItem); }
+    int GetTopIndex() const { return Ask<int>(LVM_GETTOPINDEX); }
+    // The edit field; NULL when the editing was refused.
+    HWND EditLabel(int nItem) { return Ask<HWND>(LVM_EDITLABEL, nItem); }
+    HWND GetEditControl() const { return Ask<HWND>(LVM_GETEDITCONTROL); }
     // Tells where the row being edited is now, -1: gone; see LVM_MOVEEDITLABEL.
-    void MoveEditLabel(int nItem) { SendMessage(LVM_MOVEEDITLABEL, static_cast<WPARAM>(nItem)); }
-    HIMAGELIST SetImageList(CImageList* pImageList, int nImageList); // borrowed; the former one
+    void MoveEditLabel(int nItem) { Ask<BOOL>(LVM_MOVEEDITLABEL, nItem); }
+    // Borrowed; the former one.
+    HIMAGELIST SetImageList(CImageList* pImageList, int nImageList)
+    {
+        return Ask<HIMAGELIST>(LVM_SETIMAGELIST, nImageList, pImageList ? pImageList->GetSafeHandle() : nullptr);
+    }
 };

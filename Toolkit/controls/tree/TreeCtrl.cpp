@@ -6,16 +6,6 @@
 namespace
 {
 
-WPARAM ToWParam(HTREEITEM hItem)
-{
-    return reinterpret_cast<WPARAM>(hItem);
-}
-
-LPARAM ToLParam(const void* pointer)
-{
-    return reinterpret_cast<LPARAM>(pointer);
-}
-
 TVITEM ItemWith(UINT mask, HTREEITEM hItem)
 {
     TVITEM item{};
@@ -35,11 +25,6 @@ BOOL CTreeCtrl::PreCreateWindow(CREATESTRUCT& cs)
 {
     cs.lpszClass = WC_TREEVIEW;
     return CWnd::PreCreateWindow(cs);
-}
-
-HTREEITEM CTreeCtrl::GetNextItem(HTREEITEM hItem, UINT nCode) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_GETNEXTITEM, nCode, ToLParam(hItem)));
 }
 
 BOOL CTreeCtrl::ItemHasChildren(HTREEITEM hItem) const
@@ -62,11 +47,6 @@ BOOL CTreeCtrl::SetItemText(HTREEITEM hItem, LPCSTR pszText)
     TVITEM item = ItemWith(TVIF_TEXT, hItem);
     item.pszText = const_cast<LPSTR>(pszText);
     return SetItem(&item);
-}
-
-UINT CTreeCtrl::GetItemState(HTREEITEM hItem, UINT nMask) const
-{
-    return static_cast<UINT>(SendMessage(TVM_GETITEMSTATE, ToWParam(hItem), static_cast<LPARAM>(nMask)));
 }
 
 BOOL CTreeCtrl::SetItemState(HTREEITEM hItem, UINT nState, UINT nMask)
@@ -93,7 +73,7 @@ BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, LPARAM lParam)
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const
 {
     std::memcpy(static_cast<void*>(pRect), &hItem, sizeof(hItem));
-    return SendMessage(TVM_GETITEMRECT, static_cast<WPARAM>(bTextOnly), ToLParam(pRect)) != 0;
+    return Ask<BOOL>(TVM_GETITEMRECT, bTextOnly, pRect);
 }
 
 HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
@@ -105,21 +85,6 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
     return hItem;
 }
 
-HTREEITEM CTreeCtrl::HitTest(TVHITTESTINFO* pInfo) const
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_HITTEST, 0, ToLParam(pInfo)));
-}
-
-BOOL CTreeCtrl::EnsureVisible(HTREEITEM hItem)
-{
-    return SendMessage(TVM_ENSUREVISIBLE, 0, ToLParam(hItem)) != 0;
-}
-
-HTREEITEM CTreeCtrl::InsertItem(TVINSERTSTRUCT* pInsert)
-{
-    return reinterpret_cast<HTREEITEM>(SendMessage(TVM_INSERTITEM, 0, ToLParam(pInsert)));
-}
-
 HTREEITEM CTreeCtrl::InsertItem(LPCSTR pszText, HTREEITEM hParent, HTREEITEM hInsertAfter)
 {
     TVINSERTSTRUCT insert{hParent, hInsertAfter, ItemWith(TVIF_TEXT, nullptr)};
@@ -127,44 +92,8 @@ HTREEITEM CTreeCtrl::InsertItem(LPCSTR pszText, HTREEITEM hParent, HTREEITEM hIn
     return InsertItem(&insert);
 }
 
-BOOL CTreeCtrl::Expand(HTREEITEM hItem, UINT nCode)
-{
-    return SendMessage(TVM_EXPAND, nCode, ToLParam(hItem)) != 0;
-}
-
-BOOL CTreeCtrl::Select(HTREEITEM hItem, UINT nCode)
-{
-    return SendMessage(TVM_SELECTITEM, nCode, ToLParam(hItem)) != 0;
-}
-
-BOOL CTreeCtrl::SortChildren(HTREEITEM hParent)
-{
-    return SendMessage(TVM_SORTCHILDREN, 0, ToLParam(hParent)) != 0;
-}
-
-BOOL CTreeCtrl::SortChildrenCB(TVSORTCB* pSort)
-{
-    return SendMessage(TVM_SORTCHILDRENCB, 0, ToLParam(pSort)) != 0;
-}
-
 BOOL CTreeCtrl::ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel)
 {
     const TVARRANGECHILDREN arrange{hParent, children.data(), static_cast<int>(children.size()), bByLabel};
-    return SendMessage(TVM_ARRANGECHILDREN, 0, ToLParam(&arrange)) != 0;
-}
-
-HWND CTreeCtrl::EditLabel(HTREEITEM hItem)
-{
-    return reinterpret_cast<HWND>(SendMessage(TVM_EDITLABEL, 0, ToLParam(hItem)));
-}
-
-HIMAGELIST CTreeCtrl::GetImageList(UINT nImageList) const
-{
-    return reinterpret_cast<HIMAGELIST>(SendMessage(TVM_GETIMAGELIST, nImageList));
-}
-
-HIMAGELIST CTreeCtrl::SetImageList(CImageList* pImageList, UINT nImageList)
-{
-    const HIMAGELIST hImages = pImageList ? pImageList->GetSafeHandle() : nullptr;
-    return reinterpret_cast<HIMAGELIST>(SendMessage(TVM_SETIMAGELIST, nImageList, ToLParam(hImages)));
+    return Ask<BOOL>(TVM_ARRANGECHILDREN, 0, &arrange);
 }

@@ -14,9 +14,10 @@ public:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override; // names the control's class
 
     // Walks. NULL when there is no such item.
-    UINT GetCount() const { return static_cast<UINT>(SendMessage(TVM_GETCOUNT)); }
-    UINT GetVisibleCount() const { return static_cast<UINT>(SendMessage(TVM_GETVISIBLECOUNT)); }
-    HTREEITEM GetNextItem(HTREEITEM hItem, UINT nCode) const; // TVGN_*
+    UINT GetCount() const { return Ask<UINT>(TVM_GETCOUNT); }
+    UINT GetVisibleCount() const { return Ask<UINT>(TVM_GETVISIBLECOUNT); }
+    // TVGN_*.
+    HTREEITEM GetNextItem(HTREEITEM hItem, UINT nCode) const { return Ask<HTREEITEM>(TVM_GETNEXTITEM, nCode, hItem); }
     HTREEITEM GetRootItem() const { return GetNextItem(nullptr, TVGN_ROOT); }
     HTREEITEM GetChildItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_CHILD); }
     HTREEITEM GetNextSiblingItem(HTREEITEM hItem) const { return GetNextItem(hItem, TVGN_NEXT); }
@@ -28,11 +29,11 @@ public:
     BOOL ItemHasChildren(HTREEITEM hItem) const; // asks the owner when that is left to it
 
     // An item's parts.
-    BOOL GetItem(TVITEM* pItem) const { return SendMessage(TVM_GETITEM, 0, reinterpret_cast<LPARAM>(pItem)) != 0; }
-    BOOL SetItem(const TVITEM* pItem) { return SendMessage(TVM_SETITEM, 0, reinterpret_cast<LPARAM>(pItem)) != 0; }
+    BOOL GetItem(TVITEM* pItem) const { return Ask<BOOL>(TVM_GETITEM, 0, pItem); }
+    BOOL SetItem(const TVITEM* pItem) { return Ask<BOOL>(TVM_SETITEM, 0, pItem); }
     CString GetItemText(HTREEITEM hItem) const; // cut after 4,095 bytes
     BOOL SetItemText(HTREEITEM hItem, LPCSTR pszText);
-    UINT GetItemState(HTREEITEM hItem, UINT nMask) const;
+    UINT GetItemState(HTREEITEM hItem, UINT nMask) const { return Ask<UINT>(TVM_GETITEMSTATE, hItem, nMask); }
     BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nMask);
     LPARAM GetItemData(HTREEITEM hItem) const; // 0 for no item
     BOOL SetItemData(HTREEITEM hItem, LPARAM lParam);
@@ -40,24 +41,35 @@ public:
     // Places, in client coordinates.
     BOOL GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const; // FALSE inside a collapsed branch
     HTREEITEM HitTest(CPoint pt, UINT* pFlags = nullptr) const;           // NULL where no item's row is
-    HTREEITEM HitTest(TVHITTESTINFO* pInfo) const;
-    BOOL EnsureVisible(HTREEITEM hItem); // TRUE when it only had to scroll
+    HTREEITEM HitTest(TVHITTESTINFO* pInfo) const { return Ask<HTREEITEM>(TVM_HITTEST, 0, pInfo); }
+    // TRUE when it only had to scroll.
+    BOOL EnsureVisible(HTREEITEM hItem) { return Ask<BOOL>(TVM_ENSUREVISIBLE, 0, hItem); }
 
-    HTREEITEM InsertItem(TVINSERTSTRUCT* pInsert);
+    HTREEITEM InsertItem(TVINSERTSTRUCT* pInsert) { return Ask<HTREEITEM>(TVM_INSERTITEM, 0, pInsert); }
     HTREEITEM InsertItem(LPCSTR pszText, HTREEITEM hParent = TVI_ROOT, HTREEITEM hInsertAfter = TVI_LAST);
-    BOOL DeleteItem(HTREEITEM hItem) { return SendMessage(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(hItem)) != 0; }
+    BOOL DeleteItem(HTREEITEM hItem) { return Ask<BOOL>(TVM_DELETEITEM, 0, hItem); }
     BOOL DeleteAllItems() { return DeleteItem(TVI_ROOT); }
-    BOOL Expand(HTREEITEM hItem, UINT nCode);                              // TVE_*; FALSE when nothing changed
-    BOOL Select(HTREEITEM hItem, UINT nCode);                              // TVGN_CARET or TVGN_FIRSTVISIBLE
-    BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); } // FALSE when refused
+    // TVE_*; FALSE when nothing changed.
+    BOOL Expand(HTREEITEM hItem, UINT nCode) { return Ask<BOOL>(TVM_EXPAND, nCode, hItem); }
+    // TVGN_CARET or TVGN_FIRSTVISIBLE; FALSE when refused.
+    BOOL Select(HTREEITEM hItem, UINT nCode) { return Ask<BOOL>(TVM_SELECTITEM, nCode, hItem); }
+    BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); }
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
-    BOOL SortChildren(HTREEITEM hParent);
-    BOOL SortChildrenCB(TVSORTCB* pSort);
+    BOOL SortChildren(HTREEITEM hParent) { return Ask<BOOL>(TVM_SORTCHILDREN, 0, hParent); }
+    BOOL SortChildrenCB(TVSORTCB* pSort) { return Ask<BOOL>(TVM_SORTCHILDRENCB, 0, pSort); }
     // All of them, in their new order; bByLabel: which is known to be that of their labels.
     BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel = FALSE);
-    HWND EditLabel(HTREEITEM hItem); // the edit field; NULL when the editing was refused
-    HWND GetEditControl() const { return reinterpret_cast<HWND>(SendMessage(TVM_GETEDITCONTROL)); }
+    // The edit field; NULL when the editing was refused.
+    HWND EditLabel(HTREEITEM hItem) { return Ask<HWND>(TVM_EDITLABEL, 0, hItem); }
+    HWND GetEditControl() const { return Ask<HWND>(TVM_GETEDITCONTROL); }
 
-    HIMAGELIST GetImageList(UINT nImageList = TVSIL_NORMAL) const;
-    HIMAGELIST SetImageList(CImageList* pImageList, UINT nImageList); // borrowed; the former one
+    HIMAGELIST GetImageList(UINT nImageList = TVSIL_NORMAL) const
+    {
+        return Ask<HIMAGELIST>(TVM_GETIMAGELIST, nImageList);
+    }
+    // Borrowed; the former one.
+    HIMAGELIST SetImageList(CImageList* pImageList, UINT nImageList)
+    {
+        return Ask<HIMAGELIST>(TVM_SETIMAGELIST, nImageList, pImageList ? pImageList->GetSafeHandle() : nullptr);
+    }
 };

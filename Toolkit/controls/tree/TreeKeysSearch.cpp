@@ -11,18 +11,6 @@ namespace
 
 constexpr DWORD kPatience = 1000; // milliseconds between two letters of one word
 
-std::string Encode(char32_t c)
-{
-    const auto trail = [c](int shift) { return static_cast<char>(0x80 | (c >> shift & 0x3F)); };
-    if (c < 0x80)
-        return {static_cast<char>(c)};
-    if (c < 0x800)
-        return {static_cast<char>(0xC0 | c >> 6), trail(0)};
-    if (c < 0x10000)
-        return {static_cast<char>(0xE0 | c >> 12), trail(6), trail(0)};
-    return {static_cast<char>(0xF0 | c >> 18), trail(12), trail(6), trail(0)};
-}
-
 bool BeginsWith(std::string_view text, std::string_view prefix)
 {
     while (!prefix.empty()) {
@@ -55,9 +43,9 @@ void TreeKeys::OnChar(char32_t c)
         return;
     if (begins)
         m_typed.clear();
-    m_typed += Encode(c);
+    m_typed += EncodeUtf8(c);
     m_typedAt = GetTickCount();
-    SearchFor(Encode(c));
+    SearchFor(EncodeUtf8(c));
 }
 
 // A longer word may be that of the item found so far. The same letter again goes on to the next item.
