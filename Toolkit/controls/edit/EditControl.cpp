@@ -29,10 +29,10 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     using Table = HandlerTable<EditControl>;
     static const Table handlers{
         {WM_CREATE, Table::To<&EditControl::OnCreate>},
-        {WM_SIZE, Table::To<&EditControl::OnSize>},
+        {WM_SIZE, Table::To<&EditControl::m_view, &EditView::OnSize>},
         {WM_STYLECHANGED, Table::To<&EditControl::OnLooksChanged>},
-        {WM_PAINT, Table::To<&EditControl::OnPaint>},
-        {WM_ERASEBKGND, Table::To<&EditControl::OnEraseBackground>},
+        {WM_PAINT, Table::To<&EditControl::m_view, &EditView::OnPaint>},
+        {WM_ERASEBKGND, Table::To<&EditControl::m_view, &EditView::OnEraseBackground>},
         {WM_TIMER, Table::To<&EditControl::OnTimer>},
         {WM_SETFOCUS, Table::To<&EditControl::OnSetFocus>},
         {WM_KILLFOCUS, Table::To<&EditControl::OnKillFocus>},
@@ -41,13 +41,13 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_KEYDOWN, Table::To<&EditControl::OnKeyDown>},
         {WM_SYSKEYDOWN, Table::To<&EditControl::OnSysKeyDown>},
         {WM_CHAR, Table::To<&EditControl::OnChar>},
-        {WM_LBUTTONDOWN, Table::To<&EditControl::OnLButtonDown>},
-        {WM_LBUTTONDBLCLK, Table::To<&EditControl::OnLButtonDblClk>},
-        {WM_LBUTTONUP, Table::To<&EditControl::OnLButtonUp>},
-        {WM_RBUTTONDOWN, Table::To<&EditControl::OnRButtonDown>},
-        {WM_MOUSEMOVE, Table::To<&EditControl::OnMouseMove>},
-        {WM_CAPTURECHANGED, Table::To<&EditControl::OnCaptureChanged>},
-        {WM_SETCURSOR, Table::To<&EditControl::OnSetCursor>},
+        {WM_LBUTTONDOWN, Table::To<&EditControl::m_mouse, &EditMouse::OnLButtonDown>},
+        {WM_LBUTTONDBLCLK, Table::To<&EditControl::m_mouse, &EditMouse::OnLButtonDblClk>},
+        {WM_LBUTTONUP, Table::To<&EditControl::m_mouse, &EditMouse::OnLButtonUp>},
+        {WM_RBUTTONDOWN, Table::To<&EditControl::TakeFocus>},
+        {WM_MOUSEMOVE, Table::To<&EditControl::m_mouse, &EditMouse::OnMouseMove>},
+        {WM_CAPTURECHANGED, Table::To<&EditControl::m_mouse, &EditMouse::OnCaptureChanged>},
+        {WM_SETCURSOR, Table::To<&EditControl::m_mouse, &EditMouse::OnSetCursor>},
         {WM_SETTEXT, Table::To<&EditControl::OnSetText>},
         {WM_GETTEXT, Table::To<&EditControl::OnGetText>},
         {WM_GETTEXTLENGTH, Table::To<&EditControl::OnGetTextLength>},
@@ -67,71 +67,61 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
     return handlers.Call(*this, message, wParam, lParam);
 }
 
-LRESULT EditControl::OnCreate(WPARAM, LPARAM lParam)
+void EditControl::OnCreate(WPARAM, const CREATESTRUCT* pCreate)
 {
-    const auto& cs = *reinterpret_cast<const CREATESTRUCT*>(lParam);
-    m_text.Set(cs.lpszName ? cs.lpszName : "");
-    m_layout.SetAlign(AlignOf(cs.style));
-    return 0;
+    m_text.Set(pCreate->lpszName ? pCreate->lpszName : "");
+    m_view.Layout().SetAlign(AlignOf(pCreate->style));
 }
 
-LRESULT EditControl::OnSize(WPARAM, LPARAM)
+void EditControl::OnLooksChanged()
 {
-    CRect client;
-    GetClientRect(m_hWnd, &client);
-    m_layout.SetClient(client.Size());
-    ShowCaret();
-    return 0;
+    m_view.Layout().SetAlign(AlignOf(GetWindowStyle(m_hWnd)));
+    m_view.Show();
 }
 
-LRESULT EditControl::OnLooksChanged(WPARAM, LPARAM)
+void EditControl::OnSetFocus()
 {
-    m_layout.SetAlign(AlignOf(GetWindowStyle(m_hWnd)));
-    Show();
-    return 0;
+    m_view.Show();
+    Tell(EN_SETFOCUS);
 }
 
-LRESULT EditControl::OnSetFocus(WPARAM, LPARAM)
+void EditControl::OnKillFocus()
 {
-    Show();
-    static_cast<void>(Tell(EN_SETFOCUS));
-    return 0;
-}
-
-LRESULT EditControl::OnKillFocus(WPARAM, LPARAM)
-{
-    const HWND hWnd = m_hWnd;
-    m_composition = {};
-    EndDrag();
-    if (!IsWindow(hWnd))
-        return 0;
-    RestartBlinking();
+    m_view.Compose("", 0);
+    m_mouse.OnLButtonUp();
+    m_view.RestartBlinking();
     RedrawAll();
     CurrentDesktop().TextInputChanged();
-    static_cast<void>(Tell(EN_KILLFOCUS));
+    Tell(EN_KILLFOCUS);
+}
+
+LRESULT EditControl::OnTimer(WPARAM wParam, LPARAM lParam)
+{
+    if (wParam == EditMouse::kScrollTimer)
+        m_mouse.Scroll();
+    else if (wParam == EditView::kBlinkTimer)
+        m_view.Blink();
+    else
+        return ::DefWindowProc(m_hWnd, WM_TIMER, wParam, lParam);
     return 0;
 }
 
 TextInputState EditControl::GetTextInput() const
 {
-    const TextSpan selection = m_text.Selection();
-    const std::size_t anchor = selection.first == m_text.Caret() ? selection.end : selection.first;
-    return {m_hWnd, CaretRect(), m_text.Text(), m_text.Caret(), anchor};
+    return {m_hWnd, m_view.CaretRect(), m_text.Text(), m_text.Caret(), m_text.Anchor()};
 }
 
 void EditControl::Compose(std::string_view text, std::size_t caret)
 {
-    m_composition = {std::string(text), StopAtOrBefore(text, caret)};
-    Show();
+    m_view.Compose(text, caret);
+    m_view.Show();
 }
 
-bool EditControl::Tell(UINT code) const
+void EditControl::Tell(UINT code) const
 {
-    const HWND hWnd = m_hWnd;
-    const LONG what = MAKELONG(static_cast<int>(GetDlgCtrlID(hWnd)), static_cast<int>(code));
-    SendMessage(GetParent(hWnd), WM_COMMAND, static_cast<WPARAM>(static_cast<DWORD>(what)),
-                reinterpret_cast<LPARAM>(hWnd));
-    return IsWindow(hWnd);
+    const LONG what = MAKELONG(static_cast<int>(GetDlgCtrlID(m_hWnd)), static_cast<int>(code));
+    SendMessage(GetParent(m_hWnd), WM_COMMAND, static_cast<WPARAM>(static_cast<DWORD>(what)),
+                reinterpret_cast<LPARAM>(m_hWnd));
 }
 
 } // namespace toolkit

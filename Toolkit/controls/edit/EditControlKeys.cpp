@@ -16,18 +16,6 @@ constexpr UINT Ctrl(char letter)
 
 constexpr UINT kBackspace = 0x08, kCtrlBackspace = 0x7F;
 
-std::string ToUtf8(char32_t c)
-{
-    const auto rest = [c](int shift) { return static_cast<char>(0x80 | ((c >> shift) & 0x3F)); };
-    if (c < 0x80)
-        return {static_cast<char>(c)};
-    if (c < 0x800)
-        return {static_cast<char>(0xC0 | c >> 6), rest(0)};
-    if (c < 0x10000)
-        return {static_cast<char>(0xE0 | c >> 12), rest(6), rest(0)};
-    return {static_cast<char>(0xF0 | c >> 18), rest(12), rest(6), rest(0)};
-}
-
 bool IsCharacter(UINT c)
 {
     return c >= 0x20 && c != kCtrlBackspace && c < 0x110000 && (c < 0xD800 || c > 0xDFFF);
@@ -35,29 +23,25 @@ bool IsCharacter(UINT c)
 
 } // namespace
 
-LRESULT EditControl::OnKeyDown(WPARAM wParam, LPARAM lParam)
+LRESULT EditControl::OnKeyDown(UINT vkey, LPARAM lParam)
 {
-    const auto vkey = static_cast<UINT>(wParam);
     const bool shift = GetKeyState(VK_SHIFT) < 0, control = GetKeyState(VK_CONTROL) < 0;
     if (const std::optional<std::size_t> target = TargetOf(vkey, control, shift))
-        return MoveCaret(*target, shift), 0;
+        return m_view.Select(shift ? m_text.Anchor() : *target, *target), 0;
 
     const std::string& text = m_text.Text();
     const std::size_t caret = m_text.Caret();
-    switch (vkey) {
-    case VK_DELETE:
-        if (shift)
-            return Ask(WM_CUT);
-        static_cast<void>(control ? EraseOr({caret, NextWord(text, caret)}, EditKind::Other)
-                                  : EraseOr({caret, NextStop(text, caret)}, EditKind::Deleting));
-        return 0;
-    case VK_INSERT:
-        if (shift != control)
-            return Ask(shift ? WM_PASTE : WM_COPY);
-        return 0;
-    default:
-        return ::DefWindowProc(m_hWnd, WM_KEYDOWN, wParam, lParam);
-    }
+    if (vkey == VK_DELETE && shift)
+        Ask(WM_CUT);
+    else if (vkey == VK_DELETE && control)
+        EraseOr({caret, NextWord(text, caret)}, EditKind::Other);
+    else if (vkey == VK_DELETE)
+        EraseOr({caret, NextStop(text, caret)}, EditKind::Deleting);
+    else if (vkey == VK_INSERT && shift != control)
+        Ask(shift ? WM_PASTE : WM_COPY);
+    else if (vkey != VK_INSERT)
+        return ::DefWindowProc(m_hWnd, WM_KEYDOWN, vkey, lParam);
+    return 0;
 }
 
 // An arrow without Shift leaves a selection at that end of it.
@@ -90,20 +74,20 @@ std::optional<std::size_t> EditControl::TargetOf(UINT vkey, bool control, bool s
 LRESULT EditControl::OnSysKeyDown(WPARAM wParam, LPARAM lParam)
 {
     if (wParam == VK_BACK && GetKeyState(VK_MENU) < 0)
-        return Ask(WM_UNDO);
+        return SendMessage(m_hWnd, WM_UNDO, 0, 0);
     return ::DefWindowProc(m_hWnd, WM_SYSKEYDOWN, wParam, lParam);
 }
 
-LRESULT EditControl::OnChar(WPARAM wParam, LPARAM)
+void EditControl::OnChar(UINT c)
 {
-    const auto c = static_cast<UINT>(wParam);
-    static_cast<void>(IsCharacter(c) ? Insert(ToUtf8(c), EditKind::Typing) : Command(c));
-    return 0;
+    if (IsCharacter(c))
+        Insert(EncodeUtf8(c), EditKind::Typing);
+    else
+        Command(c);
 }
 
-bool EditControl::Command(UINT character)
+void EditControl::Command(UINT character)
 {
-    const HWND hWnd = m_hWnd;
     const std::size_t caret = m_text.Caret();
     switch (character) {
     case kBackspace:
@@ -111,22 +95,17 @@ bool EditControl::Command(UINT character)
     case kCtrlBackspace:
         return EraseOr({PreviousWord(m_text.Text(), caret), caret}, EditKind::Other);
     case Ctrl('A'):
-        SelectAll();
-        return true;
+        return SelectAll();
     case Ctrl('C'):
-        Ask(WM_COPY);
-        return IsWindow(hWnd);
+        return Ask(WM_COPY);
     case Ctrl('X'):
-        Ask(WM_CUT);
-        return IsWindow(hWnd);
+        return Ask(WM_CUT);
     case Ctrl('V'):
-        Ask(WM_PASTE);
-        return IsWindow(hWnd);
+        return Ask(WM_PASTE);
     case Ctrl('Z'):
-        Ask(WM_UNDO);
-        return IsWindow(hWnd);
+        return Ask(WM_UNDO);
     default:
-        return true;
+        return;
     }
 }
 

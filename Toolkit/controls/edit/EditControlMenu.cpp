@@ -21,24 +21,30 @@ enum MenuCommand : UINT
 
 } // namespace
 
-LRESULT EditControl::OnRButtonDown(WPARAM, LPARAM)
-{
-    TakeFocus();
-    return 0;
-}
-
 // Opened from the keyboard, it appears below the caret.
-LRESULT EditControl::OnContextMenu(WPARAM, LPARAM lParam)
+void EditControl::OnContextMenu(WPARAM, CPoint at)
 {
-    const HWND hWnd = m_hWnd;
-    CPoint at(lParam);
     if (at == CPoint(-1, -1)) {
-        const CRect caret = CaretRect();
-        at = CPoint(std::clamp<int>(caret.left, 0, std::max<int>(m_layout.Client().cx, 0)), caret.bottom);
-        ClientToScreen(hWnd, &at);
+        const CRect caret = m_view.CaretRect();
+        at = CPoint(std::clamp<int>(caret.left, 0, std::max<int>(m_view.Layout().Client().cx, 0)), caret.bottom);
+        ClientToScreen(m_hWnd, &at);
     }
-    const UINT command = AskMenu(at);
-    return IsWindow(hWnd) ? DoMenuCommand(command) : 0;
+    switch (AskMenu(at)) {
+    case kUndo:
+        return Ask(WM_UNDO);
+    case kCut:
+        return Ask(WM_CUT);
+    case kCopy:
+        return Ask(WM_COPY);
+    case kPaste:
+        return Ask(WM_PASTE);
+    case kDelete:
+        return Ask(WM_CLEAR);
+    case kSelectAll:
+        return SelectAll();
+    default:
+        return;
+    }
 }
 
 // Whether there is anything to paste is not asked beforehand: another program may be slow to say.
@@ -58,26 +64,6 @@ UINT EditControl::AskMenu(CPoint screen)
     menu.AppendMenu(MF_SEPARATOR);
     menu.AppendMenu(when(m_text.Selection().Length() < m_text.Text().size()), kSelectAll, "Select &All\tCtrl+A");
     return static_cast<UINT>(menu.TrackPopupMenu(TPM_RETURNCMD, screen.x, screen.y, CWnd::FromHandle(m_hWnd)));
-}
-
-LRESULT EditControl::DoMenuCommand(UINT command)
-{
-    switch (command) {
-    case kUndo:
-        return Ask(WM_UNDO);
-    case kCut:
-        return Ask(WM_CUT);
-    case kCopy:
-        return Ask(WM_COPY);
-    case kPaste:
-        return Ask(WM_PASTE);
-    case kDelete:
-        return Ask(WM_CLEAR);
-    case kSelectAll:
-        return SelectAll(), 0;
-    default:
-        return 0;
-    }
 }
 
 } // namespace toolkit

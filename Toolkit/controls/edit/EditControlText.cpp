@@ -21,171 +21,148 @@ std::string_view FirstLine(std::string_view text)
 
 } // namespace
 
-LRESULT EditControl::OnSetText(WPARAM, LPARAM lParam)
+BOOL EditControl::OnSetText(WPARAM, LPCSTR pszText)
 {
-    const auto* const pszText = reinterpret_cast<LPCSTR>(lParam);
     m_text.Set(pszText ? pszText : "");
     m_history.Forget();
-    m_composition = {};
-    m_layout.ScrollToStart();
-    static_cast<void>(TellChange());
+    m_view.Compose("", 0);
+    m_view.Layout().ScrollToStart();
+    TellChange();
     return TRUE;
 }
 
-LRESULT EditControl::OnGetText(WPARAM wParam, LPARAM lParam)
+std::size_t EditControl::OnGetText(std::size_t nBuffer, LPSTR pszBuffer) const
 {
-    if (wParam == 0 || lParam == 0)
+    if (nBuffer == 0 || !pszBuffer)
         return 0;
-    auto* const pszBuffer = reinterpret_cast<LPSTR>(lParam);
-    const std::size_t length = std::min<std::size_t>(wParam - 1, m_text.Text().size());
+    const std::size_t length = std::min(nBuffer - 1, m_text.Text().size());
     std::memcpy(pszBuffer, m_text.Text().data(), length);
     pszBuffer[length] = '\0';
-    return static_cast<LRESULT>(length);
+    return length;
 }
 
-LRESULT EditControl::OnGetSel(WPARAM wParam, LPARAM lParam)
+LRESULT EditControl::OnGetSel(DWORD* pStart, DWORD* pEnd) const
 {
     const TextSpan selection = m_text.Selection();
-    if (auto* const pStart = reinterpret_cast<DWORD*>(wParam))
+    if (pStart)
         *pStart = static_cast<DWORD>(selection.first);
-    if (auto* const pEnd = reinterpret_cast<DWORD*>(lParam))
+    if (pEnd)
         *pEnd = static_cast<DWORD>(selection.end);
     return selection.end <= 0xFFFF ? MAKELONG(static_cast<int>(selection.first), static_cast<int>(selection.end)) : -1;
 }
 
-// Does not scroll. Positions come as 32-bit numbers, whatever the width of the parameters.
-LRESULT EditControl::OnSetSel(WPARAM wParam, LPARAM lParam)
+// Does not scroll.
+BOOL EditControl::OnSetSel(int start, int end)
 {
-    const auto start = static_cast<std::int32_t>(wParam), end = static_cast<std::int32_t>(lParam);
-    const auto position = [this](std::int32_t at) {
-        return at < 0 ? m_text.Text().size() : static_cast<std::size_t>(at);
-    };
+    const auto position = [this](int at) { return at < 0 ? m_text.Text().size() : static_cast<std::size_t>(at); };
     if (start < 0)
         m_text.SelectNone();
     else
         m_text.Select(position(start), position(end));
-    Show();
+    m_view.Show();
     return TRUE;
 }
 
-LRESULT EditControl::OnScrollCaret(WPARAM, LPARAM)
+BOOL EditControl::OnScrollCaret()
 {
-    ShowCaret();
+    m_view.ShowCaret();
     return TRUE;
 }
 
-LRESULT EditControl::OnReplaceSel(WPARAM wParam, LPARAM lParam)
+void EditControl::OnReplaceSel(BOOL canUndo, LPCSTR pszText)
 {
-    const auto* const pszText = reinterpret_cast<LPCSTR>(lParam);
     const std::string_view text = m_text.FitTo(pszText ? pszText : "", m_limit);
-    if (wParam)
+    if (canUndo)
         m_history.Before(m_text, EditKind::Other);
     else
         m_history.Forget();
     m_text.Replace(text);
     m_history.After(m_text);
-    static_cast<void>(TellChange());
-    return 0;
+    TellChange();
 }
 
-LRESULT EditControl::OnLimitText(WPARAM wParam, LPARAM)
+void EditControl::OnLimitText(std::size_t bytes)
 {
-    m_limit = wParam == 0 ? kNoLimit : wParam;
-    return 0;
+    m_limit = bytes == 0 ? kNoLimit : bytes;
 }
 
-LRESULT EditControl::OnUndo(WPARAM, LPARAM)
+BOOL EditControl::OnUndo()
 {
     if (!m_history.Swap(m_text))
         return FALSE;
-    static_cast<void>(TellChange());
+    TellChange();
     return TRUE;
 }
 
-LRESULT EditControl::OnPosFromChar(WPARAM wParam, LPARAM)
+LRESULT EditControl::OnPosFromChar(std::size_t at)
 {
-    const CRect place = m_layout.CaretRect(m_text.Text(), StopAtOrBefore(m_text.Text(), wParam));
+    const CRect place = m_view.Layout().CaretRect(m_text.Text(), StopAtOrBefore(m_text.Text(), at));
     return MAKELPARAM(place.left, place.top);
 }
 
-LRESULT EditControl::OnCut(WPARAM, LPARAM)
+void EditControl::OnCut()
 {
-    OnCopy(0, 0);
-    return OnClear(0, 0);
+    OnCopy();
+    OnClear();
 }
 
-LRESULT EditControl::OnCopy(WPARAM, LPARAM)
+void EditControl::OnCopy()
 {
     if (!m_text.Selection().IsEmpty())
         PutClipboardText(m_text.Selected());
-    return 0;
 }
 
-LRESULT EditControl::OnPaste(WPARAM, LPARAM)
+void EditControl::OnPaste()
 {
     if (const std::optional<std::string> text = GetClipboardText())
-        static_cast<void>(Insert(FirstLine(*text), EditKind::Other));
-    return 0;
+        Insert(FirstLine(*text), EditKind::Other);
 }
 
-LRESULT EditControl::OnClear(WPARAM, LPARAM)
+void EditControl::OnClear()
 {
-    static_cast<void>(Erase(m_text.Selection(), EditKind::Other));
-    return 0;
+    Erase(m_text.Selection(), EditKind::Other);
 }
 
-bool EditControl::Insert(std::string_view text, EditKind kind)
+void EditControl::Insert(std::string_view text, EditKind kind)
 {
-    if (text.empty())
-        return true;
     const std::string_view fitting = m_text.FitTo(text, m_limit);
     const bool whole = fitting.size() == text.size();
     if (!fitting.empty()) {
         m_history.Before(m_text, kind);
         m_text.Replace(fitting);
         m_history.After(m_text);
-        if (!TellChange())
-            return false;
+        TellChange();
     }
-    return whole || Tell(EN_MAXTEXT);
+    if (!whole)
+        Tell(EN_MAXTEXT);
 }
 
-bool EditControl::Erase(TextSpan span, EditKind kind)
+void EditControl::Erase(TextSpan span, EditKind kind)
 {
     if (span.IsEmpty())
-        return true;
+        return;
     m_history.Before(m_text, kind);
     m_text.Select(span.first, span.end);
     m_text.Replace("");
     m_history.After(m_text);
-    return TellChange();
+    TellChange();
 }
 
-bool EditControl::EraseOr(TextSpan other, EditKind kind)
+void EditControl::EraseOr(TextSpan other, EditKind kind)
 {
     const TextSpan selection = m_text.Selection();
-    return selection.IsEmpty() ? Erase(other, kind) : Erase(selection, EditKind::Other);
+    if (selection.IsEmpty())
+        Erase(other, kind);
+    else
+        Erase(selection, EditKind::Other);
 }
 
-bool EditControl::TellChange()
+void EditControl::TellChange()
 {
     TextIsNew();
-    if (!Tell(EN_UPDATE))
-        return false;
-    ShowCaret();
-    return Tell(EN_CHANGE);
-}
-
-std::size_t EditControl::Anchor() const
-{
-    const TextSpan selection = m_text.Selection();
-    return selection.first == m_text.Caret() ? selection.end : selection.first;
-}
-
-void EditControl::Select(std::size_t anchor, std::size_t caret)
-{
-    m_text.Select(anchor, caret);
-    ShowCaret();
+    Tell(EN_UPDATE);
+    m_view.ShowCaret();
+    Tell(EN_CHANGE);
 }
 
 } // namespace toolkit

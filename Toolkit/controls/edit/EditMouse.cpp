@@ -1,100 +1,91 @@
-// The edit control under the mouse: placing the caret, selecting by dragging and by words.
-#include "Toolkit/controls/edit/EditControl.h"
-#include "Toolkit/controls/edit/EditTimers.h"
+#include "Toolkit/controls/edit/EditMouse.h"
+
 #include "Toolkit/desktop/Desktop.h"
 
 namespace toolkit
 {
 
-LRESULT EditControl::OnLButtonDown(WPARAM wParam, LPARAM lParam)
+namespace
 {
-    TakeFocus();
-    if (!IsAlive())
-        return 0;
-    const CPoint at(lParam);
-    MoveCaret(m_layout.PositionAt(m_text.Text(), at.x), (wParam & MK_SHIFT) != 0);
-    const std::size_t anchor = Anchor();
-    static_cast<void>(BeginDrag({anchor, anchor}, false, at));
-    return 0;
+constexpr UINT kScrollPeriod = 50; // milliseconds
+} // namespace
+
+void EditMouse::OnLButtonDown(WPARAM keys, CPoint at)
+{
+    m_window.TakeFocus();
+    const std::size_t to = m_view.Layout().PositionAt(m_text.Text(), at.x);
+    const std::size_t anchor = keys & MK_SHIFT ? m_text.Anchor() : to;
+    m_view.Select(anchor, to);
+    Begin({{anchor, anchor}, false, at, false});
 }
 
-LRESULT EditControl::OnLButtonDblClk(WPARAM, LPARAM lParam)
+void EditMouse::OnLButtonDblClk(WPARAM, CPoint at)
 {
-    TakeFocus();
-    if (!IsAlive())
-        return 0;
-    const CPoint at(lParam);
-    const TextSpan word = WordAt(m_text.Text(), m_layout.CharacterAt(m_text.Text(), at.x));
-    Select(word.first, word.end);
-    static_cast<void>(BeginDrag(word, true, at));
-    return 0;
+    m_window.TakeFocus();
+    const TextSpan word = WordAt(m_text.Text(), m_view.Layout().CharacterAt(m_text.Text(), at.x));
+    m_view.Select(word.first, word.end);
+    Begin({word, true, at, false});
 }
 
-LRESULT EditControl::OnLButtonUp(WPARAM, LPARAM)
+void EditMouse::OnLButtonUp()
 {
-    EndDrag();
-    return 0;
+    if (m_drag && GetCapture() == m_window.m_hWnd)
+        ReleaseCapture(); // tells OnCaptureChanged
 }
 
-LRESULT EditControl::OnMouseMove(WPARAM wParam, LPARAM lParam)
+void EditMouse::OnMouseMove(WPARAM keys, CPoint at)
 {
-    if (m_drag && !(wParam & MK_LBUTTON))
-        EndDrag(); // the release was missed
+    if (m_drag && !(keys & MK_LBUTTON))
+        OnLButtonUp(); // the release was missed
     else if (m_drag)
-        DragTo(CPoint(lParam));
-    return 0;
+        DragTo(at);
 }
 
-LRESULT EditControl::OnCaptureChanged(WPARAM, LPARAM)
+void EditMouse::OnCaptureChanged()
 {
     m_drag.reset();
-    KillTimer(m_hWnd, kEditScrollTimer);
-    return 0;
+    KillTimer(m_window.m_hWnd, kScrollTimer);
 }
 
-LRESULT EditControl::OnSetCursor(WPARAM, LPARAM)
+BOOL EditMouse::OnSetCursor() const
 {
     CurrentDesktop().ShowCursor(Cursor::Text);
     return TRUE;
 }
 
-bool EditControl::BeginDrag(TextSpan from, bool byWords, CPoint at)
+void EditMouse::Begin(const Drag& drag)
 {
-    const HWND hWnd = m_hWnd;
-    SetCapture(hWnd);
-    if (!IsWindow(hWnd))
-        return false;
-    m_drag = Drag{from, byWords, at, false};
-    return true;
+    SetCapture(m_window.m_hWnd);
+    m_drag = drag;
 }
 
 // Outside the field the text goes on scrolling under the mouse.
-void EditControl::DragTo(CPoint at)
+void EditMouse::DragTo(CPoint at)
 {
-    const bool outside = at.x < 0 || at.x >= m_layout.Client().cx;
+    const bool outside = at.x < 0 || at.x >= m_view.Layout().Client().cx;
     if (outside && !m_drag->scrolls)
-        SetTimer(m_hWnd, kEditScrollTimer, kEditScrollPeriod);
+        SetTimer(m_window.m_hWnd, kScrollTimer, kScrollPeriod);
     else if (!outside && m_drag->scrolls)
-        KillTimer(m_hWnd, kEditScrollTimer);
+        KillTimer(m_window.m_hWnd, kScrollTimer);
     m_drag->scrolls = outside;
     m_drag->at = at;
 
     const std::string& text = m_text.Text();
     const TextSpan from = m_drag->from;
-    const std::size_t to = m_layout.PositionAt(text, at.x);
+    const std::size_t to = m_view.Layout().PositionAt(text, at.x);
     if (!m_drag->byWords)
-        return Select(from.first, to);
-    const TextSpan word = WordAt(text, m_layout.CharacterAt(text, at.x));
+        return m_view.Select(from.first, to);
+    const TextSpan word = WordAt(text, m_view.Layout().CharacterAt(text, at.x));
     if (to < from.first)
-        Select(from.end, word.first);
+        m_view.Select(from.end, word.first);
     else
-        Select(from.first, std::max(from.end, word.end));
+        m_view.Select(from.first, std::max(from.end, word.end));
 }
 
-void EditControl::EndDrag()
+void EditMouse::Scroll()
 {
-    if (m_drag && GetCapture() == m_hWnd)
-        ReleaseCapture(); // tells OnCaptureChanged
+    if (m_drag)
+        DragTo(m_drag->at);
 }
 
 } // namespace toolkit

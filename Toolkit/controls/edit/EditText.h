@@ -15,6 +15,7 @@ class TOOLKIT_API EditText
 public:
     const std::string& Text() const { return m_text; }
     std::size_t Caret() const { return m_caret; }
+    std::size_t Anchor() const { return m_anchor; }
     TextSpan Selection() const;
     std::string_view Selected() const;
 

@@ -1,6 +1,6 @@
-// How the edit control draws, and how its caret blinks.
-#include "Toolkit/controls/edit/EditControl.h"
-#include "Toolkit/controls/edit/EditTimers.h"
+#include "Toolkit/controls/edit/EditView.h"
+
+#include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
@@ -9,20 +9,28 @@
 namespace toolkit
 {
 
-LRESULT EditControl::OnEraseBackground(WPARAM wParam, LPARAM)
+namespace
 {
-    return FillSolidRect(reinterpret_cast<HDC>(wParam), CRect(CPoint(), m_layout.Client()), GetSysColor(COLOR_WINDOW));
+constexpr UINT kBlinkPeriod = 530; // milliseconds that the caret is seen, and then not
+} // namespace
+
+BOOL EditView::OnEraseBackground(HDC hdc) const
+{
+    return FillSolidRect(hdc, CRect(CPoint(), m_layout.Client()), GetSysColor(COLOR_WINDOW));
 }
 
-LRESULT EditControl::OnPaint(WPARAM, LPARAM)
+void EditView::OnSize()
 {
-    const CPaintDC paint(m_hWnd);
-    Draw(paint);
-    return 0;
+    CRect client;
+    GetClientRect(m_window.m_hWnd, &client);
+    m_layout.SetClient(client.Size());
+    ShowCaret();
 }
 
-void EditControl::Draw(HDC hdc) const
+void EditView::OnPaint() const
 {
+    const CPaintDC paint(m_window.m_hWnd);
+    const HDC hdc = paint;
     const std::string shown = Shown();
     const CRect line = m_layout.LineRect();
     const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
@@ -35,19 +43,19 @@ void EditControl::Draw(HDC hdc) const
         const int right = m_layout.X(shown, m_text.Caret() + m_composition.text.size());
         FillSolidRect(hdc, {left, line.bottom - 1, right, line.bottom}, ink);
     }
-    if (!composes && !m_text.Selection().IsEmpty() && (IsFocused() || Is(ES_NOHIDESEL)))
+    if (!composes && !m_text.Selection().IsEmpty() && (m_window.IsFocused() || m_window.Is(ES_NOHIDESEL)))
         DrawSelection(hdc, shown);
     if (m_bCaretOn)
         FillSolidRect(hdc, CaretRect(), ink);
 }
 
 // The whole text once more through a clip, so that its letters stand where they stood.
-void EditControl::DrawSelection(HDC hdc, const std::string& shown) const
+void EditView::DrawSelection(HDC hdc, const std::string& shown) const
 {
     const TextSpan selection = m_text.Selection();
     const CRect line = m_layout.LineRect();
     const CRect rect(m_layout.X(shown, selection.first), line.top, m_layout.X(shown, selection.end), line.bottom);
-    const bool focused = IsFocused();
+    const bool focused = m_window.IsFocused();
     const int saved = SaveDC(hdc);
     IntersectClipRect(hdc, rect);
     FillSolidRect(hdc, rect, GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
@@ -56,48 +64,52 @@ void EditControl::DrawSelection(HDC hdc, const std::string& shown) const
     RestoreDC(hdc, saved);
 }
 
-std::string EditControl::Shown() const
+std::string EditView::Shown() const
 {
     std::string shown = m_text.Text();
     shown.insert(m_text.Caret(), m_composition.text);
     return shown;
 }
 
-void EditControl::Show()
+void EditView::Show()
 {
     RestartBlinking();
-    RedrawAll();
+    m_window.RedrawAll();
     if (m_bCaretOn)
         CurrentDesktop().TextInputChanged();
 }
 
-void EditControl::ShowCaret()
+void EditView::ShowCaret()
 {
     m_layout.ShowCaret(Shown(), ShownCaret());
     Show();
 }
 
-void EditControl::RestartBlinking()
+void EditView::Select(std::size_t anchor, std::size_t caret)
 {
-    m_bCaretOn = IsFocused();
-    if (m_bCaretOn)
-        SetTimer(m_hWnd, kEditBlinkTimer, kEditBlinkPeriod);
-    else
-        KillTimer(m_hWnd, kEditBlinkTimer);
+    m_text.Select(anchor, caret);
+    ShowCaret();
 }
 
-LRESULT EditControl::OnTimer(WPARAM wParam, LPARAM lParam)
+void EditView::Compose(std::string_view text, std::size_t caret)
 {
-    if (wParam == kEditScrollTimer && m_drag) {
-        DragTo(m_drag->at);
-    } else if (wParam == kEditBlinkTimer) {
-        m_bCaretOn = !m_bCaretOn && IsFocused();
-        const CRect caret = CaretRect();
-        InvalidateRect(m_hWnd, &caret);
-    } else {
-        return ::DefWindowProc(m_hWnd, WM_TIMER, wParam, lParam);
-    }
-    return 0;
+    m_composition = {std::string(text), StopAtOrBefore(text, caret)};
+}
+
+void EditView::RestartBlinking()
+{
+    m_bCaretOn = m_window.IsFocused();
+    if (m_bCaretOn)
+        SetTimer(m_window.m_hWnd, kBlinkTimer, kBlinkPeriod);
+    else
+        KillTimer(m_window.m_hWnd, kBlinkTimer);
+}
+
+void EditView::Blink()
+{
+    m_bCaretOn = !m_bCaretOn && m_window.IsFocused();
+    const CRect caret = CaretRect();
+    InvalidateRect(m_window.m_hWnd, &caret);
 }
 
 } // namespace toolkit
