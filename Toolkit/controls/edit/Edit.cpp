@@ -14,24 +14,14 @@ BOOL CEdit::PreCreateWindow(CREATESTRUCT& cs)
 void CEdit::GetSel(int& nStart, int& nEnd) const
 {
     DWORD start = 0, end = 0;
-    SendMessage(EM_GETSEL, reinterpret_cast<WPARAM>(&start), reinterpret_cast<LPARAM>(&end));
+    Ask<LRESULT>(EM_GETSEL, &start, &end);
     nStart = static_cast<int>(start);
     nEnd = static_cast<int>(end);
 }
 
 void CEdit::SetSel(int nStart, int nEnd, BOOL bNoScroll)
 {
-    SendMessage(EM_SETSEL, static_cast<WPARAM>(nStart), nEnd);
+    Ask<BOOL>(EM_SETSEL, nStart, nEnd);
     if (!bNoScroll)
         ScrollCaret();
-}
-
-void CEdit::ReplaceSel(LPCSTR pszNew, BOOL bCanUndo)
-{
-    SendMessage(EM_REPLACESEL, static_cast<WPARAM>(bCanUndo), reinterpret_cast<LPARAM>(pszNew));
-}
-
-CPoint CEdit::PosFromChar(UINT nChar) const
-{
-    return m_hWnd ? CPoint(SendMessage(EM_POSFROMCHAR, nChar)) : CPoint(-1, -1);
 }

@@ -14,11 +14,12 @@ public:
     void GetSel(int& nStart, int& nEnd) const;
     void SetSel(int nStart, int nEnd, BOOL bNoScroll = FALSE); // 0, -1: all of it; unless told not to, shows the caret
     void ScrollCaret() { SendMessage(EM_SCROLLCARET); }
-    void ReplaceSel(LPCSTR pszNew, BOOL bCanUndo = FALSE);
-    CPoint PosFromChar(UINT nChar) const; // client; (-1, -1) without a window
+    void ReplaceSel(LPCSTR pszNew, BOOL bCanUndo = FALSE) { Ask<LRESULT>(EM_REPLACESEL, bCanUndo, pszNew); }
+    // Client; (-1, -1) without a window.
+    CPoint PosFromChar(UINT nChar) const { return m_hWnd ? Ask<CPoint>(EM_POSFROMCHAR, nChar) : CPoint(-1, -1); }
 
-    void LimitText(int nBytes = 0) { SendMessage(EM_LIMITTEXT, static_cast<WPARAM>(nBytes)); }
-    BOOL Undo() { return SendMessage(EM_UNDO) != 0; }
+    void LimitText(int nBytes = 0) { Ask<LRESULT>(EM_LIMITTEXT, nBytes); }
+    BOOL Undo() { return Ask<BOOL>(EM_UNDO); }
     void Cut() { SendMessage(WM_CUT); }
     void Copy() { SendMessage(WM_COPY); }
     void Paste() { SendMessage(WM_PASTE); }

@@ -35,6 +35,8 @@ protected:
 class LabelEditing
 {
 public:
+    static constexpr int kFieldEdge = 4, kFieldTop = 2; // from the field's left or top edge to the text's
+
     // The style lets the user edit labels; the alignment is an ES_ style.
     LabelEditing(NativeWindow& window, LabelHost& host, DWORD style, DWORD align)
         : m_window(window), m_host(host), m_style(style), m_align(align)

@@ -1,6 +1,6 @@
 #include "Toolkit/controls/list/IconLayout.h"
 
-#include "Toolkit/controls/items/LabelField.h"
+#include "Toolkit/controls/items/LabelEditing.h"
 
 #include <algorithm>
 
@@ -81,7 +81,7 @@ CRect IconLayout::FieldBox(int row, CSize wanted) const
     const CRect room = LabelRoom(row);
     const int width = std::min<int>(std::max<int>(wanted.cx, Cell().cx / 2), Client().cx);
     const int left = std::clamp<int>(room.CenterPoint().x - width / 2, 0, Client().cx - width);
-    return {CPoint(left, room.top - kLabelFieldTop + 1), CSize(width, wanted.cy)};
+    return {CPoint(left, room.top - LabelEditing::kFieldTop + 1), CSize(width, wanted.cy)};
 }
 
 CellBlock IconLayout::BodiesTouching(const ContentRect& rect) const

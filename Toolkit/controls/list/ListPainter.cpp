@@ -11,16 +11,6 @@ namespace
 
 constexpr BYTE kBandFill = 40, kBandEdge = 170; // of 255
 
-// A rectangle whose corners are cut by a pixel or two.
-void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
-{
-    FillSolidRect(hdc, {rect.left + 2, rect.top, rect.right - 2, rect.top + 1}, color);
-    FillSolidRect(hdc, {rect.left + 1, rect.top + 1, rect.right - 1, rect.top + 2}, color);
-    FillSolidRect(hdc, {rect.left, rect.top + 2, rect.right, rect.bottom - 2}, color);
-    FillSolidRect(hdc, {rect.left + 1, rect.bottom - 2, rect.right - 1, rect.bottom - 1}, color);
-    FillSolidRect(hdc, {rect.left + 2, rect.bottom - 1, rect.right - 2, rect.bottom}, color);
-}
-
 } // namespace
 
 void ListPainter::OnPaint() const
@@ -84,7 +74,7 @@ void ListPainter::DrawLabel(HDC hdc, const RowLabel& label, UINT state) const
         ground = COLOR_BTNFACE;
     }
     if (ground != COLOR_WINDOW)
-        FillRounded(hdc, label.box, GetSysColor(ground));
+        FillRounded(hdc, label.box, 2, GetSysColor(ground));
 
     const int lineHeight = CurrentTextEngine().LineHeight();
     int y = label.box.top + (label.box.Height() - static_cast<int>(label.lines.size()) * lineHeight) / 2;

@@ -1,6 +1,5 @@
 #include "Toolkit/controls/tree/TreeControl.h"
 
-#include "Toolkit/controls/items/LabelField.h"
 #include "Toolkit/window/HandlerTable.h"
 
 namespace toolkit
@@ -153,7 +152,7 @@ CRect TreeControl::FieldBox(LPARAM item, CSize wanted) const
     if (row < 0)
         return {CPoint(0, -2 * wanted.cy), wanted};
     const CRect label = m_layout.LabelBox(row, m_items.Level(index), 0);
-    const int left = std::max<int>(label.left + TreeLayout::kLabelPadding - kLabelFieldEdge, 0);
+    const int left = std::max<int>(label.left + TreeLayout::kLabelPadding - LabelEditing::kFieldEdge, 0);
     const int room = std::max<int>(m_layout.Client().cx - left, kLeastFieldWidth);
     const int height = std::max<int>(wanted.cy, label.Height());
     return {CPoint(left, label.top + (label.Height() - height) / 2),

@@ -13,14 +13,6 @@ constexpr BYTE kLine = 96; // of 255
 constexpr int kButton = 9; // pixels, square
 constexpr int kSign = 5;   // the plus or minus inside
 
-// A rectangle without the pixels at its corners.
-void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
-{
-    FillSolidRect(hdc, {rect.left + 1, rect.top, rect.right - 1, rect.bottom}, color);
-    FillSolidRect(hdc, {rect.left, rect.top + 1, rect.left + 1, rect.bottom - 1}, color);
-    FillSolidRect(hdc, {rect.right - 1, rect.top + 1, rect.right, rect.bottom - 1}, color);
-}
-
 void DrawLine(HDC hdc, const CRect& rect)
 {
     BlendRect(hdc, rect, GetSysColor(COLOR_BTNSHADOW), kLine);
@@ -109,7 +101,7 @@ void TreePainter::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
     const CRect box(CPoint(middle.x - kButton / 2, middle.y - kButton / 2), CSize(kButton, kButton));
     CRect inside = box;
     inside.DeflateRect(1, 1);
-    FillRounded(hdc, box, GetSysColor(COLOR_BTNSHADOW));
+    FillRounded(hdc, box, 1, GetSysColor(COLOR_BTNSHADOW));
     FillSolidRect(hdc, inside, GetSysColor(COLOR_WINDOW));
     const COLORREF ink = GetSysColor(COLOR_3DDKSHADOW);
     FillSolidRect(hdc, CRect(CPoint(middle.x - kSign / 2, middle.y), CSize(kSign, 1)), ink);
@@ -123,7 +115,7 @@ void TreePainter::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std
     CRect ground = box;
     ground.DeflateRect(0, 1); // marked neighbours stay apart
     if (mark != Mark::None && !text.empty())
-        FillRounded(hdc, ground, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+        FillRounded(hdc, ground, 1, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
 
     SetTextColor(hdc, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     SetFontStyle(hdc, m_viewport.FontOf(item));
