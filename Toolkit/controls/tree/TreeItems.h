@@ -46,9 +46,8 @@ public:
     // Rows.
     int RowCount() const { return m_siblings.Rows(kRootItem); }
     bool IsShown(ItemIndex item) const;
-    int RowOf(ItemIndex item) const;                                      // -1 when it is not shown
-    ItemIndex AtRow(int row) const;                                       // kNoItem without such a row
-    int RowsOf(ItemIndex item) const { return m_siblings.OwnRows(item); } // with its subtree, if it were shown
+    int RowOf(ItemIndex item) const; // -1 when it is not shown
+    ItemIndex AtRow(int row) const;  // kNoItem without such a row
 
     bool AreChildren(ItemIndex parent, std::span<const ItemIndex> items); // each of them once, as many as there are
 
