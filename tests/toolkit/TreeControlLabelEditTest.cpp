@@ -72,10 +72,8 @@ TEST_F(TreeLabelEditTest, TheFieldLiesOnItsLabelStaysWithItAndGrowsToTheTreesEdg
     EXPECT_EQ(nullptr, Field());
     EXPECT_EQ(tree.m_hWnd, ::GetFocus());
     Begin("d");
-    tree.meanwhile = [this](const std::string& line) {
-        if (line == "edited d 'x'")
-            tree.DestroyWindow();
-    };
+    // It takes it, and goes.
+    tree.refuses = [this](const std::string& line) { return line == "edited d 'x'" && tree.DestroyWindow(); };
     desktop.Type("x");
     desktop.Key(VK_RETURN);
     EXPECT_EQ(nullptr, tree.m_hWnd);
