@@ -1,7 +1,6 @@
 #include "bench/BenchHost.h"
 
 #include "AtomLib/AtomLib.h"
-#include "Kernel/Kernel.h"
 #include "Toolkit/graphics/ImageList.h"
 
 #include <algorithm>
@@ -162,73 +161,6 @@ BOOL Library::GetContainer(void** ppOut, DWORD)
 void Library::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
 {
     GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
-}
-
-namespace
-{
-
-class Editor final : public IAtomEditor
-{
-public:
-    void AddRef() override {}
-    void Release() override {}
-    void GetInterface(DWORD, void** out) override { *out = nullptr; }
-    DWORD RegisterHandler(HWND, IAEStateHandler* handler) override
-    {
-        m_handlers[++m_lastCookie] = handler;
-        return m_lastCookie;
-    }
-    void UnregisterHandler(DWORD cookie) override { m_handlers.erase(cookie); }
-    BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
-                        DWORD) override
-    {
-        BOOL accepted = TRUE;
-        for (const auto& [cookie, handler] : m_handlers) {
-            if (handler != sender)
-                accepted &= static_cast<BOOL>((handler->*operation)(atom, container) != FALSE);
-        }
-        return accepted;
-    }
-    void AddPane(DWORD, HWND, LPCSTR, HICON) override {}
-    void RemovePane(DWORD, HWND) override {}
-    CMenu* CreateContextMenu() override { return nullptr; }
-    HWND GetMainWindow() override { return nullptr; }
-    BOOL EnumActivePairs(ACTIVEPAIRPROC, void*) override { return FALSE; }
-    DROPEFFECT DoDragDrop(DWORD, DWORD) override { return 0; }
-    BOOL ReadArchive(ARCHIVEATOMPROC, IArchive*, void*) override { return FALSE; }
-    BOOL WriteActiveObjects(IArchive*) override { return FALSE; }
-    CLIPFORMAT GetClipboardFormat() override { return 0; }
-    void GetActiveAtom(void** out, DWORD) override { *out = nullptr; }
-
-private:
-    std::map<DWORD, IAEStateHandler*> m_handlers;
-    DWORD m_lastCookie = 0;
-};
-
-} // namespace
-
-struct EditorService::Provider : SERVICEPROVIDER
-{
-    static BOOL Serve(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD, DWORD)
-    {
-        IAtomEditor* pEditor = &static_cast<Provider*>(pProvider)->editor;
-        std::memcpy(pBuffer, &pEditor, sizeof pEditor);
-        return TRUE;
-    }
-    static constexpr SERVICETABLE kTable{&Serve};
-
-    Provider() : SERVICEPROVIDER{&kTable} {}
-    Editor editor;
-};
-
-EditorService::EditorService() : m_provider(std::make_unique<Provider>())
-{
-    SRVN_InstallProvider("GetAtomEditorSv", m_provider.get());
-}
-
-EditorService::~EditorService()
-{
-    SRVN_InstallProvider("GetAtomEditorSv", nullptr);
 }
 
 void Announce(AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer)

@@ -2,8 +2,8 @@
 // views say. Its calls cost next to nothing, so that what is measured is the library.
 #pragma once
 
-#include "Views/host/host.h"
 #include "bench/Samples.h"
+#include "tests/support/HostEditor.h"
 
 #include <memory>
 #include <span>
@@ -123,19 +123,10 @@ private:
     int m_nReferences = 0;
 };
 
-// Makes "GetAtomEditorSv" answer with an editor, for as long as the object lives. The editor calls every handler
-// but the sender.
-class EditorService
+// The editor calls every handler but the sender.
+struct EditorService : HostEditor
 {
-public:
-    EditorService();
-    ~EditorService();
-    EditorService(const EditorService&) = delete;
-    EditorService& operator=(const EditorService&) = delete;
-
-private:
-    struct Provider;
-    std::unique_ptr<Provider> m_provider;
+    EditorService() { skipsSender = true; }
 };
 
 // Has the editor tell all views.

@@ -1,39 +1,14 @@
 #include "tests/views/FakeHost.h"
 
-#include "Kernel/Kernel.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
-#include "Toolkit/exchange/DataSource.h"
-#include "Toolkit/menu/Menu.h"
-#include "Views/clipboard/TransferFileOwner.h"
-#include "Views/clipboard/clipboard.h"
-#include "tests/views/FakeArchive.h"
+#include "tests/support/FakeArchive.h"
 
-#include <algorithm>
 #include <concepts>
-#include <cstring>
 #include <gtest/gtest.h>
-#include <memory>
-#include <sstream>
 
 namespace
 {
-
-BOOL CopyName(const std::string& strName, bool bFails, char* pBuffer, DWORD* pLength)
-{
-    if (!pBuffer) {
-        *pLength = static_cast<DWORD>(strName.size()) + 1;
-        return FALSE; // no one looks
-    }
-    if (!bFails)
-        std::memcpy(pBuffer, strName.c_str(), std::min<std::size_t>(strName.size() + 1, *pLength));
-    return !bFails;
-}
-
-FakeAtom* AsFake(IAtom* pAtom)
-{
-    return dynamic_cast<FakeAtom*>(pAtom);
-}
 
 const std::string& Word(const std::string& word)
 {
@@ -54,26 +29,7 @@ std::string Words(const auto&... parts) // one after the other
 
 std::string NameOf(IAtom* pAtom)
 {
-    return pAtom ? AsFake(pAtom)->name : "-";
-}
-
-void* FakeAtom::Find(DWORD id)
-{
-    if (id == IID_IAtom)
-        return static_cast<IAtom*>(this);
-    if (id == IID_IDispAtom && displayName)
-        return static_cast<IDispAtom*>(this);
-    if (id == IID_IAtomIcon && hasIcon)
-        return static_cast<IAtomIcon*>(this);
-    if (id == IID_IAtomThumbnail && nFrames > 0)
-        return static_cast<IAtomThumbnail*>(this);
-    if (id == IID_IImageLink && isLink)
-        return static_cast<IImageLink*>(this);
-    if (id == IID_ICharacterLibrary && isLibrary)
-        return static_cast<ICharacterLibrary*>(this);
-    if (id == IID_IMyErrorInfo && (nameFails || displayNameFails))
-        return static_cast<IMyErrorInfo*>(this);
-    return id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
+    return pAtom ? FakeAtom::As(pAtom)->name : "-";
 }
 
 BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
@@ -83,7 +39,7 @@ BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
         return TRUE;
     }
     nNameReads += pBuffer != nullptr;
-    const BOOL bRead = CopyName(name, nameFails, pBuffer, pLength);
+    const BOOL bRead = pBuffer && nameFails ? FALSE : HostAtom::GetName(pBuffer, pLength);
     if (pBuffer && onAsked)
         onAsked();
     return bRead;
@@ -91,15 +47,7 @@ BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
 
 BOOL FakeAtom::GetDisplayName(char* pBuffer, DWORD* pLength)
 {
-    return CopyName(*displayName, displayNameFails, pBuffer, pLength);
-}
-
-BOOL FakeAtom::GetContainer(void** ppOut, DWORD dwInterfaceId)
-{
-    *ppOut = nullptr;
-    if (parent)
-        parent->GetInterface(dwInterfaceId, ppOut);
-    return *ppOut != nullptr;
+    return pBuffer && displayNameFails ? FALSE : HostAtom::GetDisplayName(pBuffer, pLength);
 }
 
 BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
@@ -134,49 +82,7 @@ int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
     return nImage;
 }
 
-FakeAtom* FakeContainer::Add(FakeAtom* pNew)
-{
-    pNew->parent = this;
-    members.push_back(AtomRef::Adopt(pNew));
-    return pNew;
-}
-
-AtomRef FakeContainer::Remove(FakeAtom* pMember)
-{
-    const auto found = std::ranges::find(members, pMember, &AtomRef::Get);
-    if (found == members.end())
-        return nullptr;
-    AtomRef pRemoved = std::move(*found);
-    members.erase(found);
-    return pRemoved;
-}
-
-FakeAtom* FakeContainer::Named(const std::string& strName) const
-{
-    const auto found = std::ranges::find(members, strName, [](const AtomRef& p) { return p->name; });
-    return found == members.end() ? nullptr : found->Get();
-}
-
-void FakeContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
-{
-    for (UINT i = 0; i < nCount; ++i) {
-        ppOut[i] = nullptr;
-        if (nFirst + i < members.size())
-            members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
-    }
-}
-
-BOOL FakeContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
-{
-    const auto found = std::ranges::find(members, dwID, [](const AtomRef& p) { return p->GetID(); });
-    if (ppOut)
-        *ppOut = nullptr;
-    if (ppOut && found != members.end())
-        (*found)->GetInterface(dwInterfaceId, ppOut);
-    return found != members.end();
-}
-
-bool FakeContainer::Does(const std::string& strCall)
+bool FakeAtom::Does(const std::string& strCall)
 {
     Write(name + " " + strCall);
     if (const auto hook = onCall)
@@ -184,48 +90,38 @@ bool FakeContainer::Does(const std::string& strCall)
     return !refused.contains(strCall);
 }
 
-BOOL FakeContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
+BOOL FakeAtom::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
 {
-    *ppOut = nullptr;
-    FakeAtom* const pFound = Does(std::string("finds ") + pszName) ? Named(pszName) : nullptr;
-    if (pFound)
-        pFound->GetInterface(dwInterfaceId, ppOut);
-    return pFound != nullptr;
+    return Give(Does(std::string("finds ") + pszName) ? Named(pszName) : nullptr, ppOut, dwInterfaceId);
 }
 
-BOOL FakeContainer::AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId)
+BOOL FakeAtom::AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId)
 {
     EXPECT_EQ(0u, dwReserved);
-    *ppOut = nullptr;
-    if (!Does("adds " + ::NameOf(pSource) + " as " + pszName))
-        return FALSE;
-    Add(pszName)->GetInterface(dwInterfaceId, ppOut);
-    return TRUE;
+    const bool bDoes = Does("adds " + ::NameOf(pSource) + " as " + pszName);
+    return Give(bDoes ? Add(pszName) : nullptr, ppOut, dwInterfaceId);
 }
 
-BOOL FakeContainer::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId)
+BOOL FakeAtom::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId)
 {
-    *ppOut = nullptr;
-    if (!Does("renames " + ::NameOf(pAtom) + " to " + pszNewName))
-        return FALSE;
-    const AtomRef pFormer = Remove(AsFake(pAtom));
-    Add(pszNewName)->GetInterface(dwInterfaceId, ppOut);
-    return TRUE;
+    const bool bDoes = Does("renames " + ::NameOf(pAtom) + " to " + pszNewName);
+    const AtomRef pFormer = bDoes ? Remove(As(pAtom)) : nullptr;
+    return Give(bDoes ? Add(pszNewName) : nullptr, ppOut, dwInterfaceId);
 }
 
-BOOL FakeContainer::RemoveAtom(IAtom* pAtom)
+BOOL FakeAtom::RemoveAtom(IAtom* pAtom)
 {
-    return Does("removes " + ::NameOf(pAtom)) && Remove(AsFake(pAtom));
+    return Does("removes " + ::NameOf(pAtom)) && Remove(As(pAtom));
 }
 
-DWORD FakeContainer::GetPermissions(IAtom* pAtom)
+DWORD FakeAtom::GetPermissions(IAtom* pAtom)
 {
     Does("permits " + ::NameOf(pAtom));
     const auto found = permissionsFor.find(::NameOf(pAtom));
     return found == permissionsFor.end() ? permissions : found->second;
 }
 
-BOOL FakeContainer::ValidateName(CString& strName, DWORD dwReserved)
+BOOL FakeAtom::ValidateName(CString& strName, DWORD dwReserved)
 {
     EXPECT_EQ(0u, dwReserved);
     if (!Does(std::string("validates ") + strName.GetString()))
@@ -235,44 +131,25 @@ BOOL FakeContainer::ValidateName(CString& strName, DWORD dwReserved)
     return TRUE;
 }
 
-int FakeContainer::GetPosition(IImageLink* pLink)
+void* FakeAtom::Find(DWORD id)
 {
-    const int nPosition = static_cast<FakeAtom*>(pLink)->position;
-    return isBackward ? -nPosition : nPosition;
-}
-
-void* FakeContainer::Find(DWORD id)
-{
-    if (id == IID_IAtomContainer)
-        return static_cast<IAtomContainer*>(this);
-    if (id == IID_IPhase && isPhase)
-        return static_cast<IPhase*>(this);
-    if (id == IID_IMyErrorInfo && onCall)
+    if (id != IID_IMyErrorInfo)
+        return HostAtom::Find(id);
+    if (onCall)
         onCall("errs");
-    if (id == IID_IMyErrorInfo && !refused.empty())
-        return static_cast<IMyErrorInfo*>(this);
-    return FakeAtom::Find(id);
+    return nameFails || displayNameFails || !refused.empty() ? static_cast<IMyErrorInfo*>(this) : nullptr;
 }
 
 void FakeEditor::Install()
 {
-    m_editorService.Install();
+    m_service.Install();
     m_errorService.Install();
 }
 
 void FakeEditor::Uninstall()
 {
-    m_editorService.Uninstall();
+    m_service.Uninstall();
     m_errorService.Uninstall();
-}
-
-BOOL FakeEditor::GiveEditor(void* pBuffer, DWORD dwSize, DWORD dwExtra)
-{
-    EXPECT_EQ(sizeof(void*), dwSize);
-    EXPECT_EQ(0u, dwExtra);
-    AddRef();
-    *static_cast<IAtomEditor**>(pBuffer) = this;
-    return TRUE;
 }
 
 BOOL FakeEditor::ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra)
@@ -284,11 +161,10 @@ BOOL FakeEditor::ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra)
     return TRUE;
 }
 
-DWORD FakeEditor::RegisterHandler(HWND, IAEStateHandler* handler)
+DWORD FakeEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
 {
     ledger.push_back(handlerNames[handler] + " registers");
-    const DWORD nCookie = ++m_nLastCookie;
-    m_handlers[nCookie] = handler;
+    const DWORD nCookie = HostEditor::RegisterHandler(hWnd, handler);
     if (onJoin)
         onJoin();
     return nCookie;
@@ -296,26 +172,25 @@ DWORD FakeEditor::RegisterHandler(HWND, IAEStateHandler* handler)
 
 void FakeEditor::UnregisterHandler(DWORD cookie)
 {
-    ASSERT_TRUE(m_handlers.contains(cookie));
-    ledger.push_back(handlerNames[m_handlers[cookie]] + " unregisters");
-    m_handlers.erase(cookie);
+    const auto found = std::ranges::find(Handlers(), cookie, &Handler::cookie);
+    ASSERT_TRUE(found != Handlers().end());
+    ledger.push_back(handlerNames[found->pHandler] + " unregisters");
+    HostEditor::UnregisterHandler(cookie);
 }
 
 BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom,
                                 IAtomContainer* container, DWORD reserved)
 {
     EXPECT_EQ(0u, reserved);
-    const std::string strOperation = NameOf(operation);
+    const std::string strOperation = kHostOperations[IndexOf(operation)].pszName;
     const bool bAsks = strOperation.starts_with("Pre") || strOperation.ends_with("ing");
     ledger.push_back(Words(sender ? handlerNames[sender] : "nobody", bAsks ? " asks " : " tells ", strOperation, "(",
                            ::NameOf(atom), " in ", ::NameOf(container), ")"));
     if (const auto hook = onNotify) // a copy: it may take itself away
         hook(operation, atom);
 
-    BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
-    for (const auto& [cookie, pHandler] : std::map(m_handlers))
-        bAgreed &= (pHandler->*operation)(atom, container) != FALSE;
-    return bAgreed;
+    const BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
+    return HostEditor::NotifyHandlers(sender, operation, atom, container, reserved) & bAgreed;
 }
 
 void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
@@ -334,98 +209,40 @@ void FakeEditor::RemovePane(DWORD kind, HWND)
 BOOL FakeEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
 {
     ledger.push_back("enumerates");
-    BOOL bAgreed = TRUE;
-    for (const views::HeldPair& pair : pairs) {
-        bAgreed &= callback(pair.pAtom.Get(), pair.pContainer.Get(), context);
-        if (!bAgreed && !goesOnAfterRefusal)
-            break;
-    }
-    return bAgreed;
-}
-
-CMenu* FakeEditor::CreateContextMenu()
-{
-    if (menu.empty())
-        return nullptr;
-    auto pMenu = std::make_unique<CMenu>();
-    pMenu->CreatePopupMenu();
-    pMenu->AppendMenu(MF_STRING, 7, menu.c_str());
-    return pMenu.release();
+    return HostEditor::EnumActivePairs(callback, context);
 }
 
 DROPEFFECT FakeEditor::DoDragDrop(DWORD allowedEffects, DWORD reserved)
 {
     EXPECT_EQ(0u, reserved);
-    DWORD nPairs = 0;
-    pSelected->OnGetActivePairs(nullptr, &nPairs);
-    std::vector<OBJPAIR> selected(nPairs);
-    pSelected->OnGetActivePairs(selected.data(), &nPairs);
-    pairs.clear();
-    std::string strNames;
-    for (const OBJPAIR& pair : selected) {
-        pairs.push_back({CStubRef<IAtom>::Adopt(pair.pAtom), CStubRef<IAtomContainer>::Adopt(pair.pContainer)});
-        strNames += " " + ::NameOf(pair.pAtom);
-    }
-    const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
-    WriteActiveObjects(pArchive.Get());
-
-    STGMEDIUM medium{};
-    medium.tymed = TYMED_HGLOBAL;
-    medium.hGlobal = HGLOBALFromArchive(pArchive.Get());
-    medium.pUnkForRelease = new CTransferFileOwner(medium.hGlobal);
-    COleDataSource source;
-    source.CacheData(format, &medium);
-    ledger.push_back("drags" + strNames);
-    const DROPEFFECT effect = source.DoDragDrop(allowedEffects);
+    const DROPEFFECT effect = HostEditor::DoDragDrop(allowedEffects, reserved);
     ledger.push_back("dragged: " + std::to_string(effect));
     return effect;
 }
 
-BOOL FakeEditor::WriteActiveObjects(IArchive* archive)
+void FakeEditor::OnDrag()
 {
     std::string strNames;
     for (const views::HeldPair& pair : pairs)
-        strNames += ::NameOf(pair.pAtom.Get()) + "\n";
+        strNames += " " + ::NameOf(pair.pAtom.Get());
+    ledger.push_back("drags" + strNames);
+}
+
+BOOL FakeEditor::WriteActiveObjects(IArchive* archive)
+{
     ledger.push_back("writes " + std::to_string(pairs.size()));
-    SetBytes(archive, strNames);
-    return !pairs.empty();
+    return HostEditor::WriteActiveObjects(archive);
 }
 
 BOOL FakeEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
 {
     ledger.push_back("reads");
-    std::istringstream names(readsOn ? dynamic_cast<FakeArchive&>(*archive).ReadOn() : BytesOf(archive));
-    for (std::string strName; std::getline(names, strName);) {
-        auto pAtom = AtomRef::Adopt(new FakeAtom(strName));
-        FakeAtom* const pObject = context ? pAtom.Get() : pAtom.Detach(); // the callback's without a context
-        pObject->nameFails = strName == "nameless";
-        if (!callback(pObject, context))
-            return FALSE;
-    }
-    return TRUE;
+    return ReadNames(readsOn ? dynamic_cast<FakeArchive&>(*archive).ReadOn() : BytesOf(archive), callback, context);
 }
 
-void FakeEditor::GetActiveAtom(void** out, DWORD interfaceId)
+IAtom* FakeEditor::MakeAtom(const std::string& strName)
 {
-    *out = nullptr;
-    if (active)
-        static_cast<CStubBaseInterface*>(active.Get())->GetInterface(interfaceId, out);
-}
-
-std::string FakeEditor::NameOf(AEStateOperation operation)
-{
-    static const std::pair<AEStateOperation, const char*> s_names[] = {
-        {&IAEStateHandler::PreRenameAtom, "PreRenameAtom"},
-        {&IAEStateHandler::PreSaveAtom, "PreSaveAtom"},
-        {&IAEStateHandler::OnCreateAtom, "OnCreateAtom"},
-        {&IAEStateHandler::OnDeleteAtom, "OnDeleteAtom"},
-        {&IAEStateHandler::OnChangeAtom, "OnChangeAtom"},
-        {&IAEStateHandler::OnAtomSelected, "OnAtomSelected"},
-        {&IAEStateHandler::OnAtomDeselected, "OnAtomDeselected"},
-        {&IAEStateHandler::OnAtomSelecting, "OnAtomSelecting"},
-        {&IAEStateHandler::OnAtomDeselecting, "OnAtomDeselecting"},
-        {&IAEStateHandler::OnAtomEntered, "OnAtomEntered"},
-        {&IAEStateHandler::OnAtomRename, "OnAtomRename"},
-    };
-    return std::ranges::find(s_names, operation, &std::pair<AEStateOperation, const char*>::first)->second;
+    auto* const pAtom = new FakeAtom(strName);
+    pAtom->nameFails = strName == "nameless";
+    return pAtom;
 }

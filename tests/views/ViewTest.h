@@ -5,7 +5,7 @@
 #include "Toolkit/window/Wnd.h"
 #include "tests/editor/TempFolder.h"
 #include "tests/support/DesktopTest.h"
-#include "tests/views/FakeArchive.h"
+#include "tests/support/FakeArchive.h"
 #include "tests/views/FakeHost.h"
 
 // At its end the derived fixture's views must be gone; the test fails for every reference, handler and message box

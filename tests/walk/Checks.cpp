@@ -123,7 +123,7 @@ std::map<const Atom*, int> KnownReferences(Scene& scene)
 {
     std::map<const Atom*, int> known;
     ++known[scene.host.pWorld.Get()];
-    ++known[scene.host.pActive.Get()];
+    ++known[Atom::As(scene.host.active.Get())];
     for (const AtomRef& pFormer : scene.host.former)
         ++known[pFormer.Get()];
     for (const Atom* const pAtom : scene.host.live)
@@ -149,7 +149,7 @@ std::string CheckReferences(Scene& scene)
     auto known = KnownReferences(scene);
     for (const Atom* const pAtom : scene.host.live) {
         const int nMore = pAtom->CountReferences() - known[pAtom];
-        const int nAllowed = pAtom->nFrames > 1 || pAtom->IsContainer() ? 2 : 0;
+        const int nAllowed = pAtom->nFrames > 1 || pAtom->isContainer ? 2 : 0;
         if (nMore < 0 || nMore > nAllowed)
             return "references: " + Print(pAtom) + " has " + std::to_string(pAtom->CountReferences()) + ", not " +
                    std::to_string(known[pAtom]);

@@ -1,48 +1,16 @@
 #include "tests/walk/Host.h"
 
 #include "Toolkit/exchange/ClipboardFormat.h"
-#include "Toolkit/exchange/DataSource.h"
-#include "Toolkit/menu/Menu.h"
-#include "Views/clipboard/TransferFileOwner.h"
-#include "Views/clipboard/clipboard.h"
-#include "tests/views/FakeArchive.h"
 
 #include <algorithm>
-#include <memory>
-#include <sstream>
-
-namespace
-{
-
-constexpr std::pair<const char*, AEStateOperation> kWords[kOps] = {
-    {"PreRenameAtom", &IAEStateHandler::PreRenameAtom},
-    {"PreSaveAtom", &IAEStateHandler::PreSaveAtom},
-    {"OnCreateAtom", &IAEStateHandler::OnCreateAtom},
-    {"OnDeleteAtom", &IAEStateHandler::OnDeleteAtom},
-    {"OnChangeAtom", &IAEStateHandler::OnChangeAtom},
-    {"OnAtomSelected", &IAEStateHandler::OnAtomSelected},
-    {"OnAtomDeselected", &IAEStateHandler::OnAtomDeselected},
-    {"OnAtomSelecting", &IAEStateHandler::OnAtomSelecting},
-    {"OnAtomDeselecting", &IAEStateHandler::OnAtomDeselecting},
-    {"OnAtomEntered", &IAEStateHandler::OnAtomEntered},
-    {"OnAtomRename", &IAEStateHandler::OnAtomRename},
-    {"AddPane", nullptr},
-    {"RemovePane", nullptr},
-    {"RenameAtom", nullptr},
-    {"CreateContextMenu", nullptr},
-};
-
-Op OpOf(AEStateOperation operation)
-{
-    const auto found = std::ranges::find(kWords, operation, &std::pair<const char*, AEStateOperation>::second);
-    return static_cast<Op>(found - kWords);
-}
-
-} // namespace
 
 const char* NameOf(Op op)
 {
-    return kWords[static_cast<std::size_t>(op)].first;
+    static constexpr const char* kOthers[] = {"AddPane", "RemovePane", "RenameAtom", "CreateContextMenu"};
+    constexpr std::size_t kAsked = std::size(kHostOperations);
+    static_assert(kAsked + std::size(kOthers) == kOps);
+    const auto n = static_cast<std::size_t>(op);
+    return n < kAsked ? kHostOperations[n].pszName : kOthers[n - kAsked];
 }
 
 std::string Print(const Calls& calls)
@@ -54,22 +22,19 @@ std::string Print(const Calls& calls)
     return text;
 }
 
-Host::Host()
-    : pWorld(AtomRef::Adopt(new Atom(*this, "world", Kind::Container))),
-      format(RegisterClipboardFormat("Atoms of the walk")),
-      m_editorService("GetAtomEditorSv", [this](void* pBuffer, DWORD, DWORD) {
-          AddRef();
-          *static_cast<IAtomEditor**>(pBuffer) = this;
-          return TRUE;
-      })
-{}
+Host::Host() : pWorld(AtomRef::Adopt(new Atom(*this, "world", Kind::Container)))
+{
+    pWorld->isLibrary = true;
+    format = RegisterClipboardFormat("Atoms of the walk");
+    menu = "Something";
+}
 
 std::vector<Atom*> Host::Containers() const
 {
     std::vector<Atom*> found{pWorld.Get()};
     for (std::size_t i = 0; i < found.size(); ++i)
         for (const AtomRef& pMember : found[i]->members)
-            if (pMember->IsContainer())
+            if (pMember->isContainer)
                 found.push_back(pMember.Get());
     return found;
 }
@@ -100,39 +65,33 @@ void Host::Called(Atom* pAbout)
 void Host::Announce(Op op, Atom* pAtom, Atom* pContainer)
 {
     const auto pHeld = AtomRef::Share(pAtom), pHeldContainer = AtomRef::Share(pContainer);
-    NotifyHandlers(nullptr, kWords[static_cast<std::size_t>(op)].second, pAtom, pContainer, 0);
+    NotifyHandlers(nullptr, kHostOperations[static_cast<std::size_t>(op)].operation, pAtom, pContainer, 0);
 }
 
-std::vector<int> Host::Handlers() const
+std::vector<int> Host::RegisteredViews() const
 {
     std::vector<int> views;
-    for (const auto& [cookie, pHandler] : m_handlers)
+    for (const auto& [cookie, pHandler] : Handlers())
         views.push_back(numbers.at(pHandler));
     return views;
 }
 
-DWORD Host::RegisterHandler(HWND, IAEStateHandler* handler)
+DWORD Host::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
 {
-    const DWORD cookie = ++m_nLastCookie;
-    m_handlers[cookie] = handler;
+    const DWORD cookie = HostEditor::RegisterHandler(hWnd, handler);
     Called(nullptr);
     return cookie;
 }
 
 BOOL Host::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
-                          DWORD)
+                          DWORD reserved)
 {
-    const Op op = OpOf(operation);
+    const Op op = static_cast<Op>(IndexOf(operation));
     Atom* const pAtom = Atom::As(atom);
     calls.push_back({sender ? numbers[sender] : kNobody, op, pAtom, Atom::As(container)});
     Called(pAtom);
-    BOOL bAgreed = !Vetoes(op, pAtom);
-    // Those who were there when it began, whether their windows are gone meanwhile or not.
-    for (const auto& [cookie, pHandler] : std::map(m_handlers)) {
-        if (pHandler != sender || !skipsSender)
-            bAgreed &= (pHandler->*operation)(atom, container) != FALSE;
-    }
-    return bAgreed;
+    const BOOL bAgreed = !Vetoes(op, pAtom);
+    return HostEditor::NotifyHandlers(sender, operation, atom, container, reserved) & bAgreed;
 }
 
 // A tree's pane comes with its window, which is no news.
@@ -150,77 +109,28 @@ CMenu* Host::CreateContextMenu()
 {
     calls.push_back({kNobody, Op::Menu, nullptr, nullptr});
     Called(nullptr);
-    auto pMenu = std::make_unique<CMenu>();
-    pMenu->CreatePopupMenu();
-    pMenu->AppendMenu(MF_STRING, 7, "Something");
-    return pMenu.release();
+    return HostEditor::CreateContextMenu();
 }
 
 BOOL Host::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
 {
-    const auto pairs = std::exchange(m_pairs, {});
-    return std::ranges::all_of(pairs, [&](const views::HeldPair& pair) {
+    const auto dragged = std::exchange(pairs, {});
+    return std::ranges::all_of(dragged, [&](const views::HeldPair& pair) {
         return callback(pair.pAtom.Get(), pair.pContainer.Get(), context) != FALSE;
     });
 }
 
-void Host::HoldDragged()
-{
-    DWORD nPairs = 0;
-    pDragged->OnGetActivePairs(nullptr, &nPairs);
-    std::vector<OBJPAIR> active(nPairs + 1);
-    pDragged->OnGetActivePairs(active.data(), &nPairs);
-    m_pairs.clear();
-    for (const auto& [pAtom, pContainer] : active)
-        if (views::HeldPair held{CStubRef<IAtom>::Adopt(pAtom), CStubRef<IAtomContainer>::Adopt(pContainer)}; held)
-            m_pairs.push_back(std::move(held));
-}
-
-DROPEFFECT Host::DoDragDrop(DWORD allowedEffects, DWORD)
+DROPEFFECT Host::DoDragDrop(DWORD allowedEffects, DWORD reserved)
 {
     Called(nullptr);
-    HoldDragged();
-    const auto pArchive = ArchiveRef::Adopt(ConstructMemoryArchive());
-    WriteActiveObjects(pArchive.Get());
-    STGMEDIUM medium{};
-    medium.tymed = TYMED_HGLOBAL;
-    medium.hGlobal = HGLOBALFromArchive(pArchive.Get());
-    if (!medium.hGlobal)
-        return DROPEFFECT_NONE; // nothing to drag
-    medium.pUnkForRelease = new CTransferFileOwner(medium.hGlobal);
-    COleDataSource source;
-    source.CacheData(format, &medium);
-    const DROPEFFECT effect = source.DoDragDrop(allowedEffects);
+    const DROPEFFECT effect = HostEditor::DoDragDrop(allowedEffects, reserved);
     if (effect != DROPEFFECT_MOVE)
-        m_pairs.clear();
+        pairs.clear();
     return effect;
 }
 
 BOOL Host::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
 {
     Called(nullptr);
-    std::istringstream names(BytesOf(archive));
-    for (std::string name; std::getline(names, name);) {
-        auto pAtom = AtomRef::Adopt(new Atom(*this, name));
-        Atom* const pObject = context ? pAtom.Get() : pAtom.Detach(); // the callback's without a context
-        if (!callback(pObject, context))
-            return FALSE;
-    }
-    return TRUE;
-}
-
-BOOL Host::WriteActiveObjects(IArchive* archive)
-{
-    std::string names;
-    for (const views::HeldPair& pair : m_pairs)
-        names += Atom::As(pair.pAtom.Get())->name + "\n";
-    SetBytes(archive, names);
-    return !m_pairs.empty();
-}
-
-void Host::GetActiveAtom(void** out, DWORD interfaceId)
-{
-    *out = nullptr;
-    if (pActive)
-        pActive->GetInterface(interfaceId, out);
+    return HostEditor::ReadArchive(callback, archive, context);
 }

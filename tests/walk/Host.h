@@ -3,8 +3,7 @@
 // Every call that a view makes of the host passes through Called, where a step may have armed something rude.
 #pragma once
 
-#include "Views/host/inside/HeldPair.h"
-#include "tests/kernel/FakeService.h"
+#include "tests/support/HostEditor.h"
 #include "tests/walk/Atom.h"
 
 #include <array>
@@ -48,24 +47,21 @@ struct Call
 using Calls = std::vector<Call>;
 std::string Print(const Calls& calls);
 
-class Host final : public IAtomEditor
+class Host final : public HostEditor
 {
 public:
     Host();
-    Host(const Host&) = delete;
 
     // What the world looks like.
     int nSerials = 0;
     std::set<Atom*> live;
     AtomRef pWorld;
-    std::vector<Atom*> Containers() const; // in the world, from the top down
-    AtomRef pActive;
+    std::vector<Atom*> Containers() const;                      // in the world, from the top down
     std::vector<AtomRef> former;                                // atoms that went, kept so that they can be told of
     void ForgetFormer();                                        // those that nobody else holds
     std::map<std::pair<HIMAGELIST, int>, const Atom*> pictures; // whose icon was put there last
 
     // How it behaves.
-    bool skipsSender = false;
     struct Veto
     {
         bool stands = false;
@@ -74,9 +70,6 @@ public:
     std::array<Veto, kOps> vetoes{};
     bool Vetoes(Op op, const Atom* pAtom) const;
     bool MayVeto(Op op) const { return vetoes[static_cast<std::size_t>(op)].stands; }
-    CLIPFORMAT format = 0;
-    HWND hMain = nullptr;
-    IAEStateHandler* pDragged = nullptr; // whose active atoms are dragged
 
     // What was said.
     Calls calls;
@@ -92,36 +85,21 @@ public:
 
     void Announce(Op op, Atom* pAtom, Atom* pContainer); // the editor's own word to all views
 
-    void AddRef() override { ++m_nReferences; }
-    void Release() override { --m_nReferences; }
-    int CountReferences() const { return m_nReferences; }
-    std::vector<int> Handlers() const; // the views that are registered, in that order
-    void GetInterface(DWORD, void** out) override { *out = nullptr; }
+    std::vector<int> RegisteredViews() const; // in that order
     DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
-    void UnregisterHandler(DWORD cookie) override { m_handlers.erase(cookie); }
     BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
                         DWORD reserved) override;
     void AddPane(DWORD kind, HWND hWnd, LPCSTR, HICON) override { ShowPane(kind, hWnd, true); }
     void RemovePane(DWORD kind, HWND hWnd) override { ShowPane(kind, hWnd, false); }
-    CMenu* CreateContextMenu() override; // one item, "Something"
-    HWND GetMainWindow() override { return hMain; }
+    CMenu* CreateContextMenu() override;
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override;
     DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) override;
-    // An archive is the names of its atoms, each with a line end.
     BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
-    BOOL WriteActiveObjects(IArchive* archive) override;
-    CLIPFORMAT GetClipboardFormat() override { return format; }
-    void GetActiveAtom(void** out, DWORD interfaceId) override;
 
 private:
+    IAtom* MakeAtom(const std::string& strName) override { return new Atom(*this, strName); }
     void ShowPane(DWORD kind, HWND hWnd, bool bShow);
-    void HoldDragged();
 
-    FakeService m_editorService;
-    std::map<DWORD, IAEStateHandler*> m_handlers; // by cookie
-    std::vector<views::HeldPair> m_pairs;         // being dragged
-    DWORD m_nLastCookie = 0;
-    int m_nReferences = 0;
     int m_nUntilRude = 0;
     std::function<void(Atom*)> m_rude;
 };

@@ -59,7 +59,7 @@ void Change(Walker& walker, const Step& step)
         pAtom->isModified = !pAtom->isModified;
         break;
     case 1:
-        pAtom->displayName = pAtom->displayName.empty() ? "shown" : "";
+        pAtom->displayName = pAtom->displayName ? std::nullopt : std::optional<std::string>("shown");
         break;
     case 2:
         pAtom->hasIcon = !pAtom->hasIcon;
@@ -109,7 +109,7 @@ void Veto(Walker& walker, const Step& step)
 
 void Activate(Walker& walker, const Step& step)
 {
-    walker.scene.host.pActive = step.a % 2 ? AtomRef::Share(walker.scene.host.pWorld.Get()) : nullptr;
+    walker.scene.host.active = step.a % 2 ? CStubRef<IAtom>::Share(walker.scene.host.pWorld.Get()) : nullptr;
     walker.Say(step.a % 2 ? "world" : "none");
 }
 

@@ -74,7 +74,7 @@ void ListModel::Load(Atom* pAtom)
     if (!m_bSync)
         return;
     Clear();
-    if (!pAtom || !pAtom->IsContainer()) {
+    if (!pAtom || !pAtom->isContainer) {
         if (std::exchange(m_bPaneShown, false))
             m_model.Say(m_view, Op::RemovePane, nullptr, nullptr);
         return;

@@ -30,7 +30,7 @@ int CompareText(const std::string& a, const std::string& b)
 
 int CompareAtoms(const Atom* a, const Atom* b)
 {
-    return a->IsLink() && b->IsLink() ? a->position - b->position : CompareText(a->name, b->name);
+    return a->isLink && b->isLink ? a->position - b->position : CompareText(a->name, b->name);
 }
 
 void ViewModel::LoseFocus()
@@ -76,7 +76,7 @@ void Model::BeginAgain()
 {
     for (int view = 0; view < kViews; ++view)
         m_views[static_cast<std::size_t>(view)] = NewModel(*this, view);
-    m_handlers = host.Handlers();
+    m_handlers = host.RegisteredViews();
     m_calls.clear();
     m_edit = Edit();
     m_focus = kOther;
@@ -158,7 +158,7 @@ void Model::Gain(int view, int former)
         return gainer.GainFocus();
     ++m_nFocusBlocks;
     const bool bFromSelChange = gainer.fromSelChange;
-    bool bWelcome = view == kPassive || !host.pActive || Ask(kNobody, Op::PreSave, host.pWorld.Get(), nullptr);
+    bool bWelcome = view == kPassive || !host.active || Ask(kNobody, Op::PreSave, host.pWorld.Get(), nullptr);
     if (bWelcome && view != kPassive)
         bWelcome = gainer.AnnounceSelection() || former == kNoFocus;
     if (bWelcome) {

@@ -39,7 +39,7 @@ Scene::Scene(std::uint64_t seed) : model(host, *this)
     m_views.push_back(MakeThumbList());
     m_views.push_back(std::make_unique<TreeView>(FALSE));
     m_views.push_back(std::make_unique<TreeView>(TRUE));
-    host.pDragged = &At(kIcons).Handler();
+    host.pSelected = &At(kIcons).Handler();
     other.SetFocus();
     for (int view = 0; view < kViews; ++view) {
         host.numbers[&At(view).Handler()] = view;
@@ -226,7 +226,7 @@ std::string Scene::Close()
     m_views.clear();
     AfxSetMainWnd(nullptr);
     frame.DestroyWindow();
-    host.pActive.Release();
+    host.active.Release();
     host.pWorld.Release();
     host.renamed.clear();
     host.former.clear();
@@ -236,7 +236,7 @@ std::string Scene::Close()
     for (std::size_t i = 0; i < counts.size(); ++i)
         counts[i].n -= m_counts[i].n;
     counts.push_back({"atoms", Atom::CountLive()});
-    counts.push_back({"handlers", static_cast<int>(host.Handlers().size())});
+    counts.push_back({"handlers", host.CountHandlers()});
     counts.push_back({"references to the editor", host.CountReferences()});
     std::string left;
     for (const auto& [pszWhat, n] : counts)

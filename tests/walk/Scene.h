@@ -4,7 +4,7 @@
 
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/headless/HeadlessDesktop.h"
-#include "tests/views/FakeArchive.h"
+#include "tests/support/FakeArchive.h"
 #include "tests/walk/Model.h"
 #include "tests/walk/Views.h"
 

@@ -53,7 +53,7 @@ std::string Walker::Do(const Step& step)
     scene.model.SetTime(scene.desktop.Ticks());
     // Where the focus cannot leave a label's field the field takes it along when it goes.
     const Host& host = scene.host;
-    if (scene.model.IsEditing() && (host.MayVeto(Op::Selecting) || (host.MayVeto(Op::PreSave) && host.pActive)))
+    if (scene.model.IsEditing() && (host.MayVeto(Op::Selecting) || (host.MayVeto(Op::PreSave) && host.active)))
         GoAstray(0);
     Kinds()[step.kind].perform(*this, step);
     scene.desktop.Run();

@@ -90,7 +90,7 @@ void TreeModel::AddItem(Atom* pAtom, Atom* pContainer)
     const auto place = std::ranges::find_if(
         siblings, [&](const auto& p) { return CompareText(p->pAtom->TreeLabel(), pAtom->TreeLabel()) > 0; });
     Item* const pItem = Insert(place, pParent, pAtom, pContainer);
-    if (!pAtom->IsContainer())
+    if (!pAtom->isContainer)
         return;
     for (const AtomRef& pMember : pAtom->members)
         AddItem(pMember.Get(), pAtom);
@@ -103,7 +103,7 @@ void TreeModel::RemoveAtom(Atom* pAtom, Atom* pContainer)
     Item* const pItem = ItemOf(pAtom);
     if (!pItem || (pContainer && !ItemOf(pContainer)))
         return;
-    if (pAtom->IsContainer())
+    if (pAtom->isContainer)
         for (const AtomRef& pMember : pAtom->members)
             RemoveAtom(pMember.Get(), pAtom);
     RemoveItem(pItem);

@@ -195,7 +195,7 @@ void Drag(Walker& walker, const Step& step)
     const CPoint at = walker.PickPoint(view, step.b, step.c);
     walker.Say(std::string(kViewNames[view]) + " to " + kViewNames[onto]);
     auto& desktop = walker.scene.desktop;
-    walker.scene.host.pDragged = &walker.scene.At(view).Handler();
+    walker.scene.host.pSelected = &walker.scene.At(view).Handler();
     if (!std::exchange(walker.dragIsPlanned, true))
         desktop.DuringDrag([&walker, onto, step] { PlayDrag(walker, onto, step); });
     desktop.Press(hWnd, at);

@@ -4,6 +4,7 @@
 #include "Views/host/host.h"
 #include "tests/kernel/FakeCounted.h"
 #include "tests/kernel/FakeService.h"
+#include "tests/support/HostEditor.h"
 
 #include <string>
 #include <utility>
@@ -62,5 +63,3 @@ public:
 using ArchiveRef = CStubRef<IArchive>;
 
 ArchiveRef Holding(const std::string& bytes); // a new one
-std::string BytesOf(IByteStream* pStream);
-void SetBytes(IByteStream* pStream, const std::string& bytes);

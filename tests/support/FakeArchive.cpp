@@ -1,8 +1,6 @@
-#include "tests/views/FakeArchive.h"
+#include "tests/support/FakeArchive.h"
 
 #include "Views/clipboard/clipboard.h"
-
-#include <cstring>
 
 void FakeStream::Seek(DWORD dwOffset, DWORD dwOrigin)
 {
@@ -37,16 +35,4 @@ ArchiveRef Holding(const std::string& bytes)
     SetBytes(pArchive.Get(), bytes);
     pArchive->Seek(0, 0);
     return pArchive;
-}
-
-std::string BytesOf(IByteStream* pStream)
-{
-    return {static_cast<const char*>(pStream->GetData()), pStream->GetLength()};
-}
-
-void SetBytes(IByteStream* pStream, const std::string& bytes)
-{
-    pStream->Seek(static_cast<DWORD>(bytes.size()), 0);
-    pStream->SetEnd();
-    std::memcpy(pStream->GetData(), bytes.data(), bytes.size());
 }
