@@ -31,16 +31,6 @@ void Give(Interface* p, void** out)
     *out = p;
 }
 
-template <class Members>
-void GiveMembers(const Members& members, UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
-{
-    for (UINT i = 0; i < nCount; ++i) {
-        ppOut[i] = nullptr;
-        if (nFirst + i < members.size())
-            members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
-    }
-}
-
 } // namespace
 
 int Look::AddToImageList(HIMAGELIST hImageList, int nReplace)
@@ -91,8 +81,43 @@ BOOL Atom::GetContainer(void** ppOut, DWORD dwInterfaceId)
     return *ppOut != nullptr;
 }
 
-Container::Container(std::span<const Sample> members, const Sample& self, Library* pLibrary)
-    : Look(self), m_pLibrary(pLibrary)
+template <class Kind>
+void Group<Kind>::GetInterface(DWORD id, void** out)
+{
+    *out = nullptr;
+    if (id == IID_IAtom)
+        Give(static_cast<IAtom*>(this), out);
+    else if (id == IID_IAtomContainer)
+        Give(static_cast<IAtomContainer*>(this), out);
+    else if (id == IID_IAtomIcon)
+        Give(static_cast<IAtomIcon*>(this), out);
+    else if (id == IID_ICharacterLibrary)
+        Give(static_cast<ICharacterLibrary*>(this), out);
+}
+
+template <class Kind>
+BOOL Group<Kind>::GetContainer(void** ppOut, DWORD dwInterfaceId)
+{
+    *ppOut = nullptr;
+    if (m_pOuter)
+        static_cast<CStubBaseInterface*>(m_pOuter)->GetInterface(dwInterfaceId, ppOut);
+    return *ppOut != nullptr;
+}
+
+template <class Kind>
+void Group<Kind>::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
+{
+    for (UINT i = 0; i < nCount; ++i) {
+        ppOut[i] = nullptr;
+        if (nFirst + i < m_members.size())
+            m_members[nFirst + i]->GetInterface(dwInterfaceId, &ppOut[i]);
+    }
+}
+
+template class Group<Atom>;
+template class Group<Container>;
+
+Container::Container(std::span<const Sample> members, const Sample& self, IAtom* pOuter) : Group(self, pOuter)
 {
     m_members.reserve(members.size());
     for (const Sample& member : members)
@@ -104,63 +129,13 @@ Atom& Container::Append(const Sample& sample)
     return *m_members.emplace_back(std::make_unique<Atom>(*this, sample, GetCount()));
 }
 
-void Container::GetInterface(DWORD id, void** out)
-{
-    *out = nullptr;
-    if (id == IID_IAtom)
-        Give(static_cast<IAtom*>(this), out);
-    else if (id == IID_IAtomContainer)
-        Give(static_cast<IAtomContainer*>(this), out);
-    else if (id == IID_IAtomIcon)
-        Give(static_cast<IAtomIcon*>(this), out);
-    else if (id == IID_ICharacterLibrary)
-        Give(static_cast<ICharacterLibrary*>(this), out);
-}
-
-BOOL Container::GetContainer(void** ppOut, DWORD dwInterfaceId)
-{
-    *ppOut = nullptr;
-    if (m_pLibrary)
-        m_pLibrary->GetInterface(dwInterfaceId, ppOut);
-    return *ppOut != nullptr;
-}
-
-void Container::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
-{
-    GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
-}
-
-Library::Library(std::span<const Sample> samples) : Look(samples[0])
+Library::Library(std::span<const Sample> samples) : Group(samples[0], nullptr)
 {
     const std::size_t nEach = (samples.size() - kContainers - 1) / kContainers;
     for (std::size_t i = 0; i < kContainers; ++i) {
         const auto members = samples.subspan(1 + kContainers + i * nEach, nEach);
         m_members.push_back(std::make_unique<Container>(members, samples[1 + i], this));
     }
-}
-
-void Library::GetInterface(DWORD id, void** out)
-{
-    *out = nullptr;
-    if (id == IID_IAtom)
-        Give(static_cast<IAtom*>(this), out);
-    else if (id == IID_IAtomContainer)
-        Give(static_cast<IAtomContainer*>(this), out);
-    else if (id == IID_IAtomIcon)
-        Give(static_cast<IAtomIcon*>(this), out);
-    else if (id == IID_ICharacterLibrary)
-        Give(static_cast<ICharacterLibrary*>(this), out);
-}
-
-BOOL Library::GetContainer(void** ppOut, DWORD)
-{
-    *ppOut = nullptr;
-    return FALSE;
-}
-
-void Library::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
-{
-    GiveMembers(m_members, nFirst, nCount, ppOut, dwInterfaceId);
 }
 
 void Announce(AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer)

@@ -71,13 +71,11 @@ private:
     int m_nReferences = 0;
 };
 
-// A container of atoms: at its own top, or in a library.
-class Container final : public FixedContainer, public ICharacterLibrary, public Look
+// A container with members of a kind: at its own top, or in another one.
+template <class Kind>
+class Group : public FixedContainer, public ICharacterLibrary, public Look
 {
 public:
-    explicit Container(unsigned nMembers) : Container(MakeSamples(nMembers)) {}
-    explicit Container(std::span<const Sample> members, const Sample& self = {}, class Library* pLibrary = nullptr);
-
     void AddRef() override { ++m_nReferences; }
     void Release() override { --m_nReferences; }
     void GetInterface(DWORD id, void** out) override;
@@ -87,40 +85,39 @@ public:
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
 
-    std::size_t MemberCount() const { return m_members.size(); }
-    Atom& Member(unsigned n) { return *m_members[n]; }
-    Atom& Append(const Sample& sample);
-    Atom& Append() { return Append(MakeSample(GetCount())); } // whose name comes after all others
-    void Truncate(unsigned nMembers) { m_members.resize(nMembers); }
+    Kind& Member(unsigned n) { return *m_members[n]; }
+
+protected:
+    Group(const Sample& self, IAtom* pOuter) : Look(self), m_pOuter(pOuter) {}
+    ~Group() = default;
+
+    std::vector<std::unique_ptr<Kind>> m_members;
 
 private:
-    Library* const m_pLibrary; // NULL: none
-    std::vector<std::unique_ptr<Atom>> m_members;
+    IAtom* const m_pOuter; // NULL: none
     int m_nReferences = 0;
 };
 
+class Container final : public Group<Atom>
+{
+public:
+    explicit Container(unsigned nMembers) : Container(MakeSamples(nMembers)) {}
+    explicit Container(std::span<const Sample> members, const Sample& self = {}, IAtom* pOuter = nullptr);
+
+    std::size_t MemberCount() const { return m_members.size(); }
+    Atom& Append(const Sample& sample);
+    Atom& Append() { return Append(MakeSample(GetCount())); } // whose name comes after all others
+    void Truncate(unsigned nMembers) { m_members.resize(nMembers); }
+};
+
 // A top with containers that have equal shares of n atoms.
-class Library final : public FixedContainer, public ICharacterLibrary, public Look
+class Library final : public Group<Container>
 {
 public:
     explicit Library(unsigned nAtoms) : Library(MakeSamples(nAtoms + kContainers + 1)) {}
 
-    void AddRef() override { ++m_nReferences; }
-    void Release() override { --m_nReferences; }
-    void GetInterface(DWORD id, void** out) override;
-    DWORD GetID() override { return 0; }
-    BOOL GetName(char* pBuffer, DWORD* pLength) override { return GiveName(pBuffer, pLength); }
-    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
-    UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
-    void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
-
-    Container& Member(unsigned n) { return *m_members[n]; }
-
 private:
     explicit Library(std::span<const Sample> samples); // its own, its containers', all others
-
-    std::vector<std::unique_ptr<Container>> m_members;
-    int m_nReferences = 0;
 };
 
 // The editor calls every handler but the sender.

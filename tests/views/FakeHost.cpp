@@ -34,8 +34,8 @@ std::string NameOf(IAtom* pAtom)
 
 BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
 {
-    if (!pBuffer && nameIsEndless) {
-        *pLength = 0xFFFFFFFF;
+    if (!pBuffer && announcedLength) {
+        *pLength = *announcedLength;
         return TRUE;
     }
     nNameReads += pBuffer != nullptr;

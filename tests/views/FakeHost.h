@@ -21,7 +21,7 @@ public:
     using HostAtom::HostAtom;
 
     bool nameFails = false;
-    bool nameIsEndless = false; // announces a length that no name has
+    std::optional<DWORD> announcedLength; // of the name, in place of its own
     bool displayNameFails = false;
     bool iconFails = false;
     bool iconNeedsTooMuch = false; // memory runs out while it is made

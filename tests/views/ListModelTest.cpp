@@ -128,6 +128,16 @@ TEST_F(ListModelTest, PastAThousandRowsEachNewOneTakesThePlaceOfTheOneHintedLong
               TakeHooks());
     EXPECT_EQ("", Shown(list, 287));
     EXPECT_EQ("11026 0", Shown(list, 1026));
+
+    // A row that goes has the others move up in the order of the walk, each put before the last one.
+    const AtomRef pRemoved = pBox->Remove(pBox->members.front().Get());
+    list.OnDeleteAtom(pRemoved.Get(), pBox);
+    TakeHooks();
+    Hint(list, 1026, 1028);
+    EXPECT_EQ(Ledger({"cache 1026 11027 in box \"11027\"", "cache 1027 11028 in box \"11028\"",
+                      "uncache 287 10288 in box \"10288\"", "cache 1028 11029 in box \"11029\"",
+                      "uncache 272 10273 in box \"10273\""}),
+              TakeHooks());
 }
 
 TEST_F(ListModelTest, ANameThatCannotBeReadIsReportedAndTriedAgainAndWithoutMemoryForItThereIsNoText)

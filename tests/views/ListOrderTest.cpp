@@ -82,7 +82,7 @@ TEST_F(ListOrderTest, AnyMembersComeInTheOrderOfTheComparator)
 TEST_F(ListOrderTest, ANameOfAnImpossibleLengthIsReportedAndEqualToAnyOther)
 {
     FakeContainer* const pBox = MakeBox({"b", "a"});
-    pBox->Named("a")->nameIsEndless = true;
+    pBox->Named("a")->announcedLength = 0xFFFFFFFF;
     EXPECT_EQ("[b a]", HideList(pBox).State());
     const std::vector<std::string> told = desktop.TakeMessageBoxes(); // as often as the sort compares the two
     EXPECT_EQ(std::set<std::string>{": Out of memory."}, std::set<std::string>(told.begin(), told.end()));

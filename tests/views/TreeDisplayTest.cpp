@@ -143,4 +143,37 @@ TEST_F(TreeDisplayTest, ImagesAreLentToItemsThatAreShown)
     }
 }
 
+TEST_F(TreeDisplayTest, DrawingManyItemsAsksAboutEachOfThemOnce)
+{
+    for (int i = 0; i < 300; ++i)
+        AddIcon(box, std::to_string(1000 + i));
+    ProbeTree& tree = ShowTree();
+    std::map<FakeAtom*, int> images;
+    for (const AtomRef& pMember : box->members)
+        images[pMember.Get()] = Ask(tree, pMember.Get(), TVIF_IMAGE).iImage;
+    for (std::size_t i = 300; i > 3; i -= 3) {
+        FakeAtom* const pChanged = box->members[i].Get();
+        tree.RefreshItem(pChanged);
+        EXPECT_EQ(images[pChanged], Ask(tree, pChanged, TVIF_IMAGE).iImage);
+    }
+    EXPECT_LE(tree.nRects, 800);
+}
+
+TEST_F(TreeDisplayTest, TheMarkIsAppendedInTheOneBufferWhateverTheNameAnnounces)
+{
+    a->isModified = true;
+    ProbeTree& tree = ShowTree();
+    a->name = "a name that is longer than all others";
+    const LPSTR pszBuffer = Ask(tree, a, TVIF_TEXT).pszText;
+    const std::tuple<const char*, DWORD, const char*> rows[] = {
+        {"name", 5, "name *"}, {"abcdef", 4, "abcd *"}, {"", 6, " *"}, {"abc", 0, " *"}};
+    for (const auto& [pszName, nLength, pszLabel] : rows) {
+        a->name = pszName;
+        a->announcedLength = nLength;
+        EXPECT_STREQ(pszLabel, Ask(tree, a, TVIF_TEXT).pszText);
+    }
+    a->announcedLength.reset();
+    EXPECT_EQ(pszBuffer, Ask(tree, a, TVIF_TEXT).pszText);
+}
+
 } // namespace

@@ -20,10 +20,18 @@ public:
     CPoint PointOf(FakeAtom* pAtom) const;       // the middle of its label
 
     int nLabels = 0; // answered
+    int nRects = 0;  // of items, asked for
     std::function<void(TVDISPINFO*)> onDispInfo;
+
+    using CObjectsTree::RefreshItem;
 
 protected:
     void OnGetDispInfo(TVDISPINFO* pInfo) override;
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        nRects += message == TVM_GETITEMRECT;
+        return CObjectsTree::WindowProc(message, wParam, lParam);
+    }
 };
 
 class TreeTest : public ViewTest
