@@ -1,4 +1,4 @@
-// Dragging atoms out of the views and dropping them on them, their menus, and renaming in place.
+// Dragging atoms out of the views and dropping them on them, their menus, and what else they do alike.
 #include "Toolkit/exchange/ClipboardFormat.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/tree/TreeDropTarget.h"
@@ -242,33 +242,21 @@ TEST_F(DragTest, TheMenuIsTheEditorsAndStandsAtTheCursor)
     }
 }
 
-TEST_F(DragTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
+TEST_F(DragTest, TheFieldOfANewNameMovesWithItsRowAndOnlyTheListNeedsAnEditor)
 {
     desktop.Click(list->m_hWnd, RowPoint(1));
-    editor.TakeLedger();
-    ASSERT_TRUE(list->OnAtomRename(nullptr, nullptr)); // the request of the editor, as its key makes it
-    EXPECT_EQ(Ledger({"box permits b", "list asks PreRenameAtom(b in box)"}), editor.TakeLedger());
-    const AtomRef pRemoved = pBox->Remove(pBox->Named("a")); // rows move, and the field with them
+    ASSERT_TRUE(list->OnAtomRename(nullptr, nullptr));
+    const AtomRef pRemoved = pBox->Remove(pBox->Named("a"));
     list->OnDeleteAtom(pRemoved.Get(), pBox);
     desktop.Type("x");
     desktop.Key(VK_RETURN);
-    const Ledger told = editor.TakeLedger();
-    for (const char* pszLine :
-         {"box renames b to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(b in box)"})
-        EXPECT_EQ(1, std::ranges::count(told, pszLine)) << pszLine;
     EXPECT_EQ("[(*c) x]", list->State());
-
-    ASSERT_TRUE(list->OnAtomRename(nullptr, nullptr));
-    pBox->Named("c")->name = "c!";
-    desktop.Key(VK_RETURN); // the field left as it is undoes nothing
-    EXPECT_EQ("c! x", Members(pBox));
 
     tree->SelectItem(tree->GetItem(pBag));
     list->SetRootAtom(pBox); // it has followed the tree
     desktop.Click(list->m_hWnd, RowPoint(1));
-    EXPECT_FALSE(tree->OnAtomRename(nullptr, nullptr)); // not permitted
     world->permissions = APF_RENAME;
-    editor.Uninstall(); // without an editor the list does not rename, the tree does not ask
+    editor.Uninstall();
     EXPECT_FALSE(list->OnAtomRename(nullptr, nullptr));
     EXPECT_TRUE(tree->OnAtomRename(nullptr, nullptr));
     desktop.Key(VK_ESCAPE);
@@ -278,6 +266,132 @@ TEST_F(DragTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
     MakeViews(true);
     tree->SelectItem(tree->GetItem(pBag));
     EXPECT_FALSE(tree->OnAtomRename(nullptr, nullptr));
+}
+
+// What list and tree promise alike: each by itself, with the box's members in it.
+class EachViewTest : public DragTest, public testing::WithParamInterface<const char*>
+{
+protected:
+    EachViewTest()
+    {
+        if (IsList())
+            tree.reset();
+        else
+            list.reset();
+        if (tree)
+            tree->Expand(tree->GetItem(pBox), TVE_EXPAND);
+        Click("a");
+        editor.active = CStubRef<IAtom>::Share(pBox); // which would be saved
+    }
+    bool IsList() const { return GetParam() == std::string("list"); }
+    CWnd& View() const { return IsList() ? static_cast<CWnd&>(*list) : *tree; }
+    IAEStateHandler& Handler() const { return IsList() ? static_cast<IAEStateHandler&>(*list) : *tree; }
+    CPoint PointOf(const char* pszName) const
+    {
+        FakeAtom* const pAtom = pBox->Named(pszName);
+        const auto nRow = std::ranges::find(pBox->members, pAtom, &AtomRef::Get) - pBox->members.begin();
+        return IsList() ? RowPoint(static_cast<int>(nRow)) : ItemPoint(pAtom);
+    }
+    void Click(const char* pszName)
+    {
+        desktop.Click(View().m_hWnd, PointOf(pszName));
+        editor.TakeLedger();
+    }
+    void SelectElsewhere(const char* pszName) const // as the editor tells of it
+    {
+        const auto operation = IsList() ? &IAEStateHandler::OnAtomSelected : &IAEStateHandler::OnAtomEntered;
+        (Handler().*operation)(pBox->Named(pszName), pBox);
+    }
+    std::string Selected() const // "-" for none
+    {
+        const int nRow = IsList() ? list->GetNextItem(-1, LVNI_SELECTED) : -1;
+        CStubRef<IAtom> pAtom;
+        if (tree)
+            tree->GetSelectedAtom(pAtom.Receive(), IID_IAtom);
+        return NameOf(nRow < 0 ? pAtom.Get() : list->Pair(nRow)->pAtom);
+    }
+    std::string Line(const char* pszSays) const { return GetParam() + std::string(" ") + pszSays; }
+};
+
+INSTANTIATE_TEST_SUITE_P(Views, EachViewTest, testing::Values("list", "tree"),
+                         [](const auto& suite) { return std::string(suite.param); });
+
+TEST_P(EachViewTest, ARefusedSaveSendsTheFocusBackAndDropsThePressAndItsDoubleClick)
+{
+    field.SetFocus();
+    editor.Veto(&IAEStateHandler::PreSaveAtom);
+    editor.TakeLedger();
+    desktop.DoubleClick(View().m_hWnd, PointOf("b"));
+    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)"}), editor.TakeLedger());
+    EXPECT_TRUE(HasFocus(field));
+    EXPECT_EQ("a", Selected());
+    editor.Allow();
+    Click("b");
+    EXPECT_TRUE(HasFocus(View()));
+    EXPECT_EQ("b", Selected());
+}
+
+TEST_P(EachViewTest, TheSelectionIsAnnouncedWithTheFocusButNotInABlockAndNotWhenItCameFromElsewhere)
+{
+    const Ledger announced{"nobody asks PreSaveAtom(world in -)", Line("asks OnAtomSelecting(a in box)"),
+                           Line("tells OnAtomSelected(a in box)")};
+    field.SetFocus();
+    View().SetFocus();
+    EXPECT_EQ(announced, editor.TakeLedger());
+    field.SetFocus();
+    {
+        const FocusBlock block;
+        View().SetFocus();
+        EXPECT_TRUE(HasFocus(View()));
+        EXPECT_EQ(Ledger(), editor.TakeLedger());
+    }
+    field.SetFocus();
+    editor.onNotify = [&](AEStateOperation, IAtom*) {
+        editor.onNotify = nullptr;
+        field.SetFocus();
+    };
+    View().SetFocus();
+    EXPECT_TRUE(HasFocus(field)) << "where whoever was asked has moved it";
+    editor.TakeLedger();
+    SelectElsewhere("b");
+    View().SetFocus();
+    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), announced[1]));
+}
+
+TEST_P(EachViewTest, AVetoKeepsAnAtomFromBeingSelectedAndFromBeingRenamed)
+{
+    editor.Veto(&IAEStateHandler::OnAtomSelecting, "b");
+    desktop.Click(View().m_hWnd, PointOf("b"));
+    EXPECT_NE("b", Selected());
+    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), Line("tells OnAtomSelected(b in box)")));
+
+    Click("c");
+    editor.Veto(&IAEStateHandler::PreRenameAtom);
+    EXPECT_FALSE(Handler().OnAtomRename(nullptr, nullptr));
+    EXPECT_EQ(Ledger({"box permits c", Line("asks PreRenameAtom(c in box)")}), editor.TakeLedger());
+    pBox->permissions = 0;
+    EXPECT_FALSE(Handler().OnAtomRename(nullptr, nullptr));
+    EXPECT_EQ(Ledger({"box permits c"}), editor.TakeLedger());
+}
+
+TEST_P(EachViewTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
+{
+    Click("b");
+    ASSERT_TRUE(Handler().OnAtomRename(nullptr, nullptr)); // the request of the editor, as its key makes it
+    EXPECT_EQ(Ledger({"box permits b", Line("asks PreRenameAtom(b in box)")}), editor.TakeLedger());
+    desktop.Type("x");
+    desktop.Key(VK_RETURN);
+    const Ledger told = editor.TakeLedger();
+    for (const char* pszLine :
+         {"box renames b to x", "nobody tells OnCreateAtom(x in box)", "nobody tells OnDeleteAtom(b in box)"})
+        EXPECT_EQ(1, std::ranges::count(told, pszLine)) << pszLine;
+    EXPECT_EQ("a c x", Members(pBox));
+
+    const std::string selected = Selected();
+    ASSERT_TRUE(Handler().OnAtomRename(nullptr, nullptr));
+    pBox->Named(selected)->name += "!";
+    desktop.Key(VK_RETURN); // the field left as it is undoes nothing
+    EXPECT_NE(nullptr, pBox->Named(selected + "!"));
 }
 
 } // namespace

@@ -65,23 +65,6 @@ TEST_F(ListEventsTest, AClickIsAskedForAndThenToldAndNewsOfAtomsChangeRows)
     EXPECT_EQ("[a c d]", list.State());
 }
 
-TEST_F(ListEventsTest, ARefusedSaveSendsTheFocusBackAndDropsTheClick)
-{
-    list.OnAtomSelected(box->Named("b"), box);
-    field.SetFocus();
-    editor.active = CStubRef<IAtom>::Share(box);
-    editor.Veto(&IAEStateHandler::PreSaveAtom);
-    editor.TakeLedger();
-    const Ledger save{"nobody asks PreSaveAtom(world in -)"};
-    Click(list, 2);
-    EXPECT_TRUE(HasFocus(field));
-    EXPECT_EQ("[a *b c d]", list.State());
-    EXPECT_EQ(save, editor.TakeLedger());
-    editor.Allow();
-    list.SetFocus(); // an ordinary one again
-    EXPECT_EQ("list tells OnAtomSelected(b in box)", editor.TakeLedger().back());
-}
-
 TEST_F(ListEventsTest, WhereverItsNameHasLedItAnAtomIsFoundAndSeen)
 {
     for (int i = 10; i < 90; ++i)
