@@ -1,7 +1,7 @@
 #include "Editor/disk/FolderWatch.h"
 
 #include "Editor/disk/DiskFile.h"
-#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <algorithm>
 #include <chrono>
