@@ -2,16 +2,13 @@
 
 #include "Toolkit/handle/WindowRecord.h"
 
-toolkit::WindowHold::WindowHold(WindowRecord& window) : m_pWindow(&window)
-{
-    ++window.nHolds;
-}
-
-toolkit::WindowHold::WindowHold(HWND hWnd) : m_pWindow(FindRecord(hWnd))
+toolkit::WindowHold::WindowHold(WindowRecord* pWindow) : m_pWindow(pWindow)
 {
     if (m_pWindow)
         ++m_pWindow->nHolds;
 }
+
+toolkit::WindowHold::WindowHold(HWND hWnd) : WindowHold(FindRecord(hWnd)) {}
 
 toolkit::WindowHold::~WindowHold()
 {

@@ -27,8 +27,8 @@ public:
 class TOOLKIT_API WindowHold
 {
 public:
-    explicit WindowHold(WindowRecord& window);
-    explicit WindowHold(HWND hWnd); // holds nothing when it is stale
+    explicit WindowHold(WindowRecord* pWindow); // NULL: holds nothing
+    explicit WindowHold(HWND hWnd);
     ~WindowHold();
     WindowHold(const WindowHold&) = delete;
     WindowHold& operator=(const WindowHold&) = delete;
