@@ -2,7 +2,7 @@
 
 #include "QtDesktop/InputMethod.h"
 #include "QtDesktop/Keys.h"
-#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/WindowDC.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <QGuiApplication>

@@ -10,7 +10,6 @@ inline constexpr DWORD TYMED_NULL = 0;
 inline constexpr DWORD TYMED_HGLOBAL = 1;
 inline constexpr DWORD TYMED_FILE = 2;
 inline constexpr DWORD TYMED_ISTREAM = 4;
-inline constexpr DWORD TYMED_ISTORAGE = 8;
 
 inline constexpr DWORD DVASPECT_CONTENT = 1;
 

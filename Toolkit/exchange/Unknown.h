@@ -8,7 +8,6 @@ using ULONG = DWORD;
 
 inline constexpr HRESULT S_OK = 0;
 inline constexpr HRESULT E_NOINTERFACE = static_cast<HRESULT>(0x80004002);
-inline constexpr HRESULT E_POINTER = static_cast<HRESULT>(0x80004003);
 constexpr bool SUCCEEDED(HRESULT hr)
 {
     return hr >= 0;

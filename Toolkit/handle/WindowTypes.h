@@ -12,7 +12,6 @@ inline constexpr DWORD WS_CLIPCHILDREN = 0x02000000;
 inline constexpr DWORD WS_BORDER = 0x00800000; // a line of one pixel
 inline constexpr DWORD WS_VSCROLL = 0x00200000;
 inline constexpr DWORD WS_HSCROLL = 0x00100000;
-inline constexpr DWORD WS_TABSTOP = 0x00010000;
 inline constexpr DWORD WS_OVERLAPPED = 0x00000000;
 inline constexpr DWORD WS_EX_CLIENTEDGE = 0x00000200; // an edge of kClientEdge pixels
 inline constexpr int kClientEdge = 1;                 // flat: one line on each side

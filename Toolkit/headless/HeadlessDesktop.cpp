@@ -4,7 +4,7 @@
 #include "Toolkit/headless/HeadlessDrag.h"
 #include "Toolkit/input/MouseInput.h"
 #include "Toolkit/menu/MessageBox.h"
-#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/WindowDC.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <chrono>

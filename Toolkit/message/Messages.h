@@ -9,7 +9,6 @@ inline constexpr UINT WM_MOVE = 0x0003;
 inline constexpr UINT WM_SIZE = 0x0005;
 inline constexpr UINT WM_SETFOCUS = 0x0007;
 inline constexpr UINT WM_KILLFOCUS = 0x0008;
-inline constexpr UINT WM_SETREDRAW = 0x000B;
 inline constexpr UINT WM_SETTEXT = 0x000C;
 inline constexpr UINT WM_GETTEXT = 0x000D;
 inline constexpr UINT WM_GETTEXTLENGTH = 0x000E;
@@ -142,7 +141,6 @@ inline constexpr UINT NM_CLICK = NotifyCode(-2);
 inline constexpr UINT NM_DBLCLK = NotifyCode(-3);
 inline constexpr UINT NM_RETURN = NotifyCode(-4);
 inline constexpr UINT NM_RCLICK = NotifyCode(-5);
-inline constexpr UINT NM_RDBLCLK = NotifyCode(-6);
 inline constexpr UINT NM_SETFOCUS = NotifyCode(-7);
 inline constexpr UINT NM_KILLFOCUS = NotifyCode(-8);
 

@@ -33,27 +33,6 @@ auto FindTimer(HWND hWnd, UINT_PTR nID, toolkit::TimerProc proc)
     });
 }
 
-void Start(HWND hWnd, UINT_PTR nID, toolkit::TimerProc proc, DWORD period)
-{
-    const DWORD nPeriod = std::clamp<DWORD>(period, kShortest, 0x7FFFFFFF);
-    const Timer timer{hWnd, nID, proc, nPeriod, toolkit::CurrentDesktop().Ticks() + nPeriod};
-    const auto it = FindTimer(hWnd, nID, proc);
-    if (it != s_timers.end())
-        *it = timer;
-    else
-        s_timers.push_back(timer);
-    toolkit::UpdateWake();
-}
-
-bool Stop(HWND hWnd, UINT_PTR nID, toolkit::TimerProc proc)
-{
-    const auto it = FindTimer(hWnd, nID, proc);
-    if (it == s_timers.end())
-        return false;
-    s_timers.erase(it);
-    return true;
-}
-
 auto Earliest()
 {
     const DWORD now = toolkit::CurrentDesktop().Ticks();
@@ -104,14 +83,25 @@ void toolkit::DropTimers(HWND hWnd)
     std::erase_if(s_timers, [hWnd](const Timer& timer) { return timer.hWnd == hWnd; });
 }
 
-void toolkit::StartTimer(HWND hWnd, TimerProc proc, DWORD nMilliseconds)
+void toolkit::StartTimer(HWND hWnd, TimerProc proc, DWORD nMilliseconds, UINT_PTR nID)
 {
-    Start(hWnd, 0, proc, nMilliseconds);
+    const DWORD nPeriod = std::clamp<DWORD>(nMilliseconds, kShortest, 0x7FFFFFFF);
+    const Timer timer{hWnd, nID, proc, nPeriod, CurrentDesktop().Ticks() + nPeriod};
+    const auto it = FindTimer(hWnd, nID, proc);
+    if (it != s_timers.end())
+        *it = timer;
+    else
+        s_timers.push_back(timer);
+    UpdateWake();
 }
 
-void toolkit::StopTimer(HWND hWnd, TimerProc proc)
+bool toolkit::StopTimer(HWND hWnd, TimerProc proc, UINT_PTR nID)
 {
-    Stop(hWnd, 0, proc);
+    const auto it = FindTimer(hWnd, nID, proc);
+    if (it == s_timers.end())
+        return false;
+    s_timers.erase(it);
+    return true;
 }
 
 UINT_PTR SetTimer(HWND hWnd, UINT_PTR nID, UINT nElapse)
@@ -119,11 +109,11 @@ UINT_PTR SetTimer(HWND hWnd, UINT_PTR nID, UINT nElapse)
     if (!IsWindow(hWnd))
         return 0;
     const UINT_PTR nTaken = nID == 0 ? 1 : nID; // 0 is the answer of a refusal
-    Start(hWnd, nTaken, nullptr, nElapse);
+    toolkit::StartTimer(hWnd, nullptr, nElapse, nTaken);
     return nTaken;
 }
 
 BOOL KillTimer(HWND hWnd, UINT_PTR nID)
 {
-    return Stop(hWnd, nID == 0 ? 1 : nID, nullptr);
+    return toolkit::StopTimer(hWnd, nullptr, nID == 0 ? 1 : nID);
 }

@@ -16,8 +16,8 @@ std::optional<DWORD> NextTimer(); // the tick at which the next one is due
 int CountTimers();
 void DropTimers(HWND hWnd);
 
-// Calls the function instead of sending WM_TIMER.
+// Calls the function instead of sending WM_TIMER, which NULL stands for.
 using TimerProc = void (*)();
-void StartTimer(HWND hWnd, TimerProc proc, DWORD nMilliseconds);
-void StopTimer(HWND hWnd, TimerProc proc);
+void StartTimer(HWND hWnd, TimerProc proc, DWORD nMilliseconds, UINT_PTR nID = 0);
+bool StopTimer(HWND hWnd, TimerProc proc, UINT_PTR nID = 0); // false when there is none
 } // namespace toolkit

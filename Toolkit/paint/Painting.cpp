@@ -5,7 +5,6 @@
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/message/Dispatch.h"
 #include "Toolkit/message/Queue.h"
-#include "Toolkit/paint/Presenting.h"
 #include "Toolkit/paint/UpdateRegion.h"
 #include "Toolkit/paint/WindowDC.h"
 

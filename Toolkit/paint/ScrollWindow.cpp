@@ -2,8 +2,8 @@
 
 #include "Toolkit/handle/VisibleRegion.h"
 #include "Toolkit/handle/WindowGeometry.h"
-#include "Toolkit/paint/Presenting.h"
 #include "Toolkit/paint/UpdateRegion.h"
+#include "Toolkit/paint/WindowDC.h"
 
 #include <algorithm>
 #include <cstring>

@@ -1,4 +1,4 @@
-// Device contexts that draw on windows.
+// The top-level windows' surfaces, the device contexts that draw on them, and what the desktop has not seen yet.
 #pragma once
 
 #include "Toolkit/graphics/Region.h"
@@ -10,6 +10,15 @@ TOOLKIT_API int ReleaseDC(HWND hWnd, HDC hdc);
 namespace toolkit
 {
 struct WindowRecord;
+class Surface;
+
+// A top-level window's picture as last painted; NULL for a stale handle.
+TOOLKIT_API const Surface* WindowSurface(HWND hTop);
+
+// The top-level window's surface in its present size. Device contexts of a replaced one end.
+Surface& SurfaceOf(WindowRecord& top);
+void NotePainted(WindowRecord& top, const CRect& area); // pixels of the surface that the desktop has not seen yet
+void PresentPainted();                                  // hands the desktop what was painted since the last time
 
 // Shifted to `origin` and clipped to `clip`, both on the top-level window's surface. It ends, and is refused from
 // then on, when the window goes or the surface is replaced. NULL without memory for it.

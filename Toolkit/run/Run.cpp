@@ -4,7 +4,6 @@
 #include "Toolkit/base/Ticks.h"
 #include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/input/InputHandling.h"
-#include "Toolkit/input/KeyInput.h"
 #include "Toolkit/message/Queue.h"
 #include "Toolkit/message/Timers.h"
 #include "Toolkit/paint/Painting.h"

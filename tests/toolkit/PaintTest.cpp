@@ -1,7 +1,7 @@
 // Painting, looked at pixel by pixel: each window fills itself with a letter's colour, a picture is rows of letters.
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/WindowDC.h"
 #include "Toolkit/run/Run.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"

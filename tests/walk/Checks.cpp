@@ -1,4 +1,4 @@
-#include "Toolkit/paint/Presenting.h"
+#include "Toolkit/paint/WindowDC.h"
 #include "tests/walk/Scene.h"
 
 #include <algorithm>
