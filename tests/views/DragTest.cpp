@@ -374,6 +374,18 @@ TEST_P(EachViewTest, AVetoKeepsAnAtomFromBeingSelectedAndFromBeingRenamed)
     EXPECT_EQ(Ledger({"box permits c"}), editor.TakeLedger());
 }
 
+TEST_P(EachViewTest, AnAtomThatGoesWhileItsRenamingIsAskedForIsNotRenamed)
+{
+    Click("b");
+    editor.onNotify = [&](AEStateOperation, IAtom*) {
+        editor.onNotify = nullptr;
+        const AtomRef pRemoved = pBox->Remove(pBox->Named("b"));
+        Handler().OnDeleteAtom(pRemoved.Get(), pBox);
+    };
+    EXPECT_FALSE(Handler().OnAtomRename(nullptr, nullptr)); // nor is the one that stands in its place now
+    EXPECT_EQ("c", Selected());
+}
+
 TEST_P(EachViewTest, ANewNameGoesToTheContainerAndComesBackAsANewAtom)
 {
     Click("b");
