@@ -1,9 +1,9 @@
 #include "Editor/frame/Content.h"
 
-#include "Editor/frame/Look.h"
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/resources/Pictograms.h"
+#include "Editor/widgets/Look.h"
 
 namespace editor
 {

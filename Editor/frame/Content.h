@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/frame/EditorList.h"
-#include "Editor/frame/Pane.h"
 #include "Editor/frame/PictureView.h"
+#include "Editor/widgets/Pane.h"
 
 namespace editor
 {

@@ -1,9 +1,9 @@
 #include "Editor/frame/MainFrame.h"
 
-#include "Editor/frame/Look.h"
 #include "Editor/frame/StatusText.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/menu/MessageBox.h"
 
 #include <utility>

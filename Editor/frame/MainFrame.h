@@ -4,11 +4,11 @@
 #include "Editor/frame/DiskFollower.h"
 #include "Editor/frame/EditorTree.h"
 #include "Editor/frame/FrameCommands.h"
-#include "Editor/frame/PaneLayout.h"
-#include "Editor/frame/PathBar.h"
-#include "Editor/frame/Splitter.h"
-#include "Editor/frame/StatusBar.h"
 #include "Editor/model/Library.h"
+#include "Editor/widgets/PaneLayout.h"
+#include "Editor/widgets/PathBar.h"
+#include "Editor/widgets/Splitter.h"
+#include "Editor/widgets/StatusBar.h"
 #include "Views/host/StateHandler.h"
 
 namespace editor

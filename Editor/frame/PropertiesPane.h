@@ -1,8 +1,8 @@
 // The strip with what can be set of the selected phases.
 #pragma once
 
-#include "Editor/frame/NumberField.h"
 #include "Editor/model/Phase.h"
+#include "Editor/widgets/NumberField.h"
 
 #include <functional>
 #include <string>

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Editor/frame/EditorList.h"
-#include "Editor/frame/StatusBar.h"
 #include "Editor/model/Member.h"
 #include "Editor/pictures/PictureStore.h"
+#include "Editor/widgets/StatusBar.h"
 
 namespace editor
 {

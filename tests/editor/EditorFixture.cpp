@@ -1,6 +1,6 @@
 #include "tests/editor/EditorFixture.h"
 
-#include "Editor/frame/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Editor/objects/LiveObjects.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "Editor/frame/Look.h"
+#include "Editor/widgets/Look.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <algorithm>

@@ -1,5 +1,5 @@
 // Tree and list side by side, each following the other.
-#include "Editor/frame/CrumbLayout.h"
+#include "Editor/widgets/CrumbLayout.h"
 #include "tests/editor/EditorFixture.h"
 #include "tests/editor/StateSpy.h"
 

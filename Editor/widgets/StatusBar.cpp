@@ -1,6 +1,6 @@
-#include "Editor/frame/StatusBar.h"
+#include "Editor/widgets/StatusBar.h"
 
-#include "Editor/frame/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 namespace editor

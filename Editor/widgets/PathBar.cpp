@@ -1,7 +1,7 @@
-#include "Editor/frame/PathBar.h"
+#include "Editor/widgets/PathBar.h"
 
-#include "Editor/frame/Look.h"
 #include "Editor/resources/Pictograms.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>

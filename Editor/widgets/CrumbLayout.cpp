@@ -1,4 +1,4 @@
-#include "Editor/frame/CrumbLayout.h"
+#include "Editor/widgets/CrumbLayout.h"
 
 namespace editor
 {

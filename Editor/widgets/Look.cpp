@@ -1,4 +1,4 @@
-#include "Editor/frame/Look.h"
+#include "Editor/widgets/Look.h"
 
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"

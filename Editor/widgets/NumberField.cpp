@@ -1,4 +1,4 @@
-#include "Editor/frame/NumberField.h"
+#include "Editor/widgets/NumberField.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
-#include "Editor/frame/Splitter.h"
+#include "Editor/widgets/Splitter.h"
 
-#include "Editor/frame/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/SysColors.h"
 

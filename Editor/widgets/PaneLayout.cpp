@@ -1,7 +1,7 @@
-#include "Editor/frame/PaneLayout.h"
+#include "Editor/widgets/PaneLayout.h"
 
-#include "Editor/frame/Look.h"
-#include "Editor/frame/Splitter.h"
+#include "Editor/widgets/Look.h"
+#include "Editor/widgets/Splitter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 // The bar at the top: a button that leads up, and the path to what is shown, each part of which leads there.
 #pragma once
 
-#include "Editor/frame/CrumbLayout.h"
+#include "Editor/widgets/CrumbLayout.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
