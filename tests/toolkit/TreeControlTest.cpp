@@ -109,6 +109,15 @@ TEST_F(TreeControlTest, TheSelectionLeavesWhatIsDeletedAndAnOwnerMayDeleteMeanwh
     tree.DeleteItem((*this)["b"]);
     EXPECT_EQ("f", State());
     EXPECT_EQ(Ledger({"deleted c", "deleted d", "deleted b", "deleted e", "deleted a"}), TakeLedger());
+
+    Fill("a [b [c] d] f");
+    tree.meanwhile = [this](const std::string& line) {
+        if (line == "deleted c")
+            tree.DeleteItem((*this)["b"]); // which the deletion of a was to go on from
+    };
+    tree.DeleteItem((*this)["a"]);
+    EXPECT_EQ("f", State());
+    EXPECT_EQ(Ledger({"deleted c", "deleted b", "deleted d", "deleted a"}), TakeLedger());
 }
 
 TEST_F(TreeControlTest, TypingFindsTheNextShownLabelThatBeginsSo)

@@ -64,8 +64,12 @@ void TreeContent::DeleteBranch(HTREEITEM hTop)
     CancelLabelWithin(hTop);
     for (HTREEITEM hItem = hTop;;) {
         const ItemIndex item = m_items.Find(hItem);
-        if (item == kNoItem)
+        if (item == kNoItem && hItem == hTop)
             return;
+        if (item == kNoItem) {
+            hItem = hTop; // a handler has deleted what it was to go on from
+            continue;
+        }
         m_items[item].goes = true;
         const ItemIndex child = m_items.FirstChild(item);
         if (child != kNoItem) {
