@@ -24,7 +24,7 @@ LRESULT AfterException(toolkit::WindowRecord& window, UINT message, CException& 
 
 LRESULT toolkit::CallWindow(WindowRecord& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const WindowHold hold(window);
+    const WindowHold hold(&window);
     try {
         MessageReceiver& receiver = window.pWnd ? *window.pWnd : *window.pNative;
         return receiver.HandleMessage(message, wParam, lParam);
