@@ -76,6 +76,8 @@ int AskMessageBox(QWidget* pOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType
         new QMessageBox(Icon(nType), QString::fromUtf8(pszCaption), QString::fromUtf8(pszText), buttons, pOwner);
     pBox->setTextFormat(Qt::PlainText); // a file's name is no markup
     pBox->setEscapeButton(closing);
+    if (nType & MB_DEFBUTTON2)
+        pBox->setDefaultButton(buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Cancel);
     const int nAnswer = pBox->exec();
     if (!pBox)
         return ToIdentifier(closing);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/frame/DropTargets.h"
+#include "Editor/frame/NameField.h"
 #include "Views/host/StubRef.h"
 #include "Views/list/list.h"
 
@@ -130,6 +131,7 @@ protected:
         CRect dirty;
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
+        SelectStem(message, wParam, lParam);
         if (message == WM_CREATE && nResult != -1) {
             View::GetDropTarget().Revoke();
             m_target.Register(this);

@@ -1,5 +1,6 @@
 #include "Editor/frame/EditorTree.h"
 
+#include "Editor/frame/NameField.h"
 #include "Editor/model/Folder.h"
 
 #include <set>
@@ -117,6 +118,13 @@ BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)
         return FALSE;
     cs.dwExStyle &= ~WS_EX_CLIENTEDGE;
     return TRUE;
+}
+
+LRESULT CEditorTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const LRESULT nResult = CObjectsTree::WindowProc(message, wParam, lParam);
+    SelectStem(message, wParam, lParam);
+    return nResult;
 }
 
 void CEditorTree::OnGetDispInfo(TVDISPINFO* pInfo)

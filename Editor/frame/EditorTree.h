@@ -30,6 +30,7 @@ public:
 
 protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnGetDispInfo(TVDISPINFO* pInfo) override;
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);

@@ -14,10 +14,10 @@ namespace editor
 namespace
 {
 
-bool UserAgrees(const std::string& question)
+bool UserAgrees(const std::string& question, UINT nDefault = 0)
 {
     const HWND hFocus = ::GetFocus();
-    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION);
+    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION | nDefault);
     ::SetFocus(hFocus);
     return nAnswer == IDYES;
 }
@@ -100,7 +100,7 @@ void FrameCommands::RemoveSelection()
     const int nMissed = CountMissedTrashes();
     std::string reason = Remove();
     if (CountMissedTrashes() > nMissed && m_commands.CountSelected() > 0) {
-        if (!UserAgrees(reason + ".\n\n" + m_commands.RemoveQuestion(Removal::ForGood)))
+        if (!UserAgrees(reason + ".\n\n" + m_commands.RemoveQuestion(Removal::ForGood), MB_DEFBUTTON2))
             return;
         const PermanentRemoval agreed;
         reason = Remove();

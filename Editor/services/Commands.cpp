@@ -93,7 +93,7 @@ std::string Commands::RemoveQuestion(Removal removal) const
     const ActiveMembers members = GetActiveMembers(m_editor);
     const std::string what = members.size() == 1 ? '"' + ShownNameOf(members.front().pAtom.Get()) + '"'
                                                  : std::to_string(members.size()) + " objects";
-    return "Remove " + what + (removal == Removal::ForGood ? " for good?" : "?");
+    return removal == Removal::ForGood ? "Remove " + what + " for good?" : "Move " + what + " to the trash?";
 }
 
 void Commands::Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer)

@@ -24,7 +24,7 @@ public:
     explicit Commands(CAtomEditor& editor) : m_editor(editor) {} // borrowed
 
     int CountSelected() const; // active objects that are in a container
-    // What a removal would be asked about: 'Remove "walk.png"?', 'Remove 3 objects for good?'
+    // What a removal would be asked about: 'Move "walk.png" to the trash?', 'Remove 3 objects for good?'
     std::string RemoveQuestion(Removal removal = Removal::ToTheTrash) const;
 
     // These and no others become the selected members of the container, if it is shown.

@@ -64,7 +64,7 @@ TEST_F(CommandsTest, RemovingAsksFirst)
     Control('A');
     desktop.Answer(IDYES);
     Press(VK_DELETE);
-    EXPECT_EQ(Ledger({"Views: Remove \"a.bmp\"?", "Views: Remove 2 objects?"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Move \"a.bmp\" to the trash?", "Views: Move 2 objects to the trash?"}), TakeBoxes());
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
     EXPECT_EQ("Ada/ Bo/", folder.Everything());
 }
@@ -77,7 +77,7 @@ TEST_F(CommandsTest, WhatNoTrashTakesIsRemovedForGoodOnlyAfterAQuestionOfItsOwn)
     const OwnFileSystem disk(folder.Path());
     const std::string noTrash = ".Trash-" + std::to_string(geteuid());
     folder.Link(noTrash, "/tmp");
-    const Ledger questions{"Views: Remove 2 objects?",
+    const Ledger questions{"Views: Move 2 objects to the trash?",
                            "Views: a.bmp: not removed, there is no trash on its file system.\n\n"
                            "Remove 2 objects for good?"};
     for (const int nAnswer : {IDNO, IDYES}) {
@@ -132,8 +132,8 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
         return TakeBoxes();
     };
     EXPECT_EQ(Ledger(), rename("caf\xEF\xBF\xBD.bmp", ""));
-    EXPECT_EQ(Ledger({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b.bmp"));
-    EXPECT_EQ(Ledger(), rename("c.bmp", "z.bmp"));
+    EXPECT_EQ(Ledger({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b"));
+    EXPECT_EQ(Ledger(), rename("c.bmp", "z"));
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/b.bmp Bo/caf\xE9.bmp Bo/z.bmp", folder.Everything());
 }
 

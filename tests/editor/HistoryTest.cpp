@@ -78,7 +78,7 @@ TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
     Control('Z');
     EXPECT_EQ(start, folder.Everything());
     Control('Z');
-    EXPECT_EQ(Ledger({"Views: Remove 2 objects?"}), TakeBoxes()) << "without a step nothing happens";
+    EXPECT_EQ(Ledger({"Views: Move 2 objects to the trash?"}), TakeBoxes()) << "without a step nothing happens";
 }
 
 TEST_F(HistoryTest, APhasesFramesAndTimingAreStepsToo)
