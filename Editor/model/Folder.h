@@ -19,6 +19,8 @@ class CFolder : public CContainer
 public:
     CFolder(CContainer* pContainer, UINT nIndex) : CContainer(pContainer, nIndex) {}
 
+    // Of a file anywhere that has been copied into it, for a move: to the trash. Empty, or one line with the reason.
+    std::string RemoveOriginal(const std::string& path);
     // Looks for those of its files alone that the disk has told of, if it has been read.
     void LookFor(const FolderNews& onDisk, MemberNews& news);
 
@@ -40,6 +42,7 @@ protected:
 private:
     bool CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const;
     std::string TroubleOfNewName(MemberKind former, const std::string& name, MemberKind& kind) const;
+    std::string MoveAway(const std::string& path, TrashPlace& place);
     void LookForName(const Directory& directory, const std::string& name, MemberNews& news);
     void LookForRenamed(const Directory& directory, const std::string& from, const std::string& to, MemberNews& news);
     std::optional<MemberKind> KindOnDisk(const Directory& directory, const std::string& name) const;

@@ -113,11 +113,21 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
 std::string CFolder::Remove(const CMember& member, TrashPlace& place)
 {
     m_taken.Forget();
-    const std::string path = member.Path();
+    return MoveAway(member.Path(), place);
+}
+
+std::string CFolder::RemoveOriginal(const std::string& path)
+{
+    TrashPlace place;
+    return MoveAway(path, place);
+}
+
+std::string CFolder::MoveAway(const std::string& path, TrashPlace& place)
+{
     const std::string reason = RemoveFromDisk(path, place);
     if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty())
         pHistory->Went(path, place);
-    return reason.empty() ? reason : FailureOf(member.Name(), reason);
+    return reason.empty() ? reason : FailureOf(BaseName(path), reason);
 }
 
 std::string CFolder::ValidNameFor(std::string_view name)

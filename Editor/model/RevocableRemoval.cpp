@@ -54,6 +54,15 @@ void RevocableRemoval::End(bool bRemoved, const TrashPlace& place)
     m_removed.back().place = place;
 }
 
+std::vector<std::string> RevocableRemoval::TrashedPaths() const
+{
+    std::vector<std::string> paths;
+    for (const Removed& removed : m_removed)
+        if (removed.bGone && !removed.place.name.empty())
+            paths.push_back(removed.place.trash + "/files/" + removed.place.name);
+    return paths;
+}
+
 std::optional<RevocableRemoval::Returned> RevocableRemoval::BringBack(CContainer& container, std::string_view name)
 {
     const auto removed = std::find_if(m_removed.begin(), m_removed.end(), [&](const Removed& r) {

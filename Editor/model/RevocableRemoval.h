@@ -30,6 +30,8 @@ public:
     void Begin(CMember& member, MemberKind kind);
     void End(bool bRemoved, const TrashPlace& place);
 
+    std::vector<std::string> TrashedPaths() const; // where what has gone is now
+
     // An object that has come back to the container.
     struct Returned
     {

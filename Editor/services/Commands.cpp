@@ -4,6 +4,7 @@
 #include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
+#include "Editor/services/OfferedFiles.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Views/clipboard/clipboard.h"
@@ -105,10 +106,11 @@ void Commands::Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer*
 
 std::string Commands::Copy()
 try {
-    if (CountSelected() == 0)
+    const ActiveMembers members = GetActiveMembers(m_editor);
+    if (members.empty())
         return kNothingSelected;
     ::SetLastError(ERROR_SUCCESS);
-    if (CopyObjects(FALSE))
+    if (CopyObjects(FALSE, [&](COleDataSource& source) { OfferCopiedFiles(source, PathsOf(members)); }))
         return {};
     return m_editor.GetArchiveError().empty() ? NoFile(kNoFile) : m_editor.GetArchiveError();
 } catch (const CException& e) {
@@ -126,7 +128,7 @@ try {
     ::SetLastError(ERROR_SUCCESS);
     const RevocableRemoval revocable(OwnOf(members));
     ForgetWhatStayed(members);
-    if (CopyObjects(TRUE))
+    if (CopyObjects(TRUE, [&](COleDataSource& source) { OfferCopiedFiles(source, revocable.TrashedPaths()); }))
         return {};
     std::string reason = WhyStillThere(members);
     if (!reason.empty())
@@ -191,13 +193,15 @@ bool Commands::AreFilesOnClipboard(CContainer* pTarget) const
 {
     COleDataObject data;
     return data.AttachClipboard() && !data.IsDataAvailable(m_editor.GetClipboardFormat()) &&
-           OffersFilesFor(data, pTarget);
+           (OffersFilesFor(data, pTarget) || OffersPictureFor(data, pTarget));
 }
 
 std::string Commands::PasteClipboardFiles(CContainer* pTarget)
 {
     COleDataObject data;
-    return data.AttachClipboard() ? PasteFiles(data, pTarget) : std::string("there are no files on the clipboard");
+    if (!data.AttachClipboard())
+        return "there are no files on the clipboard";
+    return OffersFilesFor(data, pTarget) ? PasteFiles(data, pTarget) : PastePicture(data, pTarget);
 }
 
 std::string Commands::Rename(CMember* pMember, const std::string& name)

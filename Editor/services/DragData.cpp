@@ -1,14 +1,10 @@
 #include "Editor/services/DragData.h"
 
-#include "Editor/model/Member.h"
-#include "Editor/services/FileUris.h"
+#include "Editor/services/OfferedFiles.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Files.h"
 #include "Views/clipboard/Archives.h"
 #include "Views/clipboard/TransferFileOwner.h"
-
-#include <cstring>
-#include <filesystem>
 
 namespace editor
 {
@@ -52,23 +48,6 @@ void CacheAtoms(COleDataSource& source, CLIPFORMAT format, HGLOBAL hPath)
     medium.GiveTo(source, format);
 }
 
-void CacheUris(COleDataSource& source, const ActiveMembers& members)
-{
-    std::vector<std::string> paths;
-    for (const ActiveMember& member : members) {
-        const CMember* const pMember = CMember::Of(member.pAtom.Get());
-        if (const std::string path = pMember ? pMember->Path() : std::string(); !path.empty())
-            paths.push_back(std::filesystem::absolute(path).lexically_normal().string());
-    }
-    const std::string list = UriListOf(paths);
-    const HGLOBAL hList = GlobalAlloc(GMEM_MOVEABLE, list.size());
-    if (const toolkit::GlobalLocker<char> block(hList); block.Get())
-        std::memcpy(block.Get(), list.data(), list.size());
-    else
-        return; // the editors can still drag
-    GlobalMedium(hList).GiveTo(source, UriListFormat());
-}
-
 } // namespace
 
 std::unique_ptr<COleDataSource> MakeDragData(IAtomEditor& editor, const ActiveMembers& members)
@@ -81,7 +60,7 @@ std::unique_ptr<COleDataSource> MakeDragData(IAtomEditor& editor, const ActiveMe
     if (!hPath)
         return nullptr;
     CacheAtoms(*pSource, editor.GetClipboardFormat(), hPath);
-    CacheUris(*pSource, members);
+    OfferFiles(*pSource, PathsOf(members));
     return pSource;
 }
 

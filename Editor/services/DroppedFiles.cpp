@@ -1,6 +1,7 @@
 #include "Editor/services/DroppedFiles.h"
 
 #include "Editor/archive/ArchiveWriter.h"
+#include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
 #include "Editor/objects/ErrorInfo.h"
@@ -8,6 +9,10 @@
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
 
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
 #include <unistd.h>
 
 namespace editor
@@ -49,6 +54,46 @@ std::string PasteFile(const std::string& path, CFolder& folder)
     return writer.LeftOut().empty() ? std::string() : writer.LeftOut().front();
 }
 
+const PictureFormat* FindPictureFormat(COleDataObject& data)
+{
+    for (const PictureFormat& one : kPictureFormats)
+        if (data.IsDataAvailable(RegisterClipboardFormat(one.pszName)))
+            return &one;
+    return nullptr;
+}
+
+// Goes with what was written into it.
+class TempFolder
+{
+public:
+    TempFolder() : m_path((std::filesystem::temp_directory_path() / "views-picture-XXXXXX").string())
+    {
+        if (!mkdtemp(m_path.data()))
+            m_path.clear();
+    }
+    ~TempFolder()
+    {
+        std::error_code error;
+        if (!m_path.empty())
+            std::filesystem::remove_all(m_path, error);
+    }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    const std::string& Path() const { return m_path; }
+    static int Write(const std::string& path, std::string_view bytes)
+    {
+        FileDescriptor file(open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        if (!file)
+            return errno;
+        const int error = WriteAll(file.Get(), bytes);
+        return error == 0 && !file.Close() ? errno : error;
+    }
+
+private:
+    std::string m_path;
+};
+
 } // namespace
 
 bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer)
@@ -63,11 +108,40 @@ try {
     CFolder* const pFolder = FolderBehind(pContainer);
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";
+    const bool bCut = IsCut(TakeText(data.GetGlobalData(CopiedFilesFormat())));
     std::string first;
-    for (const std::string& path : paths)
-        if (std::string failure = PasteFile(path, *pFolder); first.empty())
+    for (const std::string& path : paths) {
+        std::string failure = PasteFile(path, *pFolder);
+        if (failure.empty() && bCut)
+            failure = pFolder->RemoveOriginal(path);
+        if (first.empty())
             first = std::move(failure);
+    }
     return first;
+} catch (const CMemoryException& exception) {
+    return exception.GetErrorMessage();
+}
+
+bool OffersPictureFor(COleDataObject& data, IAtomContainer* pContainer)
+{
+    const CFolder* const pFolder = FolderBehind(pContainer);
+    return pFolder && FindPictureFormat(data) && eaccess(pFolder->Path().c_str(), W_OK | X_OK) == 0;
+}
+
+// By way of a file of its own.
+std::string PastePicture(COleDataObject& data, IAtomContainer* pContainer)
+try {
+    const PictureFormat* const pFormat = FindPictureFormat(data);
+    CFolder* const pFolder = FolderBehind(pContainer);
+    const std::string bytes =
+        pFormat ? TakeText(data.GetGlobalData(RegisterClipboardFormat(pFormat->pszName))) : std::string();
+    if (bytes.empty() || !pFolder)
+        return "there is no picture in it";
+    TempFolder temp;
+    const std::string path = temp.Path() + "/Picture." + pFormat->pszExtension;
+    if (const int error = temp.Write(path, bytes); error != 0)
+        return pFolder->ShownName() + ": " + SystemErrorText(error);
+    return PasteFile(path, *pFolder);
 } catch (const CMemoryException& exception) {
     return exception.GetErrorMessage();
 }

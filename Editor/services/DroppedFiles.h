@@ -12,9 +12,14 @@ namespace editor
 
 // Are there files that this container may take? Looks at the kinds of data alone, which costs nothing.
 bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer);
-// Copies of the files are added to the container, under names that are free, one after the other. Empty when all were
-// taken; else the reason for the first one that was not.
+// Copies of the files are added to the container, under names that are free, one after the other; of what a file
+// manager has cut the originals then go to the trash. Empty when all were taken; else the reason for the first one that
+// was not.
 std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer);
+
+// A picture that is no file, as programs that draw copy it: it becomes one.
+bool OffersPictureFor(COleDataObject& data, IAtomContainer* pContainer);
+std::string PastePicture(COleDataObject& data, IAtomContainer* pContainer);
 
 // A container that takes something as a copy only does not get it by a move. What comes into a phase also stays where
 // it is, but nobody wants a folder in itself who has not asked for a copy with Ctrl: none then.

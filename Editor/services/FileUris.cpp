@@ -1,5 +1,6 @@
 #include "Editor/services/FileUris.h"
 
+#include "Editor/disk/FileText.h"
 #include "Toolkit/base/Text.h"
 
 #include <charconv>
@@ -78,6 +79,34 @@ std::optional<std::string> PathOf(std::string_view uri)
 CLIPFORMAT UriListFormat()
 {
     return RegisterClipboardFormat("text/uri-list");
+}
+
+CLIPFORMAT CopiedFilesFormat()
+{
+    static const CLIPFORMAT format = RegisterClipboardFormat("x-special/gnome-copied-files");
+    return format;
+}
+
+CLIPFORMAT PictureFormatOf(std::string_view path)
+{
+    const std::string extension = ExtensionOf(path);
+    for (const PictureFormat& one : kPictureFormats)
+        if (extension == one.pszExtension)
+            return RegisterClipboardFormat(one.pszName);
+    return 0;
+}
+
+std::string CopiedFilesOf(const std::vector<std::string>& paths)
+{
+    std::string text = "copy";
+    for (const std::string& path : paths)
+        text += "\nfile://" + Escaped(path);
+    return text;
+}
+
+bool IsCut(std::string_view copiedFiles)
+{
+    return copiedFiles.starts_with("cut\n");
 }
 
 std::string UriListOf(const std::vector<std::string>& paths)

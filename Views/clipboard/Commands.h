@@ -6,6 +6,9 @@
 
 #include "Views/host/Api.h"
 
+#include <functional>
+
+class COleDataSource;
 class IArchive;
 class IAtomContainer;
 
@@ -21,6 +24,9 @@ inline constexpr DWORD PASTE_ANY = 0xFFFFFFFF; // with whatever effect the user 
 // not come about puts back what it had removed: each into its container again, as what AddAtom makes of it, since the
 // old atoms are gone. Whatever the toolkit raises when the clipboard cannot be had passes to the caller.
 VIEWS_API int CopyObjects(int bCut);
+// The same, with what a host offers to other programs besides: `offer` adds it to the data, when what is cut has gone
+// from its place, just before it is published.
+VIEWS_API int CopyObjects(int bCut, const std::function<void(COleDataSource& source)>& offer);
 
 // Adds the archive's atoms to the container: under their own names when they are being moved, else each under a valid
 // name. FALSE when the archive cannot be read, or the container refuses an atom: those before it have been added then.

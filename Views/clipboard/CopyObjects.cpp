@@ -17,6 +17,8 @@
 namespace
 {
 
+using Offer = std::function<void(COleDataSource&)>;
+
 // A path handle that no one has taken yet: when it goes, its file goes with it.
 class TransferHandle
 {
@@ -62,6 +64,7 @@ public:
     ClipboardData(const ClipboardData&) = delete;
     ClipboardData& operator=(const ClipboardData&) = delete;
 
+    COleDataSource& Source() { return *m_pSource; }
     void PutOnClipboard();
 
 private:
@@ -90,7 +93,7 @@ void ClipboardData::PutOnClipboard()
 }
 
 // All or nothing: what is not cut as a whole is not cut.
-bool CutToClipboard(IAtomEditor* pEditor, IArchive* pArchive, ClipboardData& data)
+bool CutToClipboard(IAtomEditor* pEditor, IArchive* pArchive, ClipboardData& data, const Offer& offer)
 {
     views::RemovedAtoms removed;
     try {
@@ -99,6 +102,7 @@ bool CutToClipboard(IAtomEditor* pEditor, IArchive* pArchive, ClipboardData& dat
             return false;
         }
         removed.Announce(pEditor);
+        offer(data.Source());
         data.PutOnClipboard();
         return true;
     } catch (...) {
@@ -110,6 +114,11 @@ bool CutToClipboard(IAtomEditor* pEditor, IArchive* pArchive, ClipboardData& dat
 } // namespace
 
 int CopyObjects(int bCut)
+{
+    return CopyObjects(bCut, [](COleDataSource&) {});
+}
+
+int CopyObjects(int bCut, const Offer& offer)
 {
     const CWaitCursor wait;
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
@@ -123,7 +132,8 @@ int CopyObjects(int bCut)
         return FALSE;
     ClipboardData data(handle, pEditor->GetClipboardFormat());
     if (bCut)
-        return CutToClipboard(pEditor.Get(), pArchive.Get(), data);
+        return CutToClipboard(pEditor.Get(), pArchive.Get(), data, offer);
+    offer(data.Source());
     data.PutOnClipboard();
     return TRUE;
 }

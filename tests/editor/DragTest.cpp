@@ -160,6 +160,17 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a (3).bmp Ada/a.bmp Ada/b.bmp Ada/c.bmp Ada/new one.bmp Bo/ Bo/a.bmp",
               folder.Everything());
     EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
+    desktop.TakeClipboard(
+        {{"text/uri-list", uri("new%20one.bmp")}, {"x-special/gnome-copied-files", "cut\n" + uri("new%20one.bmp")}});
+    Control('V');
+    EXPECT_EQ("a.bmp notes.txt", outside.Everything()) << "what was cut is moved";
+    EXPECT_EQ("move of \"new one (2).bmp\"", Frame().GetCommands().GetHistory().NameToUndo());
+    Control('Z');
+    EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
+    desktop.TakeClipboard({{"image/bmp", outside.Read("a.bmp")}});
+    Control('V');
+    EXPECT_EQ(outside.Read("a.bmp"), folder.Read("Ada/Picture.bmp")) << "as a program that draws has it";
+    Control('Z');
 
     Click("new one.bmp");
     std::string dragged;
