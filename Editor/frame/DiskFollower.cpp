@@ -17,6 +17,15 @@ std::string DiskFollower::Follow(const std::vector<FolderNews>& news)
     return bHigher ? pShown->ShownName() + ": is not there any more" : std::string();
 }
 
+std::vector<FolderNews> DiskFollower::Unfollowed() const
+{
+    std::vector<FolderNews> unknown;
+    for (CMember* pMember = m_navigation.Shown(); pMember; pMember = pMember->Container())
+        if (auto* const pFolder = dynamic_cast<CFolder*>(pMember); pFolder && !pFolder->IsFollowed())
+            unknown.push_back({pFolder->Path(), {}, {}, true});
+    return unknown;
+}
+
 void DiskFollower::Follow(const FolderNews& news)
 {
     auto* const pFolder = dynamic_cast<CFolder*>(m_navigation.Library()->FindLive(news.folder));

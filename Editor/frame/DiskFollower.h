@@ -17,6 +17,8 @@ public:
     // Every view hears of it as of what the user does. Where the folder that was shown has gone the innermost one that
     // is still there is shown, and the answer says so; else it is empty.
     std::string Follow(const std::vector<FolderNews>& news);
+    // Of what is shown, and what it is in, those that the system does not tell of: they have to be looked at.
+    std::vector<FolderNews> Unfollowed() const;
 
 private:
     void Follow(const FolderNews& news);

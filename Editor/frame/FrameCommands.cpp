@@ -142,7 +142,7 @@ std::string FrameCommands::Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&))
     UndoRedo::Atoms present;
     std::string reason = ChangeSelection([&] { return (m_undoRedo.*step)(present); });
     if (!present.empty())
-        SelectJust(present);
+        ShowJust(present);
     return reason;
 }
 
@@ -177,8 +177,16 @@ std::string FrameCommands::PasteAnd(bool& bAny)
     std::string reason = m_commands.Paste(pTarget.Get(), arrived);
     bAny = !arrived.empty();
     if (bAny)
-        SelectJust(arrived);
+        ShowJust(arrived);
     return reason;
+}
+
+// What is done next is done to these, so they are to be seen: not where a picture is shown in their place.
+void FrameCommands::ShowJust(const std::vector<CStubRef<IAtom>>& atoms)
+{
+    if (m_parts.content.IsPictureShown())
+        m_parts.navigation.GoTo(CStubRef<CContainer>::Share(m_parts.navigation.ShownContainer()).Get());
+    SelectJust(atoms);
 }
 
 // A view that is told of an atom takes one of the same name in another case for it: the list's rows are those of the

@@ -73,6 +73,7 @@ public:
 
 private:
     std::string PasteAnd(bool& bAny); // did any object come?
+    void ShowJust(const std::vector<CStubRef<IAtom>>& atoms);
     template <class Carry>
     std::string CarryAsAgreed(Carry carry);
     std::string Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&));

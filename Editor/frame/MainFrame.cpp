@@ -23,6 +23,7 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_CLOSE()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_MESSAGE(WM_ACTIVATE, OnActivated)
     ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
 
@@ -267,6 +268,13 @@ void CMainFrame::OnMoved(const std::string& reason)
 {
     m_commands.GoOnAt(std::exchange(m_beforeMove, {}));
     m_commands.ShowFailure(IDS_MOVE_FAILED, reason);
+}
+
+LRESULT CMainFrame::OnActivated(WPARAM wParam, LPARAM)
+{
+    if (const auto unknown = m_follower.Unfollowed(); wParam == WA_ACTIVE && !unknown.empty())
+        OnDiskNews(unknown);
+    return 0;
 }
 
 void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)

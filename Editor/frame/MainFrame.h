@@ -63,6 +63,7 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg LRESULT OnActivated(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

@@ -1,8 +1,14 @@
 // What others have done to a folder's files.
 #include "Editor/model/Folder.h"
+#include "Editor/model/LibraryContext.h"
 
 namespace editor
 {
+
+bool CFolder::IsFollowed() const
+{
+    return m_watched || !Context().pWatch || !AreRead();
+}
 
 void CFolder::LookFor(const FolderNews& onDisk, MemberNews& news)
 {

@@ -93,6 +93,7 @@ void Activate(const InputEvent& event)
     if (!event.down)
         toolkit::ReleaseAllKeys(); // what is released elsewhere is not told here
     toolkit::SetActive(event.hTop, event.down);
+    SendMessage(event.hTop, WM_ACTIVATE, event.down ? WA_ACTIVE : WA_INACTIVE, 0);
 }
 
 void Place(const InputEvent& event)
