@@ -2,6 +2,7 @@
 
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Resources.h"
+#include "Toolkit/run/Run.h"
 #include "bench/Samples.h"
 
 #ifdef VIEWS_BENCH_QT

@@ -3,6 +3,7 @@
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/Services.h"
+#include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/exchange/ClipboardFormat.h"
 #include "Toolkit/exchange/DragTracker.h"
 #include "Views/clipboard/clipboard.h"
