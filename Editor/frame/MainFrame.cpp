@@ -43,6 +43,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_properties({[this] { return SelectedPhases(); },
                     [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),
+      m_keys({*this, m_treePane, m_tree, m_splitter, m_content, m_properties, m_navigation, m_commands}),
       m_statusBar([this] { return GetStatus(); })
 {}
 
@@ -241,7 +242,7 @@ CPropertiesPane::Phases CMainFrame::SelectedPhases() const
 
 bool CMainFrame::MayClose()
 {
-    LeaveFields();
+    m_keys.LeaveFields();
     const std::string question = m_modified.SaveQuestion();
     if (question.empty())
         return true;
@@ -284,6 +285,41 @@ void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
         m_news = std::move(line);
     m_pCreated.Release();
     m_commands.GoOnAt(position);
+}
+
+CMenu* CMainFrame::CreateContextMenu()
+{
+    return MakeContextMenu(m_commands.GetState()).release();
+}
+
+BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    const CommandEntry* const pCommand = lParam == 0 ? FindCommand(LOWORD(wParam)) : nullptr;
+    if (!pCommand)
+        return CWnd::OnCommand(wParam, lParam);
+    (m_commands.*pCommand->run)();
+    return TRUE;
+}
+
+BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
+{
+    ForgetNews(*pMsg);
+    const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
+    if ((bAlt || pMsg->message == WM_KEYDOWN) && m_keys.Handle(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
+        return TRUE;
+    return CWnd::PreTranslateMessage(pMsg);
+}
+
+// They tell of keys, and stay while these are looked for.
+void CMainFrame::ForgetNews(const MSG& message)
+{
+    const bool bModifier = message.wParam == VK_CONTROL || message.wParam == VK_SHIFT;
+    const bool bInput = (message.message == WM_KEYDOWN && !bModifier) || message.message == WM_LBUTTONDOWN ||
+                        message.message == WM_RBUTTONDOWN;
+    if (!bInput || m_news.empty())
+        return;
+    m_news.clear();
+    m_statusBar.Invalidate();
 }
 
 } // namespace editor

@@ -3,7 +3,7 @@
 
 #include "Editor/frame/DiskFollower.h"
 #include "Editor/frame/EditorTree.h"
-#include "Editor/frame/FrameCommands.h"
+#include "Editor/frame/FrameKeys.h"
 #include "Editor/model/Library.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
@@ -68,16 +68,8 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool HandleKey(HWND hWnd, UINT vkey, bool bAlt); // the window has the focus; false: the key means nothing here
-    bool HandleFrameKey(UINT vkey);                  // in tree and content
-    bool HandleContentKey(UINT vkey);
-    bool HandleTreeKey(UINT vkey);
-    void OpenFocused(); // the list's focused row
-    void FocusNextPane();
-    void SaveByKey();
     void ForgetNews(const MSG& message);
-    void LeaveFields(); // which enters what was typed
-    bool MayClose();    // asks what is to become of phases that are modified
+    bool MayClose(); // asks what is to become of phases that are modified
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     CPane* PaneOfKind(DWORD kind); // NULL: none
@@ -107,6 +99,7 @@ private:
     FrameCommands m_commands;
     CEditorTree m_tree;
     CPropertiesPane m_properties;
+    FrameKeys m_keys;
     CStatusBar m_statusBar;
     std::string m_news; // what the user has just done, until the next key or click
 };
