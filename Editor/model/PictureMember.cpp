@@ -23,7 +23,7 @@ BOOL CPictureMember::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
 {
     const std::string path = Path();
     if (path.empty())
-        return FALSE;
+        return DrawThumbnail(hdc, rect, {nullptr, true});
     PictureStore& pictures = *Context().pPictures;
     const int frames = pictures.FrameCountOf(path);
     if (frames > 0 && nFrame >= static_cast<UINT>(frames))

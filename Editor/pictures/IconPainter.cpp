@@ -94,10 +94,8 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
 
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer)
 {
-    if (answer.bFailed && !answer.pPicture)
-        return FALSE;
-    const toolkit::Surface& picture =
-        answer.pPicture ? *answer.pPicture : GetPictogram(Pictogram::Placeholder, kPlaceholder);
+    const Pictogram instead = answer.bFailed ? Pictogram::BrokenPicture : Pictogram::Placeholder;
+    const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : GetPictogram(instead, kPlaceholder);
     const CSize own = picture.Bounds().Size();
     if (own.cx <= rect.Width() && own.cy <= rect.Height())
         return toolkit::DrawSurface(hdc, toolkit::Centred(own, rect), picture, picture.Bounds());

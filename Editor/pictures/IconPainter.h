@@ -19,8 +19,8 @@ CSize PictureSizeFor(CSize icon);
 // none yet.
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size);
 
-// The picture in the middle of the rectangle, smaller when it does not fit, or what tells that it has not arrived yet.
-// FALSE, and nothing drawn, when there is none.
+// The picture in the middle of the rectangle, smaller when it does not fit, or what tells that there is none, or none
+// yet. FALSE, and nothing drawn, without memory.
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer);
 
 } // namespace editor

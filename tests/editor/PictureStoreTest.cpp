@@ -20,15 +20,19 @@ protected:
         const BOOL bDrawn = pThumb->Draw(hdc, rect, 0, 2, nFrame);
         DeleteDC(hdc);
         CRect place;
+        bool isRed = false; // as the mark on a broken picture is
         for (int y = 0; y < 100; ++y)
-            for (int x = 0; x < 100; ++x)
-                if (surface.At(x, y) != 0xFFFFFFFF)
+            for (int x = 0; x < 100; ++x) {
+                const toolkit::Pixel pixel = surface.At(x, y);
+                if (pixel != 0xFFFFFFFF)
                     place = place | CRect(x, y, x + 1, y + 1);
+                isRed |= (pixel >> 16 & 0xFF) > 2 * (pixel >> 8 & 0xFF);
+            }
         if (!bDrawn)
             return place.IsRectEmpty() ? "fails" : "fails, but draws";
         const toolkit::Pixel pixel = surface.At(place.left, place.top);
         if (pixel != surface.At(50, 50))
-            return "none yet";
+            return isRed ? "broken" : "none yet";
         char text[80];
         std::snprintf(text, sizeof text, "%06X at %d,%d-%d,%d", pixel & 0xFFFFFF, place.left, place.top, place.right,
                       place.bottom);
@@ -157,7 +161,7 @@ TEST_F(PictureStoreTest, AfterStoppingNobodyIsToldAnythingAndNothingIsRead)
     EXPECT_EQ("none yet", Icon(p1.Get()));
 }
 
-TEST_F(PictureStoreTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneFails)
+TEST_F(PictureStoreTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneAsSuch)
 {
     folder.WriteBmp("wide.bmp", 320, 160, 0xFF102030);
     folder.WriteBmp("small.bmp", 16, 10, 0xFF405060);
@@ -173,11 +177,11 @@ TEST_F(PictureStoreTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneFai
     EXPECT_EQ(3u, TakeArrivals().size());
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(pWide.Get()));
     EXPECT_EQ("405060 at 42,45-58,55", Drawn(pSmall.Get()));
-    EXPECT_EQ("fails", Drawn(pBad.Get()));
+    EXPECT_EQ("broken", Drawn(pBad.Get()));
 
     const auto pPhase = Container("walk.phase");
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(At(pPhase.Get(), 0)).Get()));
-    EXPECT_EQ("fails", Drawn(Thumbnail(At(pPhase.Get(), 1)).Get()));
+    EXPECT_EQ("broken", Drawn(Thumbnail(At(pPhase.Get(), 1)).Get()));
     EXPECT_EQ(3u, reader.TakeReads().size());
 }
 
