@@ -9,12 +9,14 @@ namespace editor
 std::string DiskFollower::Follow(const std::vector<FolderNews>& news)
 {
     const auto pShown = CStubRef<CMember>::Share(m_navigation.Shown());
+    bool bRenamed = false;
     for (const FolderNews& one : news)
-        Follow(one);
-    m_navigation.LeaveWhatIsGone();
-    CMember* const pNow = m_navigation.Shown();
-    const bool bHigher = pNow != pShown.Get() && WhatIsLeftOf(pShown.Get()) == pNow;
-    return bHigher ? pShown->ShownName() + ": is not there any more" : std::string();
+        bRenamed |= Follow(one, pShown.Get());
+    CMember* const pLeft = WhatIsLeftOf(pShown.Get());
+    if (bRenamed || pLeft == pShown.Get())
+        return {};
+    m_navigation.GoTo(pLeft);
+    return pShown->ShownName() + ": is not there any more";
 }
 
 std::vector<FolderNews> DiskFollower::Unfollowed() const
@@ -26,11 +28,11 @@ std::vector<FolderNews> DiskFollower::Unfollowed() const
     return unknown;
 }
 
-void DiskFollower::Follow(const FolderNews& news)
+bool DiskFollower::Follow(const FolderNews& news, CMember* pShown)
 {
     auto* const pFolder = dynamic_cast<CFolder*>(m_navigation.Library()->FindLive(news.folder));
     if (!pFolder)
-        return;
+        return false;
     const auto pHeld = CStubRef<CFolder>::Share(pFolder);
     MemberNews found;
     pFolder->LookFor(news, found);
@@ -41,7 +43,12 @@ void DiskFollower::Follow(const FolderNews& news)
     for (const auto& pMember : found.written)
         if (auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get()))
             ReadAgainAndTell(m_editor, *pPhase);
+    bool bRenamed = false;
+    for (const auto& [pFormer, pNow] : found.renamed)
+        for (CMember* pMember = pShown; pMember; pMember = pMember->Container())
+            bRenamed |= pMember == pFormer.Get();
     TellOf(m_editor, *pFolder, found);
+    return bRenamed;
 }
 
 } // namespace editor

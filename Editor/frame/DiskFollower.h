@@ -21,7 +21,8 @@ public:
     std::vector<FolderNews> Unfollowed() const;
 
 private:
-    void Follow(const FolderNews& news);
+    // Answers whether the member is where another name leads now.
+    bool Follow(const FolderNews& news, CMember* pShown);
 
     CAtomEditor& m_editor;
     PictureStore& m_pictures;

@@ -26,6 +26,7 @@ public:
         std::function<void()> painted;             // rows have come into sight, and may have wished for pictures
         std::function<IAtomContainer*()> askShown; // what the active list shows, borrowed
         DropFailed dropFailed;
+        std::function<void()> pressed; // a mouse button, on the list
     };
 
     virtual ~CEditorList() = default;
@@ -130,6 +131,8 @@ protected:
     {
         CRect dirty;
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
+        if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+            GetEvents().pressed();
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
         SelectStem(message, wParam, lParam);
         if (message == WM_CREATE && nResult != -1) {

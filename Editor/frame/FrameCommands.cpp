@@ -14,6 +14,9 @@ namespace editor
 namespace
 {
 
+// What stands in a step's way may go; else it would stand in the way of all others for ever.
+constexpr const char* kForget = ".\n\nNothing was changed. Forget this step?";
+
 bool UserAgrees(const std::string& question, UINT nDefault = 0)
 {
     const HWND hFocus = ::GetFocus();
@@ -117,14 +120,16 @@ void FrameCommands::PasteHere()
 
 void FrameCommands::UndoOrTell()
 {
-    if (!GetHistory().NameToUndo().empty())
-        ShowFailure(IDS_UNDO_FAILED, Undo());
+    const std::string reason = GetHistory().NameToUndo().empty() ? std::string() : Undo();
+    if (!reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
+        GetHistory().ForgetNextUndo();
 }
 
 void FrameCommands::RedoOrTell()
 {
-    if (!GetHistory().NameToRedo().empty())
-        ShowFailure(IDS_REDO_FAILED, Redo());
+    const std::string reason = GetHistory().NameToRedo().empty() ? std::string() : Redo();
+    if (!reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
+        GetHistory().ForgetNextRedo();
 }
 
 std::string FrameCommands::Undo()

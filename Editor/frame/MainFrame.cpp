@@ -15,6 +15,13 @@ namespace
 
 constexpr UINT kSelectRenamed = WM_USER;
 
+// Is it all that was selected?
+bool IsOneThatIsGone(const CEditorList::State& list)
+{
+    CMember* const pOne = list.selected.size() == 1 ? CMember::Of(list.selected.front().Get()) : nullptr;
+    return pOne && WhatIsLeftOf(pOne) != pOne;
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
@@ -284,6 +291,11 @@ void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
     if (std::string line = m_follower.Follow(news); !line.empty())
         m_news = std::move(line);
     m_pCreated.Release();
+    if (m_pRenamed && !IsOneThatIsGone(position.list)) {
+        m_pRenamed.Release(); // the user works on something else
+        if (Shown() == position.pShown.Get())
+            GetList().SetItemState(-1, 0, LVIS_SELECTED);
+    }
     m_commands.GoOnAt(position);
 }
 
@@ -303,21 +315,17 @@ BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam)
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 {
-    ForgetNews(*pMsg);
     const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
+    const bool bModifier = pMsg->wParam == VK_CONTROL || pMsg->wParam == VK_SHIFT; // the news tell of keys
+    if (pMsg->message == WM_KEYDOWN && !bModifier && !m_news.empty())
+        ForgetNews();
     if ((bAlt || pMsg->message == WM_KEYDOWN) && m_keys.Handle(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
 }
 
-// They tell of keys, and stay while these are looked for.
-void CMainFrame::ForgetNews(const MSG& message)
+void CMainFrame::ForgetNews()
 {
-    const bool bModifier = message.wParam == VK_CONTROL || message.wParam == VK_SHIFT;
-    const bool bInput = (message.message == WM_KEYDOWN && !bModifier) || message.message == WM_LBUTTONDOWN ||
-                        message.message == WM_RBUTTONDOWN;
-    if (!bInput || m_news.empty())
-        return;
     m_news.clear();
     m_statusBar.Invalidate();
 }

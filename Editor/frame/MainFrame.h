@@ -68,7 +68,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void ForgetNews(const MSG& message);
+    void ForgetNews();
     bool MayClose(); // asks what is to become of phases that are modified
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();

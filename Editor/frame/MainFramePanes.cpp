@@ -61,7 +61,8 @@ CEditorList::Events CMainFrame::ListEvents()
     return {[this] { return DescribeEmptyList(Shown()); },
             {},
             [this] { return static_cast<IAtomContainer*>(ShownContainer()); },
-            ReportDrop()};
+            ReportDrop(),
+            [this] { ForgetNews(); }};
 }
 
 } // namespace editor

@@ -1,5 +1,6 @@
 #include "Editor/history/History.h"
 
+#include "Editor/disk/FileNames.h"
 #include "Editor/disk/FileText.h"
 
 #include <algorithm>
@@ -10,11 +11,16 @@ namespace editor
 namespace
 {
 
+constexpr std::size_t kLongestShown = 40;        // bytes of a name
 constexpr std::uint64_t kLargestText = 64 << 20; // bytes; a larger one is none of ours
 
 std::string Objects(int count, const std::string& first)
 {
-    return count == 1 ? '"' + ToShown(first) + '"' : std::to_string(count) + " objects";
+    if (count != 1)
+        return std::to_string(count) + " objects";
+    const std::string name = ToShown(first);
+    const std::string_view start = Shortened(name, kLongestShown);
+    return '"' + std::string(start) + (start.size() < name.size() ? "..." : "") + '"';
 }
 
 const char* UsualVerb(const StepSummary& summary)
@@ -109,6 +115,18 @@ std::string History::Redo(Changes& changes)
     ++m_nDone;
     Tell("Done again: " + step.name + ". Ctrl+Z takes it back");
     return {};
+}
+
+void History::ForgetNextUndo()
+{
+    if (m_nDone > 0)
+        m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(--m_nDone));
+}
+
+void History::ForgetNextRedo()
+{
+    if (m_nDone < m_steps.size())
+        m_steps.erase(m_steps.begin() + static_cast<std::ptrdiff_t>(m_nDone));
 }
 
 void History::Came(const std::string& folder, const std::string& name) noexcept

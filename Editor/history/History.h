@@ -38,6 +38,10 @@ public:
     std::string Undo(Changes& changes);
     std::string Redo(Changes& changes);
 
+    // That step is given up: those before it, or behind it, can then be taken back, or done again.
+    void ForgetNextUndo();
+    void ForgetNextRedo();
+
     // Steps may stand in each other: the outermost counts. Its verb names it ("paste"); where it has none, that of the
     // first inside it. What removes here and adds there is a move.
     class Step

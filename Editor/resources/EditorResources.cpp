@@ -26,8 +26,6 @@ constexpr std::pair<UINT, LPCSTR> kTexts[] = {
     {IDS_DRAG_FAILED, "Nothing can be dragged"},
     {IDS_MOVE_FAILED, "Not everything went from its former place"},
     {IDS_DROP_FAILED, "Not everything was taken"},
-    {IDS_UNDO_FAILED, "Nothing was undone"},
-    {IDS_REDO_FAILED, "Nothing was done again"},
 };
 
 constexpr COLORREF kTransparent = RGB(255, 0, 0);

@@ -16,8 +16,6 @@ inline constexpr UINT IDS_DRAG_FAILED = 2006;
 inline constexpr UINT IDS_MOVE_FAILED = 2007;
 inline constexpr UINT IDS_DROP_FAILED = 2008;
 inline constexpr UINT IDS_NOTHING_PASTED = 2009;
-inline constexpr UINT IDS_UNDO_FAILED = 2010;
-inline constexpr UINT IDS_REDO_FAILED = 2011;
 
 inline constexpr int kMarkExtent = 16;      // of the mark on a thumbnail
 inline constexpr int kIconExtent = 48;      // of a row's picture

@@ -10,6 +10,7 @@
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -94,6 +95,11 @@ std::string Commands::RemoveQuestion(Removal removal) const
     const ActiveMembers members = GetActiveMembers(m_editor);
     const std::string what = members.size() == 1 ? '"' + ShownNameOf(members.front().pAtom.Get()) + '"'
                                                  : std::to_string(members.size()) + " objects";
+    const bool bLines = std::all_of(members.begin(), members.end(), [](const ActiveMember& member) {
+        return static_cast<bool>(CStubRef<IImageLink>::From(member.pAtom.Get()));
+    });
+    if (bLines)
+        return "Remove " + what + " from the phase?";
     return removal == Removal::ForGood ? "Remove " + what + " for good?" : "Move " + what + " to the trash?";
 }
 

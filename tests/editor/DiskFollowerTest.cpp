@@ -53,6 +53,9 @@ TEST_F(DiskFollowerTest, FilesComeGoAndChangeInEveryViewAndSelectionAndBranchesS
     Await("/Ada/ | [(*b.bmp) Moves new.bmp Poses] | 4 objects, 1 selected | b.bmp: 20 x 10 pixels");
     Rename("Ada/b.bmp", "Ada/z.bmp");
     Await("/Ada/ | [Moves new.bmp Poses (*z.bmp)] | 4 objects, 1 selected | z.bmp: 20 x 10 pixels");
+    Click("Poses");
+    Rename("Ada/z.bmp", "Ada/a.bmp");
+    Await("/Ada/ | [Moves new.bmp (*Poses) a.bmp] | 4 objects, 1 selected | Poses");
 }
 
 TEST_F(DiskFollowerTest, WhatIsShownIsFollowedWhereItGoesAndLeftWhenItIsGone)
@@ -62,8 +65,9 @@ TEST_F(DiskFollowerTest, WhatIsShownIsFollowedWhereItGoesAndLeftWhenItIsGone)
     Rename("Ada", "Ann");
     Await("/Ann/ | [a.bmp b.bmp Poses] | 3 objects");
     DoubleClick("Poses");
+    folder.MakeFolder("Ann/Zoe");
     fs::remove_all(folder.At("Ann/Poses"));
-    Await("/Ann/ | [a.bmp b.bmp] | 2 objects");
+    Await("/Ann/ | [a.bmp b.bmp Zoe] | 3 objects");
     EXPECT_EQ("Poses: is not there any more", Frame().GetStatus().news);
     Press(VK_BACK);
     DoubleClick("walk.phase");
