@@ -61,11 +61,10 @@ EditorApp::~EditorApp() = default;
 std::string EditorApp::OpenFolder(const std::string& path)
 {
     std::string error;
-    const CStubRef<CLibrary> pLibrary = CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error);
+    const CStubRef<CLibrary> pLibrary =
+        CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error, m_parts->pWatch.get());
     if (!pLibrary)
         return error;
-    if (m_parts->pWatch)
-        pLibrary->SetWatch(m_parts->pWatch.get());
     pLibrary->SetHistory(&m_parts->atomEditor.GetHistory());
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
     if (!GetMainWindow()) {

@@ -44,7 +44,7 @@ std::vector<std::string> PartsBelow(const std::string& root, const std::string& 
 } // namespace
 
 CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std::string>& extensions,
-                                  std::shared_ptr<PictureStore> pPictures, std::string& error)
+                                  std::shared_ptr<PictureStore> pPictures, std::string& error, FolderWatch* pWatch)
 {
     LibraryContext context;
     error = FindFolder(path, context.rootPath);
@@ -53,6 +53,7 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
         context.pictureExtensions = extensions;
         std::sort(context.pictureExtensions.begin(), context.pictureExtensions.end());
         context.pPictures = std::move(pPictures);
+        context.pWatch = pWatch;
         pLibrary = CStubRef<CLibrary>::Adopt(new CLibrary(std::move(context)));
         pLibrary->ReadAgain();
         error = pLibrary->ErrorReason();
@@ -67,12 +68,6 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
 CLibrary::CLibrary(LibraryContext context)
     : CFolder(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
 {}
-
-void CLibrary::SetWatch(FolderWatch* pWatch)
-{
-    m_context.pWatch = pWatch;
-    ReadAgain();
-}
 
 CStubRef<CMember> CLibrary::Find(const std::string& path)
 {

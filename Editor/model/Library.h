@@ -11,12 +11,12 @@ class CLibrary : public CFolder, public ICharacterLibrary
 {
 public:
     // The library of that folder, with its members read. Empty, and `error` is one line that names the folder and
-    // the reason, when there is no such folder or it cannot be read.
+    // the reason, when there is no such folder or it cannot be read. The watch, of its folders, is borrowed.
     [[nodiscard]] static CStubRef<CLibrary> Open(const std::string& path, const std::vector<std::string>& extensions,
-                                                 std::shared_ptr<PictureStore> pPictures, std::string& error);
+                                                 std::shared_ptr<PictureStore> pPictures, std::string& error,
+                                                 FolderWatch* pWatch = nullptr);
 
     void SetHistory(History* pHistory) { m_context.pHistory = pHistory; } // borrowed
-    void SetWatch(FolderWatch* pWatch);                                   // of the folders read from now on; borrowed
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);
