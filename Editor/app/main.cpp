@@ -16,6 +16,7 @@
 #include "Editor/services/LeftTransfers.h"
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/Input.h"
 
 #include <QApplication>
 #include <QSocketNotifier>
@@ -52,14 +53,22 @@ void ShowOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& m
 
 int Show(QApplication& application, const editor::CommandLine& line, const editor::EndSignals& ending)
 {
-    const QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
-    QObject::connect(&asked, &QSocketNotifier::activated, &application, &QApplication::quit);
+    QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
     application.setWindowIcon(editor::MakeProgramIcon());
     qtdesktop::QtDesktop desktop;
     editor::EditorApp editor(Reader(),
                              {.size = line.size, .onClosed = [&] { application.quit(); }, .isFollowing = true});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
+    // As if the user closed the window, who may be asked. A second signal ends the program without a question, and so
+    // does one while a question is open.
+    QObject::connect(&asked, &QSocketNotifier::activated, &application, [&] {
+        asked.setEnabled(false);
+        if (QApplication::activeModalWidget() || !editor.GetMainWindow())
+            application.exit();
+        else
+            toolkit::InputClose(editor.GetMainWindow());
+    });
     return application.exec();
 }
 
