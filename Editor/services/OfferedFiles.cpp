@@ -4,6 +4,7 @@
 #include "Editor/disk/TextFile.h"
 #include "Editor/model/Member.h"
 #include "Editor/services/FileUris.h"
+#include "Editor/services/GlobalMedium.h"
 #include "Toolkit/base/GlobalMemory.h"
 
 #include <cstring>
@@ -21,18 +22,12 @@ void Offer(COleDataSource& source, CLIPFORMAT format, std::string_view bytes)
     if (bytes.empty())
         return;
     const HGLOBAL hBytes = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    {
-        const toolkit::GlobalLocker<char> block(hBytes);
-        if (!block.Get())
-            return;
+    GlobalMedium medium(hBytes);
+    if (const toolkit::GlobalLocker<char> block(hBytes); block.Get())
         std::memcpy(block.Get(), bytes.data(), bytes.size());
-    }
-    STGMEDIUM medium{};
-    medium.tymed = TYMED_HGLOBAL;
-    medium.hGlobal = hBytes;
-    source.CacheData(format, &medium);
-    if (medium.tymed != TYMED_NULL)
-        ReleaseStgMedium(&medium);
+    else
+        return;
+    medium.GiveTo(source, format);
 }
 
 } // namespace
