@@ -3,15 +3,50 @@
 #include "Editor/model/Phase.h"
 #include "Editor/services/MemberBroadcast.h"
 
+#include <algorithm>
+
 namespace editor
 {
 
-std::string DiskFollower::Follow(const std::vector<FolderNews>& news)
+DiskFollower::Found DiskFollower::Look(const std::vector<FolderNews>& news)
+{
+    Found found;
+    for (const FolderNews& one : news) {
+        auto* const pFolder = dynamic_cast<CFolder*>(m_navigation.Library()->FindLive(one.folder));
+        if (!pFolder)
+            continue;
+        found.push_back({CStubRef<CFolder>::Share(pFolder), {}});
+        pFolder->LookFor(one, found.back().news);
+        for (const std::string& name : one.names)
+            m_pictures.Recheck(one.folder + '/' + name);
+        if (one.isUnknown)
+            m_pictures.Recheck();
+    }
+    return found;
+}
+
+bool DiskFollower::MovesRows(const Found& found)
+{
+    const auto isPhase = [](const auto& pMember) { return dynamic_cast<CPhase*>(pMember.Get()) != nullptr; };
+    return std::any_of(found.begin(), found.end(), [&](const auto& one) {
+        const MemberNews& news = one.news;
+        return news.isOther || !news.renamed.empty() || std::any_of(news.written.begin(), news.written.end(), isPhase);
+    });
+}
+
+std::string DiskFollower::Tell(const Found& found)
 {
     const auto pShown = CStubRef<CMember>::Share(m_navigation.Shown());
-    bool bRenamed = false;
-    for (const FolderNews& one : news)
-        bRenamed |= Follow(one, pShown.Get());
+    bool bRenamed = false; // it, or what it is in
+    for (const auto& [pFolder, news] : found) {
+        for (const auto& pMember : news.written)
+            if (auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get()))
+                ReadAgainAndTell(m_editor, *pPhase);
+        for (const auto& renamed : news.renamed)
+            for (CMember* pMember = pShown.Get(); pMember; pMember = pMember->Container())
+                bRenamed |= pMember == renamed.pFormer.Get();
+        TellOf(m_editor, *pFolder.Get(), news);
+    }
     CMember* const pLeft = WhatIsLeftOf(pShown.Get());
     if (bRenamed || pLeft == pShown.Get())
         return {};
@@ -26,29 +61,6 @@ std::vector<FolderNews> DiskFollower::Unfollowed() const
         if (auto* const pFolder = dynamic_cast<CFolder*>(pMember); pFolder && !pFolder->IsFollowed())
             unknown.push_back({pFolder->Path(), {}, {}, true});
     return unknown;
-}
-
-bool DiskFollower::Follow(const FolderNews& news, CMember* pShown)
-{
-    auto* const pFolder = dynamic_cast<CFolder*>(m_navigation.Library()->FindLive(news.folder));
-    if (!pFolder)
-        return false;
-    const auto pHeld = CStubRef<CFolder>::Share(pFolder);
-    MemberNews found;
-    pFolder->LookFor(news, found);
-    for (const std::string& name : news.names)
-        m_pictures.Recheck(news.folder + '/' + name);
-    if (news.isUnknown)
-        m_pictures.Recheck();
-    for (const auto& pMember : found.written)
-        if (auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get()))
-            ReadAgainAndTell(m_editor, *pPhase);
-    bool bRenamed = false;
-    for (const auto& [pFormer, pNow] : found.renamed)
-        for (CMember* pMember = pShown; pMember; pMember = pMember->Container())
-            bRenamed |= pMember == pFormer.Get();
-    TellOf(m_editor, *pFolder, found);
-    return bRenamed;
 }
 
 } // namespace editor

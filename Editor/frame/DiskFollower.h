@@ -14,16 +14,22 @@ public:
         : m_editor(editor), m_pictures(pictures), m_navigation(navigation)
     {} // all borrowed
 
+    // What has become of members that somebody knows. Nobody has been told.
+    struct FoundIn
+    {
+        CStubRef<CFolder> pFolder;
+        MemberNews news;
+    };
+    using Found = std::vector<FoundIn>;
+    Found Look(const std::vector<FolderNews>& news);
+    static bool MovesRows(const Found& found); // and not only what rows show
     // Every view hears of it as of what the user does. Where the folder that was shown has gone the innermost one that
     // is still there is shown, and the answer says so; else it is empty.
-    std::string Follow(const std::vector<FolderNews>& news);
+    std::string Tell(const Found& found);
     // Of what is shown, and what it is in, those that the system does not tell of: they have to be looked at.
     std::vector<FolderNews> Unfollowed() const;
 
 private:
-    // Answers whether the member is where another name leads now.
-    bool Follow(const FolderNews& news, CMember* pShown);
-
     CAtomEditor& m_editor;
     PictureStore& m_pictures;
     Navigation& m_navigation;

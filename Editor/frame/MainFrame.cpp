@@ -287,8 +287,13 @@ LRESULT CMainFrame::OnActivated(WPARAM wParam, LPARAM)
 
 void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
 {
+    const DiskFollower::Found found = m_follower.Look(news);
+    if (!DiskFollower::MovesRows(found)) { // as after all that the program has done itself: no row is looked at
+        m_follower.Tell(found);
+        return;
+    }
     const FrameCommands::Position position = m_commands.RememberPosition();
-    if (std::string line = m_follower.Follow(news); !line.empty())
+    if (std::string line = m_follower.Tell(found); !line.empty())
         m_news = std::move(line);
     m_pCreated.Release();
     if (m_pRenamed && !IsOneThatIsGone(position.list)) {
