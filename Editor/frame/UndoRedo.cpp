@@ -3,8 +3,6 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/services/MemberBroadcast.h"
 
-#include <algorithm>
-
 namespace editor
 {
 namespace
@@ -23,9 +21,6 @@ std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& presen
     const std::string shown = m_navigation.Shown()->Path();
     Changes changes;
     std::string reason = (m_editor.GetHistory().*step)(changes);
-    std::sort(changes.containers.begin(), changes.containers.end());
-    changes.containers.erase(std::unique(changes.containers.begin(), changes.containers.end()),
-                             changes.containers.end());
     m_pictures.Recheck();
     for (const std::string& path : changes.containers)
         if (CContainer* const pContainer = pLibrary->FindLive(path))

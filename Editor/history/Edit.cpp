@@ -65,7 +65,7 @@ std::string PlacingEdit::Restore()
 
 void PlacingEdit::Tell(Changes& changes) const
 {
-    changes.containers.push_back(FolderOf(m_path));
+    changes.containers.insert(FolderOf(m_path));
     if (m_bComing == IsMade())
         changes.present.push_back(m_path);
 }
@@ -87,7 +87,7 @@ std::string RenamingEdit::Rename(const std::string& from, const std::string& to)
 void RenamingEdit::Tell(Changes& changes) const
 {
     const std::string former = m_folder + '/' + m_former, now = m_folder + '/' + m_name;
-    changes.containers.push_back(m_folder);
+    changes.containers.insert(m_folder);
     changes.present.push_back(IsMade() ? now : former);
     changes.otherNames.emplace_back(IsMade() ? former : now, changes.present.back());
 }
@@ -111,7 +111,7 @@ std::string RewritingEdit::Rewrite(const TextState& from, const TextState& to) c
 
 void RewritingEdit::Tell(Changes& changes) const
 {
-    changes.containers.push_back(m_path);
+    changes.containers.insert(m_path);
 }
 
 void RewritingEdit::CountIn(StepSummary& summary) const

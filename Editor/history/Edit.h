@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -16,7 +17,7 @@ namespace editor
 // What taking back or making again has changed, for those who show it. Paths are absolute.
 struct Changes
 {
-    std::vector<std::string> containers;                         // whose members may have changed
+    std::set<std::string> containers;                            // whose members may have changed
     std::vector<std::string> present;                            // what has come, or bears another name now
     std::vector<std::pair<std::string, std::string>> otherNames; // from, to
     struct Unsaved

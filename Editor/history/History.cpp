@@ -49,28 +49,19 @@ std::string NewsOf(const std::string& name, const StepSummary& summary)
 }
 
 // All of them in that order or, when one cannot be done, none.
-template <class Iterator, class Make, class TakeBack>
-std::string DoAll(Iterator first, Iterator last, Make make, TakeBack takeBack)
+using Way = std::string (Edit::*)();
+template <class Iterator>
+std::string DoAll(Iterator first, Iterator last, Way make, Way takeBack)
 {
     for (Iterator at = first; at != last; ++at) {
-        std::string reason = make(**at);
+        std::string reason = ((**at).*make)();
         if (reason.empty())
             continue;
         while (at != first)
-            takeBack(**--at);
+            ((**--at).*takeBack)();
         return reason;
     }
     return {};
-}
-
-std::string UndoOne(Edit& edit)
-{
-    return edit.Undo();
-}
-
-std::string RedoOne(Edit& edit)
-{
-    return edit.Redo();
 }
 
 } // namespace
@@ -92,7 +83,7 @@ std::string History::Undo(Changes& changes)
     if (m_nDone == 0)
         return "there is nothing to undo";
     const Done& step = m_steps[m_nDone - 1];
-    std::string reason = DoAll(step.edits.rbegin(), step.edits.rend(), UndoOne, RedoOne);
+    std::string reason = DoAll(step.edits.rbegin(), step.edits.rend(), &Edit::Undo, &Edit::Redo);
     for (const auto& pEdit : step.edits)
         pEdit->Tell(changes);
     if (!reason.empty())
@@ -107,7 +98,7 @@ std::string History::Redo(Changes& changes)
     if (m_nDone == m_steps.size())
         return "there is nothing to do again";
     const Done& step = m_steps[m_nDone];
-    std::string reason = DoAll(step.edits.begin(), step.edits.end(), RedoOne, UndoOne);
+    std::string reason = DoAll(step.edits.begin(), step.edits.end(), &Edit::Redo, &Edit::Undo);
     for (const auto& pEdit : step.edits)
         pEdit->Tell(changes);
     if (!reason.empty())
