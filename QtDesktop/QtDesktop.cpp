@@ -120,6 +120,11 @@ void QtDesktop::WakeFromThread()
     m_parts->pump.WakeFromThread();
 }
 
+void QtDesktop::ProcessEvents()
+{
+    QCoreApplication::processEvents();
+}
+
 int QtDesktop::ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType)
 {
     return AskMessageBox(m_parts->Find(GetTopLevel(hOwner)), pszText, pszCaption, nType);

@@ -38,6 +38,7 @@ public:
     void Present(HWND hTop, const toolkit::Surface& surface, const CRect& dirty) override;
     void Wake(std::optional<DWORD> inMilliseconds) override;
     void WakeFromThread() override;
+    void ProcessEvents() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(toolkit::Cursor cursor) override;
     void TextInputChanged() override;

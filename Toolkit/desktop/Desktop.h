@@ -51,6 +51,10 @@ public:
     virtual void Wake(std::optional<DWORD> inMilliseconds) = 0;
     virtual void WakeFromThread() = 0; // a task was posted by another thread, which calls this: have the queue run
 
+    // Has the queue run for what the user has done meanwhile, and returns. For work that does not return to the
+    // desktop.
+    virtual void ProcessEvents() {}
+
     virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
     // The command chosen, 0 for none. Messages run meanwhile.
     virtual UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) = 0;

@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/focus/InputState.h"
+#include "Toolkit/focus/ModalInput.h"
 #include "Toolkit/handle/HitTest.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/handle/WindowQueries.h"
@@ -64,7 +65,7 @@ auto toolkit::DragTracker::Guard(Call call) const -> decltype(call())
 
 HWND toolkit::DragTracker::FindTarget(HWND hTop, CPoint screen) const
 {
-    HWND hWnd = FindMouseTarget(hTop, screen).hWnd;
+    HWND hWnd = ModalInput::IsOn() ? nullptr : FindMouseTarget(hTop, screen).hWnd;
     while (hWnd && !FindDropSite(hWnd))
         hWnd = GetParent(hWnd);
     return hWnd;
@@ -100,7 +101,7 @@ void toolkit::DragTracker::EnterTarget(HWND hTarget, DWORD dwKeyState)
 
 DROPEFFECT toolkit::DragTracker::AskOver()
 {
-    if (!m_pSite || FindDropSite(m_place.hWnd) != m_pSite)
+    if (!m_pSite || ModalInput::IsOn() || FindDropSite(m_place.hWnd) != m_pSite)
         return DROPEFFECT_NONE;
     return Allowed(Guard([&] { return m_pSite->Over(m_data, DragPlace(m_place)); }), m_allowed);
 }

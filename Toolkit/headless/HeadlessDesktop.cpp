@@ -145,6 +145,13 @@ void toolkit::HeadlessDesktop::Advance(DWORD nMilliseconds)
     Run();
 }
 
+void toolkit::HeadlessDesktop::ProcessEvents()
+{
+    if (m_duringWork)
+        m_duringWork();
+    Run();
+}
+
 void toolkit::HeadlessDesktop::Run()
 {
     RunPendingMessages();

@@ -51,6 +51,9 @@ public:
     // not within ten seconds of real time.
     bool RunUntil(const std::function<bool()>& condition);
 
+    // What the user does each time that work which takes long has the windows answer meanwhile.
+    void DuringWork(std::function<void()> script) { m_duringWork = std::move(script); }
+
     // Message boxes: answers in order (IDOK when there is none left), and what was shown: "caption: text".
     void Answer(int nButton) { m_answers.push_back(nButton); }
     std::vector<std::string> TakeMessageBoxes();
@@ -94,6 +97,7 @@ public:
     void Present(HWND, const Surface&, const CRect&) override {}
     void Wake(std::optional<DWORD> inMilliseconds) override;
     void WakeFromThread() override;
+    void ProcessEvents() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
     UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) override;
@@ -121,6 +125,7 @@ private:
     CPoint m_cursorPos;
     HWND m_hUnderMouse = nullptr; // top-level window
     Cursor m_cursor = Cursor::Arrow;
+    std::function<void()> m_duringWork;
     std::deque<int> m_answers;
     std::vector<std::string> m_boxes;
     std::deque<std::string> m_choices;

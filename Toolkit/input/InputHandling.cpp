@@ -2,6 +2,7 @@
 
 #include "Toolkit/focus/Focus.h"
 #include "Toolkit/focus/InputState.h"
+#include "Toolkit/focus/ModalInput.h"
 #include "Toolkit/handle/WindowQueries.h"
 #include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/input/MouseInput.h"
@@ -65,6 +66,12 @@ LPARAM KeyInfo(bool bDown, bool bWasDown)
     return kOnce | (bWasDown ? kWasDown : 0) | (bDown ? 0 : kReleased);
 }
 
+HWND KeyTarget()
+{
+    const HWND hFocus = GetFocus();
+    return toolkit::ModalInput::Admits(hFocus) ? hFocus : toolkit::ModalInput::Window();
+}
+
 void HandleKey(const InputEvent& event)
 {
     toolkit::SetModifiersDown(event.modifiers);
@@ -72,7 +79,7 @@ void HandleKey(const InputEvent& event)
     const bool bSystem = IsSystemKey(event.value);
     const UINT down = bSystem ? WM_SYSKEYDOWN : WM_KEYDOWN;
     const UINT up = bSystem ? WM_SYSKEYUP : WM_KEYUP;
-    MSG msg{GetFocus(), event.down ? down : up, event.value, KeyInfo(event.down, bWasDown)};
+    MSG msg{KeyTarget(), event.down ? down : up, event.value, KeyInfo(event.down, bWasDown)};
     if (!msg.hwnd || IsSwallowed(msg))
         return;
     const UINT character = event.down ? ControlCharacter(event.value) : 0;
@@ -83,7 +90,7 @@ void HandleKey(const InputEvent& event)
 
 void HandleCharacter(const InputEvent& event)
 {
-    MSG msg{GetFocus(), WM_CHAR, event.value, KeyInfo(true, false)};
+    MSG msg{KeyTarget(), WM_CHAR, event.value, KeyInfo(true, false)};
     if (msg.hwnd && !IsSwallowed(msg))
         SendMessage(msg.hwnd, msg.message, msg.wParam, msg.lParam);
 }
@@ -107,6 +114,16 @@ void Place(const InputEvent& event)
     toolkit::PlaceWindow(event.hTop, {topLeft, size});
 }
 
+void Close(HWND hTop)
+{
+    if (!toolkit::ModalInput::IsOn()) {
+        SendMessage(hTop, WM_CLOSE, 0, 0);
+        return;
+    }
+    PostMessage(hTop, WM_CLOSE, 0, 0);
+    SendMessage(toolkit::ModalInput::Window(), WM_CLOSE, 0, 0);
+}
+
 void Handle(const InputEvent& event)
 {
     switch (event.kind) {
@@ -125,7 +142,7 @@ void Handle(const InputEvent& event)
     case InputKind::Moved:
         return Place(event);
     case InputKind::Close:
-        SendMessage(event.hTop, WM_CLOSE, 0, 0);
+        return Close(event.hTop);
     }
 }
 } // namespace

@@ -5,6 +5,7 @@
 #include "Toolkit/focus/DoubleClick.h"
 #include "Toolkit/focus/Focus.h"
 #include "Toolkit/focus/InputState.h"
+#include "Toolkit/focus/ModalInput.h"
 #include "Toolkit/handle/HitTest.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/handle/WindowQueries.h"
@@ -86,6 +87,13 @@ void TakeNote(const InputEvent& event)
         toolkit::SetCursorPos(event.at + toolkit::SurfaceToScreen(*pTop));
 }
 
+// Scroll bars are for looking around, which may always be done.
+bool Passes(const toolkit::MouseTarget& target, const InputEvent& event)
+{
+    const bool bPressed = event.kind == InputKind::MouseMove ? GetCapture() != nullptr : event.down;
+    return !bPressed || !target.bClient || toolkit::ModalInput::Admits(target.hWnd);
+}
+
 void LeaveTop(HWND hTop)
 {
     if (GetCapture())
@@ -114,6 +122,8 @@ void toolkit::HandleMouse(const InputEvent& event)
     SetOver(target.bClient ? target.hWnd : nullptr);
     if (event.kind == InputKind::MouseMove && !hCapture)
         SendMessage(s_mouse.hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_mouse.hOver), 0);
+    if (!Passes(target, event))
+        return;
     if (target.bClient)
         SendToWindow(target.hWnd, event);
     else if (target.hWnd)

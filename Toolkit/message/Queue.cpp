@@ -18,6 +18,7 @@ using toolkit::Task;
 struct
 {
     toolkit::Fifo<Posted> posted;
+    int nHolds = 0;
     bool bPaintRequested = false;
     // What the desktop was asked for and has not done yet: to run the queue now, or at that tick.
     bool bWakeNow = false;
@@ -35,7 +36,8 @@ void TakeTasksIn()
 
 bool HasWork()
 {
-    return !s_queue.posted.IsEmpty() || toolkit::HasTasks() || toolkit::HasInput() || s_queue.bPaintRequested;
+    const bool bPosted = s_queue.nHolds == 0 && (!s_queue.posted.IsEmpty() || toolkit::HasTasks());
+    return bPosted || toolkit::HasInput() || s_queue.bPaintRequested;
 }
 
 void AskForWakeAt(std::optional<DWORD> tick)
@@ -70,7 +72,7 @@ void toolkit::UpdateWake()
     if (HasWork())
         RequestRun();
     else
-        AskForWakeAt(NextTimer());
+        AskForWakeAt(s_queue.nHolds == 0 ? NextTimer() : std::nullopt);
 }
 
 void toolkit::BeginRun()
@@ -78,6 +80,22 @@ void toolkit::BeginRun()
     s_queue.bWakeNow = false;
     if (s_queue.wakeAt && static_cast<std::int32_t>(CurrentDesktop().Ticks() - *s_queue.wakeAt) >= 0)
         s_queue.wakeAt.reset();
+}
+
+toolkit::QueueHold::QueueHold()
+{
+    ++s_queue.nHolds;
+}
+
+toolkit::QueueHold::~QueueHold()
+{
+    --s_queue.nHolds;
+    UpdateWake();
+}
+
+bool toolkit::QueueHold::IsHeld()
+{
+    return s_queue.nHolds > 0;
 }
 
 void toolkit::RequestPaint()

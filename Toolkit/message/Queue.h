@@ -20,6 +20,18 @@ std::optional<Posted> TakePosted(); // what was posted to windows that are gone 
 int CountPosted();                  // to windows that are alive, and tasks
 void DropTasks();                   // the desktop goes
 
+// While one lives, what was posted, tasks and timers wait: the queue has nothing but input and paints.
+class QueueHold
+{
+public:
+    QueueHold();
+    ~QueueHold();
+    QueueHold(const QueueHold&) = delete;
+    QueueHold& operator=(const QueueHold&) = delete;
+
+    static bool IsHeld();
+};
+
 void RequestPaint(); // something is noted to be painted, or painted and not yet presented
 bool IsPaintRequested();
 void EndPaintRequest();

@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Ticks.h"
+#include "Toolkit/focus/ModalInput.h"
 #include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/input/InputHandling.h"
 #include "Toolkit/message/Queue.h"
@@ -29,6 +30,8 @@ bool RunOnePosted()
 bool RunNext()
 {
     try {
+        if (toolkit::QueueHold::IsHeld())
+            return toolkit::RunOneInput() || toolkit::RunOnePaint();
         return RunOnePosted() || toolkit::RunOneInput() || toolkit::RunOnePaint() || toolkit::RunOneTimer();
     } catch (CException& exception) {
         exception.ReportError();
@@ -78,6 +81,13 @@ bool toolkit::RunPendingMessagesFor(DWORD nMilliseconds)
         bMore = RunNext();
     UpdateWake();
     return !bMore;
+}
+
+void toolkit::AnswerMeanwhile(HWND hModal)
+{
+    const QueueHold hold;
+    const ModalInput modal(hModal);
+    CurrentDesktop().ProcessEvents();
 }
 
 toolkit::WindowCounts toolkit::CountWindows()
