@@ -66,6 +66,7 @@ std::string EditorApp::OpenFolder(const std::string& path)
     if (!pLibrary)
         return error;
     pLibrary->SetHistory(&m_parts->atomEditor.GetHistory());
+    pLibrary->SetWork(&m_parts->atomEditor.GetWork());
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
     if (!GetMainWindow()) {
         pFrame = std::make_unique<CMainFrame>(m_parts->atomEditor, *m_parts->pPictures, m_parts->options.onClosed);

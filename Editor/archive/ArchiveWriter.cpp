@@ -33,10 +33,12 @@ std::string Because(std::string_view shown, const std::string& reason)
 }
 
 // What went wrong; empty when all was read.
-std::string ReadAll(int fd, char* pBytes, std::size_t size)
+std::string ReadAll(int fd, char* pBytes, std::size_t size, Meter* pMeter)
 {
     while (size > 0) {
-        const ssize_t got = read(fd, pBytes, size);
+        if (pMeter && pMeter->IsCancelled())
+            return SystemErrorText(ECANCELED);
+        const ssize_t got = read(fd, pBytes, pMeter ? std::min(size, Meter::kPiece) : size);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
@@ -45,6 +47,8 @@ std::string ReadAll(int fd, char* pBytes, std::size_t size)
             return "became shorter while it was read";
         pBytes += got;
         size -= static_cast<std::size_t>(got);
+        if (pMeter)
+            pMeter->Did(static_cast<std::uint64_t>(got));
     }
     return {};
 }
@@ -195,7 +199,7 @@ std::string ArchiveWriter::AddFile(const Entry& entry, std::string_view origin)
         error = Grow(entry.Size());
     if (!error.empty())
         return error;
-    if (error = ReadAll(entry.Handle(), Data() + content, entry.Size()); !error.empty())
+    if (error = ReadAll(entry.Handle(), Data() + content, entry.Size(), m_pMeter); !error.empty())
         return Fail(Because(entry.Shown(), error));
     if (error = ReplaceContent(content, entry); !error.empty())
         return error;

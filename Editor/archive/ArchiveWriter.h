@@ -30,6 +30,7 @@ public:
 
     void SetReplacement(Replacement replacement) { m_replacement = std::move(replacement); }
 
+    void SetMeter(Meter* pMeter) { m_pMeter = pMeter; } // borrowed; counts bytes, and cancels
     // From now on what cannot be carried of a folder is left out.
     void AllowLeavingOut() { m_bMayLeaveOut = true; }
     // What could not, a line for each: a pipe, what may not be read, a link to a folder that holds it, one of too many
@@ -64,6 +65,7 @@ private:
 
     IByteStream& m_stream;
     Replacement m_replacement;
+    Meter* m_pMeter = nullptr;
     std::size_t m_nLength = 0; // of the stream
     std::uint64_t m_sum = 0;   // of the records that are closed
     std::uint32_t m_nObjects = 0;

@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/Text.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <dirent.h>
@@ -64,15 +65,20 @@ int ReadNames(int nFolder, std::vector<std::string>& names)
     return errno;
 }
 
-int WriteAll(int fd, std::string_view bytes)
+int WriteAll(int fd, std::string_view bytes, Meter* pMeter)
 {
     while (!bytes.empty()) {
-        const ssize_t done = write(fd, bytes.data(), bytes.size());
+        if (pMeter && pMeter->IsCancelled())
+            return ECANCELED;
+        const ssize_t done = write(fd, bytes.data(), pMeter ? std::min(bytes.size(), Meter::kPiece) : bytes.size());
         if (done < 0 && errno != EINTR)
             return errno;
         if (done == 0)
             return ENOSPC;
-        bytes.remove_prefix(done < 0 ? 0 : static_cast<std::size_t>(done));
+        const std::size_t written = done < 0 ? 0 : static_cast<std::size_t>(done);
+        bytes.remove_prefix(written);
+        if (pMeter)
+            pMeter->Did(written);
     }
     return 0;
 }

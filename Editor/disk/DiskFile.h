@@ -1,6 +1,8 @@
 // Files on the disk, as the system hands them out.
 #pragma once
 
+#include "Editor/disk/Meter.h"
+
 #include <compare>
 #include <cstdint>
 #include <string>
@@ -46,7 +48,7 @@ bool IsFile(const std::string& path, const FileIdentity& identity); // does the 
 int ReadNames(int nFolder, std::vector<std::string>& names);
 
 // Writes all of it; the error number, 0: none.
-int WriteAll(int fd, std::string_view bytes);
+int WriteAll(int fd, std::string_view bytes, Meter* pMeter = nullptr); // ECANCELED when it is cancelled meanwhile
 
 // Gives a file or folder another name, also in another folder of the same file system. EEXIST when there is
 // something of that name already; nothing is ever replaced. The error number; 0: none.

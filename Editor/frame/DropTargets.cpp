@@ -2,6 +2,7 @@
 
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/EditorTree.h"
+#include "Editor/services/AtomEditor.h"
 #include "Toolkit/message/TaskInbox.h"
 #include "Views/clipboard/Commands.h"
 
@@ -25,6 +26,20 @@ void TellLater(const DropFailed& failed, std::string reason)
         toolkit::PostTask([failed, reason = std::move(reason)] { failed(reason); });
 }
 
+// One step, however much comes, and a command that shows how far it is.
+class Dropping
+{
+public:
+    explicit Dropping(CAtomEditor* pEditor)
+        : m_step(pEditor ? &pEditor->GetHistory() : nullptr),
+          m_command(pEditor ? &pEditor->GetWork() : nullptr, "Pasting", Progress::Unit::Bytes)
+    {}
+
+private:
+    const History::Step m_step;
+    const LongWork::Command m_command;
+};
+
 BOOL DropFiles(COleDataObject* pData, IAtomContainer* pContainer, const DropFailed& failed)
 {
     if (!pData || !OffersFilesFor(*pData, pContainer))
@@ -40,6 +55,8 @@ template <class DropAtoms>
 BOOL Drop(COleDataObject* pData, const CStubRef<IAtomContainer>& pContainer, const DropFailed failed,
           DropAtoms dropAtoms)
 {
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const Dropping dropping(dynamic_cast<CAtomEditor*>(pEditor.Get()));
     if (!HasAtoms(pData))
         return DropFiles(pData, pContainer.Get(), failed);
     if (dropAtoms())

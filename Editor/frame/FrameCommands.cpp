@@ -121,14 +121,14 @@ void FrameCommands::PasteHere()
 void FrameCommands::UndoOrTell()
 {
     const std::string reason = GetHistory().NameToUndo().empty() ? std::string() : Undo();
-    if (!reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
+    if (!WasCancelled() && !reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
         GetHistory().ForgetNextUndo();
 }
 
 void FrameCommands::RedoOrTell()
 {
     const std::string reason = GetHistory().NameToRedo().empty() ? std::string() : Redo();
-    if (!reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
+    if (!WasCancelled() && !reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
         GetHistory().ForgetNextRedo();
 }
 
@@ -269,7 +269,7 @@ void FrameCommands::ReadAgain(CContainer& container)
 
 void FrameCommands::ShowFailure(UINT nCaptionID, std::string reason) const
 {
-    if (!reason.empty())
+    if (!WasCancelled() && !reason.empty())
         ShowAtomError(m_parts.editor.GetMainWindow(), nCaptionID, CErrorInfo::Make(std::move(reason)).Get());
 }
 

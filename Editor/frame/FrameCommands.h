@@ -79,6 +79,7 @@ private:
     std::string Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&));
     template <class Change>
     std::string ChangeSelection(Change change);
+    bool WasCancelled() const { return m_parts.editor.GetWork().TakeCancelled(); } // the user knows why
     CEditorList& List() const { return m_parts.content.GetList(); }
 
     const Parts m_parts;

@@ -51,7 +51,8 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
                     [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),
       m_keys({*this, m_treePane, m_tree, m_splitter, m_content, m_properties, m_navigation, m_commands}),
-      m_statusBar([this] { return GetStatus(); })
+      m_statusBar([this] { return GetStatus(); }),
+      m_workView(editor.GetWork(), [this](const std::string& line) { TellNews(line); })
 {}
 
 CMainFrame::~CMainFrame()
@@ -166,15 +167,13 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     // The frame hears of everything first; the lists, registered before the tree, show what was entered by the time
     // that the tree selects it.
     m_editor.SetFrame(this);
-    m_editor.GetHistory().SetNews([this](const std::string& line) {
-        m_news = line;
-        m_statusBar.Invalidate();
-    });
+    m_editor.GetHistory().SetNews(
+        [this](const std::string& line) { TellNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line); });
     m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
-                       m_content.Create(this) && m_statusBar.Create(this) && m_tree.Create(&m_treePane) &&
-                       m_properties.Create(this);
+                       m_content.Create(this) && m_statusBar.Create(this) && m_workView.Create(&m_statusBar) &&
+                       m_tree.Create(&m_treePane) && m_properties.Create(this);
     return bMade ? 0 : -1;
 }
 
@@ -280,6 +279,8 @@ void CMainFrame::OnMoved(const std::string& reason)
 
 LRESULT CMainFrame::OnActivated(WPARAM wParam, LPARAM)
 {
+    if (m_editor.GetWork().IsUnderWay()) // nobody looks at what is being made; it is told of when it is done
+        return 0;
     if (const auto unknown = m_follower.Unfollowed(); wParam == WA_ACTIVE && !unknown.empty())
         OnDiskNews(unknown);
     return 0;
@@ -327,6 +328,12 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
     if ((bAlt || pMsg->message == WM_KEYDOWN) && m_keys.Handle(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
+}
+
+void CMainFrame::TellNews(const std::string& line)
+{
+    m_news = line;
+    m_statusBar.Invalidate();
 }
 
 void CMainFrame::ForgetNews()

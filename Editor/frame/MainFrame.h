@@ -4,6 +4,7 @@
 #include "Editor/frame/DiskFollower.h"
 #include "Editor/frame/EditorTree.h"
 #include "Editor/frame/FrameKeys.h"
+#include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
@@ -36,6 +37,7 @@ public:
     Navigation& GetNavigation() { return m_navigation; }
     CMember* Shown() const { return m_navigation.Shown(); }
     CContainer* ShownContainer() const { return m_navigation.ShownContainer(); }
+    CProgressStrip& GetProgress() { return m_workView.GetStrip(); }
     FrameCommands& GetCommands() { return m_commands; }
     void ShowList(ListKind kind) { m_content.ShowList(kind); }
 
@@ -68,6 +70,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    void TellNews(const std::string& line);
     void ForgetNews();
     bool MayClose(); // asks what is to become of phases that are modified
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
@@ -101,6 +104,7 @@ private:
     CPropertiesPane m_properties;
     FrameKeys m_keys;
     CStatusBar m_statusBar;
+    WorkView m_workView;
     std::string m_news; // what the user has just done, until the next key or click
 };
 

@@ -48,22 +48,6 @@ std::string NewsOf(const std::string& name, const StepSummary& summary)
     return "Done: " + name + ". Ctrl+Z takes it back";
 }
 
-// All of them in that order or, when one cannot be done, none.
-using Way = std::string (Edit::*)();
-template <class Iterator>
-std::string DoAll(Iterator first, Iterator last, Way make, Way takeBack)
-{
-    for (Iterator at = first; at != last; ++at) {
-        std::string reason = ((**at).*make)();
-        if (reason.empty())
-            continue;
-        while (at != first)
-            ((**--at).*takeBack)();
-        return reason;
-    }
-    return {};
-}
-
 } // namespace
 
 History::Step::Step(History* pHistory, const char* pszVerb) : m_pHistory(pHistory)
@@ -76,6 +60,26 @@ History::Step::~Step()
 {
     if (m_pHistory)
         m_pHistory->End();
+}
+
+// All of them in that order or, when one cannot be done, none.
+template <class Iterator, class Way>
+std::string History::DoAll(Iterator first, Iterator last, Way make, Way takeBack)
+{
+    const LongWork::Command command(m_pWork, "Putting back", Progress::Unit::Objects);
+    if (m_pWork)
+        m_pWork->GetMeter().SetTotal(static_cast<std::uint64_t>(std::distance(first, last)));
+    for (Iterator at = first; at != last; ++at) {
+        std::string reason = IsCancelled(m_pWork) ? kCancelled : Aside(m_pWork, [&] { return ((**at).*make)(); });
+        if (m_pWork)
+            m_pWork->GetMeter().Did(1);
+        if (reason.empty())
+            continue;
+        while (at != first)
+            Aside(m_pWork, [&] { ((**--at).*takeBack)(); });
+        return reason;
+    }
+    return {};
 }
 
 std::string History::Undo(Changes& changes)
@@ -122,7 +126,7 @@ void History::ForgetNextRedo()
 
 void History::Came(const std::string& folder, const std::string& name) noexcept
 {
-    Note([&] { m_open.push_back(std::make_unique<PlacingEdit>(folder + '/' + name)); });
+    Note([&] { m_open.push_back(Aside(m_pWork, [&] { return std::make_unique<PlacingEdit>(folder + '/' + name); })); });
 }
 
 void History::Went(const std::string& path, const TrashPlace& place) noexcept

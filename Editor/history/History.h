@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/history/Edit.h"
+#include "Editor/work/LongWork.h"
 
 #include <deque>
 #include <functional>
@@ -27,14 +28,16 @@ public:
     // `news` is called with one line whenever a step was done, taken back or done again; it may be empty.
     void SetNews(std::function<void(const std::string& line)> news) { m_news = std::move(news); }
 
+    void SetWork(LongWork* pWork) { m_pWork = pWork; } // does what takes long; borrowed, NULL: done at once
+
     std::size_t CountDone() const { return m_nDone; } // so many can be taken back
     // What the next one is called: 'rename of "walk.png"', "paste of 3 objects". Empty: there is none.
     std::string NameToUndo() const { return m_nDone > 0 ? m_steps[m_nDone - 1].name : std::string(); }
     std::string NameToRedo() const { return m_nDone < m_steps.size() ? m_steps[m_nDone].name : std::string(); }
 
     // All of the next step, the last change first, or nothing of it. Empty when it is done; else one line, and the step
-    // stays the next one. What could be neither done nor put right again, because others are at work there, is gone
-    // on with at the next attempt.
+    // stays the next one: also where the user cancels it. What could be neither done nor put right again, because
+    // others are at work there, is gone on with at the next attempt.
     std::string Undo(Changes& changes);
     std::string Redo(Changes& changes);
 
@@ -80,6 +83,10 @@ private:
     void Note(Change change) noexcept;
     void Tell(const std::string& line) const;
 
+    template <class Iterator, class Way>
+    std::string DoAll(Iterator first, Iterator last, Way make, Way takeBack);
+
+    LongWork* m_pWork = nullptr;
     std::deque<Done> m_steps;
     std::size_t m_nDone = 0; // so many of the first; the others have been taken back
     Edits m_open;

@@ -5,6 +5,7 @@
 #include "Editor/disk/FolderWatch.h"
 #include "Editor/disk/TakenNames.h"
 #include "Editor/model/Container.h"
+#include "Editor/model/LibraryContext.h"
 
 namespace editor
 {
@@ -21,7 +22,8 @@ public:
 
     // Of a file anywhere that has been copied into it, for a move: to the trash. Empty, or one line with the reason.
     std::string RemoveOriginal(const std::string& path);
-    bool IsFollowed() const; // false: others' doings are to be seen, but are not told of
+    LongWork* Work() const { return Context().pWork; } // NULL: what takes long is done at once
+    bool IsFollowed() const;                           // false: others' doings are to be seen, but are not told of
 
     // Looks for those of its files alone that the disk has told of, if it has been read.
     void LookFor(const FolderNews& onDisk, MemberNews& news);

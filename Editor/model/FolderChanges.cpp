@@ -86,7 +86,8 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
         bCurrent = true;
         return mayDiffer ? ValidNameFor(name) : std::string();
     };
-    std::string failure = Unpack(path, added.name, adapted, another);
+    LongWork* const pWork = Context().pWork;
+    std::string failure = Aside(pWork, [&] { return Unpack(path, added.name, adapted, another, MeterOf(pWork)); });
     if (failure.empty() && bCurrent)
         m_taken.Added(path, added.name);
     if (History* const pHistory = Context().pHistory; pHistory && failure.empty())
@@ -124,7 +125,11 @@ std::string CFolder::RemoveOriginal(const std::string& path)
 
 std::string CFolder::MoveAway(const std::string& path, TrashPlace& place)
 {
-    const std::string reason = RemoveFromDisk(path, place);
+    LongWork* const pWork = Context().pWork;
+    const std::string reason =
+        IsCancelled(pWork) ? kCancelled : Aside(pWork, [&] { return RemoveFromDisk(path, place); });
+    if (pWork)
+        pWork->GetMeter().Did(1);
     if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty())
         pHistory->Went(path, place);
     return reason.empty() ? reason : FailureOf(BaseName(path), reason);

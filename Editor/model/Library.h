@@ -16,7 +16,9 @@ public:
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error,
                                                  FolderWatch* pWatch = nullptr);
 
-    void SetHistory(History* pHistory) { m_context.pHistory = pHistory; } // borrowed
+    // Both borrowed.
+    void SetHistory(History* pHistory) { m_context.pHistory = pHistory; }
+    void SetWork(LongWork* pWork) { m_context.pWork = pWork; }
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);

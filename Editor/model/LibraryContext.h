@@ -21,6 +21,7 @@ struct LibraryContext
     std::shared_ptr<PictureStore> pPictures;
     History* pHistory = nullptr;   // of what is done to the disk; borrowed. NULL: nothing is remembered
     FolderWatch* pWatch = nullptr; // of the folders that have been read; borrowed. NULL: nobody follows the disk
+    LongWork* pWork = nullptr;     // does what takes long; borrowed. NULL: it is done at once
     DWORD nextId = 1;
     std::vector<const CPhase*> unsaved; // whose timing is set and not saved
 };

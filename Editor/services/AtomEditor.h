@@ -45,7 +45,7 @@ protected:
 class CAtomEditor final : public IAtomEditor
 {
 public:
-    CAtomEditor() = default;
+    CAtomEditor() { m_history.SetWork(&m_work); }
     CAtomEditor(const CAtomEditor&) = delete;
     CAtomEditor& operator=(const CAtomEditor&) = delete;
 
@@ -56,6 +56,7 @@ public:
     int CountReferences() const { return m_nRefs; }         // beside the owner's
 
     History& GetHistory() { return m_history; } // of what is done to the disk
+    LongWork& GetWork() { return m_work; }
 
     void AddRef() override { ++m_nRefs; }
     void Release() override { --m_nRefs; }
@@ -130,6 +131,7 @@ private:
     HWND GetFrameWindow() const { return m_pFrame ? m_pFrame->GetMainWindow() : nullptr; }
     BOOL NoteArchiveError(std::string line); // FALSE when there is one
 
+    LongWork m_work;
     History m_history;
     HandlerRegistry m_handlers;
     PaneFrame* m_pFrame = nullptr;

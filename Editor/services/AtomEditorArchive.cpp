@@ -14,35 +14,54 @@ namespace editor
 namespace
 {
 
+// What is to be written: found out on the window's thread, written on any.
+struct Object
+{
+    std::string path, origin;
+    std::string line; // a line of a phase, by that name; empty: it is a file or folder
+};
 struct Writing
 {
-    ArchiveWriter writer;
+    std::vector<Object> objects;
+    std::vector<UnsavedTiming> unsaved;
     std::string error;
-    int nAtoms = 0;
 };
 
-std::string WriteAtom(ArchiveWriter& writer, IAtom* pAtom)
+std::string NoteObject(IAtom* pAtom, std::vector<Object>& objects)
 {
     const CMember* const pMember = CMember::Of(pAtom);
     if (!pMember)
         return "An object of another editor cannot be carried.";
-    const std::string path = pMember->Path();
-    const std::string origin = pMember->PathInLibrary();
+    objects.push_back({pMember->Path(), pMember->PathInLibrary(), {}});
     if (!CStubRef<IImageLink>::From(pAtom))
-        return writer.AddPath(path, origin);
-    return origin.empty() ? pMember->ShownName() + ": lies outside the library"
-                          : writer.AddLink(pMember->Name(), path, origin);
+        return {};
+    objects.back().line = pMember->Name();
+    return objects.back().origin.empty() ? pMember->ShownName() + ": lies outside the library" : std::string();
 }
 
 BOOL WriteActivePair(IAtom* pAtom, IAtomContainer*, void* pContext)
 {
     auto& writing = *static_cast<Writing*>(pContext);
-    if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.nAtoms == 0)
-        writing.writer.SetReplacement(
-            [unsaved = pMember->UnsavedPhases()](const auto&... file) { return TextWithUnsaved(unsaved, file...); });
-    writing.error = WriteAtom(writing.writer, pAtom);
-    ++writing.nAtoms;
+    if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.objects.empty())
+        writing.unsaved = UnsavedTimings(pMember->UnsavedPhases());
+    writing.error = NoteObject(pAtom, writing.objects);
     return writing.error.empty();
+}
+
+std::string WriteAll(const std::vector<Object>& objects, ArchiveWriter& writer, Meter& meter)
+{
+    std::uint64_t total = 0;
+    for (const Object& object : objects)
+        total += object.line.empty() ? BytesBelow(object.path, meter) : 0;
+    meter.SetTotal(total);
+    writer.SetMeter(&meter);
+    for (const Object& object : objects) {
+        std::string error = object.line.empty() ? writer.AddPath(object.path, object.origin)
+                                                : writer.AddLink(object.line, object.path, object.origin);
+        if (!error.empty())
+            return error;
+    }
+    return writer.Finish();
 }
 
 std::string_view BytesOf(IArchive& archive)
@@ -53,7 +72,8 @@ std::string_view BytesOf(IArchive& archive)
 }
 
 // FALSE when the callback refused one. `failure` becomes the first object's that no container took.
-BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, void* pContext, std::string& failure)
+BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, void* pContext, std::string& failure,
+             const LongWork& work)
 {
     BOOL bAccepted = TRUE;
     for (ArchiveRecord record; bAccepted && reader.Next(record);) {
@@ -63,6 +83,8 @@ BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, v
         bAccepted = callback(pAtom.Get(), pContext);
         if (failure.empty())
             failure = pAtom->Failure();
+        if (work.IsCancelled())
+            return FALSE;
     }
     return bAccepted;
 }
@@ -81,16 +103,20 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
     if (!archive)
         return FALSE;
     try {
-        Writing writing{ArchiveWriter(*archive), {}, 0};
+        Writing writing;
+        ArchiveWriter writer(*archive);
+        writer.SetReplacement([&](const auto&... file) { return TextWithUnsaved(writing.unsaved, file...); });
         if (m_bLeavingOut)
-            writing.writer.AllowLeavingOut();
-        if (EnumActivePairs(&WriteActivePair, &writing) && writing.nAtoms > 0)
-            writing.error = writing.writer.Finish();
+            writer.AllowLeavingOut();
+        if (EnumActivePairs(&WriteActivePair, &writing) && !writing.objects.empty())
+            writing.error = Aside(&m_work, [&] { return WriteAll(writing.objects, writer, m_work.GetMeter()); });
         else if (writing.error.empty())
             writing.error = "Nothing is selected.";
+        if (writing.error.empty() && m_work.IsCancelled())
+            writing.error = kCancelled;
         if (!writing.error.empty())
             Empty(*archive);
-        m_bCanLeaveOut = !writing.error.empty() && writing.writer.LacksConsent();
+        m_bCanLeaveOut = !writing.error.empty() && writer.LacksConsent();
         return NoteArchiveError(std::move(writing.error));
     } catch (CMemoryException& exception) {
         Empty(*archive);
@@ -104,11 +130,14 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
         return FALSE;
     try {
         std::string trouble;
-        const std::string_view records = OpenArchive(BytesOf(*archive), trouble);
+        const std::string_view bytes = BytesOf(*archive);
+        if (m_work.GetMeter().Total() == 0)
+            m_work.GetMeter().SetTotal(bytes.size());
+        const std::string_view records = Aside(&m_work, [&] { return OpenArchive(bytes, trouble); });
         if (!trouble.empty())
             return NoteArchiveError("The objects cannot be read: " + trouble + '.');
         std::string failure;
-        const BOOL bAccepted = HandOut(RecordReader(records), *archive, callback, context, failure);
+        const BOOL bAccepted = HandOut(RecordReader(records), *archive, callback, context, failure, m_work);
         return NoteArchiveError(std::move(failure)) && bAccepted;
     } catch (CMemoryException& exception) {
         return NoteArchiveError(exception.GetErrorMessage());

@@ -31,7 +31,10 @@ try {
     ActiveMembers members = GetActiveMembers(*this);
     if (members.empty())
         return DROPEFFECT_NONE;
-    const auto pData = MakeDragData(*this, members);
+    const auto pData = [&] {
+        const LongWork::Command command(&m_work, "Copying", Progress::Unit::Bytes);
+        return MakeDragData(*this, members);
+    }();
     if (!pData) {
         TellOfFailedDrag();
         return DROPEFFECT_NONE;
@@ -49,6 +52,8 @@ try {
 
 void CAtomEditor::TellOfFailedDrag()
 {
+    if (m_work.TakeCancelled())
+        return;
     const std::string reason = m_archiveError.empty() ? "no file can be made for it" : m_archiveError;
     ShowAtomError(GetFrameWindow(), IDS_DRAG_FAILED, CErrorInfo::Make(reason).Get());
 }
@@ -78,6 +83,8 @@ BOOL CAtomEditor::EnumMoved(ACTIVEPAIRPROC callback, void* context)
 {
     const std::shared_ptr<Moved> pMoved = m_pMoved;
     pMoved->bRemoving = true;
+    const LongWork::Command command(&m_work, "Moving", Progress::Unit::Objects);
+    m_work.GetMeter().SetTotal(pMoved->members.size());
     const JointRemoval joint(pMoved->members);
     ForgetWhatStayed(pMoved->members);
     BOOL bAll = TRUE;

@@ -115,6 +115,7 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
+    const LongWork::Command command(&m_editor.GetWork(), "Copying", Progress::Unit::Bytes);
     ::SetLastError(ERROR_SUCCESS);
     if (CopyObjects(FALSE, [&](COleDataSource& source) { OfferCopiedFiles(source, PathsOf(members)); }))
         return {};
@@ -130,6 +131,7 @@ try {
     if (members.empty())
         return kNothingSelected;
     const History::Step step(&m_editor.GetHistory(), "cut");
+    const LongWork::Command command(&m_editor.GetWork(), "Cutting", Progress::Unit::Bytes);
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
     const RevocableRemoval revocable(OwnOf(members));
@@ -160,6 +162,8 @@ try {
     if (members.empty())
         return kNothingSelected;
     const History::Step step(&m_editor.GetHistory(), "deletion");
+    const LongWork::Command command(&m_editor.GetWork(), "Removing", Progress::Unit::Objects);
+    m_editor.GetWork().GetMeter().SetTotal(members.size());
     const JointRemoval joint(members);
     ForgetWhatStayed(members);
     RemoveObjects(FALSE);
@@ -171,6 +175,7 @@ try {
 std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
 try {
     const History::Step step(&m_editor.GetHistory(), "paste");
+    const LongWork::Command command(&m_editor.GetWork(), "Pasting", Progress::Unit::Bytes);
     const Arrivals arrivals(m_editor, pTarget, arrived);
     return AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
 } catch (const CException& e) {

@@ -43,9 +43,12 @@ std::string PasteFile(const std::string& path, CFolder& folder)
         return folder.ShownName() + ": no archive can be made for it";
     ArchiveWriter writer(*pArchive.Get());
     writer.AllowLeavingOut();
-    if (std::string failure = writer.AddPath(path, {}); !failure.empty())
-        return failure;
-    if (std::string failure = writer.Finish(); !failure.empty())
+    writer.SetMeter(MeterOf(folder.Work()));
+    const auto write = [&] {
+        std::string failure = writer.AddPath(path, {});
+        return failure.empty() ? writer.Finish() : failure;
+    };
+    if (std::string failure = Aside(folder.Work(), write); !failure.empty())
         return failure;
     if (CheckPaste(pArchive.Get(), &folder, FALSE) == PASTE_REFUSED)
         return ToShown(path.substr(path.rfind('/') + 1)) + ": not a file that the library shows";
@@ -108,6 +111,13 @@ try {
     CFolder* const pFolder = FolderBehind(pContainer);
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";
+    LongWork* const pWork = pFolder->Work();
+    const LongWork::Command command(pWork, "Pasting", Progress::Unit::Bytes);
+    if (pWork) // read once, and written once
+        Aside(pWork, [&] {
+            for (const std::string& path : paths)
+                pWork->GetMeter().SetTotal(pWork->GetMeter().Total() + 2 * BytesBelow(path, pWork->GetMeter()));
+        });
     const bool bCut = IsCut(TakeText(data.GetGlobalData(CopiedFilesFormat())));
     std::string first;
     for (const std::string& path : paths) {
@@ -116,6 +126,8 @@ try {
             failure = pFolder->RemoveOriginal(path);
         if (first.empty())
             first = std::move(failure);
+        if (IsCancelled(pWork))
+            break;
     }
     return first;
 } catch (const CMemoryException& exception) {

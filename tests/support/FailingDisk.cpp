@@ -1,6 +1,7 @@
 #include "tests/support/FailingDisk.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cerrno>
 #include <climits>
 #include <cstdarg>
@@ -9,6 +10,7 @@
 #include <dirent.h>
 #include <dlfcn.h>
 #include <fcntl.h>
+#include <mutex>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -21,7 +23,8 @@ constexpr FailOperation::Operation kChange{nullptr, true, false, false};
 constexpr FailOperation::Operation kGrow{nullptr, true, true, false};
 constexpr FailOperation::Operation kWrite{nullptr, true, true, true};
 
-thread_local bool t_bCounting = false;
+std::atomic<bool> g_bCounting = false;
+thread_local bool t_bNoting = false;
 int g_nFailing = 0; // the operation that fails; 0: none
 DiskFault g_fault;
 bool g_bFull = false;
@@ -31,12 +34,14 @@ std::string g_ownSystem; // empty: none
 // The error number that this operation fails with; 0: it does not.
 int ErrorOf(const char* pszName, FailOperation::Operation operation)
 {
-    if (!t_bCounting)
+    static std::mutex s_mutex;
+    if (!g_bCounting || t_bNoting)
         return 0;
-    t_bCounting = false; // what follows is no operation of the program's
+    const std::lock_guard lock(s_mutex);
+    t_bNoting = true; // what follows is no operation of the program's
     operation.pszName = pszName;
     g_seen.push_back(operation);
-    t_bCounting = true;
+    t_bNoting = false;
     const bool bNow = static_cast<int>(g_seen.size()) == g_nFailing;
     if (bNow && g_fault == DiskFault::Death && !operation.bWrites)
         _exit(kDiskDeath);
@@ -120,12 +125,12 @@ FailOperation::FailOperation(int nth, DiskFault fault)
     g_fault = fault;
     g_bFull = false;
     g_seen.clear();
-    t_bCounting = true;
+    g_bCounting = true;
 }
 
 FailOperation::~FailOperation()
 {
-    t_bCounting = false;
+    g_bCounting = false;
 }
 
 const std::vector<FailOperation::Operation>& FailOperation::Seen()
@@ -174,7 +179,7 @@ int openat(int folder, const char* path, int flags, ...)
 ssize_t read(int fd, void* p, size_t size) { return Do<"read", decltype(read)>(kLook, fd, p, size); }
 ssize_t write(int fd, const void* p, size_t size)
 {
-    const bool bCounted = t_bCounting;
+    const bool bCounted = g_bCounting;
     if (const int error = ErrorOf("write", kWrite); error != 0)
         return Failed<ssize_t>(-1, error);
     auto* const pReal = Real<"write", decltype(write)>();
@@ -189,7 +194,7 @@ ssize_t write(int fd, const void* p, size_t size)
 int close(int fd)
 {
     auto* const pReal = Real<"close", decltype(close)>();
-    const bool bWriting = t_bCounting && (fcntl(fd, F_GETFL) & O_ACCMODE) != O_RDONLY;
+    const bool bWriting = g_bCounting && (fcntl(fd, F_GETFL) & O_ACCMODE) != O_RDONLY;
     const int error = bWriting ? ErrorOf("close", kChange) : 0;
     const int result = pReal(fd); // in any case: the system does, too
     return error != 0 ? Failed(-1, error) : result;

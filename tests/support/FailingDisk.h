@@ -16,7 +16,8 @@ enum class DiskFault
     Death        // the process ends there; what it was writing is written half
 };
 
-// While it lives, this thread's operations are counted, and the nth of them (from 1) fails.
+// While it lives, the program's operations are counted, whatever thread they are of, and the nth of them (from 1)
+// fails.
 class FailOperation
 {
 public:

@@ -1,0 +1,38 @@
+// The line at the bottom while work goes on that takes long: what, how far, and Cancel.
+#pragma once
+
+#include "Toolkit/window/Wnd.h"
+
+#include <functional>
+#include <string>
+
+namespace editor
+{
+
+// Escape, and closing the window, are Cancel as well.
+class CProgressStrip : public CWnd
+{
+public:
+    explicit CProgressStrip(std::function<void()> cancel) : m_cancel(std::move(cancel)) {}
+    ~CProgressStrip() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);                    // not shown yet
+    void SetState(std::string text, double dPart); // 0 to 1; less: not known
+    const std::string& GetText() const { return m_text; }
+    CRect CancelRect() const;
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnClose();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    const std::function<void()> m_cancel;
+    std::string m_text;
+    double m_dPart = -1;
+};
+
+} // namespace editor
