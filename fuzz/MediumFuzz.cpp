@@ -1,9 +1,9 @@
 // The path handle and its medium, as a drag or the clipboard brings them. The first byte says which kind of medium, and
 // whether the rest is a path by itself or one in a folder that has a little of everything.
-#include "Editor/archive/Archive.h"
-#include "Editor/archive/MemoryStream.h"
-#include "Editor/objects/LiveObjects.h"
 #include "Editor/services/Services.h"
+#include "HostKit/Archive.h"
+#include "HostKit/LiveObjects.h"
+#include "HostKit/MemoryStream.h"
 #include "Toolkit/base/Files.h"
 #include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/clipboard.h"

@@ -1,6 +1,6 @@
 #include "Editor/app/ProgramIcon.h"
 
-#include "Editor/resources/Pictograms.h"
+#include "HostKit/Pictograms.h"
 
 #include <QPixmap>
 

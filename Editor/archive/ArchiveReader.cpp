@@ -1,7 +1,7 @@
 #include "Editor/archive/ArchiveReader.h"
 
-#include "Editor/disk/Checksum.h"
 #include "Editor/disk/FileNames.h"
+#include "Toolkit/base/Checksum.h"
 
 namespace editor
 {
@@ -63,10 +63,10 @@ std::uint64_t SumOfRecords(std::string_view records, std::uint64_t sum, int dept
     RecordReader reader(records);
     for (ArchiveRecord record; reader.Next(record);) {
         const bool hasRecords = record.kind == RecordKind::Folder && depth + 1 < kDeepestFolder;
-        sum = hasRecords ? SumOfRecords(record.content, sum, depth + 1) : Checksum(record.content, sum);
-        sum = Checksum(record.head, sum);
+        sum = hasRecords ? SumOfRecords(record.content, sum, depth + 1) : toolkit::Checksum(record.content, sum);
+        sum = toolkit::Checksum(record.head, sum);
     }
-    return reader.IsAtEnd() ? sum : Checksum(reader.Rest(), sum);
+    return reader.IsAtEnd() ? sum : toolkit::Checksum(reader.Rest(), sum);
 }
 
 std::string TroubleOfHeader(std::string_view bytes)
@@ -130,7 +130,7 @@ std::uint64_t ChecksumOfArchive(std::string_view bytes)
 
 std::uint64_t ChecksumOfHeader(const char* pHeader, std::uint64_t records)
 {
-    return Checksum({pHeader, kSummedHeader}, records);
+    return toolkit::Checksum({pHeader, kSummedHeader}, records);
 }
 
 } // namespace editor

@@ -1,11 +1,11 @@
 #include "Editor/archive/ArchiveWriter.h"
 
 #include "Editor/archive/ArchiveReader.h"
-#include "Editor/disk/Checksum.h"
 #include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileNames.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/disk/TempEntry.h"
+#include "Toolkit/base/Checksum.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -276,8 +276,8 @@ void ArchiveWriter::CloseRecord(std::size_t at)
     const std::size_t content = m_nLength - at - head;
     PutNumber(p + 32, static_cast<std::uint32_t>(content));
     if (NumberAt<RecordKind>(p) != RecordKind::Folder) // what is in a folder has been summed
-        m_sum = Checksum({p + head, content}, m_sum);
-    m_sum = Checksum({p, head}, m_sum);
+        m_sum = toolkit::Checksum({p + head, content}, m_sum);
+    m_sum = toolkit::Checksum({p, head}, m_sum);
 }
 
 std::string ArchiveWriter::Grow(std::size_t bytes)

@@ -1,8 +1,8 @@
 #include "Editor/archive/ArchivedAtom.h"
 
 #include "Editor/objects/DisplayName.h"
-#include "Editor/objects/ErrorInfo.h"
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/ErrorInfo.h"
+#include "HostKit/LiveObjects.h"
 
 namespace editor
 {

@@ -1,8 +1,8 @@
 #include "Editor/disk/Fingerprint.h"
 
-#include "Editor/disk/Checksum.h"
 #include "Editor/disk/DiskFile.h"
 #include "Editor/disk/TempEntry.h"
+#include "Toolkit/base/Checksum.h"
 
 #include <climits>
 #include <fcntl.h>
@@ -36,7 +36,7 @@ std::uint64_t Of(int nFolder, const std::string& name, const std::string& below)
                                    bFolder ? 0 : static_cast<std::uint64_t>(status.st_mtim.tv_sec),
                                    bFolder ? 0 : static_cast<std::uint64_t>(status.st_mtim.tv_nsec)};
     const std::string_view bytes(reinterpret_cast<const char*>(facts), sizeof facts);
-    std::uint64_t sum = Checksum(target, Checksum(below, Checksum(bytes))) | 1;
+    std::uint64_t sum = toolkit::Checksum(target, toolkit::Checksum(below, toolkit::Checksum(bytes))) | 1;
     if (!bFolder)
         return sum;
     std::vector<std::string> names;

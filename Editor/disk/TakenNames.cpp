@@ -1,8 +1,8 @@
 #include "Editor/disk/TakenNames.h"
 
-#include "Editor/disk/Checksum.h"
 #include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileNames.h"
+#include "Toolkit/base/Checksum.h"
 #include "Toolkit/base/Text.h"
 
 #include <fcntl.h>
@@ -62,7 +62,7 @@ std::uint64_t TakenNames::KeyOf(std::string_view name)
         folded += toolkit::FoldCase(next.value);
         name.remove_prefix(static_cast<std::size_t>(next.bytes));
     }
-    return Checksum({reinterpret_cast<const char*>(folded.data()), folded.size() * sizeof(char32_t)});
+    return toolkit::Checksum({reinterpret_cast<const char*>(folded.data()), folded.size() * sizeof(char32_t)});
 }
 
 } // namespace editor

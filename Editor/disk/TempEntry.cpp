@@ -1,6 +1,6 @@
 #include "Editor/disk/TempEntry.h"
 
-#include "Editor/disk/Checksum.h"
+#include "Toolkit/base/Checksum.h"
 
 #include <cerrno>
 #include <climits>
@@ -47,7 +47,7 @@ const std::string& Beginning()
     static std::string s_beginning;
     if (s_beginning.empty())
         if (const auto machine = Machine())
-            s_beginning = std::string(kBeginning) + Hexadecimal(Checksum(*machine)) + '-';
+            s_beginning = std::string(kBeginning) + Hexadecimal(toolkit::Checksum(*machine)) + '-';
     return s_beginning;
 }
 

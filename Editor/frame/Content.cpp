@@ -2,8 +2,8 @@
 
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
-#include "Editor/resources/Pictograms.h"
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
+#include "HostKit/Pictograms.h"
 
 namespace editor
 {

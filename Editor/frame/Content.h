@@ -3,7 +3,7 @@
 
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/PictureView.h"
-#include "Editor/widgets/Pane.h"
+#include "HostKit/Pane.h"
 
 namespace editor
 {

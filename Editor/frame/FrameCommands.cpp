@@ -1,8 +1,8 @@
 #include "Editor/frame/FrameCommands.h"
 
 #include "Editor/disk/Trash.h"
-#include "Editor/objects/ErrorInfo.h"
 #include "Editor/resources/EditorResources.h"
+#include "HostKit/ErrorInfo.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/clipboard/Naming.h"
 

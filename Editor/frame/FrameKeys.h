@@ -3,8 +3,8 @@
 
 #include "Editor/frame/EditorTree.h"
 #include "Editor/frame/FrameCommands.h"
-#include "Editor/widgets/Pane.h"
-#include "Editor/widgets/Splitter.h"
+#include "HostKit/Pane.h"
+#include "HostKit/Splitter.h"
 
 namespace editor
 {

@@ -8,8 +8,8 @@
 #include "Editor/model/Library.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
-#include "Editor/widgets/Splitter.h"
 #include "Editor/widgets/StatusBar.h"
+#include "HostKit/Splitter.h"
 #include "Views/host/StateHandler.h"
 
 namespace editor

@@ -1,8 +1,8 @@
 #include "Editor/frame/PictureView.h"
 
 #include "Editor/pictures/Enlarge.h"
-#include "Editor/resources/Pictograms.h"
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
+#include "HostKit/Pictograms.h"
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
 

@@ -4,8 +4,8 @@
 #include "Editor/model/Container.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/objects/DisplayName.h"
-#include "Editor/objects/ErrorInfo.h"
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/ErrorInfo.h"
+#include "HostKit/LiveObjects.h"
 #include "Toolkit/graphics/ImageList.h"
 
 #include <algorithm>

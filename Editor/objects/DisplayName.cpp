@@ -1,6 +1,6 @@
 #include "Editor/objects/DisplayName.h"
 
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/LiveObjects.h"
 
 #include <algorithm>
 

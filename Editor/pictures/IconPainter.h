@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/pictures/PictureStore.h"
-#include "Editor/resources/Pictograms.h"
+#include "HostKit/Pictograms.h"
 #include "Toolkit/graphics/Gdi.h"
 
 namespace editor

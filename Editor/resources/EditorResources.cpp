@@ -1,6 +1,6 @@
 #include "Editor/resources/EditorResources.h"
 
-#include "Editor/resources/Pictograms.h"
+#include "HostKit/Pictograms.h"
 #include "Views/host/Resources.h"
 
 #include <algorithm>

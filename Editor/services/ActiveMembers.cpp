@@ -1,7 +1,7 @@
 #include "Editor/services/ActiveMembers.h"
 
 #include "Editor/model/Container.h"
-#include "Editor/objects/ErrorInfo.h"
+#include "HostKit/ErrorInfo.h"
 
 #include <map>
 #include <new>

@@ -1,6 +1,6 @@
 #include "Editor/services/AtomEditor.h"
 
-#include "Editor/objects/ErrorInfo.h"
+#include "HostKit/ErrorInfo.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <utility>

@@ -3,7 +3,7 @@
 
 #include "Editor/history/History.h"
 #include "Editor/services/ActiveMembers.h"
-#include "Editor/services/HandlerRegistry.h"
+#include "HostKit/HandlerRegistry.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 // The editor's drags: the active atoms, as they are copied to the clipboard, under the mouse.
-#include "Editor/objects/ErrorInfo.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/DragData.h"
+#include "HostKit/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/message/TaskInbox.h"
 

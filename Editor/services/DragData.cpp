@@ -1,7 +1,7 @@
 #include "Editor/services/DragData.h"
 
-#include "Editor/services/GlobalMedium.h"
 #include "Editor/services/OfferedFiles.h"
+#include "HostKit/GlobalMedium.h"
 #include "Views/clipboard/Archives.h"
 
 namespace editor

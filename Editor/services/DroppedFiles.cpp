@@ -4,8 +4,8 @@
 #include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
-#include "Editor/objects/ErrorInfo.h"
 #include "Editor/services/FileUris.h"
+#include "HostKit/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
 

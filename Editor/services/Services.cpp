@@ -1,8 +1,8 @@
 #include "Editor/services/Services.h"
 
-#include "Editor/archive/Archive.h"
-#include "Editor/archive/MemoryStream.h"
-#include "Editor/objects/ErrorInfo.h"
+#include "HostKit/Archive.h"
+#include "HostKit/ErrorInfo.h"
+#include "HostKit/MemoryStream.h"
 #include "Toolkit/menu/MessageBox.h"
 
 #include <new>

@@ -1,7 +1,7 @@
 #include "Editor/widgets/PaneLayout.h"
 
-#include "Editor/widgets/Look.h"
-#include "Editor/widgets/Splitter.h"
+#include "HostKit/Look.h"
+#include "HostKit/Splitter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "tests/editor/ArchiveFixture.h"
 
-#include "Editor/archive/Archive.h"
-#include "Editor/archive/MemoryStream.h"
+#include "HostKit/Archive.h"
+#include "HostKit/MemoryStream.h"
 
 #include <algorithm>
 

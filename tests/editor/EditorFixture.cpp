@@ -1,7 +1,7 @@
 #include "tests/editor/EditorFixture.h"
 
-#include "Editor/objects/LiveObjects.h"
-#include "Editor/widgets/Look.h"
+#include "HostKit/LiveObjects.h"
+#include "HostKit/Look.h"
 
 #include <algorithm>
 

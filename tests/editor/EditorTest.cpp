@@ -1,4 +1,4 @@
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <algorithm>

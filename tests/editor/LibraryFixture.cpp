@@ -1,8 +1,8 @@
 #include "tests/editor/LibraryFixture.h"
 
-#include "Editor/objects/ErrorInfo.h"
-#include "Editor/objects/LiveObjects.h"
 #include "Editor/pictures/IconPainter.h"
+#include "HostKit/ErrorInfo.h"
+#include "HostKit/LiveObjects.h"
 #include "Toolkit/graphics/Gdi.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/LiveObjects.h"
 #include "tests/editor/LibraryFixture.h"
 
 #include <sys/stat.h>

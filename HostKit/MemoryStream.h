@@ -1,7 +1,7 @@
 // The stream that the service "ConstructMemoryStream" gives.
 #pragma once
 
-#include "Editor/archive/MemoryBlock.h"
+#include "HostKit/MemoryBlock.h"
 #include "Views/host/host.h"
 
 namespace editor

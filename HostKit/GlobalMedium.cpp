@@ -1,4 +1,4 @@
-#include "Editor/services/GlobalMedium.h"
+#include "HostKit/GlobalMedium.h"
 
 #include "Toolkit/base/Files.h"
 #include "Toolkit/base/GlobalMemory.h"

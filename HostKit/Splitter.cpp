@@ -1,6 +1,6 @@
-#include "Editor/widgets/Splitter.h"
+#include "HostKit/Splitter.h"
 
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/SysColors.h"
 

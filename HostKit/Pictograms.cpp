@@ -1,6 +1,6 @@
-#include "Editor/resources/Pictograms.h"
+#include "HostKit/Pictograms.h"
 
-#include "Editor/resources/Drawing.h"
+#include "HostKit/Drawing.h"
 
 #include <map>
 

@@ -1,4 +1,4 @@
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
 
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"

@@ -1,4 +1,4 @@
-#include "Editor/resources/Drawing.h"
+#include "HostKit/Drawing.h"
 
 #include "Toolkit/graphics/Pixels.h"
 

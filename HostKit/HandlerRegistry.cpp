@@ -1,4 +1,4 @@
-#include "Editor/services/HandlerRegistry.h"
+#include "HostKit/HandlerRegistry.h"
 
 #include "Toolkit/window/WindowApi.h"
 

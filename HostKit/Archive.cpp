@@ -1,6 +1,6 @@
-#include "Editor/archive/Archive.h"
+#include "HostKit/Archive.h"
 
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/LiveObjects.h"
 
 namespace editor
 {

@@ -1,4 +1,4 @@
-#include "Editor/archive/MemoryBlock.h"
+#include "HostKit/MemoryBlock.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "Editor/widgets/Pane.h"
+#include "HostKit/Pane.h"
 
-#include "Editor/widgets/Look.h"
+#include "HostKit/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>

@@ -1,6 +1,6 @@
-#include "Editor/objects/ErrorInfo.h"
+#include "HostKit/ErrorInfo.h"
 
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/LiveObjects.h"
 
 namespace editor
 {

@@ -1,6 +1,6 @@
-#include "Editor/archive/MemoryStream.h"
+#include "HostKit/MemoryStream.h"
 
-#include "Editor/objects/LiveObjects.h"
+#include "HostKit/LiveObjects.h"
 
 namespace editor
 {

@@ -1,10 +1,10 @@
-#include "Editor/disk/Checksum.h"
+#include "Toolkit/base/Checksum.h"
 
 #include <array>
 #include <bit>
 #include <cstring>
 
-namespace editor
+namespace toolkit
 {
 namespace
 {
@@ -45,4 +45,4 @@ std::uint64_t Checksum(std::string_view bytes, std::uint64_t former)
     return Mix(sum, rest);
 }
 
-} // namespace editor
+} // namespace toolkit
