@@ -2,7 +2,7 @@
 
 #include "Editor/frame/MainFrame.h"
 #include "Editor/resources/EditorResources.h"
-#include "Editor/services/Services.h"
+#include "HostKit/Services.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/run/Run.h"
 
@@ -48,7 +48,7 @@ struct EditorApp::Parts
     CResourceModule resources;
     CAtomEditor atomEditor;
     std::shared_ptr<PictureStore> pPictures;
-    Services services;
+    hostkit::Services services;
     std::unique_ptr<CMainFrame> pFrame;
 };
 

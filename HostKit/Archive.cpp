@@ -1,34 +1,7 @@
 #include "HostKit/Archive.h"
 
-#include "HostKit/LiveObjects.h"
-
-namespace editor
+namespace hostkit
 {
-
-CArchive::CArchive()
-{
-    ++g_nLiveObjects;
-}
-
-CArchive::~CArchive()
-{
-    --g_nLiveObjects;
-}
-
-void CArchive::Release()
-{
-    if (--m_nRefs == 0)
-        delete this;
-}
-
-void CArchive::GetInterface(DWORD id, void** out)
-{
-    *out = id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this)
-           : id == IID_IArchive         ? static_cast<void*>(static_cast<IArchive*>(this))
-                                        : nullptr;
-    if (*out)
-        AddRef();
-}
 
 void CArchive::Seek(DWORD dwOffset, DWORD dwOrigin)
 {
@@ -42,4 +15,4 @@ void CArchive::SetEnd()
         m_pStream->SetEnd();
 }
 
-} // namespace editor
+} // namespace hostkit

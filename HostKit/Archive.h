@@ -1,21 +1,16 @@
 // The class "CArchiveImp": an archive over whatever stream it is given.
 #pragma once
 
-#include "Views/host/host.h"
+#include "HostKit/Counted.h"
+#include "Views/host/IArchive.h"
 
-namespace editor
+namespace hostkit
 {
 
-// What its bytes mean, ArchiveFormat.h says. Without a stream it has no bytes and GetData gives NULL.
-class CArchive final : public IArchive
+// What its bytes mean is the atom editor's affair. Without a stream it has no bytes and GetData gives NULL.
+class HOSTKIT_API CArchive final : public With<Counted, IArchive>
 {
 public:
-    CArchive();
-
-    void AddRef() override { ++m_nRefs; }
-    void Release() override;
-    void GetInterface(DWORD id, void** out) override;
-
     void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
 
     void Seek(DWORD dwOffset, DWORD dwOrigin) override;
@@ -24,10 +19,7 @@ public:
     void* GetData() override { return m_pStream ? m_pStream->GetData() : nullptr; }
 
 private:
-    ~CArchive();
-
     CStubRef<IByteStream> m_pStream;
-    int m_nRefs = 1;
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <limits>
 
-namespace editor
+namespace hostkit
 {
 namespace
 {
@@ -148,4 +148,4 @@ void Drawing::Shade(const Shape& shape, double reach, double opacity)
     Blend(softly, Ink(RGB(0, 0, 0)));
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,12 +1,13 @@
 // Small pictures drawn in code: shapes with smooth edges, in units that fit any number of pixels.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/graphics/Surface.h"
 
 #include <functional>
 #include <vector>
 
-namespace editor
+namespace hostkit
 {
 
 struct Vec
@@ -17,14 +18,14 @@ struct Vec
 // The distance from a point to the shape's outline, in units; negative inside.
 using Shape = std::function<double(Vec)>;
 
-Shape Circle(Vec center, double radius);
-Shape RoundRect(Vec topLeft, Vec bottomRight, double radius);
-Shape Polygon(std::vector<Vec> corners);             // its edges may not cross
-Shape Stroke(std::vector<Vec> points, double width); // a line through the points, with round ends
-Shape operator|(Shape a, Shape b);                   // what is in either
-Shape operator&(Shape a, Shape b);                   // what is in both
-Shape operator-(Shape a, Shape b);                   // what is in a alone
-Shape Outline(Shape shape, double width);            // a band inside the shape's edge
+HOSTKIT_API Shape Circle(Vec center, double radius);
+HOSTKIT_API Shape RoundRect(Vec topLeft, Vec bottomRight, double radius);
+HOSTKIT_API Shape Polygon(std::vector<Vec> corners);             // its edges may not cross
+HOSTKIT_API Shape Stroke(std::vector<Vec> points, double width); // a line through the points, with round ends
+HOSTKIT_API Shape operator|(Shape a, Shape b);                   // what is in either
+HOSTKIT_API Shape operator&(Shape a, Shape b);                   // what is in both
+HOSTKIT_API Shape operator-(Shape a, Shape b);                   // what is in a alone
+HOSTKIT_API Shape Outline(Shape shape, double width);            // a band inside the shape's edge
 
 // A colour that need not cover, or a blend of two from one height to another.
 struct Ink
@@ -38,7 +39,7 @@ struct Ink
 };
 
 // A square picture of `pixels` each way, transparent at first, on which `units` are counted each way.
-class Drawing
+class HOSTKIT_API Drawing
 {
 public:
     Drawing(int pixels, double units);
@@ -57,4 +58,4 @@ private:
     double m_pixel; // units
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -1,31 +1,26 @@
-// The editor's error information: one line that names the object and the reason.
+// The kit's error information: one line that names the object and the reason.
 #pragma once
 
-#include "Views/host/host.h"
+#include "HostKit/Counted.h"
+#include "Views/host/IMyErrorInfo.h"
 
 #include <string>
 
-namespace editor
+namespace hostkit
 {
 
-class CErrorInfo final : public IMyErrorInfo
+class HOSTKIT_API CErrorInfo final : public With<Counted, IMyErrorInfo>
 {
 public:
     [[nodiscard]] static CStubRef<IMyErrorInfo> Make(std::string line);
 
-    // The line of an error that this editor made; empty for NULL and for a foreign one.
+    // The line of an error that was made here; empty for NULL and for a foreign one.
     static std::string LineOf(IMyErrorInfo* pError);
 
-    void AddRef() override { ++m_nRefs; }
-    void Release() override;
-    void GetInterface(DWORD id, void** out) override;
-
 private:
-    explicit CErrorInfo(std::string line);
-    ~CErrorInfo();
+    explicit CErrorInfo(std::string line) : m_line(std::move(line)) {}
 
     const std::string m_line;
-    int m_nRefs = 1;
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -4,7 +4,7 @@
 #include "Toolkit/base/GlobalMemory.h"
 #include "Views/clipboard/TransferFileOwner.h"
 
-namespace editor
+namespace hostkit
 {
 
 // The file has no other owner, and would stay for ever.
@@ -17,4 +17,4 @@ try {
     throw;
 }
 
-} // namespace editor
+} // namespace hostkit

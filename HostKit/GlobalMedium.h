@@ -1,14 +1,15 @@
 // A block of memory on its way to a data source.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/exchange/DataSource.h"
 #include "Toolkit/exchange/StgMedium.h"
 
-namespace editor
+namespace hostkit
 {
 
 // Owned by whoever has it, with a releaser once it has one.
-class GlobalMedium
+class HOSTKIT_API GlobalMedium
 {
 public:
     explicit GlobalMedium(HGLOBAL hGlobal) : m_medium{TYMED_HGLOBAL, {}, nullptr} { m_medium.hGlobal = hGlobal; }
@@ -27,4 +28,4 @@ private:
     STGMEDIUM m_medium;
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -4,7 +4,7 @@
 
 #include <algorithm>
 
-namespace editor
+namespace hostkit
 {
 namespace
 {
@@ -81,4 +81,4 @@ IAEStateHandler* HandlerRegistry::FindByWindow(HWND hWnd, HWND hEnd) const
     return nullptr;
 }
 
-} // namespace editor
+} // namespace hostkit

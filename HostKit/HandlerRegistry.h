@@ -1,16 +1,17 @@
 // Who wants to hear of what happens to atoms.
 #pragma once
 
-#include "Views/host/host.h"
+#include "HostKit/Api.h"
+#include "Views/host/IAEStateHandler.h"
 
 #include <vector>
 
-namespace editor
+namespace hostkit
 {
 
 // Handlers may come and go while they are being called: one that goes is not called any more, one that comes is
 // called from the next broadcast on.
-class HandlerRegistry
+class HOSTKIT_API HandlerRegistry
 {
 public:
     DWORD Register(HWND hWnd, IAEStateHandler* pHandler); // a cookie, never 0
@@ -38,4 +39,4 @@ private:
     int m_nCalling = 0;
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -4,13 +4,9 @@
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/WindowApi.h"
 
-namespace editor
+namespace hostkit
 {
-namespace
-{
-
-// `percent` of the second colour in the first.
-COLORREF Mix(int nFirst, int nSecond, int percent)
+COLORREF MixSysColors(int nFirst, int nSecond, int percent)
 {
     const COLORREF a = GetSysColor(nFirst), b = GetSysColor(nSecond);
     const auto channel = [percent](int from, int to) { return from + (to - from) * percent / 100; };
@@ -18,36 +14,14 @@ COLORREF Mix(int nFirst, int nSecond, int percent)
                channel(GetBValue(a), GetBValue(b)));
 }
 
-} // namespace
-
-COLORREF BarColor()
-{
-    return Mix(COLOR_WINDOW, COLOR_BTNFACE, 40);
-}
-
 COLORREF LineColor()
 {
-    return Mix(COLOR_WINDOW, COLOR_BTNSHADOW, 40);
-}
-
-COLORREF HoverColor()
-{
-    return Mix(COLOR_WINDOW, COLOR_HIGHLIGHT, 12);
+    return MixSysColors(COLOR_WINDOW, COLOR_BTNSHADOW, 40);
 }
 
 COLORREF PressedColor()
 {
-    return Mix(COLOR_WINDOW, COLOR_HIGHLIGHT, 24);
-}
-
-COLORREF CalmColor()
-{
-    return Mix(COLOR_WINDOW, COLOR_BTNFACE, 60);
-}
-
-COLORREF ErrorColor()
-{
-    return RGB(176, 40, 40);
+    return MixSysColors(COLOR_WINDOW, COLOR_HIGHLIGHT, 24);
 }
 
 void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text, COLORREF color, Align align,
@@ -72,17 +46,9 @@ int TextWidth(std::string_view text, toolkit::FontStyle style)
     return toolkit::CurrentTextEngine().Measure(text, style);
 }
 
-void FillBottomBar(HDC hdc, HWND hBar)
-{
-    CRect client;
-    GetClientRect(hBar, &client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
-}
-
 void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
 {
     toolkit::DrawSurface(hdc, toolkit::Centred(picture.Bounds().Size(), rect), picture, picture.Bounds());
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,26 +1,22 @@
-// What the frame's parts look like: measures, colours, texts.
+// What a frame's parts look like: measures, colours, texts.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/graphics/Gdi.h"
 
 #include <string_view>
 
-namespace editor
+namespace hostkit
 {
 
 // Pixels. Everything keeps to steps of 8.
 inline constexpr int kSpace = 8;
-inline constexpr int kPathBarHeight = 40;
 inline constexpr int kPaneCaptionHeight = 32;
-inline constexpr int kStatusBarHeight = 32;
-inline constexpr int kPropertiesHeight = 40;
 
-COLORREF BarColor();     // behind the path, captions and the status
-COLORREF LineColor();    // between things
-COLORREF HoverColor();   // behind what a click would use
-COLORREF PressedColor(); // the same with the button down
-COLORREF CalmColor();    // behind a large picture
-COLORREF ErrorColor();   // of texts that tell of a failure
+// `percent` of the second system colour (COLOR_) in the first.
+HOSTKIT_API COLORREF MixSysColors(int nFirst, int nSecond, int percent);
+HOSTKIT_API COLORREF LineColor();    // between things
+HOSTKIT_API COLORREF PressedColor(); // behind what is held down
 
 enum class Align
 {
@@ -30,14 +26,11 @@ enum class Align
 };
 
 // One line, cut with dots when the rectangle is too narrow, in the middle of its height.
-void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text, COLORREF color, Align align = Align::Left,
-                  toolkit::FontStyle style = toolkit::FontStyle::Regular);
-int TextWidth(std::string_view text, toolkit::FontStyle style = toolkit::FontStyle::Regular);
-
-// What a bar at the bottom lies on, with a line above it: the window's whole client area.
-void FillBottomBar(HDC hdc, HWND hBar);
+HOSTKIT_API void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text, COLORREF color,
+                              Align align = Align::Left, toolkit::FontStyle style = toolkit::FontStyle::Regular);
+HOSTKIT_API int TextWidth(std::string_view text, toolkit::FontStyle style = toolkit::FontStyle::Regular);
 
 // In the middle of the rectangle.
-void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
+HOSTKIT_API void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
 
-} // namespace editor
+} // namespace hostkit

@@ -5,7 +5,7 @@
 #include <sys/mman.h>
 #include <utility>
 
-namespace editor
+namespace hostkit
 {
 namespace
 {
@@ -82,4 +82,4 @@ bool MemoryBlock::Reserve(std::size_t bytes)
     return true;
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,13 +1,15 @@
 // A block of memory straight from the system.
 #pragma once
 
+#include "HostKit/Api.h"
+
 #include <cstddef>
 
-namespace editor
+namespace hostkit
 {
 
 // Grows without being copied, and holds anything at first. The last block that went is kept for the next one.
-class MemoryBlock
+class HOSTKIT_API MemoryBlock
 {
 public:
     MemoryBlock() = default;
@@ -23,4 +25,4 @@ private:
     std::size_t m_nCapacity = 0;
 };
 
-} // namespace editor
+} // namespace hostkit

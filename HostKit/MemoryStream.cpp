@@ -1,31 +1,7 @@
 #include "HostKit/MemoryStream.h"
 
-#include "HostKit/LiveObjects.h"
-
-namespace editor
+namespace hostkit
 {
-CMemoryStream::CMemoryStream()
-{
-    ++g_nLiveObjects;
-}
-
-CMemoryStream::~CMemoryStream()
-{
-    --g_nLiveObjects;
-}
-
-void CMemoryStream::Release()
-{
-    if (--m_nRefs == 0)
-        delete this;
-}
-
-void CMemoryStream::GetInterface(DWORD id, void** out)
-{
-    *out = id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
-    if (*out)
-        AddRef();
-}
 
 void CMemoryStream::Seek(DWORD dwOffset, DWORD dwOrigin)
 {
@@ -56,4 +32,4 @@ void CMemoryStream::Fail()
     m_dwPosition = 0;
 }
 
-} // namespace editor
+} // namespace hostkit

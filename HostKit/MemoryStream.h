@@ -1,10 +1,11 @@
 // The stream that the service "ConstructMemoryStream" gives.
 #pragma once
 
+#include "HostKit/Counted.h"
 #include "HostKit/MemoryBlock.h"
-#include "Views/host/host.h"
+#include "Views/host/IMemoryStream.h"
 
-namespace editor
+namespace hostkit
 {
 
 // Memory is taken from the system page by page as it is written to, and large blocks grow without being copied. What
@@ -13,30 +14,21 @@ namespace editor
 //
 // The block of the last stream that went is kept for the next one (what is copied is pasted, as a rule), but on loan:
 // the system takes its pages back when it needs them.
-class CMemoryStream final : public IMemoryStream
+class HOSTKIT_API CMemoryStream final : public Counted, public IMemoryStream
 {
 public:
-    CMemoryStream();
-
-    void AddRef() override { ++m_nRefs; }
-    void Release() override;
-    void GetInterface(DWORD id, void** out) override;
-
     void Seek(DWORD dwOffset, DWORD dwOrigin) override; // from the start (0), from the position (1), from the end (2)
     DWORD GetLength() override { return m_dwLength; }
     void SetEnd() override;
     void* GetData() override;
 
 private:
-    ~CMemoryStream();
-
     void Fail();
 
     MemoryBlock m_block;
     DWORD m_dwLength = 0;
     DWORD m_dwPosition = 0;
     bool m_bFailed = false;
-    int m_nRefs = 1;
 };
 
-} // namespace editor
+} // namespace hostkit

@@ -5,7 +5,7 @@
 
 #include <utility>
 
-namespace editor
+namespace hostkit
 {
 
 BEGIN_MESSAGE_MAP(CPane, CWnd)
@@ -122,4 +122,4 @@ void CPane::PlaceView()
     ::MoveWindow(m_hView, m_nMargin, top, std::max(0, client.Width() - m_nMargin), std::max(0, client.Height() - top));
 }
 
-} // namespace editor
+} // namespace hostkit

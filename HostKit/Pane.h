@@ -1,6 +1,7 @@
 // A pane of the frame: a caption with an icon, and a view below it.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -8,11 +9,11 @@
 #include <string>
 #include <vector>
 
-namespace editor
+namespace hostkit
 {
 
 // The parent of its view's window, which somebody else owns. Hidden until something is to be shown.
-class CPane : public CWnd
+class HOSTKIT_API CPane : public CWnd
 {
 public:
     explicit CPane(int margin = 0) : m_nMargin(margin) {} // pixels left of and above the view
@@ -51,4 +52,4 @@ private:
     int m_nChosen = 0;
 };
 
-} // namespace editor
+} // namespace hostkit

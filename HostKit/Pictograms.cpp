@@ -4,7 +4,7 @@
 
 #include <map>
 
-namespace editor
+namespace hostkit
 {
 namespace
 {
@@ -157,4 +157,4 @@ const toolkit::Surface& GetPictogram(Pictogram which, int pixels)
     return at->second;
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,9 +1,10 @@
-// The editor's own pictures, drawn at any size from 16 pixels up. Each has a transparent ground.
+// Pictures for hosts that have no own, drawn at any size from 16 pixels up. Each has a transparent ground.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/graphics/Surface.h"
 
-namespace editor
+namespace hostkit
 {
 
 enum class Pictogram
@@ -20,9 +21,9 @@ enum class Pictogram
     PathArrow, // between the parts of a path
 };
 
-toolkit::Surface DrawPictogram(Pictogram which, int pixels);
+HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);
 
 // The same, drawn once for each size and kept for the life of the process. User-interface thread only.
-const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
+HOSTKIT_API const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
 
-} // namespace editor
+} // namespace hostkit

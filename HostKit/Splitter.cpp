@@ -6,7 +6,7 @@
 
 #include <utility>
 
-namespace editor
+namespace hostkit
 {
 
 BEGIN_MESSAGE_MAP(CSplitter, CWnd)
@@ -113,4 +113,4 @@ void CSplitter::EndDrag(bool bKeep)
     Invalidate();
 }
 
-} // namespace editor
+} // namespace hostkit

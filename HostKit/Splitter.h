@@ -1,16 +1,17 @@
 // The bar between two panes that stand side by side.
 #pragma once
 
+#include "HostKit/Api.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
 
-namespace editor
+namespace hostkit
 {
 
 // Dragged with the mouse it tells where its left edge is wanted, in the parent's client coordinates; where it goes is
 // its parent's affair. Escape or the loss of the mouse takes it back to where it was; a double click wants kUsual.
-class CSplitter : public CWnd
+class HOSTKIT_API CSplitter : public CWnd
 {
 public:
     static constexpr int kWidth = 7;
@@ -45,4 +46,4 @@ private:
     int m_nLeftThen = 0; // where it was taken from
 };
 
-} // namespace editor
+} // namespace hostkit

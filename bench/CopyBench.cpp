@@ -1,7 +1,8 @@
 // What it costs to copy 1,000 pictures of together 100 MB and to paste them into another folder of the same disk,
 // beside `cp -r` of the same files. Both in the disk's cache, neither waiting for the disk itself.
 #include "Editor/model/Library.h"
-#include "Editor/services/Services.h"
+#include "Editor/services/AtomEditor.h"
+#include "HostKit/Services.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Toolkit/exchange/DataSource.h"
@@ -146,7 +147,7 @@ private:
     CopyFolder& m_folder = Folder();
     const NoPictures m_reader;
     editor::CAtomEditor m_atomEditor;
-    const editor::Services m_services{m_atomEditor};
+    const hostkit::Services m_services{m_atomEditor};
     bool m_bFailed = false;
 };
 

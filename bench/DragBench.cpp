@@ -2,7 +2,8 @@
 // one.
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/model/Library.h"
-#include "Editor/services/Services.h"
+#include "Editor/services/AtomEditor.h"
+#include "HostKit/Services.h"
 #include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/exchange/ClipboardFormat.h"
 #include "Toolkit/exchange/DragTracker.h"
@@ -76,7 +77,7 @@ void DragOverList(benchmark::State& state)
     const auto pPictures =
         std::make_shared<editor::PictureStore>(reader, editor::PictureStore::Limits(), [](IAtom*) {});
     editor::CAtomEditor atomEditor;
-    const editor::Services services(atomEditor);
+    const hostkit::Services services(atomEditor);
     std::string error;
     const auto pLibrary = editor::CLibrary::Open(folder.At("library"), reader.Extensions(), pPictures, error);
     {

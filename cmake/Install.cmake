@@ -18,9 +18,10 @@ function(install_pkg_config name description libraries requires)
     install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()
 
-install_libraries(ViewsTargets Toolkit Kernel AtomLib Views)
+install_libraries(ViewsTargets Toolkit Kernel AtomLib Views HostKit)
 install_pkg_config(views "Object browsers for desktop object editors"
                    "-lViews -lViewsAtomLib -lViewsKernel -lViewsToolkit" "")
+install_pkg_config(views-hostkit "What every program that hosts Views needs" "-lViewsHostKit" "views = ${PROJECT_VERSION}")
 if(VIEWS_HAVE_QT)
     install_libraries(ViewsQtDesktopTargets QtDesktop)
     install_pkg_config(views-qtdesktop "Shows the windows of Views on X11 and Wayland" "-lViewsQtDesktop"

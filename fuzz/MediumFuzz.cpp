@@ -1,9 +1,10 @@
 // The path handle and its medium, as a drag or the clipboard brings them. The first byte says which kind of medium, and
 // whether the rest is a path by itself or one in a folder that has a little of everything.
-#include "Editor/services/Services.h"
+#include "Editor/services/AtomEditor.h"
 #include "HostKit/Archive.h"
-#include "HostKit/LiveObjects.h"
+#include "HostKit/Counted.h"
 #include "HostKit/MemoryStream.h"
+#include "HostKit/Services.h"
 #include "Toolkit/base/Files.h"
 #include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/clipboard.h"
@@ -125,13 +126,13 @@ std::string CheckMedium(unsigned char kind, std::string_view rest)
 std::string fuzz::Check(std::string_view bytes)
 {
     static editor::CAtomEditor s_editor;
-    static const editor::Services s_services(s_editor);
+    static const hostkit::Services s_services(s_editor);
     if (bytes.empty())
         return {};
-    const int nObjects = editor::g_nLiveObjects, nBlocks = toolkit::CountGlobalBlocks();
+    const int nObjects = hostkit::Counted::CountAlive(), nBlocks = toolkit::CountGlobalBlocks();
     const int nFiles = toolkit::CountOpenFiles(), nReferences = KRNL_CountReferences();
     std::string broken = CheckMedium(static_cast<unsigned char>(bytes[0]), bytes.substr(1));
-    if (broken.empty() && (nObjects != editor::g_nLiveObjects || nBlocks != toolkit::CountGlobalBlocks() ||
+    if (broken.empty() && (nObjects != hostkit::Counted::CountAlive() || nBlocks != toolkit::CountGlobalBlocks() ||
                            nFiles != toolkit::CountOpenFiles() || nReferences != KRNL_CountReferences()))
         broken = "something is left behind";
     return broken;

@@ -11,7 +11,7 @@ QIcon MakeProgramIcon()
 {
     QIcon icon;
     for (const int nPixels : {16, 24, 32, 48, 64, 128}) {
-        const toolkit::Surface drawn = DrawPictogram(Pictogram::IconPane, nPixels);
+        const toolkit::Surface drawn = hostkit::DrawPictogram(hostkit::Pictogram::IconPane, nPixels);
         const QImage picture(reinterpret_cast<const uchar*>(drawn.Row(0)), nPixels, nPixels,
                              QImage::Format_ARGB32_Premultiplied);
         icon.addPixmap(QPixmap::fromImage(picture.copy()));

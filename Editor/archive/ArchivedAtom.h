@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/archive/ArchiveFormat.h"
+#include "HostKit/Counted.h"
 #include "Views/host/host.h"
 
 #include <string>
@@ -11,10 +12,12 @@ namespace editor
 
 // In no container, with nothing but a name. It keeps its archive alive, and is good for as long as the archive's bytes
 // stay as they are.
-class CArchivedAtom final : public IAtom
+class CArchivedAtom final : public hostkit::With<hostkit::Counted, IAtom>
 {
 public:
-    CArchivedAtom(IArchive* pArchive, const ArchiveRecord& record); // with one reference
+    CArchivedAtom(IArchive* pArchive, const ArchiveRecord& record)
+        : m_pArchive(CStubRef<IArchive>::Share(pArchive)), m_record(record)
+    {}
 
     // The object behind an atom, borrowed; NULL for one that was not read from an archive.
     static CArchivedAtom* Of(IAtom* pAtom) { return dynamic_cast<CArchivedAtom*>(pAtom); }
@@ -23,8 +26,6 @@ public:
     const std::string& Failure() const { return m_failure; } // why no container took it; empty when one did
     void SetFailure(std::string line) { m_failure = std::move(line); }
 
-    void AddRef() override { ++m_nRefs; }
-    void Release() override;
     void GetInterface(DWORD id, void** out) override;
 
     DWORD GetID() override { return 0; }
@@ -33,12 +34,9 @@ public:
     BOOL IsModified() override { return FALSE; }
 
 private:
-    ~CArchivedAtom();
-
     const CStubRef<IArchive> m_pArchive;
     const ArchiveRecord m_record;
     std::string m_failure;
-    int m_nRefs = 1;
 };
 
 } // namespace editor

@@ -2,7 +2,7 @@
 
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "HostKit/Pictograms.h"
 
 namespace editor
@@ -28,9 +28,9 @@ bool Content::Create(CWnd* pFrame)
     if (!m_listPane.Create(pFrame) || !m_picturePane.Create(pFrame) || !m_icons.Create(&m_listPane) ||
         !m_thumbnails.Create(&m_listPane) || !m_picture.Create(&m_picturePane))
         return false;
-    m_listPane.SetChoices(
-        {GetPictogram(Pictogram::IconPane, kPaneIconExtent), GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent)},
-        [this](int nChoice) { ShowList(static_cast<ListKind>(nChoice)); });
+    m_listPane.SetChoices({hostkit::GetPictogram(hostkit::Pictogram::IconPane, kPaneIconExtent),
+                           hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent)},
+                          [this](int nChoice) { ShowList(static_cast<ListKind>(nChoice)); });
     return true;
 }
 
@@ -71,7 +71,7 @@ void Content::ShowPicture(CMember* pMember, bool bKeepFocus)
 {
     m_picture.SetAtom(pMember);
     m_picturePane.ShowView(m_picture.GetSafeHwnd(), pMember->ShownName(),
-                           GetPictogram(Pictogram::ThumbnailPane, kPaneIconExtent));
+                           hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent));
     if (!bKeepFocus)
         m_picture.SetFocus();
 }

@@ -26,7 +26,7 @@ public:
 
     CEditorList& GetList() { return *m_pList; } // the one that is shown, or will be
     const CEditorList& GetList() const { return *m_pList; }
-    CPane& GetListPane() { return m_listPane; }
+    hostkit::CPane& GetListPane() { return m_listPane; }
     CPictureView& GetPicture() { return m_picture; }
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
     bool Is(HWND hWnd) const { return hWnd && (hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.GetSafeHwnd()); }
@@ -45,7 +45,7 @@ private:
     PictureStore& m_pictures;
     const std::function<IAtomContainer*()> m_askShown;
     const std::function<void()> m_changed;
-    CPane m_listPane, m_picturePane;
+    hostkit::CPane m_listPane, m_picturePane;
     CEditorIcons m_icons;
     CEditorThumbnails m_thumbnails;
     CEditorList* m_pList = &m_icons; // the active one

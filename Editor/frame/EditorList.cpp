@@ -1,6 +1,6 @@
 #include "Editor/frame/EditorList.h"
 
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>

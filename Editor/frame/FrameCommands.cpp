@@ -270,7 +270,7 @@ void FrameCommands::ReadAgain(CContainer& container)
 void FrameCommands::ShowFailure(UINT nCaptionID, std::string reason) const
 {
     if (!WasCancelled() && !reason.empty())
-        ShowAtomError(m_parts.editor.GetMainWindow(), nCaptionID, CErrorInfo::Make(std::move(reason)).Get());
+        ShowAtomError(m_parts.editor.GetMainWindow(), nCaptionID, hostkit::CErrorInfo::Make(std::move(reason)).Get());
 }
 
 } // namespace editor

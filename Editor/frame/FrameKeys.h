@@ -15,9 +15,9 @@ public:
     struct Parts // all borrowed
     {
         CWnd& frame;
-        CPane& treePane;
+        hostkit::CPane& treePane;
         CEditorTree& tree;
-        CSplitter& splitter;
+        hostkit::CSplitter& splitter;
         Content& content;
         CPropertiesPane& properties;
         Navigation& navigation;

@@ -3,7 +3,7 @@
 #include "Editor/frame/StatusText.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/menu/MessageBox.h"
 
 #include <utility>

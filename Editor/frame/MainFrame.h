@@ -17,7 +17,7 @@ namespace editor
 
 // The frame is a handler like the views: it hears from the editor what was entered, and shows a container's path or,
 // for an atom that is none, the atom's picture in the list's place.
-class CMainFrame : public CWnd, public CStateHandler, public PaneFrame
+class CMainFrame : public CWnd, public CStateHandler, public hostkit::PaneFrame
 {
 public:
     // Both borrowed. `closed` is called when the window is gone; it may be empty.
@@ -27,7 +27,7 @@ public:
     BOOL Create(CSize client);            // a top-level window with the views in it, not shown yet
     void ShowLibrary(CLibrary* pLibrary); // in place of the one before
     CEditorTree& GetTree() { return m_tree; }
-    CSplitter& GetSplitter() { return m_splitter; }
+    hostkit::CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_content.GetList(); } // the one that is shown, or will be
     CPathBar& GetPathBar() { return m_pathBar; }
     CPictureView& GetPictureView() { return m_content.GetPicture(); }
@@ -75,7 +75,7 @@ private:
     bool MayClose(); // asks what is to become of phases that are modified
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
-    CPane* PaneOfKind(DWORD kind); // NULL: none
+    hostkit::CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
     void MoveSplitter(int x);
     CEditorList::Events ListEvents();
@@ -95,8 +95,8 @@ private:
     DiskFollower m_follower;
     CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
     CPathBar m_pathBar;
-    CPane m_treePane;
-    CSplitter m_splitter;
+    hostkit::CPane m_treePane;
+    hostkit::CSplitter m_splitter;
     int m_nTreeWidth = PaneLayout::kUsualTree; // what the user wants, if there is room
     Content m_content;
     FrameCommands m_commands;

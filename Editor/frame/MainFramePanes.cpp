@@ -12,14 +12,14 @@ constexpr DWORD kListPane = 1;
 
 } // namespace
 
-CPane* CMainFrame::PaneOfKind(DWORD kind)
+hostkit::CPane* CMainFrame::PaneOfKind(DWORD kind)
 {
     return kind == kTreePane ? &m_treePane : kind == kListPane ? &m_content.GetListPane() : nullptr;
 }
 
 void CMainFrame::AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon)
 {
-    CPane* const pPane = PaneOfKind(kind);
+    hostkit::CPane* const pPane = PaneOfKind(kind);
     if (!pPane)
         return;
     const toolkit::Surface* const pIcon = toolkit::IconSurface(hIcon);
@@ -30,7 +30,7 @@ void CMainFrame::AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon)
 
 void CMainFrame::RemovePane(DWORD kind, HWND hWnd)
 {
-    CPane* const pPane = PaneOfKind(kind);
+    hostkit::CPane* const pPane = PaneOfKind(kind);
     if (pPane && hWnd == pPane->GetView())
         pPane->HideView();
 }
@@ -52,7 +52,7 @@ void CMainFrame::Arrange()
 
 void CMainFrame::MoveSplitter(int x)
 {
-    m_nTreeWidth = x == CSplitter::kUsual ? PaneLayout::kUsualTree : x;
+    m_nTreeWidth = x == hostkit::CSplitter::kUsual ? PaneLayout::kUsualTree : x;
     Arrange();
 }
 

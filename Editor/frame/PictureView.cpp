@@ -1,7 +1,7 @@
 #include "Editor/frame/PictureView.h"
 
 #include "Editor/pictures/Enlarge.h"
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "HostKit/Pictograms.h"
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
@@ -94,7 +94,7 @@ void CPictureView::DrawReason(HDC hdc, const CRect& client, const std::string& r
     CRect text = client;
     text.top = client.CenterPoint().y + kBrokenExtent / 2;
     text.bottom = text.top + 2 * kPaneCaptionHeight;
-    DrawCentred(hdc, client, GetPictogram(Pictogram::BrokenPicture, kBrokenExtent));
+    DrawCentred(hdc, client, hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBrokenExtent));
     DrawTextLine(hdc, text, reason, GetSysColor(COLOR_GRAYTEXT), Align::Center);
 }
 

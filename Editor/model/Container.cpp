@@ -94,11 +94,6 @@ BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId
     return GiveMember(pszName ? FindName(Members().table, pszName) : MemberTable::kNone, ppOut, dwInterfaceId);
 }
 
-void* CContainer::FindInterface(DWORD id)
-{
-    return id == IID_IAtomContainer ? static_cast<IAtomContainer*>(this) : CMember::FindInterface(id);
-}
-
 std::string CContainer::LastErrorLine() const
 {
     return m_failure.empty() ? ErrorLine() : m_failure;

@@ -28,7 +28,7 @@ struct MemberNews
 // The members are read when they are first asked for. Adding, renaming and removing them acts on the disk at once. What
 // fails changes nothing, and the container's IMyErrorInfo names the object and the reason until a change succeeds or
 // the members are read anew.
-class CContainer : public CMember, public IAtomContainer
+class CContainer : public hostkit::With<CMember, IAtomContainer>
 {
 public:
     // Members that are still there keep their atoms and identifiers.
@@ -62,7 +62,7 @@ public:
     BOOL ValidateName(CString& strName, DWORD dwReserved) override;
 
 protected:
-    using CMember::CMember;
+    using With::With;
 
     struct Listing
     {
@@ -70,7 +70,6 @@ protected:
         std::string error; // why it is not complete; empty when it is
     };
 
-    void* FindInterface(DWORD id) override;
     std::string LastErrorLine() const override;
     virtual Listing Read() = 0;
     virtual bool FindAny() { return GetCount() > 0; }

@@ -61,7 +61,7 @@ CMember* CFolder::MakeMember(UINT nIndex, MemberKind kind)
 
 toolkit::Surface CFolder::DrawIcon(CSize size)
 {
-    return PaintPictogram(Pictogram::Folder, size);
+    return PaintPictogram(hostkit::Pictogram::Folder, size);
 }
 
 bool CFolder::IsInside(const DirectoryIdentity& identity) const

@@ -7,7 +7,7 @@
 
 namespace editor
 {
-CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : CPictureMember(pPhase, nIndex) {}
+CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : With(pPhase, nIndex) {}
 
 std::string_view CImageLink::Name() const
 {
@@ -18,11 +18,6 @@ std::string_view CImageLink::Name() const
 std::string CImageLink::Path() const
 {
     return FindPicture(Line(), Container()->Container()->Path(), Context().rootPath).path;
-}
-
-void* CImageLink::FindInterface(DWORD id)
-{
-    return id == IID_IImageLink ? static_cast<IImageLink*>(this) : CPictureMember::FindInterface(id);
 }
 
 std::string_view CImageLink::Line() const

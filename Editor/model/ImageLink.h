@@ -9,7 +9,7 @@ namespace editor
 class CPhase;
 
 // A link stays a link when its picture is missing; its error tells.
-class CImageLink : public CPictureMember, public IImageLink
+class CImageLink : public hostkit::With<CPictureMember, IImageLink>
 {
 public:
     CImageLink(CPhase* pPhase, UINT nIndex);
@@ -19,8 +19,6 @@ public:
     std::string Path() const override; // of the picture; empty when it lies outside the library
 
 protected:
-    void* FindInterface(DWORD id) override;
-
 private:
     std::string_view Line() const;
 };

@@ -66,7 +66,7 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
 }
 
 CLibrary::CLibrary(LibraryContext context)
-    : CFolder(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
+    : With(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
 {}
 
 CStubRef<CMember> CLibrary::Find(const std::string& path)
@@ -88,11 +88,6 @@ CContainer* CLibrary::FindLive(const std::string& path)
     for (const std::string& part : PartsBelow(m_context.rootPath, path))
         pFound = pFound ? dynamic_cast<CContainer*>(pFound->LiveMember(part)) : nullptr;
     return pFound;
-}
-
-void* CLibrary::FindInterface(DWORD id)
-{
-    return id == IID_ICharacterLibrary ? static_cast<ICharacterLibrary*>(this) : CFolder::FindInterface(id);
 }
 
 } // namespace editor

@@ -7,7 +7,7 @@
 namespace editor
 {
 
-class CLibrary : public CFolder, public ICharacterLibrary
+class CLibrary : public hostkit::With<CFolder, ICharacterLibrary>
 {
 public:
     // The library of that folder, with its members read. Empty, and `error` is one line that names the folder and
@@ -29,7 +29,6 @@ public:
     std::string Path() const override { return m_context.rootPath; }
 
 protected:
-    void* FindInterface(DWORD id) override;
     LibraryContext& Context() const override { return m_context; }
 
 private:

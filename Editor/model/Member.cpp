@@ -5,7 +5,7 @@
 #include "Editor/model/LibraryContext.h"
 #include "Editor/objects/DisplayName.h"
 #include "HostKit/ErrorInfo.h"
-#include "HostKit/LiveObjects.h"
+#include "HostKit/Names.h"
 #include "Toolkit/graphics/ImageList.h"
 
 #include <algorithm>
@@ -26,15 +26,12 @@ std::string Join(std::string folder, std::string_view name)
 
 CMember::CMember(CContainer* pContainer, UINT nIndex)
     : m_pContainer(CStubRef<CContainer>::Share(pContainer)), m_nIndex(nIndex)
-{
-    ++g_nLiveObjects;
-}
+{}
 
 CMember::~CMember()
 {
     if (m_pContainer)
         m_pContainer->Forget(*this);
-    --g_nLiveObjects;
 }
 
 std::string_view CMember::Name() const
@@ -70,33 +67,16 @@ std::string CMember::ErrorLine() const
     return reason.empty() ? reason : ShownName() + ": " + reason;
 }
 
-void CMember::Release()
-{
-    if (--m_nRefs == 0)
-        delete this;
-}
-
 void CMember::GetInterface(DWORD id, void** out)
 {
-    *out = FindInterface(id);
+    Counted::GetInterface(id, out);
     if (*out)
-        AddRef();
-    else if (id == IID_IDispAtom && !IsShownAsItIs(Name()))
+        return;
+    if (id == IID_IDispAtom && !IsShownAsItIs(Name()))
         *out = static_cast<IDispAtom*>(new CDisplayName(this, ShownName()));
     else if (id == IID_IMyErrorInfo)
         if (std::string line = LastErrorLine(); !line.empty())
-            *out = CErrorInfo::Make(std::move(line)).Detach();
-}
-
-void* CMember::FindInterface(DWORD id)
-{
-    if (id == IID_IAtom)
-        return static_cast<IAtom*>(this);
-    if (id == IID_IAtomIcon)
-        return static_cast<IAtomIcon*>(this);
-    if (id == STUB_BASE_INTERFACE_ID)
-        return static_cast<CStubBaseInterface*>(this);
-    return nullptr;
+            *out = hostkit::CErrorInfo::Make(std::move(line)).Detach();
 }
 
 LibraryContext& CMember::Context() const
@@ -121,7 +101,7 @@ DWORD CMember::GetID()
 
 BOOL CMember::GetName(char* pBuffer, DWORD* pLength)
 {
-    return GiveName(Name(), pBuffer, pLength);
+    return hostkit::GiveName(Name(), pBuffer, pLength);
 }
 
 BOOL CMember::GetContainer(void** ppOut, DWORD dwInterfaceId)

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/model/MemberTable.h"
+#include "HostKit/Counted.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Views/host/host.h"
 
@@ -19,12 +20,9 @@ struct LibraryContext;
 // no more: name and identifier stand in the container.
 //
 // A member whose file has gone stays what it was for those who hold it; its container does not know it any more.
-class CMember : public virtual IAtom, public IAtomIcon
+class CMember : public hostkit::With<hostkit::Counted, IAtom, IAtomIcon>
 {
 public:
-    CMember(const CMember&) = delete;
-    CMember& operator=(const CMember&) = delete;
-
     // The editor's own side of an atom, borrowed; NULL for NULL and for a foreign one.
     static CMember* Of(IAtom* pAtom) { return dynamic_cast<CMember*>(pAtom); }
 
@@ -37,8 +35,6 @@ public:
     virtual std::string ErrorReason() const { return {}; }   // what is wrong with it; empty when nothing is known
     std::string ErrorLine() const;                           // the name to it; empty without a reason
 
-    void AddRef() override { ++m_nRefs; }
-    void Release() override;
     void GetInterface(DWORD id, void** out) override;
 
     DWORD GetID() override;
@@ -51,9 +47,8 @@ public:
 
 protected:
     CMember(CContainer* pContainer, UINT nIndex); // with one reference
-    virtual ~CMember();
+    ~CMember() override;
 
-    virtual void* FindInterface(DWORD id); // without a reference; NULL when the object has none
     virtual std::string LastErrorLine() const { return ErrorLine(); } // what IMyErrorInfo tells
     virtual toolkit::Surface DrawIcon(CSize size) = 0;
     virtual LibraryContext& Context() const;
@@ -66,7 +61,6 @@ private:
 
     const CStubRef<CContainer> m_pContainer;
     UINT m_nIndex; // MemberTable::kNone when the file has gone
-    int m_nRefs = 1;
 };
 
 } // namespace editor

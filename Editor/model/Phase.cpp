@@ -92,11 +92,6 @@ std::string CPhase::SaveTiming()
     return failure;
 }
 
-void* CPhase::FindInterface(DWORD id)
-{
-    return id == IID_IPhase ? static_cast<IPhase*>(this) : CContainer::FindInterface(id);
-}
-
 CContainer::Listing CPhase::Read()
 {
     Listing listing;
@@ -124,7 +119,7 @@ CMember* CPhase::MakeMember(UINT nIndex, MemberKind)
 
 toolkit::Surface CPhase::DrawIcon(CSize size)
 {
-    return PaintPictogram(Pictogram::Phase, size);
+    return PaintPictogram(hostkit::Pictogram::Phase, size);
 }
 
 DWORD CPhase::PermissionsFor(const ArchiveRecord& record, std::string& trouble)

@@ -17,10 +17,10 @@ namespace editor
 // picture stays. Each of these changes is saved at once, the file as a whole; what a link leads to must be called a
 // phase, too. Lines cannot be renamed. The timing alone is kept until it is saved, and the phase is modified so long;
 // whoever changes it keeps the phase alive.
-class CPhase : public CContainer, public IPhase
+class CPhase : public hostkit::With<CContainer, IPhase>
 {
 public:
-    CPhase(CContainer* pContainer, UINT nIndex) : CContainer(pContainer, nIndex) {}
+    CPhase(CContainer* pContainer, UINT nIndex) : With(pContainer, nIndex) {}
     ~CPhase() override { KeepTiming(std::nullopt); }
 
     std::string_view LineOf(const CMember& link) const { return CContainer::NameOf(link); }
@@ -45,7 +45,6 @@ public:
     BOOL IsModified() override { return m_timing.has_value(); }
 
 protected:
-    void* FindInterface(DWORD id) override;
     Listing Read() override;
     UINT FindName(const MemberTable& table, std::string_view name) const override;
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;

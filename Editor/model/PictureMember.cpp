@@ -32,16 +32,11 @@ BOOL CPictureMember::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
     return DrawThumbnail(hdc, rect, pictures.Find(path, rect.Size(), this, frame));
 }
 
-void* CPictureMember::FindInterface(DWORD id)
-{
-    return id == IID_IAtomThumbnail ? static_cast<IAtomThumbnail*>(this) : CMember::FindInterface(id);
-}
-
 toolkit::Surface CPictureMember::DrawIcon(CSize size)
 {
     const std::string path = Path();
     if (path.empty())
-        return PaintPictogram(Pictogram::BrokenPicture, size);
+        return PaintPictogram(hostkit::Pictogram::BrokenPicture, size);
     return PaintPictureIcon(Context().pPictures->Find(path, PictureSizeFor(size), this), size);
 }
 

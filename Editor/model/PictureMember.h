@@ -9,7 +9,7 @@ namespace editor
 // The picture is read by the store when it is first wanted; until then a placeholder stands for it, and views hear
 // that the atom has changed when it arrives. One that cannot be read fails as a thumbnail and is a torn picture as an
 // icon.
-class CPictureMember : public CMember, public IAtomThumbnail
+class CPictureMember : public hostkit::With<CMember, IAtomThumbnail>
 {
 public:
     std::string ErrorReason() const override; // known once its icon or thumbnail has been wanted
@@ -19,9 +19,8 @@ public:
     BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
 protected:
-    using CMember::CMember;
+    using With::With;
 
-    void* FindInterface(DWORD id) override;
     toolkit::Surface DrawIcon(CSize size) override;
 };
 

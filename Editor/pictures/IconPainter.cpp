@@ -71,9 +71,9 @@ toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, C
 
 } // namespace
 
-toolkit::Surface PaintPictogram(Pictogram which, CSize size)
+toolkit::Surface PaintPictogram(hostkit::Pictogram which, CSize size)
 {
-    const toolkit::Surface& picture = GetPictogram(which, std::max(1, std::min(size.cx, size.cy)));
+    const toolkit::Surface& picture = hostkit::GetPictogram(which, std::max(1, std::min(size.cx, size.cy)));
     return PaintInTheMiddle(picture, size, size, false);
 }
 
@@ -85,7 +85,8 @@ CSize PictureSizeFor(CSize icon)
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size)
 {
     if (!answer.pPicture)
-        return PaintPictogram(answer.bFailed ? Pictogram::BrokenPicture : Pictogram::Placeholder, size);
+        return PaintPictogram(answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder,
+                              size);
     const toolkit::Surface& picture = *answer.pPicture;
     if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
         return PaintInTheMiddle(picture, size, size, false);
@@ -94,8 +95,9 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
 
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer)
 {
-    const Pictogram instead = answer.bFailed ? Pictogram::BrokenPicture : Pictogram::Placeholder;
-    const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : GetPictogram(instead, kPlaceholder);
+    const hostkit::Pictogram instead =
+        answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder;
+    const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : hostkit::GetPictogram(instead, kPlaceholder);
     const CSize own = picture.Bounds().Size();
     if (own.cx <= rect.Width() && own.cy <= rect.Height())
         return toolkit::DrawSurface(hdc, toolkit::Centred(own, rect), picture, picture.Bounds());

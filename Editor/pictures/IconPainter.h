@@ -9,7 +9,7 @@ namespace editor
 {
 
 // The pictogram in the middle of a transparent ground.
-toolkit::Surface PaintPictogram(Pictogram which, CSize size);
+toolkit::Surface PaintPictogram(hostkit::Pictogram which, CSize size);
 
 // The size at which a picture for an icon is wished for: small icons are made from what is read for larger ones.
 CSize PictureSizeFor(CSize icon);

@@ -1,27 +1,25 @@
 // The texts and pictures that the views and the editor show, by number.
 #pragma once
 
-#include "Toolkit/graphics/Resources.h"
+#include "HostKit/Resources.h"
 
 namespace editor
 {
 
-// The editor's own texts, beside the library's (Views/host/Resources.h).
-inline constexpr UINT IDS_COPY_FAILED = 2001;
-inline constexpr UINT IDS_CUT_FAILED = 2002;
-inline constexpr UINT IDS_PASTE_FAILED = 2003;
-inline constexpr UINT IDS_REMOVE_FAILED = 2004;
-inline constexpr UINT IDS_SAVE_FAILED = 2005;
-inline constexpr UINT IDS_DRAG_FAILED = 2006;
-inline constexpr UINT IDS_MOVE_FAILED = 2007;
-inline constexpr UINT IDS_DROP_FAILED = 2008;
-inline constexpr UINT IDS_NOTHING_PASTED = 2009;
+using hostkit::IDS_COPY_FAILED;
+using hostkit::IDS_CUT_FAILED;
+using hostkit::IDS_MOVE_FAILED;
+using hostkit::IDS_NOTHING_PASTED;
+using hostkit::IDS_PASTE_FAILED;
+using hostkit::IDS_REMOVE_FAILED;
+using hostkit::kIconExtent;
+using hostkit::kPaneIconExtent;
 
-inline constexpr int kMarkExtent = 16;      // of the mark on a thumbnail
-inline constexpr int kIconExtent = 48;      // of a row's picture
+// The editor's own texts, beside the kit's.
+inline constexpr UINT IDS_SAVE_FAILED = 2005;
+inline constexpr UINT IDS_DROP_FAILED = 2008;
+
 inline constexpr int kThumbnailExtent = 80; // of what is drawn of a thumbnail
-inline constexpr int kPaneIconExtent = 16;  // of a pane's icon
-inline constexpr int kTreeIconExtent = 16;  // of a tree item's
 
 // Fills the module with all of them.
 void AddEditorResources(CResourceModule& module);

@@ -10,19 +10,6 @@
 namespace editor
 {
 
-ActiveMembers GetActiveMembers(IAtomEditor& editor)
-{
-    ActiveMembers members;
-    editor.EnumActivePairs(
-        [](IAtom* pAtom, IAtomContainer* pContainer, void* pContext) -> BOOL {
-            static_cast<ActiveMembers*>(pContext)->push_back(
-                {CStubRef<IAtom>::Share(pAtom), CStubRef<IAtomContainer>::Share(pContainer)});
-            return TRUE;
-        },
-        &members);
-    return members;
-}
-
 JointRemoval::JointRemoval(const ActiveMembers& members)
 {
     std::map<CPhase*, std::vector<const CMember*>> links;
@@ -52,7 +39,7 @@ std::string ShownNameOf(IAtom* pAtom)
 
 std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
 {
-    std::string line = CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pContainer).Get());
+    std::string line = hostkit::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pContainer).Get());
     return line.empty() ? std::move(otherwise) : line;
 }
 
@@ -73,7 +60,7 @@ std::string WhyStillThere(const ActiveMembers& members)
         if (std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
             !reason.empty())
             return reason;
-        if (!(member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE))
+        if (!member.MayGo())
             return ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
     }
     return {};

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/model/Phase.h"
-#include "Views/host/host.h"
+#include "HostKit/ActiveMembers.h"
 
 #include <string>
 #include <vector>
@@ -10,16 +10,9 @@
 namespace editor
 {
 
-struct ActiveMember
-{
-    CStubRef<IAtom> pAtom;
-    CStubRef<IAtomContainer> pContainer;
-
-    bool IsThere() const { return pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0) != FALSE; }
-};
-using ActiveMembers = std::vector<ActiveMember>;
-
-ActiveMembers GetActiveMembers(IAtomEditor& editor);
+using hostkit::ActiveMember;
+using hostkit::ActiveMembers;
+using hostkit::GetActiveMembers;
 
 // While it lives, lines of a phase that are removed with the others are removed together: the phase is written once.
 class JointRemoval

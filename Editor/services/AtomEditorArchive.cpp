@@ -7,7 +7,6 @@
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/UnsavedPhases.h"
 #include "Toolkit/base/Exception.h"
-#include "Toolkit/exchange/ClipboardFormat.h"
 
 namespace editor
 {
@@ -103,6 +102,7 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
     if (!archive)
         return FALSE;
     try {
+        const LongWork::Command command(&m_work, "Copying", Progress::Unit::Bytes);
         Writing writing;
         ArchiveWriter writer(*archive);
         writer.SetReplacement([&](const auto&... file) { return TextWithUnsaved(writing.unsaved, file...); });
@@ -142,17 +142,6 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
     } catch (CMemoryException& exception) {
         return NoteArchiveError(exception.GetErrorMessage());
     }
-}
-
-CLIPFORMAT CAtomEditor::GetClipboardFormat()
-{
-    return RegisterClipboardFormat("application/x-views-atoms");
-}
-
-BOOL CAtomEditor::NoteArchiveError(std::string line)
-{
-    m_archiveError = std::move(line);
-    return m_archiveError.empty();
 }
 
 } // namespace editor

@@ -166,7 +166,7 @@ DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bContr
 std::string DropError()
 {
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const std::string line = CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pEditor.Get()).Get());
+    const std::string line = hostkit::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pEditor.Get()).Get());
     return line.empty() ? "The reason is not known." : line;
 }
 

@@ -22,7 +22,7 @@ void Offer(COleDataSource& source, CLIPFORMAT format, std::string_view bytes)
     if (bytes.empty())
         return;
     const HGLOBAL hBytes = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
-    GlobalMedium medium(hBytes);
+    hostkit::GlobalMedium medium(hBytes);
     if (const toolkit::GlobalLocker<char> block(hBytes); block.Get())
         std::memcpy(block.Get(), bytes.data(), bytes.size());
     else

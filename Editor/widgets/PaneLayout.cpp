@@ -1,6 +1,6 @@
 #include "Editor/widgets/PaneLayout.h"
 
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "HostKit/Splitter.h"
 
 #include <algorithm>
@@ -23,13 +23,13 @@ PaneLayout::PaneLayout(CSize client, int treeWidth)
     content = {0, kPathBarHeight, client.cx, contentBottom};
     properties = {0, contentBottom, client.cx, bottom};
 
-    const int most = client.cx - CSplitter::kWidth - kLeastContent;
+    const int most = client.cx - hostkit::CSplitter::kWidth - kLeastContent;
     if (most < kLeastTree)
         return;
     const int wanted = treeWidth == kUsualTree ? std::clamp<int>(client.cx / 4, kLeastUsual, kMostUsual) : treeWidth;
     const int width = std::clamp(wanted, kLeastTree, most);
     tree = {0, content.top, width, bottom};
-    splitter = {width, content.top, width + CSplitter::kWidth, bottom};
+    splitter = {width, content.top, width + hostkit::CSplitter::kWidth, bottom};
     content.left = properties.left = splitter.right;
 }
 

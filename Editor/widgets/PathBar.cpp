@@ -1,6 +1,6 @@
 #include "Editor/widgets/PathBar.h"
 
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "HostKit/Pictograms.h"
 #include "Toolkit/graphics/SysColors.h"
 
@@ -63,7 +63,8 @@ void CPathBar::OnPaint()
     const CPaintDC dc(this);
     const CRect up = UpRect();
     DrawGround(dc, up, kUp);
-    DrawCentred(dc, up, GetPictogram(IsEnabled(kUp) ? Pictogram::Up : Pictogram::NoUp, kIcon));
+    DrawCentred(dc, up,
+                hostkit::GetPictogram(IsEnabled(kUp) ? hostkit::Pictogram::Up : hostkit::Pictogram::NoUp, kIcon));
     DrawCrumbs(dc);
 }
 
@@ -163,7 +164,7 @@ void CPathBar::DrawCrumbs(HDC hdc) const
         const bool isLast = crumb.nPart == nLast;
         if (crumb.nPart != 0)
             DrawCentred(hdc, {crumb.rect.left - kGap, crumb.rect.top, crumb.rect.left, crumb.rect.bottom},
-                        GetPictogram(Pictogram::PathArrow, kIcon));
+                        hostkit::GetPictogram(hostkit::Pictogram::PathArrow, kIcon));
         if (!isDots)
             DrawGround(hdc, crumb.rect, crumb.nPart);
         CRect text = crumb.rect;

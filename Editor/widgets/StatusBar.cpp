@@ -1,6 +1,6 @@
 #include "Editor/widgets/StatusBar.h"
 
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 namespace editor

@@ -20,11 +20,11 @@ ArchiveTest::~ArchiveTest()
 
 CStubRef<IArchive> ArchiveTest::MakeArchive(std::string_view bytes)
 {
-    const auto pStream = CStubRef<IByteStream>::Adopt(new editor::CMemoryStream);
+    const auto pStream = CStubRef<IByteStream>::Adopt(new hostkit::CMemoryStream);
     pStream->Seek(static_cast<DWORD>(bytes.size()), 0);
     pStream->SetEnd();
     std::copy(bytes.begin(), bytes.end(), static_cast<char*>(pStream->GetData()));
-    auto pArchive = CStubRef<IArchive>::Adopt(new editor::CArchive);
+    auto pArchive = CStubRef<IArchive>::Adopt(new hostkit::CArchive);
     pArchive->SetStream(pStream.Get());
     return pArchive;
 }

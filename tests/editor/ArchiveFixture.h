@@ -1,7 +1,8 @@
 // Copying and pasting atoms of a library through the editor's archives, without a clipboard and without views.
 #pragma once
 
-#include "Editor/services/Services.h"
+#include "Editor/services/AtomEditor.h"
+#include "HostKit/Services.h"
 #include "tests/editor/LibraryFixture.h"
 #include "tests/editor/StateSpy.h"
 
@@ -38,7 +39,7 @@ protected:
     editor::CAtomEditor editor;
 
 private:
-    editor::Services m_services{editor};
+    hostkit::Services m_services{editor};
     LedgerBook m_told;
     StateSpy m_selection{{}, m_told};
 };

@@ -1,14 +1,14 @@
 #include "tests/editor/EditorFixture.h"
 
-#include "HostKit/LiveObjects.h"
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
+#include "HostKit/Counted.h"
 
 #include <algorithm>
 
 // The brush behind thumbnails stays from the first list on: it is no leak of a test.
 static const bool s_brushMade = (CThumbList(), true);
 
-EditorTest::EditorTest(bool isFollowing) : m_nLive(editor::g_nLiveObjects)
+EditorTest::EditorTest(bool isFollowing) : m_nLive(hostkit::Counted::CountAlive())
 {
     editor::EditorApp::Options options;
     options.size = {640, 480};
@@ -23,7 +23,7 @@ EditorTest::~EditorTest()
     if (m_pApp)
         Settle(); // what threads are reading would come into the queue at any time
     CloseApp();
-    EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
+    EXPECT_EQ(m_nLive, hostkit::Counted::CountAlive()) << "atoms or their parts left alive";
 }
 
 std::string EditorTest::Open(const std::string& path)

@@ -1,4 +1,4 @@
-#include "HostKit/Look.h"
+#include "Editor/widgets/Look.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <algorithm>
@@ -187,7 +187,7 @@ TEST_F(EditorTest, SwitchingKeepsWhatIsShownSelectedAndFocused)
     EXPECT_EQ(0xFF102030u, shown.At(icon.left + 24, icon.top + 24)) << "80 pixels wide, in the middle of 128";
     EXPECT_EQ(0xFFFFFFFFu, shown.At(icon.left + 23, icon.top + 24));
 
-    editor::CPane& pane = static_cast<editor::CPane&>(*CWnd::FromHandle(GetParent(hThumbnails)));
+    hostkit::CPane& pane = static_cast<hostkit::CPane&>(*CWnd::FromHandle(GetParent(hThumbnails)));
     desktop.Click(pane.GetSafeHwnd(), pane.ChoiceRect(0).CenterPoint());
     EXPECT_EQ(hIcons, List());
     EXPECT_EQ(before, Screen());

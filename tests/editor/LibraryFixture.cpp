@@ -1,13 +1,13 @@
 #include "tests/editor/LibraryFixture.h"
 
 #include "Editor/pictures/IconPainter.h"
+#include "HostKit/Counted.h"
 #include "HostKit/ErrorInfo.h"
-#include "HostKit/LiveObjects.h"
 #include "Toolkit/graphics/Gdi.h"
 
 #include <algorithm>
 
-using editor::Pictogram;
+using hostkit::Pictogram;
 
 namespace
 {
@@ -19,7 +19,7 @@ bool AreSame(const toolkit::Surface& a, const toolkit::Surface& b)
 
 } // namespace
 
-LibraryTest::LibraryTest() : m_nLive(editor::g_nLiveObjects)
+LibraryTest::LibraryTest() : m_nLive(hostkit::Counted::CountAlive())
 {
     editor::PictureStore::Limits limits;
     limits.threads = 1;
@@ -35,7 +35,7 @@ LibraryTest::~LibraryTest()
     for (desktop.Run(); !pPictures->IsIdle(); desktop.Run())
         pPictures->WaitForResult(std::chrono::milliseconds(10));
     pPictures->Stop();
-    EXPECT_EQ(m_nLive, editor::g_nLiveObjects) << "atoms or their parts left alive";
+    EXPECT_EQ(m_nLive, hostkit::Counted::CountAlive()) << "atoms or their parts left alive";
 }
 
 std::string LibraryTest::Open(const std::string& path)
@@ -100,7 +100,7 @@ std::string LibraryTest::Name(IAtom* pAtom)
 
 std::string LibraryTest::Error(IAtom* pAtom)
 {
-    return editor::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pAtom).Get());
+    return hostkit::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pAtom).Get());
 }
 
 std::string LibraryTest::Icon(IAtom* pAtom)
@@ -111,10 +111,10 @@ std::string LibraryTest::Icon(IAtom* pAtom)
         return "no icon";
     const toolkit::Surface shown = *toolkit::IconSurface(request.hIcon);
     DestroyIcon(request.hIcon);
-    const std::pair<Pictogram, const char*> known[] = {{Pictogram::Folder, "folder"},
-                                                       {Pictogram::Phase, "phase"},
-                                                       {Pictogram::BrokenPicture, "broken"},
-                                                       {Pictogram::Placeholder, "none yet"}};
+    const std::pair<hostkit::Pictogram, const char*> known[] = {{hostkit::Pictogram::Folder, "folder"},
+                                                                {hostkit::Pictogram::Phase, "phase"},
+                                                                {hostkit::Pictogram::BrokenPicture, "broken"},
+                                                                {hostkit::Pictogram::Placeholder, "none yet"}};
     for (const auto& [which, pszName] : known)
         if (AreSame(shown, editor::PaintPictogram(which, {48, 48})))
             return pszName;

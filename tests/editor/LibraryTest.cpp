@@ -1,4 +1,4 @@
-#include "HostKit/LiveObjects.h"
+#include "HostKit/Counted.h"
 #include "tests/editor/LibraryFixture.h"
 
 #include <sys/stat.h>
@@ -25,7 +25,7 @@ TEST_F(LibraryTest, GetAtomsFillsEverySlotAndABufferThatIsTooSmallForANameIsNotW
 {
     folder.Make("a.bmp Ada/Poses/one.bmp Ada/Poses/two.bmp");
     Open();
-    const int nAlone = editor::g_nLiveObjects;
+    const int nAlone = hostkit::Counted::CountAlive();
     void* slots[3] = {this, this, this};
     Library()->GetAtoms(1, 3, slots, IID_IAtom);
     auto pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(slots[0]));
@@ -48,7 +48,7 @@ TEST_F(LibraryTest, GetAtomsFillsEverySlotAndABufferThatIsTooSmallForANameIsNotW
     CStubRef<IAtom> pHolder;
     EXPECT_EQ("[one.bmp two.bmp]", Members("Ada/Poses"));
     pAtom = Find(Container("Ada/Poses").Get(), "one.bmp");
-    EXPECT_EQ(nAlone + 3, editor::g_nLiveObjects) << "a picture keeps its folders, they nobody";
+    EXPECT_EQ(nAlone + 3, hostkit::Counted::CountAlive()) << "a picture keeps its folders, they nobody";
     EXPECT_TRUE(pAtom->GetContainer(pHolder.Receive(), IID_IAtom));
     EXPECT_EQ("Poses", Name(pHolder.Get()));
     EXPECT_FALSE(Library()->GetContainer(pHolder.Receive(), IID_IAtom));

@@ -1,11 +1,11 @@
-#include "Editor/services/AtomEditor.h"
+#include "HostKit/AtomEditor.h"
 
 #include "HostKit/ErrorInfo.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <utility>
 
-namespace editor
+namespace hostkit
 {
 namespace
 {
@@ -54,6 +54,10 @@ private:
 
 } // namespace
 
+CAtomEditor::CAtomEditor(std::string format) : m_format(std::move(format)) {}
+
+CAtomEditor::~CAtomEditor() = default;
+
 void CAtomEditor::GetInterface(DWORD id, void** out)
 {
     *out = id == STUB_BASE_INTERFACE_ID ? static_cast<CStubBaseInterface*>(this) : nullptr;
@@ -81,6 +85,13 @@ void CAtomEditor::ForgetAtoms()
     m_tops.clear();
     m_pActive.Release();
     m_pMoved.reset();
+}
+
+BOOL CAtomEditor::Tell(AEStateOperation operation, IAtom* pAtom)
+{
+    CStubRef<IAtomContainer> pContainer;
+    pAtom->GetContainer(pContainer.Receive(), IID_IAtomContainer);
+    return NotifyHandlers(nullptr, operation, pAtom, pContainer.Get(), 0);
 }
 
 DWORD CAtomEditor::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
@@ -156,6 +167,17 @@ void CAtomEditor::GetActiveAtom(void** out, DWORD interfaceId)
         static_cast<CStubBaseInterface*>(m_pActive.Get())->GetInterface(interfaceId, out);
 }
 
+CLIPFORMAT CAtomEditor::GetClipboardFormat()
+{
+    return RegisterClipboardFormat(m_format.c_str());
+}
+
+BOOL CAtomEditor::NoteArchiveError(std::string line)
+{
+    m_archiveError = std::move(line);
+    return m_archiveError.empty();
+}
+
 void CAtomEditor::Note(IAEStateHandler* pSender, AEStateOperation operation, IAtom* pAtom, IAtomContainer* pContainer)
 {
     const bool bSelected = operation == &IAEStateHandler::OnAtomSelected;
@@ -168,11 +190,11 @@ void CAtomEditor::Note(IAEStateHandler* pSender, AEStateOperation operation, IAt
         m_pActive = CStubRef<IAtom>::Share(pContainer);
 }
 
-IAEStateHandler* CAtomEditor::FindSelectionSource() const
+IAEStateHandler* CAtomEditor::FindSelectionSource()
 {
-    if (IAEStateHandler* const pFocused = m_handlers.FindByWindow(GetFocus(), GetFrameWindow()))
+    if (IAEStateHandler* const pFocused = m_handlers.FindByWindow(GetFocus(), GetMainWindow()))
         return pFocused;
     return m_handlers.Contains(m_pLastSender) ? m_pLastSender : nullptr;
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,16 +1,18 @@
-#include "Editor/services/Services.h"
+#include "HostKit/Services.h"
 
 #include "HostKit/Archive.h"
 #include "HostKit/ErrorInfo.h"
 #include "HostKit/MemoryStream.h"
 #include "Toolkit/menu/MessageBox.h"
+#include "Views/host/IAtomEditor.h"
+#include "Views/host/Services.h"
 
 #include <new>
 
-namespace editor
+namespace hostkit
 {
 
-Services::Services(CAtomEditor& editor)
+Services::Services(IAtomEditor& editor)
 {
     static const SERVICETABLE editorTable{&GiveEditor};
     static const SERVICETABLE errorTable{&ShowError};
@@ -37,7 +39,7 @@ BOOL Services::GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSiz
 {
     if (dwSize != sizeof(IAtomEditor*))
         return FALSE;
-    CAtomEditor* const pEditor = static_cast<EditorProvider*>(pProvider)->pEditor;
+    IAtomEditor* const pEditor = static_cast<EditorProvider*>(pProvider)->pEditor;
     pEditor->AddRef();
     *static_cast<IAtomEditor**>(pBuffer) = pEditor;
     return TRUE;
@@ -63,4 +65,4 @@ BOOL Services::ShowError(SERVICEPROVIDER*, void* pBuffer, DWORD dwSize, DWORD)
     return TRUE;
 }
 
-} // namespace editor
+} // namespace hostkit

@@ -1,18 +1,20 @@
 // The services that the views call by name, installed in the kernel for as long as the object lives.
 #pragma once
 
-#include "Editor/services/AtomEditor.h"
+#include "HostKit/Api.h"
 #include "Kernel/Kernel.h"
 
-namespace editor
+class IAtomEditor;
+
+namespace hostkit
 {
 
-// Besides, "ConstructMemoryStream" and the class "CArchiveImp". Errors are shown in a message box: the caption, and the
-// error's line.
-class Services
+// The atom editor, memory streams, archives, and errors, which are shown in a message box: the caption, and the error's
+// line. A host that puts a provider of its own in a service's place does so afterwards.
+class HOSTKIT_API Services
 {
 public:
-    explicit Services(CAtomEditor& editor); // borrowed
+    explicit Services(IAtomEditor& editor); // borrowed
     ~Services();
     Services(const Services&) = delete;
     Services& operator=(const Services&) = delete;
@@ -20,7 +22,7 @@ public:
 private:
     struct EditorProvider : SERVICEPROVIDER
     {
-        CAtomEditor* pEditor;
+        IAtomEditor* pEditor;
     };
     static BOOL GiveEditor(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
     static BOOL GiveMemoryStream(SERVICEPROVIDER* pProvider, void* pBuffer, DWORD dwSize, DWORD dwExtra);
@@ -31,4 +33,4 @@ private:
     SERVICEPROVIDER m_streams;
 };
 
-} // namespace editor
+} // namespace hostkit
