@@ -103,14 +103,15 @@ public:
     CLIPFORMAT GetClipboardFormat() override;
     void GetActiveAtom(void** out, DWORD interfaceId) override;
 
+    // Of members that were to be removed: the reason for the first one that is still there; empty when all went.
+    virtual std::string WhyStillThere(const ActiveMembers& members) const;
+
 protected:
     // What a derived class adds to drags.
     virtual void OfferMore(COleDataSource&, const ActiveMembers&) {} // data for other programs
     // Both are held: from before a drag until what was moved has gone; while the members that were moved are removed.
     virtual std::shared_ptr<void> BeginDrag() { return nullptr; }
     virtual std::shared_ptr<void> BeginRemoval(const ActiveMembers&) { return nullptr; }
-    // The reason for the first one that could not be removed; empty when all went.
-    virtual std::string WhyStillThere(const ActiveMembers& members) const;
     virtual void TellOfFailedDrag(); // nothing could be written: a box says why
 
     BOOL NoteArchiveError(std::string line); // FALSE when there is one

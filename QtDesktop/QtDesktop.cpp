@@ -130,6 +130,11 @@ int QtDesktop::ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UI
     return AskMessageBox(m_parts->Find(GetTopLevel(hOwner)), pszText, pszCaption, nType);
 }
 
+void QtDesktop::Quit(int nStatus)
+{
+    QCoreApplication::exit(nStatus);
+}
+
 void QtDesktop::ShowCursor(toolkit::Cursor cursor)
 {
     if (std::exchange(m_parts->cursor, cursor) == cursor)

@@ -40,6 +40,7 @@ public:
     void WakeFromThread() override;
     void ProcessEvents() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
+    void Quit(int nStatus) override; // ends the application's exec()
     void ShowCursor(toolkit::Cursor cursor) override;
     void TextInputChanged() override;
     UINT TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen) override;

@@ -9,26 +9,39 @@ namespace editor
 namespace
 {
 
-using With = CommandEntry::With;
+using With = hostkit::CommandKey::With;
 using State = CommandState;
 using Run = FrameCommands;
 
 // In the menu's order.
 constexpr CommandEntry kCommands[] = {
-    {ID_OPEN, "&Open", true, VK_RETURN, With::Views, &State::canOpen, &Run::OpenSelected, nullptr, nullptr},
-    {ID_UNDO, "&Undo", true, 'Z', With::Control, &State::canUndo, &Run::UndoOrTell, "undo", &Run::Undo},
-    {ID_REDO, "Re&do", false, 'Z', With::ControlShift, &State::canRedo, &Run::RedoOrTell, "redo", &Run::Redo},
-    {ID_REDO, nullptr, false, 'Y', With::Control, &State::canRedo, &Run::RedoOrTell, nullptr, nullptr},
-    {ID_CUT, "Cu&t", true, 'X', With::Control, &State::canRemove, &Run::CutSelection, "cut", &Run::Cut},
-    {ID_COPY, "&Copy", false, 'C', With::Control, &State::canCarry, &Run::CopySelection, "copy", &Run::Copy},
-    {ID_PASTE, "&Paste", false, 'V', With::Control, &State::canPaste, &Run::PasteHere, "paste", &Run::Paste},
-    {ID_RENAME, "&Rename", true, VK_F2, With::Nothing, &State::canRename, &Run::RenameSelected, nullptr, nullptr},
-    {ID_REMOVE, "&Delete", false, VK_DELETE, With::Nothing, &State::canRemove, &Run::RemoveSelection, nullptr, nullptr},
-    {ID_SELECT_ALL, "Select &all", true, 'A', With::Views, &State::canSelectAll, &Run::SelectAll, nullptr, nullptr},
-    {ID_REFRESH, "Re&fresh", false, VK_F5, With::Whatever, &State::always, &Run::Refresh, "refresh",
+    {ID_OPEN, "&Open", true, {VK_RETURN, With::Views}, &State::canOpen, &Run::OpenSelected, nullptr, nullptr},
+    {ID_UNDO, "&Undo", true, {'Z', With::Control}, &State::canUndo, &Run::UndoOrTell, "undo", &Run::Undo},
+    {ID_REDO, "Re&do", false, {'Z', With::ControlShift}, &State::canRedo, &Run::RedoOrTell, "redo", &Run::Redo},
+    {ID_REDO, nullptr, false, {'Y', With::Control}, &State::canRedo, &Run::RedoOrTell, nullptr, nullptr},
+    {ID_CUT, "Cu&t", true, {'X', With::Control}, &State::canRemove, &Run::CutSelection, "cut", &Run::Cut},
+    {ID_COPY, "&Copy", false, {'C', With::Control}, &State::canCarry, &Run::CopySelection, "copy", &Run::Copy},
+    {ID_PASTE, "&Paste", false, {'V', With::Control}, &State::canPaste, &Run::PasteHere, "paste", &Run::Paste},
+    {ID_RENAME, "&Rename", true, {VK_F2, With::Nothing}, &State::canRename, &Run::RenameSelected, nullptr, nullptr},
+    {ID_REMOVE,
+     "&Delete",
+     false,
+     {VK_DELETE, With::Nothing},
+     &State::canRemove,
+     &Run::RemoveSelection,
+     nullptr,
+     nullptr},
+    {ID_SELECT_ALL, "Select &all", true, {'A', With::Views}, &State::canSelectAll, &Run::SelectAll, nullptr, nullptr},
+    {ID_REFRESH,
+     "Re&fresh",
+     false,
+     {VK_F5, With::Whatever},
+     &State::always,
+     &Run::Refresh,
+     "refresh",
      &Run::RefreshQuietly},
-    {ID_ICONS, nullptr, false, '1', With::Control, &State::always, &Run::ShowIcons, nullptr, nullptr},
-    {ID_THUMBNAILS, nullptr, false, '2', With::Control, &State::always, &Run::ShowThumbnails, nullptr, nullptr},
+    {ID_ICONS, nullptr, false, {'1', With::Control}, &State::always, &Run::ShowIcons, nullptr, nullptr},
+    {ID_THUMBNAILS, nullptr, false, {'2', With::Control}, &State::always, &Run::ShowThumbnails, nullptr, nullptr},
 };
 
 template <class Matches>
@@ -36,39 +49,6 @@ const CommandEntry* Find(Matches matches)
 {
     const auto* const pFound = std::find_if(std::begin(kCommands), std::end(kCommands), matches);
     return pFound == std::end(kCommands) ? nullptr : pFound;
-}
-
-bool IsGivenBy(With with, bool bControl, bool bShift)
-{
-    switch (with) {
-    case With::Nothing:
-        return !bControl && !bShift;
-    case With::Control:
-        return bControl && !bShift;
-    case With::ControlShift:
-        return bControl && bShift;
-    case With::Whatever:
-        return true;
-    case With::Views:
-        return false;
-    }
-    return false;
-}
-
-std::string KeyText(const CommandEntry& command)
-{
-    switch (command.vkey) {
-    case VK_RETURN:
-        return "Enter";
-    case VK_DELETE:
-        return "Del";
-    case VK_F2:
-    case VK_F5:
-        return "F" + std::to_string(command.vkey - VK_F1 + 1);
-    default:
-        return std::string(command.with == With::ControlShift ? "Ctrl+Shift+" : "Ctrl+") +
-               static_cast<char>(command.vkey);
-    }
 }
 
 // " rename of "walk.png"" behind what takes a step back or does it again. What is an & there is none of the menu's.
@@ -89,8 +69,7 @@ const CommandEntry* FindCommand(UINT nID)
 
 const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift)
 {
-    return Find(
-        [=](const CommandEntry& command) { return command.vkey == vkey && IsGivenBy(command.with, bControl, bShift); });
+    return Find([=](const CommandEntry& command) { return command.key.IsGivenBy(vkey, bControl, bShift); });
 }
 
 const CommandEntry* FindCommandOfWord(std::string_view word)
@@ -108,7 +87,7 @@ std::unique_ptr<CMenu> MakeContextMenu(const CommandState& state)
             continue;
         if (command.bSection && &command != kCommands)
             pMenu->AppendMenu(MF_SEPARATOR);
-        const std::string text = command.pszMenu + StepOf(command, state) + '\t' + KeyText(command);
+        const std::string text = command.pszMenu + StepOf(command, state) + '\t' + command.key.Text();
         pMenu->AppendMenu(MF_STRING | (state.*command.pCan ? MF_ENABLED : MF_GRAYED), command.nID, text.c_str());
     }
     return pMenu;

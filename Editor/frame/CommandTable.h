@@ -2,6 +2,7 @@
 // does.
 #pragma once
 
+#include "HostKit/CommandKey.h"
 #include "Toolkit/menu/Menu.h"
 
 #include <memory>
@@ -38,20 +39,10 @@ struct CommandState
 
 struct CommandEntry
 {
-    enum class With // the key
-    {
-        Nothing,
-        Control,
-        ControlShift,
-        Whatever, // else is held down
-        Views     // know it themselves
-    };
-
     UINT nID;
     const char* pszMenu; // NULL: not in the menu
     bool bSection;       // begins a section of the menu
-    UINT vkey;
-    With with;
+    hostkit::CommandKey key;
     bool CommandState::*pCan;
     void (FrameCommands::*run)(); // as the user gives it: asks, and tells what was not done
     const char* pszWord;          // in scripts, where nothing stands behind it; NULL: none

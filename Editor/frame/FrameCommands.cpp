@@ -17,13 +17,7 @@ namespace
 // What stands in a step's way may go; else it would stand in the way of all others for ever.
 constexpr const char* kForget = ".\n\nNothing was changed. Forget this step?";
 
-bool UserAgrees(const std::string& question, UINT nDefault = 0)
-{
-    const HWND hFocus = ::GetFocus();
-    const int nAnswer = AfxMessageBox(question.c_str(), MB_YESNO | MB_ICONQUESTION | nDefault);
-    ::SetFocus(hFocus);
-    return nAnswer == IDYES;
-}
+using hostkit::UserAgrees;
 
 } // namespace
 
@@ -269,8 +263,8 @@ void FrameCommands::ReadAgain(CContainer& container)
 
 void FrameCommands::ShowFailure(UINT nCaptionID, std::string reason) const
 {
-    if (!WasCancelled() && !reason.empty())
-        ShowAtomError(m_parts.editor.GetMainWindow(), nCaptionID, hostkit::CErrorInfo::Make(std::move(reason)).Get());
+    if (!WasCancelled())
+        hostkit::ShowFailure(m_parts.editor.GetMainWindow(), nCaptionID, std::move(reason));
 }
 
 } // namespace editor

@@ -37,12 +37,6 @@ std::string ShownNameOf(IAtom* pAtom)
     return pMember ? pMember->ShownName() : std::string("an object");
 }
 
-std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise)
-{
-    std::string line = hostkit::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pContainer).Get());
-    return line.empty() ? std::move(otherwise) : line;
-}
-
 void ForgetWhatStayed(const ActiveMembers& members)
 {
     for (const ActiveMember& member : members)

@@ -3,6 +3,7 @@
 
 #include "Editor/model/Phase.h"
 #include "HostKit/ActiveMembers.h"
+#include "HostKit/Commands.h"
 
 #include <string>
 #include <vector>
@@ -12,6 +13,7 @@ namespace editor
 
 using hostkit::ActiveMember;
 using hostkit::ActiveMembers;
+using hostkit::ErrorOf;
 using hostkit::GetActiveMembers;
 
 // While it lives, lines of a phase that are removed with the others are removed together: the phase is written once.
@@ -28,8 +30,6 @@ private:
 };
 
 std::string ShownNameOf(IAtom* pAtom);
-// What the container says went wrong last, in one line.
-std::string ErrorOf(IAtomContainer* pContainer, std::string otherwise);
 // Before they are removed: reasons of former commands do not count.
 void ForgetWhatStayed(const ActiveMembers& members);
 // The reason for the first one that could not be removed; empty when all went, or nobody has tried to remove them.

@@ -38,13 +38,13 @@ public:
     // All of the active atoms or nothing: then the archive is empty, and the editor's IMyErrorInfo says why. They are
     // written as the user sees them: what is not saved of a phase is in the archive, and still not on the disk.
     BOOL WriteActiveObjects(IArchive* archive) override;
+    std::string WhyStillThere(const ActiveMembers& members) const override;
 
 protected:
     // As a list of the files' URIs: such a drag removes nothing, and proposes a copy.
     void OfferMore(COleDataSource& source, const ActiveMembers& members) override;
     std::shared_ptr<void> BeginDrag() override; // a step
     std::shared_ptr<void> BeginRemoval(const ActiveMembers& members) override;
-    std::string WhyStillThere(const ActiveMembers& members) const override;
     void TellOfFailedDrag() override;
 
 private:

@@ -5,6 +5,7 @@
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Editor/services/OfferedFiles.h"
+#include "HostKit/Commands.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Views/clipboard/clipboard.h"
@@ -52,26 +53,6 @@ std::string NoFile(const char* pszTrouble)
 {
     const std::string why = LastErrorText();
     return why.empty() ? pszTrouble : pszTrouble + (": " + why);
-}
-
-CStubRef<IArchive> ArchiveOnClipboard(CLIPFORMAT cfAtoms, std::string& trouble)
-{
-    COleDataObject data;
-    STGMEDIUM medium{};
-    if (!data.AttachClipboard() || !data.IsDataAvailable(cfAtoms)) {
-        trouble = "there are no objects on the clipboard";
-        return nullptr;
-    }
-    CStubRef<IArchive> pArchive;
-    ::SetLastError(ERROR_SUCCESS);
-    if (data.GetData(cfAtoms, &medium)) {
-        pArchive = CStubRef<IArchive>::Adopt(ArchiveFromStgMedium(medium));
-        ReleaseStgMedium(&medium);
-    }
-    if (!pArchive)
-        trouble = ::GetLastError() == ERROR_FILE_NOT_FOUND ? "what was copied is not there any more"
-                                                           : NoFile("what was copied cannot be read");
-    return pArchive;
 }
 
 std::vector<CMember*> OwnOf(const ActiveMembers& members)
@@ -184,19 +165,9 @@ try {
 
 std::string Commands::PasteAtoms(CContainer* pTarget)
 {
-    std::string trouble;
-    const CStubRef<IArchive> pArchive = ArchiveOnClipboard(m_editor.GetClipboardFormat(), trouble);
-    if (!pArchive)
-        return trouble;
-    if (CheckPaste(pArchive.Get(), pTarget, FALSE) == PASTE_REFUSED) {
-        trouble = m_editor.GetArchiveError();
-        return trouble.empty() ? ErrorOf(pTarget, pTarget->ShownName() + ": it does not take these objects") : trouble;
-    }
-    const bool bRead = PasteObjects(pArchive.Get(), pTarget, FALSE) != FALSE;
-    trouble = m_editor.GetArchiveError();
-    if (!bRead && trouble.empty())
-        trouble = ErrorOf(pTarget, pTarget->ShownName() + ": it does not take all of these objects");
-    return trouble;
+    ::SetLastError(ERROR_SUCCESS);
+    std::string trouble = hostkit::PasteAtoms(m_editor, pTarget);
+    return trouble == hostkit::kCannotBeRead ? NoFile(hostkit::kCannotBeRead) : trouble;
 }
 
 // A file manager's, where there are no objects of an editor.

@@ -72,6 +72,9 @@ public:
     // While it is over the program's own windows, a DragTracker tells them. Messages run meanwhile.
     virtual DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) = 0;
 
+    // The program is to end with that status when what waits has been handled: whoever runs the desktop's loop returns.
+    virtual void Quit(int nStatus) { static_cast<void>(nStatus); }
+
     // Another field has the focus, or none, or the field's text or caret is new: ask FocusedTextInput.
     virtual void TextInputChanged() {}
 };
@@ -80,3 +83,9 @@ TOOLKIT_API Desktop& CurrentDesktop();     // one that does nothing while none i
 void SetCurrentDesktop(Desktop* pDesktop); // what InstallDesktop does here
 
 } // namespace toolkit
+
+// Ends the program's run, mostly from the main window's OnDestroy.
+inline void PostQuitMessage(int nExitCode)
+{
+    toolkit::CurrentDesktop().Quit(nExitCode);
+}

@@ -84,6 +84,8 @@ public:
     std::string PublishedKinds(); // separated by spaces; "" when nothing is published
     std::optional<std::string> ReadPublished(std::string_view kind);
 
+    std::optional<int> ExitStatus() const { return m_exitStatus; } // nothing until the program has asked to end
+
     // The pixels of a window, border included, cut out of its top-level window after all painting is done.
     Surface Dump(HWND hWnd);
     CPoint CursorPos() const { return m_cursorPos; }
@@ -95,6 +97,7 @@ public:
     void WindowPlaced(HWND) override {}
     void WindowDestroyed(HWND) override {}
     void Present(HWND, const Surface&, const CRect&) override {}
+    void Quit(int nStatus) override { m_exitStatus = nStatus; }
     void Wake(std::optional<DWORD> inMilliseconds) override;
     void WakeFromThread() override;
     void ProcessEvents() override;
@@ -120,6 +123,7 @@ private:
     bool m_bTaskPosted = false;
 
     DWORD m_ticks = 1000;
+    std::optional<int> m_exitStatus;
     std::optional<DWORD> m_wakeAt; // when the queue asked to be run
     Modifiers m_modifiers;
     CPoint m_cursorPos;
