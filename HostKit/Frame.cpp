@@ -12,6 +12,8 @@ namespace
 
 constexpr DWORD kTreePane = 0;  // all other kinds are lists
 constexpr int kLeastSide = 100; // pixels
+constexpr UINT kSelectRenamed = WM_USER;
+constexpr UINT kKeepFocus = WM_USER + 1;
 
 } // namespace
 
@@ -21,6 +23,8 @@ BEGIN_MESSAGE_MAP(CFrame, CWnd)
     ON_WM_CLOSE()
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
+    ON_MESSAGE(kKeepFocus, OnKeepFocus)
+    ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
 
 CFrame::CFrame(CAtomEditor& editor)
@@ -58,6 +62,8 @@ void CFrame::OnDestroy()
     m_editor.UnregisterHandler(m_dwHandlerCookie);
     m_editor.SetFrame(nullptr);
     m_pOpened.Release();
+    m_created = {};
+    m_renamed = {};
     CWnd::OnDestroy();
     if (AfxGetMainWnd() != this)
         return;
@@ -131,14 +137,53 @@ void CFrame::Open(IAtom* pAtom)
 BOOL CFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
 {
     m_pOpened = CStubRef<IAtom>::Share(pAtom);
+    if (m_right.GetView() && ::GetFocus() == m_right.GetView())
+        PostMessage(kKeepFocus);
     return TRUE;
 }
 
-BOOL CFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer*)
+// The tree follows what is opened and takes the focus with it; the user goes on in the list.
+LRESULT CFrame::OnKeepFocus(WPARAM, LPARAM)
 {
-    if (pAtom && pAtom == m_pOpened.Get())
-        m_pOpened.Release();
+    if (::GetFocus() == m_left.GetView() && m_right.GetView())
+        ::SetFocus(m_right.GetView());
+    return 0;
+}
+
+BOOL CFrame::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    m_created = {CStubRef<IAtom>::Share(pAtom), CStubRef<IAtomContainer>::Share(pContainer)};
     return TRUE;
+}
+
+// A member that goes when another has just come to its container was renamed. The views take the next one's selection
+// for it, and are put right when they have heard of both.
+BOOL CFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    ActiveMember created = std::move(m_created);
+    const bool bOpened = pAtom && pAtom == m_pOpened.Get();
+    const bool bRenamed = pAtom && created.pAtom && pContainer && pContainer == created.pContainer.Get();
+    if (bOpened && !bRenamed)
+        m_pOpened.Release();
+    if (!bRenamed)
+        return TRUE;
+    m_renamed = std::move(created);
+    if (bOpened)
+        Open(CStubRef<IAtom>::Share(m_renamed.pAtom.Get()).Get());
+    else
+        PostMessage(kSelectRenamed);
+    return TRUE;
+}
+
+LRESULT CFrame::OnSelectRenamed(WPARAM, LPARAM)
+{
+    const ActiveMember renamed = std::move(m_renamed);
+    if (!renamed.pAtom || !renamed.IsThere())
+        return 0;
+    IAtomContainer* const pContainer = renamed.pContainer.Get();
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomDeselected, nullptr, pContainer, 0);
+    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomSelected, renamed.pAtom.Get(), pContainer, 0);
+    return 0;
 }
 
 } // namespace hostkit

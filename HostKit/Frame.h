@@ -51,6 +51,7 @@ public:
     void OnMoved(const std::string& reason) override;
 
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
 
 protected:
@@ -65,6 +66,8 @@ protected:
     afx_msg void OnClose();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg LRESULT OnKeepFocus(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -85,6 +88,8 @@ private:
     int m_nLeftWidth = CSplitter::kUsual;
     std::vector<Command> m_commands;
     CStubRef<IAtom> m_pOpened;
+    ActiveMember m_created; // what came last
+    ActiveMember m_renamed; // is to be selected when everyone has heard of it
 };
 
 } // namespace hostkit

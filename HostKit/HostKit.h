@@ -8,3 +8,4 @@
 #include "HostKit/Frame.h"
 #include "HostKit/Host.h"
 #include "HostKit/Names.h"
+#include "Views/host/host.h"
