@@ -1,6 +1,5 @@
 #include "examples/Screen.h"
 
-#include "Toolkit/desktop/MessageBoxTypes.h"
 #include "Toolkit/headless/HeadlessDesktop.h"
 
 #include <cstdio>

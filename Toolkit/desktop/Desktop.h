@@ -7,6 +7,7 @@
 #include "Toolkit/base/Geometry.h"
 #include "Toolkit/desktop/DropEffect.h"
 #include "Toolkit/desktop/MenuItems.h"
+#include "Toolkit/desktop/MessageBoxTypes.h"
 #include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/graphics/TextEngine.h"
