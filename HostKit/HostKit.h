@@ -6,6 +6,7 @@
 #include "HostKit/Commands.h"
 #include "HostKit/ErrorInfo.h"
 #include "HostKit/Frame.h"
+#include "HostKit/Handler.h"
 #include "HostKit/Host.h"
 #include "HostKit/Names.h"
 #include "Views/host/host.h"

@@ -31,9 +31,11 @@ private:
 };
 
 // Hears what happens to the objects.
-class Teller final : public CStateHandler
+class Teller : public hostkit::CHandler
 {
 public:
+    using CHandler::CHandler;
+
     BOOL OnAtomSelected(IAtom* pAtom, IAtomContainer*) override
     {
         if (pAtom)
@@ -58,10 +60,9 @@ int main(int argc, char* argv[])
 
     hostkit::CFrame frame(host.GetEditor());
     CIconList list;
-    Teller teller;
+    Teller teller(host.GetEditor());
     if (!frame.Create("Album", CSize(480, 240)) || !list.Create(frame.RightSide()))
         return 1;
-    host.GetEditor().RegisterHandler(nullptr, &teller);
     frame.Open(pAlbum.Get());
     return screen.Run(frame);
 }

@@ -1,7 +1,6 @@
 // A tree and a list in step, and a part of the program that does not allow everything: what is locked cannot be
 // selected. Drag, cut, copy and paste between both, and between two of these programs.
 #include "HostKit/HostKit.h"
-#include "HostKit/Pictograms.h"
 #include "Views/list/list.h"
 #include "Views/tree/tree.h"
 #include "examples/Screen.h"
@@ -55,9 +54,11 @@ public:
 };
 
 // A handler like the views: it is asked before anything is selected, and told what has come and gone.
-class Guard final : public CStateHandler
+class Guard : public hostkit::CHandler
 {
 public:
+    using CHandler::CHandler;
+
     BOOL OnAtomSelecting(IAtom* pAtom, IAtomContainer*) override
     {
         const auto* const pNote = dynamic_cast<Note*>(pAtom);
@@ -101,12 +102,11 @@ int main(int argc, char* argv[])
     hostkit::CFrame frame(host.GetEditor());
     CIconList list;
     CObjectsTree tree;
-    Guard guard;
+    Guard guard(host.GetEditor());
     if (!frame.Create("Two views", CSize(560, 320)) || !list.Create(frame.RightSide()) ||
         !tree.Create(frame.LeftSide()))
         return 1;
     host.GetEditor().AddTop(pLibrary.Get());
-    host.GetEditor().RegisterHandler(nullptr, &guard);
     frame.Open(pLibrary.Get());
     return screen.Run(frame);
 }

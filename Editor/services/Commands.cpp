@@ -6,10 +6,10 @@
 #include "Editor/services/DroppedFiles.h"
 #include "Editor/services/OfferedFiles.h"
 #include "HostKit/Commands.h"
+#include "HostKit/Handler.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Views/clipboard/clipboard.h"
-#include "Views/host/StateHandler.h"
 
 #include <algorithm>
 #include <set>
@@ -24,15 +24,12 @@ constexpr const char* kNothingSelected = "nothing is selected";
 constexpr const char* kNoFile = "no file can be made for it";
 
 // Hears which objects come into a container.
-class Arrivals final : public CStateHandler
+class Arrivals final : public hostkit::CHandler
 {
 public:
     Arrivals(CAtomEditor& editor, IAtomContainer* pContainer, std::vector<CStubRef<IAtom>>& atoms)
-        : m_editor(editor), m_pContainer(pContainer), m_atoms(atoms), m_dwCookie(editor.RegisterHandler(nullptr, this))
+        : CHandler(editor), m_pContainer(pContainer), m_atoms(atoms)
     {}
-    ~Arrivals() { m_editor.UnregisterHandler(m_dwCookie); }
-    Arrivals(const Arrivals&) = delete;
-    Arrivals& operator=(const Arrivals&) = delete;
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override
     {
@@ -42,10 +39,8 @@ public:
     }
 
 private:
-    CAtomEditor& m_editor;
     IAtomContainer* const m_pContainer;
     std::vector<CStubRef<IAtom>>& m_atoms;
-    const DWORD m_dwCookie;
 };
 
 // Objects travel in a file of their own, which the library makes and reads.
