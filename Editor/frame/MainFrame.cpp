@@ -1,10 +1,12 @@
 #include "Editor/frame/MainFrame.h"
 
+#include "Editor/disk/FileText.h"
 #include "Editor/frame/StatusText.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
 #include "Toolkit/menu/MessageBox.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <utility>
 
@@ -90,7 +92,7 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     const bool bRenamed = pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container();
     if (bRenamed)
         FollowRenamed(pAtom, pCreated.Get());
-    m_modified.Forget(pAtom, bRenamed ? pCreated.Get() : nullptr);
+    m_modified.Forget(pAtom);
     UpdateStatus();
     return TRUE;
 }
@@ -144,6 +146,7 @@ void CMainFrame::FollowRenamed(IAtom* pFormer, CMember* pRenamed)
         m_navigation.GoTo(pRenamed);
         break;
     }
+    m_modified.Follow(CMember::Of(pFormer)->Path(), pRenamed->Path(), *m_navigation.Library());
     m_pRenamed = CStubRef<CMember>::Share(pRenamed);
     PostMessage(kSelectRenamed);
 }
@@ -169,6 +172,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     m_editor.SetFrame(this);
     m_editor.GetHistory().SetNews(
         [this](const std::string& line) { TellNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line); });
+    m_editor.GetHistory().SetLastPart([this] { return FollowPhases(); });
     m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
@@ -182,6 +186,7 @@ void CMainFrame::OnDestroy()
     m_editor.UnregisterHandler(m_dwHandlerCookie);
     m_editor.SetFrame(nullptr);
     m_editor.GetHistory().SetNews({});
+    m_editor.GetHistory().SetLastPart({});
     CWnd::OnDestroy();
 }
 
@@ -303,6 +308,30 @@ void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
             GetList().SetItemState(-1, 0, LVIS_SELECTED);
     }
     m_commands.GoOnAt(position);
+}
+
+// Who has just renamed a picture tells of that first.
+std::string CMainFrame::FollowPhases()
+{
+    PhaseFollower::Followed followed = m_navigation.Library()->Follower()->Follow(m_editor.GetHistory());
+    m_unfollowed = std::move(followed.trouble);
+    if (followed.phases.empty() && m_unfollowed.empty())
+        return {};
+    toolkit::PostTask([this, phases = followed.phases, pAlive = std::weak_ptr<int>(m_pAlive)] {
+        if (!pAlive.expired())
+            ShowFollowed(phases);
+    });
+    const std::size_t n = followed.phases.size();
+    return n == 0 ? std::string() : ", followed by " + std::to_string(n) + (n == 1 ? " phase" : " phases");
+}
+
+void CMainFrame::ShowFollowed(const std::vector<std::string>& phases)
+{
+    std::vector<FolderNews> news;
+    for (const std::string& path : phases)
+        news.push_back({path.substr(0, path.rfind('/')), {std::string(BaseName(path))}, {}, false});
+    OnDiskNews(news);
+    m_commands.ShowFailure(IDS_FOLLOW_FAILED, TakeUnfollowed());
 }
 
 CMenu* CMainFrame::CreateContextMenu()

@@ -48,6 +48,8 @@ public:
     void OnMoving() override;
     void OnMoved(const std::string& reason) override;
     void OnDiskNews(const std::vector<FolderNews>& news); // other programs have been at work
+    // Why not all phases follow what was moved last; once. Nobody who takes it is told of it again.
+    std::string TakeUnfollowed() { return std::exchange(m_unfollowed, {}); }
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -73,6 +75,8 @@ private:
     void TellNews(const std::string& line);
     void ForgetNews();
     bool MayClose(); // asks what is to become of phases that are modified
+    std::string FollowPhases();
+    void ShowFollowed(const std::vector<std::string>& phases);
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     hostkit::CPane* PaneOfKind(DWORD kind); // NULL: none
@@ -90,6 +94,7 @@ private:
     DWORD m_dwHandlerCookie = 0;
     Navigation m_navigation;
     ModifiedPhases m_modified;
+    std::string m_unfollowed;
     CStubRef<CMember> m_pCreated;         // what came last, until the next news
     FrameCommands::Position m_beforeMove; // while a drag's originals go
     DiskFollower m_follower;

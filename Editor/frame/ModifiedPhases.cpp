@@ -35,28 +35,25 @@ void ModifiedPhases::TellOfChange(CPhase* pPhase)
     m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pPhase, pPhase->Container(), 0);
 }
 
-void ModifiedPhases::Forget(IAtom* pGone, CMember* pRenamed)
+void ModifiedPhases::Forget(IAtom* pGone)
 {
-    const auto at = std::find_if(m_phases.begin(), m_phases.end(),
-                                 [&](const auto& pPhase) { return static_cast<IAtom*>(pPhase.Get()) == pGone; });
-    if (at == m_phases.end())
-        return;
-    auto* const pNow = dynamic_cast<CPhase*>(pRenamed);
-    if (!pNow) {
-        m_phases.erase(at);
-        return;
-    }
-    if ((*at)->IsModified())
-        pNow->SetTiming((*at)->GetTiming());
-    *at = CStubRef<CPhase>::Share(pNow);
+    std::erase_if(m_phases, [&](const auto& pPhase) { return static_cast<IAtom*>(pPhase.Get()) == pGone; });
 }
 
-void ModifiedPhases::Follow(const std::string& from, CMember* pRenamed)
+void ModifiedPhases::Follow(const std::string& from, const std::string& to, CLibrary& library)
 {
-    const auto at =
-        std::find_if(m_phases.begin(), m_phases.end(), [&](const auto& pPhase) { return pPhase->Path() == from; });
-    if (at != m_phases.end())
-        Forget(CStubRef<CPhase>::Share(at->Get()).Get(), pRenamed);
+    for (auto& pPhase : m_phases) {
+        const std::string path = pPhase->Path();
+        if (!path.starts_with(from) || (path.size() > from.size() && path[from.size()] != '/'))
+            continue;
+        const CStubRef<CMember> pMember = library.Find(to + path.substr(from.size()));
+        auto* const pNow = dynamic_cast<CPhase*>(pMember.Get());
+        if (!pNow || pNow == pPhase.Get())
+            continue;
+        if (pPhase->IsModified())
+            pNow->SetTiming(pPhase->GetTiming());
+        pPhase = CStubRef<CPhase>::Share(pNow);
+    }
 }
 
 void ModifiedPhases::ForgetGone()

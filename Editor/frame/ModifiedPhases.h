@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/frame/PropertiesPane.h"
+#include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 
 namespace editor
@@ -18,11 +19,11 @@ public:
 
     void Enter(const Phases& phases, int PhaseTiming::*number, int nValue);
     void Add(const Phases& phases); // everyone is told that they have changed
-    // One is no member any more; its numbers go to what it has become, if anything.
-    void Forget(IAtom* pGone, CMember* pRenamed);
-    void Follow(const std::string& from, CMember* pRenamed); // the same for one whose file was there
-    void ForgetGone();                                       // all that are no members any more
-    std::string Save();                                      // all; the reason for the first that was not saved
+    void Forget(IAtom* pGone);
+    // What was there has another path now: those that it is, or holds, keep their numbers.
+    void Follow(const std::string& from, const std::string& to, CLibrary& library);
+    void ForgetGone();  // all that are no members any more
+    std::string Save(); // all; the reason for the first that was not saved
 
 private:
     void TellOfChange(CPhase* pPhase);

@@ -35,7 +35,7 @@ std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& presen
 void UndoRedo::FollowNames(const Changes& changes, const std::string& shown)
 {
     for (const auto& [from, to] : changes.otherNames) {
-        m_modified.Follow(from, m_navigation.Library()->Find(to).Get());
+        m_modified.Follow(from, to, *m_navigation.Library());
         if (!IsOrIsBelow(shown, from))
             continue;
         if (const CStubRef<CMember> pNow = m_navigation.Library()->Find(to + shown.substr(from.size())))

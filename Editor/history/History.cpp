@@ -192,21 +192,24 @@ void History::Begin(const char* pszVerb) noexcept
 
 void History::End() noexcept
 {
-    if (--m_nOpen > 0)
+    if (m_nOpen > 1) {
+        --m_nOpen;
         return;
-    Edits edits;
-    edits.swap(m_open);
+    }
     try {
-        if (!edits.empty() && !m_bLost)
-            Keep(std::move(edits));
+        const std::string remark = m_lastPart && !m_open.empty() ? m_lastPart() : std::string();
+        if (!m_open.empty() && !m_bLost)
+            Keep(std::exchange(m_open, {}), remark);
     } catch (const std::bad_alloc&) {
         m_nDone = std::min(m_nDone, m_steps.size());
     }
+    m_open.clear();
+    m_nOpen = 0;
     m_verb.clear();
     m_bLost = false;
 }
 
-void History::Keep(Edits edits)
+void History::Keep(Edits edits, const std::string& remark)
 {
     StepSummary summary;
     for (const auto& pEdit : edits)
@@ -219,7 +222,7 @@ void History::Keep(Edits edits)
     }
     m_steps.push_back({std::move(name), std::move(edits)});
     ++m_nDone;
-    Tell(NewsOf(m_steps.back().name, summary));
+    Tell(NewsOf(m_steps.back().name + remark, summary));
 }
 
 void History::Tell(const std::string& line) const

@@ -29,6 +29,9 @@ public:
     void SetNews(std::function<void(const std::string& line)> news) { m_news = std::move(news); }
 
     void SetWork(LongWork* pWork) { m_pWork = pWork; } // does what takes long; borrowed, NULL: done at once
+    // Called at the end of each step for what is still to be done in it. The answer stands behind the step's name in
+    // the news; it may be empty.
+    void SetLastPart(std::function<std::string()> lastPart) { m_lastPart = std::move(lastPart); }
 
     std::size_t CountDone() const { return m_nDone; } // so many can be taken back
     // What the next one is called: 'rename of "walk.png"', "paste of 3 objects". Empty: there is none.
@@ -78,7 +81,7 @@ private:
 
     void Begin(const char* pszVerb) noexcept;
     void End() noexcept;
-    void Keep(Edits edits);
+    void Keep(Edits edits, const std::string& remark);
     template <class Change>
     void Note(Change change) noexcept;
     void Tell(const std::string& line) const;
@@ -94,6 +97,7 @@ private:
     int m_nOpen = 0;      // steps in each other
     bool m_bLost = false; // there was no memory for a part of the open step
     std::function<void(const std::string& line)> m_news;
+    std::function<std::string()> m_lastPart;
 };
 
 } // namespace editor

@@ -90,8 +90,13 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
     std::string failure = Aside(pWork, [&] { return Unpack(path, added.name, adapted, another, MeterOf(pWork)); });
     if (failure.empty() && bCurrent)
         m_taken.Added(path, added.name);
-    if (History* const pHistory = Context().pHistory; pHistory && failure.empty())
+    if (History* const pHistory = Context().pHistory; pHistory && failure.empty()) {
+        const History::Step step(pHistory);
+        if (!record.origin.empty())
+            Context().pFollower->Came(Context().rootPath + '/' + std::string(record.origin), record.identity,
+                                      path + '/' + added.name);
         pHistory->Came(path, added.name);
+    }
     return failure;
 }
 
@@ -104,8 +109,11 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
     m_taken.Forget();
     const std::string path = Path();
     const int error = RenameInFolder(path, former, name);
-    if (History* const pHistory = Context().pHistory; pHistory && error == 0)
+    if (History* const pHistory = Context().pHistory; pHistory && error == 0) {
+        const History::Step step(pHistory);
+        Context().pFollower->Renamed(path + '/' + former, path + '/' + name);
         pHistory->Renamed(path, former, name);
+    }
     if (error == EEXIST)
         return FailureOf(former, "there is a \"" + ToShown(name) + "\" already");
     return error == 0 ? std::string() : FailureOf(former, SystemErrorText(error));
@@ -125,13 +133,18 @@ std::string CFolder::RemoveOriginal(const std::string& path)
 
 std::string CFolder::MoveAway(const std::string& path, TrashPlace& place)
 {
+    struct stat status;
+    const bool bKnown = stat(path.c_str(), &status) == 0;
+    const FileIdentity identity = bKnown ? FileIdentity{status.st_dev, status.st_ino} : FileIdentity();
     LongWork* const pWork = Context().pWork;
     const std::string reason =
         IsCancelled(pWork) ? kCancelled : Aside(pWork, [&] { return RemoveFromDisk(path, place); });
     if (pWork)
         pWork->GetMeter().Did(1);
-    if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty())
+    if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty()) {
+        Context().pFollower->Went(path, identity);
         pHistory->Went(path, place);
+    }
     return reason.empty() ? reason : FailureOf(BaseName(path), reason);
 }
 

@@ -69,6 +69,12 @@ CLibrary::CLibrary(LibraryContext context)
     : With(nullptr, 0), m_context(std::move(context)), m_name(LastPart(m_context.rootPath))
 {}
 
+void CLibrary::SetHistory(History* pHistory)
+{
+    m_context.pHistory = pHistory;
+    m_context.pFollower = pHistory ? std::make_unique<PhaseFollower>(m_context.rootPath) : nullptr;
+}
+
 CStubRef<CMember> CLibrary::Find(const std::string& path)
 {
     auto pFound = CStubRef<CMember>::Share(this);

@@ -16,9 +16,9 @@ public:
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error,
                                                  FolderWatch* pWatch = nullptr);
 
-    // Both borrowed.
-    void SetHistory(History* pHistory) { m_context.pHistory = pHistory; }
-    void SetWork(LongWork* pWork) { m_context.pWork = pWork; }
+    void SetHistory(History* pHistory);                                   // borrowed
+    void SetWork(LongWork* pWork) { m_context.pWork = pWork; }            // borrowed
+    PhaseFollower* Follower() const { return m_context.pFollower.get(); } // NULL without a history
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);

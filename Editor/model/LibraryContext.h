@@ -3,6 +3,7 @@
 
 #include "Editor/disk/FolderWatch.h"
 #include "Editor/history/History.h"
+#include "Editor/model/PhaseFollower.h"
 #include "Editor/pictures/PictureStore.h"
 
 #include <memory>
@@ -19,7 +20,8 @@ struct LibraryContext
     std::string rootPath;                       // absolute, with neither links nor a slash at its end
     std::vector<std::string> pictureExtensions; // sorted
     std::shared_ptr<PictureStore> pPictures;
-    History* pHistory = nullptr;   // of what is done to the disk; borrowed. NULL: nothing is remembered
+    History* pHistory = nullptr;              // of what is done to the disk; borrowed. NULL: nothing is remembered
+    std::unique_ptr<PhaseFollower> pFollower; // where there is a history
     FolderWatch* pWatch = nullptr; // of the folders that have been read; borrowed. NULL: nobody follows the disk
     LongWork* pWork = nullptr;     // does what takes long; borrowed. NULL: it is done at once
     DWORD nextId = 1;

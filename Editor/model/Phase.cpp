@@ -1,8 +1,6 @@
 #include "Editor/model/Phase.h"
 
 #include "Editor/disk/FileText.h"
-#include "Editor/disk/TempEntry.h"
-#include "Editor/disk/TextFile.h"
 #include "Editor/model/Folder.h"
 #include "Editor/model/ImageLink.h"
 #include "Editor/model/LibraryContext.h"
@@ -11,7 +9,6 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <filesystem>
 #include <utility>
 
 namespace editor
@@ -250,22 +247,15 @@ bool CPhase::ReplaceText(const std::string& former, const std::string& text)
     return ReadUnchanged(now).empty() && now == former && Save(text).empty();
 }
 
-// A library from elsewhere may hold links to anything of the user's: a line among the commands that a shell runs is
-// one.
 std::string CPhase::Save(const std::string& text)
 {
-    std::error_code unreadable;
-    const std::string real = std::filesystem::canonical(Path(), unreadable).string();
-    if (!unreadable && KindOfName(real) != MemberKind::Phase)
-        return ShownName() + ": a link to a file that is no phase";
     const std::string path = Path();
     TextState former;
-    int error = ReadText(path, kLargestPhase, former);
-    if (error == 0)
-        error = ReplaceFile(path, text);
-    if (History* const pHistory = Context().pHistory; pHistory && error == 0)
+    const int error = ReadText(path, kLargestPhase, former);
+    const std::string reason = error == 0 ? WritePhaseText(path, former, text) : SystemErrorText(error);
+    if (History* const pHistory = Context().pHistory; pHistory && reason.empty())
         pHistory->Rewrote(path, former);
-    return error == 0 ? std::string() : ShownName() + ": " + SystemErrorText(error);
+    return reason.empty() ? reason : ShownName() + ": " + reason;
 }
 
 } // namespace editor

@@ -1,7 +1,7 @@
 #include "Editor/model/PhaseText.h"
 
 #include "Editor/disk/FileText.h"
-#include "Editor/disk/TextFile.h"
+#include "Editor/disk/TempEntry.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -27,9 +27,11 @@ bool IsInside(const std::string& path, const std::string& root)
     return path.size() > root.size() && path.starts_with(root) && (root.ends_with('/') || path[root.size()] == '/');
 }
 
-bool LeadsNowhere(int error)
+// Empty when it leads out of the library.
+std::string PlaceFrom(const std::string& folder, std::string_view picture, const std::string& root)
 {
-    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+    std::string path = (fs::path(folder) / picture).lexically_normal();
+    return IsInside(path, root) ? path : std::string();
 }
 
 // As a line that is read back as just this path; empty when there is none.
@@ -43,6 +45,11 @@ std::string Written(std::string line)
 }
 
 } // namespace
+
+bool LeadsNowhere(int error)
+{
+    return error == ENOENT || error == ENOTDIR || error == ELOOP || error == ENAMETOOLONG;
+}
 
 std::vector<PictureLine> PictureLines(std::string_view text)
 {
@@ -73,12 +80,38 @@ bool IsPhaseText(std::string_view text)
     return text.size() <= kLargestPhase && text.find('\0') == text.npos;
 }
 
+// A library from elsewhere may hold links to anything of the user's: a line among the commands that a shell runs is
+// one.
+std::string WritePhaseText(const std::string& path, const TextState& former, const std::string& text)
+{
+    std::error_code unreadable;
+    const std::string real = fs::canonical(path, unreadable).string();
+    if (!unreadable && ExtensionOf(real) != "phase")
+        return "a link to a file that is no phase";
+    TextState now;
+    int error = ReadText(path, kLargestPhase, now);
+    if (error == EFBIG || (error == 0 && now.text != former.text))
+        return "was changed by another program meanwhile";
+    if (error == 0)
+        error = ReplaceFile(path, text);
+    return error == 0 ? std::string() : SystemErrorText(error);
+}
+
+std::vector<std::string> PlacesOf(std::string_view picture, const std::string& folder, const std::string& root)
+{
+    std::vector<std::string> places;
+    for (const std::string& from : {folder, root})
+        if (std::string path = PlaceFrom(from, picture, root); !path.empty())
+            places.push_back(std::move(path));
+    return places;
+}
+
 PicturePlace FindPicture(std::string_view picture, const std::string& folder, const std::string& root)
 {
     PicturePlace missed;
     for (const std::string& from : {folder, root}) {
-        const std::string path = (fs::path(from) / picture).lexically_normal();
-        if (!IsInside(path, root))
+        const std::string path = PlaceFrom(from, picture, root);
+        if (path.empty())
             continue;
         if (access(path.c_str(), F_OK) == 0)
             return {path, true};

@@ -1,6 +1,8 @@
 // The text of a phase, line by line.
 #pragma once
 
+#include "Editor/disk/TextFile.h"
+
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,16 @@ inline constexpr std::size_t kLargestPhase = 4 << 20; // bytes; far more than an
 // The whole file. Empty when it has been read; else the reason, also when it can be no phase.
 std::string ReadPhaseText(const std::string& path, std::string& text);
 bool IsPhaseText(std::string_view text); // could it be one?
+
+// Writes the whole file over what is known to be in it; a link that leads to no phase is not followed. Empty when it is
+// done, else the reason.
+std::string WritePhaseText(const std::string& path, const TextState& former, const std::string& text);
+
+bool LeadsNowhere(int error); // the error number of a path: there is nothing
+
+// Where the picture of a line in a phase in `folder` may be, inside the library with this root: beside the phase and,
+// failing that, from the root on.
+std::vector<std::string> PlacesOf(std::string_view picture, const std::string& folder, const std::string& root);
 
 // Where the picture is that a line of a phase in `folder` names, in the library with this root: beside the phase or,
 // failing that, from the root on. Where there is none, the path beside the phase, or from the root on, that is inside

@@ -66,7 +66,9 @@ std::string Script::RunLine(std::string_view line)
         return trouble;
     const std::string command = words.front();
     words.erase(words.begin());
-    const std::string reason = RunCommand(command, words);
+    std::string reason = RunCommand(command, words);
+    if (const std::string unfollowed = Frame().TakeUnfollowed(); reason.empty())
+        reason = unfollowed;
     m_app.WaitUntilSettled(m_outside.isToEnd);
     return reason.empty() ? reason : command + ": " + reason;
 }

@@ -11,6 +11,9 @@ namespace
 
 namespace fs = std::filesystem;
 
+// All there is on the disk by its path: kind, content and time; of a folder the kind alone.
+using State = std::map<std::string, std::string>;
+
 class HistoryTest : public EditorTest
 {
 protected:
@@ -26,6 +29,43 @@ protected:
         desktop.Hold({});
         Settle();
     }
+    void GoTo(const char* pszName)
+    {
+        editor::Navigation& navigation = Frame().GetNavigation();
+        navigation.GoTo(navigation.Library()->Find(folder.At(pszName)).Get());
+        Settle();
+    }
+    void Rename(const char* pszName, const char* pszNew)
+    {
+        Click(pszName);
+        Press(VK_F2);
+        Control('A');
+        desktop.Type(pszNew);
+        Press(VK_RETURN);
+    }
+    State Disk() const
+    {
+        State state;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
+            const std::string path = entry.path().string().substr(folder.Path().size() + 1);
+            if (entry.is_symlink())
+                state[path] = "-> " + fs::read_symlink(entry.path()).string();
+            else if (entry.is_directory())
+                state[path] = "/";
+            else
+                state[path] = ShortOf(TempFolder::ReadFile(entry.path().string())) + " @" +
+                              std::to_string(entry.last_write_time().time_since_epoch().count());
+        }
+        return state;
+    }
+    static std::string ShortOf(std::string bytes)
+    {
+        if (bytes.starts_with("BM"))
+            return "picture " + std::to_string(std::hash<std::string>()(bytes));
+        std::replace(bytes.begin(), bytes.end(), '\n', '|');
+        return bytes;
+    }
+
     std::string NextUndo() { return History().NameToUndo(); }
     editor::History& History() { return Frame().GetCommands().GetHistory(); }
 };
@@ -141,8 +181,58 @@ TEST_F(HistoryTest, WhatOthersHaveChangedStaysAsTheyLeftItAndTheStepWaits)
     EXPECT_EQ("painted over", folder.Read("Bo/a.bmp"));
 }
 
-// All there is on the disk by its path: kind, content and time; of a folder the kind alone.
-using State = std::map<std::string, std::string>;
+TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
+{
+    folder.Write("Ada/run.phase", "# b\r\na.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n");
+    folder.Write("Ada/Poses/other.phase", "Ada/b.bmp\none.bmp\nnowhere.bmp\n");
+    Open();
+    const auto phases = [&] { return folder.Read("walk.phase") + '|' + folder.Read("Ada/run.phase"); };
+    const auto start = Disk();
+    DoubleClick("Ada");
+    Click("run.phase");
+    Press(VK_F4);
+    desktop.Type("65");
+    Press(VK_RETURN);
+    const std::string unsaved = Frame().GetProperties().GetText();
+    Rename("a.bmp", "z.bmp");
+    EXPECT_EQ("#delay 80\nc.bmp\nAda/z.bmp\n|# b\r\nz.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n", phases());
+    Click("run.phase");
+    desktop.Run();
+    EXPECT_EQ(unsaved, Frame().GetProperties().GetText()) << "what is not saved of a phase is kept";
+    Rename("Poses", "Moves");
+    EXPECT_EQ("Ada/b.bmp\none.bmp\nnowhere.bmp\n", folder.Read("Ada/Moves/other.phase"));
+    Press(VK_BACK);
+    Rename("Ada", "Eve");
+    EXPECT_EQ("#delay 80\nc.bmp\nEve/z.bmp\n|?", phases());
+    EXPECT_EQ("Eve/b.bmp\none.bmp\nnowhere.bmp\n", folder.Read("Eve/Moves/other.phase"));
+    Tree().Expand(FindItem("Eve"), TVE_EXPAND);
+    DoubleClick("Eve");
+    Click("run.phase");
+    desktop.Run();
+    EXPECT_EQ(unsaved, Frame().GetProperties().GetText()) << "also where its folder is renamed";
+    Select({"b.bmp", "Moves"});
+    Drag(List(), PlaceOf("b.bmp"), [&] { DropOnTree("Bo"); });
+    EXPECT_EQ("# b\r\nz.bmp\r\n Bo/b.bmp\r\n../c.bmp\nBo/Moves/one.bmp\n", folder.Read("Eve/run.phase"));
+    EXPECT_EQ("Bo/b.bmp\none.bmp\nnowhere.bmp\n", folder.Read("Bo/Moves/other.phase"));
+    Click("z.bmp");
+    Control('X');
+    GoTo("Bo");
+    Control('V');
+    EXPECT_EQ("#delay 80\nc.bmp\nBo/z.bmp\n", folder.Read("walk.phase")) << "cut and pasted: moved";
+    Click("Moves");
+    Control('C');
+    Press(VK_BACK);
+    Control('V');
+    EXPECT_EQ("Bo/b.bmp\none.bmp\nnowhere.bmp\n", folder.Read("Bo/Moves/other.phase")) << "copied: not moved";
+    const auto end = Disk();
+    const std::size_t nSteps = History().CountDone();
+    while (History().CountDone() > 0)
+        ASSERT_EQ("", Frame().GetCommands().Undo());
+    EXPECT_EQ(start, Disk());
+    while (History().CountDone() < nSteps)
+        ASSERT_EQ("", Frame().GetCommands().Redo());
+    EXPECT_EQ(end, Disk());
+}
 
 class HistoryWalk : public HistoryTest, public testing::WithParamInterface<unsigned>
 {
@@ -156,29 +246,6 @@ protected:
     }
 
     int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
-    State Disk() const
-    {
-        State state;
-        for (const auto& entry : fs::recursive_directory_iterator(folder.Path())) {
-            const std::string path = entry.path().string().substr(folder.Path().size() + 1);
-            if (entry.is_symlink())
-                state[path] = "-> " + fs::read_symlink(entry.path()).string();
-            else if (entry.is_directory())
-                state[path] = "/";
-            else
-                state[path] = ShortOf(TempFolder::ReadFile(entry.path().string())) + " @" +
-                              std::to_string(entry.last_write_time().time_since_epoch().count());
-        }
-        return state;
-    }
-    static std::string ShortOf(std::string bytes)
-    {
-        if (bytes.starts_with("BM"))
-            return "picture " + std::to_string(std::hash<std::string>()(bytes));
-        std::replace(bytes.begin(), bytes.end(), '\n', '|');
-        return bytes;
-    }
-
     void SelectAny()
     {
         editor::CEditorList& list = Frame().GetList();
