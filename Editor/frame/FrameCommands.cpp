@@ -72,7 +72,10 @@ void FrameCommands::CopySelection()
 
 void FrameCommands::CutSelection()
 {
-    if (m_commands.CountSelected() > 0)
+    if (m_commands.CountSelected() == 0)
+        return;
+    const std::string question = m_commands.CutQuestion();
+    if (question.empty() || UserAgrees(question))
         ShowFailure(IDS_CUT_FAILED, CarryAsAgreed([this] { return Cut(); }));
 }
 

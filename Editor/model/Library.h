@@ -17,8 +17,7 @@ public:
                                                  FolderWatch* pWatch = nullptr);
 
     void SetHistory(History* pHistory);                                   // borrowed
-    void SetWork(LongWork* pWork) { m_context.pWork = pWork; }            // borrowed
-    PhaseFollower* Follower() const { return m_context.pFollower.get(); } // NULL without a history
+    void SetWork(LongWork* pWork) { m_context.pWork = pWork; } // borrowed
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);

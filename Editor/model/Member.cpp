@@ -61,6 +61,11 @@ const std::vector<const CPhase*>& CMember::UnsavedPhases() const
     return Context().unsaved;
 }
 
+PhaseFollower* CMember::Follower() const
+{
+    return Context().pFollower.get();
+}
+
 std::string CMember::ErrorLine() const
 {
     const std::string reason = ErrorReason();

@@ -14,6 +14,7 @@ namespace editor
 
 class CContainer;
 class CPhase;
+class PhaseFollower;
 struct LibraryContext;
 
 // An atom in its place in a container, which it keeps alive; the library itself has none. It knows its index and
@@ -32,6 +33,7 @@ public:
     virtual std::string Path() const;                            // on disk
     std::string PathInLibrary() const; // from the library on; empty for the library, and for what lies outside
     const std::vector<const CPhase*>& UnsavedPhases() const; // of the whole library
+    PhaseFollower* Follower() const;                         // the library's; NULL without a history
     virtual std::string ErrorReason() const { return {}; }   // what is wrong with it; empty when nothing is known
     std::string ErrorLine() const;                           // the name to it; empty without a reason
 

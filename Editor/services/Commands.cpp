@@ -1,6 +1,7 @@
 #include "Editor/services/Commands.h"
 
 #include "Editor/disk/FileText.h"
+#include "Editor/model/PhaseFollower.h"
 #include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
@@ -50,6 +51,34 @@ std::string NoFile(const char* pszTrouble)
     return why.empty() ? pszTrouble : pszTrouble + (": " + why);
 }
 
+std::string NameOf(const ActiveMembers& members)
+{
+    return members.size() == 1 ? '"' + ShownNameOf(members.front().pAtom.Get()) + '"'
+                               : std::to_string(members.size()) + " objects";
+}
+
+bool IsLine(const ActiveMember& member)
+{
+    return static_cast<bool>(CStubRef<IImageLink>::From(member.pAtom.Get()));
+}
+
+// "2 phases will miss pictures", or nothing.
+std::string MissingIn(const ActiveMembers& members)
+{
+    std::vector<std::string> paths;
+    PhaseFollower* pFollower = nullptr;
+    for (const ActiveMember& member : members) {
+        const CMember* const pMember = CMember::Of(member.pAtom.Get());
+        if (!pMember || IsLine(member))
+            continue;
+        paths.push_back(pMember->Path());
+        pFollower = pMember->Follower();
+    }
+    const int nBroken = pFollower ? pFollower->CountBroken(paths) : 0;
+    return nBroken == 0 ? std::string()
+                        : std::to_string(nBroken) + (nBroken == 1 ? " phase" : " phases") + " will miss pictures";
+}
+
 std::vector<CMember*> OwnOf(const ActiveMembers& members)
 {
     std::vector<CMember*> own;
@@ -69,14 +98,20 @@ int Commands::CountSelected() const
 std::string Commands::RemoveQuestion(Removal removal) const
 {
     const ActiveMembers members = GetActiveMembers(m_editor);
-    const std::string what = members.size() == 1 ? '"' + ShownNameOf(members.front().pAtom.Get()) + '"'
-                                                 : std::to_string(members.size()) + " objects";
-    const bool bLines = std::all_of(members.begin(), members.end(), [](const ActiveMember& member) {
-        return static_cast<bool>(CStubRef<IImageLink>::From(member.pAtom.Get()));
-    });
-    if (bLines)
+    const std::string what = NameOf(members);
+    if (std::all_of(members.begin(), members.end(), IsLine))
         return "Remove " + what + " from the phase?";
-    return removal == Removal::ForGood ? "Remove " + what + " for good?" : "Move " + what + " to the trash?";
+    const std::string question =
+        removal == Removal::ForGood ? "Remove " + what + " for good?" : "Move " + what + " to the trash?";
+    const std::string missing = MissingIn(members);
+    return missing.empty() ? question : question + ' ' + missing + '.';
+}
+
+std::string Commands::CutQuestion() const
+{
+    const ActiveMembers members = GetActiveMembers(m_editor);
+    const std::string missing = MissingIn(members);
+    return missing.empty() ? missing : "Cut " + NameOf(members) + "? " + missing + ", until they are pasted.";
 }
 
 void Commands::Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer)

@@ -24,8 +24,10 @@ public:
     explicit Commands(CAtomEditor& editor) : m_editor(editor) {} // borrowed
 
     int CountSelected() const; // active objects that are in a container
-    // What a removal would be asked about: 'Move "walk.png" to the trash?', 'Remove 3 objects for good?'
+    // What a removal would be asked about: 'Move "walk.png" to the trash?', 'Remove 3 objects for good?'; and how many
+    // phases would miss pictures. Cutting is only asked about where there are such phases: else it is empty.
     std::string RemoveQuestion(Removal removal = Removal::ToTheTrash) const;
+    std::string CutQuestion() const;
 
     // These and no others become the selected members of the container, if it is shown.
     void Select(const std::vector<CStubRef<IAtom>>& atoms, IAtomContainer* pContainer);

@@ -113,6 +113,7 @@ TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
     Control('Z');
     Control('Y');
     Click("a.bmp");
+    desktop.Answer(IDYES);
     Control('X');
     Control('Y'); // nothing: what can be done again is over
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/one.bmp Bo/ Bo/b.bmp c.bmp walk.phase", folder.Everything());
@@ -120,7 +121,10 @@ TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
     Control('Z');
     EXPECT_EQ(start, folder.Everything());
     Control('Z');
-    EXPECT_EQ(Ledger({"Views: Move 2 objects to the trash?"}), TakeBoxes()) << "without a step nothing happens";
+    EXPECT_EQ(Ledger({"Views: Move 2 objects to the trash? 1 phase will miss pictures.",
+                      "Views: Cut \"a.bmp\"? 1 phase will miss pictures, until they are pasted."}),
+              TakeBoxes())
+        << "without a step nothing happens";
 }
 
 TEST_F(HistoryTest, APhasesFramesAndTimingAreStepsToo)
@@ -161,7 +165,9 @@ TEST_F(HistoryTest, WhatOthersHaveChangedStaysAsTheyLeftItAndTheStepWaits)
     Open();
     DoubleClick("Ada");
     Click("a.bmp");
+    desktop.Answer(IDYES);
     Control('X');
+    TakeBoxes();
     folder.Write("Ada/a.bmp", "another's");
     Control('Z');
     EXPECT_EQ(Ledger({"Views: there is a \"a.bmp\" already.\n\nNothing was changed. Forget this step?"}), TakeBoxes());
@@ -218,6 +224,7 @@ TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
     EXPECT_EQ("# b\r\nc.bmp\r\n Bo/b.bmp\r\n../c.bmp\nBo/Moves/one.bmp\n", folder.Read("Eve/run.phase"));
     EXPECT_EQ("Bo/b.bmp\none.bmp\nnowhere.bmp\n", folder.Read("Bo/Moves/other.phase"));
     Click("c.bmp");
+    desktop.Answer(IDYES);
     Control('X');
     GoTo("Bo");
     Control('V');
