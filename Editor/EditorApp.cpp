@@ -2,6 +2,7 @@
 
 #include "Editor/frame/MainFrame.h"
 #include "Editor/resources/EditorResources.h"
+#include "Editor/services/NameRefusals.h"
 #include "HostKit/Services.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/run/Run.h"
@@ -49,6 +50,7 @@ struct EditorApp::Parts
     CAtomEditor atomEditor;
     std::shared_ptr<PictureStore> pPictures;
     hostkit::Services services;
+    NameRefusals refusals;
     std::unique_ptr<CMainFrame> pFrame;
 };
 

@@ -69,6 +69,14 @@ void CEditorList::RestoreStates(const State& state)
         SetItemState(nFocused, LVIS_FOCUSED, LVIS_FOCUSED);
 }
 
+int CEditorList::FindRow(IAtom* pAtom) const
+{
+    int nRow = GetItemCount() - 1;
+    while (nRow >= 0 && GetAtom(nRow).Get() != pAtom)
+        --nRow;
+    return nRow;
+}
+
 std::vector<CStubRef<IAtom>> CEditorList::AtomsInSight() const
 {
     std::vector<CStubRef<IAtom>> atoms;

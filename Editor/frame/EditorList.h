@@ -38,6 +38,7 @@ public:
     virtual void Deactivate() = 0;                       // lets go of all rows and of the pane
     virtual CSize PictureSize() const = 0;               // at which rows wish for pictures
     std::vector<CStubRef<IAtom>> AtomsInSight() const;   // sorted by address
+    int FindRow(IAtom* pAtom) const;                     // looks at all; -1: none
 
     int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
@@ -91,8 +92,13 @@ class CEditorListOf final : public View, public CEditorList
 {
 public:
     CEditorListOf(CSize picture, Events events)
-        : CEditorList(*this, std::move(events)), m_picture(picture), m_target(*this, GetEvents().dropFailed)
-    {}
+        : CEditorList(*this, std::move(events)),
+          m_picture(picture),
+          m_target(*this, GetEvents().dropFailed),
+          m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); })
+    {
+        View::PlaceNewAtoms();
+    }
     ~CEditorListOf() override { View::DestroyWindow(); }
 
     CStubRef<IAtom> GetAtom(int nRow) const override
@@ -134,7 +140,7 @@ protected:
         if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
             GetEvents().pressed();
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
-        SelectStem(message, wParam, lParam);
+        m_nameField.After(message, wParam, lParam);
         if (message == WM_CREATE && nResult != -1) {
             View::GetDropTarget().Revoke();
             m_target.Register(this);
@@ -146,9 +152,12 @@ protected:
         return nResult;
     }
 
+    void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped) override { m_nameField.Refused(pAtom, pszTyped); }
+
 private:
     const CSize m_picture;
     CEditorListTarget m_target;
+    NameField m_nameField;
     bool m_bActive = false;
 };
 

@@ -1,6 +1,5 @@
 #include "Editor/frame/EditorTree.h"
 
-#include "Editor/frame/NameField.h"
 #include "Editor/model/Folder.h"
 
 #include <set>
@@ -39,6 +38,15 @@ BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
     ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnItemExpanding)
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
+
+CEditorTree::CEditorTree(DropFailed dropFailed)
+    : m_target(*this, std::move(dropFailed)), m_nameField(*this, [this](IAtom* pAtom) -> HWND {
+          const HTREEITEM hItem = GetItem(pAtom);
+          return hItem ? EditLabel(hItem) : nullptr;
+      })
+{
+    ShowMembersOnDemand();
+}
 
 void CEditorTree::ExpandAtom(IAtom* pAtom)
 {
@@ -123,7 +131,7 @@ BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)
 LRESULT CEditorTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const LRESULT nResult = CObjectsTree::WindowProc(message, wParam, lParam);
-    SelectStem(message, wParam, lParam);
+    m_nameField.After(message, wParam, lParam);
     return nResult;
 }
 

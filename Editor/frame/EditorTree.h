@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/frame/DropTargets.h"
+#include "Editor/frame/NameField.h"
 #include "Views/tree/ObjectsTree.h"
 
 namespace editor
@@ -15,7 +16,7 @@ class CMember;
 class CEditorTree : public CObjectsTree
 {
 public:
-    explicit CEditorTree(DropFailed dropFailed) : m_target(*this, std::move(dropFailed)) { ShowMembersOnDemand(); }
+    explicit CEditorTree(DropFailed dropFailed);
     ~CEditorTree() override { DestroyWindow(); }
 
     void ExpandAtom(IAtom* pAtom);                             // nothing when it is not shown or has no members
@@ -32,6 +33,7 @@ protected:
     BOOL PreCreateWindow(CREATESTRUCT& cs) override; // the pane has the edges
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     void OnGetDispInfo(TVDISPINFO* pInfo) override;
+    void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped) override { m_nameField.Refused(pAtom, pszTyped); }
 
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult);
@@ -43,6 +45,7 @@ private:
     void UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer);
 
     CEditorTreeTarget m_target;
+    NameField m_nameField;
     UINT m_nMostItems = ~0u; // with so many items nothing more is read
 };
 

@@ -17,7 +17,20 @@ std::string_view CImageLink::Name() const
 // Where no picture is found, the one beside the phase is the one that is missed.
 std::string CImageLink::Path() const
 {
-    return FindPicture(Line(), Container()->Container()->Path(), Context().rootPath).path;
+    return Place().path;
+}
+
+PicturePlace CImageLink::Place() const
+{
+    return FindPicture(Line(), Container()->Container()->Path(), Context().rootPath);
+}
+
+std::string CImageLink::ErrorReason() const
+{
+    const PicturePlace place = Place();
+    if (place.isThere || place.error != 0 || place.path.empty())
+        return CPictureMember::ErrorReason();
+    return "there is no \"" + ToShown(PathInLibrary()) + "\" in the library";
 }
 
 std::string_view CImageLink::Line() const

@@ -48,6 +48,8 @@ public:
     // Shows the members of an atom that is a container; any other atom empties the view. FALSE for NULL. Does nothing,
     // and says TRUE, without a window.
     BOOL SetRootAtom(IAtom* pRoot);
+    // From now on an atom that is announced comes to its place in the order. Else it comes last, whatever its name.
+    void PlaceNewAtoms() { m_bPlacesNew = true; }
     // Registered when the window is made. A host that has a target of its own revokes this one.
     CListDropTarget& GetDropTarget() { return m_dropTarget; }
 
@@ -62,6 +64,9 @@ protected:
     virtual void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) = 0;
     // Called last when the view is emptied: every record is uncached, the rows are gone.
     virtual void OnClearContext();
+    // The atom could not be given the name that the user has typed in place of its label; the field has gone, and the
+    // reason has been told. Does nothing here.
+    virtual void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped);
 
 public:
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -139,6 +144,8 @@ private:
     void UncacheAll();
     int FindCachedRow(IAtom* pAtom) const; // by identity, in the cache's order; -1: none
     void RekeyCache(int nRemoved);
+    void ForgetCache();
+    int InsertRow(IAtom* pAtom); // -1 without memory, which the user has been told
 
     void MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected);
     void SetAllSelected(bool bSelected);
@@ -161,6 +168,7 @@ private:
     CString m_strEdited; // the name that is being edited in place of a label
     CListDropTarget m_dropTarget;
     BOOL m_bPaneShown = FALSE;
+    bool m_bPlacesNew = false;
     bool m_bClosing = false;        // the window is being destroyed: nothing is shown any more
     bool m_bLoading = false;        // the container is being asked for its members
     bool m_bMembersChanged = false; // while they are read

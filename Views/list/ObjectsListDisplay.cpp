@@ -138,9 +138,14 @@ void CObjectsList::RekeyCache(int nRemoved)
         m_pCache.swap(m_pSpareCache);
     } catch (CMemoryException& e) {
         e.ReportError();
-        UncacheAll();
-        m_pCache->RemoveAll();
+        ForgetCache();
     }
+}
+
+void CObjectsList::ForgetCache()
+{
+    UncacheAll();
+    m_pCache->RemoveAll();
 }
 
 void CObjectsList::OnObjectsGetDispinfo(NMLVDISPINFO* pInfo, LRESULT*)

@@ -11,17 +11,17 @@
 
 #include <algorithm>
 
-// New atoms come last, whatever the order of the others, and are what the user goes on with.
+// New atoms come last, whatever the order of the others, unless the host wishes otherwise. They are what the user goes
+// on with.
 BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
     if (!IsListening() || !pAtom || !IsShown(pContainer) || NoteWhileLoading())
         return TRUE;
-    try {
-        m_pRows->Append(pAtom);
-    } catch (CMemoryException& e) {
-        e.ReportError();
+    if (m_bPlacesNew)
+        ClearSelection(); // while the rows have their numbers
+    const int nRow = IsShown(pContainer) ? InsertRow(pAtom) : -1;
+    if (nRow < 0)
         return TRUE;
-    }
     const UINT nCount = pContainer->GetCount();
     if (!IsShown(pContainer))
         return TRUE;
@@ -29,8 +29,23 @@ BOOL CObjectsList::OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer)
     const views::UpdateLock lock(this);
     ClearSelection();
     if (IsShown(pContainer))
-        SelectRow(GetItemCount() - 1);
+        SelectRow(m_bPlacesNew ? nRow : GetItemCount() - 1);
     return TRUE;
+}
+
+int CObjectsList::InsertRow(IAtom* pAtom)
+try {
+    const int nRow = m_bPlacesNew ? m_pRows->Place(pAtom) : m_pRows->Append(pAtom);
+    if (nRow == m_pRows->GetCount() - 1)
+        return nRow;
+    ForgetCache();
+    Invalidate();
+    if (nRow <= m_nEdited)
+        MoveLabelEdit(m_nEdited + 1);
+    return nRow;
+} catch (CMemoryException& e) {
+    e.ReportError();
+    return -1;
 }
 
 BOOL CObjectsList::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)

@@ -26,8 +26,14 @@ void CObjectsList::OnBeginLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 void CObjectsList::OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
     m_nEdited = -1;
-    *pResult = views::EndRename(HoldPair(pInfo->item.iItem), m_strEdited, pInfo->item.pszText) ? 0 : -1;
+    const HELDPAIR pair = HoldPair(pInfo->item.iItem);
+    const BOOL bDone = views::EndRename(pair, m_strEdited, pInfo->item.pszText);
+    *pResult = bDone ? 0 : -1;
+    if (!bDone && pair && pInfo->item.pszText && m_hWnd)
+        OnNameRefused(pair.pAtom.Get(), pInfo->item.pszText);
 }
+
+void CObjectsList::OnNameRefused(IAtom*, LPCSTR) {}
 
 // The control knows rows by their numbers alone: it is told where the edited one is, so that the name that is being
 // typed goes to the atom that it was meant for.

@@ -18,5 +18,11 @@ void CObjectsTree::OnBeginLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 // The label shows what the atom is called then, like every other label.
 void CObjectsTree::OnEndLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
 {
-    *pResult = views::EndRename(HoldPair(pInfo->item.hItem), m_strEdited, pInfo->item.pszText) ? 0 : -1;
+    const HELDPAIR pair = HoldPair(pInfo->item.hItem);
+    const BOOL bDone = views::EndRename(pair, m_strEdited, pInfo->item.pszText);
+    *pResult = bDone ? 0 : -1;
+    if (!bDone && pair && pInfo->item.pszText && m_hWnd)
+        OnNameRefused(pair.pAtom.Get(), pInfo->item.pszText);
 }
+
+void CObjectsTree::OnNameRefused(IAtom*, LPCSTR) {}

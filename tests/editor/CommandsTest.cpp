@@ -35,15 +35,15 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     EXPECT_EQ("/Ada/ | [a.bmp *c.bmp] | 2 objects", Screen()) << "the focus stays in its place";
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/c.bmp Bo/", folder.Everything());
     Control('V');
-    EXPECT_EQ("/Ada/ | [a.bmp c.bmp (*b.bmp)] | 3 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("/Ada/ | [a.bmp (*b.bmp) c.bmp] | 3 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
     Control('A');
     Control('C');
     Control('V');
-    EXPECT_EQ("[a.bmp c.bmp b.bmp (*a (2).bmp) (c (2).bmp) (b (2).bmp)]", Rows());
+    EXPECT_EQ("[(*a (2).bmp) a.bmp (b (2).bmp) b.bmp (c (2).bmp) c.bmp]", Rows());
     Press(VK_BACK);
     DoubleClick("Bo");
     Control('V');
-    EXPECT_EQ("/Bo/ | [(*a.bmp) (c.bmp) (b.bmp)] | 3 objects, 3 selected", Screen());
+    EXPECT_EQ("/Bo/ | [(*a.bmp) (b.bmp) (c.bmp)] | 3 objects, 3 selected", Screen());
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Ada/c (2).bmp Ada/c.bmp Bo/ Bo/a.bmp Bo/b.bmp "
               "Bo/c.bmp",
               folder.Everything());
@@ -118,6 +118,15 @@ TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
     EXPECT_EQ("Bo/", folder.Everything());
 }
 
+// What the focused field says, and what stands below it.
+static std::string Field()
+{
+    CRect rect;
+    GetWindowRect(GetFocus(), &rect);
+    const HWND hBelow = WindowFromPoint({rect.CenterPoint().x, rect.bottom + 4});
+    return GetWindowText(GetFocus()).GetString() + std::string(" | ") + GetWindowText(hBelow).GetString();
+}
+
 TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDisk)
 {
     folder.Make("Bo/b.bmp Bo/c.bmp");
@@ -132,9 +141,27 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
         return TakeBoxes();
     };
     EXPECT_EQ(Ledger(), rename("caf\xEF\xBF\xBD.bmp", ""));
-    EXPECT_EQ(Ledger({"The name was not changed: c.bmp: there is a \"b.bmp\" already"}), rename("c.bmp", "b"));
-    EXPECT_EQ(Ledger(), rename("c.bmp", "z"));
-    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/b.bmp Bo/caf\xE9.bmp Bo/z.bmp", folder.Everything());
+    EXPECT_EQ(Ledger(), rename("c.bmp", "b"));
+    EXPECT_EQ("b.bmp | c.bmp: there is a \"b.bmp\" already", Field()) << "open again, with what was typed";
+    desktop.Type("a");
+    EXPECT_EQ("a.bmp | ", Field()) << "typed over the stem; what was wrong is gone";
+    Press(VK_RETURN);
+    EXPECT_EQ("/Bo/ | [(*a.bmp) b.bmp caf\xEF\xBF\xBD.bmp] | 3 objects, 1 selected | a.bmp: 8 x 8 pixels", Screen());
+    rename("a.bmp", "b");
+    desktop.Click(List(), PlaceOf("b.bmp"));
+    Settle();
+    EXPECT_EQ("b.bmp | a.bmp: there is a \"b.bmp\" already", Field()) << "also for who goes on elsewhere";
+    Press(VK_ESCAPE);
+    EXPECT_EQ(List(), GetFocus());
+    Press(VK_F6);
+    Press(VK_F2);
+    desktop.Type("Ada");
+    Press(VK_RETURN);
+    EXPECT_EQ("Ada | Bo: there is a \"Ada\" already", Field());
+    rename("a.bmp", ""); // a click into the list ends the field: what was typed is refused again, and given up
+    Press(VK_ESCAPE);
+    EXPECT_EQ(Ledger(), TakeBoxes());
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp Bo/caf\xE9.bmp", folder.Everything());
 }
 
 TEST_F(CommandsTest, WhatWasRenamedStaysSelectedAndShown)

@@ -55,7 +55,7 @@ TEST_F(DiskFollowerTest, FilesComeGoAndChangeInEveryViewAndSelectionAndBranchesS
     Await("/Ada/ | [Moves new.bmp Poses (*z.bmp)] | 4 objects, 1 selected | z.bmp: 20 x 10 pixels");
     Click("Poses");
     Rename("Ada/z.bmp", "Ada/a.bmp");
-    Await("/Ada/ | [Moves new.bmp (*Poses) a.bmp] | 4 objects, 1 selected | Poses");
+    Await("/Ada/ | [a.bmp Moves new.bmp (*Poses)] | 4 objects, 1 selected | Poses");
 }
 
 TEST_F(DiskFollowerTest, WhatIsShownIsFollowedWhereItGoesAndLeftWhenItIsGone)

@@ -35,7 +35,7 @@ TEST_F(DragTest, WhatIsDraggedFromTheListIntoTheTreeMovesOnTheDisk)
         DropOnList(BelowTheRows());
         desktop.Hold({});
     });
-    EXPECT_EQ("/Ada/ | [a.bmp b.bmp c.bmp (*b (2).bmp)] | 4 objects, 1 selected | b (2).bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("/Ada/ | [a.bmp (*b (2).bmp) b.bmp c.bmp] | 4 objects, 1 selected | b (2).bmp: 8 x 8 pixels", Screen());
     Select({"a.bmp", "c.bmp", "b (2).bmp"});
     const std::string picture = folder.Read("Ada/a.bmp");
     Drag(List(), PlaceOf("c.bmp"), [&] { DropOnTree("Bo"); });
@@ -149,7 +149,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     desktop.DragIn({{"text/uri-list", uri("a.bmp") + "http://example.org/far.bmp\r\n" + uri("new%20one.bmp")}});
     DropOnList(BelowTheRows());
     Settle();
-    EXPECT_EQ("[a.bmp b.bmp c.bmp a (2).bmp (*new one.bmp)]", Rows());
+    EXPECT_EQ("[a (2).bmp a.bmp b.bmp c.bmp (*new one.bmp)]", Rows());
     desktop.DragIn({{"text/uri-list", uri("notes.txt/") + uri("a.bmp")}});
     DropOnTree("Bo");
     Settle();

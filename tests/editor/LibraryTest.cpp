@@ -78,7 +78,7 @@ TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
     EXPECT_EQ("0 walk-1.bmp 405060 \n"
               "1 ball.bmp 102030 \n"
               "2 walk-1.bmp 405060 \n"
-              "3 lost.bmp broken lost.bmp: no such file or directory\n"
+              "3 lost.bmp broken lost.bmp: there is no \"Ada/lost.bmp\" in the library\n"
               "4 x.bmp broken x.bmp: lies outside the library\n"
               "5 x.bmp broken x.bmp: lies outside the library\n",
               state);

@@ -39,13 +39,13 @@ protected:
 
 TEST_F(ScriptTest, CommandsActLikeTheUsersOwn)
 {
-    EXPECT_EQ(Ledger({"a b.bmp", "Poses", "one.bmp", "a b.bmp", "picture out.png"}),
+    EXPECT_EQ(Ledger({"a b.bmp", "Poses", "a b.bmp", "one.bmp", "picture out.png"}),
               Run("# the way in\nenter Ada\r\nlist\nselect \"a b.bmp\"   # one of them\ncopy\n"
                   "enter Poses\npaste\nlist\n\nscreenshot out.png"));
-    EXPECT_EQ("/Ada/Poses/ | [one.bmp (*a b.bmp)] | 2 objects, 1 selected | a b.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("/Ada/Poses/ | [(*a b.bmp) one.bmp] | 2 objects, 1 selected | a b.bmp: 8 x 8 pixels", Screen());
 
     EXPECT_EQ(Ledger(), Run("select *\ncut\nenter /Bo\npaste\nrename \"a b.bmp\" c.bmp\nselect\nselect one.bmp\n"));
-    EXPECT_EQ("/Bo/ | [(*one.bmp) c.bmp] | 2 objects, 1 selected | one.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ("/Bo/ | [c.bmp (*one.bmp)] | 2 objects, 1 selected | one.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(Ledger({"c.bmp", "new.bmp"}), Run("delete\nlist\nopen \"" + folder.Path() + "\"\n" +
                                                 "enter Bo/c.bmp\nenter ..\nselect c.bmp\nrename c.bmp new.bmp\nlist"));
     const std::string noTrash = ".Trash-" + std::to_string(geteuid());

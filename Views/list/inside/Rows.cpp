@@ -9,7 +9,29 @@
 void views::Rows::Show(AtomArray atoms, bool bByName)
 {
     m_atoms.swap(atoms);
+    m_bByName = bByName;
     m_nOrdered = bByName ? GetCount() : 0;
+}
+
+int views::Rows::Append(IAtom* pAtom)
+{
+    m_atoms.push_back(CStubRef<IAtom>::Share(pAtom));
+    return GetCount() - 1;
+}
+
+// Whoever is asked for a name may have moved the rows.
+int views::Rows::Place(IAtom* pAtom)
+{
+    const unsigned nMoves = m_nMoves;
+    SettleDoubts();
+    const int nRow = Halve([&](const CStubRef<IAtom>& pRow) { return m_compare(&pRow, &pAtom) <= 0; });
+    if (!m_bByName || nMoves != m_nMoves)
+        return Append(pAtom);
+    m_atoms.insert(m_atoms.begin() + nRow, CStubRef<IAtom>::Share(pAtom));
+    ++m_nMoves;
+    ++m_nOrdered;
+    m_appended.Clear();
+    return nRow;
 }
 
 CStubRef<IAtom> views::Rows::Remove(int nRow)
@@ -45,19 +67,25 @@ int views::Rows::Find(IAtom* pAtom)
     return found == m_atoms.end() ? -1 : static_cast<int>(found - m_atoms.begin());
 }
 
+template <class IsBefore>
+int views::Rows::Halve(IsBefore isBefore) const
+{
+    int nFirst = 0;
+    for (int nEnd = m_nOrdered; nFirst < nEnd;) {
+        const int nMiddle = nFirst + (nEnd - nFirst) / 2;
+        if (isBefore(Hold(nMiddle)))
+            nFirst = nMiddle + 1;
+        else
+            nEnd = nMiddle;
+    }
+    return nFirst;
+}
+
 // In ordered rows the first equal one is found by halving. New rows come behind them; the last resort, every row, is
 // for names that have changed without a word.
 int views::Rows::FindEqual(IAtom* pAtom)
 {
-    int nHalved = 0;
-    for (int nEnd = m_nOrdered; nHalved < nEnd;) {
-        const int nMiddle = nHalved + (nEnd - nHalved) / 2;
-        const CStubRef<IAtom> pRow = Hold(nMiddle);
-        if (m_compare(&pRow, &pAtom) < 0)
-            nHalved = nMiddle + 1;
-        else
-            nEnd = nMiddle;
-    }
+    const int nHalved = Halve([&](const CStubRef<IAtom>& pRow) { return m_compare(&pRow, &pAtom) < 0; });
     if (nHalved < m_nOrdered && IsSame(nHalved, pAtom))
         return nHalved;
     if (const int nAppended = FindAppended(pAtom); nAppended >= 0)

@@ -24,8 +24,10 @@ public:
     }
     int Find(IAtom* pAtom); // -1: none
 
-    void Show(AtomArray atoms, bool bByName);                                       // do names alone order them?
-    void Append(IAtom* pAtom) { m_atoms.push_back(CStubRef<IAtom>::Share(pAtom)); } // raises CMemoryException
+    void Show(AtomArray atoms, bool bByName); // do names alone order them?
+    // Its row. Both raise CMemoryException.
+    int Append(IAtom* pAtom);
+    int Place(IAtom* pAtom); // where names order the rows, among them; else last
     // What is given back is gone from the rows: releasing it may re-enter.
     CStubRef<IAtom> Remove(int nRow);
     AtomArray Clear();
@@ -38,6 +40,8 @@ public:
 private:
     CStubRef<IAtom> Hold(int nRow) const { return CStubRef<IAtom>::Share(At(nRow)); }
     int FindEqual(IAtom* pAtom);
+    template <class IsBefore>
+    int Halve(IsBefore isBefore) const; // the first of the ordered rows that it is not true of
     int FindAppended(IAtom* pAtom);
     bool IndexAppended();                      // false when that cannot be done
     bool IsSame(int nRow, IAtom* pAtom) const; // without regard to case
@@ -45,6 +49,7 @@ private:
     void CheckOrder(int nRow);
 
     const AtomComparator m_compare;
+    bool m_bByName = false; // do names order the rows, but for those that were appended?
     AtomArray m_atoms;
     unsigned m_nMoves = 0;   // how often rows have got other numbers
     int m_nOrdered = 0;      // rows before this one stand in the order of their names, but for those of the next
