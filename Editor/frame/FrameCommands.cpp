@@ -37,6 +37,8 @@ CommandState FrameCommands::GetState() const
     state.canRemove = state.canCarry && std::all_of(members.begin(), members.end(), canGo);
     state.canRename = pOne && CanRenameObject(pOne->pAtom.Get(), pOne->pContainer.Get());
     state.canPaste = navigation.ShownContainer() != nullptr;
+    state.canMakeFolder = dynamic_cast<CFolder*>(navigation.ShownContainer()) != nullptr;
+    state.canMakePhase = state.canMakeFolder && m_commands.CanMakePhase();
     state.undo = GetHistory().NameToUndo();
     state.redo = GetHistory().NameToRedo();
     state.canUndo = !state.undo.empty();
@@ -111,8 +113,30 @@ void FrameCommands::RemoveSelection()
 void FrameCommands::PasteHere()
 {
     bool bAny = false;
-    std::string reason = PasteAnd(bAny);
+    std::string reason = MakeAnd(&Commands::Paste, bAny);
     ShowFailure(bAny ? IDS_PASTE_FAILED : IDS_NOTHING_PASTED, std::move(reason));
+}
+
+void FrameCommands::NewFolderAndName()
+{
+    if (GetState().canMakeFolder)
+        MakeAndName(&Commands::MakeFolder);
+}
+
+void FrameCommands::NewPhaseAndName()
+{
+    if (GetState().canMakePhase)
+        MakeAndName(&Commands::MakePhase);
+}
+
+void FrameCommands::MakeAndName(Make make)
+{
+    bool bAny = false;
+    ShowFailure(IDS_NEW_FAILED, MakeAnd(make, bAny));
+    if (!bAny)
+        return;
+    List().SetFocus();
+    RenameSelected();
 }
 
 void FrameCommands::UndoOrTell()
@@ -169,14 +193,26 @@ std::string FrameCommands::Remove()
 std::string FrameCommands::Paste()
 {
     bool bAny = false;
-    return PasteAnd(bAny);
+    return MakeAnd(&Commands::Paste, bAny);
 }
 
-std::string FrameCommands::PasteAnd(bool& bAny)
+std::string FrameCommands::NewFolder()
+{
+    bool bAny = false;
+    return MakeAnd(&Commands::MakeFolder, bAny);
+}
+
+std::string FrameCommands::NewPhase()
+{
+    bool bAny = false;
+    return MakeAnd(&Commands::MakePhase, bAny);
+}
+
+std::string FrameCommands::MakeAnd(Make make, bool& bAny)
 {
     const auto pTarget = CStubRef<CContainer>::Share(m_parts.navigation.ShownContainer());
     std::vector<CStubRef<IAtom>> arrived;
-    std::string reason = m_commands.Paste(pTarget.Get(), arrived);
+    std::string reason = (m_commands.*make)(pTarget.Get(), arrived);
     bAny = !arrived.empty();
     if (bAny)
         ShowJust(arrived);

@@ -40,6 +40,8 @@ public:
     std::string Paste(); // into the container that is shown
     std::string Undo();  // the last step that was done, wherever that was
     std::string Redo();
+    std::string NewFolder(); // in the container that is shown
+    std::string NewPhase();  // there, of the pictures that are selected
     std::string RefreshQuietly();
     // These members of the container that is shown and no others. The views hear of the last alone, however many.
     void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
@@ -49,6 +51,8 @@ public:
     void CutSelection();
     void RemoveSelection(); // asks first
     void PasteHere();
+    void NewFolderAndName(); // the user gives it another name
+    void NewPhaseAndName();
     void UndoOrTell();
     void RedoOrTell();
     bool SaveOrTell();   // all phases that are modified; were all saved?
@@ -72,7 +76,9 @@ public:
     void GoOnAt(const Position& position); // as far as it is still there
 
 private:
-    std::string PasteAnd(bool& bAny); // did any object come?
+    using Make = std::string (Commands::*)(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
+    std::string MakeAnd(Make make, bool& bAny); // did any object come?
+    void MakeAndName(Make make);
     void ShowJust(const std::vector<CStubRef<IAtom>>& atoms);
     template <class Carry>
     std::string CarryAsAgreed(Carry carry);

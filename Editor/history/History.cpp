@@ -35,7 +35,7 @@ std::string NameOf(const std::string& verb, const StepSummary& summary)
     const bool bMoved = summary.nCame > 0 && summary.nWent > 0;
     const std::string name = bMoved ? "move" : verb.empty() ? UsualVerb(summary) : verb;
     const int nObjects = std::max({summary.nCame, summary.nWent, summary.nRenamed});
-    return nObjects > 0 ? name + " of " + Objects(nObjects, summary.object)
+    return nObjects > 0 ? name + (name.starts_with("new ") ? " " : " of ") + Objects(nObjects, summary.object)
                         : name + " in \"" + ToShown(summary.text) + '"';
 }
 

@@ -20,6 +20,9 @@ class CFolder : public CContainer
 public:
     CFolder(CContainer* pContainer, UINT nIndex) : CContainer(pContainer, nIndex) {}
 
+    // A new folder or, with that text, a new phase, under that name or another like it that is free. Empty, or one line
+    // with the reason.
+    std::string Make(MemberKind kind, const std::string& name, const std::string& text, CStubRef<CMember>& pMade);
     // Of a file anywhere that has been copied into it, for a move: to the trash. Empty, or one line with the reason.
     std::string RemoveOriginal(const std::string& path);
     LongWork* Work() const { return Context().pWork; } // NULL: what takes long is done at once

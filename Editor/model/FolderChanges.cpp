@@ -9,6 +9,7 @@
 #include "Toolkit/base/Text.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
@@ -123,6 +124,21 @@ std::string CFolder::Remove(const CMember& member, TrashPlace& place)
 {
     m_taken.Forget();
     return MoveAway(member.Path(), place);
+}
+
+std::string CFolder::Make(MemberKind kind, const std::string& name, const std::string& text, CStubRef<CMember>& pMade)
+{
+    ArchiveRecord record;
+    record.kind = kind == MemberKind::Folder ? RecordKind::Folder : RecordKind::File;
+    record.changed = std::chrono::nanoseconds(std::chrono::system_clock::now().time_since_epoch()).count();
+    record.name = name;
+    record.content = text;
+    GetCount(); // its members are known
+    Entry made;
+    std::string failure = Add(record, ValidNameFor(name), true, made);
+    if (failure.empty())
+        pMade = MemberAt(Append(made));
+    return failure;
 }
 
 std::string CFolder::RemoveOriginal(const std::string& path)

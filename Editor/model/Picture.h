@@ -10,6 +10,9 @@ class CPicture : public CPictureMember
 {
 public:
     CPicture(CContainer* pContainer, UINT nIndex) : CPictureMember(pContainer, nIndex) {}
+
+    // What names it in a phase in that folder of the same library. Empty when nothing can; see LineFor.
+    std::string LineIn(const std::string& folder, int& error) const;
 };
 
 } // namespace editor

@@ -1,6 +1,8 @@
 #include "Editor/model/PictureMember.h"
 
 #include "Editor/model/LibraryContext.h"
+#include "Editor/model/PhaseText.h"
+#include "Editor/model/Picture.h"
 #include "Editor/pictures/IconPainter.h"
 
 #include <algorithm>
@@ -12,6 +14,11 @@ std::string CPictureMember::ErrorReason() const
 {
     const std::string path = Path();
     return path.empty() ? "lies outside the library" : Context().pPictures->ErrorOf(path);
+}
+
+std::string CPicture::LineIn(const std::string& folder, int& error) const
+{
+    return LineFor(Path(), folder, Context().rootPath, error);
 }
 
 UINT CPictureMember::GetFrameCount()

@@ -15,6 +15,7 @@ constexpr std::pair<UINT, LPCSTR> kTexts[] = {
     {views::IDR_THUMBNAIL_PANE, "Pictures"},
     {IDS_SAVE_FAILED, "Not everything was saved"},
     {IDS_DROP_FAILED, "Not everything was taken"},
+    {IDS_NEW_FAILED, "Nothing new was made"},
     {IDS_NAME_REFUSED, "The name is not taken"},
     {IDS_FOLLOW_FAILED, "Not all phases show it now"},
 };

@@ -37,6 +37,8 @@ std::string ScriptHelp()
            "                     cannot be carried, such as a pipe, is named, and ends the script\n"
            "  delete for good    the same; what no trash can take is removed, and not refused\n"
            "  paste              what was copied or cut, into what is shown\n"
+           "  new-folder         make \"New folder\" in what is shown, and selects it\n"
+           "  new-phase          the same with \"New phase.phase\", which shows the selected pictures in their order\n"
            "  undo, redo         take back what was done to the disk last, step by step; a cut is one, its paste "
            "another\n"
            "  rename NAME NEW    give an object another name\n"

@@ -1,7 +1,9 @@
 #include "Editor/services/Commands.h"
 
 #include "Editor/disk/FileText.h"
+#include "Editor/model/Folder.h"
 #include "Editor/model/PhaseFollower.h"
+#include "Editor/model/Picture.h"
 #include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"
@@ -60,6 +62,15 @@ std::string NameOf(const ActiveMembers& members)
 bool IsLine(const ActiveMember& member)
 {
     return static_cast<bool>(CStubRef<IImageLink>::From(member.pAtom.Get()));
+}
+
+std::vector<const CPicture*> PicturesOf(const ActiveMembers& members)
+{
+    std::vector<const CPicture*> pictures;
+    for (const ActiveMember& member : members)
+        if (const auto* const pPicture = dynamic_cast<const CPicture*>(CMember::Of(member.pAtom.Get())))
+            pictures.push_back(pPicture);
+    return pictures;
 }
 
 // "2 phases will miss pictures", or nothing.
@@ -214,6 +225,53 @@ std::string Commands::PasteClipboardFiles(CContainer* pTarget)
     if (!data.AttachClipboard())
         return "there are no files on the clipboard";
     return OffersFilesFor(data, pTarget) ? PasteFiles(data, pTarget) : PastePicture(data, pTarget);
+}
+
+std::string Commands::MakeFolder(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
+try {
+    const History::Step step(&m_editor.GetHistory(), "new folder");
+    const Arrivals arrivals(m_editor, pTarget, arrived);
+    return Make(MemberKind::Folder, "New folder", {}, pTarget);
+} catch (const CException& e) {
+    return e.GetErrorMessage();
+}
+
+std::string Commands::MakePhase(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
+try {
+    const std::vector<const CPicture*> pictures = PicturesOf(GetActiveMembers(m_editor));
+    if (pictures.empty())
+        return "no pictures are selected that it could show";
+    std::string text;
+    for (const CPicture* const pPicture : pictures) {
+        int error = 0;
+        const std::string line = pPicture->LineIn(pTarget->Path(), error);
+        if (line.empty())
+            return pPicture->ShownName() + ": " +
+                   (error ? SystemErrorText(error) : "no line of a phase can lead to it");
+        text += line + '\n';
+    }
+    const History::Step step(&m_editor.GetHistory(), "new phase");
+    const Arrivals arrivals(m_editor, pTarget, arrived);
+    return Make(MemberKind::Phase, "New phase.phase", text, pTarget);
+} catch (const CException& e) {
+    return e.GetErrorMessage();
+}
+
+bool Commands::CanMakePhase() const
+{
+    return !PicturesOf(GetActiveMembers(m_editor)).empty();
+}
+
+std::string Commands::Make(MemberKind kind, const std::string& name, const std::string& text, CContainer* pTarget)
+{
+    auto* const pFolder = dynamic_cast<CFolder*>(pTarget);
+    if (!pFolder)
+        return pTarget->ShownName() + ": not a folder";
+    CStubRef<CMember> pMade;
+    std::string failure = pFolder->Make(kind, name, text, pMade);
+    if (failure.empty())
+        m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnCreateAtom, pMade.Get(), pFolder, 0);
+    return failure;
 }
 
 std::string Commands::Rename(CMember* pMember, const std::string& name)

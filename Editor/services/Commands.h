@@ -40,12 +40,17 @@ public:
     // What the clipboard holds, objects or else the files that a file manager has copied, is added to the container.
     // `arrived` are the new members.
     std::string Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
+    // In the container: a folder; a phase that shows the active pictures in their order.
+    std::string MakeFolder(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
+    std::string MakePhase(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
+    bool CanMakePhase() const;
     // What has the new name is another object.
     std::string Rename(CMember* pMember, const std::string& name);
 
 private:
     void TellOfChange(const ActiveMembers& members); // of the containers that they are in
     std::string PasteAtoms(CContainer* pTarget);
+    std::string Make(MemberKind kind, const std::string& name, const std::string& text, CContainer* pTarget);
     bool AreFilesOnClipboard(CContainer* pTarget) const;
     std::string PasteClipboardFiles(CContainer* pTarget);
 
