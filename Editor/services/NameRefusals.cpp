@@ -1,6 +1,7 @@
 #include "Editor/services/NameRefusals.h"
 
 #include "HostKit/ErrorInfo.h"
+#include "Toolkit/base/String.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 

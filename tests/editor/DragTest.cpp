@@ -122,11 +122,12 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
     };
     choose("Select all", BelowTheRows());
     desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
-    EXPECT_EQ(Ledger({"[(Open) | - | (Undo) | (Redo) | - | (Cut) | (Copy) | Paste | - | (Rename) | (Delete) | - | "
-                      "Select all | Refresh]",
-                      "[(Open) | - | (Undo) | (Redo) | - | Cut | Copy | Paste | - | (Rename) | Delete | - | (Select "
-                      "all) | Refresh]"}),
-              desktop.TakeMenus());
+    EXPECT_EQ(
+        Ledger({"[(Open) | - | (Undo) | (Redo) | - | (Cut) | (Copy) | Paste | - | New folder | (New phase) | - "
+                "| (Rename) | (Delete) | - | Select all | Refresh]",
+                "[(Open) | - | (Undo) | (Redo) | - | Cut | Copy | Paste | - | New folder | New phase | - | (Rename) "
+                "| Delete | - | (Select all) | Refresh]"}),
+        desktop.TakeMenus());
     Click("b.bmp");
     choose("Copy", PlaceOf("b.bmp"));
     choose("Paste", PlaceOf("b.bmp"));

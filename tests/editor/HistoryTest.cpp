@@ -24,10 +24,11 @@ protected:
         folder.Make("Ada/a.bmp Ada/b.bmp Ada/Poses/one.bmp Bo/ c.bmp");
         folder.Write("walk.phase", "#delay 80\nc.bmp\nAda/a.bmp\n");
     }
-    void Redo()
+    void Redo() { ControlShift('Z'); }
+    void ControlShift(UINT vkey)
     {
         desktop.Hold({.shift = true, .control = true});
-        desktop.Key('Z');
+        desktop.Key(vkey);
         desktop.Hold({});
         Settle();
     }
@@ -187,6 +188,39 @@ TEST_F(HistoryTest, WhatOthersHaveChangedStaysAsTheyLeftItAndTheStepWaits)
     EXPECT_EQ(2u, TakeBoxes().size());
     EXPECT_EQ("", NextUndo()) << "forgotten: what stands before it is free";
     EXPECT_EQ("painted over", folder.Read("Bo/a.bmp"));
+}
+
+TEST_F(HistoryTest, NewFoldersAndPhasesAreNamedWhereTheyComeAndAreSteps)
+{
+    Open();
+    DoubleClick("Ada");
+    const auto start = Disk();
+    Select({"b.bmp", "a.bmp", "Poses"});
+    ControlShift('P');
+    desktop.Type("walk");
+    Press(VK_RETURN);
+    EXPECT_EQ("a.bmp\nb.bmp\n", folder.Read("Ada/walk.phase")) << "the frames in the order shown";
+    EXPECT_EQ("[a.bmp b.bmp Poses (*walk.phase)]", Rows());
+    ControlShift('N');
+    Press(VK_RETURN); // it may be called so
+    EXPECT_EQ("new folder \"New folder\"", NextUndo());
+    ControlShift('N');
+    desktop.Type("a.bmp");
+    Press(VK_RETURN);
+    Press(VK_ESCAPE);
+    EXPECT_EQ("[a.bmp b.bmp New folder (*New folder (2)) Poses walk.phase]", Rows());
+    Select({"Poses"});
+    ControlShift('P'); // nothing to be shown
+    DoubleClick("walk.phase");
+    ControlShift('N'); // not there
+    EXPECT_EQ(Ledger(), TakeBoxes());
+    const auto end = Disk();
+    for (int i = 0; i < 4; ++i)
+        Control('Z');
+    EXPECT_EQ(start, Disk());
+    for (int i = 0; i < 4; ++i)
+        Redo();
+    EXPECT_EQ(end, Disk());
 }
 
 TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
