@@ -1,7 +1,16 @@
 #include "HostKit/Archive.h"
 
+#include "Views/host/IFileStream.h"
+
 namespace hostkit
 {
+
+void CArchive::GetInterface(DWORD id, void** out)
+{
+    if (m_pStream && id == IFileStream::Id())
+        return m_pStream->GetInterface(id, out);
+    With::GetInterface(id, out);
+}
 
 void CArchive::Seek(DWORD dwOffset, DWORD dwOrigin)
 {

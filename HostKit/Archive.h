@@ -11,6 +11,8 @@ namespace hostkit
 class HOSTKIT_API CArchive final : public With<Counted, IArchive>
 {
 public:
+    void GetInterface(DWORD id, void** out) override; // also the stream's IFileStream
+
     void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
 
     void Seek(DWORD dwOffset, DWORD dwOrigin) override;

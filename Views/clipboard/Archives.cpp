@@ -8,6 +8,7 @@
 #include "Views/clipboard/inside/FileArchive.h"
 #include "Views/clipboard/inside/FileHandle.h"
 #include "Views/host/IArchive.h"
+#include "Views/host/IFileStream.h"
 #include "Views/host/IMemoryStream.h"
 #include "Views/host/StubRef.h"
 #include "Views/host/inside/ServiceCalls.h"
@@ -64,12 +65,15 @@ void* SizeStream(IByteStream* pStream, DWORD dwSize)
 }
 
 // An archive that ended early would be another archive: a file that yields less than its size gives none.
-bool ReadWhole(HANDLE hFile, IByteStream* pStream)
+bool ReadWhole(HANDLE hFile, const char* pszPath, IByteStream* pStream)
 {
     DWORD dwHigh = 0, dwRead = 0;
     const DWORD dwSize = ::GetFileSize(hFile, &dwHigh);
     if (dwSize == 0 || dwHigh != 0)
         return false;
+    const auto pFile = CStubRef<IFileStream>::From(pStream);
+    if (pFile && pFile->TakeFile(pszPath))
+        return pStream->GetLength() == dwSize;
     void* const pData = SizeStream(pStream, dwSize);
     return pData && ::ReadFile(hFile, pData, dwSize, &dwRead, nullptr) && dwRead == dwSize;
 }
@@ -91,7 +95,7 @@ views::FileArchive views::ReadTransferFile(const char* pszPath)
     if (!parts)
         return {};
     const FileHandle file(::CreateFile(pszPath, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
-    if (!file || !ReadWhole(file.Get(), parts.pStream.Get()))
+    if (!file || !ReadWhole(file.Get(), pszPath, parts.pStream.Get()))
         return {};
     FileArchive read{CStubRef<IByteStream>::Share(parts.pStream.Get()), nullptr};
     read.pArchive = CStubRef<IArchive>::Adopt(parts.Join());

@@ -4,6 +4,8 @@
 #include "Views/clipboard/Archives.h"
 #include "Views/clipboard/inside/FileHandle.h"
 #include "Views/host/IArchive.h"
+#include "Views/host/IFileStream.h"
+#include "Views/host/StubRef.h"
 
 #include <cstdlib>
 #include <cstring>
@@ -58,6 +60,12 @@ bool WriteWhole(const CString& strPath, const void* pData, DWORD dwLength)
     return dwWritten >= dwLength;
 }
 
+bool IsMadeFile(IArchive* pArchive, const CString& strPath)
+{
+    const auto pFile = CStubRef<IFileStream>::From(pArchive);
+    return pFile && pFile->MakeFile(strPath);
+}
+
 HGLOBAL HandleOf(const CString& strPath)
 {
     const auto nSize = static_cast<std::size_t>(strPath.GetLength()) + 1;
@@ -83,7 +91,7 @@ CString FileFromArchive(IArchive* pArchive)
         return {};
     try {
         CString strPath = NewTransferPath();
-        if (WriteWhole(strPath, pData, dwLength))
+        if (IsMadeFile(pArchive, strPath) || WriteWhole(strPath, pData, dwLength))
             return strPath;
     } catch (CMemoryException& e) {
         e.ReportError();

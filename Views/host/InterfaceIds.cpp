@@ -1,6 +1,7 @@
 #include "Views/host/InterfaceIds.h"
 
 #include "Kernel/Kernel.h"
+#include "Views/host/IFileStream.h"
 #include "Views/host/inside/ServiceCalls.h"
 
 // All that the library does at load, in one file because only there the order is certain. The order is part of
@@ -16,5 +17,11 @@ const DWORD IID_IAEStateHandler = INT_GetUniqueInterfaceID("IAEStateHandler");
 const DWORD IID_IAtomIcon = INT_GetUniqueInterfaceID("IAtomIcon");
 const DWORD IID_IMyErrorInfo = INT_GetUniqueInterfaceID("IMyErrorInfo");
 const DWORD IID_IAtomThumbnail = INT_GetUniqueInterfaceID("IAtomThumbnail");
+
+DWORD IFileStream::Id()
+{
+    static const DWORD s_id = INT_GetUniqueInterfaceID("IFileStream");
+    return s_id;
+}
 
 SERVICEREC* const g_pMemoryStreamService = SRVN_GetUniqueServiceID(views::kMemoryStreamService);

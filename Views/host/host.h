@@ -23,6 +23,7 @@
 #include "Views/host/IAtomThumbnail.h"
 #include "Views/host/ICharacterLibrary.h"
 #include "Views/host/IDispAtom.h"
+#include "Views/host/IFileStream.h"
 #include "Views/host/IMemoryStream.h"
 #include "Views/host/IMyErrorInfo.h"
 #include "Views/host/IPhase.h"

@@ -82,6 +82,24 @@ TEST_F(LongWorkTest, WhatIsCancelledLeavesWhatWasDoneAsOneStep)
     EXPECT_EQ("Ada/ Ada/Long/ Ada/Long/long.bmp Ada/a.bmp Bo/", folder.Everything());
 }
 
+TEST_F(LongWorkTest, WhatIsLargeIsPastedByteForByteAsOftenAsOneLikes)
+{
+    std::string bytes(20 << 20, '\0');
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = static_cast<char>(i * 31 >> 8);
+    folder.Write("Ada/Long/long.bmp", bytes);
+    Open();
+    DoubleClick("Ada");
+    Click("Long");
+    Control('C');
+    folder.Remove("Ada/Long/long.bmp");
+    Control('V');
+    Control('V');
+    EXPECT_EQ(Ledger(), TakeBoxes());
+    EXPECT_TRUE(folder.Read("Ada/Long (2)/long.bmp") == bytes);
+    EXPECT_TRUE(folder.Read("Ada/Long (3)/long.bmp") == bytes);
+}
+
 TEST_F(LongWorkTest, TheWindowIsClosedWhenTheWorkHasEnded)
 {
     Open();
