@@ -108,6 +108,8 @@ bool CFrame::RunKey(UINT vkey)
 
 void CFrame::OpenSelected()
 {
+    if (::GetFocus() == m_left.GetView() && m_right.GetView())
+        return FocusOtherSide(); // what is selected in a tree is open already
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (!members.empty())
         m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomEntered, members[0].pAtom.Get(),
