@@ -1,6 +1,7 @@
 // What somebody may write who knows the public headers only: a list, a tree and a numeric field, and no host at all.
 #include "AtomLib/AtomLib.h"
 #include "Kernel/Kernel.h"
+#include "Toolkit/base/Version.h"
 #include "Toolkit/headless/HeadlessDesktop.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/controls/controls.h"
@@ -41,6 +42,7 @@ int main()
     list.MoveWindow(CRect(0, 0, 150, 200));
     list.ShowWindow(SW_SHOW);
     desktop.Run();
-    std::printf("%d rows, %d items\n", list.GetItemCount(), static_cast<int>(tree.GetCount()));
+    std::printf("%s: %d rows, %d items\n", toolkit::GetVersion(), list.GetItemCount(),
+                static_cast<int>(tree.GetCount()));
     return bMade && list.GetItemCount() == 0 && tree.GetCount() == 0 ? 0 : 1;
 }

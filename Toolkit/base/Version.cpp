@@ -1,0 +1,6 @@
+#include "Toolkit/base/Version.h"
+
+const char* toolkit::GetVersion()
+{
+    return kVersion;
+}
