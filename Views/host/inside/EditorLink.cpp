@@ -8,7 +8,9 @@
 #include "Views/host/Services.h"
 #include "Views/host/TopLevelAtom.h"
 #include "Views/host/inside/GdiHolders.h"
+#include "Views/host/inside/WhatIsMissing.h"
 
+#include <cstdio>
 #include <memory>
 #include <utility>
 
@@ -25,6 +27,21 @@ views::IconHolder LoadPaneIcon(UINT nIconID)
     }
 }
 
+// A host that has forgotten something sees nothing wrong but that nothing happens: whoever debugs it is told, once.
+void SayWhatIsMissing()
+{
+#ifndef NDEBUG
+    static bool s_bSaid = false;
+    try {
+        const std::string missing = std::exchange(s_bSaid, true) ? std::string() : views::WhatIsMissing();
+        if (!missing.empty())
+            std::fprintf(stderr, "Views: the host has no %s (Views/host/Services.h, Resources.h)\n", missing.c_str());
+    } catch (const CMemoryException&) {
+        return; // there is more to worry about
+    }
+#endif
+}
+
 } // namespace
 
 CStubRef<IAtomEditor> views::EditorLink::GetEditor() const
@@ -35,6 +52,8 @@ CStubRef<IAtomEditor> views::EditorLink::GetEditor() const
 bool views::EditorLink::Join(IAtomEditor* pEditor)
 {
     m_bHasFocus = m_bFocusFromSelChange = FALSE; // a former window's
+    if (!m_bPassive)
+        SayWhatIsMissing();
     if (!pEditor)
         return true;
     const HWND hWnd = m_view.m_hWnd;
