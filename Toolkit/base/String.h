@@ -62,4 +62,5 @@ private:
     LPSTR m_pszData; // the text; its header lies before it
 };
 
+// Raises CMemoryException, as all that makes a text longer.
 TOOLKIT_API CString operator+(const CString& a, std::string_view b);

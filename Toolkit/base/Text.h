@@ -26,5 +26,6 @@ TOOLKIT_API std::string EncodeUtf8(char32_t c);
 // The code point's simple case folding; itself when it has none.
 TOOLKIT_API char32_t FoldCase(char32_t c);
 
+// As _mbsicmp, for texts that may hold zeros.
 TOOLKIT_API int CompareNoCase(std::string_view a, std::string_view b);
 } // namespace toolkit

@@ -44,6 +44,7 @@ public:
     const HWND m_hWnd;
 };
 
+// How windows of a class are made (CREATESTRUCT's lpszClass); once for each class, before its first window.
 using NativeWindowFactory = std::function<std::unique_ptr<NativeWindow>(HWND)>;
 TOOLKIT_API void RegisterWindowClass(LPCSTR pszClass, NativeWindowFactory factory);
 const NativeWindowFactory* FindWindowClass(LPCSTR pszClass); // NULL for an unknown one; NULL or "" is the plain class
