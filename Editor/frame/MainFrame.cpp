@@ -313,7 +313,8 @@ void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
 // Who has just renamed a picture tells of that first.
 std::string CMainFrame::FollowPhases()
 {
-    PhaseFollower::Followed followed = m_navigation.Library()->Follower()->Follow(m_editor.GetHistory());
+    PhaseFollower::Followed followed =
+        m_navigation.Library()->Follower()->Follow(m_editor.GetHistory(), &m_editor.GetWork());
     m_unfollowed = std::move(followed.trouble);
     if (followed.phases.empty() && m_unfollowed.empty())
         return {};

@@ -97,21 +97,23 @@ PhaseFollower::Moves PhaseFollower::TakeMoves(std::string& trouble)
     return moves;
 }
 
-PhaseFollower::Followed PhaseFollower::Follow(History& history) noexcept
+PhaseFollower::Followed PhaseFollower::Follow(History& history, LongWork* pWork) noexcept
 {
     Followed followed;
-    Note([&] { FollowAll(history, followed); });
+    Note([&] { FollowAll(history, pWork, followed); });
     if (std::exchange(m_bLost, false))
         Note([&] { followed.trouble = kNoMemory; });
     return followed;
 }
 
-void PhaseFollower::FollowAll(History& history, Followed& followed)
+void PhaseFollower::FollowAll(History& history, LongWork* pWork, Followed& followed)
 {
     const Moves moves = TakeMoves(followed.trouble);
     if (moves.to.empty())
         return;
-    if (std::string trouble = m_index.Update(); !trouble.empty())
+    const bool bPart = pWork && pWork->IsUnderWay(); // of what counts for itself
+    const LongWork::Command command(pWork, "Having phases follow", Progress::Unit::Objects);
+    if (std::string trouble = Aside(pWork, [&] { return m_index.Update(); }); !trouble.empty())
         followed.trouble = std::move(trouble);
     std::set<std::string> phases;
     for (const auto& [from, to] : moves.to) {
@@ -119,11 +121,17 @@ void PhaseFollower::FollowAll(History& history, Followed& followed)
         m_index.AddNaming(to, phases);
         m_index.AddAt(to, phases);
     }
+    Meter* const pMeter = bPart ? nullptr : MeterOf(pWork);
+    if (pMeter)
+        pMeter->SetTotal(phases.size());
     for (const std::string& phase : phases) {
         TextState former;
         bool bRewritten = false;
-        if (const std::string reason = FollowIn(phase, moves, former, bRewritten); !reason.empty())
+        const auto follow = [&] { return FollowIn(phase, moves, former, bRewritten); };
+        if (const std::string reason = Aside(pWork, follow); !reason.empty())
             followed.trouble = ToShown(BaseName(phase)) + ": cannot follow: " + reason;
+        if (pMeter)
+            pMeter->Did(1);
         if (!bRewritten)
             continue;
         history.Rewrote(phase, former);
@@ -180,14 +188,17 @@ PicturePlace PhaseFollower::Wanted(std::string_view picture, const std::string& 
     return {};
 }
 
-int PhaseFollower::CountBroken(const std::vector<std::string>& going)
+int PhaseFollower::CountBroken(const std::vector<std::string>& going, LongWork* pWork)
 {
-    m_index.Update();
+    const LongWork::Command command(pWork, "Looking for phases", Progress::Unit::Objects);
+    Aside(pWork, [&] { m_index.Update(); });
     std::set<std::string> phases, gone;
     for (const std::string& path : going)
         m_index.AddNaming(*gone.insert(Own(path)).first, phases);
-    return static_cast<int>(
-        std::count_if(phases.begin(), phases.end(), [&](const auto& phase) { return WouldBreak(phase, gone); }));
+    const auto wouldBreak = [&](const std::string& phase) {
+        return Aside(pWork, [&] { return WouldBreak(phase, gone); });
+    };
+    return static_cast<int>(std::count_if(phases.begin(), phases.end(), wouldBreak));
 }
 
 bool PhaseFollower::WouldBreak(const std::string& phase, const std::set<std::string>& going) const

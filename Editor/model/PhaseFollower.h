@@ -5,6 +5,7 @@
 #include "Editor/history/History.h"
 #include "Editor/model/PhaseIndex.h"
 #include "Editor/model/PhaseText.h"
+#include "Editor/work/LongWork.h"
 
 #include <map>
 #include <set>
@@ -33,10 +34,10 @@ public:
         std::vector<std::string> phases; // their paths
         std::string trouble;             // the line for one that could not be written, or for what is not known
     };
-    Followed Follow(History& history) noexcept; // since the last time
+    Followed Follow(History& history, LongWork* pWork) noexcept; // since the last time; NULL: at once
 
     // How many phases would miss a picture if these went.
-    int CountBroken(const std::vector<std::string>& going);
+    int CountBroken(const std::vector<std::string>& going, LongWork* pWork);
 
 private:
     struct Moves
@@ -48,7 +49,7 @@ private:
     void Note(Change change) noexcept;
     std::string Own(const std::string& path) const;
     Moves TakeMoves(std::string& trouble);
-    void FollowAll(History& history, Followed& followed);
+    void FollowAll(History& history, LongWork* pWork, Followed& followed);
     std::string FollowIn(const std::string& phase, const Moves& moves, TextState& former, bool& bRewritten) const;
     PicturePlace Wanted(std::string_view picture, const std::string& folder, const Moves& moves) const;
     bool WouldBreak(const std::string& phase, const std::set<std::string>& going) const;

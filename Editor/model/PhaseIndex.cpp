@@ -92,10 +92,11 @@ std::string PhaseIndex::UpdatePhases(const std::string& path, Folder& folder)
 {
     std::string trouble;
     for (auto& [phasePath, phase] : folder.phases) {
-        struct stat status;
-        if (stat(phasePath.c_str(), &status) == 0 && phase.stamp.IsOf(status))
+        Phase now = ReadPhase(phasePath, path, phase);
+        if (now.named == phase.named && now.error == phase.error) {
+            phase = std::move(now);
             continue;
-        Phase now = ReadPhase(phasePath, path);
+        }
         if (now.error != 0 && phase.error == 0)
             trouble = Line(phasePath, now.error);
         NoteNames(phasePath, phase, false);
@@ -108,13 +109,13 @@ std::string PhaseIndex::UpdatePhases(const std::string& path, Folder& folder)
 std::string PhaseIndex::UpdateFolder(const std::string& path, std::deque<std::string>& below)
 {
     Folder now;
-    if (const int error = ReadFolder(path, now); error != 0) {
+    const Folder& former = m_folders[path];
+    if (const int error = ReadFolder(path, former, now); error != 0) {
         if (LeadsNowhere(error))
             Forget(path);
         return LeadsNowhere(error) ? std::string() : Line(path, error);
     }
     std::string trouble;
-    const Folder& former = m_folders[path];
     for (const auto& [phasePath, phase] : now.phases)
         if (const auto known = former.phases.find(phasePath);
             phase.error != 0 && (known == former.phases.end() || known->second.error == 0))
@@ -162,7 +163,7 @@ void PhaseIndex::LookThrough(std::deque<std::string> folders, const std::stop_to
         const std::string path = std::move(from.front());
         from.pop_front();
         Folder folder;
-        if (IsKnown(path) || ReadFolder(path, folder) != 0)
+        if (IsKnown(path) || ReadFolder(path, {}, folder) != 0)
             continue;
         folders.insert(folders.end(), folder.folders.begin(), folder.folders.end());
         links.insert(links.end(), folder.links.begin(), folder.links.end());
@@ -180,7 +181,7 @@ bool PhaseIndex::IsKnown(const std::string& path) const
     return stat(path.c_str(), &status) == 0 && m_identities.contains({status.st_dev, status.st_ino});
 }
 
-int PhaseIndex::ReadFolder(const std::string& path, Folder& folder) const
+int PhaseIndex::ReadFolder(const std::string& path, const Folder& former, Folder& folder) const
 {
     struct stat status;
     if (stat(path.c_str(), &status) != 0)
@@ -188,23 +189,30 @@ int PhaseIndex::ReadFolder(const std::string& path, Folder& folder) const
     folder.stamp = StampOf(status);
     Directory directory(path);
     directory.ForEach([&](const char* pszName, bool isDirectory) {
+        const std::string_view name = pszName;
+        if (!isDirectory && !name.ends_with('e') && !name.ends_with('E'))
+            return true; // nearly all: no more is made of them
         std::string member = path + '/' + pszName;
         if (isDirectory)
             (lstat(member.c_str(), &status) == 0 && S_ISLNK(status.st_mode) ? folder.links : folder.folders)
                 .push_back(std::move(member));
-        else if (ExtensionOf(pszName) == "phase")
-            folder.phases[member] = ReadPhase(member, path);
+        else if (ExtensionOf(name) == "phase") {
+            const auto known = former.phases.find(member);
+            folder.phases[member] = ReadPhase(member, path, known == former.phases.end() ? Phase() : known->second);
+        }
         return true;
     });
     return directory.GetError();
 }
 
-PhaseIndex::Phase PhaseIndex::ReadPhase(const std::string& path, const std::string& folder) const
+PhaseIndex::Phase PhaseIndex::ReadPhase(const std::string& path, const std::string& folder, const Phase& former) const
 {
     Phase phase;
     struct stat status;
     TextState state;
     const bool bThere = stat(path.c_str(), &status) == 0;
+    if (bThere && former.stamp.IsOf(status))
+        return former;
     phase.error = bThere ? ReadText(path, kLargestPhase, state) : errno;
     if (LeadsNowhere(phase.error) || phase.error == EFBIG || phase.error == EINVAL)
         phase.error = 0;

@@ -64,8 +64,9 @@ private:
     };
 
     static Stamp StampOf(const struct stat& status);
-    int ReadFolder(const std::string& path, Folder& folder) const; // the error number
-    Phase ReadPhase(const std::string& path, const std::string& folder) const;
+    // The error number. Phases that have not changed since they were read are not read again.
+    int ReadFolder(const std::string& path, const Folder& former, Folder& folder) const;
+    Phase ReadPhase(const std::string& path, const std::string& folder, const Phase& former) const;
     void LookFromTop(const std::stop_token& stop);
     void LookThrough(std::deque<std::string> folders, const std::stop_token& stop);
     std::string UpdatePhases(const std::string& path, Folder& folder);

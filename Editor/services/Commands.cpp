@@ -74,7 +74,7 @@ std::vector<const CPicture*> PicturesOf(const ActiveMembers& members)
 }
 
 // "2 phases will miss pictures", or nothing.
-std::string MissingIn(const ActiveMembers& members)
+std::string MissingIn(const ActiveMembers& members, LongWork& work)
 {
     std::vector<std::string> paths;
     PhaseFollower* pFollower = nullptr;
@@ -85,7 +85,7 @@ std::string MissingIn(const ActiveMembers& members)
         paths.push_back(pMember->Path());
         pFollower = pMember->Follower();
     }
-    const int nBroken = pFollower ? pFollower->CountBroken(paths) : 0;
+    const int nBroken = pFollower ? pFollower->CountBroken(paths, &work) : 0;
     return nBroken == 0 ? std::string()
                         : std::to_string(nBroken) + (nBroken == 1 ? " phase" : " phases") + " will miss pictures";
 }
@@ -114,14 +114,14 @@ std::string Commands::RemoveQuestion(Removal removal) const
         return "Remove " + what + " from the phase?";
     const std::string question =
         removal == Removal::ForGood ? "Remove " + what + " for good?" : "Move " + what + " to the trash?";
-    const std::string missing = MissingIn(members);
+    const std::string missing = MissingIn(members, m_editor.GetWork());
     return missing.empty() ? question : question + ' ' + missing + '.';
 }
 
 std::string Commands::CutQuestion() const
 {
     const ActiveMembers members = GetActiveMembers(m_editor);
-    const std::string missing = MissingIn(members);
+    const std::string missing = MissingIn(members, m_editor.GetWork());
     return missing.empty() ? missing : "Cut " + NameOf(members) + "? " + missing + ", until they are pasted.";
 }
 

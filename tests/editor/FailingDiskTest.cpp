@@ -130,6 +130,7 @@ protected:
             editor::Script script(app, {.print = [](const auto&) {}, .takeScreenshot = {}});
             EXPECT_EQ("", script.Run("before", command.pszBefore));
             const auto pPhase = command.pszLine ? CStubRef<editor::CPhase>() : PhaseToSave(*app.GetFrame());
+            AwaitIndex(app);
             {
                 const FailOperation fail(nth, fault);
                 Note(m_pOutcome->reason, pPhase ? pPhase->SaveTiming() : script.Run("test", command.pszLine));
@@ -142,6 +143,11 @@ protected:
         m_pOutcome->bOver = true;
     }
 
+    // Its first look goes on beside everything else.
+    static void AwaitIndex(const editor::EditorApp& app)
+    {
+        app.GetFrame()->GetNavigation().Library()->Follower()->CountBroken({}, nullptr);
+    }
     static CStubRef<editor::CPhase> PhaseToSave(const editor::CMainFrame& frame)
     {
         CStubRef<IAtom> pAtom;
@@ -279,6 +285,7 @@ TEST_P(FailingDiskTest, WithoutMemoryEachObjectIsAsItWasOrAsAskedToo)
     for (int nth = 1; nth == 1 || FailAllocation::HasFailed(); ++nth) {
         EXPECT_EQ("", script.Run("before", command.pszBefore));
         const auto pPhase = command.pszLine ? CStubRef<editor::CPhase>() : PhaseToSave(*app.GetFrame());
+        AwaitIndex(app);
         {
             const FailAllocation fail(nth);
             try {
