@@ -47,6 +47,7 @@ constexpr CommandEntry kCommands[] = {
      &Run::RemoveSelection,
      nullptr,
      nullptr},
+    {ID_RESTORE, "Re&store", false, {}, &State::canRestore, &Run::RestoreOrTell, "restore", &Run::Restore},
     {ID_SELECT_ALL, "Select &all", true, {'A', With::Views}, &State::canSelectAll, &Run::SelectAll, nullptr, nullptr},
     {ID_REFRESH,
      "Re&fresh",
@@ -70,7 +71,10 @@ const CommandEntry* Find(Matches matches)
 // " rename of "walk.png"" behind what takes a step back or does it again. What is an & there is none of the menu's.
 std::string StepOf(const CommandEntry& command, const CommandState& state)
 {
-    std::string name = command.nID == ID_UNDO ? state.undo : command.nID == ID_REDO ? state.redo : std::string();
+    std::string name = command.nID == ID_UNDO      ? state.undo
+                       : command.nID == ID_REDO    ? state.redo
+                       : command.nID == ID_RESTORE ? state.restore
+                                                   : std::string();
     for (std::size_t at = name.find('&'); at != name.npos; at = name.find('&', at + 2))
         name.insert(at, 1, '&');
     return name.empty() ? name : ' ' + name;

@@ -29,14 +29,17 @@ inline constexpr UINT ID_UNDO = 3011;
 inline constexpr UINT ID_REDO = 3012;
 inline constexpr UINT ID_NEW_FOLDER = 3031;
 inline constexpr UINT ID_NEW_PHASE = 3032;
+inline constexpr UINT ID_RESTORE = 3033;
 
 // What can be done just now; all else is grayed.
 struct CommandState
 {
     bool canOpen = false, canCarry = false, canRemove = false, canRename = false, canPaste = false;
-    bool canSelectAll = false, canUndo = false, canRedo = false, canMakeFolder = false, canMakePhase = false;
+    bool canSelectAll = false, canUndo = false, canRedo = false, canMakeFolder = false, canMakePhase = false,
+         canRestore = false;
     bool always = true;
     std::string undo, redo; // which step
+    std::string restore;    // what
 };
 
 struct CommandEntry

@@ -41,6 +41,8 @@ CommandState FrameCommands::GetState() const
     state.canMakePhase = state.canMakeFolder && m_commands.CanMakePhase();
     state.undo = GetHistory().NameToUndo();
     state.redo = GetHistory().NameToRedo();
+    state.restore = GetHistory().NameToRestore();
+    state.canRestore = !state.restore.empty();
     state.canUndo = !state.undo.empty();
     state.canRedo = !state.redo.empty();
     state.canSelectAll = !m_parts.content.IsPictureShown() && List().GetItemCount() > 0 && !List().AreAllSelected();
@@ -151,6 +153,17 @@ void FrameCommands::RedoOrTell()
     const std::string reason = GetHistory().NameToRedo().empty() ? std::string() : Redo();
     if (!WasCancelled() && !reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
         GetHistory().ForgetNextRedo();
+}
+
+void FrameCommands::RestoreOrTell()
+{
+    if (GetState().canRestore)
+        ShowFailure(IDS_RESTORE_FAILED, Restore());
+}
+
+std::string FrameCommands::Restore()
+{
+    return Take(&UndoRedo::Restore);
 }
 
 std::string FrameCommands::Undo()

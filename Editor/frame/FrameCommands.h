@@ -40,6 +40,7 @@ public:
     std::string Paste(); // into the container that is shown
     std::string Undo();  // the last step that was done, wherever that was
     std::string Redo();
+    std::string Restore();   // what was removed last, and is still in the trash
     std::string NewFolder(); // in the container that is shown
     std::string NewPhase();  // there, of the pictures that are selected
     std::string RefreshQuietly();
@@ -55,6 +56,7 @@ public:
     void NewPhaseAndName();
     void UndoOrTell();
     void RedoOrTell();
+    void RestoreOrTell();
     bool SaveOrTell();   // all phases that are modified; were all saved?
     void OpenSelected(); // the one that is
     void RenameSelected();

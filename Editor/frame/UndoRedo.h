@@ -21,6 +21,7 @@ public:
     using Atoms = std::vector<CStubRef<IAtom>>;
     std::string Undo(Atoms& present) { return Take(&History::Undo, present); }
     std::string Redo(Atoms& present) { return Take(&History::Redo, present); }
+    std::string Restore(Atoms& present) { return Take(&History::Restore, present); }
 
 private:
     std::string Take(std::string (History::*step)(Changes&), Atoms& present);

@@ -76,6 +76,12 @@ void PlacingEdit::CountIn(StepSummary& summary) const
     Name(summary.object, m_path);
 }
 
+void RestoringEdit::CountIn(StepSummary& summary) const
+{
+    ++summary.nCame;
+    Name(summary.object, m_pRemoval->Path());
+}
+
 std::string RenamingEdit::Rename(const std::string& from, const std::string& to) const
 {
     const int error = RenameInFolder(m_folder, from, to);

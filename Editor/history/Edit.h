@@ -5,6 +5,7 @@
 #include "Editor/disk/Trash.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <set>
 #include <string>
@@ -77,6 +78,7 @@ public:
 
     const std::string& Path() const { return m_path; }
     bool IsComing() const { return m_bComing; } // as it was made first
+    bool IsInTrash() const { return !m_bComing && IsMade(); }
     void Tell(Changes& changes) const override;
     void CountIn(StepSummary& summary) const override;
 
@@ -92,6 +94,23 @@ private:
     const bool m_bComing;
     TrashPlace m_place;              // while it is not there
     std::uint64_t m_fingerprint = 0; // while it is, as it came
+};
+
+// What a former step has removed is there again.
+class RestoringEdit : public Edit
+{
+public:
+    explicit RestoringEdit(std::shared_ptr<PlacingEdit> pRemoval) : m_pRemoval(std::move(pRemoval)) {}
+
+    void Tell(Changes& changes) const override { m_pRemoval->Tell(changes); }
+    void CountIn(StepSummary& summary) const override;
+
+protected:
+    std::string DoUndo() override { return m_pRemoval->Redo(); }
+    std::string DoRedo() override { return m_pRemoval->Undo(); }
+
+private:
+    const std::shared_ptr<PlacingEdit> m_pRemoval; // which that step then need not take back
 };
 
 // A file or folder has got another name in its folder.

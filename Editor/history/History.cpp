@@ -112,6 +112,45 @@ std::string History::Redo(Changes& changes)
     return {};
 }
 
+History::Removals History::FindRemovals() const
+{
+    Removals removals;
+    for (std::size_t i = m_nDone; i-- > 0 && removals.empty();) {
+        for (const auto& pEdit : m_steps[i].edits) {
+            const auto pPlacing = std::dynamic_pointer_cast<PlacingEdit>(pEdit);
+            if (pPlacing && pPlacing->IsInTrash())
+                removals.push_back(pPlacing);
+            if (pPlacing && pPlacing->IsComing()) { // it was moved
+                removals.clear();
+                break;
+            }
+        }
+    }
+    return removals;
+}
+
+std::string History::NameToRestore() const
+{
+    const Removals removals = FindRemovals();
+    return removals.empty() ? std::string()
+                            : Objects(static_cast<int>(removals.size()), std::string(BaseName(removals[0]->Path())));
+}
+
+std::string History::Restore(Changes& changes)
+{
+    const Removals removals = FindRemovals();
+    if (removals.empty())
+        return "nothing was removed that could be restored";
+    const Step step(this, "restoring");
+    std::string reason = DoAll(removals.begin(), removals.end(), &Edit::Undo, &Edit::Redo);
+    for (const auto& pRemoval : removals) {
+        pRemoval->Tell(changes);
+        if (reason.empty())
+            Note([&] { m_open.push_back(std::make_shared<RestoringEdit>(pRemoval)); });
+    }
+    return reason;
+}
+
 void History::ForgetNextUndo()
 {
     if (m_nDone > 0)

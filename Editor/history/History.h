@@ -44,6 +44,11 @@ public:
     std::string Undo(Changes& changes);
     std::string Redo(Changes& changes);
 
+    // What the last step that has only removed has put into the trash, and nobody has fetched back since, comes back,
+    // as a step of its own. The name of what it is: '"walk.png"', "3 objects"; empty: there is none.
+    std::string NameToRestore() const;
+    std::string Restore(Changes& changes);
+
     // That step is given up: those before it, or behind it, can then be taken back, or done again.
     void ForgetNextUndo();
     void ForgetNextRedo();
@@ -72,7 +77,8 @@ public:
     void Unsaved(const std::string& path, const UnsavedEdit::Text& former, const UnsavedEdit::Text& now) noexcept;
 
 private:
-    using Edits = std::vector<std::unique_ptr<Edit>>;
+    using Edits = std::vector<std::shared_ptr<Edit>>;
+    using Removals = std::vector<std::shared_ptr<PlacingEdit>>;
     struct Done
     {
         std::string name;
@@ -81,6 +87,7 @@ private:
 
     void Begin(const char* pszVerb) noexcept;
     void End() noexcept;
+    Removals FindRemovals() const;
     void Keep(Edits edits, const std::string& remark);
     template <class Change>
     void Note(Change change) noexcept;

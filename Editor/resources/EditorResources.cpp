@@ -16,6 +16,7 @@ constexpr std::pair<UINT, LPCSTR> kTexts[] = {
     {IDS_SAVE_FAILED, "Not everything was saved"},
     {IDS_DROP_FAILED, "Not everything was taken"},
     {IDS_NEW_FAILED, "Nothing new was made"},
+    {IDS_RESTORE_FAILED, "Nothing was restored"},
     {IDS_NAME_REFUSED, "The name is not taken"},
     {IDS_FOLLOW_FAILED, "Not all phases show it now"},
 };

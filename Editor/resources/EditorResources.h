@@ -20,6 +20,7 @@ inline constexpr UINT IDS_SAVE_FAILED = 2005;
 inline constexpr UINT IDS_DROP_FAILED = 2008;
 inline constexpr UINT IDS_FOLLOW_FAILED = 2010;
 inline constexpr UINT IDS_NEW_FAILED = 2012;
+inline constexpr UINT IDS_RESTORE_FAILED = 2013;
 inline constexpr UINT IDS_NAME_REFUSED = 2011;
 
 inline constexpr int kThumbnailExtent = 80; // of what is drawn of a thumbnail

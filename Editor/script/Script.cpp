@@ -41,6 +41,7 @@ std::string ScriptHelp()
            "  new-phase          the same with \"New phase.phase\", which shows the selected pictures in their order\n"
            "  undo, redo         take back what was done to the disk last, step by step; a cut is one, its paste "
            "another\n"
+           "  restore            fetch what was deleted or cut last back from the trash\n"
            "  rename NAME NEW    give an object another name\n"
            "  refresh            read what is shown anew\n"
            "  view AS            show objects as \"icons\" or as \"thumbnails\"\n"

@@ -124,9 +124,9 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
     desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
     EXPECT_EQ(
         Ledger({"[(Open) | - | (Undo) | (Redo) | - | (Cut) | (Copy) | Paste | - | New folder | (New phase) | - "
-                "| (Rename) | (Delete) | - | Select all | Refresh]",
+                "| (Rename) | (Delete) | (Restore) | - | Select all | Refresh]",
                 "[(Open) | - | (Undo) | (Redo) | - | Cut | Copy | Paste | - | New folder | New phase | - | (Rename) "
-                "| Delete | - | (Select all) | Refresh]"}),
+                "| Delete | (Restore) | - | (Select all) | Refresh]"}),
         desktop.TakeMenus());
     Click("b.bmp");
     choose("Copy", PlaceOf("b.bmp"));

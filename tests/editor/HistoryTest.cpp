@@ -223,6 +223,37 @@ TEST_F(HistoryTest, NewFoldersAndPhasesAreNamedWhereTheyComeAndAreSteps)
     EXPECT_EQ(end, Disk());
 }
 
+TEST_F(HistoryTest, WhatWasRemovedBeforeOtherStepsIsRestoredByItself)
+{
+    Open();
+    DoubleClick("Ada");
+    const auto choose = [&](const char* pszCommand) {
+        desktop.Choose(pszCommand);
+        desktop.Click(List(), PlaceOf("Poses"), toolkit::MouseButton::Right);
+        Settle();
+    };
+    const auto start = Disk();
+    for (const char* const pszName : {"a.bmp", "b.bmp"}) {
+        Click(pszName);
+        desktop.Answer(IDYES);
+        Press(VK_DELETE);
+    }
+    ControlShift('N');
+    Press(VK_RETURN);
+    choose("Restore \"b.bmp\"");
+    choose("Restore \"a.bmp\"");
+    EXPECT_EQ("[(*a.bmp) b.bmp New folder Poses]", Rows());
+    EXPECT_EQ("restoring of \"a.bmp\"", NextUndo());
+    const auto end = Disk();
+    for (int i = 0; i < 5; ++i)
+        Control('Z');
+    EXPECT_EQ(start, Disk());
+    for (int i = 0; i < 5; ++i)
+        Redo();
+    EXPECT_EQ(end, Disk());
+    EXPECT_EQ("", History().NameToRestore());
+}
+
 TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
 {
     folder.Write("Ada/run.phase", "# b\r\na.bmp\r\n ./b.bmp\r\nc.bmp\nPoses/one.bmp\n");
@@ -370,7 +401,7 @@ protected:
     void Act()
     {
         editor::FrameCommands& commands = Frame().GetCommands();
-        switch (Below(10)) {
+        switch (Below(11)) {
         case 0:
             return SelectAny(), void(commands.Cut());
         case 1:
@@ -388,6 +419,8 @@ protected:
             return SelectAny(), TimeAny();
         case 8:
             return Control('S');
+        case 9:
+            return void(commands.Restore());
         default:
             return GoAnywhere();
         }
