@@ -3,6 +3,8 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/services/MemberBroadcast.h"
 
+#include <algorithm>
+
 namespace editor
 {
 namespace
@@ -11,6 +13,11 @@ namespace
 bool IsOrIsBelow(std::string_view path, std::string_view top)
 {
     return path.starts_with(top) && (path.size() == top.size() || path[top.size()] == '/');
+}
+
+std::string FolderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/'));
 }
 
 } // namespace
@@ -28,6 +35,8 @@ std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& presen
             ReadAgainAndTell(m_editor, *pContainer);
     FollowNames(changes, shown);
     KeepUnsaved(changes);
+    if (reason.empty())
+        GoWhereItIsSeen(changes);
     present = Present(changes);
     return reason;
 }
@@ -41,6 +50,23 @@ void UndoRedo::FollowNames(const Changes& changes, const std::string& shown)
         if (const CStubRef<CMember> pNow = m_navigation.Library()->Find(to + shown.substr(from.size())))
             m_navigation.GoTo(pNow.Get());
     }
+}
+
+// Nowhere when something of it is seen where the user is: what is shown, a phase in it, or what is in its path.
+void UndoRedo::GoWhereItIsSeen(const Changes& changes)
+{
+    const std::string shown = m_navigation.ShownContainer()->Path();
+    const auto isSeen = [&](const std::string& path) {
+        return path == shown || (FolderOf(path) == shown && ExtensionOf(path) == "phase");
+    };
+    const auto isInPath = [&](const std::string& path) { return IsOrIsBelow(shown, path); };
+    const std::set<std::string>& containers = changes.containers;
+    if (containers.empty() || std::any_of(containers.begin(), containers.end(), isSeen) ||
+        std::any_of(changes.present.begin(), changes.present.end(), isInPath))
+        return;
+    const std::string& path = changes.present.empty() ? *containers.begin() : FolderOf(changes.present.front());
+    if (const CStubRef<CMember> pContainer = m_navigation.Library()->Find(path))
+        m_navigation.GoTo(pContainer.Get());
 }
 
 void UndoRedo::KeepUnsaved(const Changes& changes)

@@ -15,7 +15,8 @@ public:
         : m_editor(editor), m_pictures(pictures), m_navigation(navigation), m_modified(modified)
     {} // all borrowed
 
-    // Every view has heard of it by then, and shows what it showed under the name that it has now. `present` are those
+    // Every view has heard of it by then, and shows what it showed under the name that it has now; or, where nothing of
+    // it is to be seen there, the folder where it was. `present` are those
     // members of the container that is shown that have come, or bear another name. Empty when all was done, else the
     // reason: then nothing was.
     using Atoms = std::vector<CStubRef<IAtom>>;
@@ -26,6 +27,7 @@ public:
 private:
     std::string Take(std::string (History::*step)(Changes&), Atoms& present);
     void FollowNames(const Changes& changes, const std::string& shown);
+    void GoWhereItIsSeen(const Changes& changes);
     void KeepUnsaved(const Changes& changes);
     Atoms Present(const Changes& changes) const;
 

@@ -122,12 +122,12 @@ void RewritingEdit::Tell(Changes& changes) const
 
 void RewritingEdit::CountIn(StepSummary& summary) const
 {
-    Name(summary.text, m_path);
+    summary.texts.insert(m_path);
 }
 
 void UnsavedEdit::CountIn(StepSummary& summary) const
 {
-    Name(summary.text, m_path);
+    summary.texts.insert(m_path);
 }
 
 } // namespace editor

@@ -33,8 +33,8 @@ struct Changes
 struct StepSummary
 {
     int nCame = 0, nWent = 0, nRenamed = 0;
-    std::string object; // the first of these
-    std::string text;   // the first file whose text has changed
+    std::string object;          // the first of these
+    std::set<std::string> texts; // paths of files whose text has changed
 };
 
 // It has been made when it is constructed. Where others have been at work meanwhile nothing is changed, and one line

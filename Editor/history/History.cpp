@@ -23,6 +23,11 @@ std::string Objects(int count, const std::string& first)
     return '"' + std::string(start) + (start.size() < name.size() ? "..." : "") + '"';
 }
 
+std::string Texts(const std::set<std::string>& paths)
+{
+    return paths.size() == 1 ? '"' + ToShown(BaseName(*paths.begin())) + '"' : std::to_string(paths.size()) + " phases";
+}
+
 const char* UsualVerb(const StepSummary& summary)
 {
     if (summary.nCame > 0)
@@ -36,7 +41,7 @@ std::string NameOf(const std::string& verb, const StepSummary& summary)
     const std::string name = bMoved ? "move" : verb.empty() ? UsualVerb(summary) : verb;
     const int nObjects = std::max({summary.nCame, summary.nWent, summary.nRenamed});
     return nObjects > 0 ? name + (name.starts_with("new ") ? " " : " of ") + Objects(nObjects, summary.object)
-                        : name + " in \"" + ToShown(summary.text) + '"';
+                        : name + " in " + Texts(summary.texts);
 }
 
 std::string NewsOf(const std::string& name, const StepSummary& summary)

@@ -240,6 +240,10 @@ TEST_F(HistoryTest, WhatWasRemovedBeforeOtherStepsIsRestoredByItself)
     }
     ControlShift('N');
     Press(VK_RETURN);
+    GoTo("Bo");
+    Control('Z');
+    EXPECT_EQ("/Ada/ | [Poses] | 1 object", Screen()) << "where it is seen";
+    Redo();
     choose("Restore \"b.bmp\"");
     choose("Restore \"a.bmp\"");
     EXPECT_EQ("[(*a.bmp) b.bmp New folder Poses]", Rows());
