@@ -15,7 +15,7 @@ DiskFollower::Found DiskFollower::Look(const std::vector<FolderNews>& news)
         auto* const pFolder = dynamic_cast<CFolder*>(m_navigation.Library()->FindLive(one.folder));
         if (!pFolder)
             continue;
-        found.push_back({CStubRef<CFolder>::Share(pFolder), {}});
+        found.push_back({CStubRef<CFolder>::Share(pFolder), {}, m_navigation.Library()->LinksTo(one)});
         pFolder->LookFor(one, found.back().news);
         for (const std::string& name : one.names)
             m_pictures.Recheck(one.folder + '/' + name);
@@ -38,7 +38,7 @@ std::string DiskFollower::Tell(const Found& found)
 {
     const auto pShown = CStubRef<CMember>::Share(m_navigation.Shown());
     bool bRenamed = false; // it, or what it is in
-    for (const auto& [pFolder, news] : found) {
+    for (const auto& [pFolder, news, links] : found) {
         for (const auto& pMember : news.written)
             if (auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get()))
                 ReadAgainAndTell(m_editor, *pPhase);
@@ -46,6 +46,8 @@ std::string DiskFollower::Tell(const Found& found)
             for (CMember* pMember = pShown.Get(); pMember; pMember = pMember->Container())
                 bRenamed |= pMember == renamed.pFormer.Get();
         TellOf(m_editor, *pFolder.Get(), news);
+        for (const auto& pLink : links)
+            m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pLink.Get(), pLink->Container(), 0);
     }
     CMember* const pLeft = WhatIsLeftOf(pShown.Get());
     if (bRenamed || pLeft == pShown.Get())

@@ -19,6 +19,7 @@ public:
     {
         CStubRef<CFolder> pFolder;
         MemberNews news;
+        std::vector<CStubRef<CMember>> links; // elsewhere, to what is in it
     };
     using Found = std::vector<FoundIn>;
     Found Look(const std::vector<FolderNews>& news);

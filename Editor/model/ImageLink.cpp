@@ -1,13 +1,15 @@
 #include "Editor/model/ImageLink.h"
 
 #include "Editor/disk/FileText.h"
-#include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/PhaseText.h"
 
 namespace editor
 {
-CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : With(pPhase, nIndex) {}
+CImageLink::CImageLink(CPhase* pPhase, UINT nIndex) : With(pPhase, nIndex)
+{
+    Context().links.insert(this);
+}
 
 std::string_view CImageLink::Name() const
 {

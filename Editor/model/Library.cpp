@@ -1,6 +1,7 @@
 #include "Editor/model/Library.h"
 
 #include "Editor/disk/FileText.h"
+#include "Editor/model/ImageLink.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -94,6 +95,19 @@ CContainer* CLibrary::FindLive(const std::string& path)
     for (const std::string& part : PartsBelow(m_context.rootPath, path))
         pFound = pFound ? dynamic_cast<CContainer*>(pFound->LiveMember(part)) : nullptr;
     return pFound;
+}
+
+std::vector<CStubRef<CMember>> CLibrary::LinksTo(const FolderNews& files) const
+{
+    std::vector<CStubRef<CMember>> links;
+    for (CImageLink* const pLink : m_context.links) {
+        if (!files.isUnknown && !files.names.contains(std::string(pLink->Name())))
+            continue;
+        const std::string path = pLink->Path();
+        if (path.starts_with(files.folder) && path.rfind('/') == files.folder.size())
+            links.push_back(CStubRef<CMember>::Share(pLink));
+    }
+    return links;
 }
 
 } // namespace editor

@@ -16,13 +16,16 @@ public:
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error,
                                                  FolderWatch* pWatch = nullptr);
 
-    void SetHistory(History* pHistory);                                   // borrowed
+    void SetHistory(History* pHistory);                        // borrowed
     void SetWork(LongWork* pWork) { m_context.pWork = pWork; } // borrowed
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);
     // The container at that path if anybody has asked for it so far; borrowed, else NULL.
     CContainer* FindLive(const std::string& path);
+
+    // The lines of phases that somebody knows and that lead to what was told of, or would if it were there.
+    std::vector<CStubRef<CMember>> LinksTo(const FolderNews& files) const;
 
     std::string_view Name() const override { return m_name; }
     std::string Path() const override { return m_context.rootPath; }

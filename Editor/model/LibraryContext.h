@@ -7,12 +7,14 @@
 #include "Editor/pictures/PictureStore.h"
 
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
 namespace editor
 {
 
+class CImageLink;
 class CPhase;
 
 struct LibraryContext
@@ -26,6 +28,7 @@ struct LibraryContext
     LongWork* pWork = nullptr;     // does what takes long; borrowed. NULL: it is done at once
     DWORD nextId = 1;
     std::vector<const CPhase*> unsaved; // whose timing is set and not saved
+    std::set<CImageLink*> links;        // that somebody holds
 };
 
 } // namespace editor

@@ -73,6 +73,14 @@ TEST_F(DiskFollowerTest, WhatIsShownIsFollowedWhereItGoesAndLeftWhenItIsGone)
     DoubleClick("walk.phase");
     folder.Write("walk.phase", "Ann/a.bmp\nc.bmp\n");
     Await("/walk.phase/ | [a.bmp c.bmp] | 2 objects");
+    const auto frame = [&] { return desktop.Dump(List()).At(PlaceOf("c.bmp").x, PlaceOf("c.bmp").y); };
+    Settle();
+    const toolkit::Pixel shown = frame();
+    fs::remove(folder.At("c.bmp"));
+    desktop.RunUntil([&] { return frame() != shown; });
+    EXPECT_NE(shown, frame()) << "a frame whose picture has gone is seen to miss it";
+    Click("c.bmp");
+    EXPECT_EQ("c.bmp: there is no \"c.bmp\" in the library", Frame().GetStatus().detail);
 }
 
 TEST_F(DiskFollowerTest, AStormOfChangesIsReadAsAWhole)
