@@ -328,6 +328,7 @@ std::string CMainFrame::FollowPhases()
 
 void CMainFrame::ShowFollowed(const std::vector<std::string>& phases)
 {
+    OnSelectRenamed(0, 0); // the views have heard of both by now
     std::vector<FolderNews> news;
     for (const std::string& path : phases)
         news.push_back({path.substr(0, path.rfind('/')), {std::string(BaseName(path))}, {}, false});

@@ -274,6 +274,7 @@ TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
     Rename("a.bmp", "c.bmp");
     EXPECT_EQ("#delay 80\nc.bmp\nAda/c.bmp\n|# b\r\nc.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n", phases())
         << "also where another picture takes the place that a line leads to first";
+    EXPECT_EQ("[b.bmp (*c.bmp) Poses run.phase]", Rows());
     Click("run.phase");
     desktop.Run();
     EXPECT_EQ(unsaved, Frame().GetProperties().GetText()) << "what is not saved of a phase is kept";
