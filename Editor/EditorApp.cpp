@@ -36,6 +36,17 @@ struct EditorApp::Parts
         pPictures->Stop();
     }
 
+    // The window, which is not shown yet, comes when this takes long.
+    CStubRef<CLibrary> Read(const std::string& path, std::string& error)
+    {
+        const LongWork::Command command(&atomEditor.GetWork(), "Reading", Progress::Unit::Objects);
+        CStubRef<CLibrary> pLibrary =
+            CLibrary::Open(path, reader.Extensions(), pPictures, error, pWatch.get(), &atomEditor.GetWork());
+        if (pLibrary)
+            pLibrary->SetHistory(&atomEditor.GetHistory());
+        return pLibrary;
+    }
+
     void TellOfPicture(IAtom* pAtom)
     {
         CStubRef<IAtomContainer> pContainer;
@@ -62,19 +73,20 @@ EditorApp::~EditorApp() = default;
 
 std::string EditorApp::OpenFolder(const std::string& path)
 {
-    std::string error;
-    const CStubRef<CLibrary> pLibrary =
-        CLibrary::Open(path, m_parts->reader.Extensions(), m_parts->pPictures, error, m_parts->pWatch.get());
-    if (!pLibrary)
-        return error;
-    pLibrary->SetHistory(&m_parts->atomEditor.GetHistory());
-    pLibrary->SetWork(&m_parts->atomEditor.GetWork());
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
-    if (!GetMainWindow()) {
+    const bool bFirst = !GetMainWindow();
+    if (bFirst) {
         pFrame = std::make_unique<CMainFrame>(m_parts->atomEditor, *m_parts->pPictures, m_parts->options.onClosed);
         if (!pFrame->Create(m_parts->options.size))
             return "the window cannot be made";
         AfxSetMainWnd(pFrame.get());
+    }
+    std::string error;
+    const CStubRef<CLibrary> pLibrary = m_parts->Read(path, error);
+    if (!pLibrary) {
+        if (bFirst)
+            pFrame.reset();
+        return error;
     }
     pFrame->ShowLibrary(pLibrary.Get());
     pFrame->ShowWindow(SW_SHOW);

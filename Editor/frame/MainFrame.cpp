@@ -125,6 +125,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     CMember* const pMember = CMember::Of(pAtom);
     if (!pMember)
         return TRUE;
+    m_navigation.ReadAside(pMember);
     m_navigation.SetShown(pMember);
     if (CStubRef<IAtomContainer>::From(pAtom))
         m_content.HidePicture();

@@ -39,6 +39,13 @@ std::vector<CMember*> Navigation::Path() const
     return path;
 }
 
+void Navigation::ReadAside(CMember* pMember) const
+{
+    const LongWork::Command command(&m_editor.GetWork(), "Reading", Progress::Unit::Objects);
+    if (auto* const pContainer = dynamic_cast<CContainer*>(pMember))
+        pContainer->GetCount();
+}
+
 void Navigation::GoTo(CMember* pMember)
 {
     const auto pHeld = CStubRef<CMember>::Share(pMember);

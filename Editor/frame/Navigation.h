@@ -33,8 +33,9 @@ public:
     } // the former
     void SetShown(CMember* pMember) { m_pShown = CStubRef<CMember>::Share(pMember); }
 
-    void GoTo(CMember* pMember); // opens it, whatever it is
-    void GoUp();                 // nothing at the top
+    void ReadAside(CMember* pMember) const; // before views ask for its members; they show what they did meanwhile
+    void GoTo(CMember* pMember);            // opens it, whatever it is
+    void GoUp();                            // nothing at the top
     void GoToTop() { GoTo(m_pTop.Get()); }
     void GoToPart(int nPart); // of the path
     void LeaveWhatIsGone();   // for the innermost container that is still there

@@ -51,7 +51,7 @@ Status DescribeList(const CEditorList& list, const CMember* pShown, const Pictur
 std::string DescribeEmptyList(const CMember* pShown)
 {
     if (!pShown)
-        return {};
+        return "Reading ..."; // the first folder
     std::string error = pShown->ErrorLine();
     if (!error.empty())
         return error;

@@ -1,5 +1,7 @@
 #include "Editor/frame/WorkView.h"
 
+#include "Toolkit/window/WindowApi.h"
+
 #include <cstdio>
 
 namespace editor
@@ -56,6 +58,7 @@ void WorkView::Show(const Progress& progress)
     m_strip.MoveWindow(client);
     m_strip.SetState(m_work.GetMeter().IsAskedToEnd() ? "Cancelling ..." : TextOf(progress), PartOf(progress));
     m_strip.ShowWindow(SW_SHOW);
+    ::ShowWindow(GetTopLevel(m_strip.m_hWnd), SW_SHOW); // the first folder takes long to be read
 }
 
 void WorkView::Hide()

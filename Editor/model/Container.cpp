@@ -25,10 +25,37 @@ std::vector<UINT> ByName(const MemberTable& table, Wanted wanted)
 
 } // namespace
 
+// Whoever looks while the members are read aside sees those before or, the first time, none.
+class CContainer::BeingRead
+{
+public:
+    explicit BeingRead(CContainer& container) : m_container(container), m_bFirst(!container.m_pContents)
+    {
+        if (m_bFirst) {
+            m_container.m_pContents = std::make_unique<Contents>();
+            m_container.m_pContents->error = "reading ...";
+        }
+    }
+    ~BeingRead()
+    {
+        if (m_bFirst)
+            m_container.m_pContents.reset();
+    }
+    BeingRead(const BeingRead&) = delete;
+    BeingRead& operator=(const BeingRead&) = delete;
+
+private:
+    CContainer& m_container;
+    const bool m_bFirst;
+};
+
 void CContainer::ReadAgain()
 {
     auto pNow = std::make_unique<Contents>();
-    static_cast<Listing&>(*pNow) = Read();
+    {
+        const BeingRead now(*this);
+        static_cast<Listing&>(*pNow) = Aside(Context().pWork, [this] { return Read(); });
+    }
     if (m_pContents)
         MoveMembers(*m_pContents, *pNow);
     pNow->table.NumberTheRest(Context().nextId);

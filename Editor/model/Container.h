@@ -103,6 +103,7 @@ protected:
 private:
     friend class CMember;
 
+    class BeingRead;
     struct Gone
     {
         std::string name;

@@ -21,7 +21,10 @@ CContainer::Listing CFolder::Read()
         return listing;
     }
     m_identity = directory.GetIdentity();
+    Meter* const pMeter = MeterOf(Context().pWork);
     directory.ForEach([&](const char* pszName, bool isDirectory) {
+        if (pMeter)
+            pMeter->Did(1);
         const auto kind = isDirectory ? MemberKind::Folder : KindOfName(pszName);
         if (kind)
             listing.table.Add(pszName, *kind);

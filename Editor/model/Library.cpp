@@ -45,7 +45,8 @@ std::vector<std::string> PartsBelow(const std::string& root, const std::string& 
 } // namespace
 
 CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std::string>& extensions,
-                                  std::shared_ptr<PictureStore> pPictures, std::string& error, FolderWatch* pWatch)
+                                  std::shared_ptr<PictureStore> pPictures, std::string& error, FolderWatch* pWatch,
+                                  LongWork* pWork)
 {
     LibraryContext context;
     error = FindFolder(path, context.rootPath);
@@ -55,6 +56,7 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
         std::sort(context.pictureExtensions.begin(), context.pictureExtensions.end());
         context.pPictures = std::move(pPictures);
         context.pWatch = pWatch;
+        context.pWork = pWork;
         pLibrary = CStubRef<CLibrary>::Adopt(new CLibrary(std::move(context)));
         pLibrary->ReadAgain();
         error = pLibrary->ErrorReason();

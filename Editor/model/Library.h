@@ -14,10 +14,9 @@ public:
     // the reason, when there is no such folder or it cannot be read. The watch, of its folders, is borrowed.
     [[nodiscard]] static CStubRef<CLibrary> Open(const std::string& path, const std::vector<std::string>& extensions,
                                                  std::shared_ptr<PictureStore> pPictures, std::string& error,
-                                                 FolderWatch* pWatch = nullptr);
+                                                 FolderWatch* pWatch = nullptr, LongWork* pWork = nullptr);
 
-    void SetHistory(History* pHistory);                        // borrowed
-    void SetWork(LongWork* pWork) { m_context.pWork = pWork; } // borrowed
+    void SetHistory(History* pHistory); // borrowed
 
     // What lies at an absolute path; NULL where nothing does. Reads all containers above it.
     CStubRef<CMember> Find(const std::string& path);
