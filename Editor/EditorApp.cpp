@@ -39,7 +39,7 @@ struct EditorApp::Parts
     // The window, which is not shown yet, comes when this takes long.
     CStubRef<CLibrary> Read(const std::string& path, std::string& error)
     {
-        const LongWork::Command command(&atomEditor.GetWork(), "Reading", Progress::Unit::Objects);
+        const LongWork::Command command(&atomEditor.GetWork(), "Reading", Progress::Unit::Found);
         CStubRef<CLibrary> pLibrary =
             CLibrary::Open(path, reader.Extensions(), pPictures, error, pWatch.get(), &atomEditor.GetWork());
         if (pLibrary)

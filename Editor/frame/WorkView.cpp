@@ -28,8 +28,10 @@ std::string Amount(std::uint64_t amount, Progress::Unit unit)
 
 std::string TextOf(const Progress& progress)
 {
+    if (progress.done == 0)
+        return progress.what + " ...";
     const std::string of = progress.total > 0 ? " of " + Amount(progress.total, progress.unit) : std::string();
-    const char* const pszUnit = progress.unit == Progress::Unit::Objects ? " objects" : "";
+    const char* const pszUnit = progress.unit == Progress::Unit::Bytes ? "" : " objects";
     return progress.what + ": " + Amount(progress.done, progress.unit) + of + pszUnit;
 }
 
@@ -56,7 +58,8 @@ void WorkView::Show(const Progress& progress)
     CRect client;
     m_pStatusBar->GetClientRect(&client);
     m_strip.MoveWindow(client);
-    m_strip.SetState(m_work.GetMeter().IsAskedToEnd() ? "Cancelling ..." : TextOf(progress), PartOf(progress));
+    m_strip.SetState(m_work.GetMeter().IsAskedToEnd() ? "Cancelling ..." : TextOf(progress), PartOf(progress),
+                     progress.unit != Progress::Unit::Found);
     m_strip.ShowWindow(SW_SHOW);
     ::ShowWindow(GetTopLevel(m_strip.m_hWnd), SW_SHOW); // the first folder takes long to be read
 }

@@ -31,10 +31,11 @@ BOOL CProgressStrip::Create(CWnd* pParent)
     return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
 }
 
-void CProgressStrip::SetState(std::string text, double dPart)
+void CProgressStrip::SetState(std::string text, double dPart, bool bCanCancel)
 {
-    if (text == m_text && dPart == m_dPart)
+    if (text == m_text && dPart == m_dPart && bCanCancel == m_bCanCancel)
         return;
+    m_bCanCancel = bCanCancel;
     m_text = std::move(text);
     m_dPart = dPart;
     Invalidate();
@@ -60,31 +61,42 @@ void CProgressStrip::OnPaint()
     const CPaintDC dc(this);
     CRect client;
     GetClientRect(&client);
+    client.DeflateRect(2 * kSpace, 0);
+    if (m_bCanCancel)
+        client.right = DrawButton(dc).left - 2 * kSpace;
+    if (m_dPart >= 0)
+        client.right = DrawBar(dc, client).left - 2 * kSpace;
+    DrawTextLine(dc, client, m_text, GetSysColor(COLOR_WINDOWTEXT));
+}
+
+CRect CProgressStrip::DrawButton(HDC hdc) const
+{
     const CRect button = CancelRect();
-    FillSolidRect(dc, button, LineColor());
+    FillSolidRect(hdc, button, LineColor());
     CRect inside = button;
     inside.DeflateRect(1, 1);
-    FillSolidRect(dc, inside, HoverColor());
-    DrawTextLine(dc, button, kCancelText, GetSysColor(COLOR_WINDOWTEXT), Align::Center);
+    FillSolidRect(hdc, inside, HoverColor());
+    DrawTextLine(hdc, button, kCancelText, GetSysColor(COLOR_WINDOWTEXT), Align::Center);
+    return button;
+}
 
-    const int nBar = std::min(kBarWidth, client.Width() / 3);
-    const CRect bar(CPoint(button.left - 2 * kSpace - nBar, (client.Height() - kBarHeight) / 2),
-                    CSize(nBar, kBarHeight));
-    FillSolidRect(dc, bar, LineColor());
+// At the right of the room that there is.
+CRect CProgressStrip::DrawBar(HDC hdc, const CRect& room) const
+{
+    const int nWidth = std::min(kBarWidth, room.Width() / 3);
+    const CRect bar(CPoint(room.right - nWidth, room.top + (room.Height() - kBarHeight) / 2),
+                    CSize(nWidth, kBarHeight));
+    FillSolidRect(hdc, bar, LineColor());
     CRect done = bar;
-    done.right = done.left + static_cast<int>(nBar * std::clamp(m_dPart, 0.0, 1.0));
-    FillSolidRect(dc, done, GetSysColor(COLOR_HIGHLIGHT));
-
-    CRect text = client;
-    text.left += 2 * kSpace;
-    text.right = bar.left - 2 * kSpace;
-    DrawTextLine(dc, text, m_text, GetSysColor(COLOR_WINDOWTEXT));
+    done.right = done.left + static_cast<int>(nWidth * std::min(m_dPart, 1.0));
+    FillSolidRect(hdc, done, GetSysColor(COLOR_HIGHLIGHT));
+    return bar;
 }
 
 void CProgressStrip::OnLButtonDown(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonDown(nFlags, point);
-    if (CancelRect().PtInRect(point))
+    if (m_bCanCancel && CancelRect().PtInRect(point))
         m_cancel();
 }
 

@@ -13,11 +13,12 @@ namespace editor
 class CProgressStrip : public CWnd
 {
 public:
+    // `cancel` may be called before anything is shown.
     explicit CProgressStrip(std::function<void()> cancel) : m_cancel(std::move(cancel)) {}
     ~CProgressStrip() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);                    // not shown yet
-    void SetState(std::string text, double dPart); // 0 to 1; less: not known
+    BOOL Create(CWnd* pParent);                                     // not shown yet
+    void SetState(std::string text, double dPart, bool bCanCancel); // 0 to 1; less: not known, and no bar
     const std::string& GetText() const { return m_text; }
     CRect CancelRect() const;
 
@@ -30,9 +31,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    CRect DrawButton(HDC hdc) const;
+    CRect DrawBar(HDC hdc, const CRect& room) const;
+
     const std::function<void()> m_cancel;
     std::string m_text;
     double m_dPart = -1;
+    bool m_bCanCancel = false;
 };
 
 } // namespace editor

@@ -19,7 +19,8 @@ struct Progress
     enum class Unit
     {
         Bytes,
-        Objects
+        Objects,
+        Found // objects, of which nobody knows how many there are: this cannot be cancelled
     };
 
     std::string what; // "Copying"
@@ -73,10 +74,15 @@ public:
 
     bool IsUnderWay() const { return m_nCommands > 0; }
     bool IsCancelled() const { return m_nCommands > 0 && m_meter.IsCancelled(); } // for whoever then ends
-    // Did the last one end early, because the user asked for it? Asked until the answer is taken, or another one begins.
+    // Did the last one end early, because the user asked for it? Asked until the answer is taken, or another one
+    // begins.
     bool WasCancelled() const { return m_bWasCancelled; }
     bool TakeCancelled() { return std::exchange(m_bWasCancelled, false); }
-    void Cancel() { m_meter.Cancel(); }
+    void Cancel() // what can be
+    {
+        if (m_progress.unit != Progress::Unit::Found)
+            m_meter.Cancel();
+    }
     Meter& GetMeter() { return m_meter; }
 
     void Run(const std::function<void()>& task); // returns when it is done, and raises what it raises
