@@ -40,7 +40,7 @@ private:
 
 // Base with these interfaces besides.
 template <class Base, class... Interfaces>
-class With : public Base, public virtual Interfaces...
+class HOSTKIT_API With : public Base, public virtual Interfaces...
 {
 protected:
     using Base::Base;
