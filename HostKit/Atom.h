@@ -20,6 +20,7 @@
 #include <new>
 #include <string>
 #include <typeindex>
+#include <unordered_map>
 #include <vector>
 
 namespace hostkit
@@ -67,8 +68,8 @@ private:
     DWORD m_dwOrigin = 0; // whose copy it is, read from an archive of this process
 };
 
-// Keeps its members alive. No two have the same name, in whatever case. What is refused, the container's IMyErrorInfo
-// explains until a change succeeds.
+// Keeps its members alive, and finds each at once by name and identifier. No two have the same name, in whatever case.
+// What is refused, the container's IMyErrorInfo explains until a change succeeds.
 //
 // Add and Remove are the host's own changes and tell nobody: CAtomEditor::Tell does, when views are there.
 class HOSTKIT_API CContainer : public With<CAtom, IAtomContainer>
@@ -120,6 +121,8 @@ private:
     BOOL Refuse(std::string line); // FALSE
 
     std::vector<CStubRef<CAtom>> m_members;
+    std::unordered_map<std::string, CAtom*> m_byName; // in one case
+    std::unordered_map<DWORD, CAtom*> m_byId;
     std::string m_failure;
 };
 

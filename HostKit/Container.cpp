@@ -18,6 +18,18 @@ void Clear(void** ppOut)
         *ppOut = nullptr;
 }
 
+std::string InOneCase(std::string_view name)
+{
+    std::string folded;
+    while (!name.empty()) {
+        const toolkit::CodePoint c = toolkit::DecodeUtf8(name);
+        const bool bValid = c.value < 0x110000;
+        folded += bValid ? toolkit::EncodeUtf8(toolkit::FoldCase(c.value)) : std::string(name.substr(0, 1));
+        name.remove_prefix(static_cast<std::size_t>(c.bytes));
+    }
+    return folded;
+}
+
 BOOL Give(CAtom* pAtom, void** ppOut, DWORD dwInterfaceId)
 {
     Clear(ppOut);
@@ -39,6 +51,8 @@ CAtom* CContainer::Add(CAtom* pAtom)
     if (!pAtom || pAtom->m_pContainer || IsWithin(*pAtom) || !NameTrouble(pAtom->m_name).empty() || Find(pAtom->m_name))
         return nullptr;
     m_members.push_back(CStubRef<CAtom>::Share(pAtom));
+    m_byName[InOneCase(pAtom->m_name)] = pAtom;
+    m_byId[pAtom->m_dwID] = pAtom;
     pAtom->m_pContainer = this;
     return pAtom;
 }
@@ -53,6 +67,8 @@ CStubRef<CAtom> CContainer::TakeOut(CAtom& member)
     const auto found = std::ranges::find(m_members, &member, &CStubRef<CAtom>::Get);
     CStubRef<CAtom> pRemoved = std::move(*found);
     m_members.erase(found);
+    m_byName.erase(InOneCase(member.m_name));
+    m_byId.erase(member.m_dwID);
     member.m_pContainer = nullptr;
     return pRemoved;
 }
@@ -74,8 +90,8 @@ void CContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterf
 
 BOOL CContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
 {
-    const auto found = std::ranges::find(m_members, dwID, [](const auto& pMember) { return pMember->m_dwID; });
-    return Give(found == m_members.end() ? nullptr : found->Get(), ppOut, dwInterfaceId);
+    const auto found = m_byId.find(dwID);
+    return Give(found == m_byId.end() ? nullptr : found->second, ppOut, dwInterfaceId);
 }
 
 BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
@@ -85,9 +101,8 @@ BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId
 
 CAtom* CContainer::Find(std::string_view name) const
 {
-    const auto found = std::ranges::find_if(
-        m_members, [=](const auto& pMember) { return toolkit::CompareNoCase(pMember->m_name, name) == 0; });
-    return found == m_members.end() ? nullptr : found->Get();
+    const auto found = m_byName.find(InOneCase(name));
+    return found == m_byName.end() ? nullptr : found->second;
 }
 
 BOOL CContainer::AddAtom(IAtom* pSource, DWORD, const char* pszName, void** ppOut, DWORD dwInterfaceId)
