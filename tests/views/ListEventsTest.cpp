@@ -65,6 +65,26 @@ TEST_F(ListEventsTest, AClickIsAskedForAndThenToldAndNewsOfAtomsChangeRows)
     EXPECT_EQ("[a c d]", list.State());
 }
 
+TEST_F(ListEventsTest, WhereTheHostWishesItNewAtomsComeToTheirPlaces)
+{
+    list.PlaceNewAtoms();
+    box->permissions = APF_RENAME;
+    const HWND hField = list.EditLabel(2);
+    Create("bee");
+    EXPECT_EQ("[a b (*bee) c d]", list.State());
+    Create("Cat");
+    Create("e");
+    Create("0");
+    desktop.Run();
+    EXPECT_EQ("[(*0) a b bee c Cat d e]", list.State());
+    EXPECT_EQ("0 0, a 0, b 0, bee 0, c 0, Cat 0, d 0, e 0", Shown(list, 0, 7)) << "and shows as what it is";
+    SetWindowText(hField, "f");
+    desktop.Key(VK_RETURN);
+    EXPECT_EQ("[0 a b bee (*Cat) d e f]", list.State()) << "it was its atom's label that was being edited";
+    Delete("bee");
+    EXPECT_EQ(4, RowOf("d"));
+}
+
 TEST_F(ListEventsTest, WhereverItsNameHasLedItAnAtomIsFoundAndSeen)
 {
     for (int i = 10; i < 90; ++i)
