@@ -2,6 +2,8 @@
 
 #include "Editor/frame/EditorList.h"
 #include "Editor/frame/EditorTree.h"
+#include "Editor/model/Folder.h"
+#include "Editor/services/ActiveMembers.h"
 #include "Editor/services/AtomEditor.h"
 #include "Toolkit/message/TaskInbox.h"
 #include "Views/clipboard/Commands.h"
@@ -65,6 +67,31 @@ BOOL Drop(COleDataObject* pData, const CStubRef<IAtomContainer>& pContainer, con
     return FALSE;
 }
 
+// A folder takes no second object of a name by a move, and the mouse alone does not tell why.
+std::string WhyNotMoved(IAtomContainer* pContainer)
+{
+    auto* const pFolder = dynamic_cast<CFolder*>(pContainer);
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    if (!pFolder || !pEditor)
+        return {};
+    for (const ActiveMember& member : GetActiveMembers(*pEditor.Get())) {
+        const CMember* const pMember = CMember::Of(member.pAtom.Get());
+        if (!pMember || member.pContainer.Get() == pContainer || CStubRef<IImageLink>::From(member.pAtom.Get()))
+            continue;
+        if (pContainer->FindAtom(std::string(pMember->Name()).c_str(), nullptr, 0))
+            return pFolder->ShownName() + ": there is a \"" + pMember->ShownName() +
+                   "\" already. With Ctrl a copy comes beside it";
+    }
+    return {};
+}
+
+void TellIfRefused(HoveredPlace& place, DROPEFFECT effect, bool bControl, IAtomContainer* pContainer,
+                   const DropRefused& refused)
+{
+    if (place.TakeNew())
+        refused(effect == DROPEFFECT_NONE && !bControl ? WhyNotMoved(pContainer) : std::string());
+}
+
 } // namespace
 
 DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
@@ -72,8 +99,11 @@ DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject
     const auto pContainer = m_list.ContainerAt(point);
     if (!HasAtoms(pDataObject))
         return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
-    return m_hovered.EffectAt(m_list.RowAt(point), pContainer, dwKeyState & MK_CONTROL,
-                              [&] { return FindEffect(pWnd, pDataObject, dwKeyState, point); });
+    const bool bControl = dwKeyState & MK_CONTROL;
+    const DROPEFFECT effect = m_hovered.EffectAt(m_list.RowAt(point), pContainer, bControl,
+                                                 [&] { return FindEffect(pWnd, pDataObject, dwKeyState, point); });
+    TellIfRefused(m_hovered, effect, bControl, pContainer.Get(), m_refused);
+    return effect;
 }
 
 DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
@@ -102,9 +132,15 @@ void CEditorListTarget::OnDragLeave(CWnd* pWnd)
 DROPEFFECT CEditorTreeTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
     const auto pContainer = m_tree.ContainerAt(point);
-    if (HasAtoms(pDataObject))
-        return m_hovered.EffectAt(reinterpret_cast<INT_PTR>(m_tree.HitTest(point)), pContainer, dwKeyState & MK_CONTROL,
-                                  [&] { return CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point); });
+    if (HasAtoms(pDataObject)) {
+        const bool bControl = dwKeyState & MK_CONTROL;
+        const auto nItem = reinterpret_cast<INT_PTR>(m_tree.HitTest(point));
+        const DROPEFFECT effect = m_hovered.EffectAt(nItem, pContainer, bControl, [&] {
+            return CTreeDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
+        });
+        TellIfRefused(m_hovered, effect, bControl, pContainer.Get(), m_refused);
+        return effect;
+    }
     const bool bTaken = pDataObject && OffersFilesFor(*pDataObject, pContainer.Get());
     Highlight(bTaken ? m_tree.HitTest(point) : nullptr);
     return bTaken ? DROPEFFECT_COPY : DROPEFFECT_NONE;

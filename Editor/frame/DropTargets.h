@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace editor
 {
@@ -16,6 +17,8 @@ class CEditorTree;
 
 // Told once the drag is over, with the reason, of a drop that was not taken as a whole.
 using DropFailed = std::function<void(std::string)>;
+// Told while it goes on, why nothing may be moved to where it is; empty: it may be, or there is no more to say.
+using DropRefused = std::function<void(const std::string&)>;
 
 // What a drop would do where the drag was last, at the most what is safe there (SafeEffect). While it stays over the
 // same row or item, neither what is dragged nor the container is looked at again, which takes its time when that is
@@ -29,17 +32,18 @@ public:
         const bool bSame = m_bKnown && nItem == m_nItem && pContainer.Get() == m_pContainer.Get();
         if (!bSame || bControl != m_bControl) {
             m_effect = SafeEffect(find(), pContainer.Get(), bControl);
-            m_bKnown = true;
+            m_bKnown = m_bNew = true;
             m_nItem = nItem;
             m_pContainer = CStubRef<IAtomContainer>::Share(pContainer.Get());
             m_bControl = bControl;
         }
         return m_effect;
     }
+    bool TakeNew() { return std::exchange(m_bNew, false); } // has it been looked at since that was asked?
     void Forget() { *this = {}; }
 
 private:
-    bool m_bKnown = false, m_bControl = false;
+    bool m_bKnown = false, m_bControl = false, m_bNew = false;
     INT_PTR m_nItem = 0;
     CStubRef<IAtomContainer> m_pContainer;
     DROPEFFECT m_effect = DROPEFFECT_NONE;
@@ -50,7 +54,9 @@ private:
 class CEditorListTarget final : public CListDropTarget
 {
 public:
-    CEditorListTarget(CEditorList& list, DropFailed failed) : m_list(list), m_failed(std::move(failed)) {} // borrowed
+    CEditorListTarget(CEditorList& list, DropFailed failed, DropRefused refused) // borrowed
+        : m_list(list), m_failed(std::move(failed)), m_refused(std::move(refused))
+    {}
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
@@ -61,13 +67,16 @@ private:
 
     CEditorList& m_list;
     const DropFailed m_failed;
+    const DropRefused m_refused;
     HoveredPlace m_hovered; // by atoms
 };
 
 class CEditorTreeTarget final : public CTreeDropTarget
 {
 public:
-    CEditorTreeTarget(CEditorTree& tree, DropFailed failed) : m_tree(tree), m_failed(std::move(failed)) {} // borrowed
+    CEditorTreeTarget(CEditorTree& tree, DropFailed failed, DropRefused refused) // borrowed
+        : m_tree(tree), m_failed(std::move(failed)), m_refused(std::move(refused))
+    {}
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
@@ -78,6 +87,7 @@ private:
 
     CEditorTree& m_tree;
     const DropFailed m_failed;
+    const DropRefused m_refused;
     HoveredPlace m_hovered;             // by atoms
     HTREEITEM m_hHighlighted = nullptr; // by files
 };

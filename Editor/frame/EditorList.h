@@ -26,6 +26,7 @@ public:
         std::function<void()> painted;             // rows have come into sight, and may have wished for pictures
         std::function<IAtomContainer*()> askShown; // what the active list shows, borrowed
         DropFailed dropFailed;
+        DropRefused dropRefused;
         std::function<void()> pressed; // a mouse button, on the list
     };
 
@@ -94,7 +95,7 @@ public:
     CEditorListOf(CSize picture, Events events)
         : CEditorList(*this, std::move(events)),
           m_picture(picture),
-          m_target(*this, GetEvents().dropFailed),
+          m_target(*this, GetEvents().dropFailed, GetEvents().dropRefused),
           m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); })
     {
         View::PlaceNewAtoms();

@@ -39,8 +39,8 @@ BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
-CEditorTree::CEditorTree(DropFailed dropFailed)
-    : m_target(*this, std::move(dropFailed)), m_nameField(*this, [this](IAtom* pAtom) -> HWND {
+CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused)
+    : m_target(*this, std::move(dropFailed), std::move(dropRefused)), m_nameField(*this, [this](IAtom* pAtom) -> HWND {
           const HTREEITEM hItem = GetItem(pAtom);
           return hItem ? EditLabel(hItem) : nullptr;
       })

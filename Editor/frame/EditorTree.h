@@ -16,7 +16,7 @@ class CMember;
 class CEditorTree : public CObjectsTree
 {
 public:
-    explicit CEditorTree(DropFailed dropFailed);
+    CEditorTree(DropFailed dropFailed, DropRefused dropRefused);
     ~CEditorTree() override { DestroyWindow(); }
 
     void ExpandAtom(IAtom* pAtom);                             // nothing when it is not shown or has no members

@@ -48,7 +48,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::functio
       m_splitter([this](int x) { MoveSplitter(x); }),
       m_content(pictures, ListEvents(), [this] { UpdateStatus(); }),
       m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
-      m_tree(ReportDrop()),
+      m_tree(ReportDrop(), [this](const std::string& line) { TellNews(line); }),
       m_properties({[this] { return SelectedPhases(); },
                     [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),

@@ -62,6 +62,7 @@ CEditorList::Events CMainFrame::ListEvents()
             {},
             [this] { return static_cast<IAtomContainer*>(ShownContainer()); },
             ReportDrop(),
+            [this](const std::string& line) { TellNews(line); },
             [this] { ForgetNews(); }};
 }
 

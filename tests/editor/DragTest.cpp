@@ -111,6 +111,19 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
     EXPECT_EQ(Ledger({"Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
 }
 
+TEST_F(DragTest, ANameThatIsTakenIsToldOfWhileTheDragIsThere)
+{
+    folder.Make("Bo/b.bmp");
+    Open();
+    DoubleClick("Ada");
+    Drag(List(), PlaceOf("b.bmp"), [&] {
+        DropOnTree("Bo");
+        EXPECT_EQ("Bo: there is a \"b.bmp\" already. With Ctrl a copy comes beside it", Frame().GetStatus().news);
+    });
+    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/b.bmp", folder.Everything());
+    EXPECT_EQ(Ledger(), TakeBoxes());
+}
+
 TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
 {
     Open();
