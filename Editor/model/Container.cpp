@@ -70,10 +70,15 @@ void CContainer::ReadAgain(MemberNews& news)
         return;
     const MemberTable former = Members().table;
     ReadAgain();
-    const MemberTable& now = m_pContents->table;
+    MemberTable& now = m_pContents->table;
     news.isOther = former.GetCount() != now.GetCount();
-    for (UINT i = 0; !news.isOther && i < now.GetCount(); ++i)
-        news.isOther = former.NameOf(i) != now.NameOf(i) || former.KindOf(i) != now.KindOf(i);
+    for (UINT i = 0; i < now.GetCount() && i < former.GetCount(); ++i) {
+        if (former.NameOf(i) == now.NameOf(i) && former.KindOf(i) == now.KindOf(i))
+            continue;
+        news.isOther = true;
+        if (now.LiveAt(i) && now.IdOf(i) == former.IdOf(i)) // in its place, under another name
+            news.written.push_back(CStubRef<CMember>::Share(now.LiveAt(i)));
+    }
 }
 
 CMember* CContainer::LiveMember(std::string_view name)
@@ -156,7 +161,8 @@ BOOL CContainer::GiveMember(UINT nIndex, void** ppOut, DWORD dwInterfaceId)
     return !ppOut || *ppOut;
 }
 
-// Former and present members, both in the order of their names, go side by side.
+// Former and present members, both in the order of their names, go side by side. Where none has come or gone, a place
+// whose name is new to the container may be the same member's.
 void CContainer::MoveMembers(Contents& former, Contents& contents)
 {
     MemberTable& now = contents.table;
@@ -164,6 +170,7 @@ void CContainer::MoveMembers(Contents& former, Contents& contents)
     const std::vector<UINT> alive = ByName(former.table, [&](UINT i) { return former.table.LiveAt(i) != nullptr; });
     const std::vector<UINT> present = ByName(now, [&](UINT) { return !alive.empty(); });
     auto next = present.begin();
+    std::vector<UINT> missed;
     for (const UINT i : alive) {
         const std::string_view name = former.table.NameOf(i);
         while (next != present.end() && now.NameOf(*next) < name)
@@ -175,9 +182,18 @@ void CContainer::MoveMembers(Contents& former, Contents& contents)
             now.Identify(*next, former.table.IdOf(i), &member);
             member.m_nIndex = *next++;
         } else {
-            contents.gone[&member] = {std::string(name), former.table.IdOf(i)};
-            member.m_nIndex = MemberTable::kNone;
+            missed.push_back(i);
         }
+    }
+    const bool bPlaces = KeepsPlaces() && now.GetCount() == former.table.GetCount();
+    for (const UINT i : missed) {
+        CMember& member = *former.table.LiveAt(i);
+        if (bPlaces && now.IdOf(i) == 0) {
+            now.Identify(i, former.table.IdOf(i), &member);
+            continue;
+        }
+        contents.gone[&member] = {std::string(former.table.NameOf(i)), former.table.IdOf(i)};
+        member.m_nIndex = MemberTable::kNone;
     }
 }
 

@@ -73,6 +73,7 @@ protected:
     std::string LastErrorLine() const override;
     virtual Listing Read() = 0;
     virtual bool FindAny() { return GetCount() > 0; }
+    virtual bool KeepsPlaces() const { return false; } // is a member what stands in its place, whatever its name?
     virtual UINT FindName(const MemberTable& table, std::string_view name) const = 0;
     virtual CMember* MakeMember(UINT nIndex, MemberKind kind) = 0; // with one reference
 

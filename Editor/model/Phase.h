@@ -46,6 +46,7 @@ public:
 
 protected:
     Listing Read() override;
+    bool KeepsPlaces() const override { return true; }
     UINT FindName(const MemberTable& table, std::string_view name) const override;
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;
     toolkit::Surface DrawIcon(CSize size) override;

@@ -275,6 +275,17 @@ TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMovedAndComeBackWithIt)
     EXPECT_EQ("#delay 80\nc.bmp\nAda/c.bmp\n|# b\r\nc.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n", phases())
         << "also where another picture takes the place that a line leads to first";
     EXPECT_EQ("[b.bmp (*c.bmp) Poses run.phase]", Rows());
+    GoTo("walk.phase");
+    desktop.Click(List(), PlaceOf("c.bmp") + CPoint(100, 0)); // Ada's
+    const auto rename = [&](const char* pszFrom, const char* pszTo) {
+        const auto pMember = Frame().GetNavigation().Library()->Find(folder.At(pszFrom));
+        Frame().GetCommands().GetPlain().Rename(pMember.Get(), pszTo);
+        Settle();
+    };
+    rename("Ada/c.bmp", "zoe.bmp");
+    EXPECT_EQ("/walk.phase/ | [c.bmp (*zoe.bmp)] | 2 objects, 1 selected | zoe.bmp: 8 x 8 pixels", Screen());
+    rename("Ada/zoe.bmp", "c.bmp");
+    GoTo("Ada");
     Click("run.phase");
     desktop.Run();
     EXPECT_EQ(unsaved, Frame().GetProperties().GetText()) << "what is not saved of a phase is kept";
