@@ -5,6 +5,7 @@
 #include "QtDesktop/QtDrag.h"
 #include "QtDesktop/QtMenu.h"
 #include "QtDesktop/QtMessageBox.h"
+#include "QtDesktop/QtOutside.h"
 #include "QtDesktop/QtTextEngine.h"
 #include "QtDesktop/QtWindow.h"
 #include "QtDesktop/QueuePump.h"
@@ -14,6 +15,8 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QScreen>
+#include <QToolTip>
 #include <map>
 #include <utility>
 
@@ -143,6 +146,39 @@ void QtDesktop::ShowCursor(toolkit::Cursor cursor)
         pWindow->ShowShape(cursor);
 }
 
+void QtDesktop::ShowToolTip(HWND hTop, const std::string& text, const CRect& part)
+{
+    QtWindow* const pWindow = m_parts->Find(hTop);
+    if (!pWindow || text.empty())
+        return QToolTip::hideText();
+    const QPoint at = pWindow->mapFromGlobal(QPoint(part.left, part.top));
+    QToolTip::showText({part.left, part.bottom}, QString::fromStdString(text).toHtmlEscaped(), pWindow,
+                       {at.x(), at.y(), part.Width(), part.Height()});
+}
+
+CRect QtDesktop::GetWorkArea(CPoint screen)
+{
+    const QScreen* const pThere = QGuiApplication::screenAt({screen.x, screen.y});
+    const QScreen* const pScreen = pThere ? pThere : QGuiApplication::primaryScreen();
+    const QRect area = pScreen ? pScreen->availableGeometry() : QRect();
+    return {CPoint(area.x(), area.y()), CSize(area.width(), area.height())};
+}
+
+std::optional<std::string> QtDesktop::AskFolder(HWND hOwner, const std::string& title, const std::string& start)
+{
+    return AskForFolder(m_parts->Find(GetTopLevel(hOwner)), title, start);
+}
+
+std::string QtDesktop::OpenOutside(const std::string& path)
+{
+    return OpenWithItsProgram(path);
+}
+
+std::string QtDesktop::ShowOutside(const std::string& path)
+{
+    return ShowInFileManager(path);
+}
+
 void QtDesktop::TextInputChanged()
 {
     for (const auto& [hTop, pWindow] : m_parts->windows)
@@ -166,7 +202,7 @@ DROPEFFECT QtDesktop::RunDrag(std::shared_ptr<toolkit::OfferedData> data, DROPEF
 
 UINT QtDesktop::TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen)
 {
-    return TrackPopup(m_parts->Find(GetTopLevel(hOwner)), items, screen);
+    return TrackPopup(m_parts->Find(GetTopLevel(hOwner)), hOwner, items, screen);
 }
 
 } // namespace qtdesktop

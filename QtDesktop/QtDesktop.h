@@ -42,6 +42,11 @@ public:
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void Quit(int nStatus) override; // ends the application's exec()
     void ShowCursor(toolkit::Cursor cursor) override;
+    void ShowToolTip(HWND hTop, const std::string& text, const CRect& part) override;
+    CRect GetWorkArea(CPoint screen) override;
+    std::optional<std::string> AskFolder(HWND hOwner, const std::string& title, const std::string& start) override;
+    std::string OpenOutside(const std::string& path) override;
+    std::string ShowOutside(const std::string& path) override;
     void TextInputChanged() override;
     UINT TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen) override;
     BOOL PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;

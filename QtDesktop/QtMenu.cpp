@@ -1,5 +1,10 @@
 #include "QtDesktop/QtMenu.h"
 
+#include "Toolkit/message/Dispatch.h"
+#include "Toolkit/message/Messages.h"
+
+#include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
 
@@ -8,15 +13,72 @@ namespace qtdesktop
 namespace
 {
 
-void AddItem(QMenu& menu, const toolkit::MenuItem& item);
-
-void AddItems(QMenu& menu, const std::vector<toolkit::MenuItem>& items)
+QPoint ScreenPoint(const QMouseEvent& event)
 {
-    for (const toolkit::MenuItem& item : items)
-        AddItem(menu, item);
+    return event.globalPosition().toPoint();
 }
 
-void AddItem(QMenu& menu, const toolkit::MenuItem& item)
+// Asks the menu's owner about what goes beyond the menu, and ends it when the owner has another use for it.
+class WaysOut : public QObject
+{
+public:
+    WaysOut(QMenu& top, HWND hOwner) : m_top(top), m_hOwner(hOwner) {}
+
+protected:
+    bool eventFilter(QObject* pMenu, QEvent* pEvent) override
+    {
+        switch (pEvent->type()) {
+        case QEvent::KeyPress:
+            return LeavesByKey(static_cast<QMenu&>(*pMenu), static_cast<QKeyEvent*>(pEvent)->key());
+        case QEvent::MouseMove:
+            return LeavesAt(0, ScreenPoint(*static_cast<QMouseEvent*>(pEvent)));
+        case QEvent::MouseButtonPress:
+            return LeavesAt(VK_LBUTTON, ScreenPoint(*static_cast<QMouseEvent*>(pEvent)));
+        default:
+            return false;
+        }
+    }
+
+private:
+    bool LeavesByKey(const QMenu& menu, int key)
+    {
+        const bool bOpensMenu = menu.activeAction() && menu.activeAction()->menu();
+        if (key == Qt::Key_Left && &menu == &m_top)
+            return Ask(VK_LEFT, {});
+        return key == Qt::Key_Right && !bOpensMenu && Ask(VK_RIGHT, {});
+    }
+
+    bool LeavesAt(UINT vkey, QPoint at)
+    {
+        for (const QWidget* pMenu = QApplication::activePopupWidget(); pMenu; pMenu = pMenu->parentWidget())
+            if (pMenu->windowType() == Qt::Popup && pMenu->geometry().contains(at))
+                return false;
+        return Ask(vkey, at);
+    }
+
+    bool Ask(UINT vkey, QPoint at)
+    {
+        if (!SendMessage(m_hOwner, WM_NEXTMENU, vkey, MAKELPARAM(at.x(), at.y())))
+            return false;
+        m_top.close();
+        return true;
+    }
+
+    QMenu& m_top;
+    const HWND m_hOwner;
+};
+
+void AddItem(QMenu& menu, const toolkit::MenuItem& item, QObject& filter);
+
+void AddItems(QMenu& menu, const std::vector<toolkit::MenuItem>& items, QObject& filter)
+{
+    menu.setToolTipsVisible(true);
+    menu.installEventFilter(&filter);
+    for (const toolkit::MenuItem& item : items)
+        AddItem(menu, item, filter);
+}
+
+void AddItem(QMenu& menu, const toolkit::MenuItem& item, QObject& filter)
 {
     const QString text = QString::fromStdString(item.text);
     QAction* pAction = item.separator ? menu.addSeparator()
@@ -26,17 +88,19 @@ void AddItem(QMenu& menu, const toolkit::MenuItem& item)
     pAction->setCheckable(item.checked);
     pAction->setChecked(item.checked);
     pAction->setData(item.command);
+    pAction->setToolTip(QString::fromStdString(item.hint));
     if (item.popup)
-        AddItems(*pAction->menu(), item.items);
+        AddItems(*pAction->menu(), item.items, filter);
 }
 
 } // namespace
 
-UINT TrackPopup(QWidget* pOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen)
+UINT TrackPopup(QWidget* pOwner, HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen)
 {
     // Its owner deletes the menu when it goes while the menu is open.
     const QPointer<QMenu> pMenu = new QMenu(pOwner);
-    AddItems(*pMenu, items);
+    WaysOut waysOut(*pMenu, hOwner);
+    AddItems(*pMenu, items, waysOut);
     const QAction* pChosen = pMenu->exec(QPoint(screen.x, screen.y));
     if (!pMenu)
         return 0;

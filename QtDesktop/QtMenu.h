@@ -9,7 +9,8 @@ class QWidget;
 namespace qtdesktop
 {
 
-// Waits for the user; the chosen command, 0 when nothing was chosen or the owner went meanwhile.
-UINT TrackPopup(QWidget* pOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen);
+// Waits for the user, and asks the window hOwner about what goes beyond the menu (WM_NEXTMENU); the chosen command, 0
+// when nothing was chosen or the owner went meanwhile.
+UINT TrackPopup(QWidget* pOwner, HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen);
 
 } // namespace qtdesktop

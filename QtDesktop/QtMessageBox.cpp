@@ -36,6 +36,8 @@ QMessageBox::Icon Icon(UINT nType)
         return QMessageBox::Question;
     case MB_ICONEXCLAMATION:
         return QMessageBox::Warning;
+    case MB_ICONINFORMATION:
+        return QMessageBox::Information;
     default:
         return QMessageBox::NoIcon;
     }

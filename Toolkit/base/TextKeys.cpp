@@ -44,49 +44,110 @@ char FoldAscii(char c)
     return static_cast<char>(letter < 26 ? c + ('a' - 'A') : c);
 }
 
+void AppendFoldedSlowly(std::string& key, std::string_view text)
+{
+    while (!text.empty()) {
+        const auto [c, bytes] = toolkit::DecodeUtf8(text);
+        AppendUtf8(key, toolkit::FoldCase(c));
+        text.remove_prefix(static_cast<std::size_t>(bytes));
+    }
+}
+
+// ASCII, which is nearly everything, goes as it is.
+void AppendFolded(std::string& key, std::string_view text)
+{
+    const std::size_t nStart = key.size();
+    key.append(text);
+    char all = 0;
+    for (char* p = key.data() + nStart; *p; ++p) {
+        all |= *p;
+        *p = FoldAscii(*p);
+    }
+    if (all & 0x80) {
+        key.resize(nStart);
+        AppendFoldedSlowly(key, text);
+    }
+}
+
+constexpr std::string_view kDigits = "0123456789";
+constexpr char kTieBreak = 1;         // stands before what only differs in leading zeros
+constexpr std::size_t kLongest = 255; // what a byte can tell of a number's length
+constexpr char kNumber = '0';         // numbers stand where digits do
+
+// The value's length and then its digits: longer ones are greater. Its leading zeros.
+std::size_t AppendNumber(std::string& key, std::string_view digits)
+{
+    const std::size_t zeros = std::min(digits.find_first_not_of('0'), digits.size() - 1);
+    digits.remove_prefix(zeros);
+    key.push_back(kNumber);
+    key.push_back(static_cast<char>(std::min(digits.size(), kLongest)));
+    key.append(digits);
+    return zeros;
+}
+
+void AppendNatural(std::string& key, std::string_view text)
+{
+    std::string zeros;
+    bool bZeros = false;
+    while (!text.empty()) {
+        const std::size_t number = std::min(text.find_first_of(kDigits), text.size());
+        AppendFolded(key, text.substr(0, number));
+        text.remove_prefix(number);
+        const std::size_t end = std::min(text.find_first_not_of(kDigits), text.size());
+        if (end == 0)
+            break;
+        const std::size_t nZeros = AppendNumber(key, text.substr(0, end));
+        bZeros = bZeros || nZeros > 0;
+        zeros.push_back(static_cast<char>(1 + std::min(nZeros, kLongest - 1)));
+        text.remove_prefix(end);
+    }
+    if (bZeros)
+        key.append(1, kTieBreak).append(zeros);
+}
+
 } // namespace
 
-toolkit::TextKeys::TextKeys(std::size_t nExpected)
+void toolkit::AppendSortKey(std::string& key, std::string_view text, TextOrder order)
+{
+    if (order == TextOrder::Natural)
+        AppendNatural(key, text);
+    else
+        AppendFolded(key, text);
+}
+
+toolkit::TextKeys::TextKeys(std::size_t nExpected, TextOrder order) : m_order(order)
 {
     m_keys.reserve(nExpected);
     m_texts.reserve(nExpected * 16);
 }
 
-void toolkit::TextKeys::Add(const char* pszText)
+toolkit::TextKeys::Key toolkit::TextKeys::Begin()
 {
     if (m_texts.size() > std::numeric_limits<std::uint32_t>::max())
         AfxThrowMemoryException();
-    const Key key{0, static_cast<std::uint32_t>(m_texts.size()), static_cast<std::uint32_t>(m_keys.size())};
-    AppendFolded(pszText);
+    return {0, static_cast<std::uint32_t>(m_texts.size()), static_cast<std::uint32_t>(m_keys.size())};
+}
+
+void toolkit::TextKeys::End(const Key& key)
+{
+    m_texts.push_back('\0');
     m_keys.push_back(key);
     NoteCommonStart(key);
 }
 
-// With its zero. ASCII, which is nearly everything, goes as it is.
-void toolkit::TextKeys::AppendFolded(std::string_view text)
+void toolkit::TextKeys::Add(const char* pszText, std::string_view before)
 {
-    const std::size_t nStart = m_texts.size();
-    m_texts.append(text.data(), text.size() + 1);
-    char* const pText = m_texts.data() + nStart;
-    char all = 0;
-    for (char* p = pText; *p; ++p) {
-        all |= *p;
-        *p = FoldAscii(*p);
-    }
-    if (all & 0x80) {
-        m_texts.resize(nStart);
-        AppendFoldedSlowly(text);
-        m_texts.push_back('\0');
-    }
+    const Key key = Begin();
+    m_texts.append(before);
+    AppendSortKey(m_texts, pszText, m_order);
+    End(key);
 }
 
-void toolkit::TextKeys::AppendFoldedSlowly(std::string_view text)
+void toolkit::TextKeys::AddKey(std::string_view bytes)
 {
-    while (!text.empty()) {
-        const auto [c, bytes] = DecodeUtf8(text);
-        AppendUtf8(m_texts, FoldCase(c));
-        text.remove_prefix(static_cast<std::size_t>(bytes));
-    }
+    const Key key = Begin();
+    m_texts.append(bytes);
+    End(key);
 }
 
 void toolkit::TextKeys::NoteCommonStart(const Key& key)

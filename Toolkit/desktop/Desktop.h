@@ -57,9 +57,28 @@ public:
     virtual void ProcessEvents() {}
 
     virtual int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) = 0;
-    // The command chosen, 0 for none. Messages run meanwhile.
+    // The command chosen, 0 for none. Messages run meanwhile. What the menu has no use for, the owner is asked about by
+    // WM_NEXTMENU; where it answers TRUE the menu ends.
     virtual UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) = 0;
     virtual void ShowCursor(Cursor cursor) = 0;
+    // A word of explanation beside a part of the window, until the mouse leaves that part; screen coordinates. Empty:
+    // none any more.
+    virtual void ShowToolTip(HWND /*hTop*/, const std::string& /*text*/, const CRect& /*part*/) {}
+
+    // Where windows have room on the screen at that point, or else on the first; empty where nobody knows.
+    virtual CRect GetWorkArea(CPoint /*screen*/) { return {}; }
+
+    // What lies outside the program. Paths are absolute, their bytes the file system's.
+    // The folder that the user chooses, who begins at `start`; nullopt: none. Messages run meanwhile.
+    virtual std::optional<std::string> AskFolder(HWND /*hOwner*/, const std::string& /*title*/,
+                                                 const std::string& /*start*/)
+    {
+        return std::nullopt;
+    }
+    // With the program that the user has for such files, or in the file manager, selected. Empty when that was set
+    // going, else the reason.
+    virtual std::string OpenOutside(const std::string& /*path*/) { return "there is no desktop"; }
+    virtual std::string ShowOutside(const std::string& /*path*/) { return "there is no desktop"; }
 
     // The clipboard. Publishing takes it from whoever has it, the program's own former data included, which is not
     // told. The desktop holds the data as long as it is there, renders of it what others ask for, and calls its OnLost

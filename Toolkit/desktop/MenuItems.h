@@ -12,6 +12,7 @@ namespace toolkit
 struct MenuItem
 {
     std::string text; // "&Open\tCtrl+O"; a separator has none
+    std::string hint; // said beside it when the mouse rests there
     UINT command = 0;
     bool separator = false, checked = false, enabled = true;
     bool popup = false;

@@ -10,6 +10,7 @@ inline constexpr UINT MB_YESNO = 0x0004;
 inline constexpr UINT MB_ICONHAND = 0x0010;
 inline constexpr UINT MB_ICONQUESTION = 0x0020;
 inline constexpr UINT MB_ICONEXCLAMATION = 0x0030;
+inline constexpr UINT MB_ICONINFORMATION = 0x0040;
 inline constexpr UINT MB_DEFBUTTON2 = 0x0100; // Enter means the second button
 
 inline constexpr int IDOK = 1;

@@ -201,15 +201,27 @@ int toolkit::HeadlessDesktop::ShowMessageBox(HWND, LPCSTR pszText, LPCSTR pszCap
     return nAnswer;
 }
 
-UINT toolkit::HeadlessDesktop::TrackMenu(HWND, const std::vector<MenuItem>& items, CPoint screen)
+UINT toolkit::HeadlessDesktop::TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen)
 {
     m_menus.push_back(DescribeMenu(items));
     m_menuPlace = screen;
     if (m_choices.empty())
         return 0;
-    const std::string choice = std::move(m_choices.front());
+    const MenuAnswer choice = std::move(m_choices.front());
     m_choices.pop_front();
-    return FindMenuCommand(items, choice);
+    if (choice.vkey == 0)
+        return FindMenuCommand(items, choice.text);
+    SendMessage(hOwner, WM_NEXTMENU, choice.vkey, 0);
+    return 0;
+}
+
+std::optional<std::string> toolkit::HeadlessDesktop::AskFolder(HWND, const std::string&, const std::string&)
+{
+    if (m_folders.empty())
+        return std::nullopt;
+    std::string path = std::move(m_folders.front());
+    m_folders.pop_front();
+    return path;
 }
 
 toolkit::Surface toolkit::HeadlessDesktop::Dump(HWND hWnd)

@@ -60,9 +60,19 @@ public:
 
     // Menus: what the user chooses in the next ones, by its text without mark and shortcut (nothing when there is no
     // such enabled item, or no text is left); and what was shown, as DescribeMenu gives it, where the last one was.
-    void Choose(std::string text) { m_choices.push_back(std::move(text)); }
+    void Choose(std::string text) { m_choices.push_back({std::move(text), 0}); }
     std::vector<std::string> TakeMenus() { return std::exchange(m_menus, {}); }
     CPoint LastMenuPlace() const { return m_menuPlace; } // screen
+    // Goes beyond the next menu instead of choosing, as WM_NEXTMENU tells it; chooses nothing unless that ends the
+    // menu.
+    void GoBeyondMenu(UINT vkey) { m_choices.push_back({"", vkey}); }
+
+    // The tool tip that is shown, "" for none; and what is outside: the folders the user will choose (none is chosen
+    // when no answer is left), and what was asked for: "open PATH", "show PATH".
+    const std::string& ToolTip() const { return m_toolTip; }
+    void AnswerFolder(std::string path) { m_folders.push_back(std::move(path)); }
+    void SetWorkArea(const CRect& area) { m_workArea = area; }
+    std::vector<std::string> TakeOutside() { return std::exchange(m_outside, {}); }
 
     // Drags. One of the program's own runs inside the call that begins it, mostly a MoveTo: the script, made before,
     // then plays its user with MoveTo, Hold, Release, Key(VK_ESCAPE), Advance and the two below. A drag that is still
@@ -103,6 +113,11 @@ public:
     void ProcessEvents() override;
     int ShowMessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType) override;
     void ShowCursor(Cursor cursor) override { m_cursor = cursor; }
+    void ShowToolTip(HWND, const std::string& text, const CRect&) override { m_toolTip = text; }
+    CRect GetWorkArea(CPoint) override { return m_workArea; }
+    std::optional<std::string> AskFolder(HWND, const std::string&, const std::string&) override;
+    std::string OpenOutside(const std::string& path) override { return m_outside.push_back("open " + path), ""; }
+    std::string ShowOutside(const std::string& path) override { return m_outside.push_back("show " + path), ""; }
     UINT TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen) override;
     DROPEFFECT RunDrag(std::shared_ptr<OfferedData> data, DROPEFFECT allowed) override;
     BOOL PublishClipboard(std::shared_ptr<OfferedData> data) override;
@@ -132,7 +147,16 @@ private:
     std::function<void()> m_duringWork;
     std::deque<int> m_answers;
     std::vector<std::string> m_boxes;
-    std::deque<std::string> m_choices;
+    struct MenuAnswer
+    {
+        std::string text;
+        UINT vkey = 0; // unless 0, a way beyond the menu
+    };
+    std::deque<MenuAnswer> m_choices;
+    std::string m_toolTip;
+    CRect m_workArea;
+    std::deque<std::string> m_folders;
+    std::vector<std::string> m_outside;
     std::vector<std::string> m_menus;
     CPoint m_menuPlace;
     std::deque<std::function<void()>> m_dragScripts;

@@ -20,6 +20,7 @@ using toolkit::FindRecord;
 using toolkit::InputEvent;
 using toolkit::InputKind;
 using toolkit::MouseButton;
+using toolkit::MouseTarget;
 
 struct
 {
@@ -53,12 +54,13 @@ void SendMouse(HWND hWnd, UINT message)
     SendMessage(hWnd, message, toolkit::MouseKeyFlags(), MAKELPARAM(client.x, client.y));
 }
 
-void Wheel(const InputEvent& event)
+// To whatever lies under the mouse, which need not have the focus.
+void Wheel(const InputEvent& event, const MouseTarget& target)
 {
     const auto wParam =
         static_cast<WPARAM>(static_cast<DWORD>(MAKELONG(static_cast<int>(toolkit::MouseKeyFlags()), event.delta)));
     const CPoint cursor = toolkit::CursorPos();
-    SendMessage(GetFocus(), WM_MOUSEWHEEL, wParam, MAKELPARAM(cursor.x, cursor.y));
+    SendMessage(target.hWnd, WM_MOUSEWHEEL, wParam, MAKELPARAM(cursor.x, cursor.y));
 }
 
 void SendToWindow(HWND hWnd, const InputEvent& event)
@@ -111,9 +113,8 @@ void toolkit::HandleMouse(const InputEvent& event)
     if (!FindRecord(event.hTop))
         return;
     TakeNote(event);
-    if (event.kind == InputKind::MouseWheel)
-        return Wheel(event);
-    if (IsTrackingScrollBar())
+    const bool bWheel = event.kind == InputKind::MouseWheel;
+    if (IsTrackingScrollBar() && !bWheel)
         return TrackScrollBar(event, CursorPos());
 
     const HWND hCapture = GetCapture();
@@ -124,7 +125,9 @@ void toolkit::HandleMouse(const InputEvent& event)
         SendMessage(s_mouse.hOver, WM_SETCURSOR, reinterpret_cast<WPARAM>(s_mouse.hOver), 0);
     if (!Passes(target, event))
         return;
-    if (target.bClient)
+    if (bWheel)
+        Wheel(event, target);
+    else if (target.bClient)
         SendToWindow(target.hWnd, event);
     else if (target.hWnd)
         HandleOnFrame(target.hWnd, event);

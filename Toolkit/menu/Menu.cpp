@@ -113,6 +113,15 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
     return TRUE;
 }
 
+BOOL CMenu::SetLastHint(LPCSTR pszHint)
+{
+    Menu* pMenu = s_menus.all.Find(m_hMenu);
+    if (!pMenu || pMenu->items.empty())
+        return FALSE;
+    pMenu->items.back().look.hint = pszHint ? pszHint : "";
+    return TRUE;
+}
+
 BOOL CMenu::TrackPopupMenu(UINT nFlags, int x, int y, CWnd* pWnd, const RECT*)
 {
     const HWND hOwner = pWnd ? pWnd->GetSafeHwnd() : nullptr;

@@ -41,6 +41,9 @@ public:
     // menu that the new item takes over.
     BOOL AppendMenu(UINT nFlags, UINT_PTR nIDNewItem = 0, LPCSTR pszNewItem = nullptr);
 
+    // What is said beside the last item when the mouse rests there: what it does, or why it cannot be chosen.
+    BOOL SetLastHint(LPCSTR pszHint);
+
     // Shows the menu at a point of the screen until the user has chosen or gone elsewhere. The chosen command is posted
     // to the owner as WM_COMMAND; with TPM_RETURNCMD it is the result instead, 0 when nothing was chosen. Else the
     // result is FALSE when the menu could not be shown: another one is being tracked, or there is no owner. Messages

@@ -49,6 +49,9 @@ inline constexpr UINT WM_MBUTTONDOWN = 0x0207;
 inline constexpr UINT WM_MBUTTONUP = 0x0208;
 inline constexpr UINT WM_MBUTTONDBLCLK = 0x0209;
 inline constexpr UINT WM_MOUSEWHEEL = 0x020A; // high word of wParam: the turn, WHEEL_DELTA a notch, up is positive
+// To the owner of a menu that is shown, of what goes beyond it; TRUE ends the menu. wParam: VK_LEFT or VK_RIGHT, or
+// VK_LBUTTON for a press beside the menu, or 0 for a movement there, with the screen point in lParam.
+inline constexpr UINT WM_NEXTMENU = 0x0213;
 inline constexpr UINT WM_CAPTURECHANGED = 0x0215;
 inline constexpr UINT WM_MOUSELEAVE = 0x02A3; // the mouse left the window it was over
 inline constexpr UINT WM_CUT = 0x0300;

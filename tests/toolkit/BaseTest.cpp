@@ -1,6 +1,7 @@
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/String.h"
 #include "Toolkit/base/Text.h"
+#include "Toolkit/base/TextKeys.h"
 
 #include <cstring>
 #include <gtest/gtest.h>
@@ -34,6 +35,21 @@ TEST(TextTest, ComparesWithoutRegardToCaseBeyondAscii)
     EXPECT_GT(0, _mbsicmp("\U0010FFFF", "\x80")); // what is not UTF-8 comes last, byte by byte
     EXPECT_NE(0, _mbsicmp("\xC3", "\xC4"));
     EXPECT_EQ(0, _mbsicmp("a\xFF", "A\xFF"));
+}
+
+TEST(TextTest, NumbersCountByTheirValueInTheNaturalOrder)
+{
+    const std::vector<const char*> names = {
+        "",       "0",           "00",           "1",          "02",          "10",           "1000000000000000000000",
+        "a",      "Frame 4.png", "frame 04.png", "frame 14 b", "Frame 14 C2", "frame 14 c10", "frame x",
+        "frames", "ä2",          "Ä10"};
+    toolkit::TextKeys keys(names.size(), toolkit::TextOrder::Natural);
+    for (std::size_t i = 0; i < names.size(); ++i)
+        keys.Add(names[(i * 5 + 3) % names.size()]);
+    std::vector<std::string> sorted;
+    for (const auto& key : keys.Sort())
+        sorted.emplace_back(names[(key.nIndex * 5 + 3) % names.size()]);
+    EXPECT_EQ(std::vector<std::string>(names.begin(), names.end()), sorted);
 }
 
 TEST(TextTest, WhatTwoNamesBeginWithDoesNotMatter)

@@ -60,10 +60,11 @@ TEST_F(InputTest, TheMouseGoesToTheInnermostWindowUnderItAndLeavesTheOther)
     EXPECT_GT(0, GetKeyState(VK_LBUTTON));
     EXPECT_EQ(Ledger({"frame MOUSEMOVE 2,2", "frame LBUTTONDOWN 3,3"}), TakeLedger());
 
-    SetFocus(inner.m_hWnd);
+    SetFocus(b.m_hWnd);
     a.Answer(WM_MOUSEWHEEL, 0);
-    desktop.Wheel(frame.m_hWnd, {0, 0}, -2); // to the focus, and from there up
-    EXPECT_EQ(Ledger({"frame MOUSEMOVE 0,0", "inner MOUSEWHEEL -240 at 100,50", "a MOUSEWHEEL -240 at 100,50"}),
+    desktop.Wheel(inner.m_hWnd, {1, 1}, -2); // to what is under the mouse, and from there up
+    EXPECT_EQ(Ledger({"frame MOUSELEAVE", "inner MOUSEMOVE 1,1", "inner MOUSEWHEEL -240 at 117,67",
+                      "a MOUSEWHEEL -240 at 117,67"}),
               TakeLedger());
 }
 

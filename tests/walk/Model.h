@@ -111,7 +111,7 @@ public:
     void DoubleClick(int view, const Hit& hit);
     void Key(UINT vkey, Keys keys);
     void Type(char c);
-    void Scrolled(); // by the wheel, which goes to the focus
+    void Scrolled(); // by the wheel, when the focused view is under the mouse
     void LetTimePass(DWORD nNow);
     void SetTime(DWORD nNow) { m_now = nNow; }
 

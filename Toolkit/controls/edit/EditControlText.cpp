@@ -1,7 +1,6 @@
 // The edit control's text: what messages and its user do to it, and who is told.
 #include "Toolkit/controls/edit/EditControl.h"
-#include "Toolkit/exchange/DataObject.h"
-#include "Toolkit/exchange/DataSource.h"
+#include "Toolkit/exchange/ClipboardText.h"
 
 #include <cstring>
 
@@ -18,33 +17,6 @@ std::string_view FirstLine(std::string_view text)
 {
     const std::size_t start = std::min(text.find_first_not_of("\r\n"), text.size());
     return text.substr(start, text.find_first_of("\r\n", start) - start);
-}
-
-void PutClipboardText(std::string_view utf8)
-{
-    const HGLOBAL hText = GlobalAlloc(GHND, utf8.size() + 1);
-    if (const GlobalLocker<char> bytes(hText); bytes.Get())
-        std::memcpy(bytes.Get(), utf8.data(), utf8.size());
-    else
-        return;
-    auto source = std::make_unique<COleDataSource>();
-    source->CacheGlobalData(CF_TEXT, hText);
-    source.release()->SetClipboard(); // which owns it from now on
-}
-
-std::optional<std::string> GetClipboardText()
-{
-    COleDataObject data;
-    if (!data.AttachClipboard())
-        return std::nullopt;
-    const HGLOBAL hText = data.GetGlobalData(CF_TEXT);
-    if (!hText)
-        return std::nullopt;
-    std::string text;
-    if (const GlobalLocker<char> bytes(hText); bytes.Get())
-        text.assign(bytes.Get(), strnlen(bytes.Get(), GlobalSize(hText)));
-    GlobalFree(hText);
-    return text;
 }
 
 } // namespace

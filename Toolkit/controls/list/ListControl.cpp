@@ -31,6 +31,8 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_SETFOCUS, Table::To<&ListControl::OnSetFocus>},
         {WM_KILLFOCUS, Table::To<&ListControl::OnKillFocus>},
         {WM_KEYDOWN, Table::To<&ListControl::OnKeyDown>},
+        {WM_CHAR, Table::To<&ListControl::OnChar>},
+        {LVM_SETTYPEAHEAD, Table::To<&ListControl::OnSetTypeAhead>},
         {WM_LBUTTONDOWN, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDown>},
         {WM_LBUTTONUP, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonUp>},
         {WM_LBUTTONDBLCLK, Table::To<&ListControl::m_mouse, &ListMouse::OnLButtonDblClk>},

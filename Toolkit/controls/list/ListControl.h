@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Toolkit/controls/edit/EditMessages.h"
+#include "Toolkit/controls/items/TypeAhead.h"
 #include "Toolkit/controls/list/IconLayout.h"
 #include "Toolkit/controls/list/ListPainter.h"
 
@@ -44,6 +45,8 @@ private:
 
     // Keys.
     LRESULT OnKeyDown(UINT vkey, LPARAM lParam);
+    void OnChar(char32_t c);
+    LRESULT OnSetTypeAhead(BOOL bOn);
     void MoveFocus(int row, bool allBetween);
     void PressSpace();
 
@@ -71,6 +74,8 @@ private:
     ListViewport m_viewport{*this, m_layout, m_owner, m_mouse};
     ListMouse m_mouse{*this, m_selection, m_layout, m_owner, m_viewport};
     ListPainter m_painter{*this, Rows(), m_layout, m_owner, m_mouse};
+    bool m_bTypeAhead = false;
+    TypeAhead m_typeAhead;
     std::optional<CSize> m_spacing; // as set; else it follows from the pictures
 };
 

@@ -33,6 +33,29 @@ LRESULT ListControl::OnKeyDown(UINT vkey, LPARAM lParam)
     return 0;
 }
 
+LRESULT ListControl::OnSetTypeAhead(BOOL bOn)
+{
+    m_bTypeAhead = bOn != FALSE;
+    m_typeAhead.Forget();
+    return 0;
+}
+
+void ListControl::OnChar(char32_t c)
+{
+    if (!m_bTypeAhead)
+        return;
+    m_typeAhead.Type(c, [this](const std::string& prefix, bool bBehind) {
+        const int from = std::max(Rows().Focus() + (bBehind ? 1 : 0), 0);
+        const int row = m_owner.FindLabel(prefix, m_layout.Has(from) ? from : 0);
+        if (!m_layout.Has(row))
+            return false;
+        m_selection.SelectOnly(row);
+        if (m_layout.Has(row))
+            m_viewport.Show(row);
+        return true;
+    });
+}
+
 void ListControl::MoveFocus(int row, bool allBetween)
 {
     const bool control = IsDown(VK_CONTROL);

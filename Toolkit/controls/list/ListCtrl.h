@@ -29,6 +29,7 @@ public:
     HWND GetEditControl() const { return Ask<HWND>(LVM_GETEDITCONTROL); }
     // Tells where the row being edited is now, -1: gone; see LVM_MOVEEDITLABEL.
     void MoveEditLabel(int nItem) { Ask<BOOL>(LVM_MOVEEDITLABEL, nItem); }
+    void SetTypeAhead(BOOL bOn) { SendMessage(LVM_SETTYPEAHEAD, static_cast<WPARAM>(bOn)); }
     // Borrowed; the former one.
     HIMAGELIST SetImageList(CImageList* pImageList, int nImageList)
     {

@@ -64,6 +64,15 @@ RowFace ListOwner::HintAndAsk(int row)
     return AskFace(row);
 }
 
+int ListOwner::FindLabel(const std::string& prefix, int from) const
+{
+    NMLVFINDITEM find{};
+    find.iStart = from;
+    find.lvfi.flags = LVFI_STRING | LVFI_PARTIAL | LVFI_WRAP;
+    find.lvfi.psz = prefix.c_str();
+    return static_cast<int>(m_control.Notify(LVN_ODFINDITEM, find.hdr));
+}
+
 bool ListOwner::MayChange(int row, UINT oldState, UINT newState) const
 {
     NMLISTVIEW change = StateChange(row, oldState, newState);

@@ -30,6 +30,8 @@ public:
     RowFace AskFace(int row) const; // of a row hinted
     RowFace HintAndAsk(int row);    // hints the row when it is not known to be
 
+    int FindLabel(const std::string& prefix, int from) const; // and round; -1 where no label begins so
+
     // States, LVIS_*. Row -1 stands for all.
     bool MayChange(int row, UINT oldState, UINT newState) const;
     void TellChange(int row, UINT oldState, UINT newState) const;

@@ -40,6 +40,9 @@ inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width
 // The toolkit's own: the row whose label is being edited is now row wParam, or gone (-1), which ends the editing like
 // Escape. An owner that moves rows while LVM_GETEDITCONTROL answers says so: the control knows rows by number only.
 inline constexpr UINT LVM_MOVEEDITLABEL = LVM_FIRST + 250;
+// Ours; wParam: do letters go to the row that begins with them? They do not at first. The owner finds it
+// (LVN_ODFINDITEM).
+inline constexpr UINT LVM_SETTYPEAHEAD = LVM_FIRST + 251;
 
 inline constexpr int LVSIL_NORMAL = 0;
 inline constexpr UINT LVA_DEFAULT = 0;
@@ -94,6 +97,7 @@ inline constexpr UINT LVN_ENDLABELEDIT = LVN_FIRST - 6;   // NMLVDISPINFO: pszTe
 inline constexpr UINT LVN_BEGINDRAG = LVN_FIRST - 9;      // NMLISTVIEW: the row pressed and where
 inline constexpr UINT LVN_BEGINRDRAG = LVN_FIRST - 11;    // the same with the right button
 inline constexpr UINT LVN_ODCACHEHINT = LVN_FIRST - 13;   // NMLVCACHEHINT: rows about to be drawn
+inline constexpr UINT LVN_ODFINDITEM = LVN_FIRST - 52;    // NMLVFINDITEM: the row, -1 for none
 inline constexpr UINT LVN_GETDISPINFO = LVN_FIRST - 50;   // NMLVDISPINFO: fill in what item.mask asks for
 
 struct NMLISTVIEW
@@ -118,6 +122,26 @@ struct NMLVCACHEHINT
 {
     NMHDR hdr;
     int iFrom, iTo; // both inclusive
+};
+
+inline constexpr UINT LVFI_STRING = 0x0002;
+inline constexpr UINT LVFI_PARTIAL = 0x0008; // the label begins so
+inline constexpr UINT LVFI_WRAP = 0x0020;    // and round from the first row to that before iStart
+
+struct LVFINDINFO
+{
+    UINT flags;
+    LPCSTR psz;
+    LPARAM lParam;
+    POINT pt;
+    UINT vkDirection;
+};
+
+struct NMLVFINDITEM
+{
+    NMHDR hdr;
+    int iStart;
+    LVFINDINFO lvfi;
 };
 
 // NM_CLICK, NM_DBLCLK, NM_RCLICK.

@@ -64,6 +64,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_SORTCHILDREN, Table::To<&TreeControl::m_order, &TreeOrder::OnSortChildren>},
         {TVM_SORTCHILDRENCB, Table::To<&TreeControl::m_order, &TreeOrder::OnSortChildrenCB>},
         {TVM_ENSUREVISIBLE, Table::To<&TreeControl::m_selection, &TreeSelection::OnEnsureVisible>},
+        {TVM_SETORDERKEY, Table::To<&TreeControl::m_order, &TreeOrder::OnSetOrderKey>},
         {TVM_ARRANGECHILDREN, Table::To<&TreeControl::m_order, &TreeOrder::OnArrangeChildren>},
         {TVM_GETITEMHEIGHT, Table::To<&TreeControl::m_layout, &TreeLayout::RowHeight>},
         {TVM_GETITEMSTATE, Table::To<&TreeControl::m_content, &TreeContent::OnGetItemState>},

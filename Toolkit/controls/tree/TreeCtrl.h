@@ -57,6 +57,7 @@ public:
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
     BOOL SortChildren(HTREEITEM hParent) { return Ask<BOOL>(TVM_SORTCHILDREN, 0, hParent); }
     BOOL SortChildrenCB(TVSORTCB* pSort) { return Ask<BOOL>(TVM_SORTCHILDRENCB, 0, pSort); }
+    void SetOrderKey(PFNTVORDERKEY makeKey) { SendMessage(TVM_SETORDERKEY, 0, reinterpret_cast<LPARAM>(makeKey)); }
     // All of them, in their new order; bByLabel: which is known to be that of their labels.
     BOOL ArrangeChildren(HTREEITEM hParent, std::span<const HTREEITEM> children, BOOL bByLabel = FALSE);
     // The edit field; NULL when the editing was refused.

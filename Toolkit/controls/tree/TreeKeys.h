@@ -1,6 +1,7 @@
-// The tree control under the keyboard, and how typing finds the next shown item whose label begins with what was typed.
+// The tree control under the keyboard.
 #pragma once
 
+#include "Toolkit/controls/items/TypeAhead.h"
 #include "Toolkit/controls/tree/TreeMouse.h"
 
 namespace toolkit
@@ -20,7 +21,7 @@ public:
           m_mouse(mouse)
     {}
 
-    void ForgetTyped() { m_typed.clear(); }
+    void ForgetTyped() { m_typeAhead.Forget(); }
 
     LRESULT OnKeyDown(UINT vkey, LPARAM lParam);
     LRESULT OnKeyUp(WPARAM wParam, LPARAM lParam);
@@ -32,7 +33,6 @@ private:
     void MoveTo(ItemIndex item);
     int RowByKey(UINT vkey) const;
     bool IsOpen(ItemIndex item) const;
-    void SearchFor(const std::string& letter);
     HTREEITEM FindLabel(const std::string& prefix, bool afterCaret) const;
 
     ItemControl& m_control;
@@ -42,8 +42,7 @@ private:
     TreeViewport& m_viewport;
     TreeSelection& m_selection;
     TreeMouse& m_mouse;
-    std::string m_typed;         // the labels searched for
-    DWORD m_typedAt = 0;         // when the last letter came
+    TypeAhead m_typeAhead;
     bool m_bCharIsTaken = false; // the key that is down was a command, or its owner kept it from the search
 };
 

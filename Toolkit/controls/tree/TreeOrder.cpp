@@ -1,6 +1,5 @@
 #include "Toolkit/controls/tree/TreeOrder.h"
 
-#include "Toolkit/base/Text.h"
 #include "Toolkit/base/TextKeys.h"
 
 #include <algorithm>
@@ -162,13 +161,29 @@ void TreeOrder::SettleOne(HTREEITEM hItem)
 int TreeOrder::FindPlace(HTREEITEM hNew, HTREEITEM hParent) const
 {
     const bool bisects = m_items[m_items.FindParent(hParent)].order == ChildOrder::ByLabel;
-    const std::string label = m_owner.AskText(hNew);
-    return bisects ? Bisect(label, hNew, hParent) : LookThrough(label, hNew, hParent);
+    const std::string key = KeyOf(hNew);
+    return bisects ? Bisect(key, hNew, hParent) : LookThrough(key, hNew, hParent);
+}
+
+std::string TreeOrder::KeyOf(HTREEITEM hItem) const
+{
+    const std::string label = m_owner.AskText(hItem);
+    return m_items.Find(hItem) == kNoItem ? std::string() : MakeKey(hItem, label.c_str());
+}
+
+std::string TreeOrder::MakeKey(HTREEITEM hItem, const char* pszLabel) const
+{
+    std::string key;
+    if (m_makeKey)
+        m_makeKey(m_items[m_items.Find(hItem)].lParam, pszLabel, key);
+    else
+        AppendSortKey(key, pszLabel, TextOrder::NoCase);
+    return key;
 }
 
 // The place lies behind hNotGreater and not behind hGreater; NULL and the new item stand for the ends. So it is found,
 // too, when a handler adds siblings or takes some away meanwhile.
-int TreeOrder::Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hParent) const
+int TreeOrder::Bisect(const std::string& key, HTREEITEM hNew, HTREEITEM hParent) const
 {
     HTREEITEM hNotGreater = nullptr, hGreater = hNew;
     int place = 0, end = 0;
@@ -182,17 +197,17 @@ int TreeOrder::Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hParen
             return place;
         const int middle = place + (end - place) / 2;
         const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), middle));
-        const bool greater = CompareNoCase(m_owner.AskText(hChild), label) > 0;
+        const bool greater = KeyOf(hChild) > key;
         (greater ? hGreater : hNotGreater) = hChild;
         (greater ? end : place) = greater ? middle : middle + 1;
     }
 }
 
-int TreeOrder::LookThrough(const std::string& label, HTREEITEM hNew, HTREEITEM hParent) const
+int TreeOrder::LookThrough(const std::string& key, HTREEITEM hNew, HTREEITEM hParent) const
 {
     for (int place = 0;; ++place) {
         const HTREEITEM hChild = m_items.HandleOf(m_items.ChildAt(m_items.FindParent(hParent), place));
-        if (!hChild || hChild == hNew || CompareNoCase(m_owner.AskText(hChild), label) > 0)
+        if (!hChild || hChild == hNew || KeyOf(hChild) > key)
             return place;
     }
 }
@@ -226,7 +241,10 @@ bool TreeOrder::SortByLabel(HTREEITEM hParent, int settled)
         m_owner.AskFace(m_items.HandleOf(child), TVIF_TEXT, face);
         if (m_items.Version() != version)
             return false;
-        keys.Add(face.text.c_str());
+        if (m_makeKey)
+            keys.AddKey(MakeKey(m_items.HandleOf(child), face.text.c_str()));
+        else
+            keys.Add(face.text.c_str());
     }
     bool inOrder = true;
     const std::vector<ItemIndex> order = Merge(children, static_cast<std::size_t>(settled), keys.Sort(), inOrder);
@@ -260,6 +278,22 @@ BOOL TreeOrder::OnSortChildrenCB(WPARAM, const TVSORTCB* pSort)
         order.push_back(entry.second);
     Rearrange(parent, children, order, ChildOrder::Unknown);
     return TRUE;
+}
+
+LRESULT TreeOrder::OnSetOrderKey(WPARAM, LPARAM lParam)
+{
+    Settle();
+    m_makeKey = reinterpret_cast<PFNTVORDERKEY>(lParam);
+    std::vector<ItemIndex> parents = {kRootItem};
+    while (!parents.empty()) {
+        const ItemIndex parent = parents.back();
+        parents.pop_back();
+        Doubt(parent);
+        for (const ItemIndex child : m_items.Children(parent))
+            if (m_items.ChildCount(child) > 0)
+                parents.push_back(child);
+    }
+    return 0;
 }
 
 BOOL TreeOrder::OnArrangeChildren(WPARAM, const TVARRANGECHILDREN* pArrange)

@@ -37,6 +37,7 @@ public:
     void Doubt(ItemIndex parent); // its children's labels or places have changed
     BOOL OnSortChildren(WPARAM, HTREEITEM hParent);
     BOOL OnSortChildrenCB(WPARAM, const TVSORTCB* pSort);
+    LRESULT OnSetOrderKey(WPARAM, LPARAM lParam);
     BOOL OnArrangeChildren(WPARAM, const TVARRANGECHILDREN* pArrange);
 
 private:
@@ -46,8 +47,10 @@ private:
     std::vector<HTREEITEM> GatheredBelow(ItemIndex parent) const;
     // The place is the one before the first child whose label is greater.
     int FindPlace(HTREEITEM hNew, HTREEITEM hParent) const;
-    int Bisect(const std::string& label, HTREEITEM hNew, HTREEITEM hParent) const;
-    int LookThrough(const std::string& label, HTREEITEM hNew, HTREEITEM hParent) const;
+    int Bisect(const std::string& key, HTREEITEM hNew, HTREEITEM hParent) const;
+    int LookThrough(const std::string& key, HTREEITEM hNew, HTREEITEM hParent) const;
+    std::string KeyOf(HTREEITEM hItem) const; // empty for one that is gone
+    std::string MakeKey(HTREEITEM hItem, const char* pszLabel) const;
     bool SortByLabel(HTREEITEM hParent, int settled);
     void Rearrange(ItemIndex parent, const std::vector<ItemIndex>& former, const std::vector<ItemIndex>& order,
                    ChildOrder known);
@@ -58,6 +61,7 @@ private:
     TreeViewport& m_viewport;
     std::vector<HTREEITEM> m_unsettled; // whose last children are gathered
     int m_settling = 0;                 // under way
+    PFNTVORDERKEY m_makeKey = nullptr;
 };
 
 } // namespace toolkit

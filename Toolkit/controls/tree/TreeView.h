@@ -6,6 +6,8 @@
 
 #include "Toolkit/message/Messages.h"
 
+#include <string>
+
 inline constexpr LPCSTR WC_TREEVIEW = "SysTreeView32";
 
 using HTREEITEM = struct HTREEITEM__*;
@@ -45,6 +47,11 @@ inline constexpr UINT TVM_GETITEMSTATE = TV_FIRST + 39; // wParam: item, lParam:
 // look at each child. FALSE, and nothing changes, when it does not name each child of the item once. Who knows that
 // their labels are in order then, too, says so: the next sorted insertion need not read them all to find out.
 inline constexpr UINT TVM_ARRANGECHILDREN = TV_FIRST + 0x80;
+
+// Ours; lParam: a PFNTVORDERKEY, NULL at first. By what siblings stand that are put in the order of their labels: the
+// bytes of the key that it makes of an item's lParam and label, instead of the labels without regard to case. Those
+// that are there keep their places until they are sorted. It must not change the tree.
+inline constexpr UINT TVM_SETORDERKEY = TV_FIRST + 0x81;
 
 inline constexpr UINT TVSIL_NORMAL = 0;
 
@@ -147,6 +154,8 @@ struct TVSORTCB
     LPARAM lParam;
 };
 using LPTVSORTCB = TVSORTCB*;
+
+using PFNTVORDERKEY = void (*)(LPARAM lParam, LPCSTR pszLabel, std::string& key); // appends it
 
 struct TVARRANGECHILDREN
 {
