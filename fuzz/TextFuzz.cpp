@@ -82,6 +82,11 @@ std::string CheckPair(const std::string& a, const std::string& b)
         return "the order is not that of the folded code points";
     if (nOrder != -Sign(_mbsicmp(b.c_str(), a.c_str())) || nOrder != Sign(toolkit::CompareNoCase(a, b)))
         return "the order depends on who is asked first";
+    std::string keyOfA, keyOfB;
+    toolkit::AppendSortKey(keyOfA, a, toolkit::TextOrder::Natural);
+    toolkit::AppendSortKey(keyOfB, b, toolkit::TextOrder::Natural);
+    if ((nOrder == 0) != (keyOfA == keyOfB))
+        return "numbers make other texts the same";
     return {};
 }
 
@@ -92,7 +97,7 @@ std::string CheckKeys(const Texts& texts)
     std::stable_sort(order.begin(), order.end(),
                      [&](auto a, auto b) { return _mbsicmp(texts[a].c_str(), texts[b].c_str()) < 0; });
 
-    views::NameKeys keys(texts.size());
+    views::NameKeys keys(texts.size(), MOF_BYNAME);
     for (const std::string& text : texts) {
         Named atom(text);
         keys.Add(&atom);

@@ -28,6 +28,7 @@
 #include "Views/host/IMyErrorInfo.h"
 #include "Views/host/IPhase.h"
 #include "Views/host/InterfaceIds.h"
+#include "Views/host/MemberOrder.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"
 #include "Views/host/StateHandler.h"

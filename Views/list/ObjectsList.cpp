@@ -18,13 +18,16 @@ static_assert(kStyle == 0x46001208);
 constexpr int kLoadTries = 10;
 
 // Without memory for the members there are none, and the user has been told. True when names alone order them.
-bool ReadMembers(IAtomContainer* pContainer, views::AtomComparator compare, views::AtomArray& atoms)
+bool ReadMembers(IAtomContainer* pContainer, const std::function<bool(IAtom*)>& isShown, views::AtomComparator compare,
+                 UINT nOrder, views::AtomArray& atoms)
 {
     try {
         atoms = views::AtomArray(pContainer->GetCount());
         if (!atoms.empty())
             pContainer->GetAtoms(0, static_cast<UINT>(atoms.size()), atoms.front().Receive(), IID_IAtom);
-        return views::OrderMembers(atoms, compare);
+        if (isShown)
+            std::erase_if(atoms, [&](const auto& pAtom) { return pAtom && !isShown(pAtom.Get()); });
+        return views::OrderMembers(atoms, compare, nOrder);
     } catch (CMemoryException& e) {
         e.ReportError();
         atoms.clear();
@@ -53,6 +56,7 @@ BEGIN_MESSAGE_MAP(CObjectsList, CListCtrl)
     ON_WM_KILLFOCUS()
     ON_WM_SHOWWINDOW()
     ON_NOTIFY_REFLECT(LVN_ODCACHEHINT, OnOdCacheHint)
+    ON_NOTIFY_REFLECT(LVN_ODFINDITEM, OnOdFindItem)
 END_MESSAGE_MAP()
 
 CObjectsList::CObjectsList(UINT nPaneKind, UINT nResourceID, int bPassive)
@@ -150,14 +154,17 @@ bool CObjectsList::LoadMembers(unsigned nLoad)
     const auto pContainer = ShareContainer();
     views::AtomArray atoms;
     bool bByName = false;
+    const UINT nOrder = m_nOrder;
+    const views::AtomComparator compare = ComparatorFor(nOrder);
     for (int nTries = 0; nTries < kLoadTries && nLoad == m_nLoads && (nTries == 0 || m_bMembersChanged); ++nTries) {
         m_bLoading = true;
         m_bMembersChanged = false;
-        bByName = ReadMembers(pContainer.Get(), &CompareFunc, atoms);
+        bByName = ReadMembers(pContainer.Get(), m_isShown, compare, nOrder, atoms);
     }
     if (nLoad != m_nLoads)
         return false;
     m_bLoading = false;
+    m_pRows->SetComparator(compare);
     m_pRows->Show(std::move(atoms), bByName);
     SetItemCount(m_pRows->GetCount());
     return nLoad == m_nLoads;

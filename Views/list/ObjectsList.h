@@ -3,10 +3,12 @@
 
 #include "Toolkit/base/String.h"
 #include "Toolkit/controls/list/ListCtrl.h"
+#include "Views/host/MemberOrder.h"
 #include "Views/host/StateHandler.h"
 #include "Views/host/StubRef.h"
 #include "Views/list/ListDropTarget.h"
 
+#include <functional>
 #include <memory>
 
 class CObjectsListCache;
@@ -48,6 +50,11 @@ public:
     // Shows the members of an atom that is a container; any other atom empties the view. FALSE for NULL. Does nothing,
     // and says TRUE, without a window.
     BOOL SetRootAtom(IAtom* pRoot);
+    // How the members of what is shown next stand (MOF_*, Views/host/MemberOrder.h). What is created later is appended.
+    void SetMemberOrder(UINT nOrder);
+    UINT GetMemberOrder() const { return m_nOrder; }
+    // Which members of what is shown next become rows; empty: all. What is created later becomes one in any case.
+    void SetMemberFilter(std::function<bool(IAtom* pAtom)> isShown) { m_isShown = std::move(isShown); }
     // From now on an atom that is announced comes to its place in the order. Else it comes last, whatever its name.
     void PlaceNewAtoms() { m_bPlacesNew = true; }
     // Registered when the window is made. A host that has a target of its own revokes this one.
@@ -108,6 +115,7 @@ protected:
     afx_msg void OnItemChanging(NMLISTVIEW* pChange, LRESULT* pResult);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnOdFindItem(NMLVFINDITEM* pFind, LRESULT* pResult); // as SetTypeAhead has rows found: by their text
     afx_msg void OnOdCacheHint(NMLVCACHEHINT* pHint, LRESULT* pResult);
     DECLARE_MESSAGE_MAP()
 
@@ -124,6 +132,7 @@ private:
 
     bool IsListening() const { return m_bSync && m_hWnd && !m_bClosing; } // to the editor
 
+    static int (*ComparatorFor(UINT nOrder))(const void*, const void*);
     void UpdateIndexes();
     // What m_nLoads is now: while it stays so, nothing else has been shown since.
     unsigned ClearContext();
@@ -164,6 +173,8 @@ private:
     BOOL m_bSync = FALSE;
     const UINT m_nPaneKind;
     const UINT m_nResourceID;
+    UINT m_nOrder = MOF_BYNAME;
+    std::function<bool(IAtom*)> m_isShown; // or empty
     const std::unique_ptr<views::EditorLink> m_pEditor;
     CString m_strEdited; // the name that is being edited in place of a label
     CListDropTarget m_dropTarget;

@@ -1,6 +1,7 @@
 // What the list view answers when its control draws.
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Ticks.h"
+#include "Toolkit/controls/items/TypeAhead.h"
 #include "Views/host/inside/HeldPair.h"
 #include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
@@ -89,6 +90,22 @@ bool CObjectsList::ReadText(IAtom* pAtom, CString& strText)
         e.ReportError();
         strText.Empty();
         return true;
+    }
+}
+
+// Whoever is asked for a name may move the rows: any found then is as good.
+void CObjectsList::OnOdFindItem(NMLVFINDITEM* pFind, LRESULT* pResult)
+{
+    *pResult = -1;
+    const std::string prefix = pFind->lvfi.psz;
+    CString strText;
+    for (int i = 0; i < m_pRows->GetCount(); ++i) {
+        const int nRow = (pFind->iStart + i) % m_pRows->GetCount();
+        const HELDPAIR pair = HoldPair(nRow);
+        if (pair && ReadText(pair.pAtom.Get(), strText) && toolkit::BeginsWith(strText.View(), prefix)) {
+            *pResult = nRow;
+            return;
+        }
     }
 }
 

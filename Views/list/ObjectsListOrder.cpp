@@ -4,6 +4,7 @@
 #include "Views/host/inside/AtomOrder.h"
 #include "Views/host/inside/ReadName.h"
 #include "Views/list/ObjectsList.h"
+#include "Views/list/inside/MemberOrder.h"
 
 #include <cstring>
 
@@ -19,7 +20,7 @@ IAtom* AtomAt(const void* pElement)
 
 // A missing atom comes after every other. strA and strB keep the names read last: a name that cannot be read now is
 // what its string held before, cut to the length announced.
-int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
+int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB, UINT nOrder)
 {
     if (!a || !b)
         return static_cast<int>(!a) - static_cast<int>(!b);
@@ -30,7 +31,9 @@ int CompareAtoms(IAtom* a, IAtom* b, CString& strA, CString& strB)
         const int nLengthB = views::AskNameLength(b, &IAtom::GetName);
         views::FillName(a, &IAtom::GetName, nLengthA, strA);
         views::FillName(b, &IAtom::GetName, nLengthB, strB);
-        return _mbsicmp(strA, strB);
+        if (nOrder == MOF_BYNAME)
+            return _mbsicmp(strA, strB);
+        return views::AtomKey(a, strA, nOrder).compare(views::AtomKey(b, strB, nOrder));
     } catch (CMemoryException& e) {
         e.ReportError();
         return 0;
@@ -43,15 +46,35 @@ struct NAMES
 };
 
 // The names read last are taken along: whoever is asked for a name may have other atoms compared.
-int CompareAtoms(IAtom* a, IAtom* b, NAMES& last)
+int CompareAtoms(IAtom* a, IAtom* b, NAMES& last, UINT nOrder = MOF_BYNAME)
 {
     NAMES names = std::move(last);
-    const int nOrder = CompareAtoms(a, b, names.strA, names.strB);
+    const int nCompared = CompareAtoms(a, b, names.strA, names.strB, nOrder);
     last = std::move(names);
-    return nOrder;
+    return nCompared;
+}
+
+template <UINT nOrder>
+int CompareInOrder(const void* p1, const void* p2)
+{
+    static NAMES s_last;
+    return CompareAtoms(AtomAt(p1), AtomAt(p2), s_last, nOrder);
 }
 
 } // namespace
+
+views::AtomComparator CObjectsList::ComparatorFor(UINT nOrder)
+{
+    static constexpr views::AtomComparator comparators[] = {&CompareFunc, &CompareInOrder<MOF_NATURAL>,
+                                                            &CompareInOrder<MOF_CONTAINERSFIRST>,
+                                                            &CompareInOrder<MOF_NATURAL | MOF_CONTAINERSFIRST>};
+    return comparators[nOrder];
+}
+
+void CObjectsList::SetMemberOrder(UINT nOrder)
+{
+    m_nOrder = nOrder & (MOF_NATURAL | MOF_CONTAINERSFIRST);
+}
 
 int CObjectsList::CompareFunc(const void* p1, const void* p2)
 {

@@ -57,6 +57,9 @@ public:
     // The selected item's atom as the asked interface, with a reference. FALSE, and *ppOut is NULL, when nothing is
     // selected or the atom does not have it; FALSE for ppOut NULL.
     BOOL GetSelectedAtom(void** ppOut, DWORD dwInterfaceId);
+    // How members stand (MOF_*, Views/host/MemberOrder.h); those that are shown, too, at n log n for each container. To
+    // be set anew for a new window.
+    void SetMemberOrder(UINT nOrder);
     // Registered when the window is made. A host that has a target of its own revokes this one.
     CTreeDropTarget& GetDropTarget() { return *m_pDropTarget; }
 
@@ -159,6 +162,7 @@ private:
     void DropItem(HTREEITEM hItem, const RECORD* pRecord);
 
     void OrderMembers(HTREEITEM hItem, views::MemberKeys& keys);
+    void OrderMembersAnew(HTREEITEM hItem);
     bool OrderByLabelAndName(HTREEITEM hItem);
     bool ArrangeByName(HTREEITEM hItem, views::MemberKeys& keys, bool bEqualOnesToo);
 
@@ -181,6 +185,7 @@ private:
     const std::unique_ptr<views::EditorLink> m_pEditor;
     CString m_strEdited; // the name that is being edited in place of a label
     const std::unique_ptr<CTreeDropTarget> m_pDropTarget;
+    UINT m_nOrder = 0;        // MOF_*
     bool m_bOnDemand = false; // members become items only when they are asked for
     bool m_bClosing = false;  // the window is being destroyed: nothing new is shown
 };

@@ -188,7 +188,7 @@ BOOL CObjectsTree::AddMembers(HTREEITEM hItem, IAtom* pAtom, const std::unordere
     if (!pMembers || !Advance(RecordOf(hItem), State::Settled, State::Filling))
         return FALSE;
     RecordOf(hItem)->bMembersShown = true;
-    views::MemberKeys keys(hItem, m_pFilling);
+    views::MemberKeys keys(hItem, m_pFilling, m_nOrder);
     for (UINT i = 0; i < pMembers->GetCount(); ++i) {
         CStubRef<IAtom> pMember;
         pMembers->GetAtoms(i, 1, pMember.Receive(), IID_IAtom);

@@ -13,17 +13,58 @@ namespace
 {
 
 // A name that cannot be read counts as empty.
-int CompareNames(IAtom* a, IAtom* b)
+int CompareNames(IAtom* a, IAtom* b, UINT nOrder)
 {
     CString strA, strB;
     views::ReadName(a, &IAtom::GetName, strA);
     views::ReadName(b, &IAtom::GetName, strB);
-    return _mbsicmp(strA, strB);
+    if (nOrder == MOF_BYNAME)
+        return _mbsicmp(strA, strB);
+    return views::AtomKey(a, strA, nOrder).compare(views::AtomKey(b, strB, nOrder));
+}
+
+// A derived class's own items come last.
+template <UINT nOrder>
+void MakeOrderKey(LPARAM lParam, LPCSTR pszLabel, std::string& key)
+{
+    const auto* const pData = reinterpret_cast<const CObjectsTree::TREEITEMDATA*>(lParam);
+    key += pData ? views::AtomKey(pData->pAtom.Get(), pszLabel, nOrder) : "\x7F" + std::string(pszLabel);
 }
 
 } // namespace
 
-int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
+// What is shown is ordered anew from the top down.
+void CObjectsTree::SetMemberOrder(UINT nOrder)
+{
+    static constexpr PFNTVORDERKEY makers[] = {nullptr, &MakeOrderKey<MOF_NATURAL>, &MakeOrderKey<MOF_CONTAINERSFIRST>,
+                                               &MakeOrderKey<MOF_NATURAL | MOF_CONTAINERSFIRST>};
+    m_nOrder = nOrder & (MOF_NATURAL | MOF_CONTAINERSFIRST);
+    if (!m_hWnd)
+        return;
+    SetOrderKey(makers[m_nOrder]);
+    try {
+        std::vector<HTREEITEM> items = ChildrenOf(TVI_ROOT);
+        for (std::size_t i = 0; i < items.size(); ++i) {
+            if (!IsItem(items[i]))
+                continue;
+            OrderMembersAnew(items[i]);
+            const std::vector<HTREEITEM> children = ChildrenOf(items[i]);
+            items.insert(items.end(), children.begin(), children.end());
+        }
+    } catch (CMemoryException& e) {
+        e.ReportError();
+    }
+}
+
+void CObjectsTree::OrderMembersAnew(HTREEITEM hItem)
+{
+    if (!GetChildItem(hItem) || OrderByLabelAndName(hItem))
+        return;
+    TVSORTCB sort{hItem, &MyFunc, static_cast<LPARAM>(m_nOrder)};
+    SortChildrenCB(&sort);
+}
+
+int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM lParamSort)
 {
     if (!lParam1 || !lParam2) // a derived class's own items come last
         return static_cast<int>(!lParam1) - static_cast<int>(!lParam2);
@@ -33,7 +74,7 @@ int CObjectsTree::MyFunc(LPARAM lParam1, LPARAM lParam2, LPARAM)
     try {
         if (const std::optional<int> order = views::CompareLinks(a.Get(), b.Get()))
             return *order;
-        return CompareNames(a.Get(), b.Get());
+        return CompareNames(a.Get(), b.Get(), static_cast<UINT>(lParamSort));
     } catch (CMemoryException& e) {
         e.ReportError();
         return 0;
@@ -70,7 +111,7 @@ void CObjectsTree::OrderMembers(HTREEITEM hItem, views::MemberKeys& keys)
     } catch (CMemoryException&) {
         // No room for the keys.
     }
-    TVSORTCB sort{hItem, &MyFunc, 0};
+    TVSORTCB sort{hItem, &MyFunc, static_cast<LPARAM>(m_nOrder)};
     SortChildrenCB(&sort);
 }
 
@@ -79,7 +120,7 @@ void CObjectsTree::OrderMembers(HTREEITEM hItem, views::MemberKeys& keys)
 bool CObjectsTree::OrderByLabelAndName(HTREEITEM hItem)
 {
     SortChildren(hItem);
-    views::MemberKeys keys(hItem, m_pFilling);
+    views::MemberKeys keys(hItem, m_pFilling, m_nOrder);
     for (const HTREEITEM hChild : ChildrenOf(hItem)) {
         const HELDPAIR pair = HoldPair(hChild);
         if (!pair.pAtom)

@@ -1,5 +1,6 @@
 #include "Views/host/inside/AtomOrder.h"
 
+#include "Views/host/IAtomContainer.h"
 #include "Views/host/IPhase.h"
 #include "Views/host/StubRef.h"
 #include "Views/host/inside/ReadName.h"
@@ -31,6 +32,22 @@ std::optional<int> views::CompareLinks(IAtom* a, IAtom* b)
     return Difference(pPhase->GetPosition(pLinkA.Get()), pPhase->GetPosition(pLinkB.Get()));
 }
 
+std::string_view views::RankOf(IAtom* pAtom, UINT nOrder)
+{
+    if (!(nOrder & MOF_CONTAINERSFIRST))
+        return {};
+    const bool bFirst = CStubRef<IAtomContainer>::From(pAtom) && !CStubRef<IPhase>::From(pAtom);
+    return bFirst ? "\1" : "\2";
+}
+
+std::string views::AtomKey(IAtom* pAtom, const char* pszName, UINT nOrder)
+{
+    std::string key(RankOf(pAtom, nOrder));
+    const bool bNatural = nOrder & MOF_NATURAL;
+    toolkit::AppendSortKey(key, pszName, bNatural ? toolkit::TextOrder::Natural : toolkit::TextOrder::NoCase);
+    return key;
+}
+
 bool views::NameKeys::Add(IAtom* pAtom)
 {
     auto dwLength = static_cast<DWORD>(AskNameLength(pAtom, &IAtom::GetName));
@@ -40,6 +57,6 @@ bool views::NameKeys::Add(IAtom* pAtom)
     m_buffer[dwLength] = '\0';
     if (!pAtom->GetName(m_buffer.data(), &dwLength))
         return false;
-    m_keys.Add(m_buffer.data());
+    m_keys.Add(m_buffer.data(), RankOf(pAtom, m_nOrder));
     return true;
 }

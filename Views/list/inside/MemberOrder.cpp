@@ -24,9 +24,9 @@ void Arrange(AtomArray& atoms, const Keys& order)
     atoms = std::move(arranged);
 }
 
-bool OrderByName(AtomArray& atoms)
+bool OrderByName(AtomArray& atoms, UINT nOrder)
 {
-    views::NameKeys keys(atoms.size());
+    views::NameKeys keys(atoms.size(), nOrder);
     for (const CStubRef<IAtom>& pAtom : atoms) {
         if (!pAtom || CStubRef<IImageLink>::From(pAtom.Get()) || !keys.Add(pAtom.Get()))
             return false;
@@ -78,22 +78,22 @@ enum class Order
     ByPosition
 };
 
-Order OrderByKeys(AtomArray& atoms)
+Order OrderByKeys(AtomArray& atoms, UINT nOrder)
 {
     const bool bLinks = static_cast<bool>(CStubRef<IImageLink>::From(atoms.front().Get()));
     if (bLinks)
         return OrderByPosition(atoms) ? Order::ByPosition : Order::None;
-    return OrderByName(atoms) ? Order::ByName : Order::None;
+    return OrderByName(atoms, nOrder) ? Order::ByName : Order::None;
 }
 
 } // namespace
 
-bool views::OrderMembers(AtomArray& atoms, AtomComparator compare)
+bool views::OrderMembers(AtomArray& atoms, AtomComparator compare, UINT nOrder)
 {
     if (atoms.empty())
         return true;
     try {
-        if (const Order order = OrderByKeys(atoms); order != Order::None)
+        if (const Order order = OrderByKeys(atoms, nOrder); order != Order::None)
             return order == Order::ByName;
     } catch (CMemoryException&) {
         // No room for the keys: comparing needs none.

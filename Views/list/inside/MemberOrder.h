@@ -14,8 +14,8 @@ static_assert(sizeof(CStubRef<IAtom>) == sizeof(void*), "comparators are handed 
 
 using AtomComparator = int (*)(const void* p1, const void* p2);
 
-// Orders the members as qsort with CObjectsList::CompareFunc, handed over as `compare`, orders them; equal ones keep
-// their order.
+// Orders the members as qsort with `compare`, CObjectsList's comparator for the order (MOF_*), orders them; equal ones
+// keep their order.
 //
 // A comparison asks the host for two interfaces and two names, and sorting a million members takes twenty million
 // comparisons. So keys are read once for each member wherever keys alone decide: when no member is an image link and
@@ -23,6 +23,6 @@ using AtomComparator = int (*)(const void* p1, const void* p2);
 // (links among other atoms, names that fail) is compared pair by pair.
 //
 // True when names alone have decided.
-bool OrderMembers(AtomArray& atoms, AtomComparator compare);
+bool OrderMembers(AtomArray& atoms, AtomComparator compare, UINT nOrder);
 
 } // namespace views

@@ -24,7 +24,8 @@ public:
     }
     int Find(IAtom* pAtom); // -1: none
 
-    void Show(AtomArray atoms, bool bByName); // do names alone order them?
+    void SetComparator(AtomComparator compare) { m_compare = compare; } // before Show
+    void Show(AtomArray atoms, bool bByName);                           // do names alone order them?
     // Its row. Both raise CMemoryException.
     int Append(IAtom* pAtom);
     int Place(IAtom* pAtom); // where names order the rows, among them; else last
@@ -48,7 +49,7 @@ private:
     void SettleDoubts();
     void CheckOrder(int nRow);
 
-    const AtomComparator m_compare;
+    AtomComparator m_compare;
     bool m_bByName = false; // do names order the rows, but for those that were appended?
     AtomArray m_atoms;
     unsigned m_nMoves = 0;   // how often rows have got other numbers

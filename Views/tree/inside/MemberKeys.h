@@ -12,8 +12,8 @@ namespace views
 // The innermost of those being filled is known while it lives.
 struct MemberKeys
 {
-    MemberKeys(HTREEITEM hParentItem, MemberKeys*& pInnermost)
-        : hParent(hParentItem), pOuter(pInnermost), names(0), m_pInnermost(pInnermost)
+    MemberKeys(HTREEITEM hParentItem, MemberKeys*& pInnermost, UINT nOrder)
+        : hParent(hParentItem), pOuter(pInnermost), names(0, nOrder), m_pInnermost(pInnermost)
     {
         m_pInnermost = this;
     }
