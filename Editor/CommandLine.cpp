@@ -3,7 +3,6 @@
 #include "Editor/script/Script.h"
 
 #include <charconv>
-#include <filesystem>
 
 namespace editor
 {
@@ -59,6 +58,8 @@ private:
             m_line.screenshot = TakeOperand(option, "the name of the picture to write");
         else if (option == "--script")
             m_line.script = TakeOperand(option, "the name of the file with the commands");
+        else if (option == "--forget")
+            m_line.isForgetful = true;
         else if (option == "--size")
             TakeSize(TakeOperand(option, "WIDTHxHEIGHT"));
         else
@@ -85,6 +86,7 @@ private:
 
     void TakeSize(const std::string& text)
     {
+        m_line.isSizeNamed = true;
         if (m_line.error.empty() && !ParseSize(text, m_line.size))
             m_line.error = "--size " + text + ": not a size like 960x640, from " + std::to_string(kMinExtent) + " to " +
                            std::to_string(kMaxExtent) + " pixels each way";
@@ -103,20 +105,15 @@ CommandLine ParseCommandLine(const std::vector<std::string>& arguments)
     return Parser(arguments).Parse();
 }
 
-std::string DefaultFolder()
-{
-    std::error_code failure;
-    return std::filesystem::is_directory(EDITOR_SAMPLES, failure) ? EDITOR_SAMPLES : ".";
-}
-
 std::string CommandLineHelp()
 {
     return "Shows a folder of pictures as a library of objects.\n"
            "\n"
-           "  [FOLDER]                 open FOLDER; the sample library without one\n"
+           "  [FOLDER]                 open FOLDER; without one the last one, at first a copy of the samples\n"
            "  --screenshot PNG         write a picture of the window to the file PNG and end\n"
            "  --script FILE            run the commands in FILE (- for the standard input), without a window, and end\n"
-           "  --size WIDTHxHEIGHT      the window's size in pixels; 960x640 without it\n"
+           "  --size WIDTHxHEIGHT      the window's size in pixels; without it the last one, at first 960x640\n"
+           "  --forget                 neither read nor write what is remembered from one time to the next\n"
            "  --help                   show this text and end\n"
            "\n" +
            ScriptHelp();

@@ -15,15 +15,14 @@ struct CommandLine
     std::string script;     // the file with the commands to run instead, "-" for the standard input; empty: none
     std::string screenshot; // the PNG file to write instead of staying open; empty: none
     CSize size{960, 640};   // of the frame's client area
+    bool isSizeNamed = false;
+    bool isForgetful = false; // the user's settings are neither read nor written
     bool help = false;
     std::string error; // one line; empty when the command line was understood
 };
 
 // The arguments without the program's name. What is wrong exits with status 2 after its line has been shown.
 CommandLine ParseCommandLine(const std::vector<std::string>& arguments);
-
-// What is opened when no folder is named: the sample library where the program was built, else the current folder.
-std::string DefaultFolder();
 
 // What --help prints, with a line's end after every line.
 std::string CommandLineHelp();

@@ -4,6 +4,7 @@
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/NameRefusals.h"
 #include "HostKit/Services.h"
+#include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/run/Run.h"
 
@@ -54,8 +55,46 @@ struct EditorApp::Parts
         atomEditor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pAtom, pContainer.Get(), 0);
     }
 
+    // What another window has written meanwhile stays, as far as it is no matter of this one.
+    void Remember(const CMainFrame& frame)
+    {
+        if (options.settingsPath.empty() || !frame.IsWindowVisible()) // what was never shown is nobody's wish
+            return;
+        frame.Remember(settings);
+        WriteSettings(options.settingsPath, settings);
+    }
+
+    CMainFrame::Outside FrameOutside(std::function<std::string(const std::string&)> openFolder)
+    {
+        return {.places = {.openFolder = std::move(openFolder),
+                           .openWindow = options.openWindow,
+                           .askRecent = [this] { return settings.recent; }},
+                .ending = [this](const CMainFrame& frame) { Remember(frame); },
+                .closed = options.onClosed};
+    }
+
+    // Never larger than the screen, and never outside.
+    CRect WindowPlace() const
+    {
+        constexpr int kFrame = 8, kTitle = 32; // about what the desktop puts around a window
+        const bool bRemembered = !settings.window.IsRectEmpty() && !options.isSizeNamed;
+        CRect place = bRemembered ? settings.window : CRect(CPoint(), options.size);
+        CRect area = toolkit::CurrentDesktop().GetWorkArea(place.TopLeft());
+        if (area.IsRectEmpty() || options.isSizeNamed)
+            return place;
+        area.DeflateRect(kFrame, kFrame);
+        area.top += kTitle - kFrame;
+        const CSize size(std::min(place.Width(), area.Width()), std::min(place.Height(), area.Height()));
+        if (!bRemembered)
+            return {CPoint(), size};
+        return {CPoint(std::clamp<int>(place.left, area.left, area.right - size.cx),
+                       std::clamp<int>(place.top, area.top, area.bottom - size.cy)),
+                size};
+    }
+
     const PictureReader& reader;
     const Options options;
+    Settings settings = ReadSettings(options.settingsPath);
     std::unique_ptr<FolderWatch> pWatch; // or empty
     CResourceModule resources;
     CAtomEditor atomEditor;
@@ -76,9 +115,12 @@ std::string EditorApp::OpenFolder(const std::string& path)
     std::unique_ptr<CMainFrame>& pFrame = m_parts->pFrame;
     const bool bFirst = !GetMainWindow();
     if (bFirst) {
-        pFrame = std::make_unique<CMainFrame>(m_parts->atomEditor, *m_parts->pPictures, m_parts->options.onClosed);
-        if (!pFrame->Create(m_parts->options.size))
+        pFrame = std::make_unique<CMainFrame>(
+            m_parts->atomEditor, *m_parts->pPictures,
+            m_parts->FrameOutside([this](const std::string& folder) { return OpenFolder(folder); }));
+        if (!pFrame->Create(m_parts->WindowPlace()))
             return "the window cannot be made";
+        pFrame->Follow(m_parts->settings);
         AfxSetMainWnd(pFrame.get());
     }
     std::string error;
@@ -89,7 +131,9 @@ std::string EditorApp::OpenFolder(const std::string& path)
         return error;
     }
     pFrame->ShowLibrary(pLibrary.Get());
+    m_parts->settings.NoteFolder(pLibrary->Path());
     pFrame->ShowWindow(SW_SHOW);
+    m_parts->Remember(*pFrame);
     pFrame->GetList().SetFocus();
     return {};
 }

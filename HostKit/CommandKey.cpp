@@ -5,12 +5,13 @@
 namespace hostkit
 {
 
-bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift) const
+bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt) const
 {
-    if (key == 0 || key != vkey)
+    if (key == 0 || key != vkey || bAlt != (with == With::Alt))
         return false;
     switch (with) {
     case With::Nothing:
+    case With::Alt:
         return !bControl && !bShift;
     case With::Control:
         return bControl && !bShift;
@@ -26,18 +27,28 @@ bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift) const
 
 std::string CommandKey::Text() const
 {
+    const bool bLetter = (vkey >= 'A' && vkey <= 'Z') || (vkey >= '0' && vkey <= '9');
+    const std::string held = with == With::ControlShift                                  ? "Ctrl+Shift+"
+                             : with == With::Alt                                         ? "Alt+"
+                             : with == With::Control || (bLetter && with == With::Views) ? "Ctrl+"
+                                                                                         : "";
     switch (vkey) {
     case 0:
         return {};
     case VK_RETURN:
-        return "Enter";
+        return held + "Enter";
     case VK_DELETE:
-        return "Del";
-    case VK_F2:
-    case VK_F5:
-        return "F" + std::to_string(vkey - VK_F1 + 1);
+        return held + "Del";
+    case VK_TAB:
+        return held + "Tab";
+    case VK_LEFT:
+        return held + "Left";
+    case VK_RIGHT:
+        return held + "Right";
+    case VK_UP:
+        return held + "Up";
     default:
-        return std::string(with == With::ControlShift ? "Ctrl+Shift+" : "Ctrl+") + static_cast<char>(vkey);
+        return held + (bLetter ? std::string(1, static_cast<char>(vkey)) : "F" + std::to_string(vkey - VK_F1 + 1));
     }
 }
 

@@ -15,6 +15,7 @@ struct HOSTKIT_API CommandKey
         Nothing,
         Control,
         ControlShift,
+        Alt,
         Whatever, // else is held down
         Views     // know it themselves: the menu tells it, and nobody else looks for it
     };
@@ -22,7 +23,7 @@ struct HOSTKIT_API CommandKey
     UINT vkey = 0; // 0: none
     With with = With::Nothing;
 
-    bool IsGivenBy(UINT key, bool bControl, bool bShift) const;
+    bool IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt = false) const;
     std::string Text() const; // as menus show it: "Ctrl+C"; empty without a key
 };
 

@@ -61,6 +61,30 @@ CRect CPane::ChoiceRect(int nChoice) const
     return {left, top, left + kExtent, top + kExtent};
 }
 
+void CPane::SetField(CWnd* pField, CSize margin)
+{
+    m_pField = pField;
+    m_fieldMargin = margin;
+    PlaceView();
+}
+
+void CPane::ShowField(bool bShow)
+{
+    m_pField->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+    Invalidate();
+}
+
+CRect CPane::FieldRect() const
+{
+    constexpr int kMost = 208, kTitle = 112; // pixels wide
+    constexpr int kFieldHeight = kPaneCaptionHeight - kSpace / 2;
+    CRect client;
+    GetClientRect(&client);
+    const int right = (m_choices.empty() ? client.right : ChoiceRect(0).left) - kSpace;
+    const int top = (kPaneCaptionHeight - kFieldHeight) / 2;
+    return {std::max(kTitle, right - kMost), top, right, top + kFieldHeight};
+}
+
 BOOL CPane::OnEraseBkgnd(HDC hdc)
 {
     CRect client;
@@ -80,6 +104,13 @@ void CPane::OnPaint()
     DrawCentred(dc, icon, m_icon);
     caption.left = icon.right + kSpace;
     caption.right = (m_choices.empty() ? caption.right : ChoiceRect(0).left) - kSpace;
+    if (m_pField && m_pField->IsWindowVisible()) {
+        caption.right = FieldRect().left - kSpace;
+        CRect inner = FieldRect();
+        FillSolidRect(dc, inner, LineColor());
+        inner.DeflateRect(1, 1);
+        FillSolidRect(dc, inner, GetSysColor(COLOR_WINDOW));
+    }
     DrawTextLine(dc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
     DrawChoices(dc);
 }
@@ -118,6 +149,11 @@ void CPane::PlaceView()
 {
     CRect client;
     GetClientRect(&client);
+    if (m_pField) {
+        CRect text = FieldRect();
+        text.DeflateRect(m_fieldMargin.cx, m_fieldMargin.cy);
+        m_pField->MoveWindow(text);
+    }
     const int top = kPaneCaptionHeight + m_nMargin;
     ::MoveWindow(m_hView, m_nMargin, top, std::max(0, client.Width() - m_nMargin), std::max(0, client.Height() - top));
 }

@@ -31,6 +31,10 @@ public:
     void SetChosen(int nChoice);
     CRect ChoiceRect(int nChoice) const; // client
 
+    // A child window with text, borrowed: in the caption, before the buttons, while it is shown.
+    void SetField(CWnd* pField, CSize margin); // between its text and the line around it
+    void ShowField(bool bShow);
+
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
@@ -41,6 +45,7 @@ protected:
 
 private:
     void PlaceView();
+    CRect FieldRect() const; // with its line
     void DrawChoices(HDC hdc) const;
 
     const int m_nMargin;
@@ -50,6 +55,8 @@ private:
     std::vector<toolkit::Surface> m_choices; // what is on the buttons
     std::function<void(int)> m_choose;
     int m_nChosen = 0;
+    CWnd* m_pField = nullptr;
+    CSize m_fieldMargin;
 };
 
 } // namespace hostkit

@@ -115,19 +115,79 @@ void DrawThumbnailPane(Drawing& drawing, bool)
     DrawPhotograph(drawing, RoundRect({4, 6}, {44, 42}, 3), 1);
 }
 
-void DrawArrow(Drawing& drawing, const Ink& ink)
-{
-    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), ink);
-}
-
 void DrawUp(Drawing& drawing, bool)
 {
-    DrawArrow(drawing, Ink(kInk));
+    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), Ink(kInk));
 }
 
-void DrawNoUp(Drawing& drawing, bool)
+void DrawBack(Drawing& drawing, bool)
 {
-    DrawArrow(drawing, Ink(kInk, 0.3));
+    drawing.Fill(Stroke({{39, 24}, {11, 24}}, 4.5) | Stroke({{24, 11}, {10.5, 24}, {24, 37}}, 4.5), Ink(kInk));
+}
+
+void DrawForward(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{9, 24}, {37, 24}}, 4.5) | Stroke({{24, 11}, {37.5, 24}, {24, 37}}, 4.5), Ink(kInk));
+}
+
+// Half a turn with an arrow at its end.
+void DrawUndo(Drawing& drawing, bool)
+{
+    const Shape turn = Outline(Circle({25, 27}, 15.5), 4.5) & RoundRect({25, 8}, {48, 48}, 0);
+    drawing.Fill(turn | Stroke({{10, 13.7}, {25, 13.7}}, 4.5) | Stroke({{25, 40.2}, {16, 40.2}}, 4.5) |
+                     Stroke({{18, 5}, {9, 13.7}, {18, 22.4}}, 4.5),
+                 Ink(kInk));
+}
+
+void DrawRedo(Drawing& drawing, bool)
+{
+    const Shape turn = Outline(Circle({23, 27}, 15.5), 4.5) & RoundRect({0, 8}, {23, 48}, 0);
+    drawing.Fill(turn | Stroke({{23, 13.7}, {38, 13.7}}, 4.5) | Stroke({{23, 40.2}, {32, 40.2}}, 4.5) |
+                     Stroke({{30, 5}, {39, 13.7}, {30, 22.4}}, 4.5),
+                 Ink(kInk));
+}
+
+void DrawCut(Drawing& drawing, bool)
+{
+    drawing.Fill(Outline(Circle({13, 36}, 8), 4) | Outline(Circle({35, 36}, 8), 4), Ink(RGB(84, 146, 214)));
+    drawing.Fill(Stroke({{17, 29.5}, {34, 4}}, 4.2) | Stroke({{31, 29.5}, {14, 4}}, 4.2), Ink(kInk));
+}
+
+void DrawSheet(Drawing& drawing, Vec at)
+{
+    const Shape sheet = RoundRect(at, {at.x + 27, at.y + 33}, 3);
+    drawing.Fill(sheet, Ink(kPaper));
+    drawing.Fill(Outline(sheet, 3.6), Ink(kInk));
+}
+
+void DrawCopy(Drawing& drawing, bool)
+{
+    DrawSheet(drawing, {4, 3});
+    DrawSheet(drawing, {16, 12});
+    drawing.Fill(Stroke({{24, 24}, {35, 24}}, 3.2) | Stroke({{24, 33}, {35, 33}}, 3.2), Ink(RGB(84, 146, 214)));
+}
+
+void DrawPaste(Drawing& drawing, bool)
+{
+    const Shape board = RoundRect({4, 6}, {36, 45}, 4);
+    drawing.Fill(board, Ink(RGB(240, 180, 64)));
+    drawing.Fill(RoundRect({12, 2}, {28, 12}, 3), Ink(kInk));
+    DrawSheet(drawing, {17, 14});
+}
+
+void DrawDelete(Drawing& drawing, bool)
+{
+    const Shape body = Polygon({{10, 15}, {38, 15}, {35.5, 45}, {12.5, 45}});
+    drawing.Fill(Outline(body, 4), Ink(kInk));
+    drawing.Fill(Stroke({{6, 12}, {42, 12}}, 4.5) | Stroke({{18, 6}, {30, 6}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{20, 23}, {20.8, 37}}, 3.2) | Stroke({{28, 23}, {27.2, 37}}, 3.2), Ink(RGB(212, 72, 62)));
+}
+
+void DrawFind(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{30, 30}, {42, 42}}, 6), Ink(kInk));
+    drawing.Fill(Circle({20, 20}, 15), Ink(RGB(226, 241, 254)));
+    drawing.Fill(Outline(Circle({20, 20}, 16), 4.5), Ink(kInk));
 }
 
 void DrawPathArrow(Drawing& drawing, bool)
@@ -140,9 +200,10 @@ void DrawPathArrow(Drawing& drawing, bool)
 toolkit::Surface DrawPictogram(Pictogram which, int pixels)
 {
     using Draw = void (*)(Drawing&, bool);
-    static constexpr Draw draw[] = {DrawFolder,   DrawPhase,    DrawBrokenPicture, DrawPlaceholder,
-                                    DrawTreePane, DrawIconPane, DrawThumbnailPane, DrawUp,
-                                    DrawNoUp,     DrawPathArrow};
+    static constexpr Draw draw[] = {
+        DrawFolder,        DrawPhase, DrawBrokenPicture, DrawPlaceholder, DrawTreePane,  DrawIconPane,
+        DrawThumbnailPane, DrawUp,    DrawBack,          DrawForward,     DrawPathArrow, DrawUndo,
+        DrawRedo,          DrawCut,   DrawCopy,          DrawPaste,       DrawDelete,    DrawFind};
     Drawing drawing(pixels, kUnits);
     draw[static_cast<int>(which)](drawing, pixels >= kDetailed);
     return drawing.Take();

@@ -16,9 +16,17 @@ enum class Pictogram
     TreePane,
     IconPane,
     ThumbnailPane,
-    Up,        // an arrow
-    NoUp,      // the same when there is nothing above
+    Up, // arrows
+    Back,
+    Forward,
     PathArrow, // between the parts of a path
+    Undo,
+    Redo,
+    Cut,
+    Copy,
+    Paste,
+    Delete,
+    Find,
 };
 
 HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);

@@ -5,6 +5,7 @@
 // shown; 1 when a command of a script failed; 128 and the signal's number when one asked it to end.
 #include "Editor/CommandLine.h"
 #include "Editor/EditorApp.h"
+#include "Editor/FirstFolder.h"
 #include "Editor/app/Display.h"
 #include "Editor/app/EndSignals.h"
 #include "Editor/app/ProgramIcon.h"
@@ -19,6 +20,8 @@
 #include "Toolkit/message/Input.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QProcess>
 #include <QSocketNotifier>
 #include <csignal>
 #include <cstdio>
@@ -51,13 +54,24 @@ void ShowOnlyTrouble(QtMsgType type, const QMessageLogContext&, const QString& m
         std::fprintf(stderr, "editor: %s\n", qPrintable(message));
 }
 
+// In a process of its own, which whatever happens to this one does not concern.
+std::string OpenWindow(const std::string& path)
+{
+    const QString program = QCoreApplication::applicationFilePath();
+    return QProcess::startDetached(program, {"--", QFile::decodeName(path.c_str())}) ? "" : "no program can be started";
+}
+
 int Show(QApplication& application, const editor::CommandLine& line, const editor::EndSignals& ending)
 {
     QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
     application.setWindowIcon(editor::MakeProgramIcon());
     qtdesktop::QtDesktop desktop;
-    editor::EditorApp editor(Reader(),
-                             {.size = line.size, .onClosed = [&] { application.quit(); }, .isFollowing = true});
+    editor::EditorApp editor(Reader(), {.size = line.size,
+                                        .isSizeNamed = line.isSizeNamed,
+                                        .settingsPath = line.isForgetful ? "" : editor::SettingsPath(),
+                                        .openWindow = OpenWindow,
+                                        .onClosed = [&] { application.quit(); },
+                                        .isFollowing = true});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     // As if the user closed the window, who may be asked. A second signal ends the program without a question, and so
@@ -93,7 +107,7 @@ int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
     if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
         return Refuse(reason);
     UnattendedDesktop desktop;
-    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = {}});
+    editor::EditorApp editor(Reader(), {.size = line.size, .isSizeNamed = true, .onClosed = {}});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     QCoreApplication::processEvents(); // the window takes its place
@@ -116,7 +130,7 @@ int TakeScreenshot(const editor::CommandLine& line, const std::string& trouble, 
         return Refuse(screenshot.GetError());
 
     qtdesktop::QtDesktop desktop;
-    editor::EditorApp editor(Reader(), {.size = line.size, .onClosed = {}});
+    editor::EditorApp editor(Reader(), {.size = line.size, .isSizeNamed = true, .onClosed = {}});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     QCoreApplication::processEvents(); // the window takes its place
@@ -150,8 +164,6 @@ int main(int argc, char* argv[])
         std::printf("%s", editor::CommandLineHelp().c_str());
         return 0;
     }
-    if (line.folder.empty())
-        line.folder = editor::DefaultFolder();
     std::signal(SIGXFSZ, SIG_IGN); // a file that would be too large is an error of its writing, not the program's end
     const editor::EndSignals ending;
     editor::RemoveLeftTransfers();
@@ -159,6 +171,11 @@ int main(int argc, char* argv[])
     const bool bWindow = line.screenshot.empty() && line.script.empty();
     const editor::Display display = bWindow ? editor::FindDisplay() : editor::Display();
     const std::string platform = display.usable ? display.platform : "offscreen";
+    if (line.folder.empty() && bWindow && display.usable)
+        line.folder =
+            editor::FirstFolder(line.isForgetful ? editor::Settings() : editor::ReadSettings(editor::SettingsPath()));
+    else if (line.folder.empty())
+        line.folder = line.script.empty() ? editor::SampleFolder() : editor::FirstFolder(editor::Settings());
     if (!platform.empty())
         qputenv("QT_QPA_PLATFORM", platform.c_str());
     qInstallMessageHandler(ShowOnlyTrouble);

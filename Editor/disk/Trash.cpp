@@ -3,6 +3,7 @@
 #include "Editor/disk/FileNames.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/disk/TempEntry.h"
+#include "Editor/disk/UserPlaces.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -10,7 +11,6 @@
 #include <ctime>
 #include <fcntl.h>
 #include <filesystem>
-#include <pwd.h>
 #include <sys/stat.h>
 #include <utility>
 #include <vector>
@@ -33,22 +33,6 @@ struct Trash
     std::string path;
     std::string below; // paths are noted from there on; empty: as they are
 };
-
-std::string Environment(const char* pszName)
-{
-    const char* const pszValue = std::getenv(pszName);
-    return pszValue && pszValue[0] == '/' ? pszValue : std::string();
-}
-
-std::string DataHome()
-{
-    if (std::string path = Environment("XDG_DATA_HOME"); !path.empty())
-        return path;
-    std::string home = Environment("HOME");
-    if (const passwd* const pUser = home.empty() ? getpwuid(geteuid()) : nullptr)
-        home = pUser->pw_dir;
-    return home.empty() ? home : home + "/.local/share";
-}
 
 bool IsSameDevice(const std::string& path, dev_t device)
 {

@@ -1,65 +1,135 @@
 #include "Editor/frame/CommandTable.h"
 
 #include "Editor/frame/FrameCommands.h"
+#include "Editor/frame/PlaceCommands.h"
+#include "Editor/frame/ViewCommands.h"
 
 #include <algorithm>
+#include <type_traits>
 
 namespace editor
 {
 namespace
 {
 
+using Menu = CommandEntry::Menu;
+using Context = CommandEntry::Context;
 using With = hostkit::CommandKey::With;
-using State = CommandState;
-using Run = FrameCommands;
+using Reach = CommandEntry::Reach;
+using hostkit::Pictogram;
+using Can = CommandState;
+using Objects = FrameCommands;
+using Places = PlaceCommands;
+using Views = ViewCommands;
 
-// In the menu's order.
+template <auto kMethod>
+void Do(const CommandTargets& targets)
+{
+    using Method = decltype(kMethod);
+    if constexpr (std::is_invocable_v<Method, Objects&>)
+        (targets.objects.*kMethod)();
+    else if constexpr (std::is_invocable_v<Method, Places&>)
+        (targets.places.*kMethod)();
+    else
+        (targets.views.*kMethod)();
+}
+
+void Save(const CommandTargets& targets)
+{
+    targets.views.LeaveFields();
+    targets.objects.SaveOrTell();
+}
+
+// clang-format off
+// In the menus' order.
 constexpr CommandEntry kCommands[] = {
-    {ID_OPEN, "&Open", true, {VK_RETURN, With::Views}, &State::canOpen, &Run::OpenSelected, nullptr, nullptr},
-    {ID_UNDO, "&Undo", true, {'Z', With::Control}, &State::canUndo, &Run::UndoOrTell, "undo", &Run::Undo},
-    {ID_REDO, "Re&do", false, {'Z', With::ControlShift}, &State::canRedo, &Run::RedoOrTell, "redo", &Run::Redo},
-    {ID_REDO, nullptr, false, {'Y', With::Control}, &State::canRedo, &Run::RedoOrTell, nullptr, nullptr},
-    {ID_CUT, "Cu&t", true, {'X', With::Control}, &State::canRemove, &Run::CutSelection, "cut", &Run::Cut},
-    {ID_COPY, "&Copy", false, {'C', With::Control}, &State::canCarry, &Run::CopySelection, "copy", &Run::Copy},
-    {ID_PASTE, "&Paste", false, {'V', With::Control}, &State::canPaste, &Run::PasteHere, "paste", &Run::Paste},
-    {ID_NEW_FOLDER,
-     "&New folder",
-     true,
-     {'N', With::ControlShift},
-     &State::canMakeFolder,
-     &Run::NewFolderAndName,
-     "new-folder",
-     &Run::NewFolder},
-    {ID_NEW_PHASE,
-     "New p&hase",
-     false,
-     {'P', With::ControlShift},
-     &State::canMakePhase,
-     &Run::NewPhaseAndName,
-     "new-phase",
-     &Run::NewPhase},
-    {ID_RENAME, "&Rename", true, {VK_F2, With::Nothing}, &State::canRename, &Run::RenameSelected, nullptr, nullptr},
-    {ID_REMOVE,
-     "&Delete",
-     false,
-     {VK_DELETE, With::Nothing},
-     &State::canRemove,
-     &Run::RemoveSelection,
-     nullptr,
-     nullptr},
-    {ID_RESTORE, "Re&store", false, {}, &State::canRestore, &Run::RestoreOrTell, "restore", &Run::Restore},
-    {ID_SELECT_ALL, "Select &all", true, {'A', With::Views}, &State::canSelectAll, &Run::SelectAll, nullptr, nullptr},
-    {ID_REFRESH,
-     "Re&fresh",
-     false,
-     {VK_F5, With::Whatever},
-     &State::always,
-     &Run::Refresh,
-     "refresh",
-     &Run::RefreshQuietly},
-    {ID_ICONS, nullptr, false, {'1', With::Control}, &State::always, &Run::ShowIcons, nullptr, nullptr},
-    {ID_THUMBNAILS, nullptr, false, {'2', With::Control}, &State::always, &Run::ShowThumbnails, nullptr, nullptr},
+    {.nID = ID_OPEN_FOLDER, .menu = Menu::File, .pszText = "Open &folder...", .key = {'O', With::Control},
+     .reach = Reach::OfFrame, .run = Do<&Places::OpenFolder>},
+    {.nID = ID_RECENT, .menu = Menu::File, .pszText = "Open &recent", .pWhyNot = &Can::recent},
+    {.nID = ID_NEW_WINDOW, .menu = Menu::File, .pszText = "Open in a new &window", .key = {VK_RETURN, With::Control}, .pWhyNot = &Can::outside, .run = Do<&Places::OpenWindow>},
+    {.nID = ID_OPEN, .menu = Menu::File, .pszText = "&Open", .bSection = true, .context = Context::Section,
+     .key = {VK_RETURN, With::Views}, .pWhyNot = &Can::open, .run = Do<&Objects::OpenSelected>},
+    {.nID = ID_SHOW_OUTSIDE, .menu = Menu::File, .pszText = "S&how in the file manager", .key = {'E', With::Control}, .run = Do<&Places::ShowOutside>},
+    {.nID = ID_COPY_PATH, .menu = Menu::File, .pszText = "Copy &path", .key = {'C', With::ControlShift},
+     .run = Do<&Places::CopyPath>},
+    {.nID = ID_SAVE, .menu = Menu::File, .pszText = "&Save", .bSection = true, .key = {'S', With::Control},
+     .reach = Reach::OfFrame, .pWhyNot = &Can::save, .run = Save},
+    {.nID = ID_CLOSE, .menu = Menu::File, .pszText = "&Close", .bSection = true, .key = {'Q', With::Control},
+     .reach = Reach::OfFrame, .run = Do<&Views::Close>},
+
+    {.nID = ID_UNDO, .menu = Menu::Edit, .pszText = "&Undo", .context = Context::Section, .key = {'Z', With::Control}, .tool = Pictogram::Undo, .pWhyNot = &Can::undo, .run = Do<&Objects::UndoOrTell>,
+     .pszWord = "undo", .runQuietly = &Objects::Undo},
+    {.nID = ID_REDO, .menu = Menu::Edit, .pszText = "Re&do", .context = Context::Yes, .key = {'Z', With::ControlShift}, .tool = Pictogram::Redo, .pWhyNot = &Can::redo, .run = Do<&Objects::RedoOrTell>,
+     .pszWord = "redo", .runQuietly = &Objects::Redo},
+    {.nID = ID_REDO, .menu = Menu::None, .pszText = nullptr, .key = {'Y', With::Control},
+     .pWhyNot = &Can::redo, .run = Do<&Objects::RedoOrTell>},
+    {.nID = ID_CUT, .menu = Menu::Edit, .pszText = "Cu&t", .bSection = true, .context = Context::Section, .key = {'X', With::Control}, .tool = Pictogram::Cut, .pWhyNot = &Can::remove, .run = Do<&Objects::CutSelection>,
+     .pszWord = "cut", .runQuietly = &Objects::Cut},
+    {.nID = ID_COPY, .menu = Menu::Edit, .pszText = "&Copy", .context = Context::Yes, .key = {'C', With::Control}, .tool = Pictogram::Copy, .pWhyNot = &Can::carry, .run = Do<&Objects::CopySelection>,
+     .pszWord = "copy", .runQuietly = &Objects::Copy},
+    {.nID = ID_PASTE, .menu = Menu::Edit, .pszText = "&Paste", .context = Context::Yes, .key = {'V', With::Control}, .tool = Pictogram::Paste, .pWhyNot = &Can::paste, .run = Do<&Objects::PasteHere>,
+     .pszWord = "paste", .runQuietly = &Objects::Paste},
+    {.nID = ID_NEW_FOLDER, .menu = Menu::Edit, .pszText = "&New folder", .bSection = true,
+     .context = Context::Section, .key = {'N', With::ControlShift}, .pWhyNot = &Can::makeFolder,
+     .run = Do<&Objects::NewFolderAndName>, .pszWord = "new-folder", .runQuietly = &Objects::NewFolder},
+    {.nID = ID_NEW_PHASE, .menu = Menu::Edit, .pszText = "New p&hase", .context = Context::Yes,
+     .key = {'P', With::ControlShift}, .pWhyNot = &Can::makePhase, .run = Do<&Objects::NewPhaseAndName>,
+     .pszWord = "new-phase", .runQuietly = &Objects::NewPhase},
+    {.nID = ID_RENAME, .menu = Menu::Edit, .pszText = "&Rename", .bSection = true, .context = Context::Section,
+     .key = {VK_F2, With::Nothing}, .pWhyNot = &Can::rename, .run = Do<&Objects::RenameSelected>},
+    {.nID = ID_REMOVE, .menu = Menu::Edit, .pszText = "&Delete", .context = Context::Yes, .key = {VK_DELETE, With::Nothing},
+     .tool = Pictogram::Delete, .pWhyNot = &Can::remove, .run = Do<&Objects::RemoveSelection>},
+    {.nID = ID_RESTORE, .menu = Menu::Edit, .pszText = "Re&store", .context = Context::Yes,
+     .pWhyNot = &Can::restore, .run = Do<&Objects::RestoreOrTell>, .pszWord = "restore",
+     .runQuietly = &Objects::Restore},
+    {.nID = ID_TIMING, .menu = Menu::Edit, .pszText = "Frame delay and re&peat", .key = {VK_F4, With::Nothing},
+     .pWhyNot = &Can::timing, .run = Do<&Views::FocusTiming>},
+    {.nID = ID_SELECT_ALL, .menu = Menu::Edit, .pszText = "Select &all", .bSection = true,
+     .context = Context::Section, .key = {'A', With::Views}, .pWhyNot = &Can::selectAll,
+     .run = Do<&Objects::SelectAll>},
+
+    {.nID = ID_ICONS, .menu = Menu::View, .pszText = "&Icons", .key = {'1', With::Control},
+     .pOn = &Can::icons, .run = Do<&Views::ShowIcons>},
+    {.nID = ID_THUMBNAILS, .menu = Menu::View, .pszText = "&Thumbnails", .key = {'2', With::Control},
+     .pOn = &Can::thumbnails, .run = Do<&Views::ShowThumbnails>},
+    {.nID = ID_FILTER, .menu = Menu::View, .pszText = "Filter by &name", .bSection = true, .key = {'F', With::Control}, .reach = Reach::OfFrame, .tool = Pictogram::Find, .pWhyNot = &Can::list, .pOn = &Can::filter,
+     .run = Do<&Views::ToggleFilter>},
+    {.nID = ID_FOLDERS_FIRST, .menu = Menu::View, .pszText = "&Folders first",
+     .pOn = &Can::foldersFirst, .run = Do<&Views::ToggleFoldersFirst>},
+    {.nID = ID_REFRESH, .menu = Menu::View, .pszText = "&Refresh", .bSection = true, .context = Context::Yes,
+     .key = {VK_F5, With::Whatever}, .run = Do<&Objects::Refresh>, .pszWord = "refresh",
+     .runQuietly = &Objects::RefreshQuietly},
+    {.nID = ID_NEXT_PANE, .menu = Menu::View, .pszText = "&Next pane", .key = {VK_F6, With::Whatever},
+     .run = Do<&Views::FocusNextPane>},
+    {.nID = ID_NEXT_PANE, .menu = Menu::None, .pszText = nullptr, .key = {VK_TAB, With::Whatever},
+     .run = Do<&Views::FocusNextPane>},
+
+    {.nID = ID_BACK, .menu = Menu::Go, .pszText = "&Back", .key = {VK_LEFT, With::Alt},
+     .tool = Pictogram::Back, .pWhyNot = &Can::back, .run = Do<&Places::GoBack>},
+    {.nID = ID_FORWARD, .menu = Menu::Go, .pszText = "&Forward", .key = {VK_RIGHT, With::Alt},
+     .tool = Pictogram::Forward, .pWhyNot = &Can::forward, .run = Do<&Places::GoForward>},
+    {.nID = ID_UP, .menu = Menu::Go, .pszText = "&Up", .key = {VK_UP, With::Alt}, .tool = Pictogram::Up,
+     .pWhyNot = &Can::up, .run = Do<&Places::GoUp>},
+    {.nID = ID_PATH, .menu = Menu::Go, .pszText = "Type a &path", .bSection = true, .key = {'L', With::Control}, .reach = Reach::OfFrame, .run = Do<&Places::TypePath>},
+
+    {.nID = ID_KEYS, .menu = Menu::Help, .pszText = "&Keys", .key = {VK_F1, With::Whatever},
+     .reach = Reach::OfFrame, .run = Do<&Views::ShowKeys>},
+    {.nID = ID_ABOUT, .menu = Menu::Help, .pszText = "&About", .run = Do<&Views::ShowAbout>},
 };
+
+constexpr KeyUse kKeysOfViews[] = {
+    {"Enter, double click", "Open"},
+    {"Backspace", "Up"},
+    {"Arrows, Home, End, Page", "Select another object"},
+    {"Arrows in a picture", "The next or the last one"},
+    {"Shift with them", "Select all up to there"},
+    {"Ctrl+Space, Ctrl+click", "Select one more, or one less"},
+    {"Letters", "The next name that begins so"},
+    {"+  -  *", "Expand, collapse, all below"},
+    {"Menu, Shift+F10", "What can be done with it"},
+    {"F10, Alt", "The menus"},
+};
+// clang-format on
 
 template <class Matches>
 const CommandEntry* Find(Matches matches)
@@ -68,28 +138,31 @@ const CommandEntry* Find(Matches matches)
     return pFound == std::end(kCommands) ? nullptr : pFound;
 }
 
-// " rename of "walk.png"" behind what takes a step back or does it again. What is an & there is none of the menu's.
+// " rename of "walk.png"" behind what takes a step back or does it again.
 std::string StepOf(const CommandEntry& command, const CommandState& state)
 {
-    std::string name = command.nID == ID_UNDO      ? state.undo
-                       : command.nID == ID_REDO    ? state.redo
-                       : command.nID == ID_RESTORE ? state.restore
-                                                   : std::string();
-    for (std::size_t at = name.find('&'); at != name.npos; at = name.find('&', at + 2))
-        name.insert(at, 1, '&');
-    return name.empty() ? name : ' ' + name;
+    const std::string name = command.nID == ID_UNDO      ? state.nameToUndo
+                             : command.nID == ID_REDO    ? state.nameToRedo
+                             : command.nID == ID_RESTORE ? state.nameToRestore
+                                                         : std::string();
+    return name.empty() ? name : ' ' + WithoutMarks(name);
 }
 
 } // namespace
+
+std::span<const CommandEntry> AllCommands()
+{
+    return kCommands;
+}
 
 const CommandEntry* FindCommand(UINT nID)
 {
     return Find([=](const CommandEntry& command) { return command.nID == nID; });
 }
 
-const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift)
+const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift, bool bAlt)
 {
-    return Find([=](const CommandEntry& command) { return command.key.IsGivenBy(vkey, bControl, bShift); });
+    return Find([=](const CommandEntry& command) { return command.key.IsGivenBy(vkey, bControl, bShift, bAlt); });
 }
 
 const CommandEntry* FindCommandOfWord(std::string_view word)
@@ -97,20 +170,21 @@ const CommandEntry* FindCommandOfWord(std::string_view word)
     return Find([=](const CommandEntry& command) { return command.pszWord && word == command.pszWord; });
 }
 
-std::unique_ptr<CMenu> MakeContextMenu(const CommandState& state)
+std::string WithoutMarks(std::string text)
 {
-    auto pMenu = std::make_unique<CMenu>();
-    if (!pMenu->CreatePopupMenu())
-        return nullptr;
-    for (const CommandEntry& command : kCommands) {
-        if (!command.pszMenu)
-            continue;
-        if (command.bSection && &command != kCommands)
-            pMenu->AppendMenu(MF_SEPARATOR);
-        const std::string text = command.pszMenu + StepOf(command, state) + '\t' + command.key.Text();
-        pMenu->AppendMenu(MF_STRING | (state.*command.pCan ? MF_ENABLED : MF_GRAYED), command.nID, text.c_str());
-    }
-    return pMenu;
+    for (std::size_t at = text.find('&'); at != text.npos; at = text.find('&', at + 2))
+        text.insert(at, 1, '&');
+    return text;
+}
+
+std::string MenuText(const CommandEntry& command, const CommandState& state)
+{
+    return command.pszText + StepOf(command, state);
+}
+
+std::span<const KeyUse> KeysOfViews()
+{
+    return kKeysOfViews;
 }
 
 } // namespace editor

@@ -1,11 +1,13 @@
-// The commands of the frame: what each is called in the menu and in scripts, its key, when it can be given, what it
+// The commands of the frame: what each is called in menus, tools and scripts, its key, when it can be given, what it
 // does.
 #pragma once
 
 #include "HostKit/CommandKey.h"
-#include "Toolkit/menu/Menu.h"
+#include "HostKit/Pictograms.h"
+#include "Toolkit/base/Types.h"
 
-#include <memory>
+#include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,6 +15,8 @@ namespace editor
 {
 
 class FrameCommands;
+class PlaceCommands;
+class ViewCommands;
 
 // As they go to the frame.
 inline constexpr UINT ID_OPEN = 3001;
@@ -30,36 +34,99 @@ inline constexpr UINT ID_REDO = 3012;
 inline constexpr UINT ID_NEW_FOLDER = 3031;
 inline constexpr UINT ID_NEW_PHASE = 3032;
 inline constexpr UINT ID_RESTORE = 3033;
+inline constexpr UINT ID_OPEN_FOLDER = 3041;
+inline constexpr UINT ID_NEW_WINDOW = 3042;
+inline constexpr UINT ID_SHOW_OUTSIDE = 3043;
+inline constexpr UINT ID_COPY_PATH = 3044;
+inline constexpr UINT ID_SAVE = 3045;
+inline constexpr UINT ID_CLOSE = 3046;
+inline constexpr UINT ID_TIMING = 3047;
+inline constexpr UINT ID_NEXT_PANE = 3048;
+inline constexpr UINT ID_BACK = 3049;
+inline constexpr UINT ID_FORWARD = 3050;
+inline constexpr UINT ID_UP = 3051;
+inline constexpr UINT ID_PATH = 3052;
+inline constexpr UINT ID_FOLDERS_FIRST = 3055;
+inline constexpr UINT ID_FILTER = 3056;
+inline constexpr UINT ID_RECENT = 3057;       // a menu
+inline constexpr UINT ID_RECENT_FIRST = 3100; // in it
+inline constexpr UINT ID_RECENT_LAST = 3119;
+inline constexpr UINT ID_KEYS = 3053;
+inline constexpr UINT ID_ABOUT = 3054;
 
-// What can be done just now; all else is grayed.
+// Why something cannot be done just now, and what is on.
 struct CommandState
 {
-    bool canOpen = false, canCarry = false, canRemove = false, canRename = false, canPaste = false;
-    bool canSelectAll = false, canUndo = false, canRedo = false, canMakeFolder = false, canMakePhase = false,
-         canRestore = false;
-    bool always = true;
-    std::string undo, redo; // which step
-    std::string restore;    // what
+    using Why = std::string; // empty: it can be done
+    Why open, carry, remove, rename, paste, selectAll, undo, redo, restore, makeFolder, makePhase, save, timing, list,
+        recent, back, forward, up, outside;
+    Why never;                                         // stays empty
+    std::string nameToUndo, nameToRedo, nameToRestore; // which step
+    bool icons = false, thumbnails = false, foldersFirst = false, filter = false;
+};
+
+struct CommandTargets // all borrowed
+{
+    FrameCommands& objects;
+    PlaceCommands& places;
+    ViewCommands& views;
 };
 
 struct CommandEntry
 {
+    enum class Menu // of the bar, in its order
+    {
+        File,
+        Edit,
+        View,
+        Go,
+        Help,
+        None
+    };
+    enum class Context
+    {
+        No,
+        Yes,
+        Section // and begins a section there
+    };
+    enum class Reach // of the key
+    {
+        OfViews, // counts where the objects have the keys
+        OfFrame  // and wherever text is edited
+    };
+
     UINT nID;
-    const char* pszMenu; // NULL: not in the menu
-    bool bSection;       // begins a section of the menu
-    hostkit::CommandKey key;
-    bool CommandState::*pCan;
-    void (FrameCommands::*run)(); // as the user gives it: asks, and tells what was not done
-    const char* pszWord;          // in scripts, where nothing stands behind it; NULL: none
+    Menu menu;
+    const char* pszText;   // NULL: another key for a command that has one
+    bool bSection = false; // begins a section of its menu
+    Context context = Context::No;
+    hostkit::CommandKey key{};
+    Reach reach = Reach::OfViews;
+    std::optional<hostkit::Pictogram> tool{}; // on its button; none: it has no button
+    CommandState::Why CommandState::*pWhyNot = &CommandState::never;
+    bool CommandState::*pOn = nullptr;
+    void (*run)(const CommandTargets& targets) = nullptr; // as the user gives it: asks, and tells what was not done
+    const char* pszWord = nullptr;                        // in scripts, where nothing stands behind it; NULL: none
     // As scripts give it: nothing is asked. Empty when all was done, else the reason.
-    std::string (FrameCommands::*runQuietly)();
+    std::string (FrameCommands::*runQuietly)() = nullptr;
 };
+
+std::span<const CommandEntry> AllCommands();
 
 // NULL where there is none.
 const CommandEntry* FindCommand(UINT nID);
-const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift);
+const CommandEntry* FindCommandOfKey(UINT vkey, bool bControl, bool bShift, bool bAlt);
 const CommandEntry* FindCommandOfWord(std::string_view word);
 
-std::unique_ptr<CMenu> MakeContextMenu(const CommandState& state); // NULL without memory
+std::string WithoutMarks(std::string text); // for a menu: what is an & there marks no key
+std::string MenuText(const CommandEntry& command, const CommandState& state); // with its mark, and without its key
+
+// What else keys do, which is no command of the frame.
+struct KeyUse
+{
+    const char* pszKey;
+    const char* pszWhat;
+};
+std::span<const KeyUse> KeysOfViews();
 
 } // namespace editor

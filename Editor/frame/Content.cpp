@@ -67,6 +67,24 @@ void Content::ShowList(ListKind kind)
     m_changed();
 }
 
+void Content::SetOrder(UINT nOrder)
+{
+    m_icons.SetOrder(nOrder);
+    m_thumbnails.SetOrder(nOrder);
+}
+
+void Content::SetFilter(const std::function<bool(IAtom* pAtom)>& isShown)
+{
+    m_icons.SetFilter(isShown);
+    m_thumbnails.SetFilter(isShown);
+}
+
+void Content::ReloadList()
+{
+    if (!IsPictureShown())
+        m_pList->Reload();
+}
+
 void Content::ShowPicture(CMember* pMember, bool bKeepFocus)
 {
     m_picture.SetAtom(pMember);

@@ -33,7 +33,11 @@ public:
 
     void MoveTo(const CRect& rect); // both panes; in the frame's client coordinates
     void TakeFocus();
+    ListKind GetKind() const { return m_pList == &m_icons ? ListKind::Icons : ListKind::Thumbnails; }
     void ShowList(ListKind kind); // with the selection of the one before
+    void SetOrder(UINT nOrder);   // MOF_*, of both lists
+    void SetFilter(const std::function<bool(IAtom* pAtom)>& isShown);
+    void ReloadList(); // by the present filter
     // The picture takes the list's place, and the focus unless that is kept.
     void ShowPicture(CMember* pMember, bool bKeepFocus);
     void HidePicture();

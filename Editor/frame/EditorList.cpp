@@ -24,10 +24,10 @@ void CEditorList::FocusSelection()
     m_view.EnsureVisible(nRow, FALSE);
 }
 
-CEditorList::State CEditorList::Remember() const
+CEditorList::State CEditorList::Remember(AllRows all) const
 {
     State state;
-    state.bAllSelected = AreAllSelected();
+    state.bAllSelected = all == AllRows::MeansAll && AreAllSelected();
     for (int i = -1; !state.bAllSelected && (i = GetNextItem(i, LVNI_SELECTED)) >= 0;)
         state.selected.push_back(GetAtom(i));
     std::sort(state.selected.begin(), state.selected.end(),

@@ -37,9 +37,12 @@ public:
     virtual CStubRef<IAtom> GetAtom(int nRow) const = 0; // empty without such a row
     virtual void Activate(IAtom* pContainer) = 0;        // shows it; for NULL, what is entered next
     virtual void Deactivate() = 0;                       // lets go of all rows and of the pane
-    virtual CSize PictureSize() const = 0;               // at which rows wish for pictures
-    std::vector<CStubRef<IAtom>> AtomsInSight() const;   // sorted by address
-    int FindRow(IAtom* pAtom) const;                     // looks at all; -1: none
+    virtual void SetOrder(UINT nOrder) = 0;              // MOF_*
+    virtual void SetFilter(std::function<bool(IAtom* pAtom)> isShown) = 0;
+    virtual void Reload() = 0; // rows by the present order and filter; those that stay keep selection and focus
+    virtual CSize PictureSize() const = 0;             // at which rows wish for pictures
+    std::vector<CStubRef<IAtom>> AtomsInSight() const; // sorted by address
+    int FindRow(IAtom* pAtom) const;                   // looks at all; -1: none
 
     int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
@@ -71,7 +74,13 @@ public:
         int nFocused = -1; // its row then
         int nScrolled = 0; // pixels
     };
-    State Remember() const;
+    // All rows may be selected only in case all are to be that will be there.
+    enum class AllRows
+    {
+        MeansAll,
+        AsTheyAre
+    };
+    State Remember(AllRows all = AllRows::MeansAll) const;
     void Restore(const State& state);
     void RestoreRows(const State& state); // selection and focus; the focused row is scrolled into view
 
@@ -99,6 +108,7 @@ public:
           m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); })
     {
         View::PlaceNewAtoms();
+        View::SetMemberOrder(MOF_NATURAL);
     }
     ~CEditorListOf() override { View::DestroyWindow(); }
 
@@ -117,6 +127,21 @@ public:
     {
         m_bActive = false;
         View::OnAtomEntered(nullptr, nullptr);
+    }
+    void SetOrder(UINT nOrder) override
+    {
+        View::SetMemberOrder(nOrder);
+        Reload();
+    }
+    void SetFilter(std::function<bool(IAtom* pAtom)> isShown) override { View::SetMemberFilter(std::move(isShown)); }
+    void Reload() override
+    {
+        const auto pShown = CStubRef<IAtom>::From(GetEvents().askShown());
+        if (!m_bActive || !pShown)
+            return;
+        const State state = Remember(AllRows::AsTheyAre);
+        View::OnAtomEntered(pShown.Get(), nullptr);
+        RestoreRows(state);
     }
     CSize PictureSize() const override { return m_picture; }
 
@@ -143,6 +168,7 @@ protected:
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
         m_nameField.After(message, wParam, lParam);
         if (message == WM_CREATE && nResult != -1) {
+            View::SetTypeAhead(TRUE);
             View::GetDropTarget().Revoke();
             m_target.Register(this);
         }

@@ -39,11 +39,14 @@ BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
     ON_WM_KEYDOWN()
 END_MESSAGE_MAP()
 
-CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused)
-    : m_target(*this, std::move(dropFailed), std::move(dropRefused)), m_nameField(*this, [this](IAtom* pAtom) -> HWND {
-          const HTREEITEM hItem = GetItem(pAtom);
-          return hItem ? EditLabel(hItem) : nullptr;
-      })
+CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::function<void()> pressed)
+    : m_target(*this, std::move(dropFailed), std::move(dropRefused)),
+      m_nameField(*this,
+                  [this](IAtom* pAtom) -> HWND {
+                      const HTREEITEM hItem = GetItem(pAtom);
+                      return hItem ? EditLabel(hItem) : nullptr;
+                  }),
+      m_pressed(std::move(pressed))
 {
     ShowMembersOnDemand();
 }
@@ -52,6 +55,20 @@ void CEditorTree::ExpandAtom(IAtom* pAtom)
 {
     if (const HTREEITEM hItem = GetItem(pAtom))
         Expand(hItem, TVE_EXPAND);
+}
+
+CStubRef<IAtom> CEditorTree::Beside(IAtom* pAtom, int nStep) const
+{
+    const auto step = [&](HTREEITEM hItem) {
+        return nStep < 0 ? GetPrevSiblingItem(hItem) : GetNextSiblingItem(hItem);
+    };
+    const HTREEITEM hFrom = GetItem(pAtom);
+    for (HTREEITEM hItem = hFrom ? step(hFrom) : nullptr; hItem; hItem = step(hItem)) {
+        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
+        if (pRecord && !CStubRef<IAtomContainer>::From(pRecord->pAtom.Get()))
+            return CStubRef<IAtom>::Share(pRecord->pAtom.Get());
+    }
+    return {};
 }
 
 CStubRef<IAtomContainer> CEditorTree::ContainerAt(CPoint client) const
@@ -65,6 +82,7 @@ int CEditorTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CObjectsTree::OnCreate(lpCreateStruct) == -1)
         return -1;
+    SetMemberOrder(MOF_NATURAL);
     GetDropTarget().Revoke();
     return m_target.Register(this) ? 0 : -1;
 }
@@ -130,6 +148,8 @@ BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)
 
 LRESULT CEditorTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+        m_pressed();
     const LRESULT nResult = CObjectsTree::WindowProc(message, wParam, lParam);
     m_nameField.After(message, wParam, lParam);
     return nResult;

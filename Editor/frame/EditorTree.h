@@ -16,10 +16,13 @@ class CMember;
 class CEditorTree : public CObjectsTree
 {
 public:
-    CEditorTree(DropFailed dropFailed, DropRefused dropRefused);
+    // `pressed`: a mouse button, on the tree.
+    CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::function<void()> pressed);
     ~CEditorTree() override { DestroyWindow(); }
 
-    void ExpandAtom(IAtom* pAtom);                             // nothing when it is not shown or has no members
+    void ExpandAtom(IAtom* pAtom); // nothing when it is not shown or has no members
+    // The nearest sibling in that direction (-1, 1) that is no container; empty where there is none.
+    CStubRef<IAtom> Beside(IAtom* pAtom, int nStep) const;
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const; // the item's, if it is one
 
     // Members that are new on the disk come, too.
@@ -46,6 +49,7 @@ private:
 
     CEditorTreeTarget m_target;
     NameField m_nameField;
+    const std::function<void()> m_pressed;
     UINT m_nMostItems = ~0u; // with so many items nothing more is read
 };
 

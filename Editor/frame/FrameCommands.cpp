@@ -23,30 +23,46 @@ using hostkit::UserAgrees;
 
 // Whether there is anything to paste only the clipboard's owner knows, who may be another program that hangs: nobody
 // waits for it before a menu. Pasting tells what there is not.
-CommandState FrameCommands::GetState() const
+void FrameCommands::Describe(CommandState& state) const
+{
+    DescribeSelection(state);
+    if (!m_parts.navigation.ShownContainer())
+        state.paste = "no folder is shown";
+    const bool bFolder = dynamic_cast<CFolder*>(m_parts.navigation.ShownContainer()) != nullptr;
+    state.makeFolder = bFolder ? "" : "no folder is shown";
+    state.makePhase = !bFolder ? "no folder is shown" : m_commands.CanMakePhase() ? "" : "no pictures are selected";
+    state.nameToRestore = GetHistory().NameToRestore();
+    state.restore = state.nameToRestore.empty() ? "nothing that was removed is in the trash" : "";
+    state.nameToUndo = GetHistory().NameToUndo();
+    state.nameToRedo = GetHistory().NameToRedo();
+    state.undo = state.nameToUndo.empty() ? "nothing has been done yet" : "";
+    state.redo = state.nameToRedo.empty() ? "nothing has been taken back" : "";
+    state.selectAll = m_parts.content.IsPictureShown() ? "a picture is shown"
+                      : List().GetItemCount() == 0     ? "there are no objects here"
+                      : List().AreAllSelected()        ? "all objects are selected"
+                                                       : "";
+    state.save = m_parts.modified.SaveQuestion().empty() ? "nothing has been changed since it was saved" : "";
+}
+
+void FrameCommands::DescribeSelection(CommandState& state) const
 {
     const ActiveMembers members = GetActiveMembers(m_parts.editor);
-    const ActiveMember* const pOne = members.size() == 1 ? &members.front() : nullptr;
-    const auto canGo = [](const ActiveMember& member) {
-        return (member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE) != 0;
+    if (members.size() != 1)
+        state.open = state.rename = members.empty() ? "no object is selected" : "several objects are selected";
+    if (members.empty())
+        state.carry = state.remove = "no object is selected";
+    const auto cannotGo = [](const ActiveMember& member) {
+        return (member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE) == 0;
     };
-    const Navigation& navigation = m_parts.navigation;
-    CommandState state;
-    state.canOpen = pOne && pOne->pAtom.Get() != navigation.Shown();
-    state.canCarry = !members.empty();
-    state.canRemove = state.canCarry && std::all_of(members.begin(), members.end(), canGo);
-    state.canRename = pOne && CanRenameObject(pOne->pAtom.Get(), pOne->pContainer.Get());
-    state.canPaste = navigation.ShownContainer() != nullptr;
-    state.canMakeFolder = dynamic_cast<CFolder*>(navigation.ShownContainer()) != nullptr;
-    state.canMakePhase = state.canMakeFolder && m_commands.CanMakePhase();
-    state.undo = GetHistory().NameToUndo();
-    state.redo = GetHistory().NameToRedo();
-    state.restore = GetHistory().NameToRestore();
-    state.canRestore = !state.restore.empty();
-    state.canUndo = !state.undo.empty();
-    state.canRedo = !state.redo.empty();
-    state.canSelectAll = !m_parts.content.IsPictureShown() && List().GetItemCount() > 0 && !List().AreAllSelected();
-    return state;
+    if (const auto at = std::find_if(members.begin(), members.end(), cannotGo); at != members.end())
+        state.remove = ShownNameOf(at->pAtom.Get()) + " has to stay";
+    if (members.size() != 1)
+        return;
+    const ActiveMember& one = members.front();
+    if (one.pAtom.Get() == m_parts.navigation.Shown())
+        state.open = "it is shown already";
+    if (!CanRenameObject(one.pAtom.Get(), one.pContainer.Get()))
+        state.rename = ShownNameOf(one.pAtom.Get()) + " has to keep its name";
 }
 
 void FrameCommands::OpenSelected()
@@ -121,14 +137,12 @@ void FrameCommands::PasteHere()
 
 void FrameCommands::NewFolderAndName()
 {
-    if (GetState().canMakeFolder)
-        MakeAndName(&Commands::MakeFolder);
+    MakeAndName(&Commands::MakeFolder);
 }
 
 void FrameCommands::NewPhaseAndName()
 {
-    if (GetState().canMakePhase)
-        MakeAndName(&Commands::MakePhase);
+    MakeAndName(&Commands::MakePhase);
 }
 
 void FrameCommands::MakeAndName(Make make)
@@ -157,7 +171,7 @@ void FrameCommands::RedoOrTell()
 
 void FrameCommands::RestoreOrTell()
 {
-    if (GetState().canRestore)
+    if (!GetHistory().NameToRestore().empty())
         ShowFailure(IDS_RESTORE_FAILED, Restore());
 }
 

@@ -31,7 +31,7 @@ public:
 
     Commands& GetPlain() { return m_commands; }
     History& GetHistory() const { return m_parts.editor.GetHistory(); }
-    CommandState GetState() const;
+    void Describe(CommandState& state) const;
 
     // Nothing is asked, and the answer is the reason for what was not done.
     std::string Copy() { return m_commands.Copy(); }
@@ -62,8 +62,6 @@ public:
     void RenameSelected();
     void SelectAll(); // in the list
     void Refresh();   // reads what is shown anew
-    void ShowIcons() { m_parts.content.ShowList(ListKind::Icons); }
-    void ShowThumbnails() { m_parts.content.ShowList(ListKind::Thumbnails); }
 
     void ReadAgain(CContainer& container);                       // the list keeps its selection
     void ShowFailure(UINT nCaptionID, std::string reason) const; // empty: nothing
@@ -78,6 +76,7 @@ public:
     void GoOnAt(const Position& position); // as far as it is still there
 
 private:
+    void DescribeSelection(CommandState& state) const;
     using Make = std::string (Commands::*)(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
     std::string MakeAnd(Make make, bool& bAny); // did any object come?
     void MakeAndName(Make make);

@@ -36,25 +36,38 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
 
-CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed)
+CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outside)
     : m_editor(editor),
       m_pictures(pictures),
-      m_closed(std::move(closed)),
+      m_outside(std::move(outside)),
       m_navigation(editor, [this] { GetList().FocusSelection(); }),
       m_modified(editor),
       m_follower(editor, pictures, m_navigation),
-      m_pathBar([this] { m_navigation.GoUp(); }, [this](int nPart) { m_navigation.GoToPart(nPart); }),
+      m_menuBar(CommandDesk::MenuTitles(),
+                {[this](int nMenu) { return m_desk.MakeMenu(nMenu); }, [this](UINT nID) { m_desk.Run(nID); }}),
+      m_ways([this] { return m_desk.WayTools(); }, [this](UINT nID) { m_desk.Run(nID); }),
+      m_tools([this] { return m_desk.ObjectTools(); }, [this](UINT nID) { m_desk.Run(nID); }),
+      m_pathBar({[this](int nPart) { m_navigation.GoToPart(nPart); }, [this] { m_places.TypePath(); },
+                 [this](const std::string& path) { return m_places.ShowTyped(path); },
+                 [this] { m_content.TakeFocus(); }}),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
       m_content(pictures, ListEvents(), [this] { UpdateStatus(); }),
       m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
-      m_tree(ReportDrop(), [this](const std::string& line) { TellNews(line); }),
+      m_tree(
+          ReportDrop(), [this](const std::string& line) { m_statusBar.SetNews(line); }, [this] { OnPressed(); }),
       m_properties({[this] { return SelectedPhases(); },
                     [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),
-      m_keys({*this, m_treePane, m_tree, m_splitter, m_content, m_properties, m_navigation, m_commands}),
+      m_keysSheet([this] { m_content.TakeFocus(); }),
+      m_filter(m_content, [this] { UpdateStatus(); }),
+      m_places({editor, m_navigation, m_pathBar, m_outside.places,
+                [this](std::string line) { m_statusBar.SetNews(std::move(line)); }}),
+      m_views({*this, m_treePane, m_tree, m_content, m_properties, m_keysSheet, m_filter}),
+      m_desk({m_commands, m_places, m_views}, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
+      m_keys({*this, m_tree, m_splitter, m_content, m_navigation, m_filter, m_desk}),
       m_statusBar([this] { return GetStatus(); }),
-      m_workView(editor.GetWork(), [this](const std::string& line) { TellNews(line); })
+      m_workView(editor.GetWork(), [this](const std::string& line) { m_statusBar.SetNews(line); })
 {}
 
 CMainFrame::~CMainFrame()
@@ -62,9 +75,25 @@ CMainFrame::~CMainFrame()
     DestroyWindow();
 }
 
-BOOL CMainFrame::Create(CSize client)
+BOOL CMainFrame::Create(const CRect& place)
 {
-    return CreateEx(0, "", "Views", WS_OVERLAPPED | WS_CLIPCHILDREN, CRect(CPoint(), client), nullptr, 0);
+    return CreateEx(0, "", "Views", WS_OVERLAPPED | WS_CLIPCHILDREN, place, nullptr, 0);
+}
+
+void CMainFrame::Follow(const Settings& settings)
+{
+    m_nTreeWidth = settings.treeWidth > 0 ? settings.treeWidth : PaneLayout::kUsualTree;
+    Arrange();
+    m_views.SetFoldersFirst(settings.foldersFirst);
+    ShowList(settings.thumbnails ? ListKind::Thumbnails : ListKind::Icons);
+}
+
+void CMainFrame::Remember(Settings& settings) const
+{
+    GetWindowRect(&settings.window);
+    settings.treeWidth = std::max(0, m_nTreeWidth);
+    settings.foldersFirst = m_views.AreFoldersFirst();
+    settings.thumbnails = m_content.GetKind() == ListKind::Thumbnails;
 }
 
 // The former library goes when nothing of it is selected any more.
@@ -127,6 +156,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
         return TRUE;
     m_navigation.ReadAside(pMember);
     m_navigation.SetShown(pMember);
+    m_filter.Forget();
     if (CStubRef<IAtomContainer>::From(pAtom))
         m_content.HidePicture();
     else // whoever walks through the tree stays in it
@@ -171,19 +201,28 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     // The frame hears of everything first; the lists, registered before the tree, show what was entered by the time
     // that the tree selects it.
     m_editor.SetFrame(this);
-    m_editor.GetHistory().SetNews(
-        [this](const std::string& line) { TellNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line); });
+    m_editor.GetHistory().SetNews([this](const std::string& line) {
+        m_statusBar.SetNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line);
+    });
     m_editor.GetHistory().SetLastPart([this] { return FollowPhases(); });
     m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
-    const bool bMade = m_pathBar.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
-                       m_content.Create(this) && m_statusBar.Create(this) && m_workView.Create(&m_statusBar) &&
-                       m_tree.Create(&m_treePane) && m_properties.Create(this);
+    const bool bMade = MakeBars() && m_treePane.Create(this) && m_splitter.Create(this) && m_content.Create(this) &&
+                       m_workView.Create(&m_statusBar) && m_tree.Create(&m_treePane) && m_properties.Create(this) &&
+                       m_keysSheet.Create(this) && m_filter.Create();
     return bMade ? 0 : -1;
+}
+
+bool CMainFrame::MakeBars()
+{
+    return m_menuBar.Create(this) && m_ways.Create(this) && m_tools.Create(this) && m_pathBar.Create(this) &&
+           m_statusBar.Create(this);
 }
 
 void CMainFrame::OnDestroy()
 {
+    if (m_outside.ending)
+        m_outside.ending(*this);
     m_editor.UnregisterHandler(m_dwHandlerCookie);
     m_editor.SetFrame(nullptr);
     m_editor.GetHistory().SetNews({});
@@ -195,7 +234,7 @@ void CMainFrame::OnClose()
 {
     if (!MayClose())
         return;
-    const std::function<void()> closed = m_closed; // the frame may go with it
+    const std::function<void()> closed = m_outside.closed; // the frame may go with it
     DestroyWindow();
     if (closed)
         closed();
@@ -225,14 +264,18 @@ void CMainFrame::UpdatePath()
 void CMainFrame::UpdateStatus()
 {
     m_statusBar.Invalidate();
+    m_ways.Invalidate();
+    m_tools.Invalidate();
     m_properties.Update();
 }
 
 Status CMainFrame::GetStatus() const
 {
+    const int nRows = m_content.GetList().GetItemCount();
+    const int nHidden = m_filter.Hides() ? static_cast<int>(ShownContainer()->GetCount()) - nRows : 0;
     Status status = m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures)
-                                               : DescribeList(m_content.GetList(), Shown(), m_pictures);
-    status.news = m_news;
+                                               : DescribeList(m_content.GetList(), nHidden, Shown(), m_pictures);
+    status.news = m_statusBar.GetNews();
     return status;
 }
 
@@ -254,7 +297,7 @@ CPropertiesPane::Phases CMainFrame::SelectedPhases() const
 
 bool CMainFrame::MayClose()
 {
-    m_keys.LeaveFields();
+    m_views.LeaveFields();
     const std::string question = m_modified.SaveQuestion();
     if (question.empty())
         return true;
@@ -301,7 +344,7 @@ void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
     }
     const FrameCommands::Position position = m_commands.RememberPosition();
     if (std::string line = m_follower.Tell(found); !line.empty())
-        m_news = std::move(line);
+        m_statusBar.SetNews(std::move(line));
     m_pCreated.Release();
     if (m_pRenamed && !IsOneThatIsGone(position.list)) {
         m_pRenamed.Release(); // the user works on something else
@@ -339,39 +382,33 @@ void CMainFrame::ShowFollowed(const std::vector<std::string>& phases)
 
 CMenu* CMainFrame::CreateContextMenu()
 {
-    return MakeContextMenu(m_commands.GetState()).release();
+    return m_desk.MakeContextMenu().release();
 }
 
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam)
 {
-    const CommandEntry* const pCommand = lParam == 0 ? FindCommand(LOWORD(wParam)) : nullptr;
-    if (!pCommand)
-        return CWnd::OnCommand(wParam, lParam);
-    (m_commands.*pCommand->run)();
-    return TRUE;
+    if (lParam == 0 && m_desk.Run(LOWORD(wParam)))
+        return TRUE;
+    return CWnd::OnCommand(wParam, lParam);
 }
 
 BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 {
     const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
     const bool bModifier = pMsg->wParam == VK_CONTROL || pMsg->wParam == VK_SHIFT; // the news tell of keys
-    if (pMsg->message == WM_KEYDOWN && !bModifier && !m_news.empty())
-        ForgetNews();
+    if (pMsg->message == WM_KEYDOWN && !bModifier)
+        m_statusBar.SetNews({});
+    if (m_menuBar.HandleKey(*pMsg))
+        return TRUE;
     if ((bAlt || pMsg->message == WM_KEYDOWN) && m_keys.Handle(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
 }
 
-void CMainFrame::TellNews(const std::string& line)
+void CMainFrame::OnPressed()
 {
-    m_news = line;
-    m_statusBar.Invalidate();
-}
-
-void CMainFrame::ForgetNews()
-{
-    m_news.clear();
-    m_statusBar.Invalidate();
+    m_menuBar.Leave();
+    m_statusBar.SetNews({});
 }
 
 } // namespace editor

@@ -1,11 +1,16 @@
-// The editor's window: the path at the top, tree and list side by side, the status at the bottom.
+// The editor's window: menus, path and tools at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
 #include "Editor/frame/DiskFollower.h"
 #include "Editor/frame/EditorTree.h"
+#include "Editor/frame/FrameCommands.h"
 #include "Editor/frame/FrameKeys.h"
+#include "Editor/frame/PlaceCommands.h"
+#include "Editor/frame/Settings.h"
+#include "Editor/frame/ViewCommands.h"
 #include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
+#include "Editor/widgets/MenuBar.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
 #include "Editor/widgets/StatusBar.h"
@@ -20,16 +25,29 @@ namespace editor
 class CMainFrame : public CWnd, public CStateHandler, public hostkit::PaneFrame
 {
 public:
-    // Both borrowed. `closed` is called when the window is gone; it may be empty.
-    CMainFrame(CAtomEditor& editor, PictureStore& pictures, std::function<void()> closed);
+    struct Outside
+    {
+        PlaceCommands::Outside places;
+        std::function<void(const CMainFrame& frame)> ending; // the window is still there, and goes
+        std::function<void()> closed;                        // the user closed the window, which is gone; may be empty
+    };
+    CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outside); // the first two are borrowed
     ~CMainFrame() override;
 
-    BOOL Create(CSize client);            // a top-level window with the views in it, not shown yet
-    void ShowLibrary(CLibrary* pLibrary); // in place of the one before
+    // A top-level window with the views in it, not shown yet; its client area on the screen, in whose corner it is
+    // nowhere in particular.
+    BOOL Create(const CRect& place);
+    void Follow(const Settings& settings);   // before anything is shown
+    void Remember(Settings& settings) const; // what it is like now
+    void ShowLibrary(CLibrary* pLibrary);    // in place of the one before
     CEditorTree& GetTree() { return m_tree; }
     hostkit::CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_content.GetList(); } // the one that is shown, or will be
     CPathBar& GetPathBar() { return m_pathBar; }
+    CMenuBar& GetMenuBar() { return m_menuBar; }
+    CToolBar& GetWays() { return m_ways; }
+    CToolBar& GetTools() { return m_tools; }
+    CKeysSheet& GetKeysSheet() { return m_keysSheet; }
     CPictureView& GetPictureView() { return m_content.GetPicture(); }
     CPropertiesPane& GetProperties() { return m_properties; }
     Status GetStatus() const; // what the status bar says
@@ -39,6 +57,9 @@ public:
     CContainer* ShownContainer() const { return m_navigation.ShownContainer(); }
     CProgressStrip& GetProgress() { return m_workView.GetStrip(); }
     FrameCommands& GetCommands() { return m_commands; }
+    Filter& GetFilter() { return m_filter; }
+    ViewCommands& GetViews() { return m_views; }
+    Content& GetContent() { return m_content; }
     void ShowList(ListKind kind) { m_content.ShowList(kind); }
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
@@ -72,9 +93,9 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void TellNews(const std::string& line);
-    void ForgetNews();
-    bool MayClose(); // asks what is to become of phases that are modified
+    bool MakeBars();
+    void OnPressed(); // a mouse button, on the views
+    bool MayClose();  // asks what is to become of phases that are modified
     std::string FollowPhases();
     void ShowFollowed(const std::vector<std::string>& phases);
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
@@ -89,7 +110,7 @@ private:
 
     CAtomEditor& m_editor;
     PictureStore& m_pictures;
-    const std::function<void()> m_closed;
+    const Outside m_outside;
     const std::shared_ptr<int> m_pAlive = std::make_shared<int>(); // goes with the frame
     DWORD m_dwHandlerCookie = 0;
     Navigation m_navigation;
@@ -99,6 +120,8 @@ private:
     FrameCommands::Position m_beforeMove; // while a drag's originals go
     DiskFollower m_follower;
     CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
+    CMenuBar m_menuBar;
+    CToolBar m_ways, m_tools;
     CPathBar m_pathBar;
     hostkit::CPane m_treePane;
     hostkit::CSplitter m_splitter;
@@ -107,10 +130,14 @@ private:
     FrameCommands m_commands;
     CEditorTree m_tree;
     CPropertiesPane m_properties;
+    CKeysSheet m_keysSheet;
+    Filter m_filter;
+    PlaceCommands m_places;
+    ViewCommands m_views;
+    CommandDesk m_desk;
     FrameKeys m_keys;
     CStatusBar m_statusBar;
     WorkView m_workView;
-    std::string m_news; // what the user has just done, until the next key or click
 };
 
 } // namespace editor

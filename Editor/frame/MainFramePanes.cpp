@@ -39,8 +39,14 @@ void CMainFrame::Arrange()
 {
     CRect client;
     GetClientRect(&client);
-    const PaneLayout layout(client.Size(), m_nTreeWidth);
+    const PaneLayout layout(client.Size(), {.tree = m_nTreeWidth,
+                                            .ways = CToolBar::WidthOf(m_desk.WayTools()),
+                                            .tools = CToolBar::WidthOf(m_desk.ObjectTools())});
+    m_menuBar.MoveWindow(layout.menus);
+    m_ways.MoveWindow(layout.ways);
     m_pathBar.MoveWindow(layout.path);
+    m_tools.MoveWindow(layout.tools);
+    m_keysSheet.MoveWindow({0, layout.path.bottom, client.right, layout.status.top});
     m_treePane.MoveWindow(layout.tree);
     m_splitter.MoveWindow(layout.splitter);
     m_content.MoveTo(layout.content);
@@ -58,12 +64,14 @@ void CMainFrame::MoveSplitter(int x)
 
 CEditorList::Events CMainFrame::ListEvents()
 {
-    return {[this] { return DescribeEmptyList(Shown()); },
+    return {[this] {
+                return m_filter.Hides() ? "No name holds \"" + m_filter.GetText() + "\"." : DescribeEmptyList(Shown());
+            },
             {},
             [this] { return static_cast<IAtomContainer*>(ShownContainer()); },
             ReportDrop(),
-            [this](const std::string& line) { TellNews(line); },
-            [this] { ForgetNews(); }};
+            [this](const std::string& line) { m_statusBar.SetNews(line); },
+            [this] { OnPressed(); }};
 }
 
 } // namespace editor

@@ -46,6 +46,13 @@ void Navigation::ReadAside(CMember* pMember) const
         pContainer->GetCount();
 }
 
+void Navigation::SetShown(CMember* pMember)
+{
+    m_pShown = CStubRef<CMember>::Share(pMember);
+    if (pMember)
+        m_trail.Visit(pMember->Path());
+}
+
 void Navigation::GoTo(CMember* pMember)
 {
     const auto pHeld = CStubRef<CMember>::Share(pMember);

@@ -1,6 +1,7 @@
 // What of the library is shown, and the ways from there.
 #pragma once
 
+#include "Editor/frame/Trail.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 
@@ -31,14 +32,17 @@ public:
     {
         return std::exchange(m_pTop, CStubRef<CLibrary>::Share(pTop));
     } // the former
-    void SetShown(CMember* pMember) { m_pShown = CStubRef<CMember>::Share(pMember); }
+    void SetShown(CMember* pMember);
 
     void ReadAside(CMember* pMember) const; // before views ask for its members; they show what they did meanwhile
     void GoTo(CMember* pMember);            // opens it, whatever it is
     void GoUp();                            // nothing at the top
     void GoToTop() { GoTo(m_pTop.Get()); }
     void GoToPart(int nPart); // of the path
-    void LeaveWhatIsGone();   // for the innermost container that is still there
+    // Back and forth among what has been shown; `show` gets there, or answers false.
+    bool CanGo(int nStep) const { return m_trail.CanGo(nStep); }
+    void Go(int nStep, const std::function<bool(const std::string& path)>& show) { m_trail.Go(nStep, show); }
+    void LeaveWhatIsGone(); // for the innermost container that is still there
 
 private:
     void GoBackTo(CContainer* pContainer);
@@ -47,6 +51,7 @@ private:
     const std::function<void()> m_cameBack;
     CStubRef<CLibrary> m_pTop;
     CStubRef<CMember> m_pShown;
+    Trail m_trail;
 };
 
 } // namespace editor

@@ -17,6 +17,15 @@ constexpr int kBrokenExtent = 96;
 constexpr UINT_PTR kLateTimer = 1;
 constexpr UINT kLate = 250; // milliseconds
 
+bool HasTransparency(const toolkit::Surface& picture)
+{
+    for (int y = 0; y < picture.Height(); ++y)
+        for (const toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
+            if (*p >> 24 != 0xFF)
+                return true;
+    return false;
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPictureView, CWnd)
@@ -77,7 +86,7 @@ void CPictureView::OnPaint()
     CRect client;
     GetClientRect(&client);
     if (!m_shown.IsEmpty())
-        return DrawCentred(dc, client, m_shown);
+        return DrawPicture(dc, client);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     if (!pMember)
         return;
@@ -87,6 +96,13 @@ void CPictureView::OnPaint()
     else if (m_bLate)
         DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", GetSysColor(COLOR_GRAYTEXT),
                      Align::Center);
+}
+
+void CPictureView::DrawPicture(HDC hdc, const CRect& client) const
+{
+    if (HasTransparency(m_shown))
+        DrawChecks(hdc, {toolkit::Centred(m_shown.Bounds().Size(), client), m_shown.Bounds().Size()});
+    DrawCentred(hdc, client, m_shown);
 }
 
 void CPictureView::DrawReason(HDC hdc, const CRect& client, const std::string& reason) const

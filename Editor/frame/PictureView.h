@@ -10,7 +10,7 @@ namespace editor
 
 // The picture is read by the store at the window's size. While the window is sized, what was read last is shown.
 // Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle; where it takes its
-// time to be read, that it is coming.
+// time to be read, that it is coming. What is transparent lies on checks.
 class CPictureView : public CWnd
 {
 public:
@@ -33,6 +33,7 @@ private:
     CRect Room() const;
     void Fetch();
     void AwaitPicture();
+    void DrawPicture(HDC hdc, const CRect& client) const;
     void DrawReason(HDC hdc, const CRect& client, const std::string& reason) const;
     toolkit::Surface Fitted(const toolkit::Surface& picture) const;
 

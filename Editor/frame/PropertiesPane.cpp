@@ -12,14 +12,12 @@ namespace
 {
 
 constexpr UINT kUpdate = WM_USER;
-constexpr CRect kDelayField(112, 11, 168, 29), kRepeatField(272, 11, 328, 29);
+constexpr CRect kDelayField(104, 11, 192, 29), kRepeatField(288, 11, 376, 29);
 
 void DrawField(HDC hdc, CRect rect, const char* pszBefore, const char* pszBehind)
 {
     rect.InflateRect(4, 3);
-    FillSolidRect(hdc, rect, LineColor());
-    rect.DeflateRect(1, 1);
-    FillSolidRect(hdc, rect, GetSysColor(COLOR_WINDOW));
+    FillField(hdc, rect);
     const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
     DrawTextLine(hdc, {rect.left - 120, rect.top, rect.left - kSpace, rect.bottom}, pszBefore, ink, Align::Right);
     DrawTextLine(hdc, {rect.right + kSpace, rect.top, rect.right + 48, rect.bottom}, pszBehind, ink);

@@ -30,6 +30,7 @@ public:
     BOOL Create(CWnd* pParent);
     void Update(); // soon, and once however often it is called: the selection or its numbers have changed
     void FocusFields();
+    bool HasPhases() const { return !m_phases.empty(); }
     bool HasFocus() const { return ::IsChild(m_hWnd, ::GetFocus()); }
     CNumberField& GetDelay() { return m_delay; }
     CNumberField& GetRepeat() { return m_repeat; }

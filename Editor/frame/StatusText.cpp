@@ -33,10 +33,12 @@ Status DescribePicture(const CMember& picture, const PictureStore& pictures)
     return Describe({}, picture, pictures);
 }
 
-Status DescribeList(const CEditorList& list, const CMember* pShown, const PictureStore& pictures)
+Status DescribeList(const CEditorList& list, int nHidden, const CMember* pShown, const PictureStore& pictures)
 {
     const int nSelected = list.GetSelectedCount();
     std::string text = CountText(list.GetItemCount());
+    if (nHidden > 0)
+        text += ", " + std::to_string(nHidden) + " hidden";
     if (nSelected > 0)
         text += ", " + std::to_string(nSelected) + " selected";
     if (nSelected == 1) {

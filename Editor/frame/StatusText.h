@@ -10,7 +10,8 @@ namespace editor
 {
 
 Status DescribePicture(const CMember& picture, const PictureStore& pictures);
-Status DescribeList(const CEditorList& list, const CMember* pShown, const PictureStore& pictures); // pShown may be NULL
-std::string DescribeEmptyList(const CMember* pShown);                                              // may be NULL
+// pShown may be NULL. nHidden objects of it are not in the list.
+Status DescribeList(const CEditorList& list, int nHidden, const CMember* pShown, const PictureStore& pictures);
+std::string DescribeEmptyList(const CMember* pShown); // may be NULL
 
 } // namespace editor

@@ -26,6 +26,41 @@ COLORREF ErrorColor()
     return RGB(176, 40, 40);
 }
 
+void FillTopBar(HDC hdc, HWND hBar)
+{
+    CRect client;
+    GetClientRect(hBar, &client);
+    FillSolidRect(hdc, client, BarColor());
+    FillSolidRect(hdc, {client.left, client.bottom - 1, client.right, client.bottom}, LineColor());
+}
+
+void FillField(HDC hdc, const CRect& rect)
+{
+    CRect inner = rect;
+    inner.DeflateRect(1, 1);
+    FillSolidRect(hdc, rect, LineColor());
+    FillSolidRect(hdc, inner, GetSysColor(COLOR_WINDOW));
+}
+
+toolkit::Surface Faded(toolkit::Surface picture, double strength)
+{
+    const auto part = static_cast<toolkit::Pixel>(strength * 256);
+    for (int y = 0; y < picture.Height(); ++y)
+        for (toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
+            *p = ((*p & 0xFF00FF) * part >> 8 & 0xFF00FF) | ((*p >> 8 & 0xFF00FF) * part & 0xFF00FF00);
+    return picture;
+}
+
+void DrawChecks(HDC hdc, const CRect& rect)
+{
+    const COLORREF dark = hostkit::MixSysColors(COLOR_WINDOW, COLOR_BTNSHADOW, 30);
+    FillSolidRect(hdc, rect, GetSysColor(COLOR_WINDOW));
+    for (int y = rect.top; y < rect.bottom; y += kSpace)
+        for (int x = rect.left + (y - rect.top) % (2 * kSpace); x < rect.right; x += 2 * kSpace)
+            FillSolidRect(hdc, {x, y, std::min<int>(x + kSpace, rect.right), std::min<int>(y + kSpace, rect.bottom)},
+                          dark);
+}
+
 void FillBottomBar(HDC hdc, HWND hBar)
 {
     CRect client;

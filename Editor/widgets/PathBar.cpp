@@ -12,7 +12,6 @@ namespace
 {
 
 constexpr int kIcon = 16;
-constexpr int kButton = 32;
 constexpr int kGap = 16; // between two parts: room for an arrow
 constexpr const char* kDotsText = "...";
 
@@ -23,136 +22,111 @@ toolkit::FontStyle StyleOf(bool isLast)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPathBar, CWnd)
+BEGIN_MESSAGE_MAP(CPathBar, CSpotBar)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
-    ON_WM_MOUSEMOVE()
-    ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
-    ON_WM_LBUTTONDOWN()
-    ON_WM_LBUTTONUP()
-    ON_MESSAGE(WM_CAPTURECHANGED, OnCaptureChanged)
+    ON_WM_SIZE()
 END_MESSAGE_MAP()
 
-CPathBar::CPathBar(std::function<void()> up, std::function<void(int nPart)> go)
-    : m_up(std::move(up)), m_go(std::move(go))
+CPathBar::CPathBar(Events events)
+    : m_events(std::move(events)),
+      m_field({.change = {},
+               .enter = [this](const std::string& path) { Enter(path); },
+               .leave = [this] { m_events.leave(); },
+               .other = {},
+               .lost = [this] { EndTyping(); }})
 {}
 
 BOOL CPathBar::Create(CWnd* pParent)
 {
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+    return CSpotBar::Create(pParent) && m_field.Create(WS_CHILD, CRect(), this, 1);
 }
 
 void CPathBar::SetPath(std::vector<std::string> parts)
 {
     m_parts = std::move(parts);
-    m_nHot = m_nPressed = kNothing;
-    Invalidate();
+    ForgetSpots();
+}
+
+void CPathBar::BeginTyping(const std::string& path)
+{
+    m_field.SetText(path);
+    m_field.ShowWindow(SW_SHOW);
+    m_field.SetFocus();
+    ForgetSpots();
+}
+
+// What cannot be shown stays to be put right.
+void CPathBar::Enter(const std::string& path)
+{
+    if (m_events.type(path).empty())
+        m_events.leave();
+}
+
+void CPathBar::EndTyping()
+{
+    m_field.ShowWindow(SW_HIDE);
+    ForgetSpots();
 }
 
 BOOL CPathBar::OnEraseBkgnd(HDC hdc)
 {
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.bottom - 1, client.right, client.bottom}, LineColor());
+    FillTopBar(hdc, m_hWnd);
     return TRUE;
 }
 
 void CPathBar::OnPaint()
 {
     const CPaintDC dc(this);
-    const CRect up = UpRect();
-    DrawGround(dc, up, kUp);
-    DrawCentred(dc, up,
-                hostkit::GetPictogram(IsEnabled(kUp) ? hostkit::Pictogram::Up : hostkit::Pictogram::NoUp, kIcon));
-    DrawCrumbs(dc);
-}
-
-void CPathBar::OnMouseMove(UINT nFlags, CPoint point)
-{
-    CWnd::OnMouseMove(nFlags, point);
-    SetHot(TargetAt(point));
-}
-
-LRESULT CPathBar::OnMouseLeave(WPARAM, LPARAM)
-{
-    SetHot(kNothing);
-    return 0;
-}
-
-void CPathBar::OnLButtonDown(UINT nFlags, CPoint point)
-{
-    CWnd::OnLButtonDown(nFlags, point);
-    m_nPressed = TargetAt(point);
-    SetHot(m_nPressed);
-    Invalidate();
-    SetCapture();
-}
-
-// Going somewhere sets another path: the bar is done with the click before.
-void CPathBar::OnLButtonUp(UINT nFlags, CPoint point)
-{
-    CWnd::OnLButtonUp(nFlags, point);
-    const int nPressed = std::exchange(m_nPressed, kNothing);
-    if (GetCapture() == m_hWnd)
-        ReleaseCapture();
-    Invalidate();
-    if (nPressed == kNothing || nPressed != TargetAt(point))
-        return;
-    if (nPressed == kUp)
-        m_up();
+    if (m_field.IsWindowVisible())
+        FillField(dc, FieldRect());
     else
-        m_go(nPressed);
+        DrawCrumbs(dc);
 }
 
-// Someone else took the mouse: the press comes to nothing.
-LRESULT CPathBar::OnCaptureChanged(WPARAM, LPARAM)
+void CPathBar::OnSize(UINT nType, int cx, int cy)
 {
-    m_nPressed = kNothing;
-    Invalidate();
-    return 0;
+    CSpotBar::OnSize(nType, cx, cy);
+    CRect text = FieldRect();
+    text.DeflateRect(kFieldMargin.cx, kFieldMargin.cy);
+    m_field.MoveWindow(text);
 }
 
-CRect CPathBar::UpRect() const
+CRect CPathBar::FieldRect() const
 {
-    CRect client;
-    GetClientRect(&client);
-    return {CPoint(kSpace, (client.Height() - kButton) / 2), CSize(kButton, kButton)};
+    CRect rect;
+    GetClientRect(&rect);
+    rect.DeflateRect(0, (kPathBarHeight - kFieldHeight) / 2);
+    return rect;
 }
 
 CrumbLayout CPathBar::Layout() const
 {
     CRect room;
     GetClientRect(&room);
-    room = {UpRect().right + kSpace, UpRect().top, room.right - kSpace, UpRect().bottom};
+    room.DeflateRect(0, kSpace / 2);
     std::vector<int> widths;
     for (const std::string& part : m_parts)
         widths.push_back(TextWidth(part, StyleOf(&part == &m_parts.back())) + 2 * kSpace);
     return {widths, kGap, TextWidth(kDotsText) + 2 * kSpace, room};
 }
 
-int CPathBar::TargetAt(CPoint point) const
-{
-    const int nTarget = UpRect().PtInRect(point) ? kUp : Layout().PartAt(point);
-    return IsEnabled(nTarget) ? nTarget : kNothing;
-}
-
 // The last part is where one is already.
-bool CPathBar::IsEnabled(int nTarget) const
+int CPathBar::SpotAt(CPoint point) const
 {
-    return m_parts.size() > 1 && nTarget != static_cast<int>(m_parts.size()) - 1;
+    const CrumbLayout layout = Layout();
+    const int nPart = layout.PartAt(point);
+    if (nPart >= 0)
+        return nPart + 1 < static_cast<int>(m_parts.size()) ? nPart : kNothing;
+    return !layout.Crumbs().empty() && point.x > layout.Crumbs().back().rect.right ? kBeside : kNothing;
 }
 
-void CPathBar::SetHot(int nTarget)
+void CPathBar::UseSpot(int nSpot)
 {
-    if (std::exchange(m_nHot, nTarget) != nTarget)
-        Invalidate();
-}
-
-void CPathBar::DrawGround(HDC hdc, const CRect& rect, int nTarget) const
-{
-    if (nTarget == m_nHot)
-        FillSolidRect(hdc, rect, nTarget == m_nPressed ? PressedColor() : HoverColor());
+    if (nSpot == kBeside)
+        m_events.wantTyping();
+    else
+        m_events.go(nSpot);
 }
 
 void CPathBar::DrawCrumbs(HDC hdc) const

@@ -1,53 +1,52 @@
-// The bar at the top: a button that leads up, and the path to what is shown, each part of which leads there.
+// The path to what is shown, each part of which leads there; or a field to type another.
 #pragma once
 
 #include "Editor/widgets/CrumbLayout.h"
-#include "Toolkit/window/Wnd.h"
-
-#include <functional>
-#include <string>
+#include "Editor/widgets/SpotBar.h"
+#include "Editor/widgets/TextField.h"
 
 namespace editor
 {
 
-class CPathBar : public CWnd
+class CPathBar : public CSpotBar
 {
 public:
-    CPathBar(std::function<void()> up, std::function<void(int nPart)> go);
-    ~CPathBar() override { DestroyWindow(); }
+    struct Events
+    {
+        std::function<void(int nPart)> go;
+        std::function<void()> wantTyping;                         // the user pressed beside the path
+        std::function<std::string(const std::string& path)> type; // empty when that is shown, else why not
+        std::function<void()> leave;                              // the focus goes back to the views
+    };
+    explicit CPathBar(Events events);
 
     BOOL Create(CWnd* pParent);
     const std::vector<std::string>& GetPath() const { return m_parts; }
     void SetPath(std::vector<std::string> parts); // valid UTF-8; from the top
+    void BeginTyping(const std::string& path);    // shows the field with that text
+    CTextField& GetField() { return m_field; }
 
 protected:
+    int SpotAt(CPoint point) const override;
+    void UseSpot(int nSpot) override;
+
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg LRESULT OnCaptureChanged(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 
 private:
-    // What can be clicked: a part of the path by its number, or one of these.
-    static constexpr int kNothing = -1;
-    static constexpr int kUp = -2;
+    static constexpr int kBeside = -2; // the room behind the path
 
-    CRect UpRect() const;
+    CRect FieldRect() const; // with its line
     CrumbLayout Layout() const;
-    int TargetAt(CPoint point) const;
-    bool IsEnabled(int nTarget) const;
-    void SetHot(int nTarget);
-    void DrawGround(HDC hdc, const CRect& rect, int nTarget) const;
+    void Enter(const std::string& path);
+    void EndTyping();
     void DrawCrumbs(HDC hdc) const;
 
-    const std::function<void()> m_up;
-    const std::function<void(int)> m_go;
+    const Events m_events;
     std::vector<std::string> m_parts;
-    int m_nHot = kNothing;     // under the mouse
-    int m_nPressed = kNothing; // where the button went down
+    CTextField m_field;
 };
 
 } // namespace editor

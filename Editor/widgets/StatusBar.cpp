@@ -3,6 +3,8 @@
 #include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
+#include <utility>
+
 namespace editor
 {
 
@@ -14,6 +16,12 @@ END_MESSAGE_MAP()
 BOOL CStatusBar::Create(CWnd* pParent)
 {
     return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+}
+
+void CStatusBar::SetNews(std::string news)
+{
+    if (std::exchange(m_news, std::move(news)) != m_news)
+        Invalidate();
 }
 
 BOOL CStatusBar::OnEraseBkgnd(HDC hdc)

@@ -25,6 +25,8 @@ public:
     ~CStatusBar() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
+    const std::string& GetNews() const { return m_news; }
+    void SetNews(std::string news);
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
@@ -33,6 +35,7 @@ protected:
 
 private:
     const std::function<Status()> m_ask;
+    std::string m_news; // what the user has just done, until the next key or click
 };
 
 } // namespace editor

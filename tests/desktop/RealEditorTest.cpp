@@ -39,7 +39,7 @@ protected:
 
     QString StartEditor(Program& editor, const QString& folder, QPoint at)
     {
-        Start(editor, EDITOR_PROGRAM, {"--size", "600x400", m_folder.filePath(folder)});
+        Start(editor, EDITOR_PROGRAM, {"--forget", "--size", "600x400", m_folder.filePath(folder)});
         const QString window = FindWindow(folder);
         EXPECT_NE("", window);
         XDo(QString("windowmove --sync %1 %2 %3").arg(window).arg(at.x()).arg(at.y()));

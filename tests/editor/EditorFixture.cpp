@@ -10,11 +10,16 @@ static const bool s_brushMade = (CThumbList(), true);
 
 EditorTest::EditorTest(bool isFollowing) : m_nLive(hostkit::Counted::CountAlive())
 {
-    editor::EditorApp::Options options;
-    options.size = {640, 480};
-    options.isFollowing = isFollowing;
-    options.onClosed = [this] { ++nClosed; };
-    m_pApp = std::make_unique<editor::EditorApp>(reader, options);
+    m_options.size = {640, 480};
+    m_options.isFollowing = isFollowing;
+    m_options.onClosed = [this] { ++nClosed; };
+    StartAnew();
+}
+
+void EditorTest::StartAnew()
+{
+    CloseApp();
+    m_pApp = std::make_unique<editor::EditorApp>(reader, m_options);
 }
 
 EditorTest::~EditorTest()
@@ -118,13 +123,19 @@ void EditorTest::DoubleClick(const char* pszName)
 // Each part has its text's width and a margin on both sides, and an arrow before it.
 void EditorTest::ClickPath(int nPart)
 {
-    CPoint at(3 * editor::kSpace, editor::kPathBarHeight / 2);
-    if (nPart >= 0)
-        at.x = 6 * editor::kSpace + editor::kSpace;
+    desktop.Advance(1000);
+    if (nPart < 0)
+        return ClickTool(Frame().GetWays(), editor::ID_UP);
+    CPoint at(editor::kSpace, editor::kPathBarHeight / 2);
     for (int i = 0; i < nPart; ++i)
         at.x += editor::TextWidth(Frame().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) + 4 * editor::kSpace;
-    desktop.Advance(1000);
     desktop.Click(Frame().GetPathBar().GetSafeHwnd(), at);
+    Settle();
+}
+
+void EditorTest::ClickTool(editor::CToolBar& bar, UINT nCommand)
+{
+    desktop.Click(bar.GetSafeHwnd(), bar.RectOf(nCommand).CenterPoint());
     Settle();
 }
 

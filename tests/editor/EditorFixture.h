@@ -18,6 +18,7 @@ protected:
     std::string Open(const std::string& path); // and waits until all is drawn; the error's line
     void Settle() { m_pApp->WaitUntilSettled(); }
     void CloseApp() { m_pApp.reset(); }
+    void StartAnew(); // the editor, with the present options
     editor::EditorApp& App() { return *m_pApp; }
     editor::CMainFrame& Frame();
     HWND List() { return Frame().GetList().GetSafeHwnd(); }
@@ -38,6 +39,7 @@ protected:
     void Select(std::initializer_list<const char*> names); // by clicks, all but the first with Control
     void DoubleClick(const char* pszName);
     void ClickPath(int nPart); // -1: the button that leads up
+    void ClickTool(editor::CToolBar& bar, UINT nCommand);
     void AltUp();
     void Drag(HWND hFrom, CPoint at, std::function<void()> script); // the script moves the mouse on
     void DropOnTree(const std::string& label);
@@ -50,6 +52,7 @@ protected:
     TempFolder folder;
     BmpReader reader;
     int nClosed = 0;
+    editor::EditorApp::Options m_options;
 
 private:
     const int m_nLive;

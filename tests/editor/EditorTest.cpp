@@ -18,11 +18,12 @@ TEST_F(EditorTest, EnterOpensTheFocusedRowAndThePathLeadsBack)
     DoubleClick("Poses");
     ClickPath(2);
     EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "where one is already";
-    const HWND hPath = Frame().GetPathBar().GetSafeHwnd();
-    desktop.Press(hPath, {24, 20});
+    const HWND hWays = Frame().GetWays().GetSafeHwnd();
+    const CPoint up = Frame().GetWays().RectOf(editor::ID_UP).CenterPoint();
+    desktop.Press(hWays, up);
     SetCapture(List());
     ReleaseCapture();
-    desktop.Release(hPath, {24, 20});
+    desktop.Release(hWays, up);
     EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "someone took the mouse away";
     ClickPath(-1);
     EXPECT_EQ("/Ada/ | [(*Poses)] | 1 object, 1 selected | Poses", Screen());
@@ -55,6 +56,28 @@ TEST_F(EditorTest, APictureIsShownLargeInTheListsPlace)
         EXPECT_EQ("/ | [large.bmp (*tiny.bmp)] | 2 objects, 1 selected | tiny.bmp: 4 x 4 pixels", Screen());
         desktop.Key(VK_RETURN);
     }
+}
+
+TEST_F(EditorTest, TheArrowsLeadFromPictureToPictureAndWhatIsTransparentLiesOnChecks)
+{
+    folder.Make("1.bmp 3/");
+    folder.WriteBmp("2.bmp", 40, 40, 0);
+    folder.WriteBmp("10.bmp", 40, 40, 0xFF405060);
+    Open();
+    DoubleClick("1.bmp");
+    Press(VK_RIGHT);
+    EXPECT_EQ("/2.bmp/ | picture |  | 2.bmp: 40 x 40 pixels", Screen());
+    const toolkit::Surface shown = desktop.Dump(Picture());
+    const CPoint middle(shown.Width() / 2, shown.Height() / 2);
+    EXPECT_NE(shown.At(middle.x + 4, middle.y + 4), shown.At(middle.x - 4, middle.y + 4));
+    EXPECT_EQ(shown.At(middle.x + 4, middle.y + 4), shown.At(middle.x - 4, middle.y - 4));
+    for (int i = 0; i < 2; ++i) // past the folder, and no further
+        Press(VK_RIGHT);
+    EXPECT_EQ("/10.bmp/ | picture |  | 10.bmp: 40 x 40 pixels", Screen());
+    EXPECT_EQ(0xFF405060u, MiddleOf(Picture()));
+    Press(VK_LEFT);
+    EXPECT_EQ("2.bmp", Frame().Shown()->ShownName());
+    EXPECT_EQ(Picture(), GetFocus());
 }
 
 TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)

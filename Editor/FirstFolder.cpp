@@ -1,0 +1,49 @@
+#include "Editor/FirstFolder.h"
+
+#include "Editor/disk/TempEntry.h"
+#include "Editor/disk/UserPlaces.h"
+
+#include <filesystem>
+
+namespace editor
+{
+namespace
+{
+
+bool IsFolder(const std::string& path)
+{
+    std::error_code failure;
+    return std::filesystem::is_directory(path, failure);
+}
+
+// Whole or not at all. A folder by that name is the user's, whatever is in it.
+bool CopySamples(const std::string& home)
+{
+    namespace fs = std::filesystem;
+    std::error_code failure;
+    fs::create_directories(home, failure);
+    TempEntry copy(home);
+    fs::copy(EDITOR_SAMPLES, fs::path(home) / copy.Name(), fs::copy_options::recursive, failure);
+    return !failure && copy.PutAt("samples") == 0;
+}
+
+} // namespace
+
+std::string FirstFolder(const Settings& settings)
+{
+    for (const std::string& folder : settings.recent)
+        if (IsFolder(folder))
+            return folder;
+    const std::string data = DataHome();
+    if (data.empty())
+        return ".";
+    const std::string samples = data + "/views/samples";
+    return IsFolder(samples) || CopySamples(data + "/views") ? samples : ".";
+}
+
+std::string SampleFolder()
+{
+    return IsFolder(EDITOR_SAMPLES) ? EDITOR_SAMPLES : ".";
+}
+
+} // namespace editor

@@ -1,0 +1,44 @@
+// Where commands are given: by keys, menus and tools.
+#pragma once
+
+#include "Editor/frame/CommandTable.h"
+#include "Editor/widgets/ToolBar.h"
+#include "Toolkit/menu/Menu.h"
+
+#include <functional>
+#include <memory>
+
+namespace editor
+{
+
+// Whoever asks for what cannot be done is told why.
+class CommandDesk
+{
+public:
+    CommandDesk(CommandTargets targets, std::function<void(std::string line)> say)
+        : m_targets(targets), m_say(std::move(say))
+    {}
+
+    CommandState GetState() const;
+    void Run(const CommandEntry& command); // the desk may be gone afterwards
+    bool Run(UINT nID);                    // false where there is no such command
+    FrameCommands& GetObjects() const { return m_targets.objects; }
+
+    // NULL without memory.
+    std::unique_ptr<CMenu> MakeContextMenu() const;
+    static std::vector<std::string> MenuTitles(); // of the bar
+    std::unique_ptr<CMenu> MakeMenu(int nMenu) const;
+
+    std::vector<Tool> WayTools() const;    // at the left of the path
+    std::vector<Tool> ObjectTools() const; // at its right
+
+private:
+    template <class IsIn, class IsSection>
+    std::unique_ptr<CMenu> MakeMenuOf(IsIn isIn, IsSection isSection) const;
+    std::vector<Tool> ToolsOf(bool bWays) const;
+
+    const CommandTargets m_targets;
+    const std::function<void(std::string)> m_say;
+};
+
+} // namespace editor

@@ -1,0 +1,90 @@
+#include "Editor/frame/ViewCommands.h"
+
+#include "Toolkit/desktop/MenuItems.h"
+#include "Toolkit/menu/MessageBox.h"
+
+namespace editor
+{
+namespace
+{
+
+constexpr const char* kAbout = "Views " EDITOR_VERSION "\n\n"
+                               "An editor for folders of pictures: characters, their phases and frames.\n"
+                               "What it shows are the files themselves. Nothing is imported.";
+
+std::vector<CKeysSheet::Group> KeyGroups()
+{
+    static constexpr const char* titles[] = {"File", "Edit", "View", "Go", "Help"};
+    std::vector<CKeysSheet::Group> groups;
+    for (const char* pszTitle : titles)
+        groups.push_back({pszTitle, {}});
+    for (const CommandEntry& command : AllCommands())
+        if (command.pszText && command.key.vkey != 0)
+            groups[static_cast<std::size_t>(command.menu)].lines.push_back(
+                {command.key.Text(), toolkit::PlainMenuText(command.pszText)});
+    groups.push_back({"Objects", {}});
+    for (const KeyUse& use : KeysOfViews())
+        groups.back().lines.push_back({use.pszKey, use.pszWhat});
+    return groups;
+}
+
+} // namespace
+
+void ViewCommands::Describe(CommandState& state) const
+{
+    state.icons = m_parts.content.GetKind() == ListKind::Icons;
+    state.thumbnails = !state.icons;
+    state.foldersFirst = m_bFoldersFirst;
+    state.filter = m_parts.filter.IsOn();
+    if (m_parts.content.IsPictureShown())
+        state.list = "a picture is shown";
+    if (!m_parts.properties.HasPhases())
+        state.timing = "no phase is selected";
+}
+
+void ViewCommands::SetFoldersFirst(bool bFirst)
+{
+    m_bFoldersFirst = bFirst;
+    const UINT nOrder = bFirst ? MOF_NATURAL | MOF_CONTAINERSFIRST : MOF_NATURAL;
+    m_parts.content.SetOrder(nOrder);
+    m_parts.tree.SetMemberOrder(nOrder);
+}
+
+// Where the filter is on but the keys are elsewhere, they go to it.
+void ViewCommands::ToggleFilter()
+{
+    if (m_parts.filter.IsOn() && ::GetFocus() == m_parts.filter.GetField().m_hWnd)
+        m_parts.filter.End();
+    else
+        m_parts.filter.Begin();
+}
+
+void ViewCommands::FocusNextPane()
+{
+    CRect tree;
+    m_parts.treePane.GetClientRect(&tree);
+    if (::GetFocus() == m_parts.tree.m_hWnd || tree.IsRectEmpty())
+        m_parts.content.TakeFocus();
+    else
+        m_parts.tree.SetFocus();
+}
+
+void ViewCommands::LeaveFields()
+{
+    if (m_parts.properties.HasFocus())
+        m_parts.content.TakeFocus();
+}
+
+void ViewCommands::ShowKeys()
+{
+    if (m_parts.keys.IsWindowVisible())
+        return m_parts.keys.Leave();
+    m_parts.keys.Show(KeyGroups());
+}
+
+void ViewCommands::ShowAbout()
+{
+    AfxMessageBox(kAbout, MB_OK | MB_ICONINFORMATION);
+}
+
+} // namespace editor

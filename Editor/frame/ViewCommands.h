@@ -1,0 +1,50 @@
+// What the frame shows besides objects, and where the keys go.
+#pragma once
+
+#include "Editor/frame/CommandTable.h"
+#include "Editor/frame/Content.h"
+#include "Editor/frame/EditorTree.h"
+#include "Editor/frame/Filter.h"
+#include "Editor/frame/PropertiesPane.h"
+#include "Editor/widgets/KeysSheet.h"
+#include "HostKit/Pane.h"
+
+namespace editor
+{
+
+class ViewCommands
+{
+public:
+    struct Parts // all borrowed
+    {
+        CWnd& frame;
+        hostkit::CPane& treePane;
+        CEditorTree& tree;
+        Content& content;
+        CPropertiesPane& properties;
+        CKeysSheet& keys;
+        Filter& filter;
+    };
+    explicit ViewCommands(Parts parts) : m_parts(parts) {}
+
+    void Describe(CommandState& state) const;
+
+    void ShowIcons() { m_parts.content.ShowList(ListKind::Icons); }
+    void ShowThumbnails() { m_parts.content.ShowList(ListKind::Thumbnails); }
+    void ToggleFoldersFirst() { SetFoldersFirst(!m_bFoldersFirst); }
+    void SetFoldersFirst(bool bFirst);
+    bool AreFoldersFirst() const { return m_bFoldersFirst; }
+    void ToggleFilter();
+    void FocusNextPane();
+    void FocusTiming() { m_parts.properties.FocusFields(); }
+    void LeaveFields(); // which enters what was typed
+    void ShowKeys();    // or hides them again
+    void ShowAbout();
+    void Close() { m_parts.frame.PostMessage(WM_CLOSE); } // as the user closes the window
+
+private:
+    const Parts m_parts;
+    bool m_bFoldersFirst = false;
+};
+
+} // namespace editor

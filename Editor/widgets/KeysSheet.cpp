@@ -1,0 +1,151 @@
+#include "Editor/widgets/KeysSheet.h"
+
+#include "Editor/widgets/Look.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+constexpr int kMargin = 2 * kSpace;
+constexpr int kLeastColumn = 340; // pixels wide
+
+int LineStep()
+{
+    return toolkit::CurrentTextEngine().LineHeight() + 2;
+}
+
+int HeightOf(const CKeysSheet::Group& group)
+{
+    return static_cast<int>(group.lines.size() + 1) * LineStep();
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CKeysSheet, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_KEYDOWN()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_KILLFOCUS()
+END_MESSAGE_MAP()
+
+BOOL CKeysSheet::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+}
+
+void CKeysSheet::Show(std::vector<Group> groups)
+{
+    m_groups = std::move(groups);
+    m_nScrolled = 0;
+    ShowWindow(SW_SHOW);
+    SetFocus();
+    Invalidate();
+}
+
+void CKeysSheet::Leave()
+{
+    m_leave();
+}
+
+// Filled from the left: a column is full once it holds its part of the whole.
+std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
+{
+    CRect room;
+    GetClientRect(&room);
+    room.DeflateRect(kMargin, kMargin);
+    const int nColumns = std::clamp(room.Width() / kLeastColumn, 1, 3);
+    const int width = (room.Width() - (nColumns - 1) * kMargin) / nColumns;
+    int whole = 0;
+    for (const Group& group : m_groups)
+        whole += HeightOf(group) + kMargin;
+
+    std::vector<Place> places;
+    CPoint at = room.TopLeft();
+    int column = 0;
+    for (const Group& group : m_groups) {
+        const int height = HeightOf(group);
+        const bool bFull = at.y - room.top + height / 2 > whole / nColumns;
+        if (bFull && column + 1 < nColumns)
+            at = {room.left + ++column * (width + kMargin), room.top};
+        places.push_back({{at, CSize(width, height)}, &group});
+        at.y += height + kMargin;
+    }
+    return places;
+}
+
+BOOL CKeysSheet::OnEraseBkgnd(HDC hdc)
+{
+    CRect client;
+    GetClientRect(&client);
+    FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
+    return TRUE;
+}
+
+void CKeysSheet::OnPaint()
+{
+    const CPaintDC dc(this);
+    for (const Place& place : Layout())
+        DrawGroup(dc, place);
+}
+
+void CKeysSheet::DrawGroup(HDC hdc, const Place& place) const
+{
+    const int step = LineStep();
+    const int keys = place.rect.Width() * 42 / 100;
+    CRect line(place.rect.left, place.rect.top - m_nScrolled, place.rect.right, place.rect.top - m_nScrolled + step);
+    DrawTextLine(hdc, line, place.pGroup->title, GetSysColor(COLOR_WINDOWTEXT), Align::Left, toolkit::FontStyle::Bold);
+    for (const Line& one : place.pGroup->lines) {
+        line.OffsetRect(0, step);
+        const int split = line.left + keys;
+        DrawTextLine(hdc, {line.left, line.top, split - kSpace, line.bottom}, one.key, GetSysColor(COLOR_GRAYTEXT));
+        DrawTextLine(hdc, {split, line.top, line.right, line.bottom}, one.what, GetSysColor(COLOR_WINDOWTEXT));
+    }
+}
+
+void CKeysSheet::OnKeyDown(UINT nChar, UINT, UINT)
+{
+    CRect client;
+    GetClientRect(&client);
+    if (nChar == VK_ESCAPE || nChar == VK_RETURN)
+        Leave();
+    else if (nChar == VK_UP || nChar == VK_DOWN)
+        ScrollBy(nChar == VK_UP ? -LineStep() : LineStep());
+    else if (nChar == VK_PRIOR || nChar == VK_NEXT)
+        ScrollBy(nChar == VK_PRIOR ? -client.Height() : client.Height());
+}
+
+void CKeysSheet::OnLButtonDown(UINT, CPoint)
+{
+    Leave();
+}
+
+BOOL CKeysSheet::OnMouseWheel(UINT, short zDelta, CPoint)
+{
+    ScrollBy(-zDelta * 3 * LineStep() / WHEEL_DELTA);
+    return TRUE;
+}
+
+void CKeysSheet::OnKillFocus(CWnd* pNewWnd)
+{
+    CWnd::OnKillFocus(pNewWnd);
+    ShowWindow(SW_HIDE);
+}
+
+void CKeysSheet::ScrollBy(int nPixels)
+{
+    CRect client;
+    GetClientRect(&client);
+    int bottom = 0;
+    for (const Place& place : Layout())
+        bottom = std::max<int>(bottom, place.rect.bottom + kMargin);
+    m_nScrolled = std::clamp(m_nScrolled + nPixels, 0, std::max(0, bottom - static_cast<int>(client.bottom)));
+    Invalidate();
+}
+
+} // namespace editor

@@ -1,0 +1,68 @@
+// The menus at the top of the window.
+#pragma once
+
+#include "Toolkit/menu/Menu.h"
+#include "Toolkit/window/Wnd.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+// A press opens a menu, and so does Alt with the letter that is marked. F10, or Alt pressed and let go, lets the arrows
+// walk along the titles. While a menu is shown, Left, Right and the mouse go on to its neighbours. The focus stays
+// where it is.
+class CMenuBar : public CWnd
+{
+public:
+    struct Events
+    {
+        std::function<std::unique_ptr<CMenu>(int nMenu)> make; // as it is now; NULL without memory
+        std::function<void(UINT nCommand)> use;                // the bar may be gone afterwards
+    };
+    CMenuBar(std::vector<std::string> titles, Events events) // "&File"
+        : m_titles(std::move(titles)), m_events(std::move(events))
+    {}
+    ~CMenuBar() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    bool HandleKey(const MSG& msg); // asked before all other windows of the frame: false where it means nothing here
+    void Leave();                   // the keys are everyone's again
+    bool IsWalked() const { return m_bWalked; }
+    CRect TitleRect(int nMenu) const; // client
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnNextMenu(WPARAM wParam, LPARAM lParam);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    static constexpr int kNone = -1;
+
+    int TitleAt(CPoint point) const;
+    int TitleOfLetter(UINT vkey) const;
+    int Beside(int nMenu, int nStep) const; // round and round
+    void SetHot(int nMenu);
+    void Walk();
+    bool HandleWalkKey(UINT vkey);
+    void Open(int nMenu);
+    UINT Track(int nMenu);
+    void DrawTitle(HDC hdc, int nMenu) const;
+
+    const std::vector<std::string> m_titles;
+    const Events m_events;
+    int m_nHot = kNone;      // under the mouse or, while the bar is walked, where the arrows are
+    int m_nOpen = kNone;     // whose menu is shown
+    int m_nNext = kNone;     // to be shown in its place
+    bool m_bWalked = false;  // has the keys
+    bool m_bAltOnly = false; // Alt went down, and nothing else since
+};
+
+} // namespace editor

@@ -1,0 +1,96 @@
+#include "Editor/widgets/ToolBar.h"
+
+#include "Editor/widgets/Look.h"
+
+namespace editor
+{
+namespace
+{
+
+constexpr int kButton = 32;
+constexpr double kDisabled = 0.35; // of an icon's strength
+
+// Where each tool stands in a row that begins there.
+std::vector<CRect> Layout(const std::vector<Tool>& tools, CPoint at)
+{
+    std::vector<CRect> rects;
+    for (const Tool& tool : tools) {
+        at.x += tool.isFirst && !rects.empty() ? 2 * kSpace : 0;
+        rects.emplace_back(at, CSize(kButton, kButton));
+        at.x += kButton;
+    }
+    return rects;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CToolBar, CSpotBar)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+int CToolBar::WidthOf(const std::vector<Tool>& tools)
+{
+    return tools.empty() ? 0 : Layout(tools, {kSpace, 0}).back().right + kSpace;
+}
+
+CRect CToolBar::RectOf(UINT nCommand) const
+{
+    const std::vector<Tool> tools = m_ask();
+    const std::vector<CRect> rects = Layout(tools, {kSpace, (kPathBarHeight - kButton) / 2});
+    for (std::size_t i = 0; i < tools.size(); ++i)
+        if (tools[i].command == nCommand)
+            return rects[i];
+    return {};
+}
+
+int CToolBar::SpotAt(CPoint point) const
+{
+    const std::vector<CRect> rects = Layout(m_ask(), {kSpace, (kPathBarHeight - kButton) / 2});
+    for (std::size_t i = 0; i < rects.size(); ++i)
+        if (rects[i].PtInRect(point))
+            return static_cast<int>(i);
+    return kNothing;
+}
+
+void CToolBar::UseSpot(int nSpot)
+{
+    m_use(m_ask()[static_cast<std::size_t>(nSpot)].command);
+}
+
+CSpotBar::Tip CToolBar::TipOf(int nSpot) const
+{
+    const Tool tool = m_ask()[static_cast<std::size_t>(nSpot)];
+    return {tool.tip, RectOf(tool.command)};
+}
+
+BOOL CToolBar::OnEraseBkgnd(HDC hdc)
+{
+    FillTopBar(hdc, m_hWnd);
+    return TRUE;
+}
+
+void CToolBar::OnPaint()
+{
+    const CPaintDC dc(this);
+    const std::vector<Tool> tools = m_ask();
+    const std::vector<CRect> rects = Layout(tools, {kSpace, (kPathBarHeight - kButton) / 2});
+    for (std::size_t i = 0; i < tools.size(); ++i) {
+        if (tools[i].isFirst && i > 0)
+            FillSolidRect(dc,
+                          CRect(CPoint(rects[i].left - kSpace, rects[i].top + kSpace), CSize(1, kButton - 2 * kSpace)),
+                          LineColor());
+        Draw(dc, tools[i], rects[i], static_cast<int>(i));
+    }
+}
+
+void CToolBar::Draw(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const
+{
+    if (tool.isDown)
+        FillSolidRect(hdc, rect, PressedColor());
+    if (tool.isEnabled)
+        DrawGround(hdc, rect, nSpot);
+    DrawCentred(hdc, rect, tool.isEnabled ? *tool.pIcon : Faded(*tool.pIcon, kDisabled));
+}
+
+} // namespace editor

@@ -1,0 +1,51 @@
+// A row of buttons for commands.
+#pragma once
+
+#include "Editor/widgets/SpotBar.h"
+#include "Toolkit/graphics/Surface.h"
+
+#include <functional>
+#include <vector>
+
+namespace editor
+{
+
+struct Tool
+{
+    UINT command = 0;
+    const toolkit::Surface* pIcon = nullptr; // borrowed
+    std::string tip;
+    bool isEnabled = true;
+    bool isDown = false;  // what it stands for is on
+    bool isFirst = false; // stands apart from the one before
+};
+
+// Asks for its buttons whenever it is drawn or used: telling it of a change costs nothing. One that is disabled can be
+// clicked, too: whoever is told knows why it is.
+class CToolBar : public CSpotBar
+{
+public:
+    CToolBar(std::function<std::vector<Tool>()> ask, std::function<void(UINT nCommand)> use)
+        : m_ask(std::move(ask)), m_use(std::move(use))
+    {}
+
+    static int WidthOf(const std::vector<Tool>& tools); // pixels
+    CRect RectOf(UINT nCommand) const;                  // client; empty without such a button
+
+protected:
+    int SpotAt(CPoint point) const override;
+    void UseSpot(int nSpot) override;
+    Tip TipOf(int nSpot) const override;
+
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void Draw(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const;
+
+    const std::function<std::vector<Tool>()> m_ask;
+    const std::function<void(UINT)> m_use;
+};
+
+} // namespace editor

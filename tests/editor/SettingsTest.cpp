@@ -1,0 +1,88 @@
+// What is remembered from one time to the next.
+#include "Editor/FirstFolder.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace
+{
+
+class SettingsTest : public EditorTest
+{
+protected:
+    SettingsTest()
+    {
+        m_options.settingsPath = config.At("views/settings");
+        StartAnew();
+    }
+    CRect Place()
+    {
+        CRect place;
+        Frame().GetWindowRect(&place);
+        return place;
+    }
+
+    TempFolder config;
+};
+
+TEST_F(SettingsTest, TheNextWindowIsAsTheLastOneWasAndNeverLargerThanTheScreen)
+{
+    folder.Make("Ada/ a.bmp Bo/");
+    Open();
+    EXPECT_EQ(CRect(0, 0, 640, 480), Place());
+    toolkit::InputResize(App().GetMainWindow(), {800, 500});
+    toolkit::InputMoved(App().GetMainWindow(), {300, 200});
+    desktop.Run();
+    Control('2');
+    Frame().GetViews().SetFoldersFirst(true);
+    const HWND hBar = Frame().GetSplitter().m_hWnd;
+    desktop.Press(hBar, {3, 200});
+    desktop.MoveTo(App().GetMainWindow(), {333, 340});
+    desktop.Release(App().GetMainWindow(), {333, 340});
+
+    StartAnew();
+    Open();
+    EXPECT_EQ(CRect(300, 200, 1100, 700), Place());
+    EXPECT_EQ(editor::ListKind::Thumbnails, Frame().GetContent().GetKind());
+    EXPECT_EQ("[Ada Bo a.bmp]", Rows());
+    CRect bar;
+    GetWindowRect(Frame().GetSplitter().m_hWnd, &bar);
+    EXPECT_EQ(330, bar.left - 300);
+
+    desktop.SetWorkArea({0, 0, 800, 600});
+    StartAnew();
+    Open();
+    EXPECT_TRUE(Place().left >= 0 && Place().right <= 800 && Place().top > 0 && Place().bottom <= 600);
+    CloseApp();
+    config.Write("views/settings", "window=1 2 3\nthumbnails=x\nfolder=relative\n=\n\xFF");
+    StartAnew();
+    Open();
+    EXPECT_EQ(CRect(0, 0, 640, 480), Place()) << "what cannot be read counts as not there";
+}
+
+TEST_F(SettingsTest, TheLastFoldersAreAtHandAndAtFirstACopyOfTheSamples)
+{
+    const TempFolder other;
+    folder.Make("Ada/");
+    Open();
+    Open(other.Path());
+    desktop.Choose(folder.Path());
+    desktop.Click(Frame().GetMenuBar().m_hWnd, Frame().GetMenuBar().TitleRect(0).CenterPoint());
+    Settle();
+    EXPECT_EQ("/ | [Ada] | 1 object", Screen());
+    CloseApp();
+    const editor::Settings settings = editor::ReadSettings(m_options.settingsPath);
+    EXPECT_EQ(Ledger({folder.Path(), other.Path()}), settings.recent);
+    EXPECT_EQ(folder.Path(), editor::FirstFolder(settings));
+    other.Make("kept/");
+    editor::Settings gone;
+    gone.recent = {folder.At("none"), other.Path()};
+    EXPECT_EQ(other.Path(), editor::FirstFolder(gone));
+
+    StartAnew();
+    const std::string samples = editor::FirstFolder({});
+    EXPECT_TRUE(samples.ends_with("/views/samples"));
+    EXPECT_EQ("", Open(samples));
+    EXPECT_GT(Frame().GetList().GetItemCount(), 3);
+    CloseApp();
+}
+
+} // namespace
