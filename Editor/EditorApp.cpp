@@ -58,7 +58,7 @@ struct EditorApp::Parts
     // What another window has written meanwhile stays, as far as it is no matter of this one.
     void Remember(const CMainFrame& frame)
     {
-        if (options.settingsPath.empty() || !frame.IsWindowVisible()) // what was never shown is nobody's wish
+        if (options.settingsPath.empty() || !frame.Shown())
             return;
         frame.Remember(settings);
         WriteSettings(options.settingsPath, settings);
