@@ -70,7 +70,7 @@ void OpenTheFolder(benchmark::State& state)
     const std::string path = Folder().Path();
     const NoPictures reader;
     for (auto _ : state) {
-        auto pApp = std::make_unique<editor::EditorApp>(reader, editor::EditorApp::Options{{1024, 768}, {}});
+        auto pApp = std::make_unique<editor::EditorApp>(reader, editor::EditorApp::Options{.size = {1024, 768}, .onClosed = {}});
         const std::string error = pApp->OpenFolder(path);
         toolkit::RunPendingMessages();
 
@@ -86,7 +86,7 @@ void OpenTheFolder(benchmark::State& state)
 void RefreshTheFolder(benchmark::State& state)
 {
     const NoPictures reader;
-    editor::EditorApp app(reader, {{1024, 768}, {}});
+    editor::EditorApp app(reader, {.size = {1024, 768}, .onClosed = {}});
     if (const std::string error = app.OpenFolder(Folder().Path()); !error.empty())
         state.SkipWithError(error.c_str());
     toolkit::RunPendingMessages();

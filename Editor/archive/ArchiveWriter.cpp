@@ -38,7 +38,7 @@ std::string ReadAll(int fd, char* pBytes, std::size_t size, Meter* pMeter)
     while (size > 0) {
         if (pMeter && pMeter->IsCancelled())
             return SystemErrorText(ECANCELED);
-        const ssize_t got = read(fd, pBytes, pMeter ? std::min(size, Meter::kPiece) : size);
+        const ssize_t got = read(fd, pBytes, std::min(size, Meter::kPiece));
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)

@@ -70,7 +70,7 @@ int WriteAll(int fd, std::string_view bytes, Meter* pMeter)
     while (!bytes.empty()) {
         if (pMeter && pMeter->IsCancelled())
             return ECANCELED;
-        const ssize_t done = write(fd, bytes.data(), pMeter ? std::min(bytes.size(), Meter::kPiece) : bytes.size());
+        const ssize_t done = write(fd, bytes.data(), std::min(bytes.size(), Meter::kPiece));
         if (done < 0 && errno != EINTR)
             return errno;
         if (done == 0)

@@ -13,7 +13,8 @@ namespace editor
 class Meter
 {
 public:
-    // Between two looks of what is cancelled: at most so many bytes.
+    // At most so many bytes between two looks whether to go on. Linux takes several times as long for what is written
+    // a gigabyte at once.
     static constexpr std::size_t kPiece = 1 << 20;
 
     void Begin(std::uint64_t total) // 0: not known yet
