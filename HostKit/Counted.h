@@ -31,7 +31,8 @@ protected:
     Counted();
     virtual ~Counted();
 
-    // Without a reference; NULL when the object has none of that identifier.
+    // This object's own, without a reference; NULL when it has none of that identifier. What is another object's, such
+    // as an error, GetInterface hands out instead.
     virtual void* FindInterface(DWORD id);
 
 private:
