@@ -4,6 +4,7 @@
 #include "examples/Screen.h"
 
 #include <cstdio>
+#include <cstdlib>
 
 namespace
 {
@@ -23,7 +24,7 @@ protected:
     bool Load(std::string_view bytes) override
     {
         m_color = static_cast<COLORREF>(std::strtoul(std::string(bytes).c_str(), nullptr, 10));
-        return true;
+        return m_color <= 0xFFFFFF;
     }
 
 private:
