@@ -49,7 +49,7 @@ void LargeBlock::Drop()
     if (m_fd >= 0)
         close(m_fd);
     m_pBytes = nullptr;
-    m_nCapacity = 0;
+    m_nCapacity = m_nGiven = 0;
     m_fd = -1;
 }
 
@@ -64,11 +64,13 @@ bool LargeBlock::Map(int fd, std::size_t bytes, int nSharing)
 // Without room on the disk for all of it, writing to it would end the program.
 bool LargeBlock::Reserve(std::size_t bytes)
 {
-    if (bytes <= m_nCapacity)
+    if (m_nGiven > 0 && bytes == 0)
+        Drop();
+    if (bytes <= m_nCapacity && m_nGiven == 0)
         return true;
     const std::size_t more = m_nCapacity + std::clamp(m_nCapacity, kStep, kMostMore);
     const std::size_t wanted = (std::max(bytes, more) + kStep - 1) / kStep * kStep;
-    if (m_fd >= 0) {
+    if (m_fd >= 0 && m_nGiven == 0) {
         if (fallocate(m_fd, 0, 0, static_cast<off_t>(wanted)) != 0)
             return false;
         void* const p = mremap(m_pBytes, m_nCapacity, wanted, MREMAP_MAYMOVE);
@@ -83,17 +85,19 @@ bool LargeBlock::Reserve(std::size_t bytes)
     if (larger.m_fd < 0 || fallocate(larger.m_fd, 0, 0, static_cast<off_t>(wanted)) != 0 ||
         !larger.Map(larger.m_fd, wanted, MAP_SHARED))
         return false;
-    std::copy_n(m_pBytes, m_nCapacity, larger.m_pBytes);
+    std::copy_n(m_pBytes, m_nGiven > 0 ? m_nGiven : m_nCapacity, larger.m_pBytes);
     std::swap(m_fd, larger.m_fd);
     std::swap(m_pBytes, larger.m_pBytes);
     std::swap(m_nCapacity, larger.m_nCapacity);
+    m_nGiven = 0;
     return true;
 }
 
 bool LargeBlock::MakeFile(const char* pszPath, std::size_t length)
 {
     const std::string nameless = "/proc/self/fd/" + std::to_string(m_fd);
-    if (m_fd < 0 || length == 0 || linkat(AT_FDCWD, nameless.c_str(), AT_FDCWD, pszPath, AT_SYMLINK_FOLLOW) != 0)
+    if (m_fd < 0 || m_nGiven > 0 || length == 0 ||
+        linkat(AT_FDCWD, nameless.c_str(), AT_FDCWD, pszPath, AT_SYMLINK_FOLLOW) != 0)
         return false;
     struct stat status;
     if (ftruncate(m_fd, static_cast<off_t>(length)) != 0 || fstat(m_fd, &status) != 0) {
@@ -101,9 +105,7 @@ bool LargeBlock::MakeFile(const char* pszPath, std::size_t length)
         return false;
     }
     s_made.insert(FileOf(status));
-    munmap(m_pBytes, m_nCapacity);
-    Map(m_fd, length, MAP_PRIVATE);
-    close(std::exchange(m_fd, -1));
+    m_nGiven = length;
     return true;
 }
 

@@ -22,7 +22,8 @@ public:
     std::byte* Get() const { return m_pBytes; }
     bool Reserve(std::size_t bytes); // false, and nothing has changed, when there is no such file or no room for it
 
-    // Its first bytes become a file of that name. The block goes on with a copy of every page that is written to.
+    // Its first bytes become a file of that name. They are only read from now on, until the block is to be larger or
+    // empty: then it is another one, with the same bytes.
     bool MakeFile(const char* pszPath, std::size_t length);
     // Such a file of this program's becomes the block; the length, or 0: it is none.
     std::size_t TakeFile(const char* pszPath);
@@ -31,7 +32,8 @@ private:
     bool Map(int fd, std::size_t bytes, int nSharing); // a flag of mmap
     void Drop();
 
-    int m_fd = -1; // -1: what is written is the block's alone
+    int m_fd = -1;            // -1: what is written is the block's alone
+    std::size_t m_nGiven = 0; // the length of the file that it has become; 0: none
     std::byte* m_pBytes = nullptr;
     std::size_t m_nCapacity = 0;
 };

@@ -22,7 +22,7 @@ void CMemoryStream::SetEnd()
 
 void* CMemoryStream::GetData()
 {
-    if (!m_bFailed && !Reserve(1)) // a stream without bytes has a block all the same
+    if (!m_bFailed && !m_large && !m_block.Reserve(1)) // a stream without bytes has a block all the same
         Fail();
     return m_bFailed ? nullptr : m_large ? m_large.Get() : m_block.Get();
 }

@@ -8,8 +8,8 @@
 class VIEWS_API IFileStream : public virtual CStubBaseInterface
 {
 public:
-    // All bytes become a new file of that path, which its owner alone may read and write. What is done to the stream
-    // afterwards does not change the file. FALSE: there is no file.
+    // All bytes become a new file of that path, which its owner alone may read and write. They are only read from then
+    // on, until the stream's end is set anew. FALSE: there is no file.
     virtual BOOL MakeFile(LPCSTR pszPath) = 0;
     // The file's bytes become the stream's, whose position is then its start. FALSE: the stream is as it was.
     virtual BOOL TakeFile(LPCSTR pszPath) = 0;
