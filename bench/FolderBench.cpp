@@ -70,7 +70,8 @@ void OpenTheFolder(benchmark::State& state)
     const std::string path = Folder().Path();
     const NoPictures reader;
     for (auto _ : state) {
-        auto pApp = std::make_unique<editor::EditorApp>(reader, editor::EditorApp::Options{.size = {1024, 768}, .onClosed = {}});
+        auto pApp = std::make_unique<editor::EditorApp>(
+            reader, editor::EditorApp::Options{.size = {1024, 768}, .onClosed = {}});
         const std::string error = pApp->OpenFolder(path);
         toolkit::RunPendingMessages();
 
