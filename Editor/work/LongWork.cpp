@@ -10,6 +10,31 @@ namespace
 
 constexpr std::chrono::milliseconds kBeat(8); // half a frame: nobody waits longer for an answer
 
+// Also where answering raises something: the task works on what its caller holds.
+class Waiting
+{
+public:
+    explicit Waiting(Worker& worker) : m_worker(worker) {}
+    ~Waiting() { m_worker.Wait(); }
+    Waiting(const Waiting&) = delete;
+    Waiting& operator=(const Waiting&) = delete;
+
+private:
+    Worker& m_worker;
+};
+
+class Flag
+{
+public:
+    explicit Flag(bool& bOn) : m_bOn(bOn) { m_bOn = true; }
+    ~Flag() { m_bOn = false; }
+    Flag(const Flag&) = delete;
+    Flag& operator=(const Flag&) = delete;
+
+private:
+    bool& m_bOn;
+};
+
 } // namespace
 
 LongWork::Command::Command(LongWork* pWork, const char* pszWhat, Progress::Unit unit) : m_pWork(pWork)
@@ -49,19 +74,22 @@ void LongWork::End()
 // What is done quickly is waited for: going to sleep and waking up costs less than many small things do.
 void LongWork::Run(const std::function<void()>& task)
 {
-    if (m_nCommands == 0 || m_bRunning)
+    if (m_nCommands == 0 || m_bAnswering)
         return task();
     if (std::chrono::steady_clock::now() - m_answered >= kBeat)
         Answer();
     m_worker.Begin(task);
-    while (!m_worker.WaitFor(kBeat))
-        Answer();
+    {
+        const Waiting untilDone(m_worker);
+        while (!m_worker.WaitFor(kBeat))
+            Answer();
+    }
     m_worker.Finish();
 }
 
 void LongWork::Answer()
 {
-    m_bRunning = true; // nothing that is done now is done aside
+    const Flag answering(m_bAnswering); // nothing that is done now is done aside
     if (m_pView && toolkit::CurrentDesktop().Ticks() - m_begun >= kUnseen) {
         m_progress.done = m_meter.Done();
         m_progress.total = m_meter.Total();
@@ -69,7 +97,6 @@ void LongWork::Answer()
         m_pView->Show(m_progress);
     }
     toolkit::AnswerMeanwhile(m_pView ? m_pView->GetModalWindow() : nullptr);
-    m_bRunning = false;
     m_answered = std::chrono::steady_clock::now();
 }
 

@@ -96,7 +96,7 @@ private:
     Meter m_meter;
     Worker m_worker;
     int m_nCommands = 0; // inside each other
-    bool m_bRunning = false, m_bShown = false, m_bWasCancelled = false;
+    bool m_bAnswering = false, m_bShown = false, m_bWasCancelled = false;
     Progress m_progress;
     DWORD m_begun = 0; // the desktop's ticks
     std::chrono::steady_clock::time_point m_answered;
