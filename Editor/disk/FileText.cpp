@@ -89,6 +89,11 @@ std::string ExtensionOf(std::string_view name)
     return extension;
 }
 
+std::string FolderOf(const std::string& path)
+{
+    return path.substr(0, path.rfind('/'));
+}
+
 std::string_view BaseName(std::string_view path)
 {
     return path.substr(path.rfind('/') + 1);

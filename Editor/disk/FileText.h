@@ -21,5 +21,7 @@ std::string ExtensionOf(std::string_view name);
 
 // The part behind the last slash.
 std::string_view BaseName(std::string_view path);
+// The part before it; the whole path without one.
+std::string FolderOf(const std::string& path);
 
 } // namespace editor

@@ -51,10 +51,7 @@ void FrameCommands::DescribeSelection(CommandState& state) const
         state.open = state.rename = members.empty() ? "no object is selected" : "several objects are selected";
     if (members.empty())
         state.carry = state.remove = "no object is selected";
-    const auto cannotGo = [](const ActiveMember& member) {
-        return (member.pContainer->GetPermissions(member.pAtom.Get()) & APF_REMOVE) == 0;
-    };
-    if (const auto at = std::find_if(members.begin(), members.end(), cannotGo); at != members.end())
+    if (const auto at = std::ranges::find_if_not(members, &ActiveMember::MayGo); at != members.end())
         state.remove = ShownNameOf(at->pAtom.Get()) + " has to stay";
     if (members.size() != 1)
         return;

@@ -374,8 +374,9 @@ void CMainFrame::ShowFollowed(const std::vector<std::string>& phases)
 {
     OnSelectRenamed(0, 0); // the views have heard of both by now
     std::vector<FolderNews> news;
+    news.reserve(phases.size());
     for (const std::string& path : phases)
-        news.push_back({path.substr(0, path.rfind('/')), {std::string(BaseName(path))}, {}, false});
+        news.push_back({FolderOf(path), {std::string(BaseName(path))}, {}, false});
     OnDiskNews(news);
     m_commands.ShowFailure(IDS_FOLLOW_FAILED, TakeUnfollowed());
 }

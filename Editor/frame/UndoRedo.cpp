@@ -15,11 +15,6 @@ bool IsOrIsBelow(std::string_view path, std::string_view top)
     return path.starts_with(top) && (path.size() == top.size() || path[top.size()] == '/');
 }
 
-std::string FolderOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
-}
-
 } // namespace
 
 std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& present)

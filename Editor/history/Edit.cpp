@@ -11,11 +11,6 @@ namespace editor
 namespace
 {
 
-std::string FolderOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
-}
-
 std::string Line(const std::string& path, const std::string& reason)
 {
     return ToShown(BaseName(path)) + ": " + reason;

@@ -71,7 +71,6 @@ History::Step::~Step()
 template <class Iterator, class Way>
 std::string History::DoAll(Iterator first, Iterator last, Way make, Way takeBack)
 {
-    const LongWork::Command command(m_pWork, "Putting back", Progress::Unit::Objects);
     if (m_pWork)
         m_pWork->GetMeter().SetTotal(static_cast<std::uint64_t>(std::distance(first, last)));
     for (Iterator at = first; at != last; ++at) {

@@ -21,11 +21,6 @@ int Look(const std::string& path)
     return access(path.c_str(), F_OK) == 0 ? 0 : errno;
 }
 
-std::string FolderOf(const std::string& path)
-{
-    return path.substr(0, path.rfind('/'));
-}
-
 // Where what is at the path, or was, is by these moves; the same when neither it nor what it is in was moved.
 std::string Moved(const std::string& path, const std::map<std::string, std::string>& moves)
 {

@@ -137,7 +137,6 @@ try {
     const ActiveMembers members = GetActiveMembers(m_editor);
     if (members.empty())
         return kNothingSelected;
-    const LongWork::Command command(&m_editor.GetWork(), "Copying", Progress::Unit::Bytes);
     ::SetLastError(ERROR_SUCCESS);
     if (CopyObjects(FALSE, [&](COleDataSource& source) { OfferCopiedFiles(source, PathsOf(members)); }))
         return {};

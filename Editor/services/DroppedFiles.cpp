@@ -112,7 +112,6 @@ try {
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";
     LongWork* const pWork = pFolder->Work();
-    const LongWork::Command command(pWork, "Pasting", Progress::Unit::Bytes);
     if (pWork) // read once, and written once
         Aside(pWork, [&] {
             for (const std::string& path : paths)
