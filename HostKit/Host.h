@@ -1,9 +1,9 @@
 // All that views ask a host for, ready at once.
 #pragma once
 
-#include "HostKit/AtomEditor.h"
-#include "HostKit/Resources.h"
 #include "HostKit/Services.h"
+#include "HostKit/atoms/AtomEditor.h"
+#include "HostKit/pictures/Resources.h"
 
 namespace hostkit
 {

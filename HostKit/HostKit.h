@@ -2,11 +2,11 @@
 // to replace piece by piece.
 #pragma once
 
-#include "HostKit/Atom.h"
-#include "HostKit/Commands.h"
-#include "HostKit/ErrorInfo.h"
-#include "HostKit/Frame.h"
-#include "HostKit/Handler.h"
 #include "HostKit/Host.h"
-#include "HostKit/Names.h"
+#include "HostKit/atoms/Atom.h"
+#include "HostKit/atoms/Commands.h"
+#include "HostKit/atoms/Handler.h"
+#include "HostKit/base/ErrorInfo.h"
+#include "HostKit/base/Names.h"
+#include "HostKit/frame/Frame.h"
 #include "Views/host/host.h"

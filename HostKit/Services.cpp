@@ -1,8 +1,8 @@
 #include "HostKit/Services.h"
 
-#include "HostKit/Archive.h"
-#include "HostKit/ErrorInfo.h"
-#include "HostKit/MemoryStream.h"
+#include "HostKit/atoms/Archive.h"
+#include "HostKit/base/ErrorInfo.h"
+#include "HostKit/memory/MemoryStream.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"

@@ -1,7 +1,7 @@
 // The services that the views call by name, installed in the kernel for as long as the object lives.
 #pragma once
 
-#include "HostKit/Api.h"
+#include "HostKit/base/Api.h"
 #include "Kernel/Kernel.h"
 
 class IAtomEditor;

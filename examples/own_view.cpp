@@ -1,7 +1,7 @@
 // A list view of one's own: how far each task has come, as a pie. What rows there are, names, selection, keys and the
 // mouse are the library's; a view adds its pictures, for the rows that are about to be seen and no others.
-#include "HostKit/Drawing.h"
 #include "HostKit/HostKit.h"
+#include "HostKit/pictures/Drawing.h"
 #include "Views/list/list.h"
 #include "examples/Screen.h"
 

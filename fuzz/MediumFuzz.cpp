@@ -1,10 +1,10 @@
 // The path handle and its medium, as a drag or the clipboard brings them. The first byte says which kind of medium, and
 // whether the rest is a path by itself or one in a folder that has a little of everything.
 #include "Editor/services/AtomEditor.h"
-#include "HostKit/Archive.h"
-#include "HostKit/Counted.h"
-#include "HostKit/MemoryStream.h"
 #include "HostKit/Services.h"
+#include "HostKit/atoms/Archive.h"
+#include "HostKit/base/Counted.h"
+#include "HostKit/memory/MemoryStream.h"
 #include "Toolkit/base/Files.h"
 #include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/clipboard.h"

@@ -1,6 +1,6 @@
 #include "Editor/app/ProgramIcon.h"
 
-#include "HostKit/Pictograms.h"
+#include "HostKit/pictures/Pictograms.h"
 
 #include <QPixmap>
 

@@ -1,7 +1,7 @@
 #include "Editor/archive/ArchivedAtom.h"
 
-#include "HostKit/ErrorInfo.h"
-#include "HostKit/Names.h"
+#include "HostKit/base/ErrorInfo.h"
+#include "HostKit/base/Names.h"
 
 namespace editor
 {

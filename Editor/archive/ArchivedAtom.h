@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/archive/ArchiveFormat.h"
-#include "HostKit/Counted.h"
+#include "HostKit/base/Counted.h"
 #include "Views/host/host.h"
 
 #include <string>

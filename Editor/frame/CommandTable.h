@@ -2,8 +2,8 @@
 // does.
 #pragma once
 
-#include "HostKit/CommandKey.h"
-#include "HostKit/Pictograms.h"
+#include "HostKit/frame/CommandKey.h"
+#include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/base/Types.h"
 
 #include <optional>

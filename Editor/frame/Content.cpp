@@ -3,7 +3,7 @@
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
-#include "HostKit/Pictograms.h"
+#include "HostKit/pictures/Pictograms.h"
 
 namespace editor
 {

@@ -1,9 +1,9 @@
 // The right side of the frame: one of two lists, or a picture.
 #pragma once
 
-#include "Editor/frame/EditorList.h"
-#include "Editor/frame/PictureView.h"
-#include "HostKit/Pane.h"
+#include "Editor/views/EditorList.h"
+#include "Editor/views/PictureView.h"
+#include "HostKit/frame/Pane.h"
 
 namespace editor
 {

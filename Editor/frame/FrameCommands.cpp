@@ -2,7 +2,7 @@
 
 #include "Editor/disk/Trash.h"
 #include "Editor/resources/EditorResources.h"
-#include "HostKit/ErrorInfo.h"
+#include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/clipboard/Naming.h"
 

@@ -3,10 +3,10 @@
 
 #include "Editor/frame/CommandDesk.h"
 #include "Editor/frame/Content.h"
-#include "Editor/frame/EditorTree.h"
 #include "Editor/frame/Filter.h"
 #include "Editor/frame/Navigation.h"
-#include "HostKit/Splitter.h"
+#include "Editor/views/EditorTree.h"
+#include "HostKit/frame/Splitter.h"
 
 namespace editor
 {

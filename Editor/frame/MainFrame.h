@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Editor/frame/DiskFollower.h"
-#include "Editor/frame/EditorTree.h"
 #include "Editor/frame/FrameCommands.h"
 #include "Editor/frame/FrameKeys.h"
 #include "Editor/frame/PlaceCommands.h"
@@ -10,11 +9,12 @@
 #include "Editor/frame/ViewCommands.h"
 #include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
+#include "Editor/views/EditorTree.h"
 #include "Editor/widgets/MenuBar.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
 #include "Editor/widgets/StatusBar.h"
-#include "HostKit/Splitter.h"
+#include "HostKit/frame/Splitter.h"
 #include "Views/host/StateHandler.h"
 
 namespace editor

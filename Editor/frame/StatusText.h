@@ -1,9 +1,9 @@
 // What the frame says about what it shows.
 #pragma once
 
-#include "Editor/frame/EditorList.h"
 #include "Editor/model/Member.h"
 #include "Editor/pictures/PictureStore.h"
+#include "Editor/views/EditorList.h"
 #include "Editor/widgets/StatusBar.h"
 
 namespace editor

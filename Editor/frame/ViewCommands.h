@@ -3,11 +3,11 @@
 
 #include "Editor/frame/CommandTable.h"
 #include "Editor/frame/Content.h"
-#include "Editor/frame/EditorTree.h"
 #include "Editor/frame/Filter.h"
 #include "Editor/frame/PropertiesPane.h"
+#include "Editor/views/EditorTree.h"
 #include "Editor/widgets/KeysSheet.h"
-#include "HostKit/Pane.h"
+#include "HostKit/frame/Pane.h"
 
 namespace editor
 {

@@ -4,8 +4,8 @@
 #include "Editor/model/Container.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/objects/DisplayName.h"
-#include "HostKit/ErrorInfo.h"
-#include "HostKit/Names.h"
+#include "HostKit/base/ErrorInfo.h"
+#include "HostKit/base/Names.h"
 #include "Toolkit/graphics/ImageList.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/model/MemberTable.h"
-#include "HostKit/Counted.h"
+#include "HostKit/base/Counted.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Views/host/host.h"
 

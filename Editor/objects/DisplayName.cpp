@@ -1,6 +1,6 @@
 #include "Editor/objects/DisplayName.h"
 
-#include "HostKit/Names.h"
+#include "HostKit/base/Names.h"
 
 namespace editor
 {

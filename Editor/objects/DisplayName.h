@@ -1,7 +1,7 @@
 // The name to show of an atom whose own name cannot be shown as it is.
 #pragma once
 
-#include "HostKit/Counted.h"
+#include "HostKit/base/Counted.h"
 #include "Views/host/host.h"
 
 #include <string>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/pictures/PictureStore.h"
-#include "HostKit/Pictograms.h"
+#include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/graphics/Gdi.h"
 
 namespace editor

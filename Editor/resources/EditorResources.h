@@ -1,7 +1,7 @@
 // The texts and pictures that the views and the editor show, by number.
 #pragma once
 
-#include "HostKit/Resources.h"
+#include "HostKit/pictures/Resources.h"
 
 namespace editor
 {

@@ -1,7 +1,7 @@
 #include "Editor/services/ActiveMembers.h"
 
 #include "Editor/model/Container.h"
-#include "HostKit/ErrorInfo.h"
+#include "HostKit/base/ErrorInfo.h"
 
 #include <map>
 #include <new>

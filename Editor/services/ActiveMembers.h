@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/model/Phase.h"
-#include "HostKit/ActiveMembers.h"
-#include "HostKit/Commands.h"
+#include "HostKit/atoms/ActiveMembers.h"
+#include "HostKit/atoms/Commands.h"
 
 #include <string>
 #include <vector>

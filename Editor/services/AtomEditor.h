@@ -3,7 +3,7 @@
 
 #include "Editor/history/History.h"
 #include "Editor/services/ActiveMembers.h"
-#include "HostKit/AtomEditor.h"
+#include "HostKit/atoms/AtomEditor.h"
 
 namespace editor
 {

@@ -5,7 +5,7 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
 #include "Editor/services/FileUris.h"
-#include "HostKit/ErrorInfo.h"
+#include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
 

@@ -1,6 +1,6 @@
 #include "Editor/services/NameRefusals.h"
 
-#include "HostKit/ErrorInfo.h"
+#include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/base/String.h"
 #include "Views/host/Resources.h"
 #include "Views/host/Services.h"

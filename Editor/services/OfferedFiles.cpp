@@ -4,7 +4,7 @@
 #include "Editor/disk/TextFile.h"
 #include "Editor/model/Member.h"
 #include "Editor/services/FileUris.h"
-#include "HostKit/GlobalMedium.h"
+#include "HostKit/atoms/GlobalMedium.h"
 #include "Toolkit/base/GlobalMemory.h"
 
 #include <cstring>

@@ -1,7 +1,7 @@
 // What the frame's parts look like: the kit's measures, colours and texts, and the editor's own.
 #pragma once
 
-#include "HostKit/Look.h"
+#include "HostKit/pictures/Look.h"
 
 namespace editor
 {

@@ -1,7 +1,7 @@
 #include "Editor/widgets/PaneLayout.h"
 
 #include "Editor/widgets/Look.h"
-#include "HostKit/Splitter.h"
+#include "HostKit/frame/Splitter.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "Editor/widgets/PathBar.h"
 
 #include "Editor/widgets/Look.h"
-#include "HostKit/Pictograms.h"
+#include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>

@@ -1,7 +1,7 @@
 #include "tests/editor/ArchiveFixture.h"
 
-#include "HostKit/Archive.h"
-#include "HostKit/MemoryStream.h"
+#include "HostKit/atoms/Archive.h"
+#include "HostKit/memory/MemoryStream.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "tests/editor/EditorFixture.h"
 
 #include "Editor/widgets/Look.h"
-#include "HostKit/Counted.h"
+#include "HostKit/base/Counted.h"
 
 #include <algorithm>
 

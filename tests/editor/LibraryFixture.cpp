@@ -1,8 +1,8 @@
 #include "tests/editor/LibraryFixture.h"
 
 #include "Editor/pictures/IconPainter.h"
-#include "HostKit/Counted.h"
-#include "HostKit/ErrorInfo.h"
+#include "HostKit/base/Counted.h"
+#include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/graphics/Gdi.h"
 
 #include <algorithm>

@@ -1,4 +1,4 @@
-#include "HostKit/Counted.h"
+#include "HostKit/base/Counted.h"
 #include "tests/editor/LibraryFixture.h"
 
 #include <sys/stat.h>

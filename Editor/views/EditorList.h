@@ -1,0 +1,194 @@
+// A list view as the frame uses it, whatever its rows look like.
+#pragma once
+
+#include "Editor/views/DropTargets.h"
+#include "Editor/views/NameField.h"
+#include "Views/host/StubRef.h"
+#include "Views/list/list.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace editor
+{
+
+bool IsAmong(const std::vector<CStubRef<IAtom>>& sorted, IAtom* pAtom); // sorted by address
+
+// What the frame adds to a list view. One list of the frame is active at a time; the others hear what is entered
+// without showing it, and cost nothing.
+class CEditorList
+{
+public:
+    struct Events
+    {
+        std::function<std::string()> askEmptyText; // for the middle of a list without rows
+        std::function<void()> painted;             // rows have come into sight, and may have wished for pictures
+        std::function<IAtomContainer*()> askShown; // what the active list shows, borrowed
+        DropFailed dropFailed;
+        DropRefused dropRefused;
+        std::function<void()> pressed; // a mouse button, on the list
+    };
+
+    virtual ~CEditorList() = default;
+    CEditorList(const CEditorList&) = delete;
+    CEditorList& operator=(const CEditorList&) = delete;
+
+    virtual CStubRef<IAtom> GetAtom(int nRow) const = 0; // empty without such a row
+    virtual void Activate(IAtom* pContainer) = 0;        // shows it; for NULL, what is entered next
+    virtual void Deactivate() = 0;                       // lets go of all rows and of the pane
+    virtual void SetOrder(UINT nOrder) = 0;              // MOF_*
+    virtual void SetFilter(std::function<bool(IAtom* pAtom)> isShown) = 0;
+    virtual void Reload() = 0; // rows by the present order and filter; those that stay keep selection and focus
+    virtual CSize PictureSize() const = 0;             // at which rows wish for pictures
+    std::vector<CStubRef<IAtom>> AtomsInSight() const; // sorted by address
+    int FindRow(IAtom* pAtom) const;                   // looks at all; -1: none
+
+    int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
+    // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
+    CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
+
+    IAEStateHandler* Handler() const { return dynamic_cast<IAEStateHandler*>(&m_view); }
+    HWND GetSafeHwnd() const { return m_view.GetSafeHwnd(); }
+    BOOL IsWindowVisible() const { return m_view.IsWindowVisible(); }
+    void SetFocus() { m_view.SetFocus(); }
+    int GetItemCount() const { return m_view.GetItemCount(); }
+    int GetSelectedCount() const { return m_view.GetSelectedCount(); }
+    int GetNextItem(int nItem, UINT nFlags) const { return m_view.GetNextItem(nItem, nFlags); }
+    UINT GetItemState(int nItem, UINT nMask) const { return m_view.GetItemState(nItem, nMask); }
+    BOOL SetItemState(int nItem, UINT nState, UINT nMask) { return m_view.SetItemState(nItem, nState, nMask); }
+    BOOL GetItemRect(int nItem, RECT* pRect, int nArea) const { return m_view.GetItemRect(nItem, pRect, nArea); }
+    int GetFocusedRow() const { return GetNextItem(-1, LVNI_FOCUSED); }
+    bool AreAllSelected() const { return GetItemCount() > 0 && GetSelectedCount() == GetItemCount(); }
+
+    // The first selected row gets the focus and is scrolled into view.
+    void FocusSelection();
+
+    // What a user would miss after the rows have been loaded anew: selection, focused row and scroll position. Of
+    // atoms that are not there any more nothing is selected; the focus stays in its place among the rows.
+    struct State
+    {
+        bool bAllSelected = false;
+        std::vector<CStubRef<IAtom>> selected; // unless all are; sorted by address
+        CStubRef<IAtom> pFocused;
+        int nFocused = -1; // its row then
+        int nScrolled = 0; // pixels
+    };
+    // All rows may be selected only in case all are to be that will be there.
+    enum class AllRows
+    {
+        MeansAll,
+        AsTheyAre
+    };
+    State Remember(AllRows all = AllRows::MeansAll) const;
+    void Restore(const State& state);
+    void RestoreRows(const State& state); // selection and focus; the focused row is scrolled into view
+
+protected:
+    CEditorList(CListCtrl& view, Events events) : m_view(view), m_events(std::move(events)) {}
+
+    void DrawEmptyText(const CRect& dirty) const;
+    const Events& GetEvents() const { return m_events; }
+
+private:
+    void RestoreStates(const State& state);
+
+    CListCtrl& m_view; // this very object
+    const Events m_events;
+};
+
+template <class View>
+class CEditorListOf final : public View, public CEditorList
+{
+public:
+    CEditorListOf(CSize picture, Events events)
+        : CEditorList(*this, std::move(events)),
+          m_picture(picture),
+          m_target(*this, GetEvents().dropFailed, GetEvents().dropRefused),
+          m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); })
+    {
+        View::PlaceNewAtoms();
+        View::SetMemberOrder(MOF_NATURAL);
+    }
+    ~CEditorListOf() override { View::DestroyWindow(); }
+
+    CStubRef<IAtom> GetAtom(int nRow) const override
+    {
+        const auto* const pPair = reinterpret_cast<const OBJPAIR*>(View::GetItemData(nRow));
+        return CStubRef<IAtom>::Share(pPair ? pPair->pAtom : nullptr);
+    }
+    void Activate(IAtom* pContainer) override
+    {
+        m_bActive = true;
+        if (pContainer)
+            View::OnAtomEntered(pContainer, nullptr);
+    }
+    void Deactivate() override
+    {
+        m_bActive = false;
+        View::OnAtomEntered(nullptr, nullptr);
+    }
+    void SetOrder(UINT nOrder) override
+    {
+        View::SetMemberOrder(nOrder);
+        Reload();
+    }
+    void SetFilter(std::function<bool(IAtom* pAtom)> isShown) override { View::SetMemberFilter(std::move(isShown)); }
+    void Reload() override
+    {
+        const auto pShown = CStubRef<IAtom>::From(GetEvents().askShown());
+        if (!m_bActive || !pShown)
+            return;
+        const State state = Remember(AllRows::AsTheyAre);
+        View::OnAtomEntered(pShown.Get(), nullptr);
+        RestoreRows(state);
+    }
+    CSize PictureSize() const override { return m_picture; }
+
+    BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override
+    {
+        return m_bActive ? View::OnAtomEntered(pAtom, pContainer) : TRUE;
+    }
+
+protected:
+    BOOL PreCreateWindow(CREATESTRUCT& cs) override
+    {
+        if (!View::PreCreateWindow(cs))
+            return FALSE;
+        cs.dwExStyle &= ~WS_EX_CLIENTEDGE; // the pane has the edges
+        return TRUE;
+    }
+
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        CRect dirty;
+        const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
+        if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+            GetEvents().pressed();
+        const LRESULT nResult = View::WindowProc(message, wParam, lParam);
+        m_nameField.After(message, wParam, lParam);
+        if (message == WM_CREATE && nResult != -1) {
+            View::SetTypeAhead(TRUE);
+            View::GetDropTarget().Revoke();
+            m_target.Register(this);
+        }
+        if (bPaints) {
+            DrawEmptyText(dirty);
+            GetEvents().painted();
+        }
+        return nResult;
+    }
+
+    void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped) override { m_nameField.Refused(pAtom, pszTyped); }
+
+private:
+    const CSize m_picture;
+    CEditorListTarget m_target;
+    NameField m_nameField;
+    bool m_bActive = false;
+};
+
+using CEditorIcons = CEditorListOf<CIconList>;
+using CEditorThumbnails = CEditorListOf<CThumbList>;
+
+} // namespace editor

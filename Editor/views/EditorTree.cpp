@@ -1,0 +1,203 @@
+#include "Editor/views/EditorTree.h"
+
+#include "Editor/model/Folder.h"
+
+#include <set>
+#include <utility>
+#include <vector>
+
+namespace editor
+{
+namespace
+{
+
+constexpr UINT kMostAtOnce = 10'000; // items that expanding a whole branch may bring before it reads no more
+
+// The tree takes the focus whenever its selection changes. Where that only follows what was done elsewhere, the focus
+// goes back; to the frame, which passes it on, when its window is shown no more.
+class FocusKeeper
+{
+public:
+    explicit FocusKeeper(HWND hTree) : m_hTree(hTree), m_hFocus(::GetFocus()) {}
+    ~FocusKeeper()
+    {
+        if (m_hFocus && m_hFocus != m_hTree && ::GetFocus() == m_hTree)
+            ::SetFocus(IsWindowVisible(m_hFocus) ? m_hFocus : GetTopLevel(m_hTree));
+    }
+    FocusKeeper(const FocusKeeper&) = delete;
+    FocusKeeper& operator=(const FocusKeeper&) = delete;
+
+private:
+    const HWND m_hTree, m_hFocus;
+};
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CEditorTree, CObjectsTree)
+    ON_WM_CREATE()
+    ON_NOTIFY_REFLECT(TVN_ITEMEXPANDING, OnItemExpanding)
+    ON_WM_KEYDOWN()
+END_MESSAGE_MAP()
+
+CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::function<void()> pressed)
+    : m_target(*this, std::move(dropFailed), std::move(dropRefused)),
+      m_nameField(*this,
+                  [this](IAtom* pAtom) -> HWND {
+                      const HTREEITEM hItem = GetItem(pAtom);
+                      return hItem ? EditLabel(hItem) : nullptr;
+                  }),
+      m_pressed(std::move(pressed))
+{
+    ShowMembersOnDemand();
+}
+
+void CEditorTree::ExpandAtom(IAtom* pAtom)
+{
+    if (const HTREEITEM hItem = GetItem(pAtom))
+        Expand(hItem, TVE_EXPAND);
+}
+
+CStubRef<IAtom> CEditorTree::Beside(IAtom* pAtom, int nStep) const
+{
+    const auto step = [&](HTREEITEM hItem) {
+        return nStep < 0 ? GetPrevSiblingItem(hItem) : GetNextSiblingItem(hItem);
+    };
+    const HTREEITEM hFrom = GetItem(pAtom);
+    for (HTREEITEM hItem = hFrom ? step(hFrom) : nullptr; hItem; hItem = step(hItem)) {
+        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
+        if (pRecord && !CStubRef<IAtomContainer>::From(pRecord->pAtom.Get()))
+            return CStubRef<IAtom>::Share(pRecord->pAtom.Get());
+    }
+    return {};
+}
+
+CStubRef<IAtomContainer> CEditorTree::ContainerAt(CPoint client) const
+{
+    const HTREEITEM hItem = HitTest(client);
+    const auto* const pRecord = hItem ? reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
+    return CStubRef<IAtomContainer>::From(pRecord ? pRecord->pAtom.Get() : nullptr);
+}
+
+int CEditorTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CObjectsTree::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    SetMemberOrder(MOF_NATURAL);
+    GetDropTarget().Revoke();
+    return m_target.Register(this) ? 0 : -1;
+}
+
+BOOL CEditorTree::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    const FocusKeeper keeper(m_hWnd);
+    const HTREEITEM hItem = pAtom || !pContainer ? nullptr : GetItem(pContainer);
+    const bool bShown = hItem && AreMembersShown(hItem);
+    if (bShown && dynamic_cast<CFolder*>(pContainer)) {
+        UpdateMembers(hItem, pContainer);
+        return TRUE;
+    }
+    CObjectsTree::OnDeleteAtom(pAtom, pContainer);
+    if (bShown)
+        ShowMembers(pContainer); // lines of a phase, which may have changed places
+    return TRUE;
+}
+
+// Those that are still there keep what is expanded below them.
+void CEditorTree::UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer)
+{
+    std::set<IAtom*> known;
+    std::vector<CStubRef<IAtom>> gone;
+    for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild)) {
+        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hChild));
+        IAtom* const pAtom = pRecord ? pRecord->pAtom.Get() : nullptr;
+        known.insert(pAtom);
+        if (pAtom && !pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0))
+            gone.push_back(CStubRef<IAtom>::Share(pAtom));
+    }
+    for (const auto& pAtom : gone)
+        CObjectsTree::OnDeleteAtom(pAtom.Get(), pContainer);
+    for (UINT i = 0, nCount = pContainer->GetCount(); i < nCount; ++i) {
+        CStubRef<IAtom> pAtom;
+        void* pMember = nullptr;
+        pContainer->GetAtoms(i, 1, &pMember, IID_IAtom);
+        pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(pMember));
+        if (pAtom && !known.contains(pAtom.Get()))
+            CObjectsTree::OnCreateAtom(pAtom.Get(), pContainer);
+    }
+}
+
+BOOL CEditorTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
+{
+    return RefreshItem(pAtom);
+}
+
+BOOL CEditorTree::OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer)
+{
+    const FocusKeeper keeper(m_hWnd);
+    ShowItemOf(CMember::Of(pAtom));
+    return CObjectsTree::OnAtomEntered(pAtom, pContainer);
+}
+
+BOOL CEditorTree::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (!CObjectsTree::PreCreateWindow(cs))
+        return FALSE;
+    cs.dwExStyle &= ~WS_EX_CLIENTEDGE;
+    return TRUE;
+}
+
+LRESULT CEditorTree::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
+        m_pressed();
+    const LRESULT nResult = CObjectsTree::WindowProc(message, wParam, lParam);
+    m_nameField.After(message, wParam, lParam);
+    return nResult;
+}
+
+void CEditorTree::OnGetDispInfo(TVDISPINFO* pInfo)
+{
+    TVITEM& item = pInfo->item;
+    const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(item.lParam);
+    if (!(item.mask & TVIF_CHILDREN) || !pRecord || AreMembersShown(item.hItem))
+        return;
+    if (auto* const pContainer = dynamic_cast<CContainer*>(pRecord->pAtom.Get()))
+        item.cChildren = pContainer->HoldsAny() ? 1 : 0;
+}
+
+void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
+{
+    *pResult = 0;
+    const HTREEITEM hItem = pChange->itemNew.hItem;
+    if (pChange->action != TVE_EXPAND || AreMembersShown(hItem))
+        return;
+    if (GetCount() >= m_nMostItems) {
+        *pResult = TRUE;
+        return;
+    }
+    const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
+    const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
+    ShowMembers(pAtom.Get());
+    Invalidate(); // without members the button goes
+}
+
+void CEditorTree::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
+{
+    const UINT nMost = nChar == VK_MULTIPLY ? GetCount() + kMostAtOnce : ~0u;
+    const UINT nFormer = std::exchange(m_nMostItems, nMost);
+    CObjectsTree::OnKeyDown(nChar, nRepCnt, nFlags);
+    m_nMostItems = nFormer;
+}
+
+// From the top down as far as need be.
+void CEditorTree::ShowItemOf(CMember* pMember)
+{
+    if (!pMember || !pMember->Container() || GetItem(pMember))
+        return;
+    CContainer* const pContainer = pMember->Container();
+    ShowItemOf(pContainer);
+    if (!AreMembersShown(GetItem(pContainer)))
+        ShowMembers(pContainer);
+}
+
+} // namespace editor

@@ -1,0 +1,27 @@
+// The class "CArchiveImp": an archive over whatever stream it is given.
+#pragma once
+
+#include "HostKit/base/Counted.h"
+#include "Views/host/IArchive.h"
+
+namespace hostkit
+{
+
+// What its bytes mean is the atom editor's affair. Without a stream it has no bytes and GetData gives NULL.
+class HOSTKIT_API CArchive final : public With<Counted, IArchive>
+{
+public:
+    void GetInterface(DWORD id, void** out) override; // also the stream's IFileStream
+
+    void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
+
+    void Seek(DWORD dwOffset, DWORD dwOrigin) override;
+    DWORD GetLength() override { return m_pStream ? m_pStream->GetLength() : 0; }
+    void SetEnd() override;
+    void* GetData() override { return m_pStream ? m_pStream->GetData() : nullptr; }
+
+private:
+    CStubRef<IByteStream> m_pStream;
+};
+
+} // namespace hostkit

@@ -1,0 +1,55 @@
+#include "HostKit/frame/CommandKey.h"
+
+#include "Toolkit/message/Messages.h"
+
+namespace hostkit
+{
+
+bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt) const
+{
+    if (key == 0 || key != vkey || bAlt != (with == With::Alt))
+        return false;
+    switch (with) {
+    case With::Nothing:
+    case With::Alt:
+        return !bControl && !bShift;
+    case With::Control:
+        return bControl && !bShift;
+    case With::ControlShift:
+        return bControl && bShift;
+    case With::Whatever:
+        return true;
+    case With::Views:
+        return false;
+    }
+    return false;
+}
+
+std::string CommandKey::Text() const
+{
+    const bool bLetter = (vkey >= 'A' && vkey <= 'Z') || (vkey >= '0' && vkey <= '9');
+    const std::string held = with == With::ControlShift                                  ? "Ctrl+Shift+"
+                             : with == With::Alt                                         ? "Alt+"
+                             : with == With::Control || (bLetter && with == With::Views) ? "Ctrl+"
+                                                                                         : "";
+    switch (vkey) {
+    case 0:
+        return {};
+    case VK_RETURN:
+        return held + "Enter";
+    case VK_DELETE:
+        return held + "Del";
+    case VK_TAB:
+        return held + "Tab";
+    case VK_LEFT:
+        return held + "Left";
+    case VK_RIGHT:
+        return held + "Right";
+    case VK_UP:
+        return held + "Up";
+    default:
+        return held + (bLetter ? std::string(1, static_cast<char>(vkey)) : "F" + std::to_string(vkey - VK_F1 + 1));
+    }
+}
+
+} // namespace hostkit

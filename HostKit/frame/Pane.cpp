@@ -1,0 +1,161 @@
+#include "HostKit/frame/Pane.h"
+
+#include "HostKit/pictures/Look.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <utility>
+
+namespace hostkit
+{
+
+BEGIN_MESSAGE_MAP(CPane, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+BOOL CPane::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0);
+}
+
+void CPane::ShowView(HWND hView, std::string caption, toolkit::Surface icon)
+{
+    m_hView = hView;
+    m_caption = std::move(caption);
+    m_icon = std::move(icon);
+    PlaceView();
+    ::ShowWindow(hView, SW_SHOW);
+    ShowWindow(SW_SHOW);
+    Invalidate();
+}
+
+void CPane::HideView()
+{
+    ::ShowWindow(std::exchange(m_hView, nullptr), SW_HIDE);
+    ShowWindow(SW_HIDE);
+}
+
+void CPane::SetChoices(std::vector<toolkit::Surface> icons, std::function<void(int)> choose)
+{
+    m_choices = std::move(icons);
+    m_choose = std::move(choose);
+    Invalidate();
+}
+
+void CPane::SetChosen(int nChoice)
+{
+    m_nChosen = nChoice;
+    Invalidate();
+}
+
+CRect CPane::ChoiceRect(int nChoice) const
+{
+    constexpr int kExtent = 3 * kSpace;
+    CRect client;
+    GetClientRect(&client);
+    const int left = client.right - kSpace - (static_cast<int>(m_choices.size()) - nChoice) * kExtent;
+    const int top = (kPaneCaptionHeight - kExtent) / 2;
+    return {left, top, left + kExtent, top + kExtent};
+}
+
+void CPane::SetField(CWnd* pField, CSize margin)
+{
+    m_pField = pField;
+    m_fieldMargin = margin;
+    PlaceView();
+}
+
+void CPane::ShowField(bool bShow)
+{
+    m_pField->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+    Invalidate();
+}
+
+CRect CPane::FieldRect() const
+{
+    constexpr int kMost = 208, kTitle = 112; // pixels wide
+    constexpr int kFieldHeight = kPaneCaptionHeight - kSpace / 2;
+    CRect client;
+    GetClientRect(&client);
+    const int right = (m_choices.empty() ? client.right : ChoiceRect(0).left) - kSpace;
+    const int top = (kPaneCaptionHeight - kFieldHeight) / 2;
+    return {std::max(kTitle, right - kMost), top, right, top + kFieldHeight};
+}
+
+BOOL CPane::OnEraseBkgnd(HDC hdc)
+{
+    CRect client;
+    GetClientRect(&client);
+    FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
+    FillSolidRect(hdc, {client.left, kPaneCaptionHeight - 1, client.right, kPaneCaptionHeight}, LineColor());
+    return TRUE;
+}
+
+void CPane::OnPaint()
+{
+    const CPaintDC dc(this);
+    CRect caption;
+    GetClientRect(&caption);
+    caption.bottom = kPaneCaptionHeight;
+    CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Width(), caption.bottom);
+    DrawCentred(dc, icon, m_icon);
+    caption.left = icon.right + kSpace;
+    caption.right = (m_choices.empty() ? caption.right : ChoiceRect(0).left) - kSpace;
+    if (m_pField && m_pField->IsWindowVisible()) {
+        caption.right = FieldRect().left - kSpace;
+        CRect inner = FieldRect();
+        FillSolidRect(dc, inner, LineColor());
+        inner.DeflateRect(1, 1);
+        FillSolidRect(dc, inner, GetSysColor(COLOR_WINDOW));
+    }
+    DrawTextLine(dc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
+    DrawChoices(dc);
+}
+
+void CPane::DrawChoices(HDC hdc) const
+{
+    for (int i = 0; i < static_cast<int>(m_choices.size()); ++i) {
+        const CRect rect = ChoiceRect(i);
+        if (i == m_nChosen)
+            FillSolidRect(hdc, rect, PressedColor());
+        DrawCentred(hdc, rect, m_choices[static_cast<std::size_t>(i)]);
+    }
+}
+
+void CPane::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    PlaceView();
+}
+
+void CPane::OnSetFocus(CWnd* pOldWnd)
+{
+    CWnd::OnSetFocus(pOldWnd);
+    ::SetFocus(m_hView);
+}
+
+void CPane::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    CWnd::OnLButtonDown(nFlags, point);
+    for (int i = 0; i < static_cast<int>(m_choices.size()); ++i)
+        if (i != m_nChosen && ChoiceRect(i).PtInRect(point))
+            return m_choose(i);
+}
+
+void CPane::PlaceView()
+{
+    CRect client;
+    GetClientRect(&client);
+    if (m_pField) {
+        CRect text = FieldRect();
+        text.DeflateRect(m_fieldMargin.cx, m_fieldMargin.cy);
+        m_pField->MoveWindow(text);
+    }
+    const int top = kPaneCaptionHeight + m_nMargin;
+    ::MoveWindow(m_hView, m_nMargin, top, std::max(0, client.Width() - m_nMargin), std::max(0, client.Height() - top));
+}
+
+} // namespace hostkit

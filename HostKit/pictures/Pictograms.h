@@ -1,0 +1,37 @@
+// Pictures for hosts that have no own, drawn at any size from 16 pixels up. Each has a transparent ground.
+#pragma once
+
+#include "HostKit/base/Api.h"
+#include "Toolkit/graphics/Surface.h"
+
+namespace hostkit
+{
+
+enum class Pictogram
+{
+    Folder,
+    Phase,         // a strip of film
+    BrokenPicture, // a picture that cannot be read
+    Placeholder,   // a picture that is not read yet
+    TreePane,
+    IconPane,
+    ThumbnailPane,
+    Up, // arrows
+    Back,
+    Forward,
+    PathArrow, // between the parts of a path
+    Undo,
+    Redo,
+    Cut,
+    Copy,
+    Paste,
+    Delete,
+    Find,
+};
+
+HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);
+
+// The same, drawn once for each size and kept for the life of the process. User-interface thread only.
+HOSTKIT_API const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
+
+} // namespace hostkit
