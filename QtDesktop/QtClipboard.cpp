@@ -2,6 +2,8 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMimeData>
+#include <memory>
 #include <utility>
 
 namespace qtdesktop
@@ -32,6 +34,14 @@ public:
     }
 };
 
+// Read by itself by whoever knows its kind. Bytes of a kind that programs have agreed upon may lead to something that
+// ends with this program, as the path of a transfer file does.
+bool OutlivesProgram(const QString& kind)
+{
+    return kind.startsWith(QLatin1String("text/")) || kind.startsWith(QLatin1String("image/")) ||
+           kind.startsWith(QLatin1String("x-special/"));
+}
+
 } // namespace
 
 QtClipboard::QtClipboard()
@@ -42,8 +52,21 @@ QtClipboard::QtClipboard()
 QtClipboard::~QtClipboard()
 {
     if (m_mime && QGuiApplication::clipboard()->mimeData() == m_mime)
-        QGuiApplication::clipboard()->clear();
+        LeaveBehind();
     LosePublished();
+}
+
+// A clipboard manager, where there is one, is given it by Qt when the application ends, and keeps it.
+void QtClipboard::LeaveBehind()
+{
+    auto pLeft = std::make_unique<QMimeData>();
+    for (const QString& kind : m_mime->formats())
+        if (OutlivesProgram(kind))
+            pLeft->setData(kind, m_mime->data(kind));
+    if (pLeft->formats().empty())
+        QGuiApplication::clipboard()->clear();
+    else
+        QGuiApplication::clipboard()->setMimeData(pLeft.release());
 }
 
 // Qt does not say that a window system has refused; who has the clipboard then, it asks anew each time.

@@ -9,7 +9,8 @@
 namespace qtdesktop
 {
 
-// What is published is lost when another program takes the clipboard, and when this object goes.
+// What is published is lost when another program takes the clipboard, and when this object goes; what everybody can
+// read of it (text, pictures, the paths of files) stays on the clipboard then, where the desktop keeps it.
 class QtClipboard : public QObject
 {
 public:
@@ -22,6 +23,7 @@ public:
 private:
     void OnChanged();
     void LosePublished();
+    void LeaveBehind();
 
     std::shared_ptr<toolkit::OfferedData> m_published;
     QPointer<OfferedMime> m_mime; // owned by the clipboard
