@@ -43,8 +43,10 @@ struct EditorApp::Parts
         const LongWork::Command command(&atomEditor.GetWork(), "Reading", Progress::Unit::Found);
         CStubRef<CLibrary> pLibrary =
             CLibrary::Open(path, reader.Extensions(), pPictures, error, pWatch.get(), &atomEditor.GetWork());
-        if (pLibrary)
-            pLibrary->SetHistory(&atomEditor.GetHistory());
+        if (!pLibrary)
+            return pLibrary;
+        pLibrary->SetHistory(&atomEditor.GetHistory());
+        atomEditor.GetHistory().SetMarks(options.markFolder, pLibrary->Path());
         return pLibrary;
     }
 

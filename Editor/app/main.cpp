@@ -12,12 +12,15 @@
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
 #include "Editor/disk/FileText.h"
+#include "Editor/disk/Underway.h"
+#include "Editor/disk/UserPlaces.h"
 #include "Editor/script/Script.h"
 #include "Editor/script/ScriptFile.h"
 #include "Editor/services/LeftTransfers.h"
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/message/Input.h"
+#include "Toolkit/message/TaskInbox.h"
 
 #include <QApplication>
 #include <QFile>
@@ -61,6 +64,25 @@ std::string OpenWindow(const std::string& path)
     return QProcess::startDetached(program, {"--", QFile::decodeName(path.c_str())}) ? "" : "no program can be started";
 }
 
+std::string MarkFolder()
+{
+    const std::string home = editor::StateHome();
+    return home.empty() ? home : home + "/views";
+}
+
+// What was under way when the program, or the machine, was stopped.
+void TellInterrupted()
+{
+    std::string text;
+    for (const std::string& line : editor::TakeInterrupted(MarkFolder()))
+        text += line + '\n';
+    if (!text.empty())
+        AfxMessageBox(("The program was stopped in the middle of this:\n" + text +
+                       "What was done by then is there, and no object is half. What was removed is in the trash.")
+                          .c_str(),
+                      MB_OK | MB_ICONINFORMATION);
+}
+
 int Show(QApplication& application, const editor::CommandLine& line, const editor::EndSignals& ending)
 {
     QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
@@ -69,11 +91,13 @@ int Show(QApplication& application, const editor::CommandLine& line, const edito
     editor::EditorApp editor(Reader(), {.size = line.size,
                                         .isSizeNamed = line.isSizeNamed,
                                         .settingsPath = line.isForgetful ? "" : editor::SettingsPath(),
+                                        .markFolder = MarkFolder(),
                                         .openWindow = OpenWindow,
                                         .onClosed = [&] { application.quit(); },
                                         .isFollowing = true});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
+    toolkit::PostTask(TellInterrupted);
     // As if the user closed the window, who may be asked. A second signal ends the program without a question, and so
     // does one while a question is open.
     QObject::connect(&asked, &QSocketNotifier::activated, &application, [&] {
@@ -107,7 +131,8 @@ int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
     if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
         return Refuse(reason);
     UnattendedDesktop desktop;
-    editor::EditorApp editor(Reader(), {.size = line.size, .isSizeNamed = true, .onClosed = {}});
+    editor::EditorApp editor(Reader(),
+                             {.size = line.size, .isSizeNamed = true, .markFolder = MarkFolder(), .onClosed = {}});
     if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
         return Refuse(error);
     QCoreApplication::processEvents(); // the window takes its place

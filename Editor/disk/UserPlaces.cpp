@@ -37,4 +37,9 @@ std::string ConfigHome()
     return Place("XDG_CONFIG_HOME", "/.config");
 }
 
+std::string StateHome()
+{
+    return Place("XDG_STATE_HOME", "/.local/state");
+}
+
 } // namespace editor

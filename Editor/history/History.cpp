@@ -86,11 +86,23 @@ std::string History::DoAll(Iterator first, Iterator last, Way make, Way takeBack
     return {};
 }
 
+void History::SetMarks(std::string folder, std::string place)
+{
+    m_markFolder = std::move(folder);
+    m_place = std::move(place);
+}
+
+std::string History::MarkLine(const std::string& what) const
+{
+    return what + " in " + ToShown(m_place);
+}
+
 std::string History::Undo(Changes& changes)
 {
     if (m_nDone == 0)
         return "there is nothing to undo";
     const Done& step = m_steps[m_nDone - 1];
+    const UnderwayMark mark(m_markFolder, MarkLine("taking back the " + step.name));
     std::string reason = DoAll(step.edits.rbegin(), step.edits.rend(), &Edit::Undo, &Edit::Redo);
     for (const auto& pEdit : step.edits)
         pEdit->Tell(changes);
@@ -106,6 +118,7 @@ std::string History::Redo(Changes& changes)
     if (m_nDone == m_steps.size())
         return "there is nothing to do again";
     const Done& step = m_steps[m_nDone];
+    const UnderwayMark mark(m_markFolder, MarkLine("doing again the " + step.name));
     std::string reason = DoAll(step.edits.begin(), step.edits.end(), &Edit::Redo, &Edit::Undo);
     for (const auto& pEdit : step.edits)
         pEdit->Tell(changes);
@@ -228,9 +241,17 @@ void History::Note(Change change) noexcept
 
 void History::Begin(const char* pszVerb) noexcept
 {
-    ++m_nOpen;
+    if (m_nOpen++ == 0)
+        Mark(*pszVerb ? pszVerb : "change");
     if (m_verb.empty())
         m_verb = pszVerb;
+}
+
+void History::Mark(const char* pszVerb) noexcept
+try {
+    m_mark.emplace(m_markFolder, MarkLine(pszVerb));
+} catch (const std::bad_alloc&) {
+    return; // the step is done all the same
 }
 
 void History::End() noexcept
@@ -247,6 +268,7 @@ void History::End() noexcept
         m_nDone = std::min(m_nDone, m_steps.size());
     }
     m_open.clear();
+    m_mark.reset();
     m_nOpen = 0;
     m_verb.clear();
     m_bLost = false;

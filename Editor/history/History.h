@@ -1,12 +1,14 @@
 // What the user has done to the disk, step by step, to be taken back and done again.
 #pragma once
 
+#include "Editor/disk/Underway.h"
 #include "Editor/history/Edit.h"
 #include "Editor/work/LongWork.h"
 
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +30,8 @@ public:
     // `news` is called with one line whenever a step was done, taken back or done again; it may be empty.
     void SetNews(std::function<void(const std::string& line)> news) { m_news = std::move(news); }
 
+    // Each step, while it is done, leaves a mark in that folder (UnderwayMark), which says what is done at `place`.
+    void SetMarks(std::string folder, std::string place);
     void SetWork(LongWork* pWork) { m_pWork = pWork; } // does what takes long; borrowed, NULL: done at once
     // Called at the end of each step for what is still to be done in it. The answer stands behind the step's name in
     // the news; it may be empty.
@@ -87,16 +91,20 @@ private:
 
     void Begin(const char* pszVerb) noexcept;
     void End() noexcept;
+    void Mark(const char* pszVerb) noexcept;
     Removals FindRemovals() const;
     void Keep(Edits edits, const std::string& remark);
     template <class Change>
     void Note(Change change) noexcept;
     void Tell(const std::string& line) const;
+    std::string MarkLine(const std::string& what) const;
 
     template <class Iterator, class Way>
     std::string DoAll(Iterator first, Iterator last, Way make, Way takeBack);
 
     LongWork* m_pWork = nullptr;
+    std::string m_markFolder, m_place;
+    std::optional<UnderwayMark> m_mark; // of the open step
     std::deque<Done> m_steps;
     std::size_t m_nDone = 0; // so many of the first; the others have been taken back
     Edits m_open;

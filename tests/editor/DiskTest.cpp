@@ -1,5 +1,6 @@
 #include "Editor/disk/FileNames.h"
 #include "Editor/disk/TempEntry.h"
+#include "Editor/disk/Underway.h"
 #include "tests/editor/ArchiveFixture.h"
 
 #include <fcntl.h>
@@ -183,6 +184,22 @@ TEST_F(DiskTest, WhatACrashLeftOverGoesWhenTheFolderIsReadButNothingThatMayBeInT
     EXPECT_EQ("a.bmp: permission denied", Remove("Bo", "a.bmp"));
     EXPECT_EQ("[Ada/ a.bmp]", Members("Bo"));
     ASSERT_EQ(0, seteuid(0));
+}
+
+TEST_F(DiskTest, WhatWasUnderWayIsToldOnceItsProgramIsGone)
+{
+    const std::string marks = folder.At("state/marks");
+    if (const pid_t child = fork(); child == 0) {
+        const editor::UnderwayMark mark(marks, "paste in Ada");
+        _exit(0);
+    } else {
+        waitpid(child, nullptr, 0);
+    }
+    {
+        const editor::UnderwayMark own(marks, "cut in Bo");
+        EXPECT_EQ(std::vector<std::string>{"paste in Ada"}, editor::TakeInterrupted(marks));
+    }
+    EXPECT_TRUE(editor::TakeInterrupted(marks).empty());
 }
 
 TEST_F(DiskTest, RenamingMakesAnotherAtomAndRefusesWhatWouldHideOrReplaceAFile)
