@@ -30,7 +30,8 @@ bool DiskFollower::MovesRows(const Found& found)
     const auto isPhase = [](const auto& pMember) { return dynamic_cast<CPhase*>(pMember.Get()) != nullptr; };
     return std::any_of(found.begin(), found.end(), [&](const auto& one) {
         const MemberNews& news = one.news;
-        return news.isOther || !news.renamed.empty() || std::any_of(news.written.begin(), news.written.end(), isPhase);
+        return news.isOther || !news.come.empty() || !news.renamed.empty() ||
+               std::any_of(news.written.begin(), news.written.end(), isPhase);
     });
 }
 

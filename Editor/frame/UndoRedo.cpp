@@ -4,6 +4,7 @@
 #include "Editor/services/MemberBroadcast.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace editor
 {
@@ -19,21 +20,32 @@ bool IsOrIsBelow(std::string_view path, std::string_view top)
 
 std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& present)
 {
-    CLibrary* const pLibrary = m_navigation.Library();
     const std::string shown = m_navigation.Shown()->Path();
     Changes changes;
     const LongWork::Command command(&m_editor.GetWork(), "Putting back", Progress::Unit::Objects);
     std::string reason = (m_editor.GetHistory().*step)(changes);
     m_pictures.Recheck();
-    for (const std::string& path : changes.containers)
-        if (CContainer* const pContainer = pLibrary->FindLive(path))
-            ReadAgainAndTell(m_editor, *pContainer);
+    for (const auto& [path, names] : changes.containers)
+        TellOf(path, names);
     FollowNames(changes, shown);
     KeepUnsaved(changes);
     if (reason.empty())
         GoWhereItIsSeen(changes);
     present = Present(changes);
     return reason;
+}
+
+void UndoRedo::TellOf(const std::string& path, const std::set<std::string>& names)
+{
+    CContainer* const pContainer = m_navigation.Library()->FindLive(path);
+    auto* const pFolder = dynamic_cast<CFolder*>(pContainer);
+    if (pFolder && !names.empty()) {
+        MemberNews news;
+        pFolder->LookFor({path, names, {}, false}, news);
+        editor::TellOf(m_editor, *pFolder, news);
+    } else if (pContainer) {
+        ReadAgainAndTell(m_editor, *pContainer);
+    }
 }
 
 void UndoRedo::FollowNames(const Changes& changes, const std::string& shown)
@@ -55,11 +67,11 @@ void UndoRedo::GoWhereItIsSeen(const Changes& changes)
         return path == shown || (FolderOf(path) == shown && ExtensionOf(path) == "phase");
     };
     const auto isInPath = [&](const std::string& path) { return IsOrIsBelow(shown, path); };
-    const std::set<std::string>& containers = changes.containers;
-    if (containers.empty() || std::any_of(containers.begin(), containers.end(), isSeen) ||
+    const auto& containers = changes.containers;
+    if (containers.empty() || std::ranges::any_of(std::views::keys(containers), isSeen) ||
         std::any_of(changes.present.begin(), changes.present.end(), isInPath))
         return;
-    const std::string& path = changes.present.empty() ? *containers.begin() : FolderOf(changes.present.front());
+    const std::string& path = changes.present.empty() ? containers.begin()->first : FolderOf(changes.present.front());
     if (const CStubRef<CMember> pContainer = m_navigation.Library()->Find(path))
         m_navigation.GoTo(pContainer.Get());
 }

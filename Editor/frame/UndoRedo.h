@@ -26,6 +26,7 @@ public:
 
 private:
     std::string Take(std::string (History::*step)(Changes&), Atoms& present);
+    void TellOf(const std::string& path, const std::set<std::string>& names);
     void FollowNames(const Changes& changes, const std::string& shown);
     void GoWhereItIsSeen(const Changes& changes);
     void KeepUnsaved(const Changes& changes);

@@ -60,7 +60,7 @@ std::string PlacingEdit::Restore()
 
 void PlacingEdit::Tell(Changes& changes) const
 {
-    changes.containers.insert(FolderOf(m_path));
+    changes.containers[FolderOf(m_path)].emplace(BaseName(m_path));
     if (m_bComing == IsMade())
         changes.present.push_back(m_path);
 }
@@ -88,7 +88,7 @@ std::string RenamingEdit::Rename(const std::string& from, const std::string& to)
 void RenamingEdit::Tell(Changes& changes) const
 {
     const std::string former = m_folder + '/' + m_former, now = m_folder + '/' + m_name;
-    changes.containers.insert(m_folder);
+    changes.containers[m_folder].insert({m_former, m_name});
     changes.present.push_back(IsMade() ? now : former);
     changes.otherNames.emplace_back(IsMade() ? former : now, changes.present.back());
 }
@@ -112,7 +112,7 @@ std::string RewritingEdit::Rewrite(const TextState& from, const TextState& to) c
 
 void RewritingEdit::Tell(Changes& changes) const
 {
-    changes.containers.insert(m_path);
+    changes.containers[m_path];
 }
 
 void RewritingEdit::CountIn(StepSummary& summary) const

@@ -5,6 +5,7 @@
 #include "Editor/disk/Trash.h"
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -18,7 +19,8 @@ namespace editor
 // What taking back or making again has changed, for those who show it. Paths are absolute.
 struct Changes
 {
-    std::set<std::string> containers;                            // whose members may have changed
+    // Whose members have changed, and which of a folder's have come or gone; no names: they are not known.
+    std::map<std::string, std::set<std::string>> containers;
     std::vector<std::string> present;                            // what has come, or bears another name now
     std::vector<std::pair<std::string, std::string>> otherNames; // from, to
     struct Unsaved

@@ -22,7 +22,9 @@ struct MemberNews
     };
     std::vector<Renamed> renamed;
     std::vector<CStubRef<CMember>> written; // which somebody knows
-    bool isOther = false;                   // have others come or gone, or is their order another?
+    static constexpr std::size_t kFew = 16;
+    std::vector<CStubRef<CMember>> come; // at most kFew
+    bool isOther = false;                // have others come or gone, or is their order another?
 };
 
 // The members are read when they are first asked for. Adding, renaming and removing them acts on the disk at once. What

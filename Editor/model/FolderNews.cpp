@@ -44,9 +44,11 @@ void CFolder::LookForName(const Directory& directory, const std::string& name, M
     }
     if (bKnown)
         Drop(nKnown);
-    if (kind)
-        Append({name, *kind});
-    news.isOther |= bKnown || kind;
+    const UINT nNow = kind ? Append({name, *kind}) : MemberTable::kNone;
+    if (kind && !bKnown && news.come.size() < MemberNews::kFew)
+        news.come.push_back(MemberAt(nNow));
+    else
+        news.isOther |= bKnown || kind;
 }
 
 // One that was only on its way, such as a program's that saves under another name first, is none.

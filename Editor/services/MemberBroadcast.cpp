@@ -17,6 +17,9 @@ void TellOf(CAtomEditor& editor, CContainer& container, const MemberNews& news)
     }
     if (news.isOther)
         tell(&IAEStateHandler::OnDeleteAtom, nullptr);
+    else
+        for (const auto& pMember : news.come)
+            tell(&IAEStateHandler::OnCreateAtom, pMember.Get());
     for (const auto& pMember : news.written)
         tell(&IAEStateHandler::OnChangeAtom, pMember.Get());
 }
