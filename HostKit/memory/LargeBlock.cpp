@@ -1,5 +1,7 @@
 #include "HostKit/memory/LargeBlock.h"
 
+#include "Toolkit/base/Apart.h"
+
 #include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
@@ -28,6 +30,17 @@ File FileOf(const struct stat& status)
     return {status.st_dev, status.st_ino, status.st_size};
 }
 
+// Another program's transfer file, which it holds as the library holds them (a lock for reading): a program that does
+// so writes to it no more. Nobody but the user can.
+bool IsHeldByItsOwner(int fd, const struct stat& status)
+{
+    struct flock lock = {};
+    lock.l_type = F_WRLCK;
+    lock.l_whence = SEEK_SET;
+    return S_ISREG(status.st_mode) && status.st_uid == geteuid() && (status.st_mode & 07777) == 0600 &&
+           status.st_nlink == 1 && fcntl(fd, F_OFD_GETLK, &lock) == 0 && lock.l_type == F_RDLCK;
+}
+
 int NamelessFile()
 {
     const char* const pszTemp = std::getenv("TEMP");
@@ -45,8 +58,12 @@ LargeBlock::~LargeBlock()
 void LargeBlock::Drop()
 {
     if (m_pBytes)
-        munmap(m_pBytes, m_nCapacity);
-    if (m_fd >= 0)
+        toolkit::RunApart([p = m_pBytes, bytes = m_nCapacity, fd = m_fd] {
+            munmap(p, bytes);
+            if (fd >= 0)
+                close(fd);
+        });
+    else if (m_fd >= 0)
         close(m_fd);
     m_pBytes = nullptr;
     m_nCapacity = m_nGiven = 0;
@@ -113,14 +130,16 @@ std::size_t LargeBlock::TakeFile(const char* pszPath)
 {
     struct stat status;
     const int fd = open(pszPath, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
-    const bool bMade = fd >= 0 && fstat(fd, &status) == 0 && s_made.contains(FileOf(status));
-    if (bMade) {
+    const bool bTaken = fd >= 0 && fstat(fd, &status) == 0 &&
+                        (s_made.contains(FileOf(status)) ||
+                         (status.st_size >= static_cast<off_t>(kStep) && IsHeldByItsOwner(fd, status)));
+    if (bTaken) {
         Drop();
         Map(fd, static_cast<std::size_t>(status.st_size), MAP_PRIVATE);
     }
     if (fd >= 0)
         close(fd);
-    return bMade && m_pBytes ? m_nCapacity : 0;
+    return bTaken && m_pBytes ? m_nCapacity : 0;
 }
 
 } // namespace hostkit

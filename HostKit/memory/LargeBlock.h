@@ -25,7 +25,8 @@ public:
     // Its first bytes become a file of that name. They are only read from now on, until the block is to be larger or
     // empty: then it is another one, with the same bytes.
     bool MakeFile(const char* pszPath, std::size_t length);
-    // Such a file of this program's becomes the block; the length, or 0: it is none.
+    // Such a file of this program's, or a large one that another program of the user's holds, becomes the block. The
+    // length; 0: it is none of these.
     std::size_t TakeFile(const char* pszPath);
 
 private:

@@ -1,5 +1,6 @@
 // The kit as hosts use it: objects that travel as bytes, what containers refuse, what a host has ready.
 #include "HostKit/HostKit.h"
+#include "HostKit/memory/LargeBlock.h"
 #include "Toolkit/base/Checksum.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/inside/WhatIsMissing.h"
@@ -7,6 +8,9 @@
 #include "tests/support/DesktopTest.h"
 
 #include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace
 {
@@ -178,6 +182,31 @@ TEST_F(KitTest, AHostHasAllThatViewsAskFor)
     EXPECT_EQ("", views::WhatIsMissing());
     host.GetResources().Leave();
     EXPECT_NE("", views::WhatIsMissing());
+}
+
+TEST(LargeBlockTest, AFileIsTakenAsItIsOnlyWhileItsOwnerHoldsIt)
+{
+    constexpr std::size_t kSize = 20 << 20;
+    char path[] = "/tmp/views-block-XXXXXX";
+    const int fd = mkstemp(path);
+    ASSERT_EQ(0, ftruncate(fd, kSize));
+    ASSERT_EQ(1, pwrite(fd, "x", 1, kSize - 1));
+    hostkit::LargeBlock block;
+    EXPECT_EQ(0u, block.TakeFile(path));
+
+    struct flock lock = {};
+    lock.l_type = F_RDLCK;
+    ASSERT_EQ(0, fcntl(fd, F_OFD_SETLK, &lock));
+    EXPECT_EQ(kSize, block.TakeFile(path));
+    EXPECT_EQ(std::byte{'x'}, block.Get()[kSize - 1]);
+    block.Get()[0] = std::byte{'y'};
+    char first = '\0';
+    EXPECT_EQ(1, pread(fd, &first, 1, 0));
+    EXPECT_EQ('\0', first) << "it stays its owner's";
+    fchmod(fd, 0644);
+    EXPECT_EQ(0u, block.TakeFile(path));
+    close(fd);
+    unlink(path);
 }
 
 TEST(KitNameTest, ABufferThatIsTooSmallIsToldHowLargeItMustBe)

@@ -1,5 +1,7 @@
 #include "Views/clipboard/inside/HeldFiles.h"
 
+#include "Toolkit/base/Apart.h"
+
 #include <fcntl.h>
 #include <map>
 #include <unistd.h>
@@ -43,6 +45,6 @@ void views::LetGoOfFile(HGLOBAL hPath)
     const auto place = Held().find(hPath);
     if (place == Held().end())
         return;
-    close(place->second);
+    toolkit::CloseApart(place->second);
     Held().erase(place);
 }
