@@ -127,6 +127,35 @@ TEST_F(ListControlViewTest, APointHitsExactlyWhatWasPainted)
     }
 }
 
+TEST_F(ListControlViewTest, AMarkStandsInTheGapNearestToThePoint)
+{
+    const auto gapAt = [&](CPoint point) {
+        LVINSERTMARK mark;
+        const int behind = list.InsertMarkHitTest(point, &mark);
+        return std::to_string(behind) + (mark.dwFlags & LVIM_AFTER ? " after " : " before ") + list.NameOf(mark.iItem);
+    };
+    const CRect icon = Part(4, LVIR_ICON);
+    EXPECT_EQ("4 before e", gapAt({icon.left, icon.top}));
+    EXPECT_EQ("5 before f", gapAt({icon.right, icon.top}));
+    EXPECT_EQ("6 after f", gapAt({325, icon.top}));
+    EXPECT_EQ("0 before a", gapAt({-50, -50}));
+    Fill(5);
+    EXPECT_EQ("5 after e", gapAt({300, icon.top}));
+    EXPECT_EQ("5 after e", gapAt({0, 5000}));
+
+    const CPoint gap(110, icon.CenterPoint().y);
+    LVINSERTMARK mark{sizeof mark, 0, 4, 0};
+    const Ledger drawn = Paints([&] { EXPECT_TRUE(list.SetInsertMark(&mark)); });
+    EXPECT_EQ(GetSysColor(COLOR_HIGHLIGHT), ColorAt(gap));
+    EXPECT_EQ(Paints([&] { list.Update(3), list.Update(4); }), drawn) << "the rows beside it, and no others";
+    list.SetItemCount(4);
+    list.SetItemCount(5);
+    desktop.Run();
+    EXPECT_EQ(RGB(255, 255, 255), ColorAt(gap)) << "rows that are new have no mark";
+    mark.iItem = 5;
+    EXPECT_FALSE(list.SetInsertMark(&mark));
+}
+
 TEST_F(ListControlViewTest, OnlyRowsInSightAreAskedFor)
 {
     EXPECT_EQ(Ledger({"hint b-b", "show b"}), Paints([&] { list.Update(1); }));

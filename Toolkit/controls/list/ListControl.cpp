@@ -58,6 +58,9 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {LVM_UPDATE, Table::To<&ListControl::OnUpdate>},
         {LVM_ARRANGE, Table::To<&ListControl::OnArrange>},
         {LVM_SETICONSPACING, Table::To<&ListControl::OnSetIconSpacing>},
+        {LVM_SETINSERTMARK, Table::To<&ListControl::m_insertMark, &InsertMark::OnSet>},
+        {LVM_GETINSERTMARK, Table::To<&ListControl::m_insertMark, &InsertMark::OnGet>},
+        {LVM_INSERTMARKHITTEST, Table::To<&ListControl::m_insertMark, &InsertMark::OnHitTest>},
         {LVM_EDITLABEL, Table::To<&ListControl::OnEditLabel>},
         {LVM_GETEDITCONTROL, Table::To<&ListControl::OnGetEditControl>},
         {LVM_MOVEEDITLABEL, Table::To<&ListControl::OnMoveEditLabel>},
@@ -73,6 +76,7 @@ BOOL ListControl::OnSetItemCount(int count)
     m_selection.SetCount(count);
     m_layout.SetCount(count);
     m_owner.ForgetHint();
+    m_insertMark.Forget();
     m_mouse.RowsAreNew(count);
     RedrawAll();
     Relayout();

@@ -73,7 +73,8 @@ private:
     ListSelection m_selection{m_layout, *this};
     ListViewport m_viewport{*this, m_layout, m_owner, m_mouse};
     ListMouse m_mouse{*this, m_selection, m_layout, m_owner, m_viewport};
-    ListPainter m_painter{*this, Rows(), m_layout, m_owner, m_mouse};
+    InsertMark m_insertMark{*this, m_layout};
+    ListPainter m_painter{*this, Rows(), m_layout, m_owner, m_mouse, m_insertMark};
     bool m_bTypeAhead = false;
     TypeAhead m_typeAhead;
     std::optional<CSize> m_spacing; // as set; else it follows from the pictures

@@ -33,3 +33,11 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
         *pFlags = info.flags;
     return info.iItem;
 }
+
+int CListCtrl::InsertMarkHitTest(CPoint pt, LVINSERTMARK* pMark) const
+{
+    *pMark = {sizeof *pMark, 0, -1, 0};
+    if (!Ask<BOOL>(LVM_INSERTMARKHITTEST, &pt, pMark))
+        return 0;
+    return pMark->iItem + (pMark->dwFlags & LVIM_AFTER ? 1 : 0);
+}

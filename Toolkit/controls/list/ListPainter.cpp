@@ -17,6 +17,7 @@ void ListPainter::OnPaint() const
 {
     const CPaintDC paint(m_control.m_hWnd);
     DrawRows(paint, paint.GetPaintRect());
+    m_insertMark.Draw(paint);
     if (const std::optional<CRect> band = m_mouse.BandRect())
         DrawBand(paint, *band);
 }

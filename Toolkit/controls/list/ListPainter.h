@@ -1,6 +1,7 @@
 // How the list control draws: only the cells that touch what is to be painted.
 #pragma once
 
+#include "Toolkit/controls/list/InsertMark.h"
 #include "Toolkit/controls/list/ListMouse.h"
 
 namespace toolkit
@@ -10,8 +11,8 @@ class ListPainter
 {
 public:
     ListPainter(ItemControl& control, const RowStates& rows, const ListLayout& layout, ListOwner& owner,
-                const ListMouse& mouse)
-        : m_control(control), m_rows(rows), m_layout(layout), m_owner(owner), m_mouse(mouse)
+                const ListMouse& mouse, const InsertMark& insertMark)
+        : m_control(control), m_rows(rows), m_layout(layout), m_owner(owner), m_mouse(mouse), m_insertMark(insertMark)
     {}
 
     void OnPaint() const;
@@ -28,6 +29,7 @@ private:
     const ListLayout& m_layout;
     ListOwner& m_owner;
     const ListMouse& m_mouse;
+    const InsertMark& m_insertMark;
 };
 
 } // namespace toolkit

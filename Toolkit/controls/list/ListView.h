@@ -36,6 +36,11 @@ inline constexpr UINT LVM_SETITEMCOUNT = LVM_FIRST + 47; // wParam: count, lPara
 inline constexpr UINT LVM_SORTITEMS = LVM_FIRST + 48;    // an owner-data control has nothing to sort: FALSE
 inline constexpr UINT LVM_GETSELECTEDCOUNT = LVM_FIRST + 50;
 inline constexpr UINT LVM_SETICONSPACING = LVM_FIRST + 53; // lParam: cell width and height; the former ones
+// A mark between rows, for what would be put there. It goes when the number of rows is set.
+inline constexpr UINT LVM_SETINSERTMARK = LVM_FIRST + 166; // lParam: LVINSERTMARK*; FALSE without such a row
+inline constexpr UINT LVM_GETINSERTMARK = LVM_FIRST + 167; // lParam: LVINSERTMARK*
+// wParam: POINT*, client; lParam: LVINSERTMARK*, which becomes the place nearest to it. FALSE where there are no rows.
+inline constexpr UINT LVM_INSERTMARKHITTEST = LVM_FIRST + 168;
 
 // The toolkit's own: the row whose label is being edited is now row wParam, or gone (-1), which ends the editing like
 // Escape. An owner that moves rows while LVM_GETEDITCONTROL answers says so: the control knows rows by number only.
@@ -86,6 +91,16 @@ struct LVHITTESTINFO
     POINT pt; // client
     UINT flags;
     int iItem;
+};
+
+inline constexpr DWORD LVIM_AFTER = 0x00000001;
+
+struct LVINSERTMARK
+{
+    UINT cbSize;
+    DWORD dwFlags; // LVIM_AFTER: behind the row; else before it
+    int iItem;     // -1: there is no mark
+    DWORD dwReserved;
 };
 
 // Notifications. An ITEMCHANGING answered with non-zero is refused. Row -1 stands for all rows.
