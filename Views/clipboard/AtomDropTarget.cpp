@@ -70,7 +70,12 @@ BOOL CAtomDropTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT
         return FALSE;
     const auto pArchive = m_pAtoms->TakeFrom(pDataObject, m_cfAtoms);
     const auto container = pArchive ? ContainerAt(PlaceAt(point)) : std::nullopt;
-    return container && PasteObjects(pArchive.Get(), container->Get(), dropEffect == DROPEFFECT_MOVE);
+    return container && Paste(pArchive.Get(), container->Get(), dropEffect, point);
+}
+
+BOOL CAtomDropTarget::Paste(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect, CPoint)
+{
+    return PasteObjects(pArchive, pContainer, effect == DROPEFFECT_MOVE);
 }
 
 void CAtomDropTarget::OnDragLeave(CWnd*)

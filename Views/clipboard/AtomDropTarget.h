@@ -51,6 +51,8 @@ protected:
     virtual void MarkPlace(INT_PTR nPlace, bool bMarked) = 0;
     // The container that a drop there is meant for, empty where none is. Nothing: no drop.
     virtual std::optional<CStubRef<IAtomContainer>> ContainerAt(INT_PTR nPlace) const = 0;
+    // What a drop at that point does: PasteObjects. FALSE: not all was taken.
+    virtual BOOL Paste(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect, CPoint point);
 
     INT_PTR m_nPlace = -1; // where the drag was at its previous movement; -1: at none
 

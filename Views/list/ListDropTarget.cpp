@@ -11,7 +11,7 @@ BOOL CListDropTarget::Register(CObjectsList* pList)
 
 INT_PTR CListDropTarget::PlaceAt(CPoint point) const
 {
-    return m_pList->HitTest(point);
+    return TakesBetweenRows() ? -1 : m_pList->HitTest(point);
 }
 
 // Every row when none is known.
@@ -31,8 +31,12 @@ DROPEFFECT CListDropTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, 
     if (!archive || !*archive)
         return DROPEFFECT_NONE;
     const INT_PTR nRow = PlaceAt(point);
-    if (nRow < 0)
-        return OverEmptySpace(archive->Get(), WantedEffect(dwKeyState));
+    if (nRow < 0) {
+        const DROPEFFECT effect = OverEmptySpace(archive->Get(), WantedEffect(dwKeyState));
+        if (TakesBetweenRows())
+            MarkGap(point, effect != DROPEFFECT_NONE);
+        return effect;
+    }
     if (m_nPlace != nRow)
         MarkPlace(m_nPlace, false);
     return OverPlace(nRow, archive->Get(), WantedEffect(dwKeyState));
@@ -47,4 +51,33 @@ DROPEFFECT CListDropTarget::OverEmptySpace(IArchive* pArchive, DROPEFFECT effect
         MarkPlace(m_nPlace, false);
     m_nPlace = -1;
     return *verdict != PASTE_REFUSED ? effect : DROPEFFECT_NONE;
+}
+
+int CListDropTarget::GapAt(CPoint point) const
+{
+    LVINSERTMARK mark;
+    return m_pList->InsertMarkHitTest(point, &mark);
+}
+
+void CListDropTarget::MarkGap(CPoint point, bool bOn)
+{
+    if (!bOn && !m_bGapMarked)
+        return;
+    LVINSERTMARK mark{sizeof mark, 0, -1, 0};
+    if (bOn)
+        m_pList->InsertMarkHitTest(point, &mark);
+    m_bGapMarked = bOn;
+    m_pList->SetInsertMark(&mark);
+}
+
+void CListDropTarget::OnDragLeave(CWnd* pWnd)
+{
+    MarkGap({}, false);
+    CAtomDropTarget::OnDragLeave(pWnd);
+}
+
+BOOL CListDropTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
+{
+    MarkGap({}, false);
+    return CAtomDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point);
 }
