@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
 #include <utility>
 
 namespace editor
@@ -128,13 +129,11 @@ DWORD CPhase::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
 
 std::string CPhase::Add(const ArchiveRecord& record, const std::string& name, bool, Entry& added)
 {
-    std::string trouble, text;
+    std::string trouble;
     added = {LineOf(record, trouble), MemberKind::Link};
     if (added.name.empty())
-        return trouble.empty() ? ToShown(name) + ": only pictures of the same library can be put into a phase"
-                               : trouble;
-    std::string reason = ReadUnchanged(text);
-    return !reason.empty() ? ShownName() + ": " + reason : Save(WithLine(std::move(text), added.name));
+        return trouble.empty() ? ToShown(name) + kNoPictureOfIt : trouble;
+    return SaveChanged([&](std::string text) { return WithLine(std::move(text), added.name); });
 }
 
 std::string CPhase::Rename(const CMember& member, const std::string&, Entry&)
@@ -207,8 +206,39 @@ std::string CPhase::BringBack()
     return bAll ? std::string() : Save(Without(m_formerText, going));
 }
 
-// The line for what a record holds: empty unless it is a picture of this very library that is still there. `trouble`
-// becomes the reason when that cannot be told.
+std::string CPhase::InsertLines(const std::vector<std::string>& lines, UINT nBefore)
+{
+    return SaveChanged([&](std::string text) { return WithLines(std::move(text), lines, nBefore); });
+}
+
+std::string CPhase::MoveLines(const std::vector<std::size_t>& moved, UINT nBefore)
+{
+    return SaveChanged([&](std::string text) { return WithLinesMoved(std::move(text), moved, nBefore); });
+}
+
+template <class Change>
+std::string CPhase::SaveChanged(Change change)
+{
+    std::string text;
+    if (const std::string reason = ReadUnchanged(text); !reason.empty())
+        return ShownName() + ": " + reason;
+    const std::string changed = change(text);
+    return changed == text ? std::string() : Save(changed);
+}
+
+std::string CPhase::LineOfFile(const std::string& path, std::string& trouble) const
+{
+    int error = 0;
+    const bool bPicture = KindOfName(BaseName(path)) == MemberKind::Picture;
+    std::error_code unknown;
+    const std::string folder = std::filesystem::canonical(FolderOf(path), unknown).string(); // as the library's is
+    const std::string real = folder + '/' + std::string(BaseName(path));
+    std::string line = bPicture && !unknown ? LineFor(real, Container()->Path(), Context().rootPath, error) : "";
+    if (line.empty())
+        trouble = ToShown(BaseName(path)) + (error != 0 ? ": " + SystemErrorText(error) : kNoPictureOfIt);
+    return line;
+}
+
 std::string CPhase::LineOf(const ArchiveRecord& record, std::string& trouble) const
 {
     const std::string path = Context().rootPath + '/' + std::string(record.origin);

@@ -20,6 +20,9 @@ namespace editor
 class CPhase : public hostkit::With<CContainer, IPhase>
 {
 public:
+    // Behind the name of what cannot become a frame.
+    static constexpr const char* kNoPictureOfIt = ": only pictures of the same library can be put into a phase";
+
     CPhase(CContainer* pContainer, UINT nIndex) : With(pContainer, nIndex) {}
     ~CPhase() override { KeepTiming(std::nullopt); }
 
@@ -32,6 +35,16 @@ public:
     // Writes a text of a phase over what is in the file, provided that this is what it is thought to be, and nothing
     // that others have written. The members are not read anew.
     bool ReplaceText(const std::string& former, const std::string& text);
+
+    // Frames, from 0, come before that one or, where there is none, behind the last: new ones with these lines, or some
+    // of its own, whose positions are in order. Saved at once, as one change; the members are not read anew. Empty, or
+    // one line with the reason.
+    std::string InsertLines(const std::vector<std::string>& lines, UINT nBefore);
+    std::string MoveLines(const std::vector<std::size_t>& moved, UINT nBefore);
+    // The line for what a record holds: empty unless it is a picture of this very library that is still there.
+    // `trouble` becomes the reason when that cannot be told.
+    std::string LineOf(const ArchiveRecord& record, std::string& trouble) const;
+    std::string LineOfFile(const std::string& path, std::string& trouble) const; // the same for a file's path
 
     int GetPosition(IImageLink* pLink) override; // from 0; -1 for what is no member
 
@@ -61,7 +74,8 @@ protected:
 private:
     PhaseTiming SavedTiming() const;
     void KeepTiming(std::optional<PhaseTiming> timing);
-    std::string LineOf(const ArchiveRecord& record, std::string& trouble) const;
+    template <class Change>
+    std::string SaveChanged(Change change);
     std::string ReadUnchanged(std::string& text);
     std::string Save(const std::string& text);
     struct Going

@@ -44,6 +44,18 @@ std::string Written(std::string line)
     return Trimmed(line) == line ? line : std::string();
 }
 
+std::string_view LineEndOf(std::string_view text)
+{
+    return text.find("\r\n") != text.npos ? "\r\n" : "\n";
+}
+
+std::string Ended(std::string text)
+{
+    if (!text.empty() && !text.ends_with('\n'))
+        text += LineEndOf(text);
+    return text;
+}
+
 } // namespace
 
 bool LeadsNowhere(int error)
@@ -164,10 +176,41 @@ std::string Relocate(std::string& text, const std::string& formerFolder, const s
 
 std::string WithLine(std::string text, std::string_view line)
 {
-    const std::string_view end = text.find("\r\n") != text.npos ? "\r\n" : "\n";
-    if (!text.empty() && !text.ends_with('\n'))
-        text += end;
-    return text.append(line).append(end);
+    const std::string_view end = LineEndOf(text);
+    return Ended(std::move(text)).append(line).append(end);
+}
+
+std::string WithLines(std::string text, const std::vector<std::string>& lines, std::size_t nBefore)
+{
+    const std::string_view end = LineEndOf(text);
+    text = Ended(std::move(text));
+    const std::vector<PictureLine> present = PictureLines(text);
+    std::string added;
+    for (const std::string& line : lines)
+        added.append(line).append(end);
+    return text.insert(nBefore < present.size() ? present[nBefore].at : text.size(), added);
+}
+
+std::string WithLinesMoved(std::string text, const std::vector<std::size_t>& moved, std::size_t nBefore)
+{
+    text = Ended(std::move(text));
+    const std::vector<PictureLine> present = PictureLines(text);
+    const std::size_t place = nBefore < present.size() ? present[nBefore].at : text.size();
+    std::string before, block, behind; // what comes before the lines that are moved, these, and what comes after
+    std::size_t done = 0;
+    const auto copyTo = [&](std::size_t end) {
+        const std::size_t middle = std::clamp(place, done, end);
+        before.append(text, done, middle - done);
+        behind.append(text, middle, end - middle);
+        done = end;
+    };
+    for (const std::size_t nLine : moved) {
+        copyTo(present[nLine].at);
+        block.append(text, present[nLine].at, present[nLine].size);
+        done += present[nLine].size;
+    }
+    copyTo(text.size());
+    return before + block + behind;
 }
 
 } // namespace editor

@@ -60,5 +60,10 @@ std::string Relocate(std::string& text, const std::string& formerFolder, const s
 
 // With the line behind the last one; the text ends as its lines do.
 std::string WithLine(std::string text, std::string_view line);
+// With these lines before that one of its lines, or behind the last one. Lines are those that name pictures, counted
+// from 0; what stands between them stays where it is.
+std::string WithLines(std::string text, const std::vector<std::string>& lines, std::size_t nBefore);
+// With some of its lines, which are in order, all before that one.
+std::string WithLinesMoved(std::string text, const std::vector<std::size_t>& moved, std::size_t nBefore);
 
 } // namespace editor

@@ -16,6 +16,8 @@ public:
 
     History& GetHistory() { return m_history; } // of what is done to the disk
     LongWork& GetWork() { return m_work; }
+    // What a drag of this program carries while it is under way; NULL when there is none.
+    std::shared_ptr<const ActiveMembers> GetDragged() const { return m_pDragged.lock(); }
 
     // Was the last writing refused only for what cannot be carried of a folder? Then it goes on without that while the
     // user's consent to it lives.
@@ -50,6 +52,7 @@ protected:
 private:
     LongWork m_work;
     History m_history;
+    std::weak_ptr<const ActiveMembers> m_pDragged;
     bool m_bCanLeaveOut = false, m_bLeavingOut = false;
 };
 

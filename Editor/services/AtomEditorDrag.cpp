@@ -12,7 +12,14 @@ void CAtomEditor::OfferMore(COleDataSource& source, const ActiveMembers& members
 
 std::shared_ptr<void> CAtomEditor::BeginDrag()
 {
-    return std::make_shared<History::Step>(&m_history);
+    struct Drag
+    {
+        History::Step step;
+        ActiveMembers members;
+    };
+    const auto pDrag = std::shared_ptr<Drag>(new Drag{History::Step(&m_history), GetActiveMembers(*this)});
+    m_pDragged = std::shared_ptr<const ActiveMembers>(pDrag, &pDrag->members);
+    return pDrag;
 }
 
 std::shared_ptr<void> CAtomEditor::BeginRemoval(const ActiveMembers& members)

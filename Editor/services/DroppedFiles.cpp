@@ -5,6 +5,7 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
 #include "Editor/services/FileUris.h"
+#include "Editor/services/FramePlacing.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
@@ -57,6 +58,12 @@ std::string PasteFile(const std::string& path, CFolder& folder)
     return writer.LeftOut().empty() ? std::string() : writer.LeftOut().front();
 }
 
+std::string AppendFiles(CPhase& phase, const std::vector<std::string>& paths)
+{
+    UINT nPlaced = 0;
+    return InsertFiles(phase, paths, phase.GetCount(), nPlaced);
+}
+
 const PictureFormat* FindPictureFormat(COleDataObject& data)
 {
     for (const PictureFormat& one : kPictureFormats)
@@ -101,13 +108,24 @@ private:
 
 bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer)
 {
+    if (!data.IsDataAvailable(UriListFormat()))
+        return false;
+    if (const auto* const pPhase = dynamic_cast<CPhase*>(pContainer))
+        return eaccess(pPhase->Path().c_str(), W_OK) == 0;
     const CFolder* const pFolder = FolderBehind(pContainer);
-    return pFolder && data.IsDataAvailable(UriListFormat()) && eaccess(pFolder->Path().c_str(), W_OK | X_OK) == 0;
+    return pFolder && eaccess(pFolder->Path().c_str(), W_OK | X_OK) == 0;
+}
+
+std::vector<std::string> OfferedPaths(COleDataObject& data)
+{
+    return PathsIn(TakeText(data.GetGlobalData(UriListFormat())));
 }
 
 std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer)
 try {
-    const std::vector<std::string> paths = PathsIn(TakeText(data.GetGlobalData(UriListFormat())));
+    if (auto* const pPhase = dynamic_cast<CPhase*>(pContainer))
+        return AppendFiles(*pPhase, OfferedPaths(data));
+    const std::vector<std::string> paths = OfferedPaths(data);
     CFolder* const pFolder = FolderBehind(pContainer);
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";

@@ -6,15 +6,17 @@
 #include "Views/host/host.h"
 
 #include <string>
+#include <vector>
 
 namespace editor
 {
 
 // Are there files that this container may take? Looks at the kinds of data alone, which costs nothing.
 bool OffersFilesFor(COleDataObject& data, IAtomContainer* pContainer);
+std::vector<std::string> OfferedPaths(COleDataObject& data); // of the files
 // Copies of the files are added to the container, under names that are free, one after the other; of what a file
 // manager has cut the originals then go to the trash. Empty when all were taken; else the reason for the first one that
-// was not.
+// was not. A phase shows files of its library from then on, and takes no others.
 std::string PasteFiles(COleDataObject& data, IAtomContainer* pContainer);
 
 // A picture that is no file, as programs that draw copy it: it becomes one.

@@ -21,6 +21,13 @@ bool HasAtoms(COleDataObject* pData)
     return pData && pEditor && pData->IsDataAvailable(pEditor->GetClipboardFormat());
 }
 
+bool IsForeignDrag()
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto* const pOwn = dynamic_cast<const CAtomEditor*>(pEditor.Get());
+    return pOwn && !pOwn->GetDragged();
+}
+
 // Once the drag is over: nobody waits for an answer in the middle of one.
 void TellLater(const DropFailed& failed, std::string reason)
 {
@@ -96,18 +103,24 @@ void TellIfRefused(HoveredPlace& place, DROPEFFECT effect, bool bControl, IAtomC
 
 DROPEFFECT CEditorListTarget::OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
-    const auto pContainer = m_list.ContainerAt(point);
-    if (!HasAtoms(pDataObject))
-        return pDataObject && OffersFilesFor(*pDataObject, pContainer.Get()) ? DROPEFFECT_COPY : DROPEFFECT_NONE;
+    const auto pContainer = TargetAt(point);
+    if (!HasAtoms(pDataObject)) {
+        const bool bTaken = pDataObject && OffersFilesFor(*pDataObject, pContainer.Get());
+        MarkGap(point, bTaken && TakesBetweenRows());
+        return bTaken ? DROPEFFECT_COPY : DROPEFFECT_NONE;
+    }
     const bool bControl = dwKeyState & MK_CONTROL;
-    const DROPEFFECT effect = m_hovered.EffectAt(m_list.RowAt(point), pContainer, bControl,
+    const DROPEFFECT effect = m_hovered.EffectAt(PlaceAt(point), pContainer, bControl,
                                                  [&] { return FindEffect(pWnd, pDataObject, dwKeyState, point); });
+    MarkGap(point, effect != DROPEFFECT_NONE && TakesBetweenRows());
     TellIfRefused(m_hovered, effect, bControl, pContainer.Get(), m_refused);
     return effect;
 }
 
 DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point)
 {
+    if (TakesBetweenRows())
+        return FindFrameEffect(pWnd, pDataObject, dwKeyState);
     if (m_list.RowAt(point) >= 0)
         return CListDropTarget::OnDragOver(pWnd, pDataObject, dwKeyState, point);
     ForgetPlace();
@@ -115,9 +128,70 @@ DROPEFFECT CEditorListTarget::FindEffect(CWnd* pWnd, COleDataObject* pDataObject
     return effect == DROPEFFECT_MOVE && GetVerdict() != PASTE_ANY ? DROPEFFECT_COPY : effect;
 }
 
+CStubRef<IAtomContainer> CEditorListTarget::TargetAt(CPoint point) const
+{
+    return TakesBetweenRows() ? CStubRef<IAtomContainer>::Share(m_list.ShownContainer()) : m_list.ContainerAt(point);
+}
+
+// Objects of another library may still be files of this one. A phase may show a picture any number of times: what comes
+// is looked at like a copy, whose name may be there already.
+DROPEFFECT CEditorListTarget::FindFrameEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState)
+{
+    if (m_frames.IsReordering(dwKeyState & MK_CONTROL))
+        return DROPEFFECT_MOVE;
+    const auto archive = Offers(pWnd, pDataObject) ? LookAt(pDataObject) : std::nullopt;
+    const auto verdict =
+        archive && *archive ? Check(archive->Get(), m_list.ShownContainer(), DROPEFFECT_COPY) : std::nullopt;
+    const DWORD dwVerdict = verdict.value_or(PASTE_REFUSED);
+    m_bAsFiles = dwVerdict == PASTE_REFUSED && IsForeignDrag() && OffersFilesFor(*pDataObject, m_list.ShownContainer());
+    if (m_bAsFiles)
+        return DROPEFFECT_COPY;
+    return dwVerdict == PASTE_ANY ? WantedEffect(dwKeyState) : dwVerdict;
+}
+
+DROPEFFECT CEditorListTarget::OnDropEx(CWnd*, COleDataObject*, DROPEFFECT dropDefault, DROPEFFECT, CPoint point)
+{
+    if (dropDefault != DROPEFFECT_MOVE || !m_frames.IsReordering(false))
+        return kNotHandled;
+    const int nGap = GapAt(point);
+    MarkGap({}, false);
+    m_hovered.Forget();
+    const DropFailed failed = m_failed;
+    TellLater(failed, m_frames.Reorder(nGap));
+    return DROPEFFECT_COPY;
+}
+
+BOOL CEditorListTarget::Paste(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect, CPoint point)
+{
+    if (!TakesBetweenRows())
+        return CListDropTarget::Paste(pArchive, pContainer, effect, point);
+    const DropFailed failed = m_failed;
+    std::string reason = m_frames.Insert(pArchive, GapAt(point));
+    const BOOL bAll = reason.empty();
+    TellLater(failed, std::move(reason));
+    return bAll;
+}
+
+BOOL CEditorListTarget::DropBetween(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const Dropping dropping(dynamic_cast<CAtomEditor*>(pEditor.Get()));
+    if (HasAtoms(pDataObject) && !std::exchange(m_bAsFiles, false))
+        return CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point); // which calls Paste
+    const int nGap = GapAt(point);
+    MarkGap({}, false);
+    const DropFailed failed = m_failed;
+    std::string reason = pDataObject ? m_frames.InsertFiles(*pDataObject, nGap) : std::string();
+    const BOOL bAll = pDataObject && reason.empty();
+    TellLater(failed, std::move(reason));
+    return bAll;
+}
+
 BOOL CEditorListTarget::OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
     m_hovered.Forget();
+    if (TakesBetweenRows())
+        return DropBetween(pWnd, pDataObject, dropEffect, point);
     return Drop(pDataObject, m_list.ContainerAt(point), m_failed,
                 [&] { return CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point); });
 }

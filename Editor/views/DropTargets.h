@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/services/DroppedFiles.h"
+#include "Editor/views/FrameDrops.h"
 #include "Views/list/ListDropTarget.h"
 #include "Views/tree/TreeDropTarget.h"
 
@@ -50,25 +51,38 @@ private:
 };
 
 // Takes the place of the view's own target, and does what that does with atoms; but see SafeEffect. And nothing stays
-// highlighted where no drop would go: neither when the drag leaves nor, in a list, over empty space.
+// highlighted where no drop would go: neither when the drag leaves nor, in a list, over empty space. In a list that
+// shows a phase what is dropped comes between its frames.
 class CEditorListTarget final : public CListDropTarget
 {
 public:
     CEditorListTarget(CEditorList& list, DropFailed failed, DropRefused refused) // borrowed
-        : m_list(list), m_failed(std::move(failed)), m_refused(std::move(refused))
+        : m_list(list), m_frames(list), m_failed(std::move(failed)), m_refused(std::move(refused))
     {}
 
     DROPEFFECT OnDragOver(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point) override;
     BOOL OnDrop(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point) override;
+    // Frames that change their places within a phase have been moved by the drop, and nobody is to remove them.
+    DROPEFFECT OnDropEx(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropDefault, DROPEFFECT dropList,
+                        CPoint point) override;
     void OnDragLeave(CWnd* pWnd) override;
 
+protected:
+    bool TakesBetweenRows() const override { return m_frames.Phase() != nullptr; }
+    BOOL Paste(IArchive* pArchive, IAtomContainer* pContainer, DROPEFFECT effect, CPoint point) override;
+
 private:
+    CStubRef<IAtomContainer> TargetAt(CPoint point) const;
     DROPEFFECT FindEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState, CPoint point);
+    BOOL DropBetween(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point);
+    DROPEFFECT FindFrameEffect(CWnd* pWnd, COleDataObject* pDataObject, DWORD dwKeyState);
 
     CEditorList& m_list;
+    FrameDrops m_frames;
     const DropFailed m_failed;
     const DropRefused m_refused;
-    HoveredPlace m_hovered; // by atoms
+    HoveredPlace m_hovered;  // by atoms
+    bool m_bAsFiles = false; // not the atoms that are dragged are to be taken, but their files
 };
 
 class CEditorTreeTarget final : public CTreeDropTarget

@@ -45,6 +45,7 @@ public:
     int FindRow(IAtom* pAtom) const;                   // looks at all; -1: none
 
     int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
+    IAtomContainer* ShownContainer() const { return m_events.askShown(); } // borrowed
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
 

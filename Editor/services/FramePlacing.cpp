@@ -1,0 +1,114 @@
+#include "Editor/services/FramePlacing.h"
+
+#include "Editor/archive/ArchivedAtom.h"
+#include "Editor/disk/FileText.h"
+#include "Editor/model/ImageLink.h"
+#include "Editor/services/MemberBroadcast.h"
+#include "Views/host/Services.h"
+
+#include <algorithm>
+
+namespace editor
+{
+namespace
+{
+
+// The frames that are dragged, by their places.
+std::vector<std::size_t> DraggedPlaces(const CAtomEditor& editor)
+{
+    std::vector<std::size_t> places;
+    if (const auto pDragged = editor.GetDragged())
+        for (const ActiveMember& member : *pDragged)
+            if (const auto* const pLink = dynamic_cast<const CImageLink*>(CMember::Of(member.pAtom.Get())))
+                if (pLink->Position() >= 0)
+                    places.push_back(static_cast<std::size_t>(pLink->Position()));
+    std::sort(places.begin(), places.end());
+    return places;
+}
+
+struct Lines
+{
+    const CPhase& phase;
+    std::vector<std::string> lines;
+    std::string failure; // for the first that has none
+};
+
+BOOL NoteLine(IAtom* pAtom, void* pContext)
+{
+    auto& noted = *static_cast<Lines*>(pContext);
+    const CArchivedAtom* const pArchived = CArchivedAtom::Of(pAtom);
+    std::string trouble;
+    if (!pArchived)
+        return FALSE;
+    std::string line = noted.phase.LineOf(pArchived->Record(), trouble);
+    if (!line.empty())
+        noted.lines.push_back(std::move(line));
+    else if (noted.failure.empty())
+        noted.failure = trouble.empty() ? ToShown(pArchived->Record().name) + CPhase::kNoPictureOfIt : trouble;
+    return TRUE;
+}
+
+std::string Insert(CAtomEditor& editor, CPhase& phase, const Lines& noted, UINT nBefore, UINT& nPlaced)
+{
+    nPlaced = 0;
+    if (noted.lines.empty())
+        return noted.failure;
+    const History::Step step(&editor.GetHistory(), "new frames");
+    if (std::string failure = phase.InsertLines(noted.lines, nBefore); !failure.empty())
+        return failure;
+    nPlaced = static_cast<UINT>(noted.lines.size());
+    ReadAgainAndTell(editor, phase);
+    return noted.failure;
+}
+
+} // namespace
+
+bool AreDraggedFrom(const CAtomEditor& editor, const CPhase& phase)
+{
+    const auto pDragged = editor.GetDragged();
+    return pDragged && std::ranges::all_of(
+                           *pDragged, [&](const ActiveMember& member) { return member.pContainer.Get() == &phase; });
+}
+
+UINT CountStaying(const CAtomEditor& editor, UINT nBefore)
+{
+    const std::vector<std::size_t> places = DraggedPlaces(editor);
+    return nBefore - static_cast<UINT>(std::ranges::count_if(places, [=](std::size_t n) { return n < nBefore; }));
+}
+
+std::string MoveDragged(CAtomEditor& editor, CPhase& phase, UINT nBefore)
+{
+    const History::Step step(&editor.GetHistory(), "order of frames");
+    std::string failure = phase.MoveLines(DraggedPlaces(editor), nBefore);
+    if (failure.empty())
+        ReadAgainAndTell(editor, phase);
+    return failure;
+}
+
+std::string InsertArchived(CAtomEditor& editor, CPhase& phase, IArchive* pArchive, UINT nBefore, UINT& nPlaced)
+{
+    Lines noted{phase, {}, {}};
+    nPlaced = 0;
+    if (!editor.ReadArchive(&NoteLine, pArchive, &noted))
+        return editor.GetArchiveError();
+    return Insert(editor, phase, noted, nBefore, nPlaced);
+}
+
+std::string InsertFiles(CPhase& phase, const std::vector<std::string>& paths, UINT nBefore, UINT& nPlaced)
+{
+    Lines noted{phase, {}, {}};
+    for (const std::string& path : paths) {
+        std::string trouble;
+        std::string line = phase.LineOfFile(path, trouble);
+        if (!line.empty())
+            noted.lines.push_back(std::move(line));
+        else if (noted.failure.empty())
+            noted.failure = trouble;
+    }
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
+    nPlaced = 0;
+    return pOwn ? Insert(*pOwn, phase, noted, nBefore, nPlaced) : noted.failure;
+}
+
+} // namespace editor

@@ -1,0 +1,102 @@
+#include "Editor/views/FrameDrops.h"
+
+#include "Editor/model/ImageLink.h"
+#include "Editor/services/DroppedFiles.h"
+#include "Editor/views/EditorList.h"
+#include "Views/host/Services.h"
+
+namespace editor
+{
+namespace
+{
+
+int PositionOf(IAtom* pAtom)
+{
+    const auto* const pLink = dynamic_cast<const CImageLink*>(CMember::Of(pAtom));
+    return pLink ? pLink->Position() : -1;
+}
+
+} // namespace
+
+CPhase* FrameDrops::Phase() const
+{
+    return dynamic_cast<CPhase*>(m_list.ShownContainer());
+}
+
+bool FrameDrops::IsReordering(bool bControl) const
+{
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    const auto* const pOwn = dynamic_cast<const CAtomEditor*>(pEditor.Get());
+    return !bControl && pOwn && Phase() && AreDraggedFrom(*pOwn, *Phase());
+}
+
+UINT FrameDrops::FrameAt(int nRow) const
+{
+    const int nBefore = PositionOf(m_list.GetAtom(nRow).Get());
+    const int nLast = PositionOf(m_list.GetAtom(m_list.GetItemCount() - 1).Get());
+    return nBefore >= 0 ? static_cast<UINT>(nBefore) : nLast >= 0 ? static_cast<UINT>(nLast) + 1 : Phase()->GetCount();
+}
+
+template <class Place>
+std::string FrameDrops::PlaceAndSelect(int nRow, Place place)
+{
+    const auto pPhase = CStubRef<CPhase>::Share(Phase());
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
+    if (!pPhase || !pOwn)
+        return "no phase is shown";
+    UINT nFirst = FrameAt(nRow), nPlaced = 0;
+    std::string failure = place(*pOwn, *pPhase.Get(), nFirst, nPlaced);
+    if (nPlaced > 0 && Phase() == pPhase.Get())
+        Select(*pOwn, *pPhase.Get(), nFirst, nPlaced);
+    return failure;
+}
+
+std::string FrameDrops::Reorder(int nRow)
+{
+    return PlaceAndSelect(nRow, [](CAtomEditor& editor, CPhase& phase, UINT& nFirst, UINT& nPlaced) {
+        const UINT nBefore = nFirst;
+        nFirst = CountStaying(editor, nBefore);
+        const auto pDragged = editor.GetDragged();
+        std::string failure = MoveDragged(editor, phase, nBefore);
+        nPlaced = failure.empty() ? static_cast<UINT>(pDragged->size()) : 0;
+        return failure;
+    });
+}
+
+std::string FrameDrops::Insert(IArchive* pArchive, int nRow)
+{
+    return PlaceAndSelect(nRow, [=](CAtomEditor& editor, CPhase& phase, UINT nFirst, UINT& nPlaced) {
+        return InsertArchived(editor, phase, pArchive, nFirst, nPlaced);
+    });
+}
+
+std::string FrameDrops::InsertFiles(COleDataObject& data, int nRow)
+{
+    return PlaceAndSelect(nRow, [&](CAtomEditor&, CPhase& phase, UINT nFirst, UINT& nPlaced) {
+        return editor::InsertFiles(phase, OfferedPaths(data), nFirst, nPlaced);
+    });
+}
+
+// The views hear of the last alone, however many.
+void FrameDrops::Select(CAtomEditor& editor, CPhase& phase, UINT nFirst, UINT nCount)
+{
+    editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomDeselected, nullptr, &phase, 0);
+    CStubRef<IAtom> pLast;
+    {
+        const CAtomEditor::Silence silence(editor);
+        for (int i = 0; i < m_list.GetItemCount(); ++i) {
+            CStubRef<IAtom> pAtom = m_list.GetAtom(i);
+            const int nPosition = PositionOf(pAtom.Get());
+            if (nPosition < 0 || static_cast<UINT>(nPosition) - nFirst >= nCount) // unsigned: also those before it
+                continue;
+            m_list.SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
+            pLast = std::move(pAtom);
+        }
+    }
+    if (pLast)
+        editor.NotifyHandlers(m_list.Handler(), &IAEStateHandler::OnAtomSelected, pLast.Get(), &phase, 0);
+    m_list.FocusSelection();
+}
+
+} // namespace editor

@@ -1,0 +1,109 @@
+// The frames of a phase in the user's hand: put in order, added and taken out in the list that shows them.
+#include "tests/editor/EditorFixture.h"
+
+namespace
+{
+
+class PhaseFramesTest : public EditorTest
+{
+protected:
+    PhaseFramesTest()
+    {
+        folder.Make("a.bmp b.bmp c.bmp d.bmp e.bmp Ada/x.bmp");
+        folder.Write("Ada/walk.phase", kWalk);
+        Open();
+        DoubleClick("Ada");
+        DoubleClick("walk.phase");
+    }
+
+    // A few pixels beside the middle of a frame: the gap at its left or right.
+    CPoint Before(const char* pszName) { return PlaceOf(pszName) - CPoint(5, 0); }
+    CPoint Behind(const char* pszName) { return PlaceOf(pszName) + CPoint(5, 0); }
+    void DropAt(CPoint at)
+    {
+        desktop.MoveTo(List(), at);
+        desktop.Release(List(), at);
+    }
+    std::string Undo() { return Frame().GetCommands().GetHistory().NameToUndo(); }
+    std::string Walk() { return folder.Read("Ada/walk.phase"); }
+
+    static constexpr const char* kWalk = "#delay 80\na.bmp\nb.bmp\n# the turn\nc.bmp\nd.bmp\ne.bmp\n";
+};
+
+TEST_F(PhaseFramesTest, FramesDraggedBetweenOthersComeThereInTheirOrderInOneStep)
+{
+    EXPECT_EQ("[a.bmp b.bmp c.bmp d.bmp e.bmp]", Rows());
+    Select({"d.bmp", "b.bmp"});
+    Drag(List(), PlaceOf("b.bmp"), [&] { DropAt(Before("a.bmp")); });
+    EXPECT_EQ("[(*b.bmp) (d.bmp) a.bmp c.bmp e.bmp]", Rows());
+    EXPECT_EQ("#delay 80\nb.bmp\nd.bmp\na.bmp\n# the turn\nc.bmp\ne.bmp\n", Walk());
+    Drag(List(), PlaceOf("b.bmp"), [&] { DropAt(Behind("e.bmp")); });
+    EXPECT_EQ("[a.bmp c.bmp e.bmp (*b.bmp) (d.bmp)]", Rows());
+
+    EXPECT_EQ("order of frames in \"walk.phase\"", Undo());
+    Control('Z');
+    Control('Z');
+    EXPECT_EQ(kWalk, Walk());
+    EXPECT_EQ("", Undo());
+    Drag(List(), PlaceOf("c.bmp"), [&] { DropAt(Before("d.bmp")); });
+    EXPECT_EQ(kWalk, Walk());
+    EXPECT_EQ("", Undo()) << "nothing has changed its place";
+    desktop.Hold({.control = true});
+    Drag(List(), PlaceOf("c.bmp"), [&] { DropAt(Before("a.bmp")); });
+    desktop.Hold({});
+    EXPECT_EQ("[(*c.bmp) a.bmp b.bmp c.bmp d.bmp e.bmp]", Rows()) << "with Ctrl it is shown once more";
+    EXPECT_EQ(Ledger(), TakeBoxes());
+}
+
+TEST_F(PhaseFramesTest, TheGapIsMarkedWhileADragIsOverIt)
+{
+    const auto marked = [&] {
+        LVINSERTMARK mark{};
+        SendMessage(List(), LVM_GETINSERTMARK, 0, reinterpret_cast<LPARAM>(&mark));
+        return mark.iItem;
+    };
+    Drag(List(), PlaceOf("e.bmp"), [&] {
+        EXPECT_EQ(-1, marked());
+        desktop.MoveTo(List(), Before("c.bmp"));
+        EXPECT_EQ(2, marked());
+        desktop.MoveTo(Tree().m_hWnd, {5, 5});
+        EXPECT_EQ(-1, marked());
+        desktop.MoveTo(List(), Before("c.bmp"));
+        desktop.Key(VK_ESCAPE);
+    });
+    EXPECT_EQ(-1, marked());
+    EXPECT_EQ(kWalk, Walk());
+}
+
+TEST_F(PhaseFramesTest, PicturesFromElsewhereComeWhereTheyAreDropped)
+{
+    const TempFolder outside;
+    outside.WriteBmp("far.bmp");
+    const auto uri = [](const TempFolder& from, const char* pszName) { return "file://" + from.At(pszName) + "\r\n"; };
+    desktop.DragIn({{"text/uri-list", uri(folder, "Ada/x.bmp")}});
+    DropAt(Before("b.bmp"));
+    EXPECT_EQ("[a.bmp (*x.bmp) b.bmp c.bmp d.bmp e.bmp]", Rows());
+    EXPECT_EQ("new frames in \"walk.phase\"", Undo());
+    desktop.DragIn({{"text/uri-list", uri(folder, "e.bmp") + uri(outside, "far.bmp") + uri(folder, "d.bmp")}});
+    DropAt(Before("a.bmp"));
+    Settle();
+    EXPECT_EQ("[(*e.bmp) (d.bmp) a.bmp x.bmp b.bmp c.bmp d.bmp e.bmp]", Rows());
+    EXPECT_EQ(Ledger({"Not everything was taken: far.bmp: only pictures of the same library can be put into a phase"}),
+              TakeBoxes());
+    Control('Z');
+    Control('Z');
+    EXPECT_EQ(kWalk, Walk());
+}
+
+TEST_F(PhaseFramesTest, FramesThatAreRemovedGoInOneStep)
+{
+    Select({"a.bmp", "c.bmp", "d.bmp"});
+    desktop.Answer(IDYES);
+    desktop.Key(VK_DELETE);
+    EXPECT_EQ("#delay 80\nb.bmp\n# the turn\ne.bmp\n", Walk());
+    EXPECT_EQ(Ledger({"Views: Remove 3 objects from the phase?"}), TakeBoxes());
+    Control('Z');
+    EXPECT_EQ(kWalk, Walk());
+}
+
+} // namespace
