@@ -2,6 +2,7 @@
 
 #include "Editor/disk/FileText.h"
 #include "Editor/model/ImageLink.h"
+#include "Editor/model/Phase.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -109,6 +110,9 @@ std::vector<CStubRef<CMember>> CLibrary::LinksTo(const FolderNews& files) const
         if (path.starts_with(files.folder) && path.rfind('/') == files.folder.size())
             links.push_back(CStubRef<CMember>::Share(pLink));
     }
+    for (const auto& [pPhase, path] : m_context.covers)
+        if (FolderOf(path) == files.folder && (files.isUnknown || files.names.contains(std::string(BaseName(path)))))
+            links.push_back(CStubRef<CMember>::Share(pPhase));
     return links;
 }
 

@@ -23,7 +23,8 @@ public:
     // The container at that path if anybody has asked for it so far; borrowed, else NULL.
     CContainer* FindLive(const std::string& path);
 
-    // The lines of phases that somebody knows and that lead to what was told of, or would if it were there.
+    // The lines of phases that somebody knows and that lead to what was told of, or would if it were there; and the
+    // phases that are seen as that.
     std::vector<CStubRef<CMember>> LinksTo(const FolderNews& files) const;
 
     std::string_view Name() const override { return m_name; }

@@ -6,6 +6,7 @@
 #include "Editor/model/PhaseFollower.h"
 #include "Editor/pictures/PictureStore.h"
 
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -27,8 +28,9 @@ struct LibraryContext
     FolderWatch* pWatch = nullptr; // of the folders that have been read; borrowed. NULL: nobody follows the disk
     LongWork* pWork = nullptr;     // does what takes long; borrowed. NULL: it is done at once
     DWORD nextId = 1;
-    std::vector<const CPhase*> unsaved; // whose timing is set and not saved
-    std::set<CImageLink*> links;        // that somebody holds
+    std::vector<const CPhase*> unsaved;    // whose timing is set and not saved
+    std::set<CImageLink*> links;           // that somebody holds
+    std::map<CPhase*, std::string> covers; // the paths of the pictures that phases are seen as
 };
 
 } // namespace editor

@@ -6,6 +6,8 @@
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/PhaseText.h"
 #include "Editor/pictures/IconPainter.h"
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/Scale.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -14,6 +16,18 @@
 
 namespace editor
 {
+namespace
+{
+
+constexpr int kLeastCover = 32, kWithoutCover = 64; // pixels
+
+} // namespace
+
+CPhase::~CPhase()
+{
+    KeepTiming(std::nullopt);
+    Context().covers.erase(this);
+}
 
 int CPhase::GetPosition(IImageLink* pLink)
 {
@@ -115,9 +129,43 @@ CMember* CPhase::MakeMember(UINT nIndex, MemberKind)
     return new CImageLink(this, nIndex);
 }
 
+std::string CPhase::PathOfFrame(UINT nFrame)
+{
+    const MemberTable& table = Table();
+    return nFrame < table.GetCount() ? FindPicture(table.NameOf(nFrame), Container()->Path(), Context().rootPath).path
+                                     : std::string();
+}
+
+// The path of the first frame. The library knows what phases are seen as.
+std::string CPhase::Cover()
+{
+    std::string path = PathOfFrame(0);
+    Context().covers[this] = path;
+    return path;
+}
+
+// A small icon is to tell a phase from a picture first.
 toolkit::Surface CPhase::DrawIcon(CSize size)
 {
-    return PaintPictogram(hostkit::Pictogram::Phase, size);
+    const std::string path = size.cx >= kLeastCover && size.cy >= kLeastCover ? Cover() : std::string();
+    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, size, this);
+    if (!answer.pPicture)
+        return PaintPictogram(hostkit::Pictogram::Phase, size);
+    return WithMark(PaintPictureIcon(answer, size), hostkit::Pictogram::Phase);
+}
+
+BOOL CPhase::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
+{
+    const std::string path = nFrame == 0 ? Cover() : PathOfFrame(nFrame);
+    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, rect.Size(), this);
+    if (path.empty() || answer.bFailed) {
+        const toolkit::Surface& film = hostkit::GetPictogram(hostkit::Pictogram::Phase, kWithoutCover);
+        return toolkit::DrawSurface(hdc, toolkit::Centred(film.Bounds().Size(), rect), film, film.Bounds());
+    }
+    if (!DrawThumbnail(hdc, rect, answer))
+        return FALSE;
+    DrawMark(hdc, rect, hostkit::Pictogram::Phase);
+    return TRUE;
 }
 
 DWORD CPhase::PermissionsFor(const ArchiveRecord& record, std::string& trouble)

@@ -17,14 +17,16 @@ namespace editor
 // picture stays. Each of these changes is saved at once, the file as a whole; what a link leads to must be called a
 // phase, too. Lines cannot be renamed. The timing alone is kept until it is saved, and the phase is modified so long;
 // whoever changes it keeps the phase alive.
-class CPhase : public hostkit::With<CContainer, IPhase>
+//
+// It is seen as its first frame with a phase's mark, where that can be read.
+class CPhase : public hostkit::With<CContainer, IPhase, IAtomThumbnail>
 {
 public:
     // Behind the name of what cannot become a frame.
     static constexpr const char* kNoPictureOfIt = ": only pictures of the same library can be put into a phase";
 
     CPhase(CContainer* pContainer, UINT nIndex) : With(pContainer, nIndex) {}
-    ~CPhase() override { KeepTiming(std::nullopt); }
+    ~CPhase() override;
 
     std::string_view LineOf(const CMember& link) const { return CContainer::NameOf(link); }
 
@@ -45,6 +47,11 @@ public:
     // `trouble` becomes the reason when that cannot be told.
     std::string LineOf(const ArchiveRecord& record, std::string& trouble) const;
     std::string LineOfFile(const std::string& path, std::string& trouble) const; // the same for a file's path
+
+    // Where the picture of a frame is; empty where there is no such frame, or it lies outside the library.
+    std::string PathOfFrame(UINT nFrame);
+    UINT GetFrameCount() override { return GetCount(); }
+    BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
     int GetPosition(IImageLink* pLink) override; // from 0; -1 for what is no member
 
@@ -72,6 +79,7 @@ protected:
     std::string ValidNameFor(std::string_view name) override { return std::string(name); } // as often as one likes
 
 private:
+    std::string Cover();
     PhaseTiming SavedTiming() const;
     void KeepTiming(std::optional<PhaseTiming> timing);
     template <class Change>

@@ -69,6 +69,13 @@ toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, C
     return icon;
 }
 
+int MarkExtent(const CRect& room)
+{
+    constexpr int kLeast = 16, kMost = 24; // pixels
+    const int extent = std::min(room.Width(), room.Height());
+    return std::min(extent, std::clamp(extent * 2 / 5, kLeast, kMost));
+}
+
 } // namespace
 
 toolkit::Surface PaintPictogram(hostkit::Pictogram which, CSize size)
@@ -91,6 +98,19 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
     if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
         return PaintInTheMiddle(picture, size, size, false);
     return PaintInTheMiddle(picture, size, {size.cx - kShadowReach, size.cy - kShadowReach}, true);
+}
+
+toolkit::Surface WithMark(toolkit::Surface icon, hostkit::Pictogram mark)
+{
+    const toolkit::Surface& picture = hostkit::GetPictogram(mark, MarkExtent(icon.Bounds()));
+    Place(icon, {0, icon.Height() - picture.Height()}, picture);
+    return icon;
+}
+
+void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark)
+{
+    const toolkit::Surface& picture = hostkit::GetPictogram(mark, MarkExtent(rect));
+    toolkit::DrawSurface(hdc, {rect.left, rect.bottom - picture.Height()}, picture, picture.Bounds());
 }
 
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer)

@@ -19,6 +19,10 @@ CSize PictureSizeFor(CSize icon);
 // none yet.
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size);
 
+// A pictogram that tells of what kind the object is, in the lower left corner: of an icon, of a thumbnail.
+toolkit::Surface WithMark(toolkit::Surface icon, hostkit::Pictogram mark);
+void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark);
+
 // The picture in the middle of the rectangle, smaller when it does not fit, or what tells that there is none, or none
 // yet. FALSE, and nothing drawn, without memory.
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer);

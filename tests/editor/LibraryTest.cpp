@@ -83,7 +83,7 @@ TEST_F(LibraryTest, APhaseHoldsItsLinesInOrderAlsoThoseWithoutAPicture)
               "5 x.bmp broken x.bmp: lies outside the library\n",
               state);
     EXPECT_EQ(-1, pOrder->GetPosition(nullptr));
-    EXPECT_EQ("phase", Icon(pPhase.Get()));
+    EXPECT_EQ("405060", Icon(pPhase.Get())) << "its first frame";
 }
 
 TEST_F(LibraryTest, APhaseThatCannotBeReadSaysWhyAndIsEmpty)
