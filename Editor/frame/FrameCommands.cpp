@@ -1,6 +1,7 @@
 #include "Editor/frame/FrameCommands.h"
 
 #include "Editor/disk/Trash.h"
+#include "Editor/model/PlainFile.h"
 #include "Editor/resources/EditorResources.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/menu/MessageBox.h"
@@ -56,7 +57,7 @@ void FrameCommands::DescribeSelection(CommandState& state) const
     if (members.size() != 1)
         return;
     const ActiveMember& one = members.front();
-    if (one.pAtom.Get() == m_parts.navigation.Shown())
+    if (one.pAtom.Get() == m_parts.navigation.Shown() && !dynamic_cast<CPlainFile*>(m_parts.navigation.Shown()))
         state.open = "it is shown already";
     if (!CanRenameObject(one.pAtom.Get(), one.pContainer.Get()))
         state.rename = ShownNameOf(one.pAtom.Get()) + " has to keep its name";
@@ -67,7 +68,7 @@ void FrameCommands::OpenSelected()
     const ActiveMembers members = GetActiveMembers(m_parts.editor);
     CMember* const pMember = members.size() == 1 ? CMember::Of(members.front().pAtom.Get()) : nullptr;
     if (pMember)
-        m_parts.navigation.GoTo(pMember);
+        m_parts.navigation.Open(pMember);
 }
 
 void FrameCommands::RenameSelected()

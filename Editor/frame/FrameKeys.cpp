@@ -1,5 +1,7 @@
 #include "Editor/frame/FrameKeys.h"
 
+#include "Editor/model/PlainFile.h"
+
 namespace editor
 {
 
@@ -37,6 +39,9 @@ bool FrameKeys::HandleContentKey(UINT vkey)
     const bool bPicture = m_parts.content.IsPictureShown();
     if (bPicture && HandlePictureKey(vkey))
         return true;
+    auto* const pFile = dynamic_cast<CPlainFile*>(m_parts.navigation.Shown());
+    if (pFile && vkey == VK_RETURN)
+        return m_parts.navigation.Open(pFile), true;
     if (vkey == VK_BACK || (bPicture && (vkey == VK_ESCAPE || vkey == VK_RETURN)))
         m_parts.navigation.GoUp();
     else if (vkey == VK_ESCAPE && m_parts.filter.IsOn())
@@ -60,7 +65,7 @@ void FrameKeys::OpenFocused()
 {
     const CStubRef<IAtom> pAtom = m_parts.content.GetList().GetAtom(m_parts.content.GetList().GetFocusedRow());
     if (CMember* const pMember = CMember::Of(pAtom.Get()))
-        m_parts.navigation.GoTo(pMember);
+        m_parts.navigation.Open(pMember);
 }
 
 } // namespace editor

@@ -40,7 +40,9 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
     : m_editor(editor),
       m_pictures(pictures),
       m_outside(std::move(outside)),
-      m_navigation(editor, [this] { GetList().FocusSelection(); }),
+      m_navigation(
+          editor, [this] { GetList().FocusSelection(); },
+          [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
       m_modified(editor),
       m_follower(editor, pictures, m_navigation),
       m_menuBar(CommandDesk::MenuTitles(),

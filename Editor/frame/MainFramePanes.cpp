@@ -1,6 +1,7 @@
 // The frame's panes: which are shown, and where.
 #include "Editor/frame/MainFrame.h"
 #include "Editor/frame/StatusText.h"
+#include "Editor/model/PlainFile.h"
 
 namespace editor
 {
@@ -71,7 +72,13 @@ CEditorList::Events CMainFrame::ListEvents()
             [this] { return static_cast<IAtomContainer*>(ShownContainer()); },
             ReportDrop(),
             [this](const std::string& line) { m_statusBar.SetNews(line); },
-            [this] { OnPressed(); }};
+            [this] { OnPressed(); },
+            [this](IAtom* pAtom) {
+                auto* const pFile = dynamic_cast<CPlainFile*>(CMember::Of(pAtom));
+                if (pFile)
+                    m_navigation.Open(pFile);
+                return pFile != nullptr;
+            }};
 }
 
 } // namespace editor

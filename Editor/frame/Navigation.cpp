@@ -1,5 +1,8 @@
 #include "Editor/frame/Navigation.h"
 
+#include "Editor/model/PlainFile.h"
+#include "Toolkit/desktop/Desktop.h"
+
 #include <algorithm>
 
 namespace editor
@@ -57,6 +60,15 @@ void Navigation::GoTo(CMember* pMember)
 {
     const auto pHeld = CStubRef<CMember>::Share(pMember);
     m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomEntered, pMember, pMember->Container(), 0);
+}
+
+void Navigation::Open(CMember* pMember)
+{
+    if (!dynamic_cast<CPlainFile*>(pMember))
+        return GoTo(pMember);
+    const std::string name = pMember->ShownName();
+    const std::string reason = toolkit::CurrentDesktop().OpenOutside(pMember->Path());
+    m_say(reason.empty() ? name + ": opened with its program" : name + ": " + reason);
 }
 
 void Navigation::GoUp()

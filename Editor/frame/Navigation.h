@@ -18,8 +18,9 @@ CMember* WhatIsLeftOf(CMember* pMember);
 class Navigation
 {
 public:
-    // The editor is borrowed. `cameBack` is called when what one came from has been selected.
-    Navigation(CAtomEditor& editor, std::function<void()> cameBack) : m_editor(editor), m_cameBack(std::move(cameBack))
+    // The editor is borrowed. `cameBack` is called when what one came from has been selected; `say` tells a line.
+    Navigation(CAtomEditor& editor, std::function<void()> cameBack, std::function<void(std::string)> say)
+        : m_editor(editor), m_cameBack(std::move(cameBack)), m_say(std::move(say))
     {}
 
     CMember* Shown() const { return m_pShown.Get(); } // a container, or the picture shown in its place; or NULL
@@ -35,7 +36,8 @@ public:
     void SetShown(CMember* pMember);
 
     void ReadAside(CMember* pMember) const; // before views ask for its members; they show what they did meanwhile
-    void GoTo(CMember* pMember);            // opens it, whatever it is
+    void GoTo(CMember* pMember);            // shows it, whatever it is
+    void Open(CMember* pMember);            // the same, but what cannot be shown with its own program
     void GoUp();                            // nothing at the top
     void GoToTop() { GoTo(m_pTop.Get()); }
     void GoToPart(int nPart); // of the path
@@ -49,6 +51,7 @@ private:
 
     CAtomEditor& m_editor;
     const std::function<void()> m_cameBack;
+    const std::function<void(std::string)> m_say;
     CStubRef<CLibrary> m_pTop;
     CStubRef<CMember> m_pShown;
     Trail m_trail;

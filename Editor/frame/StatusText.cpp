@@ -57,7 +57,7 @@ std::string DescribeEmptyList(const CMember* pShown)
     std::string error = pShown->ErrorLine();
     if (!error.empty())
         return error;
-    return dynamic_cast<const CPhase*>(pShown) ? "This phase names no pictures." : "There are no pictures here.";
+    return dynamic_cast<const CPhase*>(pShown) ? "This phase names no pictures." : "This folder is empty.";
 }
 
 } // namespace editor

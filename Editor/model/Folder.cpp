@@ -5,6 +5,7 @@
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
 #include "Editor/model/Picture.h"
+#include "Editor/model/PlainFile.h"
 #include "Editor/pictures/IconPainter.h"
 
 namespace editor
@@ -25,9 +26,7 @@ CContainer::Listing CFolder::Read()
     directory.ForEach([&](const char* pszName, bool isDirectory) {
         if (pMeter)
             pMeter->Did(1);
-        const auto kind = isDirectory ? MemberKind::Folder : KindOfName(pszName);
-        if (kind)
-            listing.table.Add(pszName, *kind);
+        listing.table.Add(pszName, isDirectory ? MemberKind::Folder : KindOfName(pszName));
         return true;
     });
     listing.table.Sort();
@@ -42,9 +41,9 @@ bool CFolder::FindAny()
     Directory directory(Path());
     bool bAny = false;
     if (directory.GetError() == 0 && !IsInside(directory.GetIdentity())) {
-        directory.ForEach([&](const char* pszName, bool isDirectory) {
-            bAny = isDirectory || KindOfName(pszName);
-            return !bAny;
+        directory.ForEach([&](const char*, bool) {
+            bAny = true;
+            return false;
         });
     }
     return bAny;
@@ -57,6 +56,8 @@ CMember* CFolder::MakeMember(UINT nIndex, MemberKind kind)
         return new CFolder(this, nIndex);
     case MemberKind::Phase:
         return new CPhase(this, nIndex);
+    case MemberKind::File:
+        return new CPlainFile(this, nIndex);
     default:
         return new CPicture(this, nIndex);
     }

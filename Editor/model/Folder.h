@@ -10,8 +10,8 @@
 namespace editor
 {
 
-// Its members are the sub-folders, the pictures that the library can read, and the phases; other files and those
-// whose names begin with a dot are not shown. The directory is read once, when the members are first asked for.
+// Its members are the sub-folders, the pictures that the library can read, the phases and all other files, but for
+// those whose names begin with a dot. The directory is read once, when the members are first asked for.
 //
 // What is removed goes to the user's trash (Trash.h). Nothing is ever replaced: what is added or renamed to a name that
 // is there already is refused. A phase that is added keeps leading to the pictures of this library that it led to.

@@ -8,6 +8,8 @@
 #include "Editor/model/PhaseText.h"
 #include "Toolkit/base/Text.h"
 
+#include <algorithm>
+#include <cctype>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -37,6 +39,21 @@ bool HoldsOrIs(const FileIdentity& identity, const std::string& path)
     while (folder.has_relative_path() && !IsFile(folder.string(), identity))
         folder = folder.parent_path();
     return IsFile(folder.string(), identity);
+}
+
+std::string_view EndingOf(std::string_view name)
+{
+    return name.substr(std::min(name.rfind('.'), name.size()));
+}
+
+// Of a folder, too, a name may hold a dot: ".kra" tells what a file is, and neither ".5" nor ". Bell" does.
+bool SaysWhatItIs(std::string_view ending)
+{
+    constexpr std::size_t kLongest = 9; // with its dot
+    const auto isPart = [](char c) { return std::isalnum(static_cast<unsigned char>(c)) != 0; };
+    const auto isLetter = [](char c) { return std::isalpha(static_cast<unsigned char>(c)) != 0; };
+    return ending.size() > 1 && ending.size() <= kLongest && std::ranges::all_of(ending.substr(1), isPart) &&
+           std::ranges::any_of(ending, isLetter);
 }
 
 std::string FormerFolder(const std::string& root, std::string_view origin)
@@ -170,15 +187,16 @@ std::string CFolder::ValidNameFor(std::string_view name)
     if (valid.empty())
         return valid;
     m_taken.Update(Path());
-    const std::size_t dot = KindOfName(valid) ? valid.rfind('.') : valid.size();
-    return m_taken.FreeName(valid, std::string_view(valid).substr(dot));
+    const MemberKind kind = KindOfName(valid);
+    const std::string_view ending = EndingOf(valid);
+    return m_taken.FreeName(valid, kind == MemberKind::File && !SaysWhatItIs(ending) ? std::string_view() : ending);
 }
 
 bool CFolder::CanShow(const ArchiveRecord& record, std::string_view name, MemberKind& kind) const
 {
     const auto shown = record.kind == RecordKind::Folder ? MemberKind::Folder
                        : record.kind == RecordKind::Link ? std::nullopt
-                                                         : KindOfName(name);
+                                                         : std::optional(KindOfName(name));
     kind = shown.value_or(MemberKind::Link);
     return shown && !name.starts_with('.');
 }
@@ -189,8 +207,8 @@ std::string CFolder::TroubleOfNewName(MemberKind former, const std::string& name
         return trouble;
     if (name.starts_with('.'))
         return "a name that begins with a dot would hide it";
-    kind = former;
-    if (former == MemberKind::Folder || KindOfName(name) == former)
+    kind = former == MemberKind::Folder ? former : KindOfName(name);
+    if (kind == former || former == MemberKind::File)
         return {};
     return "under the name \"" + ToShown(name) + "\" it would be no " +
            (former == MemberKind::Phase ? "phase" : "picture") + " any more";

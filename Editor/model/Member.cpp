@@ -89,14 +89,13 @@ LibraryContext& CMember::Context() const
     return static_cast<const CMember*>(m_pContainer.Get())->Context();
 }
 
-std::optional<MemberKind> CMember::KindOfName(std::string_view name) const
+MemberKind CMember::KindOfName(std::string_view name) const
 {
     const std::string extension = ExtensionOf(name);
     const std::vector<std::string>& pictures = Context().pictureExtensions;
     if (extension == "phase")
         return MemberKind::Phase;
-    return std::binary_search(pictures.begin(), pictures.end(), extension) ? std::optional(MemberKind::Picture)
-                                                                           : std::nullopt;
+    return std::binary_search(pictures.begin(), pictures.end(), extension) ? MemberKind::Picture : MemberKind::File;
 }
 
 DWORD CMember::GetID()

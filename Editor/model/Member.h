@@ -6,7 +6,6 @@
 #include "Toolkit/graphics/Surface.h"
 #include "Views/host/host.h"
 
-#include <optional>
 #include <string>
 
 namespace editor
@@ -54,8 +53,7 @@ protected:
     virtual std::string LastErrorLine() const { return ErrorLine(); } // what IMyErrorInfo tells
     virtual toolkit::Surface DrawIcon(CSize size) = 0;
     virtual LibraryContext& Context() const;
-    std::optional<MemberKind>
-    KindOfName(std::string_view name) const; // as what a file of that name is shown, if at all
+    MemberKind KindOfName(std::string_view name) const; // as what a file of that name is shown
     UINT Index() const { return m_nIndex; }
 
 private:

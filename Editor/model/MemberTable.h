@@ -17,6 +17,7 @@ enum class MemberKind : BYTE
     Folder,
     Phase,
     Picture,
+    File, // any other
     Link
 };
 

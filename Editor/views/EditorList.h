@@ -27,7 +27,8 @@ public:
         std::function<IAtomContainer*()> askShown; // what the active list shows, borrowed
         DropFailed dropFailed;
         DropRefused dropRefused;
-        std::function<void()> pressed; // a mouse button, on the list
+        std::function<void()> pressed;                 // a mouse button, on the list
+        std::function<bool(IAtom* pAtom)> openOutside; // before a double click opens it here; true: it is open
     };
 
     virtual ~CEditorList() = default;
@@ -166,6 +167,8 @@ protected:
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
         if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
             GetEvents().pressed();
+        if (message == WM_LBUTTONDBLCLK && GetEvents().openOutside(GetAtom(View::HitTest(CPoint(lParam))).Get()))
+            return 0;
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
         m_nameField.After(message, wParam, lParam);
         if (message == WM_CREATE && nResult != -1) {

@@ -1,6 +1,7 @@
 #include "Editor/views/EditorTree.h"
 
 #include "Editor/model/Folder.h"
+#include "Editor/model/PictureMember.h"
 
 #include <set>
 #include <utility>
@@ -65,7 +66,7 @@ CStubRef<IAtom> CEditorTree::Beside(IAtom* pAtom, int nStep) const
     const HTREEITEM hFrom = GetItem(pAtom);
     for (HTREEITEM hItem = hFrom ? step(hFrom) : nullptr; hItem; hItem = step(hItem)) {
         const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
-        if (pRecord && !CStubRef<IAtomContainer>::From(pRecord->pAtom.Get()))
+        if (pRecord && dynamic_cast<CPictureMember*>(CMember::Of(pRecord->pAtom.Get())))
             return CStubRef<IAtom>::Share(pRecord->pAtom.Get());
     }
     return {};

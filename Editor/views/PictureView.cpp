@@ -1,19 +1,21 @@
 #include "Editor/views/PictureView.h"
 
+#include "Editor/model/PlainFile.h"
 #include "Editor/pictures/Enlarge.h"
 #include "Editor/widgets/Look.h"
-#include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
 
 namespace editor
 {
+using hostkit::Pictogram;
+
 namespace
 {
 
 constexpr int kMargin = 3 * kSpace;
 constexpr int kMostEnlarged = 4;
-constexpr int kBrokenExtent = 96;
+constexpr int kSignExtent = 96;
 constexpr UINT_PTR kLateTimer = 1;
 constexpr UINT kLate = 250; // milliseconds
 
@@ -91,8 +93,10 @@ void CPictureView::OnPaint()
     if (!pMember)
         return;
     client.DeflateRect(2 * kSpace, 0);
+    if (dynamic_cast<const CPlainFile*>(pMember))
+        return DrawSign(dc, client, Pictogram::File, pMember->ShownName() + ": Enter opens it with its program");
     if (const std::string reason = pMember->ErrorLine(); !reason.empty())
-        DrawReason(dc, client, reason);
+        DrawSign(dc, client, Pictogram::BrokenPicture, reason);
     else if (m_bLate)
         DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", GetSysColor(COLOR_GRAYTEXT),
                      Align::Center);
@@ -105,13 +109,13 @@ void CPictureView::DrawPicture(HDC hdc, const CRect& client) const
     DrawCentred(hdc, client, m_shown);
 }
 
-void CPictureView::DrawReason(HDC hdc, const CRect& client, const std::string& reason) const
+void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const std::string& line) const
 {
     CRect text = client;
-    text.top = client.CenterPoint().y + kBrokenExtent / 2;
+    text.top = client.CenterPoint().y + kSignExtent / 2;
     text.bottom = text.top + 2 * kPaneCaptionHeight;
-    DrawCentred(hdc, client, hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBrokenExtent));
-    DrawTextLine(hdc, text, reason, GetSysColor(COLOR_GRAYTEXT), Align::Center);
+    DrawCentred(hdc, client, hostkit::GetPictogram(sign, kSignExtent));
+    DrawTextLine(hdc, text, line, GetSysColor(COLOR_GRAYTEXT), Align::Center);
 }
 
 void CPictureView::OnSize(UINT nType, int cx, int cy)
@@ -132,7 +136,8 @@ CRect CPictureView::Room() const
 void CPictureView::Fetch()
 {
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
-    const std::string path = pMember ? pMember->Path() : std::string();
+    const bool bPicture = pMember && !dynamic_cast<const CPlainFile*>(pMember);
+    const std::string path = bPicture ? pMember->Path() : std::string();
     if (path.empty() || Room().IsRectEmpty())
         return;
     const PictureStore::Answer answer = m_pictures.Find(path, Room().Size(), m_pAtom.Get());

@@ -3,6 +3,7 @@
 
 #include "Editor/model/Member.h"
 #include "Editor/pictures/PictureStore.h"
+#include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/window/Wnd.h"
 
 namespace editor
@@ -10,7 +11,7 @@ namespace editor
 
 // The picture is read by the store at the window's size. While the window is sized, what was read last is shown.
 // Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle; where it takes its
-// time to be read, that it is coming. What is transparent lies on checks.
+// time to be read, that it is coming. Of a file that is no picture, its sign. What is transparent lies on checks.
 class CPictureView : public CWnd
 {
 public:
@@ -34,7 +35,7 @@ private:
     void Fetch();
     void AwaitPicture();
     void DrawPicture(HDC hdc, const CRect& client) const;
-    void DrawReason(HDC hdc, const CRect& client, const std::string& reason) const;
+    void DrawSign(HDC hdc, const CRect& client, hostkit::Pictogram sign, const std::string& line) const;
     toolkit::Surface Fitted(const toolkit::Surface& picture) const;
 
     PictureStore& m_pictures;

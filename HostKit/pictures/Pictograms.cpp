@@ -190,6 +190,19 @@ void DrawFind(Drawing& drawing, bool)
     drawing.Fill(Outline(Circle({20, 20}, 16), 4.5), Ink(kInk));
 }
 
+// A sheet with lines of writing and a corner turned down.
+void DrawFile(Drawing& drawing, bool detailed)
+{
+    const Shape whole = Polygon({{10, 4}, {29, 4}, {38, 13}, {38, 44}, {10, 44}});
+    if (detailed)
+        drawing.Shade(whole, 2, 0.16);
+    drawing.Fill(whole, Ink(kPaper));
+    drawing.Fill(Outline(whole, 2), Ink(kInk, 0.8));
+    drawing.Fill(Polygon({{29, 4}, {38, 13}, {29, 13}}), Ink(kInk, 0.6));
+    for (const double y : {21.0, 28.0, 35.0})
+        drawing.Fill(Stroke({{16, y}, {32, y}}, 2.6), Ink(kInk, 0.55));
+}
+
 void DrawPathArrow(Drawing& drawing, bool)
 {
     drawing.Fill(Stroke({{19, 13}, {30, 24}, {19, 35}}, 4), Ink(kInk, 0.7));
@@ -201,9 +214,9 @@ toolkit::Surface DrawPictogram(Pictogram which, int pixels)
 {
     using Draw = void (*)(Drawing&, bool);
     static constexpr Draw draw[] = {
-        DrawFolder,        DrawPhase, DrawBrokenPicture, DrawPlaceholder, DrawTreePane,  DrawIconPane,
-        DrawThumbnailPane, DrawUp,    DrawBack,          DrawForward,     DrawPathArrow, DrawUndo,
-        DrawRedo,          DrawCut,   DrawCopy,          DrawPaste,       DrawDelete,    DrawFind};
+        DrawFolder, DrawPhase, DrawBrokenPicture, DrawPlaceholder, DrawTreePane, DrawIconPane, DrawThumbnailPane,
+        DrawUp,     DrawBack,  DrawForward,       DrawPathArrow,   DrawUndo,     DrawRedo,     DrawCut,
+        DrawCopy,   DrawPaste, DrawDelete,        DrawFind,        DrawFile};
     Drawing drawing(pixels, kUnits);
     draw[static_cast<int>(which)](drawing, pixels >= kDetailed);
     return drawing.Take();

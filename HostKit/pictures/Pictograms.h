@@ -27,6 +27,7 @@ enum class Pictogram
     Paste,
     Delete,
     Find,
+    File, // of no kind that the host knows
 };
 
 HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);

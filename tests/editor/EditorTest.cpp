@@ -80,6 +80,30 @@ TEST_F(EditorTest, TheArrowsLeadFromPictureToPictureAndWhatIsTransparentLiesOnCh
     EXPECT_EQ(Picture(), GetFocus());
 }
 
+TEST_F(EditorTest, WhatIsNoPictureTravelsWithTheOthersAndIsOpenedByItsProgram)
+{
+    folder.Make("Ada/ a.bmp b.kra v1.5/");
+    Open();
+    DoubleClick("b.kra");
+    Press(VK_RETURN);
+    EXPECT_EQ(Ledger({"open " + folder.At("b.kra"), "open " + folder.At("b.kra")}), desktop.TakeOutside());
+    EXPECT_EQ("[a.bmp Ada (*b.kra) v1.5]", Rows()) << "nothing else is shown";
+
+    Select({"b.kra", "v1.5"});
+    Control('C');
+    Control('V');
+    EXPECT_EQ("Ada/ a.bmp b (2).kra b.kra v1.5 (2)/ v1.5/", folder.Everything())
+        << "numbered before what tells its kind";
+    Control('Z');
+    desktop.Click(Tree().m_hWnd, PlaceInTree("b.kra"));
+    EXPECT_EQ(Ledger(), desktop.TakeOutside()) << "a click shows its sign";
+    SetFocus(Picture());
+    Press(VK_RETURN);
+    EXPECT_EQ(Ledger({"open " + folder.At("b.kra")}), desktop.TakeOutside());
+    Press(VK_LEFT);
+    EXPECT_EQ("a.bmp", editor::CMember::Of(Frame().GetPictureView().GetAtom())->ShownName()) << "the next picture";
+}
+
 TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
 {
     folder.WriteBmp("large.bmp", 2000, 1000, 0xFF102030);

@@ -113,6 +113,7 @@ std::string LibraryTest::Icon(IAtom* pAtom)
     DestroyIcon(request.hIcon);
     const std::pair<hostkit::Pictogram, const char*> known[] = {{hostkit::Pictogram::Folder, "folder"},
                                                                 {hostkit::Pictogram::Phase, "phase"},
+                                                                {hostkit::Pictogram::File, "file"},
                                                                 {hostkit::Pictogram::BrokenPicture, "broken"},
                                                                 {hostkit::Pictogram::Placeholder, "none yet"}};
     for (const auto& [which, pszName] : known)

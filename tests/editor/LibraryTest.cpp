@@ -6,16 +6,16 @@
 namespace
 {
 
-TEST_F(LibraryTest, AFolderShowsItsFoldersPicturesAndPhasesAndNothingElse)
+TEST_F(LibraryTest, AFolderShowsWhatIsInItButForHiddenFilesAndPipes)
 {
     folder.Make("ball.bmp Star.DIB readme.txt bmp .hidden.bmp .git/ Ada/");
     folder.Write("walk.phase", "ball.bmp\n");
     mkfifo(folder.At("pipe.bmp").c_str(), 0600);
     folder.WriteBmp("Zo\xEB\n.bmp");
 
-    EXPECT_EQ("[Ada/ Star.DIB Zo\xEB\n.bmp ball.bmp walk.phase>]", Open());
+    EXPECT_EQ("[Ada/ Star.DIB Zo\xEB\n.bmp ball.bmp bmp readme.txt walk.phase>]", Open());
     EXPECT_EQ("[]", Members("Ada"));
-    EXPECT_FALSE(Find("readme.txt"));
+    EXPECT_EQ("file", Icon(Find("readme.txt").Get()));
     EXPECT_FALSE(Find("BALL.BMP"));
     EXPECT_EQ("Zo\xEF\xBF\xBD\xEF\xBF\xBD.bmp", editor::CMember::Of(Find("Zo\xEB\n.bmp").Get())->ShownName())
         << "replaced for the eye only";
