@@ -48,6 +48,11 @@ inline constexpr UINT ID_UP = 3051;
 inline constexpr UINT ID_PATH = 3052;
 inline constexpr UINT ID_FOLDERS_FIRST = 3055;
 inline constexpr UINT ID_FILTER = 3056;
+inline constexpr UINT ID_LARGER = 3061;
+inline constexpr UINT ID_SMALLER = 3062;
+inline constexpr UINT ID_USUAL_SIZE = 3063;
+inline constexpr UINT ID_PIXELS = 3064;
+inline constexpr UINT ID_OWN_SIZE = 3065;
 inline constexpr UINT ID_RECENT = 3057;       // a menu
 inline constexpr UINT ID_RECENT_FIRST = 3100; // in it
 inline constexpr UINT ID_RECENT_LAST = 3119;
@@ -59,10 +64,10 @@ struct CommandState
 {
     using Why = std::string; // empty: it can be done
     Why open, carry, remove, rename, paste, selectAll, undo, redo, restore, makeFolder, makePhase, save, timing, list,
-        recent, back, forward, up, outside;
+        recent, back, forward, up, outside, picture;
     Why never;                                         // stays empty
     std::string nameToUndo, nameToRedo, nameToRestore; // which step
-    bool icons = false, thumbnails = false, foldersFirst = false, filter = false;
+    bool icons = false, thumbnails = false, foldersFirst = false, filter = false, pixels = false;
 };
 
 struct CommandTargets // all borrowed

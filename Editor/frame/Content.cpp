@@ -5,6 +5,8 @@
 #include "Editor/widgets/Look.h"
 #include "HostKit/pictures/Pictograms.h"
 
+#include <algorithm>
+
 namespace editor
 {
 
@@ -13,8 +15,8 @@ Content::Content(PictureStore& pictures, const CEditorList::Events& events, std:
       m_askShown(events.askShown),
       m_changed(std::move(changed)),
       m_icons(PictureSizeFor({kIconExtent, kIconExtent}), WithPainted(events)),
-      m_thumbnails({kThumbnailExtent, kThumbnailExtent}, WithPainted(events)),
-      m_picture(pictures)
+      m_thumbnails({}, WithPainted(events)),
+      m_picture(pictures, [this] { m_changed(); })
 {}
 
 CEditorList::Events Content::WithPainted(CEditorList::Events events)
@@ -64,6 +66,32 @@ void Content::ShowList(ListKind kind)
     if (bFocused)
         next.SetFocus();
     m_pictures.SendAwayUnseen(former.PictureSize(), [](IAtom*) { return false; });
+    m_changed();
+}
+
+void Content::SetThumbnailExtent(int nExtent)
+{
+    const CSize former = m_thumbnails.PictureSize();
+    if (!m_thumbnails.SetPictureExtent(std::clamp(nExtent, kLeastThumbnail, kMostThumbnail)))
+        return;
+    m_pictures.SendAwayUnseen(former, [](IAtom*) { return false; });
+    m_changed();
+}
+
+void Content::StepThumbnailExtent(int nSteps)
+{
+    constexpr int steps[] = {kLeastThumbnail, 96, kUsualThumbnail, 160, 192, 256, 320, 384, kMostThumbnail};
+    const int nExtent = GetThumbnailExtent();
+    const int* const pNext = nSteps > 0 ? std::ranges::upper_bound(steps, nExtent)
+                                        : std::max(std::begin(steps) + 1, std::ranges::lower_bound(steps, nExtent)) - 1;
+    SetThumbnailExtent(pNext == std::end(steps) ? nExtent : *pNext);
+}
+
+void Content::ShowPixels(bool bShow)
+{
+    m_pictures.SetEnlarging(bShow);
+    m_thumbnails.ForgetPictures();
+    m_picture.OnPictureArrived();
     m_changed();
 }
 

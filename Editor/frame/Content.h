@@ -35,7 +35,15 @@ public:
     void TakeFocus();
     ListKind GetKind() const { return m_pList == &m_icons ? ListKind::Icons : ListKind::Thumbnails; }
     void ShowList(ListKind kind); // with the selection of the one before
-    void SetOrder(UINT nOrder);   // MOF_*, of both lists
+    // Of thumbnails, in pixels each way: some from the least to the most, or the next that is one of a few.
+    static constexpr int kLeastThumbnail = 64, kUsualThumbnail = 128, kMostThumbnail = 512;
+    void SetThumbnailExtent(int nExtent);
+    void StepThumbnailExtent(int nSteps);
+    int GetThumbnailExtent() const { return m_thumbnails.GetPictureExtent(); }
+    // Small pictures are enlarged, each of their pixels to a square.
+    void ShowPixels(bool bShow);
+    bool ArePixelsShown() const { return m_pictures.IsEnlarging(); }
+    void SetOrder(UINT nOrder); // MOF_*, of both lists
     void SetFilter(const std::function<bool(IAtom* pAtom)>& isShown);
     void ReloadList(); // by the present filter
     // The picture takes the list's place, and the focus unless that is kept.

@@ -4,6 +4,18 @@
 
 namespace editor
 {
+namespace
+{
+
+// What is seen moves against the picture.
+CSize PanOf(UINT vkey)
+{
+    constexpr int kStep = 64;
+    const int x = vkey == VK_LEFT ? kStep : vkey == VK_RIGHT ? -kStep : 0;
+    return {x, vkey == VK_UP ? kStep : vkey == VK_DOWN ? -kStep : 0};
+}
+
+} // namespace
 
 bool FrameKeys::Handle(HWND hWnd, UINT vkey, bool bAlt)
 {
@@ -22,9 +34,16 @@ bool FrameKeys::Handle(HWND hWnd, UINT vkey, bool bAlt)
     return true;
 }
 
-// The arrows lead to the pictures beside it.
+// The arrows lead to the pictures beside it, or with Shift to another part of it.
 bool FrameKeys::HandlePictureKey(UINT vkey)
 {
+    CPictureView& picture = m_parts.content.GetPicture();
+    if (::GetKeyState(VK_SHIFT) < 0 && PanOf(vkey) != CSize() && picture.PanBy(PanOf(vkey)))
+        return true;
+    if (vkey == VK_ADD || vkey == VK_OEM_PLUS || vkey == VK_SUBTRACT || vkey == VK_OEM_MINUS)
+        return picture.ZoomBy(vkey == VK_ADD || vkey == VK_OEM_PLUS ? 1 : -1), true;
+    if (vkey == '0' || vkey == '1')
+        return vkey == '0' ? picture.Fit() : picture.ShowOwnSize(), true;
     const bool bBack = vkey == VK_LEFT || vkey == VK_UP || vkey == VK_PRIOR;
     if (!bBack && vkey != VK_RIGHT && vkey != VK_DOWN && vkey != VK_NEXT && vkey != VK_SPACE)
         return false;

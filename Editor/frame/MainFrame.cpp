@@ -54,7 +54,11 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
                  [this] { m_content.TakeFocus(); }}),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
-      m_content(pictures, ListEvents(), [this] { UpdateStatus(); }),
+      m_content(pictures, ListEvents(),
+                [this] {
+                    Arrange();
+                    UpdateStatus();
+                }),
       m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
       m_tree(
           ReportDrop(), [this](const std::string& line) { m_statusBar.SetNews(line); }, [this] { OnPressed(); }),
@@ -69,6 +73,10 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
       m_desk({m_commands, m_places, m_views}, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
       m_keys({*this, m_tree, m_splitter, m_content, m_navigation, m_filter, m_desk}),
       m_statusBar([this] { return GetStatus(); }),
+      m_sizeSlider(Content::kLeastThumbnail, Content::kMostThumbnail,
+                   {[this] { return m_content.GetThumbnailExtent(); },
+                    [this](int nExtent) { m_content.SetThumbnailExtent(nExtent); },
+                    [this](int nSteps) { m_views.Step(nSteps); }}),
       m_workView(editor.GetWork(), [this](const std::string& line) { m_statusBar.SetNews(line); })
 {}
 
@@ -87,6 +95,8 @@ void CMainFrame::Follow(const Settings& settings)
     m_nTreeWidth = settings.treeWidth > 0 ? settings.treeWidth : PaneLayout::kUsualTree;
     Arrange();
     m_views.SetFoldersFirst(settings.foldersFirst);
+    m_content.SetThumbnailExtent(settings.thumbnailExtent > 0 ? settings.thumbnailExtent : Content::kUsualThumbnail);
+    m_content.ShowPixels(settings.pixels);
     ShowList(settings.thumbnails ? ListKind::Thumbnails : ListKind::Icons);
 }
 
@@ -95,6 +105,8 @@ void CMainFrame::Remember(Settings& settings) const
     GetWindowRect(&settings.window);
     settings.treeWidth = std::max(0, m_nTreeWidth);
     settings.foldersFirst = m_views.AreFoldersFirst();
+    settings.thumbnailExtent = m_content.GetThumbnailExtent();
+    settings.pixels = m_content.ArePixelsShown();
     settings.thumbnails = m_content.GetKind() == ListKind::Thumbnails;
 }
 
@@ -164,6 +176,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     else // whoever walks through the tree stays in it
         m_content.ShowPicture(pMember, ::GetFocus() == m_tree.m_hWnd);
     SetWindowText((pMember->ShownName() + " - Views").c_str());
+    Arrange();
     UpdatePath();
     UpdateStatus();
     return TRUE;
@@ -218,7 +231,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
 bool CMainFrame::MakeBars()
 {
     return m_menuBar.Create(this) && m_ways.Create(this) && m_tools.Create(this) && m_pathBar.Create(this) &&
-           m_statusBar.Create(this);
+           m_statusBar.Create(this) && m_sizeSlider.Create(this);
 }
 
 void CMainFrame::OnDestroy()
@@ -266,6 +279,7 @@ void CMainFrame::UpdatePath()
 void CMainFrame::UpdateStatus()
 {
     m_statusBar.Invalidate();
+    m_sizeSlider.Invalidate();
     m_ways.Invalidate();
     m_tools.Invalidate();
     m_properties.Update();

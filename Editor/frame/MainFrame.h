@@ -13,6 +13,7 @@
 #include "Editor/widgets/MenuBar.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"
+#include "Editor/widgets/SizeSlider.h"
 #include "Editor/widgets/StatusBar.h"
 #include "HostKit/frame/Splitter.h"
 #include "Views/host/StateHandler.h"
@@ -50,6 +51,7 @@ public:
     CKeysSheet& GetKeysSheet() { return m_keysSheet; }
     CPictureView& GetPictureView() { return m_content.GetPicture(); }
     CPropertiesPane& GetProperties() { return m_properties; }
+    CSizeSlider& GetSizeSlider() { return m_sizeSlider; }
     Status GetStatus() const; // what the status bar says
 
     Navigation& GetNavigation() { return m_navigation; }
@@ -137,6 +139,7 @@ private:
     CommandDesk m_desk;
     FrameKeys m_keys;
     CStatusBar m_statusBar;
+    CSizeSlider m_sizeSlider;
     WorkView m_workView;
 };
 

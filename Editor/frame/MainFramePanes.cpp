@@ -52,7 +52,12 @@ void CMainFrame::Arrange()
     m_splitter.MoveWindow(layout.splitter);
     m_content.MoveTo(layout.content);
     m_properties.MoveWindow(layout.properties);
-    m_statusBar.MoveWindow(layout.status);
+    CRect status = layout.status;
+    const bool bSizes = m_content.GetKind() == ListKind::Thumbnails && !m_content.IsPictureShown();
+    status.right -= bSizes ? CSizeSlider::kWidth : 0;
+    m_statusBar.MoveWindow(status);
+    m_sizeSlider.MoveWindow({status.right, status.top, layout.status.right, status.bottom});
+    m_sizeSlider.ShowWindow(bSizes ? SW_SHOW : SW_HIDE);
     if (layout.tree.IsRectEmpty() && ::GetFocus() == m_tree.m_hWnd)
         m_content.TakeFocus();
 }
@@ -73,6 +78,7 @@ CEditorList::Events CMainFrame::ListEvents()
             ReportDrop(),
             [this](const std::string& line) { m_statusBar.SetNews(line); },
             [this] { OnPressed(); },
+            [this](int nNotches) { m_views.Step(nNotches); },
             [this](IAtom* pAtom) {
                 auto* const pFile = dynamic_cast<CPlainFile*>(CMember::Of(pAtom));
                 if (pFile)

@@ -52,6 +52,8 @@ void Take(Settings& settings, std::string_view name, std::string_view value)
         settings.foldersFirst = Number(value) != 0;
     else if (name == "thumbnailExtent")
         settings.thumbnailExtent = Number(value);
+    else if (name == "pixels")
+        settings.pixels = Number(value) != 0;
     else if (name == "folder" && value.starts_with('/') && settings.recent.size() < Settings::kMostRecent)
         settings.recent.emplace_back(value);
 }
@@ -61,7 +63,8 @@ std::string Text(const Settings& settings)
     std::ostringstream text;
     text << "window=" << settings.window.left << ' ' << settings.window.top << ' ' << settings.window.Width() << ' '
          << settings.window.Height() << "\ntree=" << settings.treeWidth << "\nthumbnails=" << settings.thumbnails
-         << "\nfoldersFirst=" << settings.foldersFirst << "\nthumbnailExtent=" << settings.thumbnailExtent << '\n';
+         << "\nfoldersFirst=" << settings.foldersFirst << "\nthumbnailExtent=" << settings.thumbnailExtent
+         << "\npixels=" << settings.pixels << '\n';
     for (const std::string& folder : settings.recent)
         if (folder.find('\n') == folder.npos)
             text << "folder=" << folder << '\n';

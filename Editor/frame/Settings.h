@@ -16,6 +16,7 @@ struct Settings
     bool thumbnails = false;
     bool foldersFirst = false;
     int thumbnailExtent = 0;         // pixels; 0: as usual
+    bool pixels = false;             // small pictures are enlarged, each pixel to a square
     std::vector<std::string> recent; // folders, the last one first
 
     static constexpr std::size_t kMostRecent = 10;

@@ -36,10 +36,33 @@ void ViewCommands::Describe(CommandState& state) const
     state.thumbnails = !state.icons;
     state.foldersFirst = m_bFoldersFirst;
     state.filter = m_parts.filter.IsOn();
+    state.pixels = m_parts.content.ArePixelsShown();
     if (m_parts.content.IsPictureShown())
         state.list = "a picture is shown";
+    else
+        state.picture = "no picture is shown";
     if (!m_parts.properties.HasPhases())
         state.timing = "no phase is selected";
+}
+
+// What is to be larger than icons are thumbnails.
+void ViewCommands::Step(int nSteps)
+{
+    Content& content = m_parts.content;
+    if (content.IsPictureShown())
+        return content.GetPicture().ZoomBy(nSteps);
+    if (content.GetKind() == ListKind::Thumbnails)
+        content.StepThumbnailExtent(nSteps);
+    else if (nSteps > 0)
+        ShowThumbnails();
+}
+
+void ViewCommands::ShowUsualSize()
+{
+    if (m_parts.content.IsPictureShown())
+        m_parts.content.GetPicture().Fit();
+    else
+        m_parts.content.SetThumbnailExtent(Content::kUsualThumbnail);
 }
 
 void ViewCommands::SetFoldersFirst(bool bFirst)

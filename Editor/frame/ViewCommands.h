@@ -31,6 +31,13 @@ public:
 
     void ShowIcons() { m_parts.content.ShowList(ListKind::Icons); }
     void ShowThumbnails() { m_parts.content.ShowList(ListKind::Thumbnails); }
+    // Of a picture that is shown, else of the thumbnails.
+    void Enlarge() { Step(1); }
+    void Reduce() { Step(-1); }
+    void Step(int nSteps);
+    void ShowUsualSize();
+    void ShowOwnSize() { m_parts.content.GetPicture().ShowOwnSize(); }
+    void TogglePixels() { m_parts.content.ShowPixels(!m_parts.content.ArePixelsShown()); }
     void ToggleFoldersFirst() { SetFoldersFirst(!m_bFoldersFirst); }
     void SetFoldersFirst(bool bFirst);
     bool AreFoldersFirst() const { return m_bFoldersFirst; }

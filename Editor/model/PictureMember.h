@@ -15,7 +15,8 @@ public:
     std::string ErrorReason() const override; // known once its icon or thumbnail has been wanted
 
     UINT GetFrameCount() override; // 1 until the picture has been read
-    // As large as the rectangle allows, but never enlarged; in its middle. The two values mean nothing here.
+    // As large as the rectangle allows, but enlarged only where the store says so; in its middle. The two values mean
+    // nothing here.
     BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 
 protected:

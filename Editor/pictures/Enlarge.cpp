@@ -86,4 +86,16 @@ toolkit::Surface Enlarge(const toolkit::Surface& picture, CSize size)
     return large;
 }
 
+toolkit::Surface EnlargePixels(const toolkit::Surface& picture, CSize room)
+{
+    if (picture.IsEmpty())
+        return {};
+    const int times = std::max<int>(1, std::min<int>(room.cx / picture.Width(), room.cy / picture.Height()));
+    toolkit::Surface large({picture.Width() * times, picture.Height() * times});
+    for (int y = 0; y < large.Height(); ++y)
+        for (int x = 0; x < picture.Width(); ++x)
+            std::fill_n(large.Row(y) + x * times, times, picture.Row(y / times)[x]);
+    return large;
+}
+
 } // namespace editor

@@ -1,5 +1,6 @@
 #include "Editor/pictures/IconPainter.h"
 
+#include "Editor/pictures/Enlarge.h"
 #include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/Scale.h"
 
@@ -113,12 +114,16 @@ void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark)
     toolkit::DrawSurface(hdc, {rect.left, rect.bottom - picture.Height()}, picture, picture.Bounds());
 }
 
-BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer)
+BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer, bool bEnlarge)
 {
     const hostkit::Pictogram instead =
         answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder;
     const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : hostkit::GetPictogram(instead, kPlaceholder);
     const CSize own = picture.Bounds().Size();
+    if (bEnlarge && answer.pPicture && 2 * own.cx <= rect.Width() && 2 * own.cy <= rect.Height()) {
+        const toolkit::Surface large = EnlargePixels(picture, rect.Size());
+        return toolkit::DrawSurface(hdc, toolkit::Centred(large.Bounds().Size(), rect), large, large.Bounds());
+    }
     if (own.cx <= rect.Width() && own.cy <= rect.Height())
         return toolkit::DrawSurface(hdc, toolkit::Centred(own, rect), picture, picture.Bounds());
     const toolkit::Surface fitted = toolkit::ScaleSurface(picture, toolkit::FitInto(own, rect.Size()));

@@ -176,6 +176,7 @@ void PictureStore::SendAwayUnseen(CSize size, const std::function<bool(IAtom*)>&
             continue;
         }
         SendAway(std::move(at->second.atoms));
+        ForgetLargeWish(at->first.substr(0, at->first.find('\0')), size);
         at = m_waiting.erase(at);
         bAny = true;
     }

@@ -50,6 +50,10 @@ public:
     // Nothing is being read, also not for those who no longer wait, and no result is on its way.
     bool IsIdle() const { return m_waiting.empty() && m_queue.IsIdle(); }
 
+    // How small pictures are shown: enlarged, each pixel to a square, or as whoever shows them thinks best.
+    void SetEnlarging(bool bEnlarging) { m_bEnlarging = bEnlarging; }
+    bool IsEnlarging() const { return m_bEnlarging; }
+
     // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
     void Recheck();
     void Recheck(const std::string& path);
@@ -98,6 +102,7 @@ private:
 
     const Limits m_limits;
     const Arrived m_arrived;
+    bool m_bEnlarging = false;
     std::unordered_map<std::string, Entry> m_entries; // by path
     std::list<std::string> m_recent;                  // paths, the last wanted first
     std::size_t m_nBytes = 0;

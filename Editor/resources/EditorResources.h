@@ -23,8 +23,6 @@ inline constexpr UINT IDS_NEW_FAILED = 2012;
 inline constexpr UINT IDS_RESTORE_FAILED = 2013;
 inline constexpr UINT IDS_NAME_REFUSED = 2011;
 
-inline constexpr int kThumbnailExtent = 80; // of what is drawn of a thumbnail
-
 // Fills the module with all of them.
 void AddEditorResources(CResourceModule& module);
 

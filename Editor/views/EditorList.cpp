@@ -88,6 +88,19 @@ std::vector<CStubRef<IAtom>> CEditorList::AtomsInSight() const
     return atoms;
 }
 
+int CEditorList::RowToKeepInSight() const
+{
+    CRect client, row;
+    m_view.GetClientRect(&client);
+    const int middle = client.CenterPoint().y;
+    if (GetItemRect(GetFocusedRow(), &row, LVIR_ICON) && row.bottom > 0 && row.top < client.bottom)
+        return GetFocusedRow();
+    int nRow = m_view.GetTopIndex();
+    while (nRow + 1 < GetItemCount() && GetItemRect(nRow, &row, LVIR_ICON) && row.bottom <= middle)
+        ++nRow;
+    return nRow;
+}
+
 CStubRef<IAtomContainer> CEditorList::ContainerAt(CPoint client) const
 {
     const int nRow = m_view.HitTest(client);

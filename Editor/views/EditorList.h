@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace editor
@@ -28,6 +29,7 @@ public:
         DropFailed dropFailed;
         DropRefused dropRefused;
         std::function<void()> pressed;                 // a mouse button, on the list
+        std::function<void(int nNotches)> zoomed;      // the wheel, with Control; up is positive
         std::function<bool(IAtom* pAtom)> openOutside; // before a double click opens it here; true: it is open
     };
 
@@ -41,7 +43,9 @@ public:
     virtual void SetOrder(UINT nOrder) = 0;              // MOF_*
     virtual void SetFilter(std::function<bool(IAtom* pAtom)> isShown) = 0;
     virtual void Reload() = 0; // rows by the present order and filter; those that stay keep selection and focus
-    virtual CSize PictureSize() const = 0;             // at which rows wish for pictures
+    virtual CSize PictureSize() const = 0; // at which rows wish for pictures
+    // Of thumbnails. The focused row stays where it is seen, or else the one in the middle. False: nothing has changed.
+    virtual bool SetPictureExtent(int /*nExtent*/) { return false; }
     std::vector<CStubRef<IAtom>> AtomsInSight() const; // sorted by address
     int FindRow(IAtom* pAtom) const;                   // looks at all; -1: none
 
@@ -90,6 +94,7 @@ protected:
     CEditorList(CListCtrl& view, Events events) : m_view(view), m_events(std::move(events)) {}
 
     void DrawEmptyText(const CRect& dirty) const;
+    int RowToKeepInSight() const; // -1: none
     const Events& GetEvents() const { return m_events; }
 
 private:
@@ -145,7 +150,35 @@ public:
         View::OnAtomEntered(pShown.Get(), nullptr);
         RestoreRows(state);
     }
-    CSize PictureSize() const override { return m_picture; }
+    CSize PictureSize() const override
+    {
+        if constexpr (kAreThumbnails)
+            return {View::GetDrawingExtent(), View::GetDrawingExtent()};
+        else
+            return m_picture;
+    }
+    void ForgetPictures() // rows wish for them anew
+    {
+        View::ForgetCache();
+        View::Invalidate();
+    }
+    bool SetPictureExtent(int nExtent) override
+    {
+        if constexpr (kAreThumbnails) {
+            if (nExtent == View::GetPictureExtent())
+                return false;
+            const int nRow = RowToKeepInSight();
+            CRect former, now;
+            GetItemRect(nRow, &former, LVIR_ICON);
+            View::SetPictureExtent(nExtent);
+            if (GetItemRect(nRow, &now, LVIR_ICON)) {
+                View::SendMessage(LVM_SCROLL, 0, now.CenterPoint().y - former.CenterPoint().y);
+                View::EnsureVisible(nRow, FALSE);
+            }
+            return true;
+        }
+        return false;
+    }
 
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override
     {
@@ -167,6 +200,10 @@ protected:
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
         if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
             GetEvents().pressed();
+        if (message == WM_MOUSEWHEEL && (wParam & MK_CONTROL)) {
+            GetEvents().zoomed(static_cast<std::int16_t>(HIWORD(wParam)) > 0 ? 1 : -1);
+            return 0;
+        }
         if (message == WM_LBUTTONDBLCLK && GetEvents().openOutside(GetAtom(View::HitTest(CPoint(lParam))).Get()))
             return 0;
         const LRESULT nResult = View::WindowProc(message, wParam, lParam);
@@ -186,6 +223,8 @@ protected:
     void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped) override { m_nameField.Refused(pAtom, pszTyped); }
 
 private:
+    static constexpr bool kAreThumbnails = std::is_base_of_v<CThumbList, View>;
+
     const CSize m_picture;
     CEditorListTarget m_target;
     NameField m_nameField;

@@ -6,6 +6,8 @@
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
 
+#include <utility>
+
 namespace editor
 {
 using hostkit::Pictogram;
@@ -28,6 +30,24 @@ bool HasTransparency(const toolkit::Surface& picture)
     return false;
 }
 
+// What is seen of a picture that is drawn at that size: its pixels as squares, or the mean of those that share one.
+toolkit::Surface PartOf(const toolkit::Surface& picture, CSize drawn, const CRect& seen)
+{
+    const auto from = [](LONG at, LONG own, LONG size) { return static_cast<int>(std::int64_t{at} * own / size); };
+    const CSize own = picture.Bounds().Size();
+    const bool bReduced = drawn.cx < own.cx;
+    const CRect source(from(seen.left, own.cx, drawn.cx), from(seen.top, own.cy, drawn.cy),
+                       std::min<int>(own.cx, from(seen.right - 1, own.cx, drawn.cx) + 1),
+                       std::min<int>(own.cy, from(seen.bottom - 1, own.cy, drawn.cy) + 1));
+    toolkit::Surface part(bReduced ? source.Size() : seen.Size());
+    for (int y = 0; y < part.Height(); ++y)
+        for (int x = 0; x < part.Width(); ++x)
+            part.Row(y)[x] =
+                bReduced ? picture.Row(source.top + y)[source.left + x]
+                         : picture.Row(from(seen.top + y, own.cy, drawn.cy))[from(seen.left + x, own.cx, drawn.cx)];
+    return bReduced ? toolkit::ScaleSurface(part, seen.Size()) : std::move(part);
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPictureView, CWnd)
@@ -35,6 +55,11 @@ BEGIN_MESSAGE_MAP(CPictureView, CWnd)
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 BOOL CPictureView::Create(CWnd* pParent)
@@ -45,7 +70,10 @@ BOOL CPictureView::Create(CWnd* pParent)
 void CPictureView::SetAtom(IAtom* pAtom)
 {
     m_pAtom = CStubRef<IAtom>::Share(pAtom);
-    m_shown = {};
+    m_shown = m_own = {};
+    m_full = {};
+    if (!pAtom)
+        m_zoom.Fit();
     Fetch();
     AwaitPicture();
     Invalidate();
@@ -61,7 +89,7 @@ void CPictureView::OnPictureArrived()
 void CPictureView::AwaitPicture()
 {
     m_bLate = false;
-    if (m_pAtom && m_shown.IsEmpty())
+    if (m_pAtom && m_shown.IsEmpty() && m_own.IsEmpty())
         SetTimer(kLateTimer, kLate);
     else
         KillTimer(kLateTimer);
@@ -87,8 +115,10 @@ void CPictureView::OnPaint()
     const CPaintDC dc(this);
     CRect client;
     GetClientRect(&client);
+    if (!m_own.IsEmpty() || (!m_shown.IsEmpty() && !m_zoom.IsFit()))
+        return DrawZoomed(dc);
     if (!m_shown.IsEmpty())
-        return DrawPicture(dc, client);
+        return DrawFitting(dc);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     if (!pMember)
         return;
@@ -102,11 +132,23 @@ void CPictureView::OnPaint()
                      Align::Center);
 }
 
-void CPictureView::DrawPicture(HDC hdc, const CRect& client) const
+void CPictureView::DrawFitting(HDC hdc) const
 {
     if (HasTransparency(m_shown))
-        DrawChecks(hdc, {toolkit::Centred(m_shown.Bounds().Size(), client), m_shown.Bounds().Size()});
-    DrawCentred(hdc, client, m_shown);
+        DrawChecks(hdc, {toolkit::Centred(m_shown.Bounds().Size(), View()), m_shown.Bounds().Size()});
+    DrawCentred(hdc, View(), m_shown);
+}
+
+void CPictureView::DrawZoomed(HDC hdc) const
+{
+    const CRect place = m_zoom.Place(View(), m_full);
+    const CRect seen = place & View();
+    if (seen.IsRectEmpty())
+        return;
+    const toolkit::Surface part = PartOf(m_own.IsEmpty() ? m_shown : m_own, place.Size(), seen - place.TopLeft());
+    if (HasTransparency(part))
+        DrawChecks(hdc, seen);
+    toolkit::DrawSurface(hdc, seen.TopLeft(), part, part.Bounds());
 }
 
 void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const std::string& line) const
@@ -125,10 +167,16 @@ void CPictureView::OnSize(UINT nType, int cx, int cy)
     Invalidate();
 }
 
+CRect CPictureView::View() const
+{
+    CRect view;
+    GetClientRect(&view);
+    return view;
+}
+
 CRect CPictureView::Room() const
 {
-    CRect room;
-    GetClientRect(&room);
+    CRect room = View();
     room.DeflateRect(kMargin, kMargin);
     return room;
 }
@@ -140,24 +188,52 @@ void CPictureView::Fetch()
     const std::string path = bPicture ? pMember->Path() : std::string();
     if (path.empty() || Room().IsRectEmpty())
         return;
-    const PictureStore::Answer answer = m_pictures.Find(path, Room().Size(), m_pAtom.Get());
+    const CSize wanted = m_zoom.IsFit() ? Room().Size() : CSize(kMostRead, kMostRead);
+    const PictureStore::Answer answer = m_pictures.Find(path, wanted, m_pAtom.Get());
     if (answer.pPicture)
-        m_shown = Fitted(*answer.pPicture);
+        Take(*answer.pPicture);
     else if (answer.bFailed)
-        m_shown = {};
-    else if (!m_shown.IsEmpty())
+        m_shown = m_own = {};
+    else if (m_zoom.IsFit() && !m_shown.IsEmpty())
         m_shown = toolkit::ScaleSurface(m_shown, toolkit::FitInto(m_shown.Bounds().Size(), Room().Size()));
+    if (answer.pPicture)
+        m_full = m_pictures.FullSizeOf(path);
+}
+
+void CPictureView::Take(const toolkit::Surface& picture)
+{
+    if (!m_zoom.IsFit()) {
+        m_own = picture;
+        return;
+    }
+    m_own = {};
+    m_shown = Fitted(picture);
+}
+
+double CPictureView::FitZoom() const
+{
+    return 1.0 * std::max<int>(FittedSize(m_full).cx, 1) / std::max<int>(m_full.cx, 1);
+}
+
+CSize CPictureView::FittedSize(CSize own) const
+{
+    const CSize room = Room().Size();
+    const int times = own.cx > 0 && own.cy > 0 ? std::min<int>(room.cx / own.cx, room.cy / own.cy) : 0;
+    if (m_pictures.IsEnlarging() && times > 0)
+        return {own.cx * times, own.cy * times};
+    return toolkit::FitInto(
+        own, {std::min<int>(room.cx, own.cx * kMostEnlarged), std::min<int>(room.cy, own.cy * kMostEnlarged)});
 }
 
 toolkit::Surface CPictureView::Fitted(const toolkit::Surface& picture) const
 {
     const CSize own = picture.Bounds().Size();
-    const CSize most(std::min(Room().Width(), own.cx * kMostEnlarged),
-                     std::min(Room().Height(), own.cy * kMostEnlarged));
-    const CSize fitted = toolkit::FitInto(own, most);
+    const CSize fitted = FittedSize(own);
     if (fitted == own)
         return picture;
-    return fitted.cx > own.cx ? Enlarge(picture, fitted) : toolkit::ScaleSurface(picture, fitted);
+    if (fitted.cx < own.cx)
+        return toolkit::ScaleSurface(picture, fitted);
+    return m_pictures.IsEnlarging() ? EnlargePixels(picture, fitted) : Enlarge(picture, fitted);
 }
 
 } // namespace editor

@@ -47,6 +47,10 @@ std::string CommandKey::Text() const
         return held + "Right";
     case VK_UP:
         return held + "Up";
+    case VK_OEM_PLUS:
+        return held + '+';
+    case VK_OEM_MINUS:
+        return held + '-';
     default:
         return held + (bLetter ? std::string(1, static_cast<char>(vkey)) : "F" + std::to_string(vkey - VK_F1 + 1));
     }

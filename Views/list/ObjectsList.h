@@ -86,6 +86,10 @@ public:
     BOOL OnGetActivePairs(OBJPAIR* pairs, DWORD* pCount) override;
 
 protected:
+    // How many rows it remembers, unless more were announced at once; 1024, and no more than that in any case.
+    void SetCacheLimit(int nRows) { m_nCacheLimit = nRows; }
+    void ForgetCache(); // every row is uncached, and cached again when it is next announced
+
     // The address of an OBJPAIR with the row's atom and container, borrowed, good until the next call; 0 when there
     // is no such row or no atom in it.
     unsigned long GetItemData(int nItem) const;
@@ -153,7 +157,6 @@ private:
     void UncacheAll();
     int FindCachedRow(IAtom* pAtom) const; // by identity, in the cache's order; -1: none
     void RekeyCache(int nRemoved);
-    void ForgetCache();
     int InsertRow(IAtom* pAtom); // -1 without memory, which the user has been told
 
     void MirrorSelection(IAtom* pAtom, IAtomContainer* pContainer, bool bSelected);
@@ -169,6 +172,7 @@ private:
     std::unique_ptr<CObjectsListCache> m_pCache, m_pSpareCache; // the other one serves when rows are re-keyed
     mutable OBJPAIR m_pair{};                                   // what GetItemData gives
     int m_nCacheFrom = 0, m_nCacheTo = 0;                       // the last hint's rows
+    int m_nCacheLimit = 1024;
     // Does the view react? FALSE before there is a window and while the view itself is calling the editor.
     BOOL m_bSync = FALSE;
     const UINT m_nPaneKind;

@@ -13,7 +13,7 @@
 namespace
 {
 
-constexpr int kCacheLimit = 1024;
+constexpr int kMostRows = 1024;
 
 } // namespace
 
@@ -53,7 +53,7 @@ bool CObjectsList::CacheRow(int nItem)
         OnUncacheItem(nItem, nullptr, nullptr, &data);
         return true;
     }
-    if (m_pCache->GetCount() > kCacheLimit)
+    if (m_pCache->GetCount() > std::max(m_nCacheLimit, std::min(m_nCacheTo - m_nCacheFrom, kMostRows)))
         EvictOne();
     data.dwTick = GetTickCount();
     m_pCache->Store(nItem, std::move(data));

@@ -4,12 +4,16 @@
 #include "Views/list/inside/FreeImages.h"
 #include "Views/list/inside/Thumbnails.h"
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr UINT kPaneKind = 1;
-constexpr int kExtent = 128;
+constexpr int kLeastExtent = 32, kMostExtent = 1024;
 constexpr int kImagesToGrow = 4;
+constexpr int kMostRows = 1024;
+constexpr int kMostPixels = kMostRows * 128 * 128; // of the rows remembered, unless more are in sight
 constexpr UINT kNone = static_cast<UINT>(-1);
 
 } // namespace
@@ -39,11 +43,46 @@ int CThumbList::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CObjectsList::OnCreate(lpCreateStruct) == -1)
         return -1;
-    m_pThumbnails->images.Create(kExtent, kExtent, ILC_COLOR32, 0, kImagesToGrow);
-    m_pFreeImages->Clear(); // a former window's
+    ShowImages();
+    return 0;
+}
+
+void CThumbList::ShowImages()
+{
+    const int nExtent = GetPictureExtent();
+    m_pThumbnails->images.Create(nExtent, nExtent, ILC_COLOR32, 0, kImagesToGrow);
+    m_pFreeImages->Clear(); // of former images
     SetImageList(&m_pThumbnails->images, LVSIL_NORMAL);
     m_pThumbnails->AddFolder(0);
-    return 0;
+}
+
+BOOL CThumbList::SetPictureExtent(int nExtent)
+{
+    if (nExtent < kLeastExtent || nExtent > kMostExtent)
+        return FALSE;
+    if (nExtent == GetPictureExtent())
+        return TRUE;
+    SetCacheLimit(std::min(kMostRows, kMostPixels / (nExtent * nExtent)));
+    if (!m_hWnd) {
+        m_pThumbnails->SetExtent(nExtent);
+        return TRUE;
+    }
+    ForgetCache();
+    m_pThumbnails->images.DeleteImageList();
+    m_pThumbnails->SetExtent(nExtent);
+    ShowImages();
+    Invalidate();
+    return TRUE;
+}
+
+int CThumbList::GetPictureExtent() const
+{
+    return m_pThumbnails->GetExtent();
+}
+
+int CThumbList::GetDrawingExtent() const
+{
+    return m_pThumbnails->GetDrawingExtent();
 }
 
 // A thumbnail that fails gives the folder picture, also where the atom has an icon.

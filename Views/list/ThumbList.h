@@ -12,8 +12,8 @@ class FreeImages;
 class Thumbnails;
 } // namespace views
 
-// Pictures are 128 by 128 pixels: the atom's thumbnail, else its icon, else the host's folder picture
-// (IDB_LIST_ITEMS, Resources.h), on the list's ground and in a raised frame; containers bear a marker
+// Pictures are 128 by 128 pixels unless the host says otherwise: the atom's thumbnail, else its icon, else the host's
+// folder picture (IDB_LIST_ITEMS, Resources.h), on the list's ground and in a raised frame; containers bear a marker
 // (IDB_CONTAINER_MARK). The pictures of rows that leave the cache are painted over for rows that
 // enter it, the longest unused first. The pane's caption and icon are the host's resource IDR_THUMBNAIL_PANE.
 //
@@ -26,6 +26,13 @@ public:
     explicit CThumbList(int bPassive = 0);
     CThumbList(UINT nPaneKind, UINT nResourceID, int bPassive); // as CObjectsList takes them
     ~CThumbList() override;
+
+    // Pictures of so many pixels each way, from 32 to 1024. The margin around what atoms draw is 24 pixels at most, and
+    // three sixteenths of the picture where that is less. Selection and focus stay; rows are drawn anew, and the larger
+    // the pictures the fewer rows are remembered. FALSE, and no change, for another size.
+    BOOL SetPictureExtent(int nExtent);
+    int GetPictureExtent() const;
+    int GetDrawingExtent() const; // of what atoms draw, each way
 
 protected:
     void OnUncacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
@@ -46,6 +53,7 @@ private:
         CStubRef<IAtomThumbnail> pThumb;
     };
 
+    void ShowImages();              // new ones, of which the first is the folder picture
     IAtom* AtomIn(int nItem) const; // borrowed; NULL when there is none
     void StartTimer();
     void ClearAnimation();

@@ -7,15 +7,16 @@
 #include "Views/host/Resources.h"
 #include "Views/host/StubRef.h"
 
+#include <algorithm>
+
 namespace
 {
 
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
 constexpr COLORREF kBackColor = RGB(222, 247, 254);
-constexpr CRect kWhole(0, 0, 128, 128);
-constexpr int kMargin = 24;
-constexpr CRect kMarker(108, 108, 124, 124); // lower right, on the margin
-constexpr int kIconExtent = 48;
+constexpr int kMostMargin = 24;
+constexpr int kMarkerExtent = 16, kMarkerInset = 4; // lower right, on the margin
+constexpr int kUsualExtent = 128, kUsualIcon = 48;
 constexpr UINT kNone = static_cast<UINT>(-1);
 
 // The process's, behind all thumbnails; made by the first list.
@@ -35,18 +36,6 @@ bool IsContainer(CStubBaseInterface* pObject)
     return static_cast<bool>(CStubRef<IAtomContainer>::From(pObject));
 }
 
-int DrawIcon(IAtomIcon* pIcon, HDC hdc, CRect& rect)
-{
-    ICONREQUEST request{kIconExtent, kIconExtent, nullptr};
-    if (!pIcon->GetIcon(&request))
-        return 0;
-    const views::IconHolder hIcon(request.hIcon);
-    ICONINFO info;
-    if (!::GetIconInfo(hIcon.get(), &info))
-        return 0;
-    return views::MaskedBitmap(info.hbmColor, info.hbmMask).Draw(hdc, rect);
-}
-
 int DrawThumbnail(IAtomThumbnail* pThumb, HDC hdc, CRect& rect)
 {
     ::FillRect(hdc, rect, BackBrush());
@@ -59,6 +48,31 @@ views::Thumbnails::Thumbnails(const CWnd& list)
     : m_list(list), m_folder(IDB_LIST_ITEMS, kTransparent), m_marker(IDB_CONTAINER_MARK, kTransparent)
 {
     BackBrush();
+}
+
+void views::Thumbnails::SetExtent(int nExtent)
+{
+    m_nExtent = nExtent;
+    m_hCanvas.reset();
+}
+
+int views::Thumbnails::GetDrawingExtent() const
+{
+    return m_nExtent - 2 * std::min(kMostMargin, m_nExtent * 3 / 16);
+}
+
+// At other sizes than the usual one icons are not scaled.
+int views::Thumbnails::DrawIcon(IAtomIcon* pIcon, HDC hdc, CRect& rect) const
+{
+    const int nIcon = m_nExtent == kUsualExtent ? kUsualIcon : GetDrawingExtent();
+    ICONREQUEST request{nIcon, nIcon, nullptr};
+    if (!pIcon->GetIcon(&request))
+        return 0;
+    const views::IconHolder hIcon(request.hIcon);
+    ICONINFO info;
+    if (!::GetIconInfo(hIcon.get(), &info))
+        return 0;
+    return views::MaskedBitmap(info.hbmColor, info.hbmMask).Draw(hdc, rect);
 }
 
 UINT views::Thumbnails::Add(IAtom* pAtom, UINT nIndex)
@@ -89,7 +103,7 @@ UINT views::Thumbnails::Paint(UINT nIndex, bool bContainer, const Draw& draw)
         const WindowDC window(m_list.m_hWnd);
         BitmapHolder hPicture = std::move(m_hCanvas);
         if (!hPicture)
-            hPicture.reset(::CreateCompatibleBitmap(window.Get(), kWhole.Width(), kWhole.Height()));
+            hPicture.reset(::CreateCompatibleBitmap(window.Get(), m_nExtent, m_nExtent));
         MemoryDC memory(::CreateCompatibleDC(window.Get())); // goes before the bitmap, which it lets go of
         if (!memory)
             return nIndex;
@@ -110,17 +124,20 @@ template <class Draw>
 bool views::Thumbnails::PaintPicture(HDC hdc, bool bContainer, const Draw& draw) const
 {
     const auto nBackground = UINT_PTR{::GetClassLong(m_list.m_hWnd, GCL_HBRBACKGROUND)};
-    ::FillRect(hdc, kWhole, reinterpret_cast<HBRUSH>(nBackground));
+    const CRect whole(0, 0, m_nExtent, m_nExtent);
+    ::FillRect(hdc, whole, reinterpret_cast<HBRUSH>(nBackground));
 
-    CRect rect = kWhole;
-    rect.DeflateRect(kMargin, kMargin);
+    const int nMargin = (m_nExtent - GetDrawingExtent()) / 2;
+    CRect rect = whole;
+    rect.DeflateRect(nMargin, nMargin);
     if (!draw(hdc, rect))
         return false;
     if (bContainer) {
-        CRect marker = kMarker;
+        const int nMarker = m_nExtent - kMarkerInset - kMarkerExtent;
+        CRect marker(CPoint(nMarker, nMarker), CSize(kMarkerExtent, kMarkerExtent));
         m_marker.Draw(hdc, marker);
     }
-    ::DrawEdge(hdc, kWhole, EDGE_BUMP, BF_RECT);
+    ::DrawEdge(hdc, whole, EDGE_BUMP, BF_RECT);
     return true;
 }
 

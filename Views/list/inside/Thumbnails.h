@@ -8,6 +8,8 @@
 #include "Views/host/IAtom.h"
 #include "Views/host/inside/GdiHolders.h"
 
+class IAtomIcon;
+
 namespace views
 {
 
@@ -40,6 +42,10 @@ public:
     UINT Add(IAtom* pAtom, UINT nIndex); // its thumbnail, else its icon
     UINT AddFolder(UINT nIndex);
 
+    void SetExtent(int nExtent); // of all pictures from now on, in pixels each way; 128 at first
+    int GetExtent() const { return m_nExtent; }
+    int GetDrawingExtent() const;
+
     CImageList images; // grows, never shrinks while the window lives; image 0 is the folder picture
 
 private:
@@ -49,7 +55,10 @@ private:
     bool PaintPicture(HDC hdc, bool bContainer, const Draw& draw) const;
     UINT Store(UINT nIndex, HBITMAP hPicture);
 
+    int DrawIcon(IAtomIcon* pIcon, HDC hdc, CRect& rect) const;
+
     const CWnd& m_list;
+    int m_nExtent = 128;
     BitmapHolder m_hCanvas; // every picture is painted on it; empty while it is in use
     MaskedBitmap m_folder, m_marker;
 };

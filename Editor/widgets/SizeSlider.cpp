@@ -1,0 +1,104 @@
+#include "Editor/widgets/SizeSlider.h"
+
+#include "Editor/widgets/Look.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace editor
+{
+namespace
+{
+
+constexpr int kMargin = 2 * kSpace;
+constexpr int kGrooveHeight = 2;
+constexpr CSize kKnob(8, 16);
+constexpr int kStep = 8; // sizes between which nobody sees a difference
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CSizeSlider, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+BOOL CSizeSlider::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+}
+
+CRect CSizeSlider::Groove() const
+{
+    CRect groove;
+    GetClientRect(&groove);
+    groove.DeflateRect(kMargin, 0);
+    groove.top = groove.CenterPoint().y - kGrooveHeight / 2;
+    groove.bottom = groove.top + kGrooveHeight;
+    return groove;
+}
+
+CPoint CSizeSlider::PlaceOf(int nSize) const
+{
+    const CRect groove = Groove();
+    const double part = std::log2(1.0 * nSize / m_nLeast) / std::log2(1.0 * m_nMost / m_nLeast);
+    return {groove.left + static_cast<int>(std::lround(part * groove.Width())), groove.CenterPoint().y};
+}
+
+BOOL CSizeSlider::OnEraseBkgnd(HDC hdc)
+{
+    FillBottomBar(hdc, m_hWnd);
+    return TRUE;
+}
+
+void CSizeSlider::OnPaint()
+{
+    const CPaintDC dc(this);
+    const CPoint knob = PlaceOf(m_events.ask());
+    FillSolidRect(dc, Groove(), GetSysColor(COLOR_GRAYTEXT));
+    FillSolidRect(dc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), GetSysColor(COLOR_HIGHLIGHT));
+}
+
+void CSizeSlider::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    CWnd::OnLButtonDown(nFlags, point);
+    SetCapture();
+    Use(point.x);
+}
+
+void CSizeSlider::OnMouseMove(UINT nFlags, CPoint point)
+{
+    CWnd::OnMouseMove(nFlags, point);
+    if (GetCapture() == m_hWnd)
+        Use(point.x);
+}
+
+void CSizeSlider::OnLButtonUp(UINT nFlags, CPoint point)
+{
+    CWnd::OnLButtonUp(nFlags, point);
+    if (GetCapture() == m_hWnd)
+        ReleaseCapture();
+}
+
+BOOL CSizeSlider::OnMouseWheel(UINT, short zDelta, CPoint)
+{
+    m_events.step(zDelta > 0 ? 1 : -1);
+    return TRUE;
+}
+
+void CSizeSlider::Use(int x)
+{
+    const CRect groove = Groove();
+    if (groove.Width() <= 0)
+        return;
+    const double part = std::clamp(1.0 * (x - groove.left) / groove.Width(), 0.0, 1.0);
+    const double size = m_nLeast * std::pow(1.0 * m_nMost / m_nLeast, part);
+    m_events.set(static_cast<int>(std::lround(size / kStep)) * kStep);
+    Invalidate();
+}
+
+} // namespace editor

@@ -1,0 +1,46 @@
+// How large thumbnails are, in the line at the bottom.
+#pragma once
+
+#include "Toolkit/window/Wnd.h"
+
+#include <functional>
+
+namespace editor
+{
+
+// A knob on a groove: dragged, or sent to where a press is. From one end to the other the size doubles at equal steps.
+class CSizeSlider : public CWnd
+{
+public:
+    static constexpr int kWidth = 136; // pixels
+
+    struct Events
+    {
+        std::function<int()> ask;           // pixels
+        std::function<void(int nSize)> set; // by the user
+        std::function<void(int nNotches)> step;
+    };
+    CSizeSlider(int nLeast, int nMost, Events events) : m_nLeast(nLeast), m_nMost(nMost), m_events(std::move(events)) {}
+    ~CSizeSlider() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    CPoint PlaceOf(int nSize) const; // the knob's middle; client
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect Groove() const;
+    void Use(int x);
+
+    const int m_nLeast, m_nMost;
+    const Events m_events;
+};
+
+} // namespace editor
