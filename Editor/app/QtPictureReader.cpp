@@ -87,11 +87,22 @@ bool SkipFrames(QImageReader& reader, int frames)
     return frames == 0;
 }
 
+// What is there only to fill a pixel up does not count.
+int BitsOf(QImage::Format format)
+{
+    if (format == QImage::Format_Invalid)
+        return 0;
+    const QPixelFormat pixel = QImage::toPixelFormat(format);
+    return pixel.bitsPerPixel() - (pixel.alphaUsage() == QPixelFormat::IgnoresAlpha ? pixel.alphaSize() : 0);
+}
+
 DecodedPicture Decode(QImageReader& reader, QSize max, int frame)
 {
     reader.setAutoTransform(true);
     const int frames = reader.supportsAnimation() ? std::max(1, reader.imageCount()) : 1;
     const QSize stored = reader.size();
+    const QImage::Format pixels = reader.imageFormat();
+    const std::string format = reader.format().toUpper().toStdString(); // forgotten once it is read
     if (frame >= frames || !SkipFrames(reader, frame))
         return {{}, {}, "there is no such frame", frames};
     if (stored.isValid())
@@ -105,7 +116,12 @@ DecodedPicture Decode(QImageReader& reader, QSize max, int frame)
         full = IsTurned(reader) ? stored.transposed() : stored;
     else // the decoder could not tell before
         image = image.scaled(FitInto(full, max), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    return {ToSurface(image), CSize(full.width(), full.height()), {}, frames};
+    return {ToSurface(image),
+            CSize(full.width(), full.height()),
+            {},
+            frames,
+            format,
+            BitsOf(pixels != QImage::Format_Invalid ? pixels : image.format())};
 }
 
 } // namespace

@@ -28,6 +28,7 @@ public:
     const CEditorList& GetList() const { return *m_pList; }
     hostkit::CPane& GetListPane() { return m_listPane; }
     CPictureView& GetPicture() { return m_picture; }
+    const CPictureView& GetPicture() const { return m_picture; }
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
     bool Is(HWND hWnd) const { return hWnd && (hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.GetSafeHwnd()); }
 

@@ -2,6 +2,8 @@
 
 #include "Editor/model/Phase.h"
 
+#include <cmath>
+
 namespace editor
 {
 namespace
@@ -17,7 +19,9 @@ std::string WithSize(const CMember& member, const PictureStore& pictures)
     const CSize size = pictures.FullSizeOf(member.Path());
     if (size == CSize())
         return member.ShownName();
-    return member.ShownName() + ": " + std::to_string(size.cx) + " x " + std::to_string(size.cy) + " pixels";
+    const std::string format = pictures.FormatOf(member.Path());
+    return member.ShownName() + ": " + std::to_string(size.cx) + " x " + std::to_string(size.cy) + " pixels" +
+           (format.empty() ? "" : ", " + format);
 }
 
 Status Describe(std::string text, const CMember& member, const PictureStore& pictures)
@@ -28,9 +32,9 @@ Status Describe(std::string text, const CMember& member, const PictureStore& pic
 
 } // namespace
 
-Status DescribePicture(const CMember& picture, const PictureStore& pictures)
+Status DescribePicture(const CMember& picture, const PictureStore& pictures, double dZoom)
 {
-    return Describe({}, picture, pictures);
+    return Describe(dZoom == 0 ? "" : std::to_string(std::lround(dZoom * 100)) + " %", picture, pictures);
 }
 
 Status DescribeList(const CEditorList& list, int nHidden, const CMember* pShown, const PictureStore& pictures)

@@ -9,7 +9,7 @@
 namespace editor
 {
 
-Status DescribePicture(const CMember& picture, const PictureStore& pictures);
+Status DescribePicture(const CMember& picture, const PictureStore& pictures, double dZoom); // 0: it fits
 // pShown may be NULL. nHidden objects of it are not in the list.
 Status DescribeList(const CEditorList& list, int nHidden, const CMember* pShown, const PictureStore& pictures);
 std::string DescribeEmptyList(const CMember* pShown); // may be NULL

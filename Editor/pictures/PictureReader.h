@@ -15,6 +15,8 @@ struct DecodedPicture
     CSize fullSize;           // of the picture in the file; `picture` may be smaller
     std::string error;        // why there is no picture, without the file's name: "not a PNG picture"
     int frames = 1;           // that the file has; more than one: it is animated
+    std::string format{};     // of the file: "PNG"; empty where nobody knows
+    int bits = 0;             // of each of its pixels, those of its transparency among them; 0: nobody knows
 };
 
 // Read is called on worker threads, several at a time; Extensions on the user-interface thread. Nobody waits for a

@@ -18,6 +18,14 @@ std::string KeyOf(const DecodeJob& job)
            std::to_string(job.frame);
 }
 
+std::string FormatText(const DecodedPicture& decoded)
+{
+    const std::string bits = std::to_string(decoded.bits) + (decoded.bits == 1 ? " bit" : " bits");
+    if (decoded.format.empty() || decoded.bits == 0)
+        return decoded.format;
+    return decoded.format + ", " + bits;
+}
+
 bool FitsInto(CSize picture, CSize room)
 {
     return picture.cx <= room.cx && picture.cy <= room.cy;
@@ -63,6 +71,12 @@ CSize PictureStore::FullSizeOf(const std::string& path) const
 {
     const auto at = m_entries.find(path);
     return at == m_entries.end() ? CSize() : at->second.fullSize;
+}
+
+std::string PictureStore::FormatOf(const std::string& path) const
+{
+    const auto at = m_entries.find(path);
+    return at == m_entries.end() ? std::string() : at->second.format;
 }
 
 int PictureStore::FrameCountOf(const std::string& path) const
@@ -238,6 +252,7 @@ bool PictureStore::Keep(DecodeResult& result)
             entry.error = std::move(result.decoded.error);
             entry.fullSize = result.decoded.fullSize;
             entry.frames = result.decoded.frames;
+            entry.format = FormatText(result.decoded);
         }
         if (entry.error.empty())
             entry.variants.push_back({result.job.size, result.job.frame, std::move(result.decoded.picture)});

@@ -46,7 +46,8 @@ public:
     std::string ErrorOf(const std::string& path) const;
     // Of the picture in the file, in pixels; 0 by 0 when it is not known.
     CSize FullSizeOf(const std::string& path) const;
-    int FrameCountOf(const std::string& path) const; // 0 when it is not known
+    std::string FormatOf(const std::string& path) const; // "PNG, 32 bits"; empty when it is not known
+    int FrameCountOf(const std::string& path) const;     // 0 when it is not known
     // Nothing is being read, also not for those who no longer wait, and no result is on its way.
     bool IsIdle() const { return m_waiting.empty() && m_queue.IsIdle(); }
 
@@ -73,6 +74,7 @@ private:
     {
         CSize fullSize;
         int frames = 0;
+        std::string format;
         std::string error;
         FileStamp stamp;
         bool bStale = false;

@@ -58,7 +58,12 @@ TEST_F(PictureReaderTest, AnOrdinaryMachineReadsTheUsualKindsWhateverTheFilesAre
     for (const char* pszKnown : {"png", "jpg", "jpeg", "gif", "bmp"})
         EXPECT_EQ(1, std::count(extensions.begin(), extensions.end(), pszKnown)) << pszKnown;
     WriteBytes("really-png.jpg", BytesOf(TwoHalves(8, 8), "png"));
-    EXPECT_EQ("", Read("really-png.jpg", {8, 8}).error);
+    const DecodedPicture picture = Read("really-png.jpg", {8, 8});
+    EXPECT_EQ("PNG 32", picture.format + ' ' + std::to_string(picture.bits)) << picture.error;
+    for (const auto& [format, nBits] : {std::pair(QImage::Format_RGB32, 24), {QImage::Format_Grayscale8, 8}}) {
+        WriteBytes("a.png", BytesOf(TwoHalves(8, 8).convertToFormat(format), "png"));
+        EXPECT_EQ(nBits, Read("a.png", {4, 4}).bits);
+    }
 }
 
 TEST_F(PictureReaderTest, APictureComesPremultipliedAndSmallerButNeverLarger)

@@ -1,5 +1,7 @@
 #include "Editor/widgets/Look.h"
+#include "Toolkit/graphics/Scale.h"
 #include "tests/editor/EditorFixture.h"
+#include "tests/support/BmpFile.h"
 
 #include <algorithm>
 
@@ -78,6 +80,88 @@ TEST_F(EditorTest, TheArrowsLeadFromPictureToPictureAndWhatIsTransparentLiesOnCh
     Press(VK_LEFT);
     EXPECT_EQ("2.bmp", Frame().Shown()->ShownName());
     EXPECT_EQ(Picture(), GetFocus());
+}
+
+TEST_F(EditorTest, APictureIsZoomedWhereTheMouseIsAndDraggedAndItsOwnPixelsAreShown)
+{
+    toolkit::Surface picture({1000, 800}, 0xFF000000);
+    for (int y = 0; y < 800; ++y)
+        for (int x = 0; x < 1000; ++x)
+            picture.Row(y)[x] = 0xFF000000u | static_cast<unsigned>(x) << 8 | static_cast<unsigned>(y / 4);
+    folder.Write("a.bmp", EncodeBmp(picture));
+    folder.WriteBmp("b.bmp", 1000, 800, 0xFF102030);
+    Open();
+    DoubleClick("a.bmp");
+    const CPoint middle = toolkit::Centred({}, desktop.Dump(Picture()).Bounds());
+    const auto under = [&](CPoint at) { return desktop.Dump(Picture()).At(at.x, at.y); };
+    const auto isNear = [](toolkit::Pixel a, toolkit::Pixel b) {
+        return std::abs(static_cast<int>(a >> 8 & 0xFFFF) - static_cast<int>(b >> 8 & 0xFFFF)) <= 3;
+    };
+    const CPoint at(middle.x + 20, middle.y - 10);
+    const toolkit::Pixel before = under(at);
+    for (int i = 0; i < 3; ++i)
+        desktop.Wheel(Picture(), at, 1);
+    Settle();
+    EXPECT_PRED2(isNear, before, under(at)) << "the same point";
+    Press('1');
+    EXPECT_EQ("100 %", Frame().GetStatus().text);
+    EXPECT_EQ(under(middle) + 0x100, under(middle + CPoint(1, 0))) << "pixel by pixel";
+    const toolkit::Pixel center = under(middle);
+    desktop.Press(Picture(), middle);
+    desktop.MoveTo(Picture(), middle - CPoint(50, 0));
+    desktop.Release(Picture(), middle - CPoint(50, 0));
+    EXPECT_EQ(center + 50 * 0x100, under(middle));
+    for (int i = 0; i < 20; ++i)
+        Press(VK_ADD);
+    EXPECT_EQ("3200 %", Frame().GetStatus().text);
+    EXPECT_EQ(under(middle), under(middle + CPoint(1, 0))) << "squares";
+    Press(VK_RIGHT);
+    EXPECT_EQ("3200 %", Frame().GetStatus().text) << "the next picture, likewise";
+    Press('0');
+    EXPECT_EQ("", Frame().GetStatus().text);
+    EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
+}
+
+TEST_F(EditorTest, ThumbnailsHaveTheSizeTheUserWantsAndWhatWasSeenStaysInSight)
+{
+    for (int i = 0; i < 60; ++i)
+        folder.WriteBmp(std::to_string(i) + ".bmp", i == 30 ? 8 : 200, i == 30 ? 8 : 150, 0xFF405060);
+    Open();
+    Control('2');
+    Frame().GetList().SetItemState(30, LVIS_SELECTED, LVIS_SELECTED);
+    Frame().GetList().FocusSelection();
+    Frame().GetList().SetItemState(30, 0, LVIS_SELECTED);
+    Settle();
+    const auto extent = [&] { return Frame().GetContent().GetThumbnailExtent(); };
+    const auto isSeen = [&] {
+        CRect row, client;
+        GetClientRect(List(), &client);
+        Frame().GetList().GetItemRect(30, &row, LVIR_ICON);
+        return row.top >= 0 && row.top < client.bottom;
+    };
+    reader.TakeReads();
+    std::string sizes;
+    for (const UINT vkey : {VK_OEM_PLUS, VK_OEM_PLUS, VK_OEM_MINUS, UINT{'0'}}) {
+        Control(vkey);
+        sizes += std::to_string(extent()) + (isSeen() ? " " : "! ");
+    }
+    EXPECT_EQ("160 192 160 128 ", sizes);
+    const HWND hSlider = Frame().GetSizeSlider().m_hWnd;
+    desktop.Click(hSlider, Frame().GetSizeSlider().PlaceOf(512) + CPoint(8, 0));
+    EXPECT_TRUE(isSeen() && extent() == 512);
+    Settle();
+    const auto countOf = [&] {
+        const toolkit::Surface shown = desktop.Dump(List());
+        return std::count(shown.Row(0), shown.Row(0) + shown.Width() * shown.Height(), 0xFF405060);
+    };
+    EXPECT_EQ(64, countOf()) << "as it is";
+    Frame().GetViews().TogglePixels();
+    Settle();
+    EXPECT_LT(300 * 300, countOf()) << "its pixels as squares";
+    desktop.Hold({.control = true});
+    desktop.Wheel(List(), {50, 50}, -1);
+    desktop.Hold({});
+    EXPECT_EQ(384, extent());
 }
 
 TEST_F(EditorTest, WhatIsNoPictureTravelsWithTheOthersAndIsOpenedByItsProgram)

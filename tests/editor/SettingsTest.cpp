@@ -32,6 +32,8 @@ TEST_F(SettingsTest, TheNextWindowIsAsTheLastOneWasAndNeverLargerThanTheScreen)
     toolkit::InputMoved(App().GetMainWindow(), {300, 200});
     desktop.Run();
     Control('2');
+    Control(VK_OEM_PLUS);
+    Frame().GetViews().TogglePixels();
     Frame().GetViews().SetFoldersFirst(true);
     const HWND hBar = Frame().GetSplitter().m_hWnd;
     desktop.Press(hBar, {3, 200});
@@ -43,6 +45,8 @@ TEST_F(SettingsTest, TheNextWindowIsAsTheLastOneWasAndNeverLargerThanTheScreen)
     EXPECT_EQ(CRect(300, 200, 1100, 700), Place());
     EXPECT_EQ(editor::ListKind::Thumbnails, Frame().GetContent().GetKind());
     EXPECT_EQ("[Ada Bo a.bmp]", Rows());
+    EXPECT_EQ(160, Frame().GetContent().GetThumbnailExtent());
+    EXPECT_TRUE(Frame().GetContent().ArePixelsShown());
     CRect bar;
     GetWindowRect(Frame().GetSplitter().m_hWnd, &bar);
     EXPECT_EQ(330, bar.left - 300);

@@ -144,6 +144,29 @@ TEST_F(ThumbListTest, APictureIsTheThumbnailElseTheIconElseTheFolder)
     EXPECT_EQ("", ImageDifference(list, 5, {kThumbFills[0], kThumbFills[1], {{108, 108, 124, 124}, kMarker}}));
 }
 
+TEST_F(ThumbListTest, TheHostChoosesHowLargePicturesAreAndLargeOnesLeaveTheMemorySooner)
+{
+    FakeContainer* const pMany = MakeBox({});
+    for (int i = 0; i < 200; ++i)
+        pMany->Add(new FakeAtom("n" + std::to_string(i)));
+    CThumbList& list = MakeShown();
+    list.SetRootAtom(pMany);
+    EXPECT_FALSE(list.SetPictureExtent(31));
+    for (const auto& [nExtent, nDrawn] : {std::pair(64, 40), {512, 464}, {128, 80}, {512, 464}}) {
+        EXPECT_TRUE(list.SetPictureExtent(nExtent));
+        desktop.Run();
+        int cx = 0, cy = 0;
+        ImageList_GetIconSize(Images(list), &cx, &cy);
+        EXPECT_EQ(CSize(nExtent, nExtent), CSize(cx, cy));
+        EXPECT_EQ(nDrawn, list.GetDrawingExtent());
+    }
+    for (int i = 0; i < 200; ++i, desktop.Advance(10)) {
+        list.EnsureVisible(i, FALSE);
+        desktop.Run();
+    }
+    EXPECT_LE(CountImages(list), 70) << "of a megabyte each";
+}
+
 TEST_F(ThumbListTest, WithoutTheHostsBitmapsPicturesAreBlankAndNeverAnotherRows)
 {
     resources.Leave();
