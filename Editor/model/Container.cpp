@@ -87,13 +87,9 @@ CMember* CContainer::LiveMember(std::string_view name)
     return nIndex == MemberTable::kNone ? nullptr : m_pContents->table.LiveAt(nIndex);
 }
 
-bool CContainer::HoldsAny()
+std::optional<bool> CContainer::HoldsAny()
 {
-    if (m_pContents)
-        return GetCount() > 0;
-    if (!m_holdsAny)
-        m_holdsAny = FindAny();
-    return *m_holdsAny;
+    return m_pContents ? GetCount() > 0 : m_holdsAny;
 }
 
 std::string CContainer::ErrorReason() const

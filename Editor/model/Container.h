@@ -5,6 +5,7 @@
 #include "Editor/disk/Trash.h"
 #include "Editor/model/Member.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -39,9 +40,12 @@ public:
     // only what was found out without reading them is forgotten.
     void ReadAgain(MemberNews& news);
     CMember* LiveMember(std::string_view name); // whose atom somebody holds; borrowed, else NULL. Reads nothing
-    // Whether there are members, found out without reading more than need be; known until the container it is in is
-    // read anew.
-    bool HoldsAny();
+    // Whether there are members, as far as it is known without asking the disk: until the container it is in is read
+    // anew.
+    std::optional<bool> HoldsAny();
+    void NoteHoldsAny(bool bAny) { m_holdsAny = bAny; }
+    // Finds it out, without reading more than need be. Knows nothing of this object: any thread may call it.
+    virtual std::function<bool()> LookForAny() const = 0;
     std::string ErrorReason() const override; // why the members could not be read, once they were to be
 
     UINT GetCount() override;
@@ -74,7 +78,6 @@ protected:
 
     std::string LastErrorLine() const override;
     virtual Listing Read() = 0;
-    virtual bool FindAny() { return GetCount() > 0; }
     virtual bool KeepsPlaces() const { return false; } // is a member what stands in its place, whatever its name?
     virtual UINT FindName(const MemberTable& table, std::string_view name) const = 0;
     virtual CMember* MakeMember(UINT nIndex, MemberKind kind) = 0; // with one reference
@@ -129,7 +132,7 @@ private:
     void Forget(const CMember& member);
 
     std::unique_ptr<Contents> m_pContents;  // NULL until the members are asked for
-    std::optional<bool> m_holdsAny;         // as far as it was asked for before they were
+    std::optional<bool> m_holdsAny;         // as far as it was found out before they were
     std::string m_validName;                // given by ValidateName, and used by no member yet
     std::string m_failure;                  // of the last change; empty when it succeeded
     std::pair<DWORD, std::string> m_stayed; // which could not be removed, and why

@@ -8,8 +8,20 @@
 #include "Editor/model/PlainFile.h"
 #include "Editor/pictures/IconPainter.h"
 
+#include <algorithm>
+
 namespace editor
 {
+namespace
+{
+
+bool Contains(const std::vector<DirectoryIdentity>& identities, const DirectoryIdentity& identity)
+{
+    return std::ranges::find(identities, identity) != identities.end();
+}
+
+} // namespace
+
 CContainer::Listing CFolder::Read()
 {
     Listing listing;
@@ -17,7 +29,7 @@ CContainer::Listing CFolder::Read()
         m_watched = pWatch->Watch(Path()); // before it is read: nothing is missed
     Directory directory(Path());
     m_identity = {};
-    if (directory.GetError() == 0 && IsInside(directory.GetIdentity())) {
+    if (directory.GetError() == 0 && Contains(Outer(), directory.GetIdentity())) {
         listing.error = "a link to a folder that holds it, not opened";
         return listing;
     }
@@ -36,17 +48,18 @@ CContainer::Listing CFolder::Read()
     return listing;
 }
 
-bool CFolder::FindAny()
+std::function<bool()> CFolder::LookForAny() const
 {
-    Directory directory(Path());
-    bool bAny = false;
-    if (directory.GetError() == 0 && !IsInside(directory.GetIdentity())) {
-        directory.ForEach([&](const char*, bool) {
-            bAny = true;
-            return false;
-        });
-    }
-    return bAny;
+    return [path = Path(), outer = Outer()] {
+        Directory directory(path);
+        bool bAny = false;
+        if (directory.GetError() == 0 && !Contains(outer, directory.GetIdentity()))
+            directory.ForEach([&](const char*, bool) {
+                bAny = true;
+                return false;
+            });
+        return bAny;
+    };
 }
 
 CMember* CFolder::MakeMember(UINT nIndex, MemberKind kind)
@@ -68,14 +81,13 @@ toolkit::Surface CFolder::DrawIcon(CSize size)
     return PaintPictogram(hostkit::Pictogram::Folder, size);
 }
 
-bool CFolder::IsInside(const DirectoryIdentity& identity) const
+std::vector<DirectoryIdentity> CFolder::Outer() const
 {
-    for (const CContainer* pOuter = Container(); pOuter; pOuter = pOuter->Container()) {
-        const auto* const pFolder = dynamic_cast<const CFolder*>(pOuter);
-        if (pFolder && pFolder->m_identity == identity)
-            return true;
-    }
-    return false;
+    std::vector<DirectoryIdentity> outer;
+    for (const CContainer* pOuter = Container(); pOuter; pOuter = pOuter->Container())
+        if (const auto* const pFolder = dynamic_cast<const CFolder*>(pOuter))
+            outer.push_back(pFolder->m_identity);
+    return outer;
 }
 
 } // namespace editor

@@ -25,15 +25,14 @@ public:
     std::string Make(MemberKind kind, const std::string& name, const std::string& text, CStubRef<CMember>& pMade);
     // Of a file anywhere that has been copied into it, for a move: to the trash. Empty, or one line with the reason.
     std::string RemoveOriginal(const std::string& path);
-    LongWork* Work() const { return Context().pWork; } // NULL: what takes long is done at once
-    bool IsFollowed() const;                           // false: others' doings are to be seen, but are not told of
+    bool IsFollowed() const; // false: others' doings are to be seen, but are not told of
+    std::function<bool()> LookForAny() const override;
 
     // Looks for those of its files alone that the disk has told of, if it has been read.
     void LookFor(const FolderNews& onDisk, MemberNews& news);
 
 protected:
     Listing Read() override;
-    bool FindAny() override;
     UINT FindName(const MemberTable& table, std::string_view name) const override { return table.FindSorted(name); }
     CMember* MakeMember(UINT nIndex, MemberKind kind) override;
     toolkit::Surface DrawIcon(CSize size) override;
@@ -53,7 +52,7 @@ private:
     void LookForName(const Directory& directory, const std::string& name, MemberNews& news);
     void LookForRenamed(const Directory& directory, const std::string& from, const std::string& to, MemberNews& news);
     std::optional<MemberKind> KindOnDisk(const Directory& directory, const std::string& name) const;
-    bool IsInside(const DirectoryIdentity& identity) const; // is one of the folders that hold this one that directory?
+    std::vector<DirectoryIdentity> Outer() const; // of the folders that hold this one
 
     DirectoryIdentity m_identity; // once it has been read
     TakenNames m_taken;

@@ -66,6 +66,11 @@ PhaseFollower* CMember::Follower() const
     return Context().pFollower.get();
 }
 
+LongWork* CMember::Work() const
+{
+    return Context().pWork;
+}
+
 std::string CMember::ErrorLine() const
 {
     const std::string reason = ErrorReason();

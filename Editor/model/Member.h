@@ -13,6 +13,7 @@ namespace editor
 
 class CContainer;
 class CPhase;
+class LongWork;
 class PhaseFollower;
 struct LibraryContext;
 
@@ -33,6 +34,7 @@ public:
     std::string PathInLibrary() const; // from the library on; empty for the library, and for what lies outside
     const std::vector<const CPhase*>& UnsavedPhases() const; // of the whole library
     PhaseFollower* Follower() const;                         // the library's; NULL without a history
+    LongWork* Work() const;                                  // the library's; NULL: what takes long is done at once
     virtual std::string ErrorReason() const { return {}; }   // what is wrong with it; empty when nothing is known
     std::string ErrorLine() const;                           // the name to it; empty without a reason
 

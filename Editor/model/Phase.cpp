@@ -116,6 +116,14 @@ CContainer::Listing CPhase::Read()
     return listing;
 }
 
+std::function<bool()> CPhase::LookForAny() const
+{
+    return [path = Path()] {
+        std::string text;
+        return ReadPhaseText(path, text).empty() && !PictureLines(text).empty();
+    };
+}
+
 UINT CPhase::FindName(const MemberTable& table, std::string_view name) const
 {
     for (UINT i = 0; i < table.GetCount(); ++i)

@@ -50,6 +50,7 @@ public:
 
     // Where the picture of a frame is; empty where there is no such frame, or it lies outside the library.
     std::string PathOfFrame(UINT nFrame);
+    std::function<bool()> LookForAny() const override;
     UINT GetFrameCount() override { return GetCount(); }
     BOOL Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame) override;
 

@@ -163,7 +163,26 @@ void CEditorTree::OnGetDispInfo(TVDISPINFO* pInfo)
     if (!(item.mask & TVIF_CHILDREN) || !pRecord || AreMembersShown(item.hItem))
         return;
     if (auto* const pContainer = dynamic_cast<CContainer*>(pRecord->pAtom.Get()))
-        item.cChildren = pContainer->HoldsAny() ? 1 : 0;
+        item.cChildren = MayHoldAny(*pContainer) ? 1 : 0;
+}
+
+// Nobody knows is as good as yes: expanding it will tell.
+bool CEditorTree::MayHoldAny(CContainer& container)
+{
+    if (const auto known = container.HoldsAny())
+        return *known;
+    if (m_asked.contains(&container))
+        return true;
+    const auto now = m_questions.Ask(container.LookForAny(), [this, pAsked = &container](bool bAny) {
+        pAsked->NoteHoldsAny(bAny);
+        m_asked.erase(pAsked);
+        Invalidate();
+    });
+    if (now)
+        container.NoteHoldsAny(*now);
+    else
+        m_asked.emplace(&container, CStubRef<CContainer>::Share(&container));
+    return now.value_or(true);
 }
 
 void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
@@ -178,6 +197,8 @@ void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
     }
     const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
     const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
+    auto* const pContainer = dynamic_cast<CContainer*>(pAtom.Get());
+    const LongWork::Command command(pContainer ? pContainer->Work() : nullptr, "Reading", Progress::Unit::Found);
     ShowMembers(pAtom.Get());
     Invalidate(); // without members the button goes
 }

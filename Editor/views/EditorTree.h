@@ -3,16 +3,18 @@
 
 #include "Editor/views/DropTargets.h"
 #include "Editor/views/NameField.h"
+#include "Editor/work/Questions.h"
 #include "Views/tree/ObjectsTree.h"
 
 namespace editor
 {
 
+class CContainer;
 class CMember;
 
 // A library on disk may be of any size, or a ring of links. So a folder is read when its item is first expanded, or
 // when something in it is opened; until then a look into it, no longer than it takes to find the first member, tells
-// whether it can be expanded.
+// whether it can be expanded; on a slow disk that is told when it is known.
 class CEditorTree : public CObjectsTree
 {
 public:
@@ -44,12 +46,15 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    bool MayHoldAny(CContainer& container);
     void ShowItemOf(CMember* pMember);
     void UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer);
 
     CEditorTreeTarget m_target;
     NameField m_nameField;
     const std::function<void()> m_pressed;
+    std::map<const CContainer*, CStubRef<CContainer>> m_asked; // whose answers are waited for
+    Questions m_questions;
     UINT m_nMostItems = ~0u; // with so many items nothing more is read
 };
 

@@ -1,7 +1,9 @@
 // Work that takes long: what the user sees of it, and what is left when it is cancelled.
+#include "Editor/work/Questions.h"
 #include "tests/editor/EditorFixture.h"
 
 #include <filesystem>
+#include <future>
 
 namespace
 {
@@ -54,6 +56,26 @@ TEST_F(LongWorkTest, ShowsHowFarItIsAndLetsNothingElseBeDone)
     EXPECT_FALSE(IsStripShown());
     EXPECT_EQ(Ledger(), TakeBoxes());
     EXPECT_NE("", desktop.PublishedKinds());
+}
+
+TEST_F(LongWorkTest, ASlowDiskAnswersLaterAndHoldsUpNobody)
+{
+    editor::Questions questions;
+    std::string heard;
+    const auto ask = [&](std::function<bool()> question, const char* pszName) {
+        const auto now = questions.Ask(std::move(question), [&heard, pszName](bool bAnswer) {
+            heard += pszName + std::string(bAnswer ? ": yes " : ": no ");
+        });
+        return !now ? "later" : *now ? "yes" : "no";
+    };
+    std::promise<bool> slow;
+    EXPECT_STREQ("later", ask([answer = slow.get_future().share()] { return answer.get(); }, "slow"));
+    EXPECT_STREQ("later", ask([] { return false; }, "behind it"));
+    slow.set_value(true);
+    while (heard.find("behind") == heard.npos)
+        desktop.Run();
+    EXPECT_EQ("slow: yes behind it: no ", heard);
+    EXPECT_STREQ("no", ask([] { return false; }, "fast"));
 }
 
 TEST_F(LongWorkTest, WhatIsCancelledLeavesWhatWasDoneAsOneStep)
