@@ -107,6 +107,11 @@ void Content::SetFilter(const std::function<bool(IAtom* pAtom)>& isShown)
     m_thumbnails.SetFilter(isShown);
 }
 
+void Content::ShowEmptyList()
+{
+    m_listPane.ShowView(m_pList->GetSafeHwnd(), {}, {});
+}
+
 void Content::ReloadList()
 {
     if (!IsPictureShown())

@@ -46,7 +46,8 @@ public:
     bool ArePixelsShown() const { return m_pictures.IsEnlarging(); }
     void SetOrder(UINT nOrder); // MOF_*, of both lists
     void SetFilter(const std::function<bool(IAtom* pAtom)>& isShown);
-    void ReloadList(); // by the present filter
+    void ShowEmptyList(); // while the first folder is being read, which then shows it properly
+    void ReloadList();    // by the present filter
     // The picture takes the list's place, and the focus unless that is kept.
     void ShowPicture(CMember* pMember, bool bKeepFocus);
     void HidePicture();

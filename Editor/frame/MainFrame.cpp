@@ -98,6 +98,7 @@ void CMainFrame::Follow(const Settings& settings)
     m_content.SetThumbnailExtent(settings.thumbnailExtent > 0 ? settings.thumbnailExtent : Content::kUsualThumbnail);
     m_content.ShowPixels(settings.pixels);
     ShowList(settings.thumbnails ? ListKind::Thumbnails : ListKind::Icons);
+    m_content.ShowEmptyList();
 }
 
 void CMainFrame::Remember(Settings& settings) const
