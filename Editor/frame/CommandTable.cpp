@@ -103,6 +103,7 @@ constexpr CommandEntry kCommands[] = {
     {.nID = ID_PIXELS, .menu = Menu::View, .pszText = "Small pictures as s&quares", .pOn = &Can::pixels, .run = Do<&Views::TogglePixels>},
     {.nID = ID_FILTER, .menu = Menu::View, .pszText = "Filter by &name", .bSection = true, .key = {'F', With::Control}, .reach = Reach::OfFrame, .tool = Pictogram::Find, .pWhyNot = &Can::list, .pOn = &Can::filter,
      .run = Do<&Views::ToggleFilter>},
+    {.nID = ID_SEARCH, .menu = Menu::View, .pszText = "Search &below", .key = {'F', With::ControlShift}, .reach = Reach::OfFrame, .run = Do<&Views::BeginSearch>},
     {.nID = ID_FOLDERS_FIRST, .menu = Menu::View, .pszText = "&Folders first",
      .pOn = &Can::foldersFirst, .run = Do<&Views::ToggleFoldersFirst>},
     {.nID = ID_REFRESH, .menu = Menu::View, .pszText = "&Refresh", .bSection = true, .context = Context::Yes,

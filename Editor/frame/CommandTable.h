@@ -52,6 +52,7 @@ inline constexpr UINT ID_LARGER = 3061;
 inline constexpr UINT ID_SMALLER = 3062;
 inline constexpr UINT ID_USUAL_SIZE = 3063;
 inline constexpr UINT ID_PIXELS = 3064;
+inline constexpr UINT ID_SEARCH = 3066;
 inline constexpr UINT ID_OWN_SIZE = 3065;
 inline constexpr UINT ID_RECENT = 3057;       // a menu
 inline constexpr UINT ID_RECENT_FIRST = 3100; // in it

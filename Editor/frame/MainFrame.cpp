@@ -67,9 +67,11 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
                     [this] { m_content.TakeFocus(); }}),
       m_keysSheet([this] { m_content.TakeFocus(); }),
       m_filter(m_content, [this] { UpdateStatus(); }),
+      m_search(
+          {m_navigation, m_commands, m_content, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }}),
       m_places({editor, m_navigation, m_pathBar, m_outside.places,
                 [this](std::string line) { m_statusBar.SetNews(std::move(line)); }}),
-      m_views({*this, m_treePane, m_tree, m_content, m_properties, m_keysSheet, m_filter}),
+      m_views({*this, m_treePane, m_tree, m_content, m_properties, m_keysSheet, m_filter, m_search}),
       m_desk({m_commands, m_places, m_views}, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
       m_keys({*this, m_tree, m_splitter, m_content, m_navigation, m_filter, m_desk}),
       m_statusBar([this] { return GetStatus(); }),
@@ -172,6 +174,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     m_navigation.ReadAside(pMember);
     m_navigation.SetShown(pMember);
     m_filter.Forget();
+    m_search.Forget();
     if (CStubRef<IAtomContainer>::From(pAtom))
         m_content.HidePicture();
     else // whoever walks through the tree stays in it
@@ -225,7 +228,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
     const bool bMade = MakeBars() && m_treePane.Create(this) && m_splitter.Create(this) && m_content.Create(this) &&
                        m_workView.Create(&m_statusBar) && m_tree.Create(&m_treePane) && m_properties.Create(this) &&
-                       m_keysSheet.Create(this) && m_filter.Create();
+                       m_keysSheet.Create(this) && m_filter.Create() && m_search.Create(this);
     return bMade ? 0 : -1;
 }
 

@@ -60,6 +60,7 @@ public:
     CProgressStrip& GetProgress() { return m_workView.GetStrip(); }
     FrameCommands& GetCommands() { return m_commands; }
     Filter& GetFilter() { return m_filter; }
+    Search& GetSearch() { return m_search; }
     ViewCommands& GetViews() { return m_views; }
     Content& GetContent() { return m_content; }
     void ShowList(ListKind kind) { m_content.ShowList(kind); }
@@ -134,6 +135,7 @@ private:
     CPropertiesPane m_properties;
     CKeysSheet m_keysSheet;
     Filter m_filter;
+    Search m_search;
     PlaceCommands m_places;
     ViewCommands m_views;
     CommandDesk m_desk;

@@ -51,6 +51,7 @@ void CMainFrame::Arrange()
     m_treePane.MoveWindow(layout.tree);
     m_splitter.MoveWindow(layout.splitter);
     m_content.MoveTo(layout.content);
+    m_search.GetSheet().MoveWindow({layout.content.left, layout.content.top, client.right, layout.status.top});
     m_properties.MoveWindow(layout.properties);
     CRect status = layout.status;
     const bool bSizes = m_content.GetKind() == ListKind::Thumbnails && !m_content.IsPictureShown();

@@ -82,6 +82,11 @@ void ViewCommands::ToggleFilter()
         m_parts.filter.Begin();
 }
 
+void ViewCommands::BeginSearch()
+{
+    m_parts.search.Begin(m_parts.filter.IsOn() ? m_parts.filter.GetText() : std::string());
+}
+
 void ViewCommands::FocusNextPane()
 {
     CRect tree;

@@ -5,6 +5,7 @@
 #include "Editor/frame/Content.h"
 #include "Editor/frame/Filter.h"
 #include "Editor/frame/PropertiesPane.h"
+#include "Editor/frame/Search.h"
 #include "Editor/views/EditorTree.h"
 #include "Editor/widgets/KeysSheet.h"
 #include "HostKit/frame/Pane.h"
@@ -24,6 +25,7 @@ public:
         CPropertiesPane& properties;
         CKeysSheet& keys;
         Filter& filter;
+        Search& search;
     };
     explicit ViewCommands(Parts parts) : m_parts(parts) {}
 
@@ -42,6 +44,7 @@ public:
     void SetFoldersFirst(bool bFirst);
     bool AreFoldersFirst() const { return m_bFoldersFirst; }
     void ToggleFilter();
+    void BeginSearch(); // for what the filter holds
     void FocusNextPane();
     void FocusTiming() { m_parts.properties.FocusFields(); }
     void LeaveFields(); // which enters what was typed

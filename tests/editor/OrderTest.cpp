@@ -103,4 +103,45 @@ TEST_F(OrderTest, WhatIsTypedIntoTheFilterLeavesThoseWhoseNamesHoldIt)
     EXPECT_FALSE(Frame().GetFilter().IsOn());
 }
 
+TEST_F(OrderTest, NamesAreSearchedForInAllFoldersBelowAndEnterGoesThere)
+{
+    folder.Make("Ada/Poses/walk2.bmp Ada/Walks/ .hidden/walk.bmp walk1.bmp wave.bmp");
+    folder.Link("Ada/back", folder.Path());
+    folder.MakeEmptyFiles(1200, "many%d.txt");
+    Open();
+    const auto found = [&] {
+        EXPECT_TRUE(desktop.RunUntil([&] { return !Frame().GetSearch().IsUnderWay(); }));
+        std::string text;
+        for (const auto& line : Frame().GetSearch().GetSheet().GetLines())
+            text += line.what + " in /" + line.where.substr(line.where.find('/') + 1) + ", ";
+        return text + Frame().GetSearch().GetSheet().GetNews();
+    };
+    desktop.Hold({.shift = true, .control = true});
+    desktop.Key('F');
+    desktop.Hold({});
+    desktop.Type("many");
+    desktop.Key(VK_BACK);
+    desktop.Type("yx");
+    EXPECT_EQ("Nothing found", found());
+    desktop.Key(VK_BACK);
+    found();
+    EXPECT_EQ("Only the first 1000 found", Frame().GetSearch().GetSheet().GetNews());
+    for (int i = 0; i < 4; ++i)
+        desktop.Key(VK_BACK);
+    desktop.Type("ALK");
+    EXPECT_EQ("walk1.bmp in /, Walks in /Ada, walk2.bmp in /Ada/Poses, 3 found", found()) << "each once";
+    desktop.Key(VK_DOWN);
+    desktop.Key(VK_DOWN);
+    desktop.Key(VK_DOWN);
+    Press(VK_RETURN);
+    EXPECT_EQ("/Ada/Poses/ | [(*walk2.bmp)] | 1 object, 1 selected | walk2.bmp: 8 x 8 pixels", Screen());
+    EXPECT_EQ(List(), GetFocus());
+
+    Frame().GetViews().BeginSearch();
+    desktop.Type("walk");
+    desktop.Key(VK_ESCAPE);
+    EXPECT_FALSE(Frame().GetSearch().IsUnderWay());
+    EXPECT_EQ(List(), GetFocus());
+}
+
 } // namespace

@@ -1,0 +1,65 @@
+// A sheet over the views with a field and what was found for it.
+#pragma once
+
+#include "Editor/widgets/TextField.h"
+
+#include <vector>
+
+namespace editor
+{
+
+// The field keeps the keys: the arrows choose among the lines, which the wheel scrolls, and Return or a double click
+// uses one.
+class CSearchSheet : public CWnd
+{
+public:
+    struct Line
+    {
+        std::string what, where;
+    };
+    struct Events
+    {
+        std::function<void(const std::string& text)> typed;
+        std::function<void(std::size_t nLine)> chosen;
+        std::function<void()> leave; // Escape
+    };
+    explicit CSearchSheet(Events events);
+    ~CSearchSheet() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    void Show(const std::string& text); // without lines; what stands in the field is selected
+    void Hide() { ShowWindow(SW_HIDE); }
+    void Clear();
+    void Add(std::vector<Line> lines);
+    void SetNews(std::string news); // at the field's right: how the search goes
+
+    const std::vector<Line>& GetLines() const { return m_lines; }
+    const std::string& GetNews() const { return m_news; }
+    CTextField& GetField() { return m_field; }
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect FieldRect() const; // with its line
+    CRect ListRect() const;
+    bool HandleKey(UINT vkey);
+    void Choose(int nLine);
+    void ScrollTo(int nFirst);
+    int LinesInSight() const;
+
+    const Events m_events;
+    CTextField m_field;
+    std::vector<Line> m_lines;
+    std::string m_news;
+    int m_nChosen = 0;
+    int m_nFirst = 0; // in sight
+};
+
+} // namespace editor
