@@ -1,6 +1,7 @@
 // How long the editor leaves an input unanswered while the user scrolls through a folder of photographs whose
 // thumbnails are being read meanwhile; with the argument "work" while it copies, pastes, removes and puts back 1,000
-// pictures of together 100 MB and one file of 1 GB, beside 60,000 others.
+// pictures of together 100 MB and one file of 1 GB, beside 60,000 others; with "large" while it scrolls through the
+// largest thumbnails, ten times from the start, and how much memory it holds after each.
 //
 // A thread turns the wheel in a steady beat, whatever the editor does. An input counts as answered when the list has
 // scrolled by it; its wait begins when it was put into Qt's queue. Prints the waits of all inputs.
@@ -8,6 +9,7 @@
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/frame/MainFrame.h"
 #include "QtDesktop/QtDesktop.h"
+#include "bench/Memory.h"
 
 #include <QApplication>
 #include <QImage>
@@ -205,6 +207,30 @@ int Scroll(WatchedApplication& application, qtdesktop::QtDesktop& desktop, edito
     return 0;
 }
 
+int ScrollLarge(WatchedApplication& application, qtdesktop::QtDesktop& desktop, editor::EditorApp& editor)
+{
+    constexpr int kRounds = 10;
+    constexpr auto kRound = std::chrono::seconds(4);
+    const Photographs photographs;
+    if (const std::string error = editor.OpenFolder(photographs.Folder()); !error.empty())
+        return std::fprintf(stderr, "%s\n", error.c_str()), 1;
+    editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
+    editor.GetFrame()->GetContent().SetThumbnailExtent(editor::Content::kMostThumbnail);
+    QCoreApplication::processEvents();
+    QWidget& window = *desktop.FindWidget(editor.GetMainWindow());
+    const HWND hList = editor.GetFrame()->GetList().GetSafeHwnd();
+    application.Watch(hList, window);
+    for (int i = 0; i < kRounds; ++i) {
+        ::SendMessage(hList, LVM_ENSUREVISIBLE, 0, FALSE);
+        PrintWaits("largest thumbnails", application.WaitsDuring(window, [&] {
+            for (const auto until = Clock::now() + kRound; Clock::now() < until;)
+                QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }));
+        std::printf("    through %d rows, %ld MB resident\n", RowsPassed(hList), bench::ResidentKilobytes() / 1024);
+    }
+    return 0;
+}
+
 // A library with much that is not touched, so that there is something to scroll through, and with much that is.
 class WorkFolder
 {
@@ -280,6 +306,8 @@ int main(int argc, char* argv[])
     const editor::QtPictureReader reader;
     qtdesktop::QtDesktop desktop;
     editor::EditorApp editor(reader, {.size = {1280, 800}, .onClosed = {}});
-    const bool bWork = argc > 1 && std::string_view(argv[1]) == "work";
-    return bWork ? LongWork(application, desktop, editor) : Scroll(application, desktop, editor);
+    const std::string_view what = argc > 1 ? argv[1] : "";
+    return what == "work"    ? LongWork(application, desktop, editor)
+           : what == "large" ? ScrollLarge(application, desktop, editor)
+                             : Scroll(application, desktop, editor);
 }
