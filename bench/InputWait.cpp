@@ -219,6 +219,7 @@ int ScrollLarge(WatchedApplication& application, qtdesktop::QtDesktop& desktop, 
     QCoreApplication::processEvents();
     QWidget& window = *desktop.FindWidget(editor.GetMainWindow());
     const HWND hList = editor.GetFrame()->GetList().GetSafeHwnd();
+    ::SendMessage(hList, LVM_ENSUREVISIBLE, 0, FALSE); // what was in the middle has stayed there
     application.Watch(hList, window);
     for (int i = 0; i < kRounds; ++i) {
         ::SendMessage(hList, LVM_ENSUREVISIBLE, 0, FALSE);
