@@ -61,7 +61,10 @@ BOOL Services::ShowError(SERVICEPROVIDER*, void* pBuffer, DWORD dwSize, DWORD)
     std::string line = CErrorInfo::LineOf(request.pError);
     if (line.empty())
         line = "The reason is not known.";
-    MessageBox(request.hOwner, line.c_str(), request.pszCaption, MB_OK | MB_ICONEXCLAMATION);
+    // A title is cut off where it is too long for its window.
+    if (request.pszCaption && *request.pszCaption)
+        line = std::string(request.pszCaption) + ": " + line;
+    MessageBox(request.hOwner, line.c_str(), AfxGetAppName(), MB_OK | MB_ICONEXCLAMATION);
     return TRUE;
 }
 

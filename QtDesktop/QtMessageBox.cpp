@@ -77,6 +77,7 @@ int AskMessageBox(QWidget* pOwner, LPCSTR pszText, LPCSTR pszCaption, UINT nType
     const QPointer<QMessageBox> pBox =
         new QMessageBox(Icon(nType), QString::fromUtf8(pszCaption), QString::fromUtf8(pszText), buttons, pOwner);
     pBox->setTextFormat(Qt::PlainText); // a file's name is no markup
+    pBox->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard); // to be copied
     pBox->setEscapeButton(closing);
     if (nType & MB_DEFBUTTON2)
         pBox->setDefaultButton(buttons.testFlag(QMessageBox::No) ? QMessageBox::No : QMessageBox::Cancel);

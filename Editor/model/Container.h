@@ -57,10 +57,10 @@ public:
     BOOL AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId) override;
     BOOL RemoveAtom(IAtom* pAtom) override;
-    // The line that tells why the member with that identifier could not be removed, until another one is tried: also
+    // The line that tells why the member with that identifier could not be removed, since that was forgotten last: also
     // after changes that succeeded. Empty for one that was not tried.
-    std::string WhyItStayed(DWORD dwID) const { return m_stayed.first == dwID ? m_stayed.second : std::string(); }
-    void ForgetWhatStayed() { m_stayed = {}; }
+    std::string WhyItStayed(DWORD dwID) const;
+    void ForgetWhatStayed() { m_stayed.clear(); }
     // For a member what the kind of container allows: whether the disk does, the attempt tells, with the reason. For
     // what was read from an archive the container's IMyErrorInfo tells why it is refused, where there is more to be
     // said than that the container does not take such objects.
@@ -131,11 +131,11 @@ private:
     DWORD IdOf(const CMember& member) const;
     void Forget(const CMember& member);
 
-    std::unique_ptr<Contents> m_pContents;  // NULL until the members are asked for
-    std::optional<bool> m_holdsAny;         // as far as it was found out before they were
-    std::string m_validName;                // given by ValidateName, and used by no member yet
-    std::string m_failure;                  // of the last change; empty when it succeeded
-    std::pair<DWORD, std::string> m_stayed; // which could not be removed, and why
+    std::unique_ptr<Contents> m_pContents; // NULL until the members are asked for
+    std::optional<bool> m_holdsAny;        // as far as it was found out before they were
+    std::string m_validName;               // given by ValidateName, and used by no member yet
+    std::string m_failure;                 // of the last change; empty when it succeeded
+    std::map<DWORD, std::string> m_stayed; // which could not be removed, and why
 };
 
 } // namespace editor

@@ -64,8 +64,14 @@ BOOL CContainer::RemoveAtom(IAtom* pAtom)
     if (bRemoved)
         Drop(pMember->Index());
     else
-        m_stayed = {pAtom->GetID(), m_failure};
+        m_stayed[pAtom->GetID()] = m_failure;
     return bRemoved;
+}
+
+std::string CContainer::WhyItStayed(DWORD dwID) const
+{
+    const auto found = m_stayed.find(dwID);
+    return found == m_stayed.end() ? std::string() : found->second;
 }
 
 DWORD CContainer::GetPermissions(IAtom* pAtom)

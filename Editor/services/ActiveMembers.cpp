@@ -1,6 +1,7 @@
 #include "Editor/services/ActiveMembers.h"
 
 #include "Editor/model/Container.h"
+#include "Editor/services/Troubles.h"
 #include "HostKit/base/ErrorInfo.h"
 
 #include <map>
@@ -44,20 +45,27 @@ void ForgetWhatStayed(const ActiveMembers& members)
             pContainer->ForgetWhatStayed();
 }
 
+namespace
+{
+
+std::string WhyStillThere(const ActiveMember& member)
+{
+    const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
+    std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
+    if (reason.empty() && !member.MayGo())
+        reason = ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
+    return reason;
+}
+
+} // namespace
+
 // The container's own error may be that of a change since: what else had been cut is put back, and is there as well.
 std::string WhyStillThere(const ActiveMembers& members)
 {
-    for (const ActiveMember& member : members) {
-        if (!member.IsThere())
-            continue;
-        const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
-        if (std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
-            !reason.empty())
-            return reason;
-        if (!member.MayGo())
-            return ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
-    }
-    return {};
+    Troubles troubles;
+    for (const ActiveMember& member : members)
+        troubles.Add(member.IsThere() ? WhyStillThere(member) : std::string());
+    return troubles.Text();
 }
 
 } // namespace editor

@@ -5,6 +5,7 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Member.h"
 #include "Editor/services/AtomEditor.h"
+#include "Editor/services/Troubles.h"
 #include "Editor/services/UnsavedPhases.h"
 #include "Toolkit/base/Exception.h"
 
@@ -70,8 +71,8 @@ std::string_view BytesOf(IArchive& archive)
     return pData ? std::string_view(static_cast<const char*>(pData), dwLength) : std::string_view();
 }
 
-// FALSE when the callback refused one. `failure` becomes the first object's that no container took.
-BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, void* pContext, std::string& failure,
+// FALSE when the callback refused one. `troubles` hears of every object, and why no container took it.
+BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, void* pContext, Troubles& troubles,
              const LongWork& work)
 {
     BOOL bAccepted = TRUE;
@@ -80,8 +81,7 @@ BOOL HandOut(RecordReader reader, IArchive& archive, ARCHIVEATOMPROC callback, v
         if (!pContext)
             pAtom->AddRef(); // the callback's
         bAccepted = callback(pAtom.Get(), pContext);
-        if (failure.empty())
-            failure = pAtom->Failure();
+        troubles.Add(pAtom->Failure());
         if (work.IsCancelled())
             return FALSE;
     }
@@ -136,9 +136,9 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
         const std::string_view records = Aside(&m_work, [&] { return OpenArchive(bytes, trouble); });
         if (!trouble.empty())
             return NoteArchiveError("The objects cannot be read: " + trouble + '.');
-        std::string failure;
-        const BOOL bAccepted = HandOut(RecordReader(records), *archive, callback, context, failure, m_work);
-        return NoteArchiveError(std::move(failure)) && bAccepted;
+        Troubles troubles;
+        const BOOL bAccepted = HandOut(RecordReader(records), *archive, callback, context, troubles, m_work);
+        return NoteArchiveError(troubles.Text()) && bAccepted;
     } catch (CMemoryException& exception) {
         return NoteArchiveError(exception.GetErrorMessage());
     }

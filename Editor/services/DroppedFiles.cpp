@@ -6,6 +6,7 @@
 #include "Editor/model/Folder.h"
 #include "Editor/services/FileUris.h"
 #include "Editor/services/FramePlacing.h"
+#include "Editor/services/Troubles.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
@@ -136,17 +137,16 @@ try {
                 pWork->GetMeter().SetTotal(pWork->GetMeter().Total() + 2 * BytesBelow(path, pWork->GetMeter()));
         });
     const bool bCut = IsCut(TakeText(data.GetGlobalData(CopiedFilesFormat())));
-    std::string first;
+    Troubles troubles;
     for (const std::string& path : paths) {
         std::string failure = PasteFile(path, *pFolder);
         if (failure.empty() && bCut)
             failure = pFolder->RemoveOriginal(path);
-        if (first.empty())
-            first = std::move(failure);
+        troubles.Add(std::move(failure));
         if (IsCancelled(pWork))
             break;
     }
-    return first;
+    return troubles.Text();
 } catch (const CMemoryException& exception) {
     return exception.GetErrorMessage();
 }

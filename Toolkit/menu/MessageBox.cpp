@@ -45,3 +45,8 @@ void AfxSetAppName(LPCSTR pszName)
 {
     AppName() = pszName;
 }
+
+LPCSTR AfxGetAppName()
+{
+    return AppName();
+}

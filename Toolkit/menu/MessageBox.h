@@ -8,3 +8,4 @@ TOOLKIT_API int MessageBox(HWND hOwner, LPCSTR pszText, LPCSTR pszCaption, UINT 
 // On the application's main window, under the application's name.
 TOOLKIT_API int AfxMessageBox(LPCSTR pszText, UINT nType = MB_OK);
 TOOLKIT_API void AfxSetAppName(LPCSTR pszName);
+TOOLKIT_API LPCSTR AfxGetAppName(); // valid until it is set again; "" at first

@@ -26,7 +26,7 @@ TEST_F(CommandsTest, WhatIsCopiedIsPastedWhereOneIsAndSelectedThere)
     Open();
     Control('C');
     Control('V');
-    EXPECT_EQ(Ledger({"Nothing was pasted: there are no objects on the clipboard"}), TakeBoxes())
+    EXPECT_EQ(Ledger({"Views: Nothing was pasted: there are no objects on the clipboard"}), TakeBoxes())
         << "nothing was selected";
 
     DoubleClick("Ada");
@@ -199,7 +199,7 @@ TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
     }
     DoubleClick("walk.phase");
     Control('V');
-    EXPECT_EQ(Ledger({"Nothing was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Nothing was pasted: walk.phase: it does not take these objects"}), TakeBoxes());
     EXPECT_EQ("a.bmp\n", folder.Read("Ada/walk.phase"));
 }
 
@@ -221,7 +221,7 @@ TEST_F(CommandsTest, WhatARefusedCutHadTakenIsThereAgainAsItWas)
     const std::string before = folder.Everything();
     Control('A');
     Control('X');
-    EXPECT_EQ(Ledger({"Nothing was cut: data: invalid argument"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Nothing was cut: data: invalid argument"}), TakeBoxes());
     EXPECT_EQ(before, folder.Everything());
     EXPECT_TRUE(std::filesystem::is_symlink(folder.At("Bo/b.bmp")));
     EXPECT_EQ("[(a.bmp) (b.bmp) (*c.phase) (data)]", Rows());

@@ -80,7 +80,7 @@ TEST_F(DragTest, WhatIsGivenUpOrCannotGoThereStaysWhereItIs)
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("came under way", folder.Read("Bo/b.bmp"));
     EXPECT_EQ(before + " Bo/b.bmp", folder.Everything());
-    EXPECT_EQ(Ledger({"Not everything was taken: b.bmp: file exists"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Not everything was taken: b.bmp: file exists"}), TakeBoxes());
 }
 
 TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
@@ -108,7 +108,7 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
     Drag(List(), PlaceOf("Bo"), [&] { DropOnTree("Ada"); });
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("Ada/ Ada/Bo/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
-    EXPECT_EQ(Ledger({"Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
 }
 
 TEST_F(DragTest, ANameThatIsTakenIsToldOfWhileTheDragIsThere)

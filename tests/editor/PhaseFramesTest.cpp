@@ -88,8 +88,9 @@ TEST_F(PhaseFramesTest, PicturesFromElsewhereComeWhereTheyAreDropped)
     DropAt(Before("a.bmp"));
     Settle();
     EXPECT_EQ("[(*e.bmp) (d.bmp) a.bmp x.bmp b.bmp c.bmp d.bmp e.bmp]", Rows());
-    EXPECT_EQ(Ledger({"Not everything was taken: far.bmp: only pictures of the same library can be put into a phase"}),
-              TakeBoxes());
+    EXPECT_EQ(
+        Ledger({"Views: Not everything was taken: far.bmp: only pictures of the same library can be put into a phase"}),
+        TakeBoxes());
     Control('Z');
     Control('Z');
     EXPECT_EQ(kWalk, Walk());

@@ -105,7 +105,7 @@ TEST_F(PropertiesTest, APhaseThatIsRenamedTakesItsNumbersAlongAndWhatCannotBeSav
     const std::string stroll = folder.Read("stroll.phase");
     folder.Remove("stroll.phase");
     Control('S');
-    EXPECT_EQ(Ledger({"Not everything was saved: stroll.phase: no such file or directory"}), TakeBoxes());
+    EXPECT_EQ(Ledger({"Views: Not everything was saved: stroll.phase: no such file or directory"}), TakeBoxes());
     EXPECT_EQ("7 ms, 1 times | stroll.phase: not saved yet (Ctrl+S)", Shown());
     folder.Write("stroll.phase", stroll);
     Control('S');
