@@ -73,6 +73,7 @@ private:
         else if (m_bFolder)
             m_line.error = folder + ": only one folder can be opened";
         m_line.folder = folder;
+        m_line.isFolderNamed = true;
         m_bFolder = true;
     }
 

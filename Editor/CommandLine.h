@@ -11,7 +11,8 @@ namespace editor
 
 struct CommandLine
 {
-    std::string folder;     // empty: none was named
+    std::string folder; // empty: none was named
+    bool isFolderNamed = false;
     std::string script;     // the file with the commands to run instead, "-" for the standard input; empty: none
     std::string screenshot; // the PNG file to write instead of staying open; empty: none
     CSize size{960, 640};   // of the frame's client area

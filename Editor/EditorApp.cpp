@@ -133,6 +133,8 @@ std::string EditorApp::OpenFolder(const std::string& path)
         return error;
     }
     pFrame->ShowLibrary(pLibrary.Get());
+    if (bFirst && !m_parts->settings.recent.empty() && m_parts->settings.recent.front() == pLibrary->Path())
+        pFrame->ShowAsBefore(m_parts->settings, m_parts->options.isReturning);
     m_parts->settings.NoteFolder(pLibrary->Path());
     pFrame->ShowWindow(SW_SHOW);
     m_parts->Remember(*pFrame);

@@ -20,6 +20,7 @@ public:
         CSize size{960, 640};       // of the frame's client area
         bool isSizeNamed = false;   // is it to be that, whatever is remembered?
         std::string settingsPath{}; // what is remembered (Settings.h); empty: nothing is
+        bool isReturning = false;   // is that folder to be shown which was shown last?
         std::string markFolder{};   // where steps leave their marks (Underway.h); empty: nowhere
         // Opens another window on the folder; empty, or the reason. May be empty.
         std::function<std::string(const std::string& path)> openWindow{};

@@ -91,6 +91,7 @@ int Show(QApplication& application, const editor::CommandLine& line, const edito
     editor::EditorApp editor(Reader(), {.size = line.size,
                                         .isSizeNamed = line.isSizeNamed,
                                         .settingsPath = line.isForgetful ? "" : editor::SettingsPath(),
+                                        .isReturning = !line.isFolderNamed,
                                         .markFolder = MarkFolder(),
                                         .openWindow = OpenWindow,
                                         .onClosed = [&] { application.quit(); },

@@ -111,6 +111,18 @@ void CMainFrame::Remember(Settings& settings) const
     settings.thumbnailExtent = m_content.GetThumbnailExtent();
     settings.pixels = m_content.ArePixelsShown();
     settings.thumbnails = m_content.GetKind() == ListKind::Thumbnails;
+    settings.shown = ShownContainer()->Path();
+    settings.expanded = m_tree.ExpandedPaths(Settings::kMostExpanded);
+}
+
+void CMainFrame::ShowAsBefore(const Settings& settings, bool bShown)
+{
+    const LongWork::Command command(&m_editor.GetWork(), "Reading", Progress::Unit::Found);
+    for (const std::string& path : settings.expanded)
+        m_tree.ExpandAtom(m_navigation.Library()->Find(path).Get());
+    const CStubRef<CMember> pShown = bShown ? m_navigation.Library()->Find(settings.shown) : CStubRef<CMember>();
+    if (pShown)
+        m_navigation.GoTo(pShown.Get());
 }
 
 // The former library goes when nothing of it is selected any more.

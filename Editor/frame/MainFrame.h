@@ -38,9 +38,11 @@ public:
     // A top-level window with the views in it, not shown yet; its client area on the screen, in whose corner it is
     // nowhere in particular.
     BOOL Create(const CRect& place);
-    void Follow(const Settings& settings);   // before anything is shown
-    void Remember(Settings& settings) const; // what it is like now
-    void ShowLibrary(CLibrary* pLibrary);    // in place of the one before
+    void Follow(const Settings& settings); // before anything is shown
+    void Remember(Settings& settings) const;
+    // What was expanded and, if that is wanted, shown when this library was shown last; as far as it is still there.
+    void ShowAsBefore(const Settings& settings, bool bShown); // what it is like now
+    void ShowLibrary(CLibrary* pLibrary);                     // in place of the one before
     CEditorTree& GetTree() { return m_tree; }
     hostkit::CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_content.GetList(); } // the one that is shown, or will be

@@ -56,6 +56,10 @@ void Take(Settings& settings, std::string_view name, std::string_view value)
         settings.pixels = Number(value) != 0;
     else if (name == "folder" && value.starts_with('/') && settings.recent.size() < Settings::kMostRecent)
         settings.recent.emplace_back(value);
+    else if (name == "shown")
+        settings.shown = value;
+    else if (name == "expanded" && settings.expanded.size() < Settings::kMostExpanded)
+        settings.expanded.emplace_back(value);
 }
 
 std::string Text(const Settings& settings)
@@ -65,9 +69,15 @@ std::string Text(const Settings& settings)
          << settings.window.Height() << "\ntree=" << settings.treeWidth << "\nthumbnails=" << settings.thumbnails
          << "\nfoldersFirst=" << settings.foldersFirst << "\nthumbnailExtent=" << settings.thumbnailExtent
          << "\npixels=" << settings.pixels << '\n';
+    const auto put = [&](const char* pszName, const std::string& path) {
+        if (path.find('\n') == path.npos)
+            text << pszName << '=' << path << '\n';
+    };
     for (const std::string& folder : settings.recent)
-        if (folder.find('\n') == folder.npos)
-            text << "folder=" << folder << '\n';
+        put("folder", folder);
+    put("shown", settings.shown);
+    for (const std::string& folder : settings.expanded)
+        put("expanded", folder);
     return text.str();
 }
 

@@ -18,8 +18,11 @@ struct Settings
     int thumbnailExtent = 0;         // pixels; 0: as usual
     bool pixels = false;             // small pictures are enlarged, each pixel to a square
     std::vector<std::string> recent; // folders, the last one first
+    // In the last one: the folder that was shown, and those that were expanded in the tree, the outer ones first.
+    std::string shown;
+    std::vector<std::string> expanded;
 
-    static constexpr std::size_t kMostRecent = 10;
+    static constexpr std::size_t kMostRecent = 10, kMostExpanded = 100;
     void NoteFolder(const std::string& path);
 };
 

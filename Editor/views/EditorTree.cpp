@@ -3,6 +3,7 @@
 #include "Editor/model/Folder.h"
 #include "Editor/model/PictureMember.h"
 
+#include <deque>
 #include <set>
 #include <utility>
 #include <vector>
@@ -50,6 +51,22 @@ CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::fu
       m_pressed(std::move(pressed))
 {
     ShowMembersOnDemand();
+}
+
+std::vector<std::string> CEditorTree::ExpandedPaths(std::size_t nMost) const
+{
+    std::vector<std::string> paths;
+    std::deque<HTREEITEM> siblings{GetRootItem()}; // the first of each
+    for (; !siblings.empty(); siblings.pop_front())
+        for (HTREEITEM hItem = siblings.front(); hItem && paths.size() < nMost; hItem = GetNextSiblingItem(hItem)) {
+            const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
+            const CMember* const pMember = pRecord ? CMember::Of(pRecord->pAtom.Get()) : nullptr;
+            if (!pMember || !(GetItemState(hItem, TVIS_EXPANDED) & TVIS_EXPANDED))
+                continue;
+            paths.push_back(pMember->Path());
+            siblings.push_back(GetChildItem(hItem));
+        }
+    return paths;
 }
 
 void CEditorTree::ExpandAtom(IAtom* pAtom)

@@ -22,7 +22,8 @@ public:
     CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::function<void()> pressed);
     ~CEditorTree() override { DestroyWindow(); }
 
-    void ExpandAtom(IAtom* pAtom); // nothing when it is not shown or has no members
+    std::vector<std::string> ExpandedPaths(std::size_t nMost) const; // the outer ones first
+    void ExpandAtom(IAtom* pAtom);                                   // nothing when it is not shown or has no members
     // The nearest sibling in that direction (-1, 1) that is no container; empty where there is none.
     CStubRef<IAtom> Beside(IAtom* pAtom, int nStep) const;
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const; // the item's, if it is one

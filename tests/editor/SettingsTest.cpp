@@ -2,6 +2,8 @@
 #include "Editor/FirstFolder.h"
 #include "tests/editor/EditorFixture.h"
 
+#include <filesystem>
+
 namespace
 {
 
@@ -60,6 +62,33 @@ TEST_F(SettingsTest, TheNextWindowIsAsTheLastOneWasAndNeverLargerThanTheScreen)
     StartAnew();
     Open();
     EXPECT_EQ(CRect(0, 0, 640, 480), Place()) << "what cannot be read counts as not there";
+}
+
+TEST_F(SettingsTest, TheTreeIsExpandedAsItWasAndTheLastFolderIsShown)
+{
+    const auto expanded = [this] {
+        Ledger paths;
+        for (const std::string& path : Tree().ExpandedPaths(10))
+            paths.push_back(path.substr(folder.Path().size()));
+        return paths;
+    };
+    folder.Make("Ada/Poses/Old/ Bo/Props/ Kit/");
+    Open();
+    Tree().Expand(FindItem("Bo"), TVE_EXPAND);
+    DoubleClick("Ada");
+    DoubleClick("Poses");
+    EXPECT_EQ(Ledger({"", "/Ada", "/Bo"}), expanded());
+    std::filesystem::remove_all(folder.At("Bo"));
+
+    m_options.isReturning = true;
+    StartAnew();
+    Open();
+    EXPECT_EQ(Ledger({"", "/Ada"}), expanded());
+    EXPECT_EQ("/Ada/Poses/ | [Old] | 1 object", Screen());
+    m_options.isReturning = false;
+    StartAnew();
+    Open();
+    EXPECT_EQ("/ | [Ada Kit] | 2 objects", Screen()) << "the folder that was asked for";
 }
 
 TEST_F(SettingsTest, TheLastFoldersAreAtHandAndAtFirstACopyOfTheSamples)
