@@ -116,6 +116,14 @@ void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark)
 
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer, bool bEnlarge)
 {
+    if (answer.pMeanwhile) {
+        const CSize full = answer.fullSize;
+        const bool bFits = full.cx <= rect.Width() && full.cy <= rect.Height();
+        const toolkit::Surface meanwhile =
+            toolkit::ScaleSurface(*answer.pMeanwhile, bFits ? full : toolkit::FitInto(full, rect.Size()));
+        return toolkit::DrawSurface(hdc, toolkit::Centred(meanwhile.Bounds().Size(), rect), meanwhile,
+                                    meanwhile.Bounds());
+    }
     const hostkit::Pictogram instead =
         answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder;
     const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : hostkit::GetPictogram(instead, kPlaceholder);

@@ -58,6 +58,10 @@ PictureStore::Answer PictureStore::Find(const std::string& path, CSize size, IAt
     const bool bFailed = !entry.error.empty() || (pVariant && pVariant->picture.IsEmpty());
     if (entry.bStale || (!pVariant && !bFailed))
         Queue({path, size, frame, pVariant ? entry.stamp : FileStamp()}, pAtom);
+    const auto isLike = [&](const Variant& variant) { return variant.frame == frame && !variant.picture.IsEmpty(); };
+    const auto other = std::ranges::find_if(entry.variants, isLike);
+    if (!pVariant && !bFailed && other != entry.variants.end())
+        return {nullptr, false, &other->picture, entry.fullSize};
     return {pVariant && !bFailed ? &pVariant->picture : nullptr, bFailed};
 }
 

@@ -27,8 +27,10 @@ public:
 
     struct Answer
     {
-        const toolkit::Surface* pPicture = nullptr; // valid until the store is used again
-        bool bFailed = false;                       // there is none; ErrorOf tells why
+        const toolkit::Surface* pPicture = nullptr;   // valid until the store is used again
+        bool bFailed = false;                         // there is none; ErrorOf tells why
+        const toolkit::Surface* pMeanwhile = nullptr; // until there is one: the same at another size
+        CSize fullSize{};                             // of the one meanwhile
     };
 
     PictureStore(const PictureReader& reader, Limits limits, Arrived arrived);
