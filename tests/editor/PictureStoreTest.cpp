@@ -185,6 +185,21 @@ TEST_F(PictureStoreTest, APictureIsDrawnInTheMiddleNeverEnlargedAndABrokenOneAsS
     EXPECT_EQ(3u, reader.TakeReads().size());
 }
 
+TEST_F(PictureStoreTest, UntilItIsReadAtItsSizeAPictureIsDrawnAsItIsKnown)
+{
+    folder.WriteBmp("wide.bmp", 320, 160, 0xFF102030);
+    Open();
+    const CStubRef<IAtom> pWide = Find("wide.bmp");
+    Icon(pWide.Get());
+    Settle();
+    reader.Hold();
+    EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(pWide).Get()));
+    EXPECT_FALSE(pPictures->IsIdle()) << "it is being read";
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(pWide).Get()));
+}
+
 TEST_F(PictureStoreTest, AnAnimatedPictureIsDrawnFrameByFrame)
 {
     folder.WriteBmp("film.bmp", 100, 300, 0xFF102030);
