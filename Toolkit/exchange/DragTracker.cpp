@@ -46,9 +46,11 @@ toolkit::DragTracker::DragTracker(std::shared_ptr<OfferedData> data, DROPEFFECT 
     : m_data(std::move(data)), m_allowed(allowed)
 {}
 
+// Where the buttons are released that it has told of, it is not told: they are not held for what comes after it.
 toolkit::DragTracker::~DragTracker()
 {
     Leave();
+    SetMouseKeyFlags(MouseKeyFlags() & ~(MK_LBUTTON | MK_RBUTTON | MK_MBUTTON));
 }
 
 // A desktop has no use for the toolkit's exceptions: what raises one counts as refused.
