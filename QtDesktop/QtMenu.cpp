@@ -7,6 +7,8 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPointer>
+#include <QWindow>
+#include <algorithm>
 
 namespace qtdesktop
 {
@@ -68,12 +70,42 @@ private:
     const HWND m_hOwner;
 };
 
+bool IsOnWayland()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
+
+// There a menu touches its window, or is none.
+QPoint Reachable(QPoint at, const QWidget* pOwner)
+{
+    if (!pOwner || !IsOnWayland())
+        return at;
+    const QRect window(pOwner->mapToGlobal(QPoint()), pOwner->size());
+    return {std::clamp(at.x(), window.left(), window.right()), std::clamp(at.y(), window.top(), window.bottom())};
+}
+
+// A popup that takes all input for itself is to Wayland an answer to a press that is still the last one: any other it
+// closes at once, or shows where it likes. There a menu is one that takes nothing, then, and Qt hands it what comes to
+// the program, which is left when the user goes to another.
+void TakeNoInputForItself(QMenu& menu)
+{
+    menu.winId(); // there is a window from here on
+    QWindow& window = *menu.windowHandle();
+    window.setFlags((window.flags() & ~Qt::WindowType_Mask) | Qt::ToolTip);
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, &menu, [&menu](Qt::ApplicationState state) {
+        if (state != Qt::ApplicationActive)
+            menu.close();
+    });
+}
+
 void AddItem(QMenu& menu, const toolkit::MenuItem& item, QObject& filter);
 
 void AddItems(QMenu& menu, const std::vector<toolkit::MenuItem>& items, QObject& filter)
 {
     menu.setToolTipsVisible(true);
     menu.installEventFilter(&filter);
+    if (IsOnWayland())
+        TakeNoInputForItself(menu);
     for (const toolkit::MenuItem& item : items)
         AddItem(menu, item, filter);
 }
@@ -101,7 +133,7 @@ UINT TrackPopup(QWidget* pOwner, HWND hOwner, const std::vector<toolkit::MenuIte
     const QPointer<QMenu> pMenu = new QMenu(pOwner);
     WaysOut waysOut(*pMenu, hOwner);
     AddItems(*pMenu, items, waysOut);
-    const QAction* pChosen = pMenu->exec(QPoint(screen.x, screen.y));
+    const QAction* pChosen = pMenu->exec(Reachable({screen.x, screen.y}, pOwner));
     if (!pMenu)
         return 0;
     const UINT command = pChosen ? pChosen->data().toUInt() : 0;
