@@ -131,6 +131,7 @@ bool QtWindow::event(QEvent* pEvent)
     switch (pEvent->type()) {
     case QEvent::WindowActivate:
         toolkit::InputActivate(m_hTop, true);
+        TellPointer();
         break;
     case QEvent::WindowDeactivate:
         toolkit::InputActivate(m_hTop, false);
@@ -199,6 +200,17 @@ void QtWindow::wheelEvent(QWheelEvent* pEvent)
         return;
     m_nWheelRest -= nWhole;
     toolkit::InputMouseWheel(m_hTop, ToPoint(pEvent->position()), nWhole, ToModifiers(pEvent->modifiers()));
+}
+
+void QtWindow::enterEvent(QEnterEvent*)
+{
+    TellPointer();
+}
+
+void QtWindow::TellPointer()
+{
+    toolkit::InputMouseMove(m_hTop, ToPoint(mapFromGlobal(QPointF(QCursor::pos()))),
+                            ToModifiers(QGuiApplication::keyboardModifiers()));
 }
 
 void QtWindow::leaveEvent(QEvent*)

@@ -42,6 +42,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
     void wheelEvent(QWheelEvent* pEvent) override;
+    void enterEvent(QEnterEvent* pEvent) override;
     void leaveEvent(QEvent* pEvent) override;
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
@@ -55,6 +56,7 @@ private:
     CPoint Corner() const; // on the screen
     template <class Handle>
     void HandleDrag(Handle handle);
+    void TellPointer(); // where it is without having moved
     void TellButton(const QMouseEvent& event, bool bDown);
 
     const HWND m_hTop;
