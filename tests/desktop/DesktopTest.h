@@ -2,7 +2,7 @@
 #pragma once
 
 #include "QtDesktop/QtDesktop.h"
-#include "Toolkit/window/Wnd.h"
+#include "tests/desktop/ProbeWnd.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -11,30 +11,9 @@
 #include <QWidget>
 #include <functional>
 #include <gtest/gtest.h>
-#include <map>
 #include <optional>
 #include <string>
 #include <utility>
-
-// Notes the messages it gets: "ldown 10,20", "key F2", "char 233", "size 200,120". Asked to close, it stays.
-class CProbeWnd : public CWnd
-{
-public:
-    explicit CProbeWnd(CSize size = {200, 120});
-
-    std::string TakeLog(); // what was noted since, in order, separated by "; "
-
-    COLORREF m_color = RGB(255, 255, 255);         // the whole client area's, when painted
-    std::map<UINT, std::function<void()>> m_after; // what else is to be done after a message
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-
-private:
-    void Paint();
-
-    std::string m_log;
-};
 
 // Has the user act on the next menu or message box (by Qt's class) when it is shown and Qt's loop runs again.
 template <class Widget>

@@ -26,18 +26,6 @@ protected:
 
 } // namespace
 
-TEST_F(InputTest, ThePointerIsFollowedAndPressesLandWhereTheyWereMade)
-{
-    QTest::mouseMove(Window(), {30, 40});
-    EXPECT_EQ("move 30,40", Heard());
-    QTest::mouseClick(Window(), Qt::LeftButton, Qt::ControlModifier, {30, 40});
-    QTest::mouseClick(Window(), Qt::LeftButton, {}, {30, 40});
-    EXPECT_EQ("ldown 30,40 control; lup 30,40 control; ldouble 30,40; lup 30,40", Heard());
-    QTest::mouseClick(Window(), Qt::RightButton, {}, {8, 9});
-    EXPECT_EQ("move 8,9; rdown 8,9; rup 8,9", Heard());
-    EXPECT_EQ("leave", After(QEvent(QEvent::Leave)));
-}
-
 TEST_F(InputTest, KeysReachTheFocusAsTheKeysTheyAreAndOnlyPrintableTextIsTyped)
 {
     struct Case

@@ -1,10 +1,8 @@
 #include "Toolkit/menu/MessageBox.h"
-#include "Toolkit/message/TaskInbox.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>
 #include <QMessageBox>
-#include <thread>
 
 namespace
 {
@@ -20,20 +18,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(QueueTest, TasksFromOtherThreadsRunOnTheUserInterfaceThreadInOrder)
-{
-    std::vector<int> ran;
-    const std::thread::id here = std::this_thread::get_id();
-    std::thread worker([&] {
-        for (int i = 0; i < 100; ++i)
-            toolkit::PostTask([&ran, here, i] { ran.push_back(std::this_thread::get_id() == here ? i : -1); });
-    });
-    EXPECT_TRUE(RunUntil([&] { return ran.size() == 100; }));
-    worker.join();
-    EXPECT_TRUE(std::is_sorted(ran.begin(), ran.end()));
-    EXPECT_EQ(0, ran.front());
-}
 
 TEST_F(QueueTest, APictureThatNeverRestsDoesNotStarveTheUser)
 {
@@ -71,24 +55,5 @@ TEST_F(QueueTest, AMessageBoxOffersItsButtonsAndGivesTheAnswer)
     EXPECT_EQ(IDOK, Ask(MB_OK | MB_ICONHAND, press(QMessageBox::Ok)));
     EXPECT_EQ(IDNO, Ask(MB_YESNO, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
     EXPECT_EQ(IDCANCEL, Ask(MB_YESNOCANCEL, [](QMessageBox& box) { box.close(); }));
-
-    // Also when the box is opened by the queue itself, the queue goes on, and its timers.
-    QPointer<QMessageBox> pOpen;
-    int nTicks = 0, nAnswer = 0;
-    m_probe->m_after[WM_TIMER] = [&] {
-        if (++nTicks == 3)
-            pOpen->button(QMessageBox::Yes)->click();
-    };
-    const DWORD before = m_desktop->Ticks();
-    toolkit::PostTask([&] {
-        nAnswer = Ask(MB_YESNO, [&](QMessageBox& box) {
-            pOpen = &box;
-            m_probe->SetTimer(1, 20);
-        });
-    });
-    EXPECT_TRUE(RunUntil([&] { return nAnswer != 0; }));
-    EXPECT_EQ(IDYES, nAnswer);
-    EXPECT_TRUE(pOpen.isNull());
-    EXPECT_GE(m_desktop->Ticks() - before, 60u);
     EXPECT_EQ(IDNO, Ask(MB_YESNO, [&](QMessageBox&) { m_probe->DestroyWindow(); })) << "it ends with its owner";
 }

@@ -31,29 +31,12 @@ TEST_F(WindowTest, WhatTheToolkitPaintsIsWhatTheScreenShows)
     Settle();
     EXPECT_EQ(QColor(10, 20, 200), Screen().pixelColor(49, 29));
     EXPECT_EQ(QColor(255, 255, 255), Screen().pixelColor(50, 30)); // not asked for, not painted
-
-    Widget().resize(320, 90);
-    EXPECT_EQ("size 320,90", Heard());
-    EXPECT_EQ(QSize(320, 90), Screen().size());
-    EXPECT_EQ(QColor(10, 20, 200), Screen().pixelColor(319, 89));
-    ::MoveWindow(m_probe->GetSafeHwnd(), 40, 50, 260, 70);
-    EXPECT_EQ("size 260,70", Heard());
-    EXPECT_EQ(QRect(40, 50, 260, 70), Widget().geometry());
 }
 
-TEST_F(WindowTest, ClosingAsksTheProgramWhichMayStay)
+TEST_F(WindowTest, ItsWidgetHasItsTitleAndGoesWithIt)
 {
     m_probe->SetWindowText("Pictures – Überlingen");
     EXPECT_EQ("Pictures – Überlingen", Widget().windowTitle().toStdString());
-    m_probe->ShowWindow(SW_HIDE);
-    EXPECT_FALSE(Widget().isVisible());
-    m_probe->ShowWindow(SW_SHOW);
-    EXPECT_TRUE(Widget().isVisible());
-    m_probe->TakeLog();
-    EXPECT_FALSE(Widget().close());
-    EXPECT_EQ("close", Heard());
-    EXPECT_TRUE(Widget().isVisible());
-
     const HWND hProbe = m_probe->GetSafeHwnd();
     m_probe->DestroyWindow();
     EXPECT_EQ(nullptr, m_desktop->FindWidget(hProbe));
