@@ -274,6 +274,14 @@ TEST_P(Screens, AMenuEndsWithItsWindow)
     EXPECT_EQ("chose 0", stage.Hear("chose"));
 }
 
+TEST_P(Screens, AMenuEndsWhenTheUserGoesToAnotherProgram)
+{
+    stage.Tell("menu 60 40");
+    EXPECT_EQ("shown menu", stage.Hear());
+    stage.GoToOther();
+    EXPECT_EQ("chose 0", stage.Hear("chose"));
+}
+
 TEST_P(EveryDesktop, WhatIsCopiedIsTheProgramsOwnUntilAnotherCopies)
 {
     stage.Key("F2"); // copying is what a user has asked for
