@@ -52,9 +52,11 @@ public:
     virtual std::string OtherPastes() = 0;
     virtual void DragWithin(CPoint from, CPoint to) = 0;
     virtual void DragToNowhere(CPoint from) = 0;
-    virtual void DragAndCancel(CPoint from) = 0;                        // with Escape
-    virtual void DragToOther(CPoint from, const std::string& drop) = 0; // which takes or refuses
-    virtual std::string DragFromOther(CPoint to) = 0;                   // what it says of the drag's end
+    virtual void DragAndCancel(CPoint from) = 0; // with Escape
+    virtual void
+    DragToOther(CPoint from,
+                const std::string& drop) = 0; // how it is dropped there: "take", "refuse", "vanish", "hold"; "die"
+    virtual std::string DragFromOther(CPoint to) = 0; // what it says of the drag's end
 
 protected:
     virtual std::string NextLine() = 0; // of the actor
