@@ -53,9 +53,8 @@ public:
     virtual void DragWithin(CPoint from, CPoint to) = 0;
     virtual void DragToNowhere(CPoint from) = 0;
     virtual void DragAndCancel(CPoint from) = 0; // with Escape
-    virtual void
-    DragToOther(CPoint from,
-                const std::string& drop) = 0; // how it is dropped there: "take", "refuse", "vanish", "hold"; "die"
+    // Which does with it what the actor knows for "drop", or is killed while it holds: "die".
+    virtual void DragToOther(CPoint from, const std::string& drop) = 0;
     virtual std::string DragFromOther(CPoint to) = 0; // what it says of the drag's end
 
 protected:
