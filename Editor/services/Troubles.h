@@ -14,8 +14,8 @@ public:
     // One object more has had its turn; its line, which names it, is empty when all went well.
     void Add(std::string line);
 
-    // Empty without any; of one object its line; else of how many of how many, and a line for each. Of very many the first
-    // ones.
+    // Empty without any; of one object its line; else of how many of how many, and a line for each. Of very many the
+    // first ones.
     std::string Text() const;
 
 private:
