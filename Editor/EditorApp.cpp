@@ -1,6 +1,7 @@
 #include "Editor/EditorApp.h"
 
 #include "Editor/frame/MainFrame.h"
+#include "Editor/player/FrameWaiter.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/NameRefusals.h"
 #include "HostKit/Services.h"
@@ -52,6 +53,8 @@ struct EditorApp::Parts
 
     void TellOfPicture(IAtom* pAtom)
     {
+        if (const auto* const pWaiter = dynamic_cast<CFrameWaiter*>(pAtom))
+            return pWaiter->Arrived();
         CStubRef<IAtomContainer> pContainer;
         pAtom->GetContainer(pContainer.Receive(), IID_IAtomContainer);
         atomEditor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pAtom, pContainer.Get(), 0);

@@ -34,7 +34,7 @@ std::vector<std::string> KnownExtensions()
 }
 
 // Opens the file by the very bytes of its name, which need not be UTF-8. Empty, or why it was not opened.
-std::string Open(QFile& file, const std::string& path)
+std::string OpenFile(QFile& file, const std::string& path)
 {
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (descriptor < 0)
@@ -124,7 +124,51 @@ DecodedPicture Decode(QImageReader& reader, QSize max, int frame)
             BitsOf(pixels != QImage::Format_Invalid ? pixels : image.format())};
 }
 
+// Frames build on one another: each is decoded as a whole, and made smaller then.
+class QtPictureStream final : public PictureStream
+{
+public:
+    explicit QtPictureStream(CSize maxSize) : m_max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1)) {}
+
+    bool Open(const std::string& path)
+    {
+        if (!OpenFile(m_file, path).empty())
+            return false;
+        m_reader.setDevice(&m_file);
+        m_reader.setDecideFormatFromContent(true);
+        m_reader.setAutoTransform(true);
+        return m_reader.canRead() && m_reader.supportsAnimation();
+    }
+
+    std::optional<Frame> Next() override
+    {
+        const Reading reading;
+        QImage image = m_reader.read();
+        if (image.isNull())
+            return std::nullopt;
+        if (const QSize fitted = FitInto(image.size(), m_max); fitted != image.size())
+            image = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        const int delay = m_reader.nextImageDelay();
+        return Frame{ToSurface(image), delay < kLeastDelay ? kUsualDelay : delay};
+    }
+
+private:
+    // What says less has never been shown faster: animations are made for that.
+    static constexpr int kLeastDelay = 20, kUsualDelay = 100; // milliseconds
+
+    const QSize m_max;
+    QFile m_file;
+    QImageReader m_reader;
+};
+
 } // namespace
+
+std::unique_ptr<PictureStream> QtPictureReader::Open(const std::string& path, CSize maxSize) const
+{
+    const Reading reading;
+    auto pStream = std::make_unique<QtPictureStream>(maxSize);
+    return pStream->Open(path) ? std::move(pStream) : nullptr;
+}
 
 QtPictureReader::QtPictureReader() : m_extensions(KnownExtensions())
 {
@@ -145,7 +189,7 @@ DecodedPicture QtPictureReader::Read(const std::string& path, CSize maxSize, int
 DecodedPicture QtPictureReader::ReadFile(const std::string& path, CSize maxSize, int frame) const
 {
     QFile file;
-    if (std::string reason = Open(file, path); !reason.empty())
+    if (std::string reason = OpenFile(file, path); !reason.empty())
         return {{}, {}, std::move(reason)};
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);

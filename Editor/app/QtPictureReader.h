@@ -18,6 +18,8 @@ public:
     // kMaxMegabytes to decode is refused.
     DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const override;
 
+    std::unique_ptr<PictureStream> Open(const std::string& path, CSize maxSize) const override;
+
     static constexpr int kMaxMegabytes = 256;
 
     static bool IsReading(); // on any thread

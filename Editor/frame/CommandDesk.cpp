@@ -28,6 +28,11 @@ std::string TipOf(const CommandEntry& command, const CommandState& state)
     return NameOf(command, state) + " (" + command.key.Text() + ')' + (why.empty() ? "" : ": " + why);
 }
 
+hostkit::Pictogram IconOf(const CommandEntry& command, const CommandState& state)
+{
+    return command.nID == ID_PLAY && state.playing ? hostkit::Pictogram::Pause : *command.tool;
+}
+
 void AppendRecent(CMenu& menu, const char* pszText, const std::vector<std::string>& folders)
 {
     CMenu below;
@@ -108,7 +113,7 @@ std::unique_ptr<CMenu> CommandDesk::MakeContextMenu() const
 
 std::vector<std::string> CommandDesk::MenuTitles()
 {
-    return {"&File", "&Edit", "&View", "&Go", "&Help"};
+    return {"&File", "&Edit", "&View", "&Play", "&Go", "&Help"};
 }
 
 std::unique_ptr<CMenu> CommandDesk::MakeMenu(int nMenu) const
@@ -119,25 +124,31 @@ std::unique_ptr<CMenu> CommandDesk::MakeMenu(int nMenu) const
 
 std::vector<Tool> CommandDesk::WayTools() const
 {
-    return ToolsOf(true);
+    return ToolsOf([](Menu menu) { return menu == Menu::Go; });
 }
 
 std::vector<Tool> CommandDesk::ObjectTools() const
 {
-    return ToolsOf(false);
+    return ToolsOf([](Menu menu) { return menu != Menu::Go && menu != Menu::Play; });
 }
 
-std::vector<Tool> CommandDesk::ToolsOf(bool bWays) const
+std::vector<Tool> CommandDesk::PlayerTools() const
+{
+    return ToolsOf([](Menu menu) { return menu == Menu::Play; });
+}
+
+template <class IsIn>
+std::vector<Tool> CommandDesk::ToolsOf(IsIn isIn) const
 {
     const CommandState state = GetState();
     std::vector<Tool> tools;
     for (const CommandEntry& command : AllCommands())
-        if (command.tool && (command.menu == Menu::Go) == bWays)
+        if (command.tool && isIn(command.menu))
             tools.push_back({.command = command.nID,
-                             .pIcon = &hostkit::GetPictogram(*command.tool, kToolIcon),
+                             .pIcon = &hostkit::GetPictogram(IconOf(command, state), kToolIcon),
                              .tip = TipOf(command, state),
                              .isEnabled = (state.*command.pWhyNot).empty(),
-                             .isDown = command.pOn && state.*command.pOn,
+                             .isDown = command.nID != ID_PLAY && command.pOn && state.*command.pOn,
                              .isFirst = command.bSection});
     return tools;
 }

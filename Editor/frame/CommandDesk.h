@@ -31,11 +31,13 @@ public:
 
     std::vector<Tool> WayTools() const;    // at the left of the path
     std::vector<Tool> ObjectTools() const; // at its right
+    std::vector<Tool> PlayerTools() const; // below what is played
 
 private:
     template <class IsIn, class IsSection>
     std::unique_ptr<CMenu> MakeMenuOf(IsIn isIn, IsSection isSection) const;
-    std::vector<Tool> ToolsOf(bool bWays) const;
+    template <class IsIn>
+    std::vector<Tool> ToolsOf(IsIn isIn) const;
 
     const CommandTargets m_targets;
     const std::function<void(std::string)> m_say;

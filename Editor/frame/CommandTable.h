@@ -57,6 +57,13 @@ inline constexpr UINT ID_OWN_SIZE = 3065;
 inline constexpr UINT ID_RECENT = 3057;       // a menu
 inline constexpr UINT ID_RECENT_FIRST = 3100; // in it
 inline constexpr UINT ID_RECENT_LAST = 3119;
+inline constexpr UINT ID_PLAY = 3061;
+inline constexpr UINT ID_STEP_BACK = 3062;
+inline constexpr UINT ID_STEP_FORWARD = 3063;
+inline constexpr UINT ID_SLOWER = 3064;
+inline constexpr UINT ID_FASTER = 3065;
+inline constexpr UINT ID_LOOP = 3066;
+inline constexpr UINT ID_BACK_AND_FORTH = 3067;
 inline constexpr UINT ID_KEYS = 3053;
 inline constexpr UINT ID_ABOUT = 3054;
 
@@ -65,10 +72,11 @@ struct CommandState
 {
     using Why = std::string; // empty: it can be done
     Why open, carry, remove, rename, paste, selectAll, undo, redo, restore, makeFolder, makePhase, save, timing, list,
-        recent, back, forward, up, outside, picture;
+        recent, back, forward, up, outside, picture, play;
     Why never;                                         // stays empty
     std::string nameToUndo, nameToRedo, nameToRestore; // which step
-    bool icons = false, thumbnails = false, foldersFirst = false, filter = false, pixels = false;
+    bool icons = false, thumbnails = false, foldersFirst = false, filter = false, pixels = false, playing = false,
+         loop = false, backAndForth = false;
 };
 
 struct CommandTargets // all borrowed
@@ -85,6 +93,7 @@ struct CommandEntry
         File,
         Edit,
         View,
+        Play,
         Go,
         Help,
         None

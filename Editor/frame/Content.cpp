@@ -1,6 +1,7 @@
 #include "Editor/frame/Content.h"
 
 #include "Editor/pictures/IconPainter.h"
+#include "Editor/player/MakeFrames.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
 #include "HostKit/pictures/Pictograms.h"
@@ -10,25 +11,31 @@
 namespace editor
 {
 
-Content::Content(PictureStore& pictures, const CEditorList::Events& events, std::function<void()> changed)
+Content::Content(PictureStore& pictures, const CEditorList::Events& events, CPlayerView::Events player,
+                 std::function<void()> changed)
     : m_pictures(pictures),
       m_askShown(events.askShown),
       m_changed(std::move(changed)),
       m_icons(PictureSizeFor({kIconExtent, kIconExtent}), WithPainted(events)),
       m_thumbnails({}, WithPainted(events)),
-      m_picture(pictures, [this] { m_changed(); })
+      m_picture(pictures, [this] { m_changed(); }),
+      m_player(std::move(player))
 {}
 
 CEditorList::Events Content::WithPainted(CEditorList::Events events)
 {
     events.painted = [this] { ForgetUnseenPictures(); };
+    events.askEnlarging = [this] { return m_pictures.IsEnlarging(); };
+    events.makeFrames = [this](IAtom* pAtom, std::function<void()> arrived) {
+        return MakeFrames(pAtom, m_pictures, std::move(arrived));
+    };
     return events;
 }
 
 bool Content::Create(CWnd* pFrame)
 {
     if (!m_listPane.Create(pFrame) || !m_picturePane.Create(pFrame) || !m_icons.Create(&m_listPane) ||
-        !m_thumbnails.Create(&m_listPane) || !m_picture.Create(&m_picturePane))
+        !m_thumbnails.Create(&m_listPane) || !m_picture.Create(&m_picturePane) || !m_player.Create(&m_picturePane))
         return false;
     m_listPane.SetChoices({hostkit::GetPictogram(hostkit::Pictogram::IconPane, kPaneIconExtent),
                            hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent)},
@@ -38,13 +45,76 @@ bool Content::Create(CWnd* pFrame)
 
 void Content::MoveTo(const CRect& rect)
 {
-    m_listPane.MoveWindow(rect);
-    m_picturePane.MoveWindow(rect);
+    m_place = rect;
+    Arrange();
+}
+
+// In a low window there is room for the frames alone.
+void Content::Arrange()
+{
+    constexpr int kLeast = 300; // pixels high
+    CRect top = m_place, bottom = m_place;
+    if (m_pPlayed) {
+        top.bottom = m_place.Height() < kLeast ? top.top : top.top + m_place.Height() * 11 / 20;
+        bottom.top = top.bottom;
+    }
+    m_listPane.MoveWindow(bottom);
+    m_picturePane.MoveWindow(top);
+}
+
+void Content::ShowPhase(CPhase& phase)
+{
+    if (m_pPlayed.Get() == &phase)
+        return m_player.Update();
+    HidePlayer();
+    if (phase.GetCount() == 0)
+        return;
+    m_pPlayed = CStubRef<CPhase>::Share(&phase);
+    m_picturePane.ShowView(m_player.GetSafeHwnd(), phase.ShownName(),
+                           hostkit::GetPictogram(hostkit::Pictogram::Phase, kPaneIconExtent));
+    Arrange();
+    m_player.SetFrames(MakeFrames(&phase, m_pictures, [this] { m_player.OnArrived(); }));
+}
+
+void Content::HidePlayer()
+{
+    if (!m_player.HasFrames())
+        return;
+    m_player.SetFrames(nullptr);
+    m_pPlayed.Release();
+    m_picturePane.HideView();
+    Arrange();
+}
+
+// Once it is known.
+void Content::PlayPicture()
+{
+    if (!IsPictureShown() || m_player.HasFrames())
+        return;
+    auto pFrames = MakeFrames(m_picture.GetAtom(), m_pictures, [this] { m_player.OnArrived(); });
+    if (!pFrames)
+        return;
+    const bool bFocused = ::GetFocus() == m_picture.GetSafeHwnd();
+    m_picturePane.ShowView(m_player.GetSafeHwnd(), CMember::Of(m_picture.GetAtom())->ShownName(),
+                           hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent));
+    m_picture.ShowWindow(SW_HIDE);
+    m_player.SetFrames(std::move(pFrames));
+    m_player.TogglePlay();
+    if (bFocused)
+        m_player.SetFocus();
+}
+
+void Content::UpdatePlayer(IAtom* pAtom)
+{
+    if (m_pPlayed && (!pAtom || pAtom == m_pPlayed.Get()))
+        m_player.Update();
 }
 
 void Content::TakeFocus()
 {
-    if (IsPictureShown())
+    if (IsPictureShown() && m_player.HasFrames())
+        m_player.SetFocus();
+    else if (IsPictureShown())
         m_picture.SetFocus();
     else if (m_pList->IsWindowVisible())
         m_pList->SetFocus();
@@ -92,6 +162,7 @@ void Content::ShowPixels(bool bShow)
     m_pictures.SetEnlarging(bShow);
     m_thumbnails.ForgetPictures();
     m_picture.OnPictureArrived();
+    m_player.SetEnlarging(bShow);
     m_changed();
 }
 
@@ -120,17 +191,20 @@ void Content::ReloadList()
 
 void Content::ShowPicture(CMember* pMember, bool bKeepFocus)
 {
+    HidePlayer();
     m_picture.SetAtom(pMember);
     m_picturePane.ShowView(m_picture.GetSafeHwnd(), pMember->ShownName(),
                            hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent));
     if (!bKeepFocus)
         m_picture.SetFocus();
+    PlayPicture();
 }
 
 void Content::HidePicture()
 {
     if (!IsPictureShown())
         return;
+    HidePlayer();
     m_picture.SetAtom(nullptr);
     m_picturePane.HideView();
 }

@@ -1,6 +1,8 @@
-// The right side of the frame: one of two lists, or a picture.
+// The right side of the frame: one of two lists, or a picture. Above a list that shows a phase it is played; a picture
+// that moves is played in its own place.
 #pragma once
 
+#include "Editor/player/PlayerView.h"
 #include "Editor/views/EditorList.h"
 #include "Editor/views/PictureView.h"
 #include "HostKit/frame/Pane.h"
@@ -19,7 +21,8 @@ class Content
 public:
     // `pictures` is borrowed. `changed` is called when another list is shown. What Events::painted would be told is
     // dealt with here.
-    Content(PictureStore& pictures, const CEditorList::Events& events, std::function<void()> changed);
+    Content(PictureStore& pictures, const CEditorList::Events& events, CPlayerView::Events player,
+            std::function<void()> changed);
 
     bool Create(CWnd* pFrame);
     void ActivateFirst() { m_pList->Activate(nullptr); } // before any view of the frame is made
@@ -29,10 +32,14 @@ public:
     hostkit::CPane& GetListPane() { return m_listPane; }
     CPictureView& GetPicture() { return m_picture; }
     const CPictureView& GetPicture() const { return m_picture; }
+    CPlayerView& GetPlayer() { return m_player; }
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
-    bool Is(HWND hWnd) const { return hWnd && (hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.GetSafeHwnd()); }
+    bool Is(HWND hWnd) const
+    {
+        return hWnd && (hWnd == m_pList->GetSafeHwnd() || hWnd == m_picture.GetSafeHwnd() || hWnd == m_player.m_hWnd);
+    }
 
-    void MoveTo(const CRect& rect); // both panes; in the frame's client coordinates
+    void MoveTo(const CRect& rect); // all of it; in the frame's client coordinates
     void TakeFocus();
     ListKind GetKind() const { return m_pList == &m_icons ? ListKind::Icons : ListKind::Thumbnails; }
     void ShowList(ListKind kind); // with the selection of the one before
@@ -51,8 +58,13 @@ public:
     // The picture takes the list's place, and the focus unless that is kept.
     void ShowPicture(CMember* pMember, bool bKeepFocus);
     void HidePicture();
+    void ShowPhase(CPhase& phase); // above the list
+    void PlayPicture();            // which is shown, if it moves
+    void HidePlayer();
+    void UpdatePlayer(IAtom* pAtom); // which has changed; NULL: who knows
 
 private:
+    void Arrange();
     CEditorList::Events WithPainted(CEditorList::Events events);
     void ForgetUnseenPictures();
 
@@ -64,6 +76,9 @@ private:
     CEditorThumbnails m_thumbnails;
     CEditorList* m_pList = &m_icons; // the active one
     CPictureView m_picture;
+    CPlayerView m_player;
+    CStubRef<CPhase> m_pPlayed; // above the list; or empty
+    CRect m_place;
 };
 
 } // namespace editor

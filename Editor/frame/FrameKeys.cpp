@@ -53,8 +53,26 @@ bool FrameKeys::HandlePictureKey(UINT vkey)
     return true;
 }
 
+// The arrows, where a phase's frames are not the list's.
+bool FrameKeys::HandlePlayerKey(UINT vkey)
+{
+    CPlayerView& player = m_parts.content.GetPlayer();
+    if (!player.HasFrames())
+        return false;
+    if (vkey == VK_SPACE)
+        return player.TogglePlay(), true;
+    const bool bBack = vkey == VK_LEFT || vkey == VK_UP;
+    const bool bStep = bBack || vkey == VK_RIGHT || vkey == VK_DOWN;
+    if (!bStep || ::GetFocus() != player.m_hWnd || m_parts.content.IsPictureShown())
+        return false;
+    player.Step(bBack ? -1 : 1);
+    return true;
+}
+
 bool FrameKeys::HandleContentKey(UINT vkey)
 {
+    if (HandlePlayerKey(vkey))
+        return true;
     const bool bPicture = m_parts.content.IsPictureShown();
     if (bPicture && HandlePictureKey(vkey))
         return true;

@@ -31,6 +31,7 @@ public:
 private:
     bool HandleContentKey(UINT vkey);
     bool HandlePictureKey(UINT vkey);
+    bool HandlePlayerKey(UINT vkey);
     bool HandleTreeKey(UINT vkey);
     void OpenFocused(); // the list's focused row
 

@@ -2,6 +2,7 @@
 
 #include "Editor/disk/FileText.h"
 #include "Editor/frame/StatusText.h"
+#include "Editor/model/ImageLink.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
@@ -54,7 +55,7 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
                  [this] { m_content.TakeFocus(); }}),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
-      m_content(pictures, ListEvents(),
+      m_content(pictures, ListEvents(), PlayerEvents(),
                 [this] {
                     Arrange();
                     UpdateStatus();
@@ -139,6 +140,7 @@ void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 BOOL CMainFrame::OnCreateAtom(IAtom* pAtom, IAtomContainer*)
 {
     m_pCreated = CStubRef<CMember>::Share(CMember::Of(pAtom));
+    ShowMovement();
     UpdateStatus();
     return TRUE;
 }
@@ -151,6 +153,7 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
     if (bRenamed)
         FollowRenamed(pAtom, pCreated.Get());
     m_modified.Forget(pAtom);
+    ShowMovement();
     UpdateStatus();
     return TRUE;
 }
@@ -158,15 +161,21 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (pAtom && pAtom == GetPictureView().GetAtom())
-        GetPictureView().OnPictureArrived();
+        GetPictureView().OnPictureArrived(), m_content.PlayPicture();
     m_statusBar.Invalidate();
-    if (dynamic_cast<CPhase*>(CMember::Of(pAtom)))
+    if (dynamic_cast<CPhase*>(CMember::Of(pAtom))) {
+        m_content.UpdatePlayer(pAtom);
         m_properties.Update(); // looks through all that is selected: not for each picture that has been read
+    }
     return TRUE;
 }
 
-BOOL CMainFrame::OnAtomSelected(IAtom*, IAtomContainer*)
+// A player that stands still shows the frame that the user is at.
+BOOL CMainFrame::OnAtomSelected(IAtom* pAtom, IAtomContainer*)
 {
+    const auto* const pLink = dynamic_cast<const CImageLink*>(CMember::Of(pAtom));
+    if (pLink && pLink->Container() == Shown() && pLink->Position() >= 0)
+        m_content.GetPlayer().Follow(pLink->Position());
     UpdateStatus();
     return TRUE;
 }
@@ -191,11 +200,24 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
         m_content.HidePicture();
     else // whoever walks through the tree stays in it
         m_content.ShowPicture(pMember, ::GetFocus() == m_tree.m_hWnd);
+    ShowMovement();
     SetWindowText((pMember->ShownName() + " - Views").c_str());
     Arrange();
     UpdatePath();
     UpdateStatus();
     return TRUE;
+}
+
+// Of a phase that is shown.
+void CMainFrame::ShowMovement()
+{
+    if (m_content.IsPictureShown())
+        return;
+    auto* const pPhase = dynamic_cast<CPhase*>(Shown());
+    if (pPhase && pPhase->GetCount() > 0)
+        m_content.ShowPhase(*pPhase);
+    else
+        m_content.HidePlayer();
 }
 
 // The views show the object under its new name last, and take the next one's selection for the one that went. They are

@@ -109,6 +109,8 @@ private:
     void Arrange();
     void MoveSplitter(int x);
     CEditorList::Events ListEvents();
+    CPlayerView::Events PlayerEvents();
+    void ShowMovement();
     void UpdatePath();
     void UpdateStatus();
     CPropertiesPane::Phases SelectedPhases() const;

@@ -88,4 +88,9 @@ CEditorList::Events CMainFrame::ListEvents()
             }};
 }
 
+CPlayerView::Events CMainFrame::PlayerEvents()
+{
+    return {[this] { return m_desk.PlayerTools(); }, [this](UINT nID) { m_desk.Run(nID); }};
+}
+
 } // namespace editor

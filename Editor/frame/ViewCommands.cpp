@@ -14,7 +14,7 @@ constexpr const char* kAbout = "Views " EDITOR_VERSION "\n\n"
 
 std::vector<CKeysSheet::Group> KeyGroups()
 {
-    static constexpr const char* titles[] = {"File", "Edit", "View", "Go", "Help"};
+    static constexpr const char* titles[] = {"File", "Edit", "View", "Play", "Go", "Help"};
     std::vector<CKeysSheet::Group> groups;
     for (const char* pszTitle : titles)
         groups.push_back({pszTitle, {}});
@@ -41,6 +41,11 @@ void ViewCommands::Describe(CommandState& state) const
         state.list = "a picture is shown";
     else
         state.picture = "no picture is shown";
+    const CPlayerView& player = m_parts.content.GetPlayer();
+    state.play = player.HasFrames() ? "" : "no phase is shown, and no picture that moves";
+    state.playing = player.GetPlayback().IsPlaying();
+    state.loop = player.GetPlayback().IsForEver();
+    state.backAndForth = player.GetPlayback().TurnsBack();
     if (!m_parts.properties.HasPhases())
         state.timing = "no phase is selected";
 }

@@ -45,6 +45,13 @@ public:
     bool AreFoldersFirst() const { return m_bFoldersFirst; }
     void ToggleFilter();
     void BeginSearch(); // for what the filter holds
+    void TogglePlay() { m_parts.content.GetPlayer().TogglePlay(); }
+    void StepBack() { m_parts.content.GetPlayer().Step(-1); }
+    void StepForward() { m_parts.content.GetPlayer().Step(1); }
+    void PlaySlower() { m_parts.content.GetPlayer().ChangeSpeed(-1); }
+    void PlayFaster() { m_parts.content.GetPlayer().ChangeSpeed(1); }
+    void ToggleLoop() { m_parts.content.GetPlayer().ToggleForEver(); }
+    void ToggleBackAndForth() { m_parts.content.GetPlayer().ToggleTurnsBack(); }
     void FocusNextPane();
     void FocusTiming() { m_parts.properties.FocusFields(); }
     void LeaveFields(); // which enters what was typed

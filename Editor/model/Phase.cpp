@@ -170,7 +170,7 @@ BOOL CPhase::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
         const toolkit::Surface& film = hostkit::GetPictogram(hostkit::Pictogram::Phase, kWithoutCover);
         return toolkit::DrawSurface(hdc, toolkit::Centred(film.Bounds().Size(), rect), film, film.Bounds());
     }
-    if (!DrawThumbnail(hdc, rect, answer))
+    if (!DrawThumbnail(hdc, rect, answer, Context().pPictures->IsEnlarging()))
         return FALSE;
     DrawMark(hdc, rect, hostkit::Pictogram::Phase);
     return TRUE;

@@ -39,7 +39,8 @@ bool IsLarge(CSize size)
 } // namespace
 
 PictureStore::PictureStore(const PictureReader& reader, Limits limits, Arrived arrived)
-    : m_limits(limits),
+    : m_reader(reader),
+      m_limits(limits),
       m_arrived(std::move(arrived)),
       m_pSelf(std::make_shared<PictureStore*>(this)),
       m_queue(reader, limits.threads, [this] { PostCollect(); })

@@ -56,6 +56,7 @@ public:
     // How small pictures are shown: enlarged, each pixel to a square, or as whoever shows them thinks best.
     void SetEnlarging(bool bEnlarging) { m_bEnlarging = bEnlarging; }
     bool IsEnlarging() const { return m_bEnlarging; }
+    const PictureReader& GetReader() const { return m_reader; }
 
     // Files may have changed: they are looked at anew when they are next wanted. What is known serves until then.
     void Recheck();
@@ -104,6 +105,7 @@ private:
     void Trim();
     void Tell(const Atoms& atoms);
 
+    const PictureReader& m_reader;
     const Limits m_limits;
     const Arrived m_arrived;
     bool m_bEnlarging = false;

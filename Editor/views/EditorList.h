@@ -1,7 +1,9 @@
 // A list view as the frame uses it, whatever its rows look like.
 #pragma once
 
+#include "Editor/pictures/IconPainter.h"
 #include "Editor/views/DropTargets.h"
+#include "Editor/views/HoverPlayer.h"
 #include "Editor/views/NameField.h"
 #include "Views/host/StubRef.h"
 #include "Views/list/list.h"
@@ -31,6 +33,8 @@ public:
         std::function<void()> pressed;                 // a mouse button, on the list
         std::function<void(int nNotches)> zoomed;      // the wheel, with Control; up is positive
         std::function<bool(IAtom* pAtom)> openOutside; // before a double click opens it here; true: it is open
+        HoverPlayer::MakeFrames makeFrames{};
+        std::function<bool()> askEnlarging{}; // of small pictures
     };
 
     virtual ~CEditorList() = default;
@@ -49,7 +53,7 @@ public:
     std::vector<CStubRef<IAtom>> AtomsInSight() const; // sorted by address
     int FindRow(IAtom* pAtom) const;                   // looks at all; -1: none
 
-    int RowAt(CPoint client) const { return m_view.HitTest(client); } // -1 where none is
+    int RowAt(CPoint client) const { return m_view.HitTest(client); }      // -1 where none is
     IAtomContainer* ShownContainer() const { return m_events.askShown(); } // borrowed
     // What a drop there would come into: the row's atom if it is a container, else none; the shown one where no row is.
     CStubRef<IAtomContainer> ContainerAt(CPoint client) const;
@@ -112,7 +116,11 @@ public:
         : CEditorList(*this, std::move(events)),
           m_picture(picture),
           m_target(*this, GetEvents().dropFailed, GetEvents().dropRefused),
-          m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); })
+          m_nameField(*this, [this](IAtom* pAtom) { return View::EditLabel(FindRow(pAtom)); }),
+          m_hover(*this, GetEvents().makeFrames,
+                  {[this](int nRow) { return GetAtom(nRow); }, [this] { return PictureSize(); },
+                   [this](int nRow, const auto& frame) { return DrawFrame(nRow, frame); },
+                   [this](IAtom* pAtom) { View::OnChangeAtom(pAtom, nullptr); }})
     {
         View::PlaceNewAtoms();
         View::SetMemberOrder(MOF_NATURAL);
@@ -200,6 +208,8 @@ protected:
         const bool bPaints = message == WM_PAINT && ::GetUpdateRect(View::m_hWnd, &dirty);
         if (message == WM_LBUTTONDOWN || message == WM_RBUTTONDOWN)
             GetEvents().pressed();
+        if (kAreThumbnails)
+            Hover(message, wParam, lParam);
         if (message == WM_MOUSEWHEEL && (wParam & MK_CONTROL)) {
             GetEvents().zoomed(static_cast<std::int16_t>(HIWORD(wParam)) > 0 ? 1 : -1);
             return 0;
@@ -225,9 +235,33 @@ protected:
 private:
     static constexpr bool kAreThumbnails = std::is_base_of_v<CThumbList, View>;
 
+    void Hover(UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        if (message == WM_MOUSEMOVE)
+            m_hover.MoveTo(View::HitTest({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
+        else if (message == WM_MOUSELEAVE || message == WM_DESTROY || message == WM_LBUTTONDOWN)
+            m_hover.MoveTo(-1);
+        else if (message == WM_TIMER && wParam == HoverPlayer::kTimer)
+            m_hover.Tick();
+    }
+    bool DrawFrame(int nRow, const PictureStore::Answer& frame)
+    {
+        if constexpr (kAreThumbnails) {
+            const bool bPhase = static_cast<bool>(CStubRef<IPhase>::From(GetAtom(nRow).Get()));
+            return View::DrawThumbnailAnew(nRow, [&](HDC hdc, CRect& rect) {
+                const BOOL bDrawn = DrawThumbnail(hdc, rect, frame, GetEvents().askEnlarging());
+                if (bPhase)
+                    DrawMark(hdc, rect, hostkit::Pictogram::Phase);
+                return bDrawn;
+            });
+        }
+        return false;
+    }
+
     const CSize m_picture;
     CEditorListTarget m_target;
     NameField m_nameField;
+    HoverPlayer m_hover;
     bool m_bActive = false;
 };
 

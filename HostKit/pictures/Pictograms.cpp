@@ -208,15 +208,62 @@ void DrawPathArrow(Drawing& drawing, bool)
     drawing.Fill(Stroke({{19, 13}, {30, 24}, {19, 35}}, 4), Ink(kInk, 0.7));
 }
 
+void DrawPlay(Drawing& drawing, bool)
+{
+    drawing.Fill(Polygon({{13, 7}, {40, 24}, {13, 41}}), Ink(RGB(84, 146, 214)));
+}
+
+void DrawPause(Drawing& drawing, bool)
+{
+    drawing.Fill(RoundRect({10, 8}, {20, 40}, 2.5) | RoundRect({28, 8}, {38, 40}, 2.5), Ink(RGB(84, 146, 214)));
+}
+
+void DrawStepBack(Drawing& drawing, bool)
+{
+    drawing.Fill(Polygon({{36, 9}, {36, 39}, {15, 24}}) | RoundRect({9, 9}, {14, 39}, 1.5), Ink(kInk));
+}
+
+void DrawStepForward(Drawing& drawing, bool)
+{
+    drawing.Fill(Polygon({{12, 9}, {33, 24}, {12, 39}}) | RoundRect({34, 9}, {39, 39}, 1.5), Ink(kInk));
+}
+
+void DrawSlower(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{22, 12}, {10, 24}, {22, 36}}, 4.5) | Stroke({{38, 12}, {26, 24}, {38, 36}}, 4.5), Ink(kInk));
+}
+
+void DrawFaster(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{10, 12}, {22, 24}, {10, 36}}, 4.5) | Stroke({{26, 12}, {38, 24}, {26, 36}}, 4.5), Ink(kInk));
+}
+
+// Round and round: two arrows, each to the other's tail.
+void DrawLoop(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{8, 24}, {8, 14}, {37, 14}}, 4.2) | Stroke({{30, 6}, {38, 14}, {30, 22}}, 4.2) |
+                     Stroke({{40, 24}, {40, 34}, {11, 34}}, 4.2) | Stroke({{18, 26}, {10, 34}, {18, 42}}, 4.2),
+                 Ink(kInk));
+}
+
+void DrawBackAndForth(Drawing& drawing, bool)
+{
+    drawing.Fill(Stroke({{8, 24}, {40, 24}}, 4.2) | Stroke({{17, 14}, {7, 24}, {17, 34}}, 4.2) |
+                     Stroke({{31, 14}, {41, 24}, {31, 34}}, 4.2),
+                 Ink(kInk));
+}
+
 } // namespace
 
 toolkit::Surface DrawPictogram(Pictogram which, int pixels)
 {
     using Draw = void (*)(Drawing&, bool);
     static constexpr Draw draw[] = {
-        DrawFolder, DrawPhase, DrawBrokenPicture, DrawPlaceholder, DrawTreePane, DrawIconPane, DrawThumbnailPane,
-        DrawUp,     DrawBack,  DrawForward,       DrawPathArrow,   DrawUndo,     DrawRedo,     DrawCut,
-        DrawCopy,   DrawPaste, DrawDelete,        DrawFind,        DrawFile};
+        DrawFolder,        DrawPhase, DrawBrokenPicture, DrawPlaceholder, DrawTreePane,    DrawIconPane,
+        DrawThumbnailPane, DrawUp,    DrawBack,          DrawForward,     DrawPathArrow,   DrawUndo,
+        DrawRedo,          DrawCut,   DrawCopy,          DrawPaste,       DrawDelete,      DrawFind,
+        DrawFile,          DrawPlay,  DrawPause,         DrawStepBack,    DrawStepForward, DrawSlower,
+        DrawFaster,        DrawLoop,  DrawBackAndForth};
     Drawing drawing(pixels, kUnits);
     draw[static_cast<int>(which)](drawing, pixels >= kDetailed);
     return drawing.Take();

@@ -28,6 +28,14 @@ enum class Pictogram
     Delete,
     Find,
     File, // of no kind that the host knows
+    Play, // and what else players have
+    Pause,
+    StepBack,
+    StepForward,
+    Slower,
+    Faster,
+    Loop,
+    BackAndForth,
 };
 
 HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);

@@ -94,6 +94,8 @@ protected:
     // is no such row or no atom in it.
     unsigned long GetItemData(int nItem) const;
 
+    int GetCachedImage(int nItem) const; // as OnCacheItem has set it; -1 for a row that is not cached
+
     // Comparators for qsort over IAtom pointers: image links of one phase by their positions in it, all others by
     // name without regard to case; NULL comes last. CompareFunc1 says 1 when the first sorts after the second, else
     // 0. A name that cannot be read is the one that was read last in its place.

@@ -175,3 +175,9 @@ void CObjectsList::OnObjectsGetDispinfo(NMLVDISPINFO* pInfo, LRESULT*)
     if (pInfo->item.mask & LVIF_TEXT)
         pInfo->item.pszText = const_cast<LPSTR>(pRecord->strText.GetString()); // read, never written
 }
+
+int CObjectsList::GetCachedImage(int nItem) const
+{
+    const CACHEDATA* const pData = m_pCache->Find(nItem);
+    return pData ? pData->nImage : -1;
+}

@@ -1,5 +1,6 @@
 #include "Views/list/ThumbList.h"
 
+#include "Views/host/IAtomContainer.h"
 #include "Views/host/Resources.h"
 #include "Views/list/inside/FreeImages.h"
 #include "Views/list/inside/Thumbnails.h"
@@ -104,4 +105,21 @@ void CThumbList::OnUncacheItem(int, IAtom*, IAtomContainer*, CACHEDATA* pData)
 void CThumbList::OnClearContext()
 {
     ClearAnimation();
+}
+
+BOOL CThumbList::DrawThumbnailAnew(int nItem, const std::function<BOOL(HDC hdc, CRect& rect)>& draw)
+{
+    const int nImage = GetCachedImage(nItem);
+    if (nImage < 0)
+        return FALSE;
+    m_pThumbnails->Replace(static_cast<UINT>(nImage), ContainerIn(nItem), draw);
+    CRect icon;
+    if (GetItemRect(nItem, &icon, LVIR_ICON))
+        ::InvalidateRect(m_hWnd, &icon);
+    return TRUE;
+}
+
+bool CThumbList::ContainerIn(int nItem) const
+{
+    return static_cast<bool>(CStubRef<IAtomContainer>::From(AtomIn(nItem)));
 }

@@ -39,6 +39,10 @@ protected:
     void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) override;
     void OnClearContext() override;
 
+    // For a derived class that has thumbnails move: `draw` paints the row's thumbnail as IAtomThumbnail::Draw does, at
+    // once. It stays until the row is cached anew, as after OnChangeAtom. FALSE for a row that is not cached.
+    BOOL DrawThumbnailAnew(int nItem, const std::function<BOOL(HDC hdc, CRect& rect)>& draw);
+
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnMouseMove(UINT nFlags, CPoint point); // the control itself has no use for it
     afx_msg void OnDestroy();
@@ -53,8 +57,9 @@ private:
         CStubRef<IAtomThumbnail> pThumb;
     };
 
-    void ShowImages();              // new ones, of which the first is the folder picture
-    IAtom* AtomIn(int nItem) const; // borrowed; NULL when there is none
+    void ShowImages();                 // new ones, of which the first is the folder picture
+    IAtom* AtomIn(int nItem) const;    // borrowed; NULL when there is none
+    bool ContainerIn(int nItem) const; // is it one?
     void StartTimer();
     void ClearAnimation();
 

@@ -88,6 +88,12 @@ UINT views::Thumbnails::Add(IAtom* pAtom, UINT nIndex)
     return kNone;
 }
 
+void views::Thumbnails::Replace(UINT nIndex, bool bContainer, const std::function<BOOL(HDC hdc, CRect& rect)>& draw)
+{
+    Paint(nIndex, bContainer,
+          [&](HDC hdc, CRect& rect) { return ::FillRect(hdc, rect, BackBrush()), draw(hdc, rect); });
+}
+
 // The last resort: where it cannot be painted the picture stays blank, so that an image used before does not go on
 // showing another atom.
 UINT views::Thumbnails::AddFolder(UINT nIndex)

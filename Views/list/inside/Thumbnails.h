@@ -8,6 +8,8 @@
 #include "Views/host/IAtom.h"
 #include "Views/host/inside/GdiHolders.h"
 
+#include <functional>
+
 class IAtomIcon;
 
 namespace views
@@ -41,6 +43,8 @@ public:
 
     UINT Add(IAtom* pAtom, UINT nIndex); // its thumbnail, else its icon
     UINT AddFolder(UINT nIndex);
+    // The image becomes a thumbnail that `draw` draws.
+    void Replace(UINT nIndex, bool bContainer, const std::function<BOOL(HDC hdc, CRect& rect)>& draw);
 
     void SetExtent(int nExtent); // of all pictures from now on, in pixels each way; 128 at first
     int GetExtent() const { return m_nExtent; }

@@ -1,0 +1,26 @@
+// What moves: pictures in an order, each for its time.
+#pragma once
+
+#include "Editor/pictures/PictureStore.h"
+
+namespace editor
+{
+
+// Frames count from 0. Nothing here waits for a picture: what is not there yet is told of when it comes, to whoever
+// made this.
+class Frames
+{
+public:
+    Frames() = default;
+    virtual ~Frames() = default;
+    Frames(const Frames&) = delete;
+    Frames& operator=(const Frames&) = delete;
+
+    virtual int GetCount() = 0;          // may change while it is shown
+    virtual int DelayOf(int nFrame) = 0; // milliseconds
+    virtual int GetRepeats() = 0;        // how often all are played; 0: without an end
+    // The frame as large as the size allows. It is good until the next call.
+    virtual PictureStore::Answer Find(int nFrame, CSize size) = 0;
+};
+
+} // namespace editor

@@ -1,0 +1,270 @@
+#include "Editor/player/PlayerView.h"
+
+#include "Editor/pictures/Enlarge.h"
+#include "Editor/widgets/Look.h"
+#include "HostKit/pictures/Pictograms.h"
+#include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/Scale.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+constexpr UINT_PTR kFrameTimer = 1;
+constexpr int kBar = kPathBarHeight;
+constexpr int kMostEnlarged = 4;
+constexpr int kReadAhead = 4; // frames
+constexpr int kBroken = 96;   // pixels
+
+toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bPixels)
+{
+    const CSize own = picture.Bounds().Size();
+    if (bPixels && own.cx <= room.cx && own.cy <= room.cy)
+        return EnlargePixels(picture, room);
+    const CSize fitted =
+        toolkit::FitInto(own, {std::min(room.cx, own.cx * kMostEnlarged), std::min(room.cy, own.cy * kMostEnlarged)});
+    if (fitted == own)
+        return picture;
+    return fitted.cx > own.cx ? Enlarge(picture, fitted) : toolkit::ScaleSurface(picture, fitted);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CPlayerView, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_SIZE()
+    ON_WM_TIMER()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+CPlayerView::CPlayerView(Events events)
+    : m_events(std::move(events)),
+      m_tools([this] { return m_events.askTools(); }, [this](UINT nCommand) { m_events.use(nCommand); }),
+      m_seekBar([this](int nFrame) { GoTo(nFrame); })
+{}
+
+BOOL CPlayerView::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) &&
+           m_tools.Create(this) && m_seekBar.Create(this);
+}
+
+void CPlayerView::SetFrames(std::unique_ptr<Frames> pFrames)
+{
+    KillTimer(kFrameTimer);
+    m_pFrames = std::move(pFrames);
+    m_playback.Pause();
+    m_playback.SetCount(0);
+    m_shown = {};
+    Update();
+}
+
+void CPlayerView::Update()
+{
+    m_playback.SetCount(m_pFrames ? m_pFrames->GetCount() : 0);
+    m_playback.SetRepeats(m_pFrames ? m_pFrames->GetRepeats() : 1);
+    ShowPresent();
+}
+
+void CPlayerView::OnArrived()
+{
+    if (m_pFrames && m_pFrames->GetCount() != m_playback.GetCount())
+        return Update(); // so many are known by now
+    if (!std::exchange(m_bAwaited, false))
+        return;
+    if (m_playback.IsPlaying() && Fetch(m_playback.Next()))
+        Tick();
+    else
+        ShowPresent();
+}
+
+CRect CPlayerView::Stage() const
+{
+    CRect stage;
+    GetClientRect(&stage);
+    stage.bottom = std::max(stage.top, stage.bottom - kBar);
+    return stage;
+}
+
+CSize CPlayerView::Room() const
+{
+    CRect room = Stage();
+    room.DeflateRect(kSpace, kSpace);
+    return {std::max(room.Width(), 0), std::max(room.Height(), 0)};
+}
+
+bool CPlayerView::Fetch(int nFrame)
+{
+    if (!m_pFrames || nFrame < 0 || Room().cx == 0 || Room().cy == 0)
+        return true; // there is nothing to wait for
+    const PictureStore::Answer answer = m_pFrames->Find(nFrame, Room());
+    m_bAwaited = !answer.pPicture && !answer.bFailed;
+    if (m_bAwaited)
+        return false;
+    m_shown = answer.pPicture ? FittedTo(*answer.pPicture, Room(), m_bPixels)
+                              : hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBroken);
+    const CRect stage = Stage();
+    ::InvalidateRect(m_hWnd, &stage);
+    return true;
+}
+
+void CPlayerView::ShowPresent()
+{
+    if (!m_hWnd)
+        return;
+    if (m_playback.At() < 0)
+        m_shown = {};
+    Fetch(m_playback.At());
+    Tell();
+    Invalidate();
+}
+
+// The nearest is wished for last: it is read first.
+void CPlayerView::ReadAhead()
+{
+    if (!m_pFrames || m_playback.GetCount() < 2)
+        return;
+    Playback ahead = m_playback;
+    int next[kReadAhead];
+    for (int& nFrame : next) {
+        ahead.Advance();
+        nFrame = ahead.At();
+    }
+    for (int i = kReadAhead - 1; i >= 0; --i)
+        m_pFrames->Find(next[i], Room());
+}
+
+void CPlayerView::TogglePlay()
+{
+    if (m_playback.IsPlaying()) {
+        m_playback.Pause();
+        KillTimer(kFrameTimer);
+    } else {
+        m_playback.Play();
+        ScheduleNext(true);
+    }
+    ShowPresent();
+}
+
+void CPlayerView::ScheduleNext(bool bFirst)
+{
+    if (!m_playback.IsPlaying())
+        return;
+    const DWORD dwNow = toolkit::CurrentDesktop().Ticks();
+    const int nDelay = m_playback.Scaled(m_pFrames->DelayOf(m_playback.At()));
+    const bool bLate = static_cast<int>(dwNow - m_dwDue) > nDelay; // a whole frame: nobody runs after that
+    m_dwDue = (bFirst || bLate ? dwNow : m_dwDue) + static_cast<DWORD>(nDelay);
+    SetTimer(kFrameTimer, static_cast<UINT>(std::max(1, static_cast<int>(m_dwDue - dwNow))));
+    ReadAhead();
+}
+
+void CPlayerView::OnTimer(UINT_PTR)
+{
+    KillTimer(kFrameTimer);
+    if (m_playback.IsPlaying() && Fetch(m_playback.Next()))
+        Tick();
+}
+
+// The next frame is there, and shown.
+void CPlayerView::Tick()
+{
+    m_playback.Advance();
+    ScheduleNext(false);
+    Tell();
+}
+
+void CPlayerView::Step(int nFrames)
+{
+    KillTimer(kFrameTimer);
+    m_playback.Step(nFrames);
+    ShowPresent();
+}
+
+void CPlayerView::GoTo(int nFrame)
+{
+    m_playback.GoTo(nFrame);
+    ShowPresent();
+}
+
+void CPlayerView::Follow(int nFrame)
+{
+    if (m_pFrames && !m_playback.IsPlaying() && nFrame != m_playback.At())
+        GoTo(nFrame);
+}
+
+void CPlayerView::ChangeSpeed(int nSteps)
+{
+    m_playback.ChangeSpeed(nSteps);
+    ScheduleNext(true);
+    Tell();
+}
+
+void CPlayerView::ToggleForEver()
+{
+    m_playback.SetForEver(!m_playback.IsForEver());
+    Tell();
+}
+
+void CPlayerView::ToggleTurnsBack()
+{
+    m_playback.SetTurnsBack(!m_playback.TurnsBack());
+    Tell();
+}
+
+void CPlayerView::Tell()
+{
+    const int nAt = m_playback.At();
+    std::string text;
+    if (nAt >= 0)
+        text = std::to_string(nAt + 1) + " of " + std::to_string(m_playback.GetCount()) + ", " +
+               std::to_string(m_pFrames->DelayOf(nAt)) + " ms";
+    if (nAt >= 0 && m_playback.GetSpeed() != 100)
+        text += " at " + std::to_string(m_playback.GetSpeed()) + " %";
+    m_seekBar.Show(nAt, m_playback.GetCount(), std::move(text));
+    m_tools.Invalidate();
+}
+
+void CPlayerView::SetEnlarging(bool bPixels)
+{
+    m_bPixels = bPixels;
+    ShowPresent();
+}
+
+BOOL CPlayerView::OnEraseBkgnd(HDC hdc)
+{
+    FillSolidRect(hdc, Stage(), CalmColor());
+    return TRUE;
+}
+
+void CPlayerView::OnPaint()
+{
+    const CPaintDC dc(this);
+    if (m_shown.IsEmpty())
+        return;
+    const CRect stage = Stage();
+    IntersectClipRect(dc, stage);
+    DrawChecks(dc, {toolkit::Centred(m_shown.Bounds().Size(), stage), m_shown.Bounds().Size()});
+    DrawCentred(dc, stage, m_shown);
+}
+
+void CPlayerView::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    const int nTools = std::min(CToolBar::WidthOf(m_events.askTools()), cx);
+    m_tools.MoveWindow({0, Stage().bottom, nTools, cy});
+    m_seekBar.MoveWindow({nTools, Stage().bottom, cx, cy});
+    ShowPresent();
+}
+
+void CPlayerView::OnLButtonDown(UINT, CPoint)
+{
+    SetFocus();
+}
+
+} // namespace editor

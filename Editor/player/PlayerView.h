@@ -1,0 +1,76 @@
+// Plays what moves: a picture pane with buttons below it.
+#pragma once
+
+#include "Editor/player/Frames.h"
+#include "Editor/player/Playback.h"
+#include "Editor/player/SeekBar.h"
+#include "Editor/widgets/ToolBar.h"
+
+#include <memory>
+
+namespace editor
+{
+
+// Driven by a timer. A frame that has not been read yet is waited for, with the one before it in sight; the next few
+// are read ahead. Small pictures are enlarged as they are elsewhere.
+class CPlayerView : public CWnd
+{
+public:
+    struct Events
+    {
+        std::function<std::vector<Tool>()> askTools;
+        std::function<void(UINT nCommand)> use;
+    };
+    explicit CPlayerView(Events events);
+    ~CPlayerView() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    void SetFrames(std::unique_ptr<Frames> pFrames); // stands still at the first; NULL: there is nothing to play
+    bool HasFrames() const { return m_pFrames != nullptr; }
+    void OnArrived(); // a frame's picture has come
+    void Update();    // the frames may be others now
+
+    const Playback& GetPlayback() const { return m_playback; }
+    void TogglePlay();
+    void Step(int nFrames);
+    void GoTo(int nFrame);   // goes on playing there
+    void Follow(int nFrame); // the same, unless it plays
+    void ChangeSpeed(int nSteps);
+    void ToggleForEver();
+    void ToggleTurnsBack();
+    void SetEnlarging(bool bPixels); // small pictures: each pixel to a square?
+
+    const toolkit::Surface& GetShown() const { return m_shown; } // as it is drawn; empty while there is none
+    CSeekBar& GetSeekBar() { return m_seekBar; }
+    CToolBar& GetTools() { return m_tools; }
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnTimer(UINT_PTR nIDEvent);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect Stage() const; // all but the bar
+    CSize Room() const;
+    bool Fetch(int nFrame); // shows it; false: it is not there yet
+    void ShowPresent();
+    void ReadAhead();
+    void Tick();
+    void ScheduleNext(bool bFirst);
+    void Tell();
+
+    const Events m_events;
+    CToolBar m_tools;
+    CSeekBar m_seekBar;
+    std::unique_ptr<Frames> m_pFrames;
+    Playback m_playback;
+    toolkit::Surface m_shown;
+    bool m_bPixels = false;
+    bool m_bAwaited = false; // the frame that is to be shown is not there yet
+    DWORD m_dwDue = 0;       // when the next frame is
+};
+
+} // namespace editor

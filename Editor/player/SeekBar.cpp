@@ -1,0 +1,115 @@
+#include "Editor/player/SeekBar.h"
+
+#include "Editor/widgets/Look.h"
+#include "Toolkit/focus/Capture.h"
+#include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/SysColors.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace editor
+{
+namespace
+{
+
+constexpr int kText = 190, kLeastTrack = 60; // pixels wide
+constexpr int kGroove = 4, kKnob = 14;       // pixels high
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CSeekBar, CWnd)
+    ON_WM_ERASEBKGND()
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONUP()
+    ON_WM_MOUSEMOVE()
+END_MESSAGE_MAP()
+
+BOOL CSeekBar::Create(CWnd* pParent)
+{
+    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
+}
+
+void CSeekBar::Show(int nAt, int nCount, std::string text)
+{
+    m_nAt = nAt;
+    m_nCount = nCount;
+    m_text = std::move(text);
+    Invalidate();
+}
+
+CRect CSeekBar::Track() const
+{
+    CRect track;
+    GetClientRect(&track);
+    track.DeflateRect(2 * kSpace, 0);
+    track.right -= kText;
+    return track.Width() < kLeastTrack || m_nCount < 2 ? CRect() : track;
+}
+
+int CSeekBar::PlaceOf(int nFrame, const CRect& track) const
+{
+    const auto room = static_cast<std::int64_t>(track.Width() - kKnob);
+    return static_cast<int>(track.left + kKnob / 2 + room * nFrame / (m_nCount - 1));
+}
+
+BOOL CSeekBar::OnEraseBkgnd(HDC hdc)
+{
+    FillTopBar(hdc, m_hWnd);
+    return TRUE;
+}
+
+void CSeekBar::OnPaint()
+{
+    const CPaintDC dc(this);
+    CRect client;
+    GetClientRect(&client);
+    CRect text = client;
+    text.right -= 2 * kSpace;
+    text.left = std::max<int>(text.right - kText, 0);
+    DrawTextLine(dc, text, m_text, GetSysColor(COLOR_GRAYTEXT), Align::Right);
+    const CRect track = Track();
+    if (track.IsRectEmpty() || m_nAt < 0)
+        return;
+    const int x = PlaceOf(m_nAt, track), y = track.CenterPoint().y;
+    const COLORREF done = GetSysColor(COLOR_HIGHLIGHT);
+    FillSolidRect(dc, {track.left, y - kGroove / 2, track.right, y + kGroove / 2}, LineColor());
+    FillSolidRect(dc, {track.left, y - kGroove / 2, x, y + kGroove / 2}, done);
+    for (int i = 0; i < kKnob / 2; ++i) { // a disc, line by line
+        const int half = kKnob / 2 - (i > kKnob / 4 ? (i - kKnob / 4) * 3 / 2 : i > 1 ? 1 : 0);
+        FillSolidRect(dc, {x - half, y - i - 1, x + half, y - i}, done);
+        FillSolidRect(dc, {x - half, y + i, x + half, y + i + 1}, done);
+    }
+}
+
+void CSeekBar::OnLButtonDown(UINT, CPoint point)
+{
+    if (!Track().PtInRect(point))
+        return;
+    SetCapture();
+    SeekTo(point);
+}
+
+void CSeekBar::OnLButtonUp(UINT, CPoint)
+{
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+}
+
+void CSeekBar::OnMouseMove(UINT, CPoint point)
+{
+    if (::GetCapture() == m_hWnd)
+        SeekTo(point);
+}
+
+void CSeekBar::SeekTo(CPoint point)
+{
+    const CRect track = Track();
+    if (track.IsRectEmpty())
+        return;
+    const std::int64_t room = track.Width() - kKnob, at = point.x - track.left - kKnob / 2;
+    m_seek(static_cast<int>(std::clamp<std::int64_t>((at * (m_nCount - 1) + room / 2) / room, 0, m_nCount - 1)));
+}
+
+} // namespace editor

@@ -1,0 +1,41 @@
+// Where in a row of frames the shown one stands, and what is told of it.
+#pragma once
+
+#include "Toolkit/window/Wnd.h"
+
+#include <functional>
+#include <string>
+
+namespace editor
+{
+
+class CSeekBar : public CWnd
+{
+public:
+    // `seek` is called with the frame that the user points at, the button held down.
+    explicit CSeekBar(std::function<void(int nFrame)> seek) : m_seek(std::move(seek)) {}
+    ~CSeekBar() override { DestroyWindow(); }
+
+    BOOL Create(CWnd* pParent);
+    void Show(int nAt, int nCount, std::string text); // nAt from 0
+    const std::string& GetText() const { return m_text; }
+
+protected:
+    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
+    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
+    DECLARE_MESSAGE_MAP()
+
+private:
+    CRect Track() const; // what can be pointed at; empty where there is no room
+    int PlaceOf(int nFrame, const CRect& track) const;
+    void SeekTo(CPoint point);
+
+    const std::function<void(int)> m_seek;
+    int m_nAt = -1, m_nCount = 0;
+    std::string m_text;
+};
+
+} // namespace editor

@@ -1,0 +1,133 @@
+// A phase that is opened can be played above its frames: with buttons, keys and in its own time.
+#include "Editor/player/Playback.h"
+#include "Toolkit/graphics/SysColors.h"
+#include "tests/editor/EditorFixture.h"
+
+namespace
+{
+
+std::string Played(editor::Playback& playback, int nFrames)
+{
+    std::string frames;
+    playback.Play();
+    for (int i = 0; i < nFrames && playback.IsPlaying(); ++i) {
+        frames += std::to_string(playback.At());
+        playback.Advance();
+    }
+    return frames + (playback.IsPlaying() ? "..." : ".");
+}
+
+TEST(PlaybackTest, PlaysRoundAndRoundToAndFroAndAsOftenAsIsSaid)
+{
+    editor::Playback playback;
+    EXPECT_EQ(".", Played(playback, 3));
+    playback.SetCount(3);
+    playback.SetRepeats(2);
+    EXPECT_EQ("0120120...", Played(playback, 7));
+    playback.GoTo(0);
+    playback.SetTurnsBack(true);
+    EXPECT_EQ("01210121...", Played(playback, 8));
+    playback.GoTo(0);
+    playback.SetTurnsBack(true);
+    playback.SetForEver(false);
+    EXPECT_EQ("012101210.", Played(playback, 20));
+    playback.SetTurnsBack(false);
+    EXPECT_EQ("012012.", Played(playback, 20));
+    EXPECT_EQ("012012.", Played(playback, 20)) << "from the beginning, where it has ended";
+    playback.Step(1);
+    EXPECT_EQ(0, playback.At());
+    playback.SetCount(1);
+    EXPECT_EQ(".", Played(playback, 3)) << "one frame does not move";
+}
+
+class PlayerTest : public EditorTest
+{
+protected:
+    PlayerTest()
+    {
+        folder.WriteBmp("a.bmp", 8, 8, 0xFF200000);
+        folder.WriteBmp("b.bmp", 8, 8, 0xFF400000);
+        folder.WriteBmp("c.bmp", 8, 8, 0xFF600000);
+        folder.Write("walk.phase", "#delay 200\na.bmp\nb.bmp\nc.bmp\n");
+        Open();
+    }
+
+    editor::CPlayerView& Player() { return Frame().GetContent().GetPlayer(); }
+    // What the user sees: the frame's number as its picture has it, and what is told beside it.
+    std::string Seen()
+    {
+        desktop.Run();
+        const toolkit::Surface& shown = Player().GetShown();
+        const int nRed =
+            shown.IsEmpty() ? 0 : GetRValue(toolkit::ToColor(shown.At(shown.Width() / 2, shown.Height() / 2)));
+        return std::to_string(nRed / 0x20) + ": " + Player().GetSeekBar().GetText();
+    }
+    std::string After(int nMilliseconds)
+    {
+        desktop.Advance(nMilliseconds);
+        return Seen();
+    }
+};
+
+TEST_F(PlayerTest, APhasePlaysInItsTimeAboveItsFrames)
+{
+    EXPECT_FALSE(IsWindowVisible(Player().m_hWnd));
+    DoubleClick("walk.phase");
+    EXPECT_EQ("1: 1 of 3, 200 ms", Seen());
+    EXPECT_EQ("[a.bmp b.bmp c.bmp]", Rows());
+    desktop.Key(VK_SPACE);
+    EXPECT_EQ("1: 1 of 3, 200 ms", After(190));
+    EXPECT_EQ("2: 2 of 3, 200 ms", After(10));
+    EXPECT_EQ("1: 1 of 3, 200 ms", (After(200), After(200)));
+    Frame().GetViews().PlayFaster();
+    EXPECT_EQ("2: 2 of 3, 200 ms at 200 %", After(100));
+    desktop.Key(VK_SPACE);
+    EXPECT_EQ("2: 2 of 3, 200 ms at 200 %", After(1000));
+
+    desktop.Click(Player().m_hWnd, {20, 20});
+    desktop.Key(VK_RIGHT);
+    desktop.Key(VK_RIGHT);
+    desktop.Key(VK_LEFT);
+    EXPECT_EQ("3: 3 of 3, 200 ms at 200 %", Seen());
+    ::SetFocus(List());
+    Click("b.bmp");
+    EXPECT_EQ("2: 2 of 3, 200 ms at 200 %", Seen()) << "it follows who goes through the frames";
+    AltUp();
+    EXPECT_FALSE(IsWindowVisible(Player().m_hWnd));
+}
+
+TEST_F(PlayerTest, AFrameThatIsNotReadYetIsWaitedForAndTheLastOneStays)
+{
+    DoubleClick("walk.phase");
+    Settle();
+    Frame().GetContent().GetPlayer().MoveWindow({0, 0, 400, 200}); // all are to be read anew
+    Settle();
+    folder.WriteBmp("b.bmp", 900, 900, 0xFF400000);
+    desktop.Key(VK_F5);
+    Settle();
+    reader.Hold();
+    Player().MoveWindow({0, 0, 500, 300});
+    desktop.Key(VK_SPACE);
+    EXPECT_EQ("1: 1 of 3, 200 ms", After(1000));
+    reader.AllowAll();
+    Settle();
+    EXPECT_EQ("2: 2 of 3, 200 ms", Seen());
+    EXPECT_EQ("3: 3 of 3, 200 ms", After(200));
+}
+
+TEST_F(PlayerTest, WhatIsChangedInThePhaseIsPlayed)
+{
+    DoubleClick("walk.phase");
+    Click("a.bmp");
+    desktop.Answer(IDYES);
+    desktop.Key(VK_DELETE);
+    EXPECT_EQ("2: 1 of 2, 200 ms", Seen());
+    TakeBoxes();
+    Frame().MoveWindow(CRect(0, 0, 700, 300));
+    Settle();
+    CRect list;
+    ::GetClientRect(List(), &list);
+    EXPECT_GT(list.Height(), 60) << "a low window keeps the frames";
+}
+
+} // namespace
