@@ -12,6 +12,7 @@ protected:
         folder.Make("a.bmp b.bmp c.bmp d.bmp e.bmp Ada/x.bmp");
         folder.Write("Ada/walk.phase", kWalk);
         Open();
+        Frame().MoveWindow(CRect(0, 0, 960, 720));
         DoubleClick("Ada");
         DoubleClick("walk.phase");
     }
