@@ -16,6 +16,7 @@ namespace
 {
 
 constexpr UINT_PTR kFrameTimer = 1;
+constexpr UINT kUpdate = WM_USER;
 constexpr int kBar = kPathBarHeight;
 constexpr int kMostEnlarged = 4;
 constexpr int kReadAhead = 4; // frames
@@ -41,6 +42,7 @@ BEGIN_MESSAGE_MAP(CPlayerView, CWnd)
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_WM_LBUTTONDOWN()
+    ON_MESSAGE(kUpdate, OnUpdate)
 END_MESSAGE_MAP()
 
 CPlayerView::CPlayerView(Events events)
@@ -62,10 +64,23 @@ void CPlayerView::SetFrames(std::unique_ptr<Frames> pFrames)
     m_playback.Pause();
     m_playback.SetCount(0);
     m_shown = {};
-    Update();
+    CountFrames();
 }
 
 void CPlayerView::Update()
+{
+    if (m_hWnd && !std::exchange(m_bUpdatePosted, true))
+        PostMessage(kUpdate);
+}
+
+LRESULT CPlayerView::OnUpdate(WPARAM, LPARAM)
+{
+    m_bUpdatePosted = false;
+    CountFrames();
+    return 0;
+}
+
+void CPlayerView::CountFrames()
 {
     m_playback.SetCount(m_pFrames ? m_pFrames->GetCount() : 0);
     m_playback.SetRepeats(m_pFrames ? m_pFrames->GetRepeats() : 1);
@@ -75,7 +90,7 @@ void CPlayerView::Update()
 void CPlayerView::OnArrived()
 {
     if (m_pFrames && m_pFrames->GetCount() != m_playback.GetCount())
-        return Update(); // so many are known by now
+        return CountFrames(); // so many are known by now
     if (!std::exchange(m_bAwaited, false))
         return;
     if (m_playback.IsPlaying() && Fetch(m_playback.Next()))
@@ -121,7 +136,8 @@ void CPlayerView::ShowPresent()
     if (m_playback.At() < 0)
         m_shown = {};
     Fetch(m_playback.At());
-    Tell();
+    TellPlace();
+    m_tools.Invalidate();
     Invalidate();
 }
 
@@ -176,7 +192,9 @@ void CPlayerView::Tick()
 {
     m_playback.Advance();
     ScheduleNext(false);
-    Tell();
+    TellPlace();
+    if (!m_playback.IsPlaying())
+        m_tools.Invalidate();
 }
 
 void CPlayerView::Step(int nFrames)
@@ -202,22 +220,23 @@ void CPlayerView::ChangeSpeed(int nSteps)
 {
     m_playback.ChangeSpeed(nSteps);
     ScheduleNext(true);
-    Tell();
+    TellPlace();
 }
 
 void CPlayerView::ToggleForEver()
 {
     m_playback.SetForEver(!m_playback.IsForEver());
-    Tell();
+    m_tools.Invalidate();
 }
 
 void CPlayerView::ToggleTurnsBack()
 {
     m_playback.SetTurnsBack(!m_playback.TurnsBack());
-    Tell();
+    m_tools.Invalidate();
 }
 
-void CPlayerView::Tell()
+// The tools ask a lot before they are drawn: not for each frame.
+void CPlayerView::TellPlace()
 {
     const int nAt = m_playback.At();
     std::string text;
@@ -227,7 +246,6 @@ void CPlayerView::Tell()
     if (nAt >= 0 && m_playback.GetSpeed() != 100)
         text += " at " + std::to_string(m_playback.GetSpeed()) + " %";
     m_seekBar.Show(nAt, m_playback.GetCount(), std::move(text));
-    m_tools.Invalidate();
 }
 
 void CPlayerView::SetEnlarging(bool bPixels)

@@ -28,7 +28,7 @@ public:
     void SetFrames(std::unique_ptr<Frames> pFrames); // stands still at the first; NULL: there is nothing to play
     bool HasFrames() const { return m_pFrames != nullptr; }
     void OnArrived(); // a frame's picture has come
-    void Update();    // the frames may be others now
+    void Update();    // the frames may be others now: looked at once, however often it is called
 
     const Playback& GetPlayback() const { return m_playback; }
     void TogglePlay();
@@ -50,9 +50,11 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnUpdate(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
+    void CountFrames();
     CRect Stage() const; // all but the bar
     CSize Room() const;
     bool Fetch(int nFrame); // shows it; false: it is not there yet
@@ -60,7 +62,7 @@ private:
     void ReadAhead();
     void Tick();
     void ScheduleNext(bool bFirst);
-    void Tell();
+    void TellPlace();
 
     const Events m_events;
     CToolBar m_tools;
@@ -69,6 +71,7 @@ private:
     Playback m_playback;
     toolkit::Surface m_shown;
     bool m_bPixels = false;
+    bool m_bUpdatePosted = false;
     bool m_bAwaited = false; // the frame that is to be shown is not there yet
     DWORD m_dwDue = 0;       // when the next frame is
 };

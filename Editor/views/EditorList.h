@@ -239,7 +239,8 @@ private:
     {
         if (message == WM_MOUSEMOVE)
             m_hover.MoveTo(View::HitTest({GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)}));
-        else if (message == WM_MOUSELEAVE || message == WM_DESTROY || message == WM_LBUTTONDOWN)
+        else if (message == WM_MOUSELEAVE || message == WM_DESTROY || message == WM_LBUTTONDOWN ||
+                 message == WM_MOUSEWHEEL || message == WM_VSCROLL)
             m_hover.MoveTo(-1);
         else if (message == WM_TIMER && wParam == HoverPlayer::kTimer)
             m_hover.Tick();

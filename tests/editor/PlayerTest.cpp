@@ -1,7 +1,9 @@
 // A phase that is opened can be played above its frames: with buttons, keys and in its own time.
+#include "Editor/player/AnimationFrames.h"
 #include "Editor/player/Playback.h"
-#include "Toolkit/graphics/SysColors.h"
 #include "tests/editor/EditorFixture.h"
+
+#include <atomic>
 
 namespace
 {
@@ -128,6 +130,83 @@ TEST_F(PlayerTest, WhatIsChangedInThePhaseIsPlayed)
     CRect list;
     ::GetClientRect(List(), &list);
     EXPECT_GT(list.Height(), 60) << "a low window keeps the frames";
+}
+
+TEST_F(PlayerTest, OnlyTheThumbnailUnderTheMouseMoves)
+{
+    folder.Write("still.phase", "a.bmp\n");
+    Frame().MoveWindow(CRect(0, 0, 960, 720));
+    Control('2');
+    desktop.Key(VK_F5);
+    Settle();
+    const auto red = [&](const char* pszName, int nMilliseconds) {
+        desktop.Advance(static_cast<DWORD>(nMilliseconds));
+        Settle();
+        const CPoint at = PlaceOf(pszName);
+        return static_cast<int>(GetRValue(toolkit::ToColor(desktop.Dump(List()).At(at.x, at.y)))) / 0x20;
+    };
+    const CPoint walk = PlaceOf("walk.phase"), still = PlaceOf("still.phase");
+    EXPECT_EQ(1, red("walk.phase", 5000));
+    desktop.MoveTo(List(), walk);
+    EXPECT_EQ(1, red("walk.phase", 250)) << "whoever only passes sees nothing";
+    EXPECT_EQ(2, red("walk.phase", 200));
+    EXPECT_EQ(3, red("walk.phase", 200));
+    desktop.MoveTo(List(), still);
+    EXPECT_EQ(1, red("walk.phase", 5000));
+    EXPECT_EQ(1, red("still.phase", 5000));
+    desktop.MoveTo(List(), walk);
+    EXPECT_EQ(2, (red("walk.phase", 250), red("walk.phase", 200)));
+    desktop.MoveTo(Tree().m_hWnd, {5, 5});
+    EXPECT_EQ(1, red("walk.phase", 5000));
+}
+
+// A film of a thousand frames, each a pixel more red than the one before, and ten milliseconds longer.
+class Film final : public editor::PictureReader
+{
+public:
+    std::vector<std::string> Extensions() const override { return {}; }
+    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {}; }
+    std::unique_ptr<editor::PictureStream> Open(const std::string&, CSize maxSize) const override
+    {
+        struct Stream final : editor::PictureStream
+        {
+            std::optional<Frame> Next() override
+            {
+                if (nNext == 1000)
+                    return std::nullopt;
+                const Frame frame{toolkit::Surface(size, static_cast<toolkit::Pixel>(nNext)), 10 * (nNext + 1)};
+                return ++nNext, frame;
+            }
+            CSize size;
+            int nNext = 0;
+        };
+        auto pStream = std::make_unique<Stream>();
+        pStream->size = maxSize;
+        return ++nOpened, std::move(pStream);
+    }
+    mutable std::atomic<int> nOpened = 0;
+};
+
+TEST_F(PlayerTest, AnimationsAreReadAheadAndWhatHasGoneIsReadAnew)
+{
+    static Film film; // its reader may end after the test
+    editor::AnimationFrames frames(film, "film", 1000, {});
+    const auto frameAt = [&](int nFrame, CSize size) {
+        const bool bCame = desktop.RunUntil([&] { return frames.Find(nFrame, size).pPicture != nullptr; });
+        const toolkit::Surface* const pPicture = bCame ? frames.Find(nFrame, size).pPicture : nullptr;
+        return pPicture && pPicture->Bounds().Size() == size ? static_cast<int>(pPicture->At(0, 0)) : -1;
+    };
+    const CSize large(1000, 1000); // twelve of them are kept
+    EXPECT_EQ(0, frameAt(0, large));
+    EXPECT_EQ(20, frameAt(20, large));
+    EXPECT_EQ(210, frames.DelayOf(20));
+    EXPECT_EQ(18, frameAt(18, large));
+    EXPECT_EQ(1, film.nOpened) << "what was shown last is still there";
+    EXPECT_EQ(2, frameAt(2, large));
+    EXPECT_EQ(2, film.nOpened);
+    EXPECT_EQ(999, frameAt(999, {4, 4}));
+    EXPECT_EQ(0, frameAt(0, {4, 4}));
+    EXPECT_EQ(3, film.nOpened);
 }
 
 } // namespace
