@@ -115,8 +115,15 @@ TEST_F(PictureReaderTest, AnAnimationComesFrameByFrame)
     EXPECT_EQ(0xFFFF0000u, Read("two.gif", {8, 8}).picture.At(0, 0));
     EXPECT_EQ(0xFF0000FFu, Read("two.gif", {8, 8}, 1).picture.At(0, 0));
     EXPECT_EQ("there is no such frame", Read("two.gif", {8, 8}, 2).error);
+    const auto pStream = m_reader.Open(Path("two.gif"), {8, 8});
+    EXPECT_EQ(0xFFFF0000u, pStream->Next()->picture.At(0, 0));
+    const auto second = pStream->Next();
+    EXPECT_EQ(0xFF0000FFu, second->picture.At(0, 0));
+    EXPECT_EQ(100, second->delay) << "it says nothing of it";
+    EXPECT_FALSE(pStream->Next());
     TwoHalves(8, 8).save(m_folder.filePath("still.png"));
     EXPECT_EQ(1, Read("still.png", {8, 8}).frames);
+    EXPECT_FALSE(m_reader.Open(Path("still.png"), {8, 8}));
 }
 
 TEST_F(PictureReaderTest, WhatCannotBeReadGivesItsReasonAndTheTerminalIsSpared)
