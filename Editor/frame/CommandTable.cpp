@@ -122,7 +122,7 @@ constexpr CommandEntry kCommands[] = {
      .tool = Pictogram::StepForward, .pWhyNot = &Can::play, .run = Do<&Views::StepForward>},
     {.nID = ID_SLOWER, .menu = Menu::Play, .pszText = "&Slower", .bSection = true, .key = {'S', With::ControlShift},
      .tool = Pictogram::Slower, .pWhyNot = &Can::play, .run = Do<&Views::PlaySlower>},
-    {.nID = ID_FASTER, .menu = Menu::Play, .pszText = "Fas&ter", .key = {'F', With::ControlShift},
+    {.nID = ID_FASTER, .menu = Menu::Play, .pszText = "Fas&ter", .key = {'D', With::ControlShift},
      .tool = Pictogram::Faster, .pWhyNot = &Can::play, .run = Do<&Views::PlayFaster>},
     {.nID = ID_LOOP, .menu = Menu::Play, .pszText = "&Loop", .bSection = true, .key = {'L', With::ControlShift},
      .tool = Pictogram::Loop, .pWhyNot = &Can::play, .pOn = &Can::loop, .run = Do<&Views::ToggleLoop>},
