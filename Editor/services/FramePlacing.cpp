@@ -4,6 +4,7 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/ImageLink.h"
 #include "Editor/services/MemberBroadcast.h"
+#include "Editor/services/Troubles.h"
 #include "Views/host/Services.h"
 
 #include <algorithm>
@@ -29,22 +30,28 @@ std::vector<std::size_t> DraggedPlaces(const CAtomEditor& editor)
 struct Lines
 {
     const CPhase& phase;
-    std::vector<std::string> lines;
-    std::string failure; // for the first that has none
+    std::vector<std::string> lines{};
+    Troubles troubles{}; // of what has none
+
+    void Note(std::string line, std::string trouble)
+    {
+        troubles.Add(line.empty() ? std::move(trouble) : std::string());
+        if (!line.empty())
+            lines.push_back(std::move(line));
+    }
 };
 
 BOOL NoteLine(IAtom* pAtom, void* pContext)
 {
     auto& noted = *static_cast<Lines*>(pContext);
     const CArchivedAtom* const pArchived = CArchivedAtom::Of(pAtom);
-    std::string trouble;
     if (!pArchived)
         return FALSE;
+    std::string trouble;
     std::string line = noted.phase.LineOf(pArchived->Record(), trouble);
-    if (!line.empty())
-        noted.lines.push_back(std::move(line));
-    else if (noted.failure.empty())
-        noted.failure = trouble.empty() ? ToShown(pArchived->Record().name) + CPhase::kNoPictureOfIt : trouble;
+    if (trouble.empty())
+        trouble = ToShown(pArchived->Record().name) + CPhase::kNoPictureOfIt;
+    noted.Note(std::move(line), std::move(trouble));
     return TRUE;
 }
 
@@ -52,13 +59,13 @@ std::string Insert(CAtomEditor& editor, CPhase& phase, const Lines& noted, UINT 
 {
     nPlaced = 0;
     if (noted.lines.empty())
-        return noted.failure;
+        return noted.troubles.Text();
     const History::Step step(&editor.GetHistory(), "new frames");
     if (std::string failure = phase.InsertLines(noted.lines, nBefore); !failure.empty())
         return failure;
     nPlaced = static_cast<UINT>(noted.lines.size());
     ReadAgainAndTell(editor, phase);
-    return noted.failure;
+    return noted.troubles.Text();
 }
 
 } // namespace
@@ -87,7 +94,7 @@ std::string MoveDragged(CAtomEditor& editor, CPhase& phase, UINT nBefore)
 
 std::string InsertArchived(CAtomEditor& editor, CPhase& phase, IArchive* pArchive, UINT nBefore, UINT& nPlaced)
 {
-    Lines noted{phase, {}, {}};
+    Lines noted{phase};
     nPlaced = 0;
     if (!editor.ReadArchive(&NoteLine, pArchive, &noted))
         return editor.GetArchiveError();
@@ -96,19 +103,16 @@ std::string InsertArchived(CAtomEditor& editor, CPhase& phase, IArchive* pArchiv
 
 std::string InsertFiles(CPhase& phase, const std::vector<std::string>& paths, UINT nBefore, UINT& nPlaced)
 {
-    Lines noted{phase, {}, {}};
+    Lines noted{phase};
     for (const std::string& path : paths) {
         std::string trouble;
         std::string line = phase.LineOfFile(path, trouble);
-        if (!line.empty())
-            noted.lines.push_back(std::move(line));
-        else if (noted.failure.empty())
-            noted.failure = trouble;
+        noted.Note(std::move(line), std::move(trouble));
     }
     const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
     auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
     nPlaced = 0;
-    return pOwn ? Insert(*pOwn, phase, noted, nBefore, nPlaced) : noted.failure;
+    return pOwn ? Insert(*pOwn, phase, noted, nBefore, nPlaced) : noted.troubles.Text();
 }
 
 } // namespace editor

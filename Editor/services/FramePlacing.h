@@ -10,7 +10,7 @@ namespace editor
 {
 
 // All come before that frame, counted from 0, or behind the last one: in the order they are given in, with one change
-// of the phase, of which every view hears. Empty, or the reason why not all were placed.
+// of the phase, of which every view hears. Empty, or the reason why not all were placed, for each of them.
 
 // Those of the phase that are being dragged.
 std::string MoveDragged(CAtomEditor& editor, CPhase& phase, UINT nBefore);
