@@ -28,7 +28,7 @@ struct EditorApp::Parts
         if (options.isFollowing)
             pWatch = std::make_unique<FolderWatch>([this](const auto& news) {
                 if (pFrame && pFrame->GetSafeHwnd())
-                    pFrame->OnDiskNews(news);
+                    pFrame->GetFollower().OnDiskNews(news);
             });
     }
     ~Parts()

@@ -1,32 +1,16 @@
 #include "Editor/frame/MainFrame.h"
 
-#include "Editor/disk/FileText.h"
 #include "Editor/frame/StatusText.h"
 #include "Editor/model/ImageLink.h"
 #include "Editor/model/Phase.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
 #include "Toolkit/menu/MessageBox.h"
-#include "Toolkit/message/TaskInbox.h"
 
 #include <utility>
 
 namespace editor
 {
-namespace
-{
-
-constexpr UINT kSelectRenamed = WM_USER;
-
-// Is it all that was selected?
-bool IsOneThatIsGone(const CEditorList::State& list)
-{
-    CMember* const pOne = list.selected.size() == 1 ? CMember::Of(list.selected.front().Get()) : nullptr;
-    return pOne && WhatIsLeftOf(pOne) != pOne;
-}
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
@@ -34,7 +18,6 @@ BEGIN_MESSAGE_MAP(CMainFrame, CWnd)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_MESSAGE(WM_ACTIVATE, OnActivated)
-    ON_MESSAGE(kSelectRenamed, OnSelectRenamed)
 END_MESSAGE_MAP()
 
 CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outside)
@@ -42,17 +25,9 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
       m_pictures(pictures),
       m_outside(std::move(outside)),
       m_navigation(
-          editor, [this] { GetList().FocusSelection(); },
-          [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
+          editor, [this] { GetList().FocusSelection(); }, m_tell),
       m_modified(editor),
-      m_follower(editor, pictures, m_navigation),
-      m_menuBar(CommandDesk::MenuTitles(),
-                {[this](int nMenu) { return m_desk.MakeMenu(nMenu); }, [this](UINT nID) { m_desk.Run(nID); }}),
-      m_ways([this] { return m_desk.WayTools(); }, [this](UINT nID) { m_desk.Run(nID); }),
-      m_tools([this] { return m_desk.ObjectTools(); }, [this](UINT nID) { m_desk.Run(nID); }),
-      m_pathBar({[this](int nPart) { m_navigation.GoToPart(nPart); }, [this] { m_places.TypePath(); },
-                 [this](const std::string& path) { return m_places.ShowTyped(path); },
-                 [this] { m_content.TakeFocus(); }}),
+      m_bars({m_navigation, m_places, m_views, m_desk, m_content, [this] { return GetStatus(); }}),
       m_treePane(kSpace / 2),
       m_splitter([this](int x) { MoveSplitter(x); }),
       m_content(pictures, ListEvents(), PlayerEvents(),
@@ -61,26 +36,19 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
                     UpdateStatus();
                 }),
       m_commands({editor, pictures, m_navigation, m_content, m_modified, [this] { UpdateStatus(); }}),
-      m_tree(
-          ReportDrop(), [this](const std::string& line) { m_statusBar.SetNews(line); }, [this] { OnPressed(); }),
+      m_follower({editor, pictures, m_navigation, m_content, m_modified, m_commands, m_tell}),
+      m_tree(ReportDrop(), m_tell, [this] { OnPressed(); }),
       m_properties({[this] { return SelectedPhases(); },
                     [this](const auto&... entered) { m_modified.Enter(entered...); },
                     [this] { m_content.TakeFocus(); }}),
       m_keysSheet([this] { m_content.TakeFocus(); }),
       m_filter(m_content, [this] { UpdateStatus(); }),
-      m_search(
-          {m_navigation, m_commands, m_content, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }}),
-      m_places({editor, m_navigation, m_pathBar, m_outside.places,
-                [this](std::string line) { m_statusBar.SetNews(std::move(line)); }}),
+      m_search({m_navigation, m_commands, m_content, m_tell}),
+      m_places({editor, m_navigation, m_bars.GetPathBar(), m_outside.places, m_tell}),
       m_views({*this, m_treePane, m_tree, m_content, m_properties, m_keysSheet, m_filter, m_search}),
-      m_desk({m_commands, m_places, m_views}, [this](std::string line) { m_statusBar.SetNews(std::move(line)); }),
+      m_desk({m_commands, m_places, m_views}, m_tell),
       m_keys({*this, m_tree, m_splitter, m_content, m_navigation, m_filter, m_desk}),
-      m_statusBar([this] { return GetStatus(); }),
-      m_sizeSlider(Content::kLeastThumbnail, Content::kMostThumbnail,
-                   {[this] { return m_content.GetThumbnailExtent(); },
-                    [this](int nExtent) { m_content.SetThumbnailExtent(nExtent); },
-                    [this](int nSteps) { m_views.Step(nSteps); }}),
-      m_workView(editor.GetWork(), [this](const std::string& line) { m_statusBar.SetNews(line); })
+      m_workView(editor.GetWork(), m_tell)
 {}
 
 CMainFrame::~CMainFrame()
@@ -139,19 +107,15 @@ void CMainFrame::ShowLibrary(CLibrary* pLibrary)
 
 BOOL CMainFrame::OnCreateAtom(IAtom* pAtom, IAtomContainer*)
 {
-    m_pCreated = CStubRef<CMember>::Share(CMember::Of(pAtom));
+    m_follower.Came(pAtom);
     ShowMovement();
     UpdateStatus();
     return TRUE;
 }
 
-// A member that goes when another has just come to its container was renamed.
 BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 {
-    const CStubRef<CMember> pCreated = std::move(m_pCreated);
-    const bool bRenamed = pAtom && pCreated && pCreated->Container() && pContainer == pCreated->Container();
-    if (bRenamed)
-        FollowRenamed(pAtom, pCreated.Get());
+    m_follower.Went(pAtom, pContainer);
     m_modified.Forget(pAtom);
     ShowMovement();
     UpdateStatus();
@@ -162,7 +126,7 @@ BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (pAtom && pAtom == GetPictureView().GetAtom())
         GetPictureView().OnPictureArrived(), m_content.PlayPicture();
-    m_statusBar.Invalidate();
+    m_bars.GetStatusBar().Invalidate();
     if (dynamic_cast<CPhase*>(CMember::Of(pAtom))) {
         m_content.UpdatePlayer(pAtom);
         m_properties.Update(); // looks through all that is selected: not for each picture that has been read
@@ -203,7 +167,7 @@ BOOL CMainFrame::OnAtomEntered(IAtom* pAtom, IAtomContainer*)
     ShowMovement();
     SetWindowText((pMember->ShownName() + " - Views").c_str());
     Arrange();
-    UpdatePath();
+    m_bars.ShowPath();
     UpdateStatus();
     return TRUE;
 }
@@ -220,33 +184,6 @@ void CMainFrame::ShowMovement()
         m_content.HidePlayer();
 }
 
-// The views show the object under its new name last, and take the next one's selection for the one that went. They are
-// put right when they have heard of both; where what is shown was renamed, before they turn to something else.
-void CMainFrame::FollowRenamed(IAtom* pFormer, CMember* pRenamed)
-{
-    for (CMember* pMember = Shown(); pMember; pMember = pMember->Container()) {
-        if (static_cast<IAtom*>(pMember) != pFormer)
-            continue;
-        m_navigation.GoTo(pRenamed);
-        break;
-    }
-    m_modified.Follow(CMember::Of(pFormer)->Path(), pRenamed->Path(), *m_navigation.Library());
-    m_pRenamed = CStubRef<CMember>::Share(pRenamed);
-    PostMessage(kSelectRenamed);
-}
-
-LRESULT CMainFrame::OnSelectRenamed(WPARAM, LPARAM)
-{
-    const CStubRef<CMember> pRenamed = std::move(m_pRenamed);
-    if (!pRenamed || Shown() != pRenamed->Container())
-        return 0;
-    std::vector<CStubRef<IAtom>> atoms;
-    atoms.push_back(CStubRef<IAtom>::Share(pRenamed.Get()));
-    m_commands.GetPlain().Select(atoms, pRenamed->Container());
-    GetList().FocusSelection();
-    return 0;
-}
-
 int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
     if (CWnd::OnCreate(lpCreateStruct) == -1)
@@ -255,21 +192,16 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     // that the tree selects it.
     m_editor.SetFrame(this);
     m_editor.GetHistory().SetNews([this](const std::string& line) {
-        m_statusBar.SetNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line);
+        m_bars.SetNews(m_editor.GetWork().WasCancelled() ? "Cancelled. " + line : line);
     });
-    m_editor.GetHistory().SetLastPart([this] { return FollowPhases(); });
+    m_editor.GetHistory().SetLastPart([this] { return m_follower.FollowPhases(); });
     m_content.ActivateFirst();
     m_dwHandlerCookie = m_editor.RegisterHandler(m_hWnd, this);
-    const bool bMade = MakeBars() && m_treePane.Create(this) && m_splitter.Create(this) && m_content.Create(this) &&
-                       m_workView.Create(&m_statusBar) && m_tree.Create(&m_treePane) && m_properties.Create(this) &&
-                       m_keysSheet.Create(this) && m_filter.Create() && m_search.Create(this);
+    const bool bMade = m_bars.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
+                       m_content.Create(this) && m_workView.Create(&m_bars.GetStatusBar()) &&
+                       m_tree.Create(&m_treePane) && m_properties.Create(this) && m_keysSheet.Create(this) &&
+                       m_filter.Create() && m_search.Create(this);
     return bMade ? 0 : -1;
-}
-
-bool CMainFrame::MakeBars()
-{
-    return m_menuBar.Create(this) && m_ways.Create(this) && m_tools.Create(this) && m_pathBar.Create(this) &&
-           m_statusBar.Create(this) && m_sizeSlider.Create(this);
 }
 
 void CMainFrame::OnDestroy()
@@ -306,20 +238,9 @@ void CMainFrame::OnSetFocus(CWnd* pOldWnd)
     m_content.TakeFocus();
 }
 
-void CMainFrame::UpdatePath()
-{
-    std::vector<std::string> parts;
-    for (const CMember* const pMember : m_navigation.Path())
-        parts.push_back(pMember->ShownName());
-    m_pathBar.SetPath(std::move(parts));
-}
-
 void CMainFrame::UpdateStatus()
 {
-    m_statusBar.Invalidate();
-    m_sizeSlider.Invalidate();
-    m_ways.Invalidate();
-    m_tools.Invalidate();
+    m_bars.Update();
     m_properties.Update();
 }
 
@@ -329,7 +250,7 @@ Status CMainFrame::GetStatus() const
     const int nHidden = m_filter.Hides() ? static_cast<int>(ShownContainer()->GetCount()) - nRows : 0;
     Status status = m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures, m_content.GetPicture().GetZoom())
                                                : DescribeList(m_content.GetList(), nHidden, Shown(), m_pictures);
-    status.news = m_statusBar.GetNews();
+    status.news = m_bars.GetStatusBar().GetNews();
     return status;
 }
 
@@ -382,57 +303,10 @@ void CMainFrame::OnMoved(const std::string& reason)
 
 LRESULT CMainFrame::OnActivated(WPARAM wParam, LPARAM)
 {
-    if (m_editor.GetWork().IsUnderWay()) // nobody looks at what is being made; it is told of when it is done
-        return 0;
-    if (const auto unknown = m_follower.Unfollowed(); wParam == WA_ACTIVE && !unknown.empty())
-        OnDiskNews(unknown);
+    // Nobody looks at what is being made; it is told of when it is done.
+    if (wParam == WA_ACTIVE && !m_editor.GetWork().IsUnderWay())
+        m_follower.LookAround();
     return 0;
-}
-
-void CMainFrame::OnDiskNews(const std::vector<FolderNews>& news)
-{
-    const DiskFollower::Found found = m_follower.Look(news);
-    if (!DiskFollower::MovesRows(found)) { // as after all that the program has done itself: no row is looked at
-        m_follower.Tell(found);
-        return;
-    }
-    const FrameCommands::Position position = m_commands.RememberPosition();
-    if (std::string line = m_follower.Tell(found); !line.empty())
-        m_statusBar.SetNews(std::move(line));
-    m_pCreated.Release();
-    if (m_pRenamed && !IsOneThatIsGone(position.list)) {
-        m_pRenamed.Release(); // the user works on something else
-        if (Shown() == position.pShown.Get())
-            GetList().SetItemState(-1, 0, LVIS_SELECTED);
-    }
-    m_commands.GoOnAt(position);
-}
-
-// Who has just renamed a picture tells of that first.
-std::string CMainFrame::FollowPhases()
-{
-    PhaseFollower::Followed followed =
-        m_navigation.Library()->Follower()->Follow(m_editor.GetHistory(), &m_editor.GetWork());
-    m_unfollowed = std::move(followed.trouble);
-    if (followed.phases.empty() && m_unfollowed.empty())
-        return {};
-    toolkit::PostTask([this, phases = followed.phases, pAlive = std::weak_ptr<int>(m_pAlive)] {
-        if (!pAlive.expired())
-            ShowFollowed(phases);
-    });
-    const std::size_t n = followed.phases.size();
-    return n == 0 ? std::string() : ", followed by " + std::to_string(n) + (n == 1 ? " phase" : " phases");
-}
-
-void CMainFrame::ShowFollowed(const std::vector<std::string>& phases)
-{
-    OnSelectRenamed(0, 0); // the views have heard of both by now
-    std::vector<FolderNews> news;
-    news.reserve(phases.size());
-    for (const std::string& path : phases)
-        news.push_back({FolderOf(path), {std::string(BaseName(path))}, {}, false});
-    OnDiskNews(news);
-    m_commands.ShowFailure(IDS_FOLLOW_FAILED, TakeUnfollowed());
 }
 
 CMenu* CMainFrame::CreateContextMenu()
@@ -452,8 +326,8 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
     const bool bAlt = pMsg->message == WM_SYSKEYDOWN;
     const bool bModifier = pMsg->wParam == VK_CONTROL || pMsg->wParam == VK_SHIFT; // the news tell of keys
     if (pMsg->message == WM_KEYDOWN && !bModifier)
-        m_statusBar.SetNews({});
-    if (m_menuBar.HandleKey(*pMsg))
+        m_bars.SetNews({});
+    if (m_bars.GetMenuBar().HandleKey(*pMsg))
         return TRUE;
     if ((bAlt || pMsg->message == WM_KEYDOWN) && m_keys.Handle(pMsg->hwnd, static_cast<UINT>(pMsg->wParam), bAlt))
         return TRUE;
@@ -462,8 +336,8 @@ BOOL CMainFrame::PreTranslateMessage(MSG* pMsg)
 
 void CMainFrame::OnPressed()
 {
-    m_menuBar.Leave();
-    m_statusBar.SetNews({});
+    m_bars.GetMenuBar().Leave();
+    m_bars.SetNews({});
 }
 
 } // namespace editor

@@ -1,7 +1,8 @@
 // The editor's window: menus, path and tools at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
-#include "Editor/frame/DiskFollower.h"
+#include "Editor/frame/Bars.h"
+#include "Editor/frame/ChangeFollower.h"
 #include "Editor/frame/FrameCommands.h"
 #include "Editor/frame/FrameKeys.h"
 #include "Editor/frame/PlaceCommands.h"
@@ -10,11 +11,6 @@
 #include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
 #include "Editor/views/EditorTree.h"
-#include "Editor/widgets/MenuBar.h"
-#include "Editor/widgets/PaneLayout.h"
-#include "Editor/widgets/PathBar.h"
-#include "Editor/widgets/SizeSlider.h"
-#include "Editor/widgets/StatusBar.h"
 #include "HostKit/frame/Splitter.h"
 #include "Views/host/StateHandler.h"
 
@@ -44,16 +40,13 @@ public:
     void ShowAsBefore(const Settings& settings, bool bShown); // what it is like now
     void ShowLibrary(CLibrary* pLibrary);                     // in place of the one before
     CEditorTree& GetTree() { return m_tree; }
+    Bars& GetBars() { return m_bars; }
+    ChangeFollower& GetFollower() { return m_follower; }
     hostkit::CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_content.GetList(); } // the one that is shown, or will be
-    CPathBar& GetPathBar() { return m_pathBar; }
-    CMenuBar& GetMenuBar() { return m_menuBar; }
-    CToolBar& GetWays() { return m_ways; }
-    CToolBar& GetTools() { return m_tools; }
     CKeysSheet& GetKeysSheet() { return m_keysSheet; }
     CPictureView& GetPictureView() { return m_content.GetPicture(); }
     CPropertiesPane& GetProperties() { return m_properties; }
-    CSizeSlider& GetSizeSlider() { return m_sizeSlider; }
     Status GetStatus() const; // what the status bar says
 
     Navigation& GetNavigation() { return m_navigation; }
@@ -73,9 +66,6 @@ public:
     CMenu* CreateContextMenu() override;
     void OnMoving() override;
     void OnMoved(const std::string& reason) override;
-    void OnDiskNews(const std::vector<FolderNews>& news); // other programs have been at work
-    // Why not all phases follow what was moved last; once. Nobody who takes it is told of it again.
-    std::string TakeUnfollowed() { return std::exchange(m_unfollowed, {}); }
 
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
@@ -94,16 +84,11 @@ protected:
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg LRESULT OnActivated(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSelectRenamed(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
-    bool MakeBars();
     void OnPressed(); // a mouse button, on the views
     bool MayClose();  // asks what is to become of phases that are modified
-    std::string FollowPhases();
-    void ShowFollowed(const std::vector<std::string>& phases);
-    void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     DropFailed ReportDrop();
     hostkit::CPane* PaneOfKind(DWORD kind); // NULL: none
     void Arrange();
@@ -111,7 +96,6 @@ private:
     CEditorList::Events ListEvents();
     CPlayerView::Events PlayerEvents();
     void ShowMovement();
-    void UpdatePath();
     void UpdateStatus();
     CPropertiesPane::Phases SelectedPhases() const;
 
@@ -120,21 +104,17 @@ private:
     const Outside m_outside;
     const std::shared_ptr<int> m_pAlive = std::make_shared<int>(); // goes with the frame
     DWORD m_dwHandlerCookie = 0;
+    const std::function<void(std::string)> m_tell = [this](std::string line) { m_bars.SetNews(std::move(line)); };
     Navigation m_navigation;
     ModifiedPhases m_modified;
-    std::string m_unfollowed;
-    CStubRef<CMember> m_pCreated;         // what came last, until the next news
     FrameCommands::Position m_beforeMove; // while a drag's originals go
-    DiskFollower m_follower;
-    CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
-    CMenuBar m_menuBar;
-    CToolBar m_ways, m_tools;
-    CPathBar m_pathBar;
+    Bars m_bars;
     hostkit::CPane m_treePane;
     hostkit::CSplitter m_splitter;
     int m_nTreeWidth = PaneLayout::kUsualTree; // what the user wants, if there is room
     Content m_content;
     FrameCommands m_commands;
+    ChangeFollower m_follower;
     CEditorTree m_tree;
     CPropertiesPane m_properties;
     CKeysSheet m_keysSheet;
@@ -144,8 +124,6 @@ private:
     ViewCommands m_views;
     CommandDesk m_desk;
     FrameKeys m_keys;
-    CStatusBar m_statusBar;
-    CSizeSlider m_sizeSlider;
     WorkView m_workView;
 };
 

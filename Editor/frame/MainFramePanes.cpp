@@ -40,25 +40,14 @@ void CMainFrame::Arrange()
 {
     CRect client;
     GetClientRect(&client);
-    const PaneLayout layout(client.Size(), {.tree = m_nTreeWidth,
-                                            .ways = CToolBar::WidthOf(m_desk.WayTools()),
-                                            .tools = CToolBar::WidthOf(m_desk.ObjectTools())});
-    m_menuBar.MoveWindow(layout.menus);
-    m_ways.MoveWindow(layout.ways);
-    m_pathBar.MoveWindow(layout.path);
-    m_tools.MoveWindow(layout.tools);
+    const PaneLayout layout(client.Size(), m_bars.GetWanted(m_nTreeWidth));
+    m_bars.MoveTo(layout);
     m_keysSheet.MoveWindow({0, layout.path.bottom, client.right, layout.status.top});
     m_treePane.MoveWindow(layout.tree);
     m_splitter.MoveWindow(layout.splitter);
     m_content.MoveTo(layout.content);
     m_search.GetSheet().MoveWindow({layout.content.left, layout.content.top, client.right, layout.status.top});
     m_properties.MoveWindow(layout.properties);
-    CRect status = layout.status;
-    const bool bSizes = m_content.GetKind() == ListKind::Thumbnails && !m_content.IsPictureShown();
-    status.right -= bSizes ? CSizeSlider::kWidth : 0;
-    m_statusBar.MoveWindow(status);
-    m_sizeSlider.MoveWindow({status.right, status.top, layout.status.right, status.bottom});
-    m_sizeSlider.ShowWindow(bSizes ? SW_SHOW : SW_HIDE);
     if (layout.tree.IsRectEmpty() && ::GetFocus() == m_tree.m_hWnd)
         m_content.TakeFocus();
 }
@@ -77,7 +66,7 @@ CEditorList::Events CMainFrame::ListEvents()
             {},
             [this] { return static_cast<IAtomContainer*>(ShownContainer()); },
             ReportDrop(),
-            [this](const std::string& line) { m_statusBar.SetNews(line); },
+            m_tell,
             [this] { OnPressed(); },
             [this](int nNotches) { m_views.Step(nNotches); },
             [this](IAtom* pAtom) {

@@ -70,7 +70,7 @@ std::string Script::RunLine(std::string_view line)
     const std::string command = words.front();
     words.erase(words.begin());
     std::string reason = RunCommand(command, words);
-    if (const std::string unfollowed = Frame().TakeUnfollowed(); reason.empty())
+    if (const std::string unfollowed = Frame().GetFollower().TakeUnfollowed(); reason.empty())
         reason = unfollowed;
     m_app.WaitUntilSettled(m_outside.isToEnd);
     return reason.empty() ? reason : command + ": " + reason;

@@ -40,9 +40,9 @@ TEST_F(CommandDeskTest, MenusAreWalkedByKeysAndMouseAndDoWhatTheySay)
     desktop.Key(VK_F10);
     desktop.Key(VK_ESCAPE);
     EXPECT_EQ("/ | [(a.bmp) (Ada)] | 2 objects, 2 selected", Screen()) << "Escape was the bar's";
-    const HWND hBar = Frame().GetMenuBar().m_hWnd;
+    const HWND hBar = Frame().GetBars().GetMenuBar().m_hWnd;
     desktop.Choose("Thumbnails");
-    desktop.Click(hBar, Frame().GetMenuBar().TitleRect(2).CenterPoint());
+    desktop.Click(hBar, Frame().GetBars().GetMenuBar().TitleRect(2).CenterPoint());
     EXPECT_EQ(editor::ListKind::Thumbnails, Frame().GetContent().GetKind());
     desktop.Choose("Close");
     Alt('F');
@@ -57,8 +57,8 @@ TEST_F(CommandDeskTest, WhatCannotBeDoneSaysWhyAndEveryKeyMeansOneThing)
     EXPECT_EQ("Rename: no object is selected", News());
     desktop.Click(Tree().m_hWnd, PlaceInTree("Ada"));
     EXPECT_EQ("", News());
-    const CPoint remove = Frame().GetTools().RectOf(editor::ID_REMOVE).CenterPoint();
-    desktop.MoveTo(Frame().GetTools().m_hWnd, remove);
+    const CPoint remove = Frame().GetBars().GetTools().RectOf(editor::ID_REMOVE).CenterPoint();
+    desktop.MoveTo(Frame().GetBars().GetTools().m_hWnd, remove);
     EXPECT_EQ("", desktop.ToolTip());
     desktop.Advance(500);
     EXPECT_EQ("Delete (Del)", desktop.ToolTip()) << "the tree's selection";
@@ -66,7 +66,7 @@ TEST_F(CommandDeskTest, WhatCannotBeDoneSaysWhyAndEveryKeyMeansOneThing)
     ::SetFocus(List());
     Control('A');
     Control('A');
-    desktop.MoveTo(Frame().GetTools().m_hWnd, remove);
+    desktop.MoveTo(Frame().GetBars().GetTools().m_hWnd, remove);
     desktop.MoveTo(List(), {1, 1});
     EXPECT_EQ("", desktop.ToolTip());
 
@@ -110,7 +110,7 @@ TEST_F(CommandDeskTest, BackAndForthPastWhatIsGoneAndToWhatIsTyped)
     };
     type("../none");
     EXPECT_EQ(folder.At("none") + ": no such file or folder", News());
-    EXPECT_EQ(Frame().GetPathBar().GetField().m_hWnd, GetFocus()) << "to be put right";
+    EXPECT_EQ(Frame().GetBars().GetPathBar().GetField().m_hWnd, GetFocus()) << "to be put right";
     Press(VK_ESCAPE);
     EXPECT_EQ(List(), GetFocus());
     type("b.bmp");

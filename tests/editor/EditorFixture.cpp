@@ -47,7 +47,7 @@ editor::CMainFrame& EditorTest::Frame()
 std::string EditorTest::Screen()
 {
     std::string path;
-    for (const std::string& part : Frame().GetPathBar().GetPath())
+    for (const std::string& part : Frame().GetBars().GetPathBar().GetPath())
         path += path.empty() ? "/" : part + '/';
     const bool isPicture = IsWindowVisible(Picture());
     EXPECT_NE(isPicture, IsWindowVisible(List()) != FALSE);
@@ -125,11 +125,11 @@ void EditorTest::ClickPath(int nPart)
 {
     desktop.Advance(1000);
     if (nPart < 0)
-        return ClickTool(Frame().GetWays(), editor::ID_UP);
+        return ClickTool(Frame().GetBars().GetWays(), editor::ID_UP);
     CPoint at(editor::kSpace, editor::kPathBarHeight / 2);
     for (int i = 0; i < nPart; ++i)
-        at.x += editor::TextWidth(Frame().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) + 4 * editor::kSpace;
-    desktop.Click(Frame().GetPathBar().GetSafeHwnd(), at);
+        at.x += editor::TextWidth(Frame().GetBars().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) + 4 * editor::kSpace;
+    desktop.Click(Frame().GetBars().GetPathBar().GetSafeHwnd(), at);
     Settle();
 }
 

@@ -20,8 +20,8 @@ TEST_F(EditorTest, EnterOpensTheFocusedRowAndThePathLeadsBack)
     DoubleClick("Poses");
     ClickPath(2);
     EXPECT_EQ("/Ada/Poses/ | [one.bmp] | 1 object", Screen()) << "where one is already";
-    const HWND hWays = Frame().GetWays().GetSafeHwnd();
-    const CPoint up = Frame().GetWays().RectOf(editor::ID_UP).CenterPoint();
+    const HWND hWays = Frame().GetBars().GetWays().GetSafeHwnd();
+    const CPoint up = Frame().GetBars().GetWays().RectOf(editor::ID_UP).CenterPoint();
     desktop.Press(hWays, up);
     SetCapture(List());
     ReleaseCapture();
@@ -146,8 +146,8 @@ TEST_F(EditorTest, ThumbnailsHaveTheSizeTheUserWantsAndWhatWasSeenStaysInSight)
         sizes += std::to_string(extent()) + (isSeen() ? " " : "! ");
     }
     EXPECT_EQ("160 192 160 128 ", sizes);
-    const HWND hSlider = Frame().GetSizeSlider().m_hWnd;
-    desktop.Click(hSlider, Frame().GetSizeSlider().PlaceOf(512) + CPoint(8, 0));
+    const HWND hSlider = Frame().GetBars().GetSizeSlider().m_hWnd;
+    desktop.Click(hSlider, Frame().GetBars().GetSizeSlider().PlaceOf(512) + CPoint(8, 0));
     EXPECT_TRUE(isSeen() && extent() == 512);
     Settle();
     const auto countOf = [&] {
@@ -265,7 +265,7 @@ TEST_F(EditorTest, OfAHundredThousandPicturesOnlyThoseInSightAreRead)
     EXPECT_LT(reader.TakeReads().size(), 60u);
     Press(VK_F6);
     Press(VK_END);
-    EXPECT_EQ("frame 099999.bmp", Frame().GetPathBar().GetPath().back());
+    EXPECT_EQ("frame 099999.bmp", Frame().GetBars().GetPathBar().GetPath().back());
     EXPECT_LT(reader.TakeReads().size(), 100u);
 }
 

@@ -17,7 +17,7 @@ protected:
     void ToggleFoldersFirst()
     {
         desktop.Choose("Folders first");
-        desktop.Click(Frame().GetMenuBar().m_hWnd, Frame().GetMenuBar().TitleRect(2).CenterPoint());
+        desktop.Click(Frame().GetBars().GetMenuBar().m_hWnd, Frame().GetBars().GetMenuBar().TitleRect(2).CenterPoint());
         Settle();
     }
 };

@@ -98,7 +98,7 @@ TEST_F(SettingsTest, TheLastFoldersAreAtHandAndAtFirstACopyOfTheSamples)
     Open();
     Open(other.Path());
     desktop.Choose(folder.Path());
-    desktop.Click(Frame().GetMenuBar().m_hWnd, Frame().GetMenuBar().TitleRect(0).CenterPoint());
+    desktop.Click(Frame().GetBars().GetMenuBar().m_hWnd, Frame().GetBars().GetMenuBar().TitleRect(0).CenterPoint());
     Settle();
     EXPECT_EQ("/ | [Ada] | 1 object", Screen());
     CloseApp();
