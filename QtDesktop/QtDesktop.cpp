@@ -15,7 +15,9 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QPalette>
 #include <QScreen>
+#include <QStyleHints>
 #include <QToolTip>
 #include <map>
 #include <utility>
@@ -80,6 +82,21 @@ toolkit::TextEngine& QtDesktop::GetTextEngine()
     if (m_parts->pTextEngine)
         return *m_parts->pTextEngine;
     return toolkit::BuiltinTextEngine();
+}
+
+toolkit::ColorScheme QtDesktop::GetColorScheme()
+{
+    const QPalette palette = QGuiApplication::palette();
+    const auto color = [&palette](QPalette::ColorRole role) {
+        const QColor it = palette.color(QPalette::Active, role);
+        return RGB(it.red(), it.green(), it.blue());
+    };
+    return {color(QPalette::Base), color(QPalette::Text), color(QPalette::Highlight), color(QPalette::HighlightedText)};
+}
+
+DWORD QtDesktop::GetDoubleClickTime()
+{
+    return static_cast<DWORD>(QGuiApplication::styleHints()->mouseDoubleClickInterval());
 }
 
 void QtDesktop::WindowCreated(HWND hTop)

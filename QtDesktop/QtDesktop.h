@@ -31,6 +31,8 @@ public:
 
     DWORD Ticks() override;
     toolkit::TextEngine& GetTextEngine() override;
+    toolkit::ColorScheme GetColorScheme() override;
+    DWORD GetDoubleClickTime() override;
     void WindowCreated(HWND hTop) override;
     void WindowChanged(HWND hTop) override;
     void WindowPlaced(HWND hTop) override;

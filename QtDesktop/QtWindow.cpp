@@ -136,6 +136,9 @@ bool QtWindow::event(QEvent* pEvent)
     case QEvent::WindowDeactivate:
         toolkit::InputActivate(m_hTop, false);
         break;
+    case QEvent::ApplicationPaletteChange:
+        toolkit::InputColors();
+        break;
     default:
         break;
     }

@@ -23,7 +23,7 @@ COLORREF CalmColor()
 
 COLORREF ErrorColor()
 {
-    return RGB(176, 40, 40);
+    return toolkit::Readable(RGB(176, 40, 40), BarColor());
 }
 
 void FillTopBar(HDC hdc, HWND hBar)

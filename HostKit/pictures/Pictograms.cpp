@@ -1,8 +1,10 @@
 #include "HostKit/pictures/Pictograms.h"
 
 #include "HostKit/pictures/Drawing.h"
+#include "Toolkit/graphics/SysColors.h"
 
 #include <map>
+#include <tuple>
 
 namespace hostkit
 {
@@ -15,6 +17,17 @@ constexpr int kDetailed = 32;
 
 constexpr COLORREF kPaper = RGB(250, 251, 253);
 constexpr COLORREF kInk = RGB(92, 104, 120);
+
+// Of signs, which have no ground of their own.
+COLORREF SignInk()
+{
+    return toolkit::IsDark() ? RGB(184, 194, 208) : kInk;
+}
+
+COLORREF SignPaper()
+{
+    return toolkit::IsDark() ? RGB(52, 59, 70) : kPaper;
+}
 
 void DrawFolder(Drawing& drawing, bool detailed)
 {
@@ -96,7 +109,7 @@ void DrawBrokenPicture(Drawing& drawing, bool detailed)
 
 void DrawTreePane(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{10, 12}, {10, 36}, {20, 36}}, 3) | Stroke({{10, 24}, {20, 24}}, 3), Ink(kInk));
+    drawing.Fill(Stroke({{10, 12}, {10, 36}, {20, 36}}, 3) | Stroke({{10, 24}, {20, 24}}, 3), Ink(SignInk()));
     drawing.Fill(RoundRect({4, 4}, {18, 16}, 2.5), Ink(RGB(240, 180, 64)));
     drawing.Fill(RoundRect({22, 18}, {44, 29}, 2.5) | RoundRect({22, 33}, {44, 44}, 2.5), Ink(RGB(84, 146, 214)));
 }
@@ -117,17 +130,17 @@ void DrawThumbnailPane(Drawing& drawing, bool)
 
 void DrawUp(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{24, 39}, {24, 11}}, 4.5) | Stroke({{11, 24}, {24, 10.5}, {37, 24}}, 4.5), Ink(SignInk()));
 }
 
 void DrawBack(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{39, 24}, {11, 24}}, 4.5) | Stroke({{24, 11}, {10.5, 24}, {24, 37}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{39, 24}, {11, 24}}, 4.5) | Stroke({{24, 11}, {10.5, 24}, {24, 37}}, 4.5), Ink(SignInk()));
 }
 
 void DrawForward(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{9, 24}, {37, 24}}, 4.5) | Stroke({{24, 11}, {37.5, 24}, {24, 37}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{9, 24}, {37, 24}}, 4.5) | Stroke({{24, 11}, {37.5, 24}, {24, 37}}, 4.5), Ink(SignInk()));
 }
 
 // Half a turn with an arrow at its end.
@@ -136,7 +149,7 @@ void DrawUndo(Drawing& drawing, bool)
     const Shape turn = Outline(Circle({25, 27}, 15.5), 4.5) & RoundRect({25, 8}, {48, 48}, 0);
     drawing.Fill(turn | Stroke({{10, 13.7}, {25, 13.7}}, 4.5) | Stroke({{25, 40.2}, {16, 40.2}}, 4.5) |
                      Stroke({{18, 5}, {9, 13.7}, {18, 22.4}}, 4.5),
-                 Ink(kInk));
+                 Ink(SignInk()));
 }
 
 void DrawRedo(Drawing& drawing, bool)
@@ -144,20 +157,20 @@ void DrawRedo(Drawing& drawing, bool)
     const Shape turn = Outline(Circle({23, 27}, 15.5), 4.5) & RoundRect({0, 8}, {23, 48}, 0);
     drawing.Fill(turn | Stroke({{23, 13.7}, {38, 13.7}}, 4.5) | Stroke({{23, 40.2}, {32, 40.2}}, 4.5) |
                      Stroke({{30, 5}, {39, 13.7}, {30, 22.4}}, 4.5),
-                 Ink(kInk));
+                 Ink(SignInk()));
 }
 
 void DrawCut(Drawing& drawing, bool)
 {
     drawing.Fill(Outline(Circle({13, 36}, 8), 4) | Outline(Circle({35, 36}, 8), 4), Ink(RGB(84, 146, 214)));
-    drawing.Fill(Stroke({{17, 29.5}, {34, 4}}, 4.2) | Stroke({{31, 29.5}, {14, 4}}, 4.2), Ink(kInk));
+    drawing.Fill(Stroke({{17, 29.5}, {34, 4}}, 4.2) | Stroke({{31, 29.5}, {14, 4}}, 4.2), Ink(SignInk()));
 }
 
 void DrawSheet(Drawing& drawing, Vec at)
 {
     const Shape sheet = RoundRect(at, {at.x + 27, at.y + 33}, 3);
-    drawing.Fill(sheet, Ink(kPaper));
-    drawing.Fill(Outline(sheet, 3.6), Ink(kInk));
+    drawing.Fill(sheet, Ink(SignPaper()));
+    drawing.Fill(Outline(sheet, 3.6), Ink(SignInk()));
 }
 
 void DrawCopy(Drawing& drawing, bool)
@@ -171,23 +184,23 @@ void DrawPaste(Drawing& drawing, bool)
 {
     const Shape board = RoundRect({4, 6}, {36, 45}, 4);
     drawing.Fill(board, Ink(RGB(240, 180, 64)));
-    drawing.Fill(RoundRect({12, 2}, {28, 12}, 3), Ink(kInk));
+    drawing.Fill(RoundRect({12, 2}, {28, 12}, 3), Ink(SignInk()));
     DrawSheet(drawing, {17, 14});
 }
 
 void DrawDelete(Drawing& drawing, bool)
 {
     const Shape body = Polygon({{10, 15}, {38, 15}, {35.5, 45}, {12.5, 45}});
-    drawing.Fill(Outline(body, 4), Ink(kInk));
-    drawing.Fill(Stroke({{6, 12}, {42, 12}}, 4.5) | Stroke({{18, 6}, {30, 6}}, 4.5), Ink(kInk));
+    drawing.Fill(Outline(body, 4), Ink(SignInk()));
+    drawing.Fill(Stroke({{6, 12}, {42, 12}}, 4.5) | Stroke({{18, 6}, {30, 6}}, 4.5), Ink(SignInk()));
     drawing.Fill(Stroke({{20, 23}, {20.8, 37}}, 3.2) | Stroke({{28, 23}, {27.2, 37}}, 3.2), Ink(RGB(212, 72, 62)));
 }
 
 void DrawFind(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{30, 30}, {42, 42}}, 6), Ink(kInk));
-    drawing.Fill(Circle({20, 20}, 15), Ink(RGB(226, 241, 254)));
-    drawing.Fill(Outline(Circle({20, 20}, 16), 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{30, 30}, {42, 42}}, 6), Ink(SignInk()));
+    drawing.Fill(Circle({20, 20}, 15), Ink(toolkit::IsDark() ? SignPaper() : RGB(226, 241, 254)));
+    drawing.Fill(Outline(Circle({20, 20}, 16), 4.5), Ink(SignInk()));
 }
 
 // A sheet with lines of writing and a corner turned down.
@@ -205,7 +218,7 @@ void DrawFile(Drawing& drawing, bool detailed)
 
 void DrawPathArrow(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{19, 13}, {30, 24}, {19, 35}}, 4), Ink(kInk, 0.7));
+    drawing.Fill(Stroke({{19, 13}, {30, 24}, {19, 35}}, 4), Ink(SignInk(), 0.7));
 }
 
 void DrawPlay(Drawing& drawing, bool)
@@ -271,8 +284,8 @@ toolkit::Surface DrawPictogram(Pictogram which, int pixels)
 
 const toolkit::Surface& GetPictogram(Pictogram which, int pixels)
 {
-    static std::map<std::pair<Pictogram, int>, toolkit::Surface> drawn;
-    const auto [at, isNew] = drawn.try_emplace({which, pixels});
+    static std::map<std::tuple<Pictogram, int, bool>, toolkit::Surface> drawn;
+    const auto [at, isNew] = drawn.try_emplace({which, pixels, toolkit::IsDark()});
     if (isNew)
         at->second = DrawPictogram(which, pixels);
     return at->second;

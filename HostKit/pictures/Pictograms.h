@@ -1,4 +1,5 @@
-// Pictures for hosts that have no own, drawn at any size from 16 pixels up. Each has a transparent ground.
+// Pictures for hosts that have no own, drawn at any size from 16 pixels up. Each has a transparent ground. Signs on
+// buttons are drawn so that they show on the ground of windows, light or dark; objects are the same on both.
 #pragma once
 
 #include "HostKit/base/Api.h"
@@ -40,7 +41,7 @@ enum class Pictogram
 
 HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);
 
-// The same, drawn once for each size and kept for the life of the process. User-interface thread only.
+// The same, drawn once for each size on either ground and kept for the life of the process. User-interface thread only.
 HOSTKIT_API const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
 
 } // namespace hostkit

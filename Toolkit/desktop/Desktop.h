@@ -10,6 +10,7 @@
 #include "Toolkit/desktop/MessageBoxTypes.h"
 #include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/graphics/TextEngine.h"
 
 #include <memory>
@@ -37,6 +38,8 @@ public:
 
     virtual DWORD Ticks() = 0; // milliseconds; may wrap
     virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
+    virtual ColorScheme GetColorScheme() { return {}; } // the desktop tells by InputColors when it has another
+    virtual DWORD GetDoubleClickTime() { return 500; }  // milliseconds
 
     // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
     virtual void WindowCreated(HWND hTop) = 0;

@@ -3,12 +3,11 @@
 
 #include "Toolkit/message/Input.h"
 
-TOOLKIT_API UINT GetDoubleClickTime(); // milliseconds
+TOOLKIT_API UINT GetDoubleClickTime(); // milliseconds, as the desktop says
 
 namespace toolkit
 {
 
-inline constexpr DWORD kDoubleClickTime = 500; // milliseconds
 inline constexpr int kDoubleClickDistance = 4; // pixels each way
 
 class DoubleClick

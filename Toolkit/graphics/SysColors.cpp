@@ -1,25 +1,98 @@
 #include "Toolkit/graphics/SysColors.h"
 
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace
+{
+
+constexpr int kWhole = 255;
+constexpr double kTextContrast = 4.5;
+constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255);
+
+// As far from the ground towards texts.
+constexpr int kLightLine = 12, kFace = 26, kShadow = 95, kGrayText = 146, kDarkLine = 150;
+
+toolkit::ColorScheme s_asked, s_scheme;   // as it was said, and as it can be read
+COLORREF s_grayText = RGB(109, 109, 109); // that shade of the scheme's, made readable
+
+COLORREF Mix(COLORREF from, COLORREF to, int nPart)
+{
+    const auto channel = [nPart](int a, int b) { return a + (b - a) * nPart / kWhole; };
+    return RGB(channel(GetRValue(from), GetRValue(to)), channel(GetGValue(from), GetGValue(to)),
+               channel(GetBValue(from), GetBValue(to)));
+}
+
+// As the eye sees it: 0 black, 1 white.
+double Luminance(COLORREF color)
+{
+    const auto linear = [](int channel) {
+        const double c = channel / 255.0;
+        return c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
+}
+
+} // namespace
+
 COLORREF GetSysColor(int nIndex)
 {
     switch (nIndex) {
     case COLOR_WINDOW:
-    case COLOR_HIGHLIGHTTEXT:
     case COLOR_BTNHIGHLIGHT:
-        return RGB(255, 255, 255);
+        return s_scheme.window;
     case COLOR_HIGHLIGHT:
-        return RGB(0, 103, 192);
+        return s_scheme.highlight;
+    case COLOR_HIGHLIGHTTEXT:
+        return s_scheme.highlightText;
     case COLOR_BTNFACE:
-        return RGB(229, 229, 229);
+        return toolkit::ShadeColor(kFace);
     case COLOR_BTNSHADOW:
-        return RGB(160, 160, 160);
+        return toolkit::ShadeColor(kShadow);
     case COLOR_3DDKSHADOW:
-        return RGB(105, 105, 105);
+        return toolkit::ShadeColor(kDarkLine);
     case COLOR_3DLIGHT:
-        return RGB(243, 243, 243);
+        return toolkit::ShadeColor(kLightLine);
     case COLOR_GRAYTEXT:
-        return RGB(109, 109, 109);
+        return s_grayText;
     default:
-        return RGB(0, 0, 0);
+        return s_scheme.text;
     }
+}
+
+bool toolkit::SetColorScheme(const ColorScheme& scheme)
+{
+    if (std::exchange(s_asked, scheme) == scheme)
+        return false;
+    s_scheme = scheme;
+    s_scheme.text = Readable(scheme.text, Mix(scheme.window, scheme.text, kFace));
+    s_scheme.highlight = Readable(scheme.highlight, scheme.highlightText);
+    s_grayText = Readable(ShadeColor(kGrayText), ShadeColor(kLightLine));
+    return true;
+}
+
+bool toolkit::IsDark()
+{
+    return Luminance(s_scheme.text) > Luminance(s_scheme.window);
+}
+
+COLORREF toolkit::ShadeColor(int nShade)
+{
+    return Mix(s_scheme.window, s_scheme.text, nShade);
+}
+
+double toolkit::Contrast(COLORREF a, COLORREF b)
+{
+    const auto [dark, light] = std::minmax({Luminance(a), Luminance(b)});
+    return (light + 0.05) / (dark + 0.05);
+}
+
+COLORREF toolkit::Readable(COLORREF color, COLORREF ground)
+{
+    const COLORREF end = Contrast(ground, kBlack) > Contrast(ground, kWhite) ? kBlack : kWhite;
+    COLORREF moved = color;
+    for (int nPart = 1; nPart <= kWhole && Contrast(moved, ground) < kTextContrast; ++nPart)
+        moved = Mix(color, end, nPart);
+    return moved;
 }

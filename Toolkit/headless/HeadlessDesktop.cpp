@@ -53,6 +53,13 @@ toolkit::HeadlessDesktop::~HeadlessDesktop()
     InstallDesktop(nullptr);
 }
 
+void toolkit::HeadlessDesktop::ShowColors(const ColorScheme& scheme)
+{
+    m_colors = scheme;
+    InputColors();
+    Run();
+}
+
 void toolkit::HeadlessDesktop::MoveTo(HWND hWnd, CPoint at)
 {
     const HWND hTop = GetTopLevel(hWnd);

@@ -67,6 +67,8 @@ public:
     // menu.
     void GoBeyondMenu(UINT vkey) { m_choices.push_back({"", vkey}); }
 
+    void ShowColors(const ColorScheme& scheme); // the user chooses others
+
     // The tool tip that is shown, "" for none; and what is outside: the folders the user will choose (none is chosen
     // when no answer is left), and what was asked for: "open PATH", "show PATH".
     const std::string& ToolTip() const { return m_toolTip; }
@@ -102,6 +104,7 @@ public:
     Cursor CurrentCursor() const { return m_cursor; }
 
     DWORD Ticks() override { return m_ticks; }
+    ColorScheme GetColorScheme() override { return m_colors; }
     void WindowCreated(HWND) override {}
     void WindowChanged(HWND) override {}
     void WindowPlaced(HWND) override {}
@@ -153,6 +156,7 @@ private:
         UINT vkey = 0; // unless 0, a way beyond the menu
     };
     std::deque<MenuAnswer> m_choices;
+    ColorScheme m_colors;
     std::string m_toolTip;
     CRect m_workArea;
     std::deque<std::string> m_folders;

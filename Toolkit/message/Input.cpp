@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/Text.h"
 #include "Toolkit/desktop/Desktop.h"
+#include "Toolkit/handle/WindowRecord.h"
 #include "Toolkit/message/Fifo.h"
 #include "Toolkit/message/Queue.h"
 
@@ -106,4 +107,12 @@ void toolkit::InputMoved(HWND hTop, CPoint screen)
 void toolkit::InputClose(HWND hTop)
 {
     PutInput({.kind = InputKind::Close, .hTop = hTop});
+}
+
+void toolkit::InputColors()
+{
+    if (!SetColorScheme(CurrentDesktop().GetColorScheme()))
+        return;
+    for (const WindowRecord* pTop : TopLevelRecords())
+        PostMessage(pTop->hWnd, WM_SYSCOLORCHANGE, 0, 0);
 }

@@ -37,6 +37,8 @@ TOOLKIT_API void InputActivate(HWND hTop, bool active); // leaving and coming ba
 TOOLKIT_API void InputResize(HWND hTop, CSize client);
 TOOLKIT_API void InputMoved(HWND hTop, CPoint screen); // where the top-level window's client area now is
 TOOLKIT_API void InputClose(HWND hTop);                // WM_CLOSE
+// The desktop may have another GetColorScheme. It counts at once; every window gets WM_SYSCOLORCHANGE.
+TOOLKIT_API void InputColors();
 
 // The toolkit's own: what waits.
 enum class InputKind

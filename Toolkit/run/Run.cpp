@@ -53,6 +53,7 @@ void toolkit::InstallDesktop(Desktop* pDesktop)
     SetCurrentDesktop(pDesktop);
     SetTickSource(pDesktop ? &DesktopTicks : nullptr);
     InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);
+    SetColorScheme(CurrentDesktop().GetColorScheme());
     UpdateWake();
 }
 

@@ -10,12 +10,9 @@ namespace
 using toolkit::ScrollBar;
 using toolkit::WindowRecord;
 
-constexpr COLORREF kTrack = RGB(246, 246, 246);
-constexpr COLORREF kThumb = RGB(196, 196, 196);
-constexpr COLORREF kHotThumb = RGB(160, 160, 160);
-constexpr COLORREF kPressedThumb = RGB(120, 120, 120);
-constexpr int kThumbMargin = 3; // between the thumb and the track's edge
-constexpr int kThumbRadius = 4; // half of what is left across
+constexpr int kTrack = 9, kThumb = 59, kHotThumb = 95, kPressedThumb = 135; // shades of the ground
+constexpr int kThumbMargin = 3;                                             // between the thumb and the track's edge
+constexpr int kThumbRadius = 4;                                             // half of what is left across
 
 // How much of the pixel (x, y) counted from a rounded corner the corner covers, 0 to 255.
 BYTE CornerCoverage(int x, int y)
@@ -53,7 +50,7 @@ void PaintScrollBar(const WindowRecord& window, HDC hdc, int nBar)
     const CRect box = toolkit::ScrollBarBox(window, nBar);
     if (box.IsRectEmpty())
         return;
-    FillSolidRect(hdc, box, kTrack);
+    FillSolidRect(hdc, box, toolkit::ShadeColor(kTrack));
     const SCROLLINFO& info = window.bars[static_cast<std::size_t>(nBar)].info;
     if (!ScrollBar::IsNeeded(info))
         return;
@@ -62,7 +59,7 @@ void PaintScrollBar(const WindowRecord& window, HDC hdc, int nBar)
     CRect thumb = bar.GetThumbAt(look.nThumbOffset);
     thumb.DeflateRect(kThumbMargin, kThumbMargin);
     if (thumb.Width() >= 2 * kThumbRadius && thumb.Height() >= 2 * kThumbRadius)
-        FillRounded(hdc, thumb, look.bPressed ? kPressedThumb : look.bHot ? kHotThumb : kThumb);
+        FillRounded(hdc, thumb, toolkit::ShadeColor(look.bPressed ? kPressedThumb : look.bHot ? kHotThumb : kThumb));
 }
 
 // The square where two scroll bars meet.
@@ -71,7 +68,7 @@ void PaintCorner(const WindowRecord& window, HDC hdc)
     const CRect below = toolkit::ScrollBarBox(window, SB_HORZ);
     const CRect beside = toolkit::ScrollBarBox(window, SB_VERT);
     if (!below.IsRectEmpty() && !beside.IsRectEmpty())
-        FillSolidRect(hdc, CRect(beside.left, below.top, beside.right, below.bottom), kTrack);
+        FillSolidRect(hdc, CRect(beside.left, below.top, beside.right, below.bottom), toolkit::ShadeColor(kTrack));
 }
 
 void PaintBorder(const WindowRecord& window, HDC hdc)

@@ -3,6 +3,7 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/handle/WindowGeometry.h"
+#include "Toolkit/paint/UpdateRegion.h"
 #include "Toolkit/scroll/Frame.h"
 #include "Toolkit/window/WindowApi.h"
 #include "Toolkit/window/WindowSettings.h"
@@ -53,6 +54,16 @@ LRESULT HandOnToParent(const WindowRecord& window, UINT message, WPARAM wParam, 
     return window.pParent ? SendMessage(window.pParent->hWnd, message, wParam, lParam) : 0;
 }
 
+void TellColorsChanged(WindowRecord& window)
+{
+    toolkit::InvalidateWhole(window);
+    std::vector<HWND> inside;
+    for (const WindowRecord* pChild : window.children)
+        inside.push_back(pChild->hWnd);
+    for (const HWND hChild : inside) // some of them may end meanwhile
+        SendMessage(hChild, WM_SYSCOLORCHANGE, 0, 0);
+}
+
 // A parent without an object of its own has nobody else to reflect a child's news.
 LRESULT ReflectForPlainParent(const WindowRecord& window, UINT message, WPARAM wParam, LPARAM lParam)
 {
@@ -97,6 +108,8 @@ LRESULT DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
         return Erase(*pWindow, reinterpret_cast<HDC>(wParam));
     case WM_NCPAINT:
         return toolkit::PaintFrame(*pWindow, reinterpret_cast<HDC>(wParam)), 0;
+    case WM_SYSCOLORCHANGE:
+        return TellColorsChanged(*pWindow), 0;
     case WM_SETTEXT:
         return SetText(*pWindow, reinterpret_cast<LPCSTR>(lParam));
     case WM_GETTEXT:

@@ -89,6 +89,7 @@ protected:                                                                      
 #define ON_WM_PAINT() TOOLKIT_ENTRY(WM_PAINT, CallVoid, OnPaint)
 #define ON_WM_ERASEBKGND() TOOLKIT_ENTRY(WM_ERASEBKGND, CallErase, OnEraseBkgnd)
 #define ON_WM_SIZE() TOOLKIT_ENTRY(WM_SIZE, CallSize, OnSize)
+#define ON_WM_SYSCOLORCHANGE() TOOLKIT_ENTRY(WM_SYSCOLORCHANGE, CallVoid, OnSysColorChange)
 #define ON_WM_SHOWWINDOW() TOOLKIT_ENTRY(WM_SHOWWINDOW, CallShow, OnShowWindow)
 #define ON_WM_SETFOCUS() TOOLKIT_ENTRY(WM_SETFOCUS, CallFocus, OnSetFocus)
 #define ON_WM_KILLFOCUS() TOOLKIT_ENTRY(WM_KILLFOCUS, CallFocus, OnKillFocus)

@@ -84,6 +84,7 @@ protected:
     // Handlers to override through the message map; each does just Default().
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
+    afx_msg void OnSysColorChange();
     afx_msg void OnClose();
     afx_msg void OnPaint();
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -4,6 +4,7 @@
 // clang-format off
 int CWnd::OnCreate(LPCREATESTRUCT) { return static_cast<int>(Default()); }
 void CWnd::OnDestroy() { Default(); }
+void CWnd::OnSysColorChange() { Default(); }
 void CWnd::OnClose() { Default(); }
 void CWnd::OnPaint() { Default(); }
 BOOL CWnd::OnEraseBkgnd(HDC) { return static_cast<BOOL>(Default()); }

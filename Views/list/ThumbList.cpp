@@ -25,6 +25,7 @@ BEGIN_MESSAGE_MAP(CThumbList, CObjectsList)
     ON_WM_DESTROY()
     ON_WM_TIMER()
     ON_WM_SHOWWINDOW()
+    ON_WM_SYSCOLORCHANGE()
 END_MESSAGE_MAP()
 
 CThumbList::CThumbList(int bPassive) : CThumbList(kPaneKind, views::IDR_THUMBNAIL_PANE, bPassive) {}
@@ -68,12 +69,24 @@ BOOL CThumbList::SetPictureExtent(int nExtent)
         m_pThumbnails->SetExtent(nExtent);
         return TRUE;
     }
+    m_pThumbnails->SetExtent(nExtent);
+    PaintAnew();
+    return TRUE;
+}
+
+void CThumbList::PaintAnew()
+{
     ForgetCache();
     m_pThumbnails->images.DeleteImageList();
-    m_pThumbnails->SetExtent(nExtent);
     ShowImages();
     Invalidate();
-    return TRUE;
+}
+
+// Pictures are painted on the list's ground.
+void CThumbList::OnSysColorChange()
+{
+    PaintAnew();
+    CObjectsList::OnSysColorChange();
 }
 
 int CThumbList::GetPictureExtent() const

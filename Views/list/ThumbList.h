@@ -48,6 +48,7 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
+    afx_msg void OnSysColorChange();
     DECLARE_MESSAGE_MAP()
 
 private:
@@ -57,6 +58,7 @@ private:
         CStubRef<IAtomThumbnail> pThumb;
     };
 
+    void PaintAnew();                  // all pictures
     void ShowImages();                 // new ones, of which the first is the folder picture
     IAtom* AtomIn(int nItem) const;    // borrowed; NULL when there is none
     bool ContainerIn(int nItem) const; // is it one?

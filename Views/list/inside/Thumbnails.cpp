@@ -1,6 +1,7 @@
 #include "Views/list/inside/Thumbnails.h"
 
 #include "Toolkit/base/Exception.h"
+#include "Toolkit/graphics/SysColors.h"
 #include "Views/host/IAtomContainer.h"
 #include "Views/host/IAtomIcon.h"
 #include "Views/host/IAtomThumbnail.h"
@@ -13,7 +14,7 @@ namespace
 {
 
 constexpr COLORREF kTransparent = RGB(255, 0, 0);
-constexpr COLORREF kBackColor = RGB(222, 247, 254);
+constexpr COLORREF kBackColor = RGB(222, 247, 254), kDarkBackColor = RGB(34, 50, 58);
 constexpr int kMostMargin = 24;
 constexpr int kMarkerExtent = 16, kMarkerInset = 4; // lower right, on the margin
 constexpr int kUsualExtent = 128, kUsualIcon = 48;
@@ -24,11 +25,11 @@ HBRUSH BackBrush()
 {
     struct BRUSH
     {
-        const HBRUSH hBrush = ::CreateSolidBrush(kBackColor);
+        const HBRUSH hBrush;
         ~BRUSH() { ::DeleteBrush(hBrush); }
     };
-    static const BRUSH s_brush;
-    return s_brush.hBrush;
+    static const BRUSH s_light{::CreateSolidBrush(kBackColor)}, s_dark{::CreateSolidBrush(kDarkBackColor)};
+    return toolkit::IsDark() ? s_dark.hBrush : s_light.hBrush;
 }
 
 bool IsContainer(CStubBaseInterface* pObject)
