@@ -110,7 +110,9 @@ std::string CommandLineHelp()
 {
     return "Shows a folder of pictures as a library of objects.\n"
            "\n"
-           "  [FOLDER]                 open FOLDER; without one the last one, at first a copy of the samples\n"
+           "  [FOLDER]                 open FOLDER; without one the last one, at first a copy of the samples. Of a "
+           "file its\n"
+           "                           folder is opened, and the file shown\n"
            "  --screenshot PNG         write a picture of the window to the file PNG and end\n"
            "  --script FILE            run the commands in FILE (- for the standard input), without a window, and end\n"
            "  --size WIDTHxHEIGHT      the window's size in pixels; without it the last one, at first 960x640\n"

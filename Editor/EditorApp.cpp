@@ -9,6 +9,8 @@
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/run/Run.h"
 
+#include <filesystem>
+
 namespace editor
 {
 
@@ -143,6 +145,18 @@ std::string EditorApp::OpenFolder(const std::string& path)
     m_parts->Remember(*pFrame);
     pFrame->GetList().SetFocus();
     return {};
+}
+
+std::string EditorApp::OpenPath(const std::string& path)
+{
+    std::error_code failure;
+    if (!std::filesystem::is_regular_file(path, failure))
+        return OpenFolder(path);
+    const std::filesystem::path file = std::filesystem::absolute(path, failure);
+    std::string error = OpenFolder(file.parent_path().string());
+    if (error.empty())
+        GetFrame()->GetPlaces().ShowTyped(file.string());
+    return error;
 }
 
 HWND EditorApp::GetMainWindow() const

@@ -38,6 +38,7 @@ public:
     // Shows the folder as a library, in the frame, which is made and shown at the first call. Empty when it is
     // shown; else one line that names the folder and the reason, and nothing has changed.
     std::string OpenFolder(const std::string& path);
+    std::string OpenPath(const std::string& path); // the same; of a file its folder is opened, and the file shown
 
     HWND GetMainWindow() const;   // NULL before the first folder and after the frame was closed
     CMainFrame* GetFrame() const; // the same

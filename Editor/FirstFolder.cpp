@@ -16,6 +16,16 @@ bool IsFolder(const std::string& path)
     return std::filesystem::is_directory(path, failure);
 }
 
+// Beside the installed program, else in the sources.
+std::string Samples()
+{
+    namespace fs = std::filesystem;
+    std::error_code failure;
+    const fs::path program = fs::read_symlink("/proc/self/exe", failure);
+    const std::string installed = (program.parent_path().parent_path() / "share/views/samples").string();
+    return IsFolder(installed) ? installed : EDITOR_SAMPLES;
+}
+
 // Whole or not at all. A folder by that name is the user's, whatever is in it.
 bool CopySamples(const std::string& home)
 {
@@ -23,7 +33,7 @@ bool CopySamples(const std::string& home)
     std::error_code failure;
     fs::create_directories(home, failure);
     TempEntry copy(home);
-    fs::copy(EDITOR_SAMPLES, fs::path(home) / copy.Name(), fs::copy_options::recursive, failure);
+    fs::copy(Samples(), fs::path(home) / copy.Name(), fs::copy_options::recursive, failure);
     return !failure && copy.PutAt("samples") == 0;
 }
 
@@ -43,7 +53,8 @@ std::string FirstFolder(const Settings& settings)
 
 std::string SampleFolder()
 {
-    return IsFolder(EDITOR_SAMPLES) ? EDITOR_SAMPLES : ".";
+    const std::string samples = Samples();
+    return IsFolder(samples) ? samples : ".";
 }
 
 } // namespace editor

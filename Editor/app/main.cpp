@@ -96,7 +96,7 @@ int Show(QApplication& application, const editor::CommandLine& line, const edito
                                         .openWindow = OpenWindow,
                                         .onClosed = [&] { application.quit(); },
                                         .isFollowing = true});
-    if (const std::string error = editor.OpenFolder(line.folder); !error.empty())
+    if (const std::string error = editor.OpenPath(line.folder); !error.empty())
         return Refuse(error);
     toolkit::PostTask(TellInterrupted);
     // As if the user closed the window, who may be asked. A second signal ends the program without a question, and so
@@ -207,6 +207,7 @@ int main(int argc, char* argv[])
     qInstallMessageHandler(ShowOnlyTrouble);
     QApplication application(argc, argv);
     application.setApplicationName("Views");
+    application.setDesktopFileName("views-editor");
     application.setQuitOnLastWindowClosed(false); // the editor tells when it is closed
     const int nStatus = !line.script.empty() ? RunScript(line, ending)
                         : display.usable     ? Show(application, line, ending)

@@ -45,6 +45,11 @@ CMainFrame::CMainFrame(CAtomEditor& editor, PictureStore& pictures, Outside outs
       m_filter(m_content, [this] { UpdateStatus(); }),
       m_search({m_navigation, m_commands, m_content, m_tell}),
       m_places({editor, m_navigation, m_bars.GetPathBar(), m_outside.places, m_tell}),
+      m_folderDrops(editor, kMenuBarHeight + kPathBarHeight,
+                    [this, pAlive = std::weak_ptr<int>(m_pAlive)](const std::string& path) {
+                        if (!pAlive.expired())
+                            m_places.OpenLibrary(path);
+                    }),
       m_views({*this, m_treePane, m_tree, m_content, m_properties, m_keysSheet, m_filter, m_search}),
       m_desk({m_commands, m_places, m_views}, m_tell),
       m_keys({*this, m_tree, m_splitter, m_content, m_navigation, m_filter, m_desk}),
@@ -200,7 +205,7 @@ int CMainFrame::OnCreate(LPCREATESTRUCT lpCreateStruct)
     const bool bMade = m_bars.Create(this) && m_treePane.Create(this) && m_splitter.Create(this) &&
                        m_content.Create(this) && m_workView.Create(&m_bars.GetStatusBar()) &&
                        m_tree.Create(&m_treePane) && m_properties.Create(this) && m_keysSheet.Create(this) &&
-                       m_filter.Create() && m_search.Create(this);
+                       m_filter.Create() && m_search.Create(this) && m_folderDrops.Register(this);
     return bMade ? 0 : -1;
 }
 

@@ -11,6 +11,7 @@
 #include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
 #include "Editor/views/EditorTree.h"
+#include "Editor/views/FolderDrop.h"
 #include "HostKit/frame/Splitter.h"
 #include "Views/host/StateHandler.h"
 
@@ -57,6 +58,7 @@ public:
     Filter& GetFilter() { return m_filter; }
     Search& GetSearch() { return m_search; }
     ViewCommands& GetViews() { return m_views; }
+    PlaceCommands& GetPlaces() { return m_places; }
     Content& GetContent() { return m_content; }
     void ShowList(ListKind kind) { m_content.ShowList(kind); }
 
@@ -121,6 +123,7 @@ private:
     Filter m_filter;
     Search m_search;
     PlaceCommands m_places;
+    FolderDropTarget m_folderDrops;
     ViewCommands m_views;
     CommandDesk m_desk;
     FrameKeys m_keys;

@@ -49,7 +49,7 @@ void PlaceCommands::OpenFolder()
     const std::optional<std::string> path =
         toolkit::CurrentDesktop().AskFolder(hOwner, "Open a folder of pictures", pLibrary ? pLibrary->Path() : Home());
     if (path && IsWindow(hOwner))
-        Say(m_parts.outside.openFolder(*path));
+        OpenLibrary(*path);
 }
 
 std::vector<std::string> PlaceCommands::Recent() const
@@ -65,7 +65,7 @@ void PlaceCommands::OpenRecent(std::size_t nFolder)
 {
     const std::vector<std::string> recent = Recent();
     if (nFolder < recent.size())
-        Say(m_parts.outside.openFolder(recent[nFolder]));
+        OpenLibrary(recent[nFolder]);
 }
 
 void PlaceCommands::OpenWindow()

@@ -30,7 +30,8 @@ public:
 
     void Describe(CommandState& state) const;
 
-    void OpenFolder();                       // asks which
+    void OpenFolder(); // asks which
+    void OpenLibrary(const std::string& path) { Say(m_parts.outside.openFolder(path)); }
     std::vector<std::string> Recent() const; // but for the one that is shown
     void OpenRecent(std::size_t nFolder);
     void OpenWindow(); // on the selected folder, else on the one that is shown

@@ -14,7 +14,8 @@ constexpr COLORREF kBlack = RGB(0, 0, 0), kWhite = RGB(255, 255, 255);
 // As far from the ground towards texts.
 constexpr int kLightLine = 12, kFace = 26, kShadow = 95, kGrayText = 146, kDarkLine = 150;
 
-toolkit::ColorScheme s_asked, s_scheme;   // as it was said, and as it can be read
+toolkit::ColorScheme s_asked, s_scheme; // as it was said, and as it can be read
+bool s_bDark = false;
 COLORREF s_grayText = RGB(109, 109, 109); // that shade of the scheme's, made readable
 
 COLORREF Mix(COLORREF from, COLORREF to, int nPart)
@@ -34,6 +35,12 @@ double Luminance(COLORREF color)
     return 0.2126 * linear(GetRValue(color)) + 0.7152 * linear(GetGValue(color)) + 0.0722 * linear(GetBValue(color));
 }
 
+// Light lines on a dark ground are seen more than dark ones on a light ground.
+COLORREF LineColor(int nShade)
+{
+    return toolkit::ShadeColor(s_bDark ? nShade * 5 / 8 : nShade);
+}
+
 } // namespace
 
 COLORREF GetSysColor(int nIndex)
@@ -49,9 +56,9 @@ COLORREF GetSysColor(int nIndex)
     case COLOR_BTNFACE:
         return toolkit::ShadeColor(kFace);
     case COLOR_BTNSHADOW:
-        return toolkit::ShadeColor(kShadow);
+        return LineColor(kShadow);
     case COLOR_3DDKSHADOW:
-        return toolkit::ShadeColor(kDarkLine);
+        return LineColor(kDarkLine);
     case COLOR_3DLIGHT:
         return toolkit::ShadeColor(kLightLine);
     case COLOR_GRAYTEXT:
@@ -68,13 +75,14 @@ bool toolkit::SetColorScheme(const ColorScheme& scheme)
     s_scheme = scheme;
     s_scheme.text = Readable(scheme.text, Mix(scheme.window, scheme.text, kFace));
     s_scheme.highlight = Readable(scheme.highlight, scheme.highlightText);
-    s_grayText = Readable(ShadeColor(kGrayText), ShadeColor(kLightLine));
+    s_bDark = Luminance(s_scheme.text) > Luminance(s_scheme.window);
+    s_grayText = Readable(Readable(ShadeColor(kGrayText), ShadeColor(kLightLine)), s_scheme.window);
     return true;
 }
 
 bool toolkit::IsDark()
 {
-    return Luminance(s_scheme.text) > Luminance(s_scheme.window);
+    return s_bDark;
 }
 
 COLORREF toolkit::ShadeColor(int nShade)
