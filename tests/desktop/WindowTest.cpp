@@ -1,3 +1,4 @@
+#include "Toolkit/graphics/SysColors.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QImage>
@@ -40,4 +41,19 @@ TEST_F(WindowTest, ItsWidgetHasItsTitleAndGoesWithIt)
     const HWND hProbe = m_probe->GetSafeHwnd();
     m_probe->DestroyWindow();
     EXPECT_EQ(nullptr, m_desktop->FindWidget(hProbe));
+}
+
+TEST_F(WindowTest, TheDesktopsColoursAreTheWindowsAlsoWhenTheyChange)
+{
+    m_probe->m_after[WM_SYSCOLORCHANGE] = [this] { m_probe->m_color = GetSysColor(COLOR_WINDOW); };
+    QPalette dark;
+    dark.setColor(QPalette::Base, QColor(30, 31, 32));
+    dark.setColor(QPalette::Text, QColor(240, 240, 240));
+    QApplication::setPalette(dark);
+    Settle();
+    EXPECT_TRUE(toolkit::IsDark());
+    EXPECT_EQ(QColor(30, 31, 32), Screen().pixelColor(100, 60));
+    QApplication::setPalette(QPalette());
+    Settle();
+    EXPECT_EQ(QColor(255, 255, 255), Screen().pixelColor(100, 60));
 }

@@ -196,6 +196,35 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
     EXPECT_EQ("file://" + folder.At("Ada/new%20one.bmp") + "\r\n", dragged);
 }
 
+TEST_F(DragTest, AFolderOfAFileManagerIsOpenedByADropOnTheBars)
+{
+    TempFolder outside;
+    outside.Make("Kit/k.bmp");
+    Open();
+    const HWND hPath = Frame().GetPathBar().GetSafeHwnd();
+    const auto drop = [&](const std::string& path, HWND hWnd) {
+        desktop.DragIn({{"text/uri-list", "file://" + path + "\r\n"}});
+        desktop.MoveTo(hWnd, {40, 12});
+        desktop.Release(hWnd, {40, 12});
+        Settle();
+        return Rows();
+    };
+    EXPECT_EQ("[Ada Bo]", drop(outside.At("Kit/k.bmp"), hPath)) << "no folder";
+    EXPECT_EQ("[Ada Bo]", drop(outside.At("Kit"), Frame().GetSplitter().GetSafeHwnd())) << "below the bars";
+    Drag(List(), PlaceOf("Bo"), [&] {
+        desktop.MoveTo(hPath, {40, 12});
+        desktop.Release(hPath, {40, 12});
+    });
+    EXPECT_EQ("[Ada (*Bo)]", Rows()) << "of its own";
+    EXPECT_EQ("[k.bmp]", drop(outside.At("Kit"), hPath));
+    EXPECT_EQ(outside.At("Kit"), Frame().GetNavigation().Library()->Path());
+    EXPECT_EQ("[Ada Bo]", drop(folder.Path(), Frame().GetMenuBar().GetSafeHwnd()));
+    EXPECT_EQ("", App().OpenPath(outside.At("Kit/k.bmp")));
+    Settle();
+    EXPECT_TRUE(IsWindowVisible(Picture())) << "a file is shown in its folder";
+    EXPECT_EQ(outside.At("Kit/k.bmp"), Frame().Shown()->Path());
+}
+
 TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
 {
     folder.Write("Bo/Poses/walk.phase", "#delay 80\n");

@@ -8,6 +8,15 @@
 namespace
 {
 
+int CountDifferent(const toolkit::Surface& a, const toolkit::Surface& b)
+{
+    int n = 0;
+    for (int y = 0; y < a.Height(); ++y)
+        for (int x = 0; x < a.Width(); ++x)
+            n += a.At(x, y) != b.At(x, y);
+    return n;
+}
+
 TEST_F(EditorTest, EnterOpensTheFocusedRowAndThePathLeadsBack)
 {
     folder.Make("Ada/Poses/one.bmp Bo/");
@@ -330,6 +339,30 @@ TEST_F(EditorTest, SwitchingKeepsWhatIsShownSelectedAndFocused)
     EXPECT_EQ(before, Screen());
     EXPECT_EQ(hThumbnails, List());
     EXPECT_EQ(hThumbnails, GetFocus());
+}
+
+TEST_F(EditorTest, DarkAtOnceIsAsDarkFromTheStart)
+{
+    const toolkit::ColorScheme dark{RGB(27, 30, 32), RGB(252, 252, 252), RGB(61, 174, 233), RGB(252, 252, 252)};
+    for (const char* pszName : {"a.bmp", "b.bmp"})
+        folder.WriteBmp(pszName, 90, 90, 0xFF102030);
+    folder.Make("Ada/ notes.txt walk.phase");
+    const auto open = [&] {
+        Open();
+        Control('2');
+        Click("b.bmp");
+        return desktop.Dump(Frame().GetSafeHwnd());
+    };
+    const toolkit::Surface light = open();
+    desktop.ShowColors(dark);
+    const toolkit::Surface changed = desktop.Dump(Frame().GetSafeHwnd());
+    desktop.ShowColors({});
+    EXPECT_EQ(0, CountDifferent(light, desktop.Dump(Frame().GetSafeHwnd()))) << "and light again";
+
+    StartAnew();
+    desktop.ShowColors(dark);
+    EXPECT_EQ(0, CountDifferent(open(), changed));
+    EXPECT_LT(light.Width() * light.Height() * 9 / 10, CountDifferent(light, changed));
 }
 
 TEST_F(EditorTest, PicturesScrolledPastAreNotRead)

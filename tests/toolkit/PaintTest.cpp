@@ -226,3 +226,44 @@ TEST_F(PaintTest, ScrollingMovesWhatIsSeenAndNotesTheRest)
 }
 
 } // namespace
+
+TEST_F(PaintTest, OtherColoursReachEveryWindowAndAllOfItIsPaintedAnew)
+{
+    PaintWnd top('t', *this);
+    SpyWnd inside("inside", *this, {WM_SYSCOLORCHANGE});
+    PaintWnd deep('d', *this);
+    top.Show(nullptr, CRect(0, 0, 12, 6));
+    inside.Show(&top, CRect(2, 1, 10, 5));
+    deep.Show(&inside, CRect(1, 1, 6, 4), WS_BORDER);
+    desktop.Run();
+    TakeLedger();
+
+    desktop.ShowColors({.window = RGB(20, 20, 20), .text = RGB(240, 240, 240)});
+    EXPECT_EQ((Ledger{"inside SYSCOLORCHANGE", "t 0,0-12,6", "d 0,0-3,1"}), TakeLedger());
+    EXPECT_TRUE(toolkit::IsDark());
+    EXPECT_EQ(GetSysColor(COLOR_BTNFACE), toolkit::ToColor(desktop.Dump(inside.m_hWnd).At(0, 0)));
+    EXPECT_EQ(GetSysColor(COLOR_BTNSHADOW), toolkit::ToColor(desktop.Dump(deep.m_hWnd).At(0, 0)));
+
+    desktop.ShowColors({.window = RGB(20, 20, 20), .text = RGB(240, 240, 240)});
+    EXPECT_EQ(Ledger{}, TakeLedger()) << "they are no others";
+}
+
+TEST_F(PaintTest, WhateverColoursADesktopHasTextsCanBeRead)
+{
+    const toolkit::ColorScheme schemes[] = {
+        {},
+        {RGB(255, 255, 255), RGB(35, 38, 41), RGB(61, 174, 233), RGB(255, 255, 255)},
+        {RGB(27, 30, 32), RGB(252, 252, 252), RGB(61, 174, 233), RGB(252, 252, 252)},
+        {RGB(45, 45, 45), RGB(140, 140, 140), RGB(255, 200, 0), RGB(255, 255, 255)},
+        {RGB(120, 120, 120), RGB(128, 128, 128), RGB(1, 1, 1), RGB(2, 2, 2)}};
+    for (const toolkit::ColorScheme& scheme : schemes) {
+        desktop.ShowColors(scheme);
+        const auto contrast = [](int text, int ground) {
+            return toolkit::Contrast(GetSysColor(text), GetSysColor(ground));
+        };
+        SCOPED_TRACE(scheme.window);
+        EXPECT_LE(4.5, contrast(COLOR_WINDOWTEXT, COLOR_WINDOW));
+        EXPECT_LE(4.5, contrast(COLOR_GRAYTEXT, COLOR_WINDOW));
+        EXPECT_LE(4.5, contrast(COLOR_HIGHLIGHTTEXT, COLOR_HIGHLIGHT));
+    }
+}

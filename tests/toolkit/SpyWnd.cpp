@@ -25,6 +25,7 @@ const std::map<UINT, std::pair<std::string, Says>> kMessages = {
     {WM_KILLFOCUS, {"KILLFOCUS", Says::Focus}},
     {WM_PAINT, {"PAINT", Says::Nothing}},
     {WM_TIMER, {"TIMER", Says::Number}},
+    {WM_SYSCOLORCHANGE, {"SYSCOLORCHANGE", Says::Nothing}},
     {WM_USER, {"USER", Says::Number}},
     {WM_APP, {"APP", Says::Number}},
     {WM_MOUSEMOVE, {"MOUSEMOVE", Says::Place}},
