@@ -1,6 +1,8 @@
 #include "QtDesktop/QtDesktop.h"
 
+#include "QtDesktop/AccessNews.h"
 #include "QtDesktop/ForeignTimes.h"
+#include "QtDesktop/QtAccessible.h"
 #include "QtDesktop/QtClipboard.h"
 #include "QtDesktop/QtDrag.h"
 #include "QtDesktop/QtMenu.h"
@@ -37,6 +39,7 @@ std::unique_ptr<QtTextEngine> MakeTextEngine()
 struct QtDesktop::Parts
 {
     QueuePump pump;
+    AccessNews accessNews;
     ForeignTimes foreignTimes;
     std::unique_ptr<QtClipboard> pClipboard = std::make_unique<QtClipboard>();
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
@@ -53,11 +56,13 @@ struct QtDesktop::Parts
 
 QtDesktop::QtDesktop() : m_parts(std::make_unique<Parts>())
 {
+    InstallAccessibles();
     toolkit::InstallDesktop(this);
 }
 
 QtDesktop::~QtDesktop()
 {
+    TrimAccessibles();
     m_parts->pClipboard.reset(); // its data may look at the desktop when it goes
     toolkit::InstallDesktop(nullptr);
 }
@@ -70,6 +75,11 @@ QWidget* QtDesktop::FindWidget(HWND hTop) const
 void QtDesktop::SetDropPatience(int nMilliseconds)
 {
     m_parts->nDropPatience = nMilliseconds;
+}
+
+void QtDesktop::HearAccessibility(std::function<void(QAccessibleEvent&)> hear)
+{
+    m_parts->accessNews.SetHearer(std::move(hear));
 }
 
 DWORD QtDesktop::Ticks()
@@ -200,6 +210,11 @@ void QtDesktop::TextInputChanged()
 {
     for (const auto& [hTop, pWindow] : m_parts->windows)
         pWindow->FollowTextInput();
+}
+
+void QtDesktop::AccessibleChanged(DWORD event, HWND hWnd, LPARAM item)
+{
+    m_parts->accessNews.Tell(event, hWnd, item);
 }
 
 BOOL QtDesktop::PublishClipboard(std::shared_ptr<toolkit::OfferedData> data)

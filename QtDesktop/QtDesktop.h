@@ -8,8 +8,10 @@
 #include "QtDesktop/Export.h"
 #include "Toolkit/desktop/Desktop.h"
 
+#include <functional>
 #include <memory>
 
+class QAccessibleEvent;
 class QWidget;
 
 namespace qtdesktop
@@ -28,6 +30,9 @@ public:
 
     // How long a drag that was dropped in another program waits to hear that the data was moved. Ten seconds at first.
     void SetDropPatience(int nMilliseconds);
+
+    // Hears what screen readers are told of, whether or not there is one: for a program's tests. Empty: nobody.
+    void HearAccessibility(std::function<void(QAccessibleEvent& event)> hear);
 
     DWORD Ticks() override;
     toolkit::TextEngine& GetTextEngine() override;
@@ -50,6 +55,7 @@ public:
     std::string OpenOutside(const std::string& path) override;
     std::string ShowOutside(const std::string& path) override;
     void TextInputChanged() override;
+    void AccessibleChanged(DWORD event, HWND hWnd, LPARAM item) override;
     UINT TrackMenu(HWND hOwner, const std::vector<toolkit::MenuItem>& items, CPoint screen) override;
     BOOL PublishClipboard(std::shared_ptr<toolkit::OfferedData> data) override;
     std::shared_ptr<toolkit::OfferedData> FetchClipboard() override;

@@ -20,6 +20,8 @@ class QtWindow : public QWidget
 public:
     explicit QtWindow(HWND hTop); // hidden at first
 
+    HWND TopWindow() const { return m_hTop; }
+
     void FollowState();               // the window was shown, hidden or renamed
     void FollowPlace();               // the program moved or sized it
     void Present(const CRect& dirty); // the window's surface has new pixels

@@ -1,5 +1,6 @@
 #include "Toolkit/focus/Focus.h"
 
+#include "Toolkit/access/WinEvents.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/handle/WindowGeometry.h"
 #include "Toolkit/handle/WindowQueries.h"
@@ -44,6 +45,7 @@ HWND MoveFocus(HWND hWnd)
         return hFormer;
     s_focus.hWnd = hWnd;
     const unsigned nMove = ++s_focus.nMoves;
+    NotifyWinEvent(EVENT_OBJECT_FOCUS, hWnd, OBJID_CLIENT, CHILDID_SELF);
     SendMessage(hFormer, WM_KILLFOCUS, reinterpret_cast<WPARAM>(hWnd), 0);
     if (nMove == s_focus.nMoves)
         SendMessage(hWnd, WM_SETFOCUS, reinterpret_cast<WPARAM>(hFormer), 0);

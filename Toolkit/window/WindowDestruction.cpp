@@ -1,6 +1,7 @@
 // Any handler called on the way may destroy windows, so every step looks its window up again.
 #include "Toolkit/window/WindowDestruction.h"
 
+#include "Toolkit/access/WinEvents.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/Focus.h"
@@ -64,6 +65,7 @@ CWnd* Forget(WindowRecord& window)
     toolkit::ForgetFocus(hWnd);
     toolkit::ForgetCapture(hWnd);
     toolkit::DropTimers(hWnd);
+    NotifyWinEvent(EVENT_OBJECT_DESTROY, hWnd, OBJID_CLIENT, CHILDID_SELF);
     if (window.pDropSite)
         window.pDropSite->WindowGone();
     toolkit::ForgetPainting(window);

@@ -1,5 +1,6 @@
 #include "Toolkit/window/WindowSettings.h"
 
+#include "Toolkit/access/WinEvents.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/Focus.h"
@@ -40,6 +41,7 @@ void toolkit::SetVisible(HWND hWnd, bool bShow)
     else if (pWindow->pParent)
         InvalidateExposed(*pWindow->pParent, pWindow->rect);
     TellDesktopOfChange(hWnd);
+    NotifyWinEvent(bShow ? EVENT_OBJECT_SHOW : EVENT_OBJECT_HIDE, hWnd, OBJID_CLIENT, CHILDID_SELF);
     if (!bShow) {
         PassFocusOn(hWnd);
         ReleaseCaptureWithin(hWnd);

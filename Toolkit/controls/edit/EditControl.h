@@ -3,6 +3,7 @@
 // The object is whole before it notifies, since handlers set the text anew or ask for the selection.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/controls/edit/EditHistory.h"
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/edit/EditMouse.h"
@@ -12,7 +13,7 @@
 namespace toolkit
 {
 
-class EditControl : public NativeWindow, public TextInput
+class EditControl : public NativeWindow, public TextInput, public Accessible
 {
 public:
     explicit EditControl(HWND hWnd) : NativeWindow(hWnd) {}
@@ -21,6 +22,10 @@ public:
 
     TextInputState GetTextInput() const override;
     void Compose(std::string_view text, std::size_t caret) override;
+
+    // Its text, caret and selection the field tells by message.
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_TEXT; }
+    UINT AccState(LPARAM) override { return STATE_SYSTEM_FOCUSABLE; }
 
 protected:
     virtual void TextIsNew() {} // before anybody is told; must not notify

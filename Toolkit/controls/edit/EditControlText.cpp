@@ -160,6 +160,7 @@ void EditControl::EraseOr(TextSpan other, EditKind kind)
 void EditControl::TellChange()
 {
     TextIsNew();
+    NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
     Tell(EN_UPDATE);
     m_view.ShowCaret();
     Tell(EN_CHANGE);

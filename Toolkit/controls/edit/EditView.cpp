@@ -1,5 +1,6 @@
 #include "Toolkit/controls/edit/EditView.h"
 
+#include "Toolkit/access/WinEvents.h"
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Gdi.h"
@@ -75,6 +76,7 @@ void EditView::Show()
 {
     RestartBlinking();
     m_window.RedrawAll();
+    NotifyWinEvent(EVENT_OBJECT_TEXTSELECTIONCHANGED, m_window.m_hWnd, OBJID_CLIENT, CHILDID_SELF);
     if (m_bCaretOn)
         CurrentDesktop().TextInputChanged();
 }

@@ -124,6 +124,7 @@ void LabelEditing::Begin(LPARAM item)
     m_hField = CreateWindowEx(0, kFieldClass, text->c_str(), style, 0, 0, 0, 0, hWnd, 1, nullptr);
     if (!m_hField)
         return;
+    SetAccessibleName(m_hField, text->c_str());
     SendMessage(m_hField, EM_SETSEL, 0, -1);
     Place();
     ShowWindow(m_hField, SW_SHOW);

@@ -80,6 +80,7 @@ BOOL ListControl::OnSetItemCount(int count)
     m_mouse.RowsAreNew(count);
     RedrawAll();
     Relayout();
+    NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
     if (Labels().Item() >= count)
         Labels().Finish(false);
     return TRUE;
@@ -106,6 +107,7 @@ BOOL ListControl::OnUpdate(int row)
         return FALSE;
     m_owner.ForgetHint(row); // what it said of it may be out of date
     m_viewport.Redraw(row);
+    TellAccess(EVENT_OBJECT_NAMECHANGE, row);
     return TRUE;
 }
 
@@ -142,6 +144,7 @@ void ListControl::HasChanged(int row, UINT oldState, UINT newState)
         m_viewport.Redraw(row);
     else
         RedrawAll();
+    TellAccess(row, oldState, newState);
     m_owner.TellChange(row, oldState, newState);
 }
 

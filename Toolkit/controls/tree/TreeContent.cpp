@@ -144,6 +144,7 @@ BOOL TreeContent::OnSetItem(WPARAM, const TVITEM* pItem)
     AssignRest(item, *pItem);
     if (pItem->mask & TVIF_TEXT) {
         m_order.Doubt(m_items.ParentOrRoot(item));
+        m_viewport.TellAccess(EVENT_OBJECT_NAMECHANGE, pItem->hItem);
         if (!asked || !m_items.FaceOf(item).asksForText)
             m_viewport.ForgetWidth(); // of a label that is asked for the width is seen when it is painted
     }

@@ -3,6 +3,7 @@
 // Across a notification an item is kept as a handle and looked up again.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/tree/TreeContent.h"
 #include "Toolkit/controls/tree/TreeKeys.h"
@@ -11,14 +12,32 @@
 namespace toolkit
 {
 
-class TreeControl : public ItemControl
+class TreeControl : public ItemControl, public Accessible
 {
 public:
     explicit TreeControl(HWND hWnd) : ItemControl(hWnd, TVS_EDITLABELS, ES_LEFT) {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // For assistive technology an item is its handle, and its children are in it while it is open.
+    UINT AccRole(LPARAM item) override { return item == CHILDID_SELF ? ROLE_SYSTEM_OUTLINE : ROLE_SYSTEM_OUTLINEITEM; }
+    UINT AccState(LPARAM item) override;
+    std::string AccName(LPARAM item) override;
+    CRect AccPlace(LPARAM item) override { return m_layout.RowRect(m_items.RowOf(m_items.Find(ToHandle(item)))); }
+    bool AccHas(LPARAM item) override;
+    int AccCount(LPARAM parent) override;
+    LPARAM AccChild(LPARAM parent, int place) override;
+    LPARAM AccParent(LPARAM item) override { return ToItem(m_items.Parent(m_items.Find(ToHandle(item)))); }
+    int AccIndex(LPARAM item) override;
+    LPARAM AccAt(CPoint client) override { return ToItem(m_items.AtRow(m_layout.RowAt(client.y))); }
+    LPARAM AccFocus() override { return reinterpret_cast<LPARAM>(m_selection.Caret()); }
+    std::string AccAction(LPARAM item) override;
+    void AccDo(LPARAM item) override { m_selection.Expand(ToHandle(item), TVE_TOGGLE, TVC_UNKNOWN); }
+    bool AccCanSelect() override { return true; }
+    void AccSelect(LPARAM item, UINT flags) override;
+
 private:
+    LPARAM ToItem(ItemIndex item) const { return reinterpret_cast<LPARAM>(m_items.HandleOf(item)); }
     static HTREEITEM ToHandle(LPARAM item) { return reinterpret_cast<HTREEITEM>(item); }
 
     // Life and looks of the whole.

@@ -62,8 +62,13 @@ void TreeSelection::SetCaret(HTREEITEM hItem)
         m_items[former].state &= static_cast<BYTE>(~TVIS_SELECTED);
     if (const ItemIndex item = m_items.Find(hItem))
         m_items[item].state |= TVIS_SELECTED;
-    m_viewport.Redraw(hFormer);
-    m_viewport.Redraw(hItem);
+    for (const HTREEITEM hChanged : {hFormer, hItem}) {
+        m_viewport.Redraw(hChanged);
+        if (hChanged)
+            m_viewport.TellAccess(hChanged == hItem ? EVENT_OBJECT_SELECTIONADD : EVENT_OBJECT_SELECTIONREMOVE,
+                                  hChanged);
+    }
+    m_viewport.TellAccess(EVENT_OBJECT_FOCUS, hItem);
 }
 
 void TreeSelection::SetState(ItemIndex index, UINT state, UINT mask)
@@ -121,6 +126,7 @@ bool TreeSelection::ShowChildren(HTREEITEM hItem, bool expanded, UINT cause)
     const int row = m_items.RowOf(item);
     if (row >= 0)
         m_viewport.RowsChanged(row);
+    m_viewport.TellAccess(EVENT_OBJECT_STATECHANGE, hItem);
     if (holdsCaret)
         Select(hItem, cause);
     return true;

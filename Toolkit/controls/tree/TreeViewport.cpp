@@ -120,6 +120,7 @@ void TreeViewport::RowsChanged(int from)
     const int y = m_layout.RowRect(std::max(from, m_layout.TopRow())).top;
     const CRect below(0, y, m_layout.Client().cx, m_layout.Client().cy);
     InvalidateRect(m_control.m_hWnd, &below);
+    TellAccess(EVENT_OBJECT_REORDER, nullptr);
 }
 
 void TreeViewport::ItemIsPlaced(ItemIndex item)

@@ -5,6 +5,7 @@
 // learns as others come into sight.
 #pragma once
 
+#include "Toolkit/access/WinEvents.h"
 #include "Toolkit/controls/tree/TreeLayout.h"
 #include "Toolkit/controls/tree/TreeOwner.h"
 #include "Toolkit/graphics/TextEngine.h"
@@ -32,6 +33,10 @@ public:
     bool HasButtonAt(int level) const { return m_control.Is(TVS_HASBUTTONS) && HasLinesAt(level); }
 
     void Redraw(HTREEITEM hItem) const;
+    void TellAccess(DWORD event, HTREEITEM hItem) const // NULL: it is the tree's own
+    {
+        NotifyWinEvent(event, m_control.m_hWnd, OBJID_CLIENT, reinterpret_cast<LPARAM>(hItem));
+    }
     void Measure();  // the text's and the pictures' size are new
     void Relayout(); // the client area, the rows or a measure are new
     // From that row on; keeps the item at the top where it is, as long as that is not the first row.
