@@ -47,7 +47,7 @@ void AccessNews::Tell(DWORD event, HWND hWnd, LPARAM item)
     if (event == EVENT_OBJECT_DESTROY)
         return DeliverLater(); // what stands for it goes
     if (event == EVENT_OBJECT_FOCUS)
-        m_bFocus = true;
+        m_focus = {hWnd, item};
     else if (!IsSelection(event))
         Gather({event, hWnd, item});
     else if (Gather({EVENT_OBJECT_SELECTIONWITHIN, hWnd, CHILDID_SELF}); ++m_selections[hWnd] <= kOneByOne)
@@ -76,8 +76,8 @@ void AccessNews::Deliver()
     m_selections.clear();
     for (const News& news : std::exchange(m_news, {}))
         Deliver(news);
-    if (std::exchange(m_bFocus, false))
-        DeliverFocus();
+    if (const auto focus = std::exchange(m_focus, std::nullopt))
+        DeliverFocus(focus->first, focus->second);
 }
 
 void AccessNews::Deliver(const News& news)
@@ -138,9 +138,12 @@ void AccessNews::DeliverText(HWND hWnd)
         Send(QAccessibleTextCursorEvent(pField, now.cursor));
 }
 
-void AccessNews::DeliverFocus()
+// A part that says so has it, such as a menu's title while the arrows walk; else what has it by now.
+void AccessNews::DeliverFocus(HWND hWnd, LPARAM item)
 {
-    QAccessibleInterface* const pFocus = FindFocusedAccessible();
+    QAccessibleInterface* pFocus = FindAccessible(hWnd, item);
+    if (item == CHILDID_SELF || !pFocus || !pFocus->state().focused)
+        pFocus = FindFocusedAccessible();
     if (!pFocus)
         return;
     if (pFocus->textInterface())

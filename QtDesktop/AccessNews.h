@@ -6,6 +6,7 @@
 #include <QObject>
 #include <functional>
 #include <map>
+#include <optional>
 #include <set>
 #include <tuple>
 #include <utility>
@@ -34,14 +35,15 @@ private:
     void Send(QAccessibleEvent&& event) const;
     void SendTextChange(QAccessibleInterface* pField, const QString& former, const QString& text) const;
     void DeliverText(HWND hWnd);
-    void DeliverFocus();
+    void DeliverFocus(HWND hWnd, LPARAM item);
 
     std::vector<News> m_news; // in its order
     std::set<News> m_told;    // the same
     std::map<HWND, int> m_selections;
     std::map<HWND, FieldText> m_fields; // as told last
     Hear m_hear;
-    bool m_bFocus = false, m_bPosted = false;
+    std::optional<std::pair<HWND, LPARAM>> m_focus; // as told of last
+    bool m_bPosted = false;
 };
 
 } // namespace qtdesktop

@@ -2,6 +2,7 @@
 
 #include "Editor/frame/PlaceCommands.h"
 #include "Editor/frame/ViewCommands.h"
+#include "Toolkit/access/Accessible.h"
 
 namespace editor
 {
@@ -25,7 +26,8 @@ Bars::Bars(const Parts& parts)
 bool Bars::Create(CWnd* pFrame)
 {
     return m_menuBar.Create(pFrame) && m_ways.Create(pFrame) && m_tools.Create(pFrame) && m_pathBar.Create(pFrame) &&
-           m_statusBar.Create(pFrame) && m_sizeSlider.Create(pFrame);
+           m_statusBar.Create(pFrame) && m_sizeSlider.Create(pFrame) && SetAccessibleName(m_ways.m_hWnd, "Ways") &&
+           SetAccessibleName(m_tools.m_hWnd, "Tools");
 }
 
 PaneLayout::Wanted Bars::GetWanted(int nTree) const
@@ -59,7 +61,7 @@ void Bars::ShowPath()
 
 void Bars::Update()
 {
-    m_statusBar.Invalidate();
+    m_statusBar.Update();
     m_sizeSlider.Invalidate();
     m_ways.Invalidate();
     m_tools.Invalidate();

@@ -1,6 +1,7 @@
 #include "Editor/frame/Filter.h"
 
 #include "Editor/model/Member.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/base/TextKeys.h"
 
 namespace editor
@@ -32,6 +33,7 @@ bool Filter::Create()
     m_content.SetFilter([this](IAtom* pAtom) { return Shows(pAtom); });
     if (!m_field.Create(WS_CHILD, CRect(), &m_content.GetListPane(), 1))
         return false;
+    SetAccessibleName(m_field.m_hWnd, "Show names with");
     m_content.GetListPane().SetField(&m_field, kFieldMargin);
     return true;
 }

@@ -131,7 +131,7 @@ BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
     if (pAtom && pAtom == GetPictureView().GetAtom())
         GetPictureView().OnPictureArrived(), m_content.PlayPicture();
-    m_bars.GetStatusBar().Invalidate();
+    m_bars.GetStatusBar().Update();
     if (dynamic_cast<CPhase*>(CMember::Of(pAtom))) {
         m_content.UpdatePlayer(pAtom);
         m_properties.Update(); // looks through all that is selected: not for each picture that has been read

@@ -1,6 +1,7 @@
 #include "Editor/frame/PropertiesPane.h"
 
 #include "Editor/widgets/Look.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -44,6 +45,8 @@ BOOL CPropertiesPane::Create(CWnd* pParent)
         !m_delay.Create(WS_CHILD, kDelayField, this, kDelayID) ||
         !m_repeat.Create(WS_CHILD, kRepeatField, this, kRepeatID))
         return FALSE;
+    SetAccessibleName(m_delay.m_hWnd, "Delay");
+    SetAccessibleName(m_repeat.m_hWnd, "Repeat");
     m_delay.SetRange(0, PhaseTiming::kMostDelay);
     m_repeat.SetRange(0, PhaseTiming::kMostRepeats);
     return TRUE;

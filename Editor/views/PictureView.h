@@ -5,6 +5,7 @@
 #include "Editor/pictures/PictureStore.h"
 #include "Editor/views/PictureZoom.h"
 #include "HostKit/pictures/Pictograms.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 namespace editor
@@ -17,7 +18,7 @@ namespace editor
 // The wheel zooms, a drag moves what is zoomed, a double click goes to the picture's own size and back. Zoomed pictures
 // are read as they are, up to kMostRead pixels each way, and their pixels are squares; what was read before is shown
 // until then. The next picture is zoomed likewise, until none is shown.
-class CPictureView : public CWnd
+class CPictureView : public CWnd, public toolkit::Accessible
 {
 public:
     static constexpr int kMostRead = 4096;
@@ -37,6 +38,8 @@ public:
     void Fit();
     void ShowOwnSize();
     bool PanBy(CSize by); // false: nothing is zoomed
+
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_GRAPHIC; }
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -79,6 +79,22 @@ std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
     return places;
 }
 
+std::vector<CKeysSheet::Part> CKeysSheet::AccParts()
+{
+    const int step = LineStep();
+    std::vector<Part> parts;
+    for (const Place& place : Layout()) {
+        CRect line(place.rect.left, place.rect.top - m_nScrolled, place.rect.right,
+                   place.rect.top - m_nScrolled + step);
+        parts.push_back({ROLE_SYSTEM_STATICTEXT, 0, place.pGroup->title, line, {}});
+        for (const Line& one : place.pGroup->lines) {
+            line.OffsetRect(0, step);
+            parts.push_back({ROLE_SYSTEM_LISTITEM, 0, one.key + ": " + one.what, line, {}});
+        }
+    }
+    return parts;
+}
+
 BOOL CKeysSheet::OnEraseBkgnd(HDC hdc)
 {
     CRect client;

@@ -1,6 +1,7 @@
 // A sheet over the views that lists the keys.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -12,7 +13,7 @@ namespace editor
 
 // Groups of lines in as many columns as there is room for; a wheel and the arrows scroll what is too long. Goes with
 // Escape, a press, or when the focus goes elsewhere.
-class CKeysSheet : public CWnd
+class CKeysSheet : public CWnd, public toolkit::AccessibleParts
 {
 public:
     struct Line
@@ -33,7 +34,10 @@ public:
     void Leave(); // the focus goes back to the views
     const std::vector<Group>& GetGroups() const { return m_groups; }
 
+    std::vector<Part> AccParts() override;
+
 protected:
+    Part AccWindow() override { return {ROLE_SYSTEM_LIST, STATE_SYSTEM_FOCUSABLE, "Keys", {}, {}}; }
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);

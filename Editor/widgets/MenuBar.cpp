@@ -70,6 +70,7 @@ void CMenuBar::Leave()
         return;
     m_nHot = kNone;
     Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_FOCUS, ::GetFocus(), OBJID_CLIENT, CHILDID_SELF);
 }
 
 bool CMenuBar::HandleWalkKey(UINT vkey)
@@ -171,6 +172,19 @@ void CMenuBar::SetHot(int nMenu)
 {
     if (std::exchange(m_nHot, nMenu) != nMenu)
         Invalidate();
+    if (m_bWalked)
+        NotifyWinEvent(EVENT_OBJECT_FOCUS, m_hWnd, OBJID_CLIENT, nMenu + 1);
+}
+
+std::vector<CMenuBar::Part> CMenuBar::AccParts()
+{
+    std::vector<Part> parts;
+    for (int i = 0; i < static_cast<int>(m_titles.size()); ++i) {
+        const UINT state = m_bWalked && i == m_nHot ? STATE_SYSTEM_FOCUSED : 0;
+        parts.push_back(
+            {ROLE_SYSTEM_MENUITEM, state, Unmarked(m_titles[static_cast<std::size_t>(i)]).first, TitleRect(i), "Open"});
+    }
+    return parts;
 }
 
 BOOL CMenuBar::OnEraseBkgnd(HDC hdc)

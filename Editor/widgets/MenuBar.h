@@ -1,6 +1,7 @@
 // The menus at the top of the window.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -15,7 +16,7 @@ namespace editor
 // A press opens a menu, and so does Alt with the letter that is marked. F10, or Alt pressed and let go, lets the arrows
 // walk along the titles. While a menu is shown, Left, Right and the mouse go on to its neighbours. The focus stays
 // where it is.
-class CMenuBar : public CWnd
+class CMenuBar : public CWnd, public toolkit::AccessibleParts
 {
 public:
     struct Events
@@ -34,7 +35,11 @@ public:
     bool IsWalked() const { return m_bWalked; }
     CRect TitleRect(int nMenu) const; // client
 
+    std::vector<Part> AccParts() override;
+    void AccUse(int nMenu) override { Open(nMenu); }
+
 protected:
+    Part AccWindow() override { return {ROLE_SYSTEM_MENUBAR, 0, {}, {}, {}}; }
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);

@@ -14,6 +14,7 @@ namespace
 constexpr int kIcon = 16;
 constexpr int kGap = 16; // between two parts: room for an arrow
 constexpr const char* kDotsText = "...";
+constexpr const char* kName = "Path";
 
 toolkit::FontStyle StyleOf(bool isLast)
 {
@@ -39,7 +40,8 @@ CPathBar::CPathBar(Events events)
 
 BOOL CPathBar::Create(CWnd* pParent)
 {
-    return CSpotBar::Create(pParent) && m_field.Create(WS_CHILD, CRect(), this, 1);
+    return CSpotBar::Create(pParent) && m_field.Create(WS_CHILD, CRect(), this, 1) &&
+           SetAccessibleName(m_hWnd, kName) && SetAccessibleName(m_field.m_hWnd, kName);
 }
 
 void CPathBar::SetPath(std::vector<std::string> parts)
@@ -67,6 +69,28 @@ void CPathBar::EndTyping()
 {
     m_field.ShowWindow(SW_HIDE);
     ForgetSpots();
+}
+
+// Those that are left out for want of room, too: as the path goes, and not as it is drawn.
+std::vector<CPathBar::Part> CPathBar::AccParts()
+{
+    std::vector<Part> parts;
+    if (m_field.IsWindowVisible())
+        return parts;
+    for (const std::string& part : m_parts)
+        parts.push_back({ROLE_SYSTEM_LINK, 0, part, {}, "Go there"});
+    if (!parts.empty()) // where one is already
+        parts.back() = {ROLE_SYSTEM_STATICTEXT, 0, m_parts.back(), {}, {}};
+    for (const CrumbLayout::Crumb& crumb : Layout().Crumbs())
+        if (crumb.nPart != CrumbLayout::kDots)
+            parts[static_cast<std::size_t>(crumb.nPart)].place = crumb.rect;
+    return parts;
+}
+
+void CPathBar::AccUse(int nPart)
+{
+    if (nPart + 1 < static_cast<int>(m_parts.size()))
+        UseSpot(nPart);
 }
 
 BOOL CPathBar::OnEraseBkgnd(HDC hdc)
@@ -144,7 +168,8 @@ void CPathBar::DrawCrumbs(HDC hdc) const
         CRect text = crumb.rect;
         text.DeflateRect(kSpace, 0);
         DrawTextLine(hdc, text, isDots ? kDotsText : m_parts[static_cast<std::size_t>(crumb.nPart)],
-                     GetSysColor(isLast ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT), Align::Left, StyleOf(isLast));
+                     GetSysColor(isLast || IsHot(crumb.nPart) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT), Align::Left,
+                     StyleOf(isLast));
     }
 }
 

@@ -26,7 +26,11 @@ public:
     void BeginTyping(const std::string& path);    // shows the field with that text
     CTextField& GetField() { return m_field; }
 
+    std::vector<Part> AccParts() override;
+    void AccUse(int nPart) override;
+
 protected:
+    Part AccWindow() override { return {ROLE_SYSTEM_TOOLBAR, 0, {}, {}, {}}; }
     int SpotAt(CPoint point) const override;
     void UseSpot(int nSpot) override;
 

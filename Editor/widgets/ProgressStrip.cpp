@@ -4,6 +4,7 @@
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace editor
@@ -39,6 +40,20 @@ void CProgressStrip::SetState(std::string text, double dPart, bool bCanCancel)
     m_text = std::move(text);
     m_dPart = dPart;
     Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+    NotifyWinEvent(EVENT_OBJECT_VALUECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+}
+
+std::vector<CProgressStrip::Part> CProgressStrip::AccParts()
+{
+    if (!m_bCanCancel)
+        return {};
+    return {{ROLE_SYSTEM_PUSHBUTTON, 0, kCancelText, CancelRect(), "Press"}};
+}
+
+std::optional<toolkit::AccRange> CProgressStrip::AccValue()
+{
+    return m_dPart < 0 ? std::nullopt : std::optional(toolkit::AccRange(0, 100, std::floor(100 * m_dPart)));
 }
 
 CRect CProgressStrip::CancelRect() const

@@ -1,6 +1,7 @@
 // The line at the bottom while work goes on that takes long: what, how far, and Cancel.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -10,7 +11,7 @@ namespace editor
 {
 
 // Escape, and closing the window, are Cancel as well.
-class CProgressStrip : public CWnd
+class CProgressStrip : public CWnd, public toolkit::AccessibleParts
 {
 public:
     // `cancel` may be called before anything is shown.
@@ -22,7 +23,12 @@ public:
     const std::string& GetText() const { return m_text; }
     CRect CancelRect() const;
 
+    std::vector<Part> AccParts() override;
+    void AccUse(int) override { m_cancel(); }
+    std::optional<toolkit::AccRange> AccValue() override;
+
 protected:
+    Part AccWindow() override { return {ROLE_SYSTEM_PROGRESSBAR, 0, m_text, {}, {}}; }
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

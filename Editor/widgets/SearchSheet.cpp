@@ -41,7 +41,8 @@ CSearchSheet::CSearchSheet(Events events)
 BOOL CSearchSheet::Create(CWnd* pParent)
 {
     return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) &&
-           m_field.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1);
+           m_field.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1) &&
+           SetAccessibleName(m_field.m_hWnd, "Search for a name");
 }
 
 void CSearchSheet::Show(const std::string& text)
@@ -63,12 +64,14 @@ void CSearchSheet::Add(std::vector<Line> lines)
 {
     std::move(lines.begin(), lines.end(), std::back_inserter(m_lines));
     Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
 }
 
 void CSearchSheet::SetNews(std::string news)
 {
     m_news = std::move(news);
     Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
 }
 
 CRect CSearchSheet::FieldRect() const
@@ -168,6 +171,32 @@ void CSearchSheet::Choose(int nLine)
 {
     m_nChosen = std::max(0, std::min(nLine, static_cast<int>(m_lines.size()) - 1));
     ScrollTo(std::clamp(m_nFirst, m_nChosen - LinesInSight() + 1, m_nChosen));
+    NotifyWinEvent(EVENT_OBJECT_SELECTIONADD, m_hWnd, OBJID_CLIENT, m_nChosen + 1);
+}
+
+UINT CSearchSheet::AccState(LPARAM item)
+{
+    if (item == CHILDID_SELF)
+        return 0;
+    CRect client;
+    GetClientRect(&client);
+    return STATE_SYSTEM_SELECTABLE | (item == m_nChosen + 1 ? STATE_SYSTEM_SELECTED : 0) |
+           ((AccPlace(item) & client).IsRectEmpty() ? STATE_SYSTEM_OFFSCREEN : 0);
+}
+
+std::string CSearchSheet::AccName(LPARAM item)
+{
+    if (item == CHILDID_SELF)
+        return "Found. " + m_news;
+    const Line& line = m_lines[static_cast<std::size_t>(item) - 1];
+    return line.what + ", in " + line.where;
+}
+
+CRect CSearchSheet::AccPlace(LPARAM item)
+{
+    const CRect list = ListRect();
+    const int top = list.top + (static_cast<int>(item) - 1 - m_nFirst) * kLine;
+    return {list.left, top, list.right, top + kLine};
 }
 
 void CSearchSheet::ScrollTo(int nFirst)

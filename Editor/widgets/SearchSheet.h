@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/TextField.h"
+#include "Toolkit/access/Accessible.h"
 
 #include <vector>
 
@@ -10,7 +11,7 @@ namespace editor
 
 // The field keeps the keys: the arrows choose among the lines, which the wheel scrolls, and Return or a double click
 // uses one.
-class CSearchSheet : public CWnd
+class CSearchSheet : public CWnd, public toolkit::Accessible
 {
 public:
     struct Line
@@ -36,6 +37,17 @@ public:
     const std::vector<Line>& GetLines() const { return m_lines; }
     const std::string& GetNews() const { return m_news; }
     CTextField& GetField() { return m_field; }
+
+    // An item is a line, counted from 1.
+    UINT AccRole(LPARAM item) override { return item == CHILDID_SELF ? ROLE_SYSTEM_LIST : ROLE_SYSTEM_LISTITEM; }
+    UINT AccState(LPARAM item) override;
+    std::string AccName(LPARAM item) override;
+    CRect AccPlace(LPARAM item) override;
+    bool AccHas(LPARAM item) override { return item >= 1 && item <= AccCount(CHILDID_SELF); }
+    int AccCount(LPARAM parent) override { return parent == CHILDID_SELF ? static_cast<int>(m_lines.size()) : 0; }
+    LPARAM AccChild(LPARAM, int place) override { return place + 1; }
+    std::string AccAction(LPARAM item) override { return item == CHILDID_SELF ? "" : "Go there"; }
+    void AccDo(LPARAM item) override { m_events.chosen(static_cast<std::size_t>(item) - 1); }
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -96,7 +96,12 @@ void CSizeSlider::Use(int x)
     if (groove.Width() <= 0)
         return;
     const double part = std::clamp(1.0 * (x - groove.left) / groove.Width(), 0.0, 1.0);
-    const double size = m_nLeast * std::pow(1.0 * m_nMost / m_nLeast, part);
+    AccSetValue(m_nLeast * std::pow(1.0 * m_nMost / m_nLeast, part));
+}
+
+void CSizeSlider::AccSetValue(double value)
+{
+    const double size = std::clamp(value, 1.0 * m_nLeast, 1.0 * m_nMost);
     m_events.set(static_cast<int>(std::lround(size / kStep)) * kStep);
     Invalidate();
 }

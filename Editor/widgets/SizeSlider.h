@@ -1,6 +1,7 @@
 // How large thumbnails are, in the line at the bottom.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -9,7 +10,7 @@ namespace editor
 {
 
 // A knob on a groove: dragged, or sent to where a press is. From one end to the other the size doubles at equal steps.
-class CSizeSlider : public CWnd
+class CSizeSlider : public CWnd, public toolkit::Accessible
 {
 public:
     static constexpr int kWidth = 136; // pixels
@@ -25,6 +26,14 @@ public:
 
     BOOL Create(CWnd* pParent);
     CPoint PlaceOf(int nSize) const; // the knob's middle; client
+
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }
+    std::string AccName(LPARAM) override { return "Size of the thumbnails"; }
+    std::optional<toolkit::AccRange> AccValue() override
+    {
+        return toolkit::AccRange(m_nLeast, m_nMost, m_events.ask());
+    }
+    void AccSetValue(double value) override;
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

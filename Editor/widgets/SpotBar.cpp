@@ -34,11 +34,12 @@ void CSpotBar::ForgetSpots()
     m_nHot = m_nPressed = kNothing;
     HideTip();
     Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
 }
 
 void CSpotBar::DrawGround(HDC hdc, const CRect& rect, int nSpot) const
 {
-    if (nSpot == m_nHot)
+    if (IsHot(nSpot))
         FillSolidRect(hdc, rect, nSpot == m_nPressed ? PressedColor() : HoverColor());
 }
 

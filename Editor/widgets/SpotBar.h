@@ -1,6 +1,7 @@
 // A bar with spots that a click uses.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <string>
@@ -10,7 +11,7 @@ namespace editor
 
 // The spot under the mouse is shown, and pressed once the button goes down on it; it is used when the button is let go
 // there. When the mouse rests on a spot that has something to say about itself, that is shown beside it.
-class CSpotBar : public CWnd
+class CSpotBar : public CWnd, public toolkit::AccessibleParts
 {
 public:
     ~CSpotBar() override { DestroyWindow(); }
@@ -31,6 +32,7 @@ protected:
     virtual Tip TipOf(int /*nSpot*/) const { return {}; }
 
     void ForgetSpots(); // they are others now
+    bool IsHot(int nSpot) const { return nSpot == m_nHot; }
     void DrawGround(HDC hdc, const CRect& rect, int nSpot) const;
 
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);

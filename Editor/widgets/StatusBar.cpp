@@ -20,8 +20,25 @@ BOOL CStatusBar::Create(CWnd* pParent)
 
 void CStatusBar::SetNews(std::string news)
 {
-    if (std::exchange(m_news, std::move(news)) != m_news)
-        Invalidate();
+    if (std::exchange(m_news, std::move(news)) == m_news)
+        return;
+    Update();
+    if (!m_news.empty())
+        NotifyWinEvent(EVENT_SYSTEM_ALERT, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+}
+
+void CStatusBar::Update()
+{
+    Invalidate();
+    NotifyWinEvent(EVENT_OBJECT_NAMECHANGE, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+}
+
+// What is read first is what was said last.
+std::string CStatusBar::AccName(LPARAM)
+{
+    const Status status = m_ask();
+    const std::string& detail = status.isError || status.news.empty() ? status.detail : status.news;
+    return detail.empty() ? status.text : detail + ". " + status.text;
 }
 
 BOOL CStatusBar::OnEraseBkgnd(HDC hdc)

@@ -1,6 +1,7 @@
 // The line at the bottom.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -18,7 +19,7 @@ struct Status
 };
 
 // Asks for its text whenever it is drawn: telling it of a change costs nothing, however often it is done.
-class CStatusBar : public CWnd
+class CStatusBar : public CWnd, public toolkit::Accessible
 {
 public:
     explicit CStatusBar(std::function<Status()> ask) : m_ask(std::move(ask)) {}
@@ -27,6 +28,10 @@ public:
     BOOL Create(CWnd* pParent);
     const std::string& GetNews() const { return m_news; }
     void SetNews(std::string news);
+    void Update(); // what it asks for is new
+
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_STATUSBAR; }
+    std::string AccName(LPARAM) override;
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -64,6 +64,19 @@ CSpotBar::Tip CToolBar::TipOf(int nSpot) const
     return {tool.tip, RectOf(tool.command)};
 }
 
+std::vector<CToolBar::Part> CToolBar::AccParts()
+{
+    const std::vector<Tool> tools = m_ask();
+    const std::vector<CRect> rects = Layout(tools, {kSpace, (kPathBarHeight - kButton) / 2});
+    std::vector<Part> parts;
+    for (std::size_t i = 0; i < tools.size(); ++i) {
+        const UINT state =
+            (tools[i].isEnabled ? 0 : STATE_SYSTEM_UNAVAILABLE) | (tools[i].isDown ? STATE_SYSTEM_CHECKED : 0);
+        parts.push_back({ROLE_SYSTEM_PUSHBUTTON, state, tools[i].tip, rects[i], "Press"});
+    }
+    return parts;
+}
+
 BOOL CToolBar::OnEraseBkgnd(HDC hdc)
 {
     FillTopBar(hdc, m_hWnd);

@@ -32,7 +32,11 @@ public:
     static int WidthOf(const std::vector<Tool>& tools); // pixels
     CRect RectOf(UINT nCommand) const;                  // client; empty without such a button
 
+    std::vector<Part> AccParts() override;
+    void AccUse(int nPart) override { UseSpot(nPart); }
+
 protected:
+    Part AccWindow() override { return {ROLE_SYSTEM_TOOLBAR, 0, {}, {}, {}}; }
     int SpotAt(CPoint point) const override;
     void UseSpot(int nSpot) override;
     Tip TipOf(int nSpot) const override;

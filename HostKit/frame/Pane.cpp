@@ -1,6 +1,7 @@
 #include "HostKit/frame/Pane.h"
 
 #include "HostKit/pictures/Look.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>
@@ -25,6 +26,7 @@ void CPane::ShowView(HWND hView, std::string caption, toolkit::Surface icon)
 {
     m_hView = hView;
     m_caption = std::move(caption);
+    SetAccessibleName(hView, m_caption.c_str());
     m_icon = std::move(icon);
     PlaceView();
     ::ShowWindow(hView, SW_SHOW);
