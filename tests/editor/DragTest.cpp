@@ -201,7 +201,7 @@ TEST_F(DragTest, AFolderOfAFileManagerIsOpenedByADropOnTheBars)
     TempFolder outside;
     outside.Make("Kit/k.bmp");
     Open();
-    const HWND hPath = Frame().GetPathBar().GetSafeHwnd();
+    const HWND hPath = Frame().GetBars().GetPathBar().GetSafeHwnd();
     const auto drop = [&](const std::string& path, HWND hWnd) {
         desktop.DragIn({{"text/uri-list", "file://" + path + "\r\n"}});
         desktop.MoveTo(hWnd, {40, 12});
@@ -218,7 +218,7 @@ TEST_F(DragTest, AFolderOfAFileManagerIsOpenedByADropOnTheBars)
     EXPECT_EQ("[Ada (*Bo)]", Rows()) << "of its own";
     EXPECT_EQ("[k.bmp]", drop(outside.At("Kit"), hPath));
     EXPECT_EQ(outside.At("Kit"), Frame().GetNavigation().Library()->Path());
-    EXPECT_EQ("[Ada Bo]", drop(folder.Path(), Frame().GetMenuBar().GetSafeHwnd()));
+    EXPECT_EQ("[Ada Bo]", drop(folder.Path(), Frame().GetBars().GetMenuBar().GetSafeHwnd()));
     EXPECT_EQ("", App().OpenPath(outside.At("Kit/k.bmp")));
     Settle();
     EXPECT_TRUE(IsWindowVisible(Picture())) << "a file is shown in its folder";
