@@ -125,6 +125,8 @@ void AccessNews::SendTextChange(QAccessibleInterface* pField, const QString& for
 // A field that nobody has been told of is told as it is when it gets the focus.
 void AccessNews::DeliverText(HWND hWnd)
 {
+    if (!IsWindowVisible(hWnd))
+        return;
     QAccessibleInterface* const pField = FindAccessible(hWnd, CHILDID_SELF);
     const FieldText now = ReadField(hWnd);
     const auto [it, bNew] = m_fields.try_emplace(hWnd, now);

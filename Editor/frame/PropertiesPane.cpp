@@ -1,7 +1,6 @@
 #include "Editor/frame/PropertiesPane.h"
 
 #include "Editor/widgets/Look.h"
-#include "Toolkit/access/Accessible.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>

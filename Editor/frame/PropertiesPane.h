@@ -3,6 +3,7 @@
 
 #include "Editor/model/Phase.h"
 #include "Editor/widgets/NumberField.h"
+#include "Toolkit/access/Accessible.h"
 
 #include <functional>
 #include <string>
@@ -13,7 +14,7 @@ namespace editor
 
 // Where several phases differ in a number, its field says so, and a number that is entered goes to all of them. What
 // was entered is kept in the phases, which are modified until they are saved.
-class CPropertiesPane : public CWnd
+class CPropertiesPane : public CWnd, public toolkit::Accessible
 {
 public:
     using Phases = std::vector<CStubRef<CPhase>>;
@@ -35,6 +36,8 @@ public:
     CNumberField& GetDelay() { return m_delay; }
     CNumberField& GetRepeat() { return m_repeat; }
     std::string GetText() const; // beside the fields
+
+    std::string AccName(LPARAM) override { return GetText(); }
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -81,7 +81,8 @@ std::vector<CPathBar::Part> CPathBar::AccParts()
         parts.push_back({ROLE_SYSTEM_LINK, 0, part, {}, "Go there"});
     if (!parts.empty()) // where one is already
         parts.back() = {ROLE_SYSTEM_STATICTEXT, 0, m_parts.back(), {}, {}};
-    for (const CrumbLayout::Crumb& crumb : Layout().Crumbs())
+    const CrumbLayout layout = Layout();
+    for (const CrumbLayout::Crumb& crumb : layout.Crumbs())
         if (crumb.nPart != CrumbLayout::kDots)
             parts[static_cast<std::size_t>(crumb.nPart)].place = crumb.rect;
     return parts;

@@ -1,12 +1,16 @@
 // What screen readers and their like see of the toolkit's windows, and what they are told of.
 #include "Toolkit/access/Accessible.h"
 
+#include "Editor/EditorApp.h"
+#include "Editor/app/QtPictureReader.h"
 #include "Toolkit/controls/edit/Edit.h"
 #include "Toolkit/controls/list/ListCtrl.h"
 #include "Toolkit/controls/tree/TreeCtrl.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAccessible>
+#include <QDir>
+#include <QTemporaryDir>
 
 namespace
 {
@@ -252,4 +256,38 @@ TEST_F(AccessibleTest, AFieldTellsItsTextAndCaretAndTakesBoth)
     Told();
     Press(Qt::Key_Backspace);
     EXPECT_EQ("erased in field \"Delay\" = é😀c", Told());
+}
+
+TEST(AccessibleEditorTest, EveryPartOfTheWindowSaysWhatItIs)
+{
+    const QTemporaryDir folder;
+    ASSERT_TRUE(QDir(folder.path()).mkpath("Cast/Ada"));
+    const editor::QtPictureReader reader;
+    qtdesktop::QtDesktop desktop;
+    editor::EditorApp editor(reader, {.size = {800, 500}, .onClosed = {}});
+    ASSERT_EQ("", editor.OpenFolder(folder.filePath("Cast").toStdString()));
+    editor.WaitUntilSettled();
+    QWidget& widget = *desktop.FindWidget(editor.GetMainWindow());
+    QAccessibleInterface& top = *QAccessible::queryAccessibleInterface(&widget);
+    const auto shows = [&top](const std::string& part) {
+        const std::string seen = Walk(top);
+        return seen.find(part) != seen.npos ? "" : "no " + part + " in " + seen;
+    };
+    EXPECT_EQ("", shows("window \"Cast - Views\" [menus \"Menus\" [menu \"File\" | menu \"Edit\""));
+    EXPECT_EQ("", shows("button \"Undo (Ctrl+Z): nothing has been done yet\" disabled"));
+    EXPECT_EQ("", shows("tools \"Path\" [text \"Cast\"]"));
+    EXPECT_EQ("", shows("tree \"Library\" [branch \"Cast\" selected open [branch \"Ada\"]]"));
+    EXPECT_EQ("", shows("list \"Icons\" focused [item \"Ada\"]"));
+
+    QTest::keyClick(&widget, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
+    editor.WaitUntilSettled();
+    EXPECT_EQ("", shows("field \"New folder\" = New folder focused"));
+    QTest::keyClick(&widget, Qt::Key_Escape);
+    QTest::keyClick(&widget, Qt::Key_L, Qt::ControlModifier);
+    editor.WaitUntilSettled();
+    EXPECT_EQ("", shows("tools \"Path\" [field \"Path\" = " + folder.filePath("Cast").toStdString() + " focused]"));
+    QTest::keyClick(&widget, Qt::Key_Escape);
+    QTest::keyClick(&widget, Qt::Key_F10);
+    editor.WaitUntilSettled();
+    EXPECT_EQ("", shows("menu \"File\" focused"));
 }

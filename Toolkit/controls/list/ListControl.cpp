@@ -107,7 +107,8 @@ BOOL ListControl::OnUpdate(int row)
         return FALSE;
     m_owner.ForgetHint(row); // what it said of it may be out of date
     m_viewport.Redraw(row);
-    TellAccess(EVENT_OBJECT_NAMECHANGE, row);
+    if (!(AccState(ItemOf(row)) & STATE_SYSTEM_OFFSCREEN))
+        TellAccess(EVENT_OBJECT_NAMECHANGE, row);
     return TRUE;
 }
 
