@@ -39,6 +39,17 @@ void CSeekBar::Show(int nAt, int nCount, std::string text)
     Invalidate();
 }
 
+std::optional<toolkit::AccRange> CSeekBar::AccValue()
+{
+    return m_nAt < 0 ? std::nullopt : std::optional(toolkit::AccRange(1, m_nCount, m_nAt + 1));
+}
+
+void CSeekBar::AccSetValue(double value)
+{
+    if (m_nCount > 0)
+        m_seek(static_cast<int>(std::clamp<double>(value, 1, m_nCount)) - 1);
+}
+
 CRect CSeekBar::Track() const
 {
     CRect track;

@@ -1,6 +1,7 @@
 // Where in a row of frames the shown one stands, and what is told of it.
 #pragma once
 
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -9,7 +10,7 @@
 namespace editor
 {
 
-class CSeekBar : public CWnd
+class CSeekBar : public CWnd, public toolkit::Accessible
 {
 public:
     // `seek` is called with the frame that the user points at, the button held down.
@@ -19,6 +20,12 @@ public:
     BOOL Create(CWnd* pParent);
     void Show(int nAt, int nCount, std::string text); // nAt from 0
     const std::string& GetText() const { return m_text; }
+
+    // Of the frames that go by while it plays nobody is told.
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }
+    std::string AccName(LPARAM) override { return "Frame: " + m_text; }
+    std::optional<toolkit::AccRange> AccValue() override;
+    void AccSetValue(double value) override;
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
