@@ -1,6 +1,7 @@
 #include "QtDesktop/QtDesktop.h"
 
 #include "QtDesktop/AccessNews.h"
+#include "QtDesktop/AskedColors.h"
 #include "QtDesktop/ForeignTimes.h"
 #include "QtDesktop/QtAccessible.h"
 #include "QtDesktop/QtClipboard.h"
@@ -41,6 +42,7 @@ struct QtDesktop::Parts
     QueuePump pump;
     AccessNews accessNews;
     ForeignTimes foreignTimes;
+    AskedColors colors;
     std::unique_ptr<QtClipboard> pClipboard = std::make_unique<QtClipboard>();
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
     std::map<HWND, std::unique_ptr<QtWindow>> windows;
