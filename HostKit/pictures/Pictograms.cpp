@@ -109,7 +109,7 @@ void DrawBrokenPicture(Drawing& drawing, bool detailed)
 
 void DrawTreePane(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{10, 12}, {10, 36}, {20, 36}}, 3) | Stroke({{10, 24}, {20, 24}}, 3), Ink(SignInk()));
+    drawing.Fill(Stroke({{10, 12}, {10, 36}, {20, 36}}, 3) | Stroke({{10, 24}, {20, 24}}, 3), Ink(kInk));
     drawing.Fill(RoundRect({4, 4}, {18, 16}, 2.5), Ink(RGB(240, 180, 64)));
     drawing.Fill(RoundRect({22, 18}, {44, 29}, 2.5) | RoundRect({22, 33}, {44, 44}, 2.5), Ink(RGB(84, 146, 214)));
 }
@@ -233,22 +233,24 @@ void DrawPause(Drawing& drawing, bool)
 
 void DrawStepBack(Drawing& drawing, bool)
 {
-    drawing.Fill(Polygon({{36, 9}, {36, 39}, {15, 24}}) | RoundRect({9, 9}, {14, 39}, 1.5), Ink(kInk));
+    drawing.Fill(Polygon({{36, 9}, {36, 39}, {15, 24}}) | RoundRect({9, 9}, {14, 39}, 1.5), Ink(SignInk()));
 }
 
 void DrawStepForward(Drawing& drawing, bool)
 {
-    drawing.Fill(Polygon({{12, 9}, {33, 24}, {12, 39}}) | RoundRect({34, 9}, {39, 39}, 1.5), Ink(kInk));
+    drawing.Fill(Polygon({{12, 9}, {33, 24}, {12, 39}}) | RoundRect({34, 9}, {39, 39}, 1.5), Ink(SignInk()));
 }
 
 void DrawSlower(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{22, 12}, {10, 24}, {22, 36}}, 4.5) | Stroke({{38, 12}, {26, 24}, {38, 36}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{22, 12}, {10, 24}, {22, 36}}, 4.5) | Stroke({{38, 12}, {26, 24}, {38, 36}}, 4.5),
+                 Ink(SignInk()));
 }
 
 void DrawFaster(Drawing& drawing, bool)
 {
-    drawing.Fill(Stroke({{10, 12}, {22, 24}, {10, 36}}, 4.5) | Stroke({{26, 12}, {38, 24}, {26, 36}}, 4.5), Ink(kInk));
+    drawing.Fill(Stroke({{10, 12}, {22, 24}, {10, 36}}, 4.5) | Stroke({{26, 12}, {38, 24}, {26, 36}}, 4.5),
+                 Ink(SignInk()));
 }
 
 // Round and round: two arrows, each to the other's tail.
@@ -256,14 +258,14 @@ void DrawLoop(Drawing& drawing, bool)
 {
     drawing.Fill(Stroke({{8, 24}, {8, 14}, {37, 14}}, 4.2) | Stroke({{30, 6}, {38, 14}, {30, 22}}, 4.2) |
                      Stroke({{40, 24}, {40, 34}, {11, 34}}, 4.2) | Stroke({{18, 26}, {10, 34}, {18, 42}}, 4.2),
-                 Ink(kInk));
+                 Ink(SignInk()));
 }
 
 void DrawBackAndForth(Drawing& drawing, bool)
 {
     drawing.Fill(Stroke({{8, 24}, {40, 24}}, 4.2) | Stroke({{17, 14}, {7, 24}, {17, 34}}, 4.2) |
                      Stroke({{31, 14}, {41, 24}, {31, 34}}, 4.2),
-                 Ink(kInk));
+                 Ink(SignInk()));
 }
 
 } // namespace

@@ -359,8 +359,8 @@ TEST_F(EditorTest, DarkAtOnceIsAsDarkFromTheStart)
     desktop.ShowColors({});
     EXPECT_EQ(0, CountDifferent(light, desktop.Dump(Frame().GetSafeHwnd()))) << "and light again";
 
-    StartAnew();
     desktop.ShowColors(dark);
+    StartAnew();
     EXPECT_EQ(0, CountDifferent(open(), changed));
     EXPECT_LT(light.Width() * light.Height() * 9 / 10, CountDifferent(light, changed));
 }
