@@ -6,31 +6,6 @@ using namespace toolkit;
 namespace
 {
 
-TEST_F(ListControlTest, ClicksSelectAloneByTheAnchorsRectangleAndByToggling)
-{
-    EXPECT_EQ("[a (*b) c d e f]", AfterClick(1));
-    EXPECT_EQ("[a *b *c d *e (*f)]", AfterClick(5, kShift));
-    EXPECT_EQ("[*a *b c (*d) *e f]", AfterClick(3, kShift)); // from the same anchor
-    TakeLedger();
-    EXPECT_EQ("[(*a) *b c d e f]", AfterClick(0, kShift)); // one of several selected: only at the release
-    EXPECT_EQ(Ledger({"d? -selected", "d: -selected", "e? -selected", "e: -selected", "a? +focused", "d? -focused",
-                      "d: -focused", "a: +focused", "click a"}),
-              TakeLedger());
-    Click(5, kControl);
-    EXPECT_EQ("[*a *b (*c) d e *f]", AfterClick(2, kBoth)); // beside what is selected
-    list.refuses = [](const std::string& line) { return line == "b? -selected"; };
-    EXPECT_EQ("[a *b c d e (*f)]", AfterClick(5));
-    desktop.Click(list.m_hWnd, IconOf(5), MouseButton::Right); // on the selection: for all of it
-    EXPECT_EQ("[a *b c d e (*f)]", State());
-    EXPECT_EQ("menu", TakeLedger().back());
-
-    desktop.DoubleClick(list.m_hWnd, IconOf(5));
-    EXPECT_EQ("double click f", TakeLedger().back());
-    desktop.Click(list.m_hWnd, kEmpty);
-    EXPECT_EQ("[a *b c d e (f)]", State());
-    EXPECT_EQ("click nothing", TakeLedger().back());
-}
-
 TEST_F(ListControlTest, AReleaseThatAnotherWindowHadOrThatIsSentEndsThePress)
 {
     for (const CPoint& from : {IconOf(1), kEmpty}) {
@@ -77,30 +52,6 @@ TEST_F(ListControlTest, ADragStartsAfterFourPixelsAndCarriesWhatIsSelected)
     EXPECT_EQ("right drag d", AfterDrag(3, {}, MouseButton::Right));
     list.refuses = [](const std::string& line) { return line.starts_with("e?"); };
     EXPECT_NE("drag e", AfterDrag(4));
-}
-
-TEST_F(ListControlTest, KeysMoveTheFocusAndWithItTheSelection)
-{
-    Fill(11);
-    const std::tuple<UINT, Modifiers, const char*> steps[] = {
-        {VK_DOWN, {}, "a"},
-        {VK_RIGHT, {}, "b"},
-        {VK_DOWN, {}, "e"},
-        {VK_DOWN, {}, "h"},
-        {VK_DOWN, {}, "k"},
-        {VK_UP, kShift, "hk"},
-        {VK_LEFT, {}, "g"},
-        {VK_RIGHT, kControl, "g"},
-        {VK_SPACE, kControl, "gh"},
-        {VK_PRIOR, {}, "b"},
-        {VK_END, kShift, "bcdefghijk"},
-        {VK_HOME, {}, "a"},
-        {VK_NEXT, {}, "j"},
-    };
-    for (const auto& [vkey, modifiers, pszSelected] : steps) {
-        Key(vkey, modifiers);
-        EXPECT_EQ(pszSelected, Selected()) << vkey;
-    }
 }
 
 TEST_F(ListControlTest, AllRowsChangeAsOneAndAnyFewerOneByOne)
