@@ -1,7 +1,6 @@
 // Archives on their way through transfer files, path handles and media, with all that can befall them there.
 #include "Toolkit/base/Files.h"
 #include "Toolkit/base/GlobalMemory.h"
-#include "Toolkit/base/WideText.h"
 #include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
@@ -126,50 +125,9 @@ TEST_F(TransferFileTest, AHandleHoldsThePathAndNothingElse)
     medium.tymed = TYMED_HGLOBAL;
     medium.hGlobal = hPath;
     EXPECT_EQ(bytes, BytesOf(ArchiveRef::Adopt(ArchiveFromStgMedium(medium)).Get()));
-    medium.tymed = TYMED_ISTREAM;
-    EXPECT_EQ(nullptr, ArchiveFromStgMedium(medium));
-
-    fs::rename(strPath, folder.At("Spaziergänger \xFE"));
+    fs::remove(strPath);
     EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(hPath));
-    std::wstring name = toolkit::Widen(folder.At("Spaziergänger \xFE"));
-    medium.tymed = TYMED_FILE;
-    medium.lpszFileName = name.data();
-    EXPECT_EQ(bytes, BytesOf(ArchiveRef::Adopt(ArchiveFromStgMedium(medium)).Get()));
-    medium.lpszFileName = nullptr;
-    EXPECT_EQ(nullptr, ArchiveFromStgMedium(medium));
-
     GlobalFree(hPath);
-    EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(hPath));
-    EXPECT_EQ(nullptr, ArchiveFromHGLOBAL(nullptr));
-
-    folder.Write("file", "bytes");
-    const std::string strEndless = folder.At("file"); // read no further than its block
-    void* const hEndless = GlobalAlloc(GMEM_MOVEABLE, strEndless.size());
-    strEndless.copy(static_cast<char*>(GlobalLock(hEndless)), strEndless.size());
-    GlobalUnlock(hEndless);
-    EXPECT_EQ("bytes", BytesOf(ArchiveRef::Adopt(ArchiveFromHGLOBAL(hEndless)).Get()));
-    GlobalFree(hEndless);
-}
-
-TEST_F(TransferFileTest, WhatHasBecomeOfAFileMeanwhileGivesNoArchive)
-{
-    folder.Write("kept", "bytes");
-    folder.Write("emptied", "");
-    folder.MakeFolder("folder");
-    folder.Link("link", folder.At("kept"));
-    mkfifo(folder.At("pipe").c_str(), 0600);
-    for (const char* pszName : {"deleted", "emptied", "folder", "link", "pipe"})
-        EXPECT_EQ("-", Fetched(folder.At(pszName))) << pszName;
-
-    fs::resize_file(folder.At("kept"), 3); // what is left is for the editor to judge
-    EXPECT_EQ("byt", Fetched(folder.At("kept")));
-
-    const auto isShut = [&] { return Fetched(folder.At("kept")) == "-" ? 0 : 1; };
-    EXPECT_EQ(0, InChild([&] {
-                  CreateFile(folder.At("kept").c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-                  return InChild(isShut); // to another process
-              }));
-    EXPECT_EQ("byt", Fetched(folder.At("kept")));
 }
 
 TEST_F(TransferFileTest, WithoutAStreamOrAnArchiveThereIsNothing)
