@@ -52,18 +52,4 @@ TEST(TextTest, NumbersCountByTheirValueInTheNaturalOrder)
     EXPECT_EQ(std::vector<std::string>(names.begin(), names.end()), sorted);
 }
 
-TEST(TextTest, WhatTwoNamesBeginWithDoesNotMatter)
-{
-    const std::string ends[] = {"", "a", "B", "Ä", "ä", "\xC3", "0001.png", "0002.PNG", "ſ", "s"};
-    std::string start;
-    for (const char* pszPart : {"", "x", "yz", "Ö", "abcde", "\xFF", "1234567890", "€"}) {
-        start += pszPart;
-        for (const std::string& a : ends)
-            for (const std::string& b : ends)
-                EXPECT_EQ(toolkit::CompareNoCase(a, b), toolkit::CompareNoCase(start + a, start + b))
-                    << start << a << b;
-    }
-    EXPECT_EQ(0, toolkit::CompareNoCase("holiday PICTURE", "HOLIDAY picture"));
-}
-
 } // namespace
