@@ -1,4 +1,4 @@
-// Where a tree puts its items: sorted insertion, how little it asks for it, and sorting what is there.
+// Where a tree puts its items: sorted insertion, and sorting what is there.
 #include "tests/support/AllocationFailures.h"
 #include "tests/toolkit/TreeControlFixture.h"
 
@@ -6,12 +6,6 @@ using namespace toolkit;
 
 namespace
 {
-
-std::string Number(int n)
-{
-    const std::string digits = std::to_string(n);
-    return std::string(6 - digits.size(), '0') + digits;
-}
 
 int CompareFirstLetters(LPARAM one, LPARAM other, LPARAM)
 {
@@ -41,40 +35,6 @@ TEST_F(TreeControlTest, AnItemIsPutWhereItsOwnerWantsItOrBeforeTheFirstGreaterLa
     TVSORTCB sort{TVI_ROOT, &CompareFirstLetters, 0};
     EXPECT_TRUE(tree.SortChildrenCB(&sort));
     EXPECT_EQ("a1 a2 b1 [x] b2 b3 c", State());
-}
-
-TEST_F(TreeControlTest, SortedInsertionsAreGatheredAndAskLogarithmically)
-{
-    constexpr int kMany = 100'000, kPerInsertion = 18; // its own label, and 17 = log2 of their number
-    Fill("root");
-    const HTREEITEM hRoot = (*this)["root"];
-    const auto insert = [&](int from, int to, int every) {
-        tree.labelRequests = 0;
-        for (int i = from; i < to; i += every)
-            tree.Add(Number(i * 7919 % kMany), hRoot, TVI_SORT);
-        EXPECT_EQ(0, tree.labelRequests);
-        tree.GetChildItem(hRoot);
-        return tree.labelRequests;
-    };
-    EXPECT_EQ(kMany / 2, insert(0, kMany, 2)); // each once
-    EXPECT_EQ(kMany, insert(1, kMany / 2, 2) + kMany / 4);
-    for (int i = kMany / 2 + 1; i < kMany / 2 + 1000; i += 2)
-        ASSERT_LE(insert(i, i + 1, 1), kPerInsertion);
-    insert(kMany / 2 + 1001, kMany, 2);
-    HTREEITEM hItem = tree.GetChildItem(hRoot);
-    for (int i = 0; i < kMany; ++i, hItem = tree.GetNextSiblingItem(hItem))
-        ASSERT_EQ(Number(i), tree.NameOf(hItem));
-
-    tree.labelRequests = 0;
-    tree.Expand(hRoot, TVE_EXPAND);
-    tree.SendMessage(WM_VSCROLL, SB_PAGEDOWN);
-    desktop.Run();
-    EXPECT_LE(tree.labelRequests, 10); // what is in sight
-    EXPECT_EQ(Number(8), InRow(0));
-    tree.SelectItem(tree.GetNextItem(nullptr, TVGN_LASTVISIBLE));
-    desktop.Run();
-    EXPECT_LE(tree.labelRequests, 25);
-    EXPECT_EQ(Number(kMany - 1), InRow(9));
 }
 
 TEST_F(TreeControlTest, ChildrenTakeTheOrderThatTheyAreGivenAndNoLabelIsAskedFor)
