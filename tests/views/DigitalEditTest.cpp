@@ -81,8 +81,10 @@ TEST_F(DigitalEditTest, ALeadingMinusIsTakenAndTheNumberIsPulledIntoTheRange)
         std::vector<std::string> steps;
         const char* pszState;
     } rows[] = {
-        {0, 100, 100, {"5"}, "100 2"},  // 1005, and what it became
+        {0, 100, 100, {"5"}, "100 2"}, // 1005, and what it became
+        {100, 0, 4, {"2"}, "42 1"},
         {10, 20, 15, {"Back"}, "10 2"}, // 1 is below the range
+        {-50, 50, 7, {"-"}, "7 0"},     // not at the start
         {-50, 50, 7, {"Home", "-"}, "-7 1"},
         {-50, 50, 7, {"All", "-"}, "- 1 = none"},  // in place of all
         {10, 20, 12, {"All", "Delete"}, "[10] 2"}, // emptied, refilled and selected
