@@ -164,23 +164,6 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Bo/ Bo/a.bmp Bo/b.bmp Bo/caf\xE9.bmp", folder.Everything());
 }
 
-TEST_F(CommandsTest, WhatWasRenamedStaysSelectedAndShown)
-{
-    Open();
-    DoubleClick("Ada");
-    Click("a.bmp");
-    auto& commands = Frame().GetCommands().GetPlain();
-    EXPECT_EQ("", commands.Rename(editor::CMember::Of(Frame().GetList().GetAtom(0).Get()), "z.bmp"));
-    Settle();
-    EXPECT_EQ("/Ada/ | [b.bmp (*z.bmp)] | 2 objects, 1 selected | z.bmp: 8 x 8 pixels", Screen());
-    EXPECT_EQ("", commands.Rename(Frame().Shown(), "Zoe"));
-    Settle();
-    EXPECT_EQ("/Zoe/ | [b.bmp z.bmp] | 2 objects", Screen());
-    EXPECT_STREQ("Zoe", Tree().GetItemText(Tree().GetSelectedItem()));
-    EXPECT_EQ(List(), GetFocus());
-    EXPECT_EQ("Bo/ Zoe/ Zoe/b.bmp Zoe/z.bmp", folder.Everything());
-}
-
 TEST_F(CommandsTest, WhatCannotBeDoneIsToldWithItsReason)
 {
     folder.Write("Ada/walk.phase", "a.bmp\n");
