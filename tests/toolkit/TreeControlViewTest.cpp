@@ -120,37 +120,4 @@ TEST_F(TreeControlTest, LongLabelsScrollSidewaysAndTheBarGoesWithThem)
     EXPECT_EQ(0u, tree.GetStyle() & WS_HSCROLL);
 }
 
-// Every change repaints what it must: the pixels are those of a tree that is painted anew.
-TEST_F(TreeControlTest, PartialPaintingComesToTheSamePixels)
-{
-    const std::function<void()> changes[] = {
-        [this] { Fill("a [b [c d] e] f (g h) i"); },
-        [this] { tree.Add("x", (*this)["e"]); },
-        [this] { tree.SetItemText((*this)["e"], "another text"); },
-        [this] { tree.SortChildren((*this)["a"]); },
-        [this] { tree.MoveWindow(CRect(0, 0, 120, 90)); },
-        [this] { tree.SelectItem((*this)["i"]); },
-        [this] { tree.SendMessage(WM_HSCROLL, SB_LINEDOWN); },
-        [this] { tree.SendMessage(WM_VSCROLL, SB_LINEUP); },
-        [this] { tree.MoveWindow(CRect(0, 0, 200, 190)); },
-        [this] { Fill("a b c d e f g [h i j k] l m n o p q"); },
-        [this] { tree.SelectSetFirstVisible((*this)["q"]); },
-        [this] { tree.DeleteItem((*this)["p"]); }, // what is above the end moves down
-        [this] { Fill("a [" + std::string(60, 'm') + "] " + std::string(40, 'n')); },
-        [this] { tree.SendMessage(WM_HSCROLL, SB_PAGEDOWN); },
-        [this] { tree.SendMessage(WM_HSCROLL, SB_PAGEDOWN); },
-        [this] { tree.Expand((*this)["a"], TVE_COLLAPSE); }, // and to the right
-    };
-    for (const auto& change : changes) {
-        change();
-        const Surface partly = desktop.Dump(tree.m_hWnd);
-        tree.Invalidate();
-        const Surface anew = desktop.Dump(tree.m_hWnd);
-        ASSERT_EQ(partly.Bounds(), anew.Bounds());
-        for (int y = 0; y < anew.Height(); ++y)
-            ASSERT_TRUE(std::equal(anew.Row(y), anew.Row(y) + anew.Width(), partly.Row(y)))
-                << &change - changes << ": line " << y;
-    }
-}
-
 } // namespace
