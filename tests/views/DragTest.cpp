@@ -316,21 +316,6 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Views, EachViewTest, testing::Values("list", "tree"),
                          [](const auto& suite) { return std::string(suite.param); });
 
-TEST_P(EachViewTest, ARefusedSaveSendsTheFocusBackAndDropsThePressAndItsDoubleClick)
-{
-    field.SetFocus();
-    editor.Veto(&IAEStateHandler::PreSaveAtom);
-    editor.TakeLedger();
-    desktop.DoubleClick(View().m_hWnd, PointOf("b"));
-    EXPECT_EQ(Ledger({"nobody asks PreSaveAtom(world in -)"}), editor.TakeLedger());
-    EXPECT_TRUE(HasFocus(field));
-    EXPECT_EQ("a", Selected());
-    editor.Allow();
-    Click("b");
-    EXPECT_TRUE(HasFocus(View()));
-    EXPECT_EQ("b", Selected());
-}
-
 TEST_P(EachViewTest, TheSelectionIsAnnouncedWithTheFocusButNotInABlockAndNotWhenItCameFromElsewhere)
 {
     const Ledger announced{"nobody asks PreSaveAtom(world in -)", Line("asks OnAtomSelecting(a in box)"),
@@ -356,22 +341,6 @@ TEST_P(EachViewTest, TheSelectionIsAnnouncedWithTheFocusButNotInABlockAndNotWhen
     SelectElsewhere("b");
     View().SetFocus();
     EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), announced[1]));
-}
-
-TEST_P(EachViewTest, AVetoKeepsAnAtomFromBeingSelectedAndFromBeingRenamed)
-{
-    editor.Veto(&IAEStateHandler::OnAtomSelecting, "b");
-    desktop.Click(View().m_hWnd, PointOf("b"));
-    EXPECT_NE("b", Selected());
-    EXPECT_EQ(0, std::ranges::count(editor.TakeLedger(), Line("tells OnAtomSelected(b in box)")));
-
-    Click("c");
-    editor.Veto(&IAEStateHandler::PreRenameAtom);
-    EXPECT_FALSE(Handler().OnAtomRename(nullptr, nullptr));
-    EXPECT_EQ(Ledger({"box permits c", Line("asks PreRenameAtom(c in box)")}), editor.TakeLedger());
-    pBox->permissions = 0;
-    EXPECT_FALSE(Handler().OnAtomRename(nullptr, nullptr));
-    EXPECT_EQ(Ledger({"box permits c"}), editor.TakeLedger());
 }
 
 TEST_P(EachViewTest, AnAtomThatGoesWhileItsRenamingIsAskedForIsNotRenamed)
