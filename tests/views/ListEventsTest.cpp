@@ -41,30 +41,6 @@ protected:
     ProbeList& list = ShowList(box);
 };
 
-TEST_F(ListEventsTest, AClickIsAskedForAndThenToldAndNewsOfAtomsChangeRows)
-{
-    Click(list, 0);
-    EXPECT_TRUE(HasFocus(list));
-    EXPECT_EQ(Ledger({"list asks OnAtomSelecting(a in box)", "list tells OnAtomSelected(a in box)"}),
-              editor.TakeLedger());
-    Click(list, 1, toolkit::MouseButton::Right);
-    EXPECT_EQ(Ledger({"list asks OnAtomDeselecting(a in box)", "list tells OnAtomDeselected(a in box)",
-                      "list asks OnAtomSelecting(b in box)", "list tells OnAtomSelected(b in box)"}),
-              editor.TakeLedger());
-    editor.Veto(&IAEStateHandler::OnAtomSelecting);
-    Click(list, 2);
-    EXPECT_EQ(std::string::npos, list.State().find('*'));
-
-    editor.Allow();
-    Create("0");
-    EXPECT_EQ("[a b c d (*0)]", list.State());
-    Delete("0");
-    Delete("b");
-    EXPECT_EQ("[a (*c) d]", list.State());
-    list.OnDeleteAtom(nullptr, box);
-    EXPECT_EQ("[a c d]", list.State());
-}
-
 TEST_F(ListEventsTest, WhereTheHostWishesItNewAtomsComeToTheirPlaces)
 {
     list.PlaceNewAtoms();
