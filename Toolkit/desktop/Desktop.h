@@ -101,8 +101,8 @@ public:
     // Another field has the focus, or none, or the field's text or caret is new: ask FocusedTextInput.
     virtual void TextInputChanged() {}
 
-    // Something is new for assistive technology (Toolkit/access): an EVENT_ and the item, 0 for the window. Called often,
-    // in the middle of changes, also of windows that go: ask about it later, and only when somebody listens.
+    // Something is new for assistive technology (Toolkit/access): an EVENT_ and the item, 0 for the window. Called
+    // often, in the middle of changes, also of windows that go: ask about it later, and only when somebody listens.
     virtual void AccessibleChanged(DWORD /*event*/, HWND /*hWnd*/, LPARAM /*item*/) {}
 };
 

@@ -39,7 +39,7 @@ struct WindowRecord
     DWORD style, exStyle;
     CRect rect; // the whole window, in the parent's client area; a top-level window's on the screen
     CString text;
-    CString accessibleName; // as set; empty: none
+    CString accessibleName;             // as set; empty: none
     std::array<ScrollBarState, 2> bars; // by SB_HORZ, SB_VERT
 
     WindowObject* pWnd = nullptr;                // the CWnd it was created with

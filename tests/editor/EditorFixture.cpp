@@ -128,7 +128,8 @@ void EditorTest::ClickPath(int nPart)
         return ClickTool(Frame().GetBars().GetWays(), editor::ID_UP);
     CPoint at(editor::kSpace, editor::kPathBarHeight / 2);
     for (int i = 0; i < nPart; ++i)
-        at.x += editor::TextWidth(Frame().GetBars().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) + 4 * editor::kSpace;
+        at.x += editor::TextWidth(Frame().GetBars().GetPathBar().GetPath()[static_cast<std::size_t>(i)]) +
+                4 * editor::kSpace;
     desktop.Click(Frame().GetBars().GetPathBar().GetSafeHwnd(), at);
     Settle();
 }
