@@ -26,8 +26,8 @@ Bars::Bars(const Parts& parts)
 bool Bars::Create(CWnd* pFrame)
 {
     return m_menuBar.Create(pFrame) && m_ways.Create(pFrame) && m_tools.Create(pFrame) && m_pathBar.Create(pFrame) &&
-           m_statusBar.Create(pFrame) && m_sizeSlider.Create(pFrame) && SetAccessibleName(m_ways.m_hWnd, "Ways") &&
-           SetAccessibleName(m_tools.m_hWnd, "Tools");
+           m_statusBar.Create(pFrame) && m_sizeSlider.Create(pFrame) && SetAccessibleName(m_menuBar.m_hWnd, "Menus") &&
+           SetAccessibleName(m_ways.m_hWnd, "Ways") && SetAccessibleName(m_tools.m_hWnd, "Tools");
 }
 
 PaneLayout::Wanted Bars::GetWanted(int nTree) const
