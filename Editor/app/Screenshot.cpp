@@ -1,6 +1,8 @@
 #include "Editor/app/Screenshot.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QEvent>
 #include <QImageWriter>
 #include <QPixmap>
 #include <QSaveFile>
@@ -26,8 +28,11 @@ Screenshot::Screenshot(const std::string& path) : m_path(path)
 
 Screenshot::~Screenshot() = default;
 
+// Without a display the mouse counts as in the screen's corner, where the window is.
 bool Screenshot::Write(QWidget& window)
 {
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&window, &leave);
     QImageWriter writer(&File(), "png");
     if (!writer.write(window.grab().toImage().convertToFormat(QImage::Format_RGB32)))
         return Fail(writer.errorString());
