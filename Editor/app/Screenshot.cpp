@@ -33,6 +33,7 @@ bool Screenshot::Write(QWidget& window)
 {
     QEvent leave(QEvent::Leave);
     QCoreApplication::sendEvent(&window, &leave);
+    QCoreApplication::processEvents();
     QImageWriter writer(&File(), "png");
     if (!writer.write(window.grab().toImage().convertToFormat(QImage::Format_RGB32)))
         return Fail(writer.errorString());
