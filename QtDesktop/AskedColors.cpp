@@ -50,9 +50,11 @@ QVariant Innermost(QVariant value)
 
 } // namespace
 
-// Nobody waits for the answer: the window is shown meanwhile.
+// Nobody waits for the answer: the window is shown meanwhile. Where no bus is there, none is started for it.
 AskedColors::AskedColors()
 {
+    if (qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS"))
+        return;
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return;
