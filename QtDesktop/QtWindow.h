@@ -5,7 +5,7 @@
 // method is composing.
 #pragma once
 
-#include "QtDesktop/DropArea.h"
+#include "QtDesktop/exchange/DropArea.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/message/Input.h"
 

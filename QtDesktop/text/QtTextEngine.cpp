@@ -1,6 +1,6 @@
-#include "QtDesktop/QtTextEngine.h"
+#include "QtDesktop/text/QtTextEngine.h"
 
-#include "QtDesktop/TextParts.h"
+#include "QtDesktop/text/TextParts.h"
 
 #include <QFontMetricsF>
 #include <QGuiApplication>

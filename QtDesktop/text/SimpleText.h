@@ -4,7 +4,7 @@
 // before costs little, for its letters have been seen; one seen already only its blending.
 #pragma once
 
-#include "QtDesktop/KnownLabels.h"
+#include "QtDesktop/text/KnownLabels.h"
 
 #include <QFont>
 #include <QFontMetricsF>

@@ -1,7 +1,7 @@
 // The desktop's clipboard.
 #pragma once
 
-#include "QtDesktop/OfferedMime.h"
+#include "QtDesktop/exchange/OfferedMime.h"
 
 #include <QObject>
 #include <QPointer>

@@ -1,4 +1,4 @@
-#include "QtDesktop/ForeignTimes.h"
+#include "QtDesktop/exchange/ForeignTimes.h"
 
 #include <QGuiApplication>
 #include <cstring>

@@ -1,6 +1,6 @@
-#include "QtDesktop/SimpleText.h"
+#include "QtDesktop/text/SimpleText.h"
 
-#include "QtDesktop/TextParts.h"
+#include "QtDesktop/text/TextParts.h"
 #include "Toolkit/graphics/Pixels.h"
 
 #include <QImage>

@@ -1,8 +1,8 @@
 // Draws the toolkit's text in the desktop's font.
 #pragma once
 
-#include "QtDesktop/LayoutText.h"
-#include "QtDesktop/SimpleText.h"
+#include "QtDesktop/text/LayoutText.h"
+#include "QtDesktop/text/SimpleText.h"
 #include "Toolkit/graphics/TextEngine.h"
 
 namespace qtdesktop

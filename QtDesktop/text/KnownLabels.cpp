@@ -1,4 +1,4 @@
-#include "QtDesktop/KnownLabels.h"
+#include "QtDesktop/text/KnownLabels.h"
 
 #include <algorithm>
 #include <functional>

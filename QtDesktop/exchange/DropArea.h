@@ -1,7 +1,7 @@
 // A window of the toolkit under a drag of Qt's.
 #pragma once
 
-#include "QtDesktop/DropReceipt.h"
+#include "QtDesktop/exchange/DropReceipt.h"
 #include "Toolkit/exchange/DragTracker.h"
 
 #include <QDropEvent>

@@ -1,4 +1,4 @@
-#include "QtDesktop/TextMask.h"
+#include "QtDesktop/text/TextMask.h"
 
 #include "Toolkit/graphics/Pixels.h"
 

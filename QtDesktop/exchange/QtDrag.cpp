@@ -1,8 +1,8 @@
-#include "QtDesktop/QtDrag.h"
+#include "QtDesktop/exchange/QtDrag.h"
 
-#include "QtDesktop/DropArea.h"
-#include "QtDesktop/DropReceipt.h"
-#include "QtDesktop/OfferedMime.h"
+#include "QtDesktop/exchange/DropArea.h"
+#include "QtDesktop/exchange/DropReceipt.h"
+#include "QtDesktop/exchange/OfferedMime.h"
 
 #include <QBasicTimer>
 #include <QDrag>

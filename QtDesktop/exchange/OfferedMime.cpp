@@ -1,4 +1,4 @@
-#include "QtDesktop/OfferedMime.h"
+#include "QtDesktop/exchange/OfferedMime.h"
 
 namespace qtdesktop
 {

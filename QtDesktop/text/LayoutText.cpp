@@ -1,6 +1,6 @@
-#include "QtDesktop/LayoutText.h"
+#include "QtDesktop/text/LayoutText.h"
 
-#include "QtDesktop/TextParts.h"
+#include "QtDesktop/text/TextParts.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

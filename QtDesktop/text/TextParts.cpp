@@ -1,4 +1,4 @@
-#include "QtDesktop/TextParts.h"
+#include "QtDesktop/text/TextParts.h"
 
 #include "Toolkit/base/Text.h"
 

@@ -1,4 +1,4 @@
-#include "QtDesktop/QtClipboard.h"
+#include "QtDesktop/exchange/QtClipboard.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

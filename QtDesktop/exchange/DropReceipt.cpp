@@ -1,4 +1,4 @@
-#include "QtDesktop/DropReceipt.h"
+#include "QtDesktop/exchange/DropReceipt.h"
 
 #include <QEventLoop>
 #include <QRandomGenerator>

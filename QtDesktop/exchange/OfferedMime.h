@@ -1,7 +1,7 @@
 // Data on its way between the toolkit and Qt: MIME types on both sides.
 #pragma once
 
-#include "QtDesktop/DropReceipt.h"
+#include "QtDesktop/exchange/DropReceipt.h"
 #include "Toolkit/desktop/OfferedData.h"
 
 #include <QMimeData>

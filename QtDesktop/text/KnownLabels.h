@@ -1,7 +1,7 @@
 // The labels that were measured or drawn lately.
 #pragma once
 
-#include "QtDesktop/TextMask.h"
+#include "QtDesktop/text/TextMask.h"
 
 #include <array>
 #include <string>
