@@ -1,7 +1,6 @@
 #include "Editor/player/SeekBar.h"
 
 #include "Editor/widgets/Look.h"
-#include "Toolkit/focus/Capture.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
 
@@ -18,12 +17,9 @@ constexpr int kGroove = 4, kKnob = 14;       // pixels high
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSeekBar, CWnd)
+BEGIN_MESSAGE_MAP(CSeekBar, CSlider)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_LBUTTONUP()
-    ON_WM_MOUSEMOVE()
 END_MESSAGE_MAP()
 
 BOOL CSeekBar::Create(CWnd* pParent)
@@ -94,27 +90,7 @@ void CSeekBar::OnPaint()
     }
 }
 
-void CSeekBar::OnLButtonDown(UINT, CPoint point)
-{
-    if (!Track().PtInRect(point))
-        return;
-    SetCapture();
-    SeekTo(point);
-}
-
-void CSeekBar::OnLButtonUp(UINT, CPoint)
-{
-    if (::GetCapture() == m_hWnd)
-        ::ReleaseCapture();
-}
-
-void CSeekBar::OnMouseMove(UINT, CPoint point)
-{
-    if (::GetCapture() == m_hWnd)
-        SeekTo(point);
-}
-
-void CSeekBar::SeekTo(CPoint point)
+void CSeekBar::PointAt(CPoint point)
 {
     const CRect track = Track();
     if (track.IsRectEmpty())

@@ -1,8 +1,7 @@
 // Where in a row of frames the shown one stands, and what is told of it.
 #pragma once
 
-#include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
+#include "Editor/widgets/Slider.h"
 
 #include <functional>
 #include <string>
@@ -10,7 +9,7 @@
 namespace editor
 {
 
-class CSeekBar : public CWnd, public toolkit::Accessible
+class CSeekBar : public CSlider
 {
 public:
     // `seek` is called with the frame that the user points at, the button held down.
@@ -22,23 +21,21 @@ public:
     const std::string& GetText() const { return m_text; }
 
     // Of the frames that go by while it plays nobody is told.
-    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }
     std::string AccName(LPARAM) override { return "Frame: " + m_text; }
     std::optional<toolkit::AccRange> AccValue() override;
     void AccSetValue(double value) override;
 
 protected:
+    bool Takes(CPoint point) const override { return Track().PtInRect(point); }
+    void PointAt(CPoint point) override;
+
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
     CRect Track() const; // what can be pointed at; empty where there is no room
     int PlaceOf(int nFrame, const CRect& track) const;
-    void SeekTo(CPoint point);
 
     const std::function<void(int)> m_seek;
     int m_nAt = -1, m_nCount = 0;

@@ -18,12 +18,9 @@ constexpr int kStep = 8; // sizes between which nobody sees a difference
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSizeSlider, CWnd)
+BEGIN_MESSAGE_MAP(CSizeSlider, CSlider)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_MOUSEMOVE()
-    ON_WM_LBUTTONUP()
     ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
@@ -63,39 +60,18 @@ void CSizeSlider::OnPaint()
     FillSolidRect(dc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), GetSysColor(COLOR_HIGHLIGHT));
 }
 
-void CSizeSlider::OnLButtonDown(UINT nFlags, CPoint point)
-{
-    CWnd::OnLButtonDown(nFlags, point);
-    SetCapture();
-    Use(point.x);
-}
-
-void CSizeSlider::OnMouseMove(UINT nFlags, CPoint point)
-{
-    CWnd::OnMouseMove(nFlags, point);
-    if (GetCapture() == m_hWnd)
-        Use(point.x);
-}
-
-void CSizeSlider::OnLButtonUp(UINT nFlags, CPoint point)
-{
-    CWnd::OnLButtonUp(nFlags, point);
-    if (GetCapture() == m_hWnd)
-        ReleaseCapture();
-}
-
 BOOL CSizeSlider::OnMouseWheel(UINT, short zDelta, CPoint)
 {
     m_events.step(zDelta > 0 ? 1 : -1);
     return TRUE;
 }
 
-void CSizeSlider::Use(int x)
+void CSizeSlider::PointAt(CPoint point)
 {
     const CRect groove = Groove();
     if (groove.Width() <= 0)
         return;
-    const double part = std::clamp(1.0 * (x - groove.left) / groove.Width(), 0.0, 1.0);
+    const double part = std::clamp(1.0 * (point.x - groove.left) / groove.Width(), 0.0, 1.0);
     AccSetValue(m_nLeast * std::pow(1.0 * m_nMost / m_nLeast, part));
 }
 

@@ -1,8 +1,7 @@
 // How large thumbnails are, in the line at the bottom.
 #pragma once
 
-#include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
+#include "Editor/widgets/Slider.h"
 
 #include <functional>
 
@@ -10,7 +9,7 @@ namespace editor
 {
 
 // A knob on a groove: dragged, or sent to where a press is. From one end to the other the size doubles at equal steps.
-class CSizeSlider : public CWnd, public toolkit::Accessible
+class CSizeSlider : public CSlider
 {
 public:
     static constexpr int kWidth = 136; // pixels
@@ -27,7 +26,6 @@ public:
     BOOL Create(CWnd* pParent);
     CPoint PlaceOf(int nSize) const; // the knob's middle; client
 
-    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }
     std::string AccName(LPARAM) override { return "Size of the thumbnails"; }
     std::optional<toolkit::AccRange> AccValue() override
     {
@@ -36,17 +34,16 @@ public:
     void AccSetValue(double value) override;
 
 protected:
+    bool Takes(CPoint) const override { return true; }
+    void PointAt(CPoint point) override;
+
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     DECLARE_MESSAGE_MAP()
 
 private:
     CRect Groove() const;
-    void Use(int x);
 
     const int m_nLeast, m_nMost;
     const Events m_events;
