@@ -6,10 +6,14 @@ namespace
 {
 
 // What is seen of the picture at that size.
-toolkit::Surface Scaled(const toolkit::Surface& picture, const toolkit::Surface* pMask, CSize size)
+toolkit::Surface Scaled(const toolkit::Surface& picture, const toolkit::Surface* pMask, CSize size,
+                        toolkit::PixelScale scale)
 {
-    return pMask ? toolkit::ScaleSurface(toolkit::WithMask(picture, *pMask), size)
-                 : toolkit::ScaleSurface(picture, size);
+    const CSize pixels = scale.ToPixels(size);
+    toolkit::Surface scaled = pMask ? toolkit::ScaleSurface(toolkit::WithMask(picture, *pMask), pixels)
+                                    : toolkit::ScaleSurface(picture, pixels);
+    scaled.SetScale(scale);
+    return scaled;
 }
 
 } // namespace
@@ -27,8 +31,7 @@ int DrawThumbnailProportional(HDC hdc, CRect& rect, HBITMAP hPicture, HBITMAP hM
 
     const CSize size = toolkit::FitInto(pPicture->Bounds().Size(), rect.Size());
     const CPoint at = toolkit::Centred(size, rect);
-    const toolkit::Surface scaled = Scaled(*pPicture, pMask, size);
-    if (!toolkit::DrawSurface(hdc, at, scaled, scaled.Bounds()))
+    if (!toolkit::DrawSurface(hdc, at, Scaled(*pPicture, pMask, size, toolkit::ScaleOf(hdc))))
         return 0;
     if (pOffset)
         *pOffset = at - rect.TopLeft();

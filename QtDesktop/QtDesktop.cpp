@@ -60,6 +60,8 @@ QtDesktop::QtDesktop() : m_parts(std::make_unique<Parts>())
 {
     InstallAccessibles();
     toolkit::InstallDesktop(this);
+    QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &m_parts->pump, &toolkit::InputScale);
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &m_parts->pump, &toolkit::InputScale);
 }
 
 QtDesktop::~QtDesktop()
@@ -104,6 +106,11 @@ toolkit::ColorScheme QtDesktop::GetColorScheme()
         return RGB(it.red(), it.green(), it.blue());
     };
     return {color(QPalette::Base), color(QPalette::Text), color(QPalette::Highlight), color(QPalette::HighlightedText)};
+}
+
+toolkit::PixelScale QtDesktop::GetScreenScale()
+{
+    return toolkit::PixelScale(qGuiApp->devicePixelRatio());
 }
 
 DWORD QtDesktop::GetDoubleClickTime()

@@ -37,6 +37,7 @@ public:
     DWORD Ticks() override;
     toolkit::TextEngine& GetTextEngine() override;
     toolkit::ColorScheme GetColorScheme() override;
+    toolkit::PixelScale GetScreenScale() override;
     DWORD GetDoubleClickTime() override;
     void WindowCreated(HWND hTop) override;
     void WindowChanged(HWND hTop) override;

@@ -27,6 +27,12 @@ QRect ToQt(const CRect& rect)
     return {rect.left, rect.top, rect.Width(), rect.Height()};
 }
 
+// Every pixel that the rectangle has a part of.
+QRect ToPixels(const QRect& rect, qreal factor)
+{
+    return QRectF(rect.x() * factor, rect.y() * factor, rect.width() * factor, rect.height() * factor).toAlignedRect();
+}
+
 CPoint ToPoint(QPointF point)
 {
     return {static_cast<int>(std::floor(point.x())), static_cast<int>(std::floor(point.y()))};
@@ -112,18 +118,21 @@ void QtWindow::paintEvent(QPaintEvent* pEvent)
 {
     QPainter painter(this);
     const toolkit::Surface* pSurface = toolkit::WindowSurface(m_hTop);
-    if (!pSurface || pSurface->IsEmpty()) {
-        painter.fillRect(pEvent->rect(), palette().window());
+    const CSize painted = pSurface ? pSurface->Size() : CSize();
+    for (const QRect& rect : pEvent->region() - QRect(0, 0, painted.cx, painted.cy)) // sized, and not painted yet
+        painter.fillRect(rect, palette().window());
+    if (!pSurface || pSurface->IsEmpty())
         return;
-    }
     const QImage image(reinterpret_cast<const uchar*>(pSurface->Row(0)), pSurface->Width(), pSurface->Height(),
                        pSurface->Width() * static_cast<int>(sizeof(toolkit::Pixel)), QImage::Format_RGB32);
-    const qreal ratio = devicePixelRatioF();
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
-    for (const QRect& rect : pEvent->region() & image.rect())
-        painter.drawImage(rect, image, rect);
-    for (const QRect& rect : pEvent->region() - image.rect()) // sized, and the toolkit has not painted yet
-        painter.fillRect(rect, palette().window());
+    // On a screen of another scale than the finest the surface does not fit pixel by pixel.
+    const qreal factor = pSurface->Scale().Factor();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, factor != devicePixelRatioF());
+    painter.scale(1 / factor, 1 / factor);
+    for (const QRect& rect : pEvent->region()) {
+        const QRect pixels = ToPixels(rect, factor) & image.rect();
+        painter.drawImage(pixels, image, pixels);
+    }
 }
 
 bool QtWindow::event(QEvent* pEvent)

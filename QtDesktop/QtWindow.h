@@ -1,6 +1,6 @@
 // The widget that shows one top-level window of the toolkit.
 //
-// Draws the window's surface, a pixel of it to a logical pixel of the screen, and hands the user's input to the
+// Draws the window's surface, a coordinate of it to a logical pixel of the screen, and hands the user's input to the
 // toolkit's queue. Nothing here calls into the toolkit's windows but to ask for their state, and to show what an input
 // method is composing.
 #pragma once

@@ -13,9 +13,13 @@ namespace
 {
 
 // In shades of grey: the surfaces know nothing of how the screen's colours lie.
-QFont UiFont(toolkit::FontStyle style)
+QFont UiFont(toolkit::FontStyle style, toolkit::PixelScale scale)
 {
     QFont font = QGuiApplication::font();
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * scale.Factor());
+    else
+        font.setPixelSize(scale.ToPixels(font.pixelSize()));
     font.setBold(style == toolkit::FontStyle::Bold);
     font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return font;
@@ -26,20 +30,40 @@ int HeightOf(const QFont& font)
     return BaselineOf(font) + static_cast<int>(std::ceil(QFontMetricsF(font).descent()));
 }
 
+// The least coordinates that hold so many pixels.
+int RoomFor(int pixels, toolkit::PixelScale scale)
+{
+    return static_cast<int>(std::ceil(pixels / scale.Factor()));
+}
+
 } // namespace
 
-QtTextEngine::QtTextEngine()
-    : m_regular(UiFont(toolkit::FontStyle::Regular)),
-      m_bold(UiFont(toolkit::FontStyle::Bold)),
-      m_nLineHeight(
-          std::max({HeightOf(UiFont(toolkit::FontStyle::Regular)), HeightOf(UiFont(toolkit::FontStyle::Bold)), 1}))
+QtTextEngine::Faces::Faces(toolkit::PixelScale itsScale)
+    : scale(itsScale),
+      regular(UiFont(toolkit::FontStyle::Regular, scale)),
+      bold(UiFont(toolkit::FontStyle::Bold, scale)),
+      nLineHeight(std::max(
+          {HeightOf(UiFont(toolkit::FontStyle::Regular, scale)), HeightOf(UiFont(toolkit::FontStyle::Bold, scale)), 1}))
 {}
+
+QtTextEngine::Faces& QtTextEngine::FacesAt(toolkit::PixelScale scale) const
+{
+    const auto known = std::ranges::find_if(m_faces, [scale](const auto& pFaces) { return pFaces->scale == scale; });
+    return known != m_faces.end() ? **known : *m_faces.emplace_back(std::make_unique<Faces>(scale));
+}
+
+int QtTextEngine::LineHeight() const
+{
+    const Faces& faces = FacesAt(toolkit::ScreenScale());
+    return RoomFor(faces.nLineHeight, faces.scale);
+}
 
 int QtTextEngine::Measure(std::string_view text, toolkit::FontStyle style)
 {
-    Face& face = FaceOf(style);
+    Faces& faces = FacesAt(toolkit::ScreenScale());
+    Face& face = faces.Of(style);
     const std::optional<int> width = face.simple.Measure(text);
-    return width ? *width : face.layout.Measure(text);
+    return RoomFor(width ? *width : face.layout.Measure(text), faces.scale);
 }
 
 void QtTextEngine::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
@@ -48,7 +72,7 @@ void QtTextEngine::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, 
     const CRect seen = clip & target.Bounds();
     if (seen.IsRectEmpty())
         return;
-    Face& face = FaceOf(style);
+    Face& face = FacesAt(target.Scale()).Of(style);
     if (!face.simple.Draw(target, seen, at, text, color))
         face.layout.Draw(target, seen, at, text, color);
 }

@@ -1,9 +1,12 @@
-// Draws the toolkit's text in the desktop's font.
+// Draws the toolkit's text in the desktop's font: the application's, as it was when a scale was first used.
 #pragma once
 
 #include "QtDesktop/text/LayoutText.h"
 #include "QtDesktop/text/SimpleText.h"
 #include "Toolkit/graphics/TextEngine.h"
+
+#include <memory>
+#include <vector>
 
 namespace qtdesktop
 {
@@ -11,9 +14,7 @@ namespace qtdesktop
 class QtTextEngine : public toolkit::TextEngine
 {
 public:
-    QtTextEngine(); // the application's font of that moment
-
-    int LineHeight() const override { return m_nLineHeight; }
+    int LineHeight() const override;
     int Measure(std::string_view text, toolkit::FontStyle style) override;
     void Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
               toolkit::FontStyle style) override;
@@ -25,11 +26,20 @@ private:
         SimpleText simple;
         LayoutText layout;
     };
+    // The font as so many pixels as one scale makes of it.
+    struct Faces
+    {
+        explicit Faces(toolkit::PixelScale scale);
+        Face& Of(toolkit::FontStyle style) { return style == toolkit::FontStyle::Bold ? bold : regular; }
 
-    Face& FaceOf(toolkit::FontStyle style) { return style == toolkit::FontStyle::Bold ? m_bold : m_regular; }
+        const toolkit::PixelScale scale;
+        Face regular, bold;
+        const int nLineHeight; // pixels
+    };
 
-    Face m_regular, m_bold;
-    const int m_nLineHeight;
+    Faces& FacesAt(toolkit::PixelScale scale) const;
+
+    mutable std::vector<std::unique_ptr<Faces>> m_faces; // one but where pictures of other scales are written on
 };
 
 } // namespace qtdesktop

@@ -39,9 +39,11 @@ public:
     virtual DWORD Ticks() = 0; // milliseconds; may wrap
     virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
     virtual ColorScheme GetColorScheme() { return {}; } // the desktop tells by InputColors when it has another
-    virtual DWORD GetDoubleClickTime() { return 500; }  // milliseconds
+    // Of the finest of its screens; it tells by InputScale when it has another. Windows are painted at that scale.
+    virtual PixelScale GetScreenScale() { return {}; }
+    virtual DWORD GetDoubleClickTime() { return 500; } // milliseconds
 
-    // Top-level windows. Present: the pixels of `dirty` are new. The surface stays the window's own.
+    // Top-level windows. Present: the pixels of `dirty`, in coordinates, are new. The surface stays the window's own.
     virtual void WindowCreated(HWND hTop) = 0;
     virtual void WindowChanged(HWND hTop) = 0; // shown, hidden or renamed
     // Moved or sized by the program. Not called for what InputResize and InputMoved told: the desktop knows, and a

@@ -1,6 +1,7 @@
 // The built-in font: small, proportional, drawn pixel by pixel. Internal to the graphics layer.
 //
-// Every pixel is either the text's colour or left as it was. Bold letters are drawn twice, a pixel apart.
+// Every pixel is either the text's colour or left as it was. Bold letters are drawn twice, a pixel apart. At other
+// scales than 1 each of them is a rectangle.
 #pragma once
 
 #include "Toolkit/graphics/GlyphTable.h"

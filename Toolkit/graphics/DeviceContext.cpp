@@ -5,13 +5,13 @@
 toolkit::DeviceContext::DeviceContext(Surface& target, CPoint origin, Region clip) : m_pTarget(&target)
 {
     m_state.clip = std::move(clip);
-    m_state.clip.Intersect(target.Bounds());
+    m_state.clip.Intersect({{}, target.Size()});
     m_state.origin = origin;
 }
 
 void toolkit::DeviceContext::Select(HBITMAP hBitmap, Surface& target)
 {
-    m_state.clip = Region(target.Bounds());
+    m_state.clip = Region({{}, target.Size()});
     m_hSelected = hBitmap;
     m_pTarget = &target;
 }

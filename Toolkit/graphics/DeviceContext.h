@@ -13,7 +13,7 @@ namespace toolkit
 
 struct DrawState
 {
-    Region clip; // in the surface's coordinates
+    Region clip; // in the surface's coordinates, as the origin
     CPoint origin;
     COLORREF textColor = RGB(0, 0, 0);
     FontStyle fontStyle = FontStyle::Regular;
@@ -37,18 +37,25 @@ public:
     int Save();
     bool Restore(int depth); // as RestoreDC
 
-    // Calls draw with each part of the rectangle (relative to the origin) that may be drawn on, moved to the
-    // surface's coordinates. Nothing outside the surface comes, whatever became of it since the clip was set.
+    PixelScale Scale() const { return m_pTarget->Scale(); }
+
+    // Calls draw with each part of the rectangle (relative to the origin) that may be drawn on, in pixels of the
+    // surface. Nothing outside the surface comes, whatever became of it since the clip was set.
     template <class Draw>
     void VisitVisible(const CRect& rect, Draw draw) const
     {
         for (const CRect& clip : m_state.clip.Rects()) {
             const CRect part = VisiblePart(clip, rect);
-            if (part.IsRectEmpty())
-                continue;
-            m_bDrawnOn = true;
-            draw(part + m_state.origin);
+            if (!part.IsRectEmpty())
+                Visit(Scale().ToPixels(part + m_state.origin), draw);
         }
+    }
+    // The same with a rectangle in pixels of the surface.
+    template <class Draw>
+    void VisitVisiblePixels(const CRect& pixels, Draw draw) const
+    {
+        for (const CRect& clip : m_state.clip.Rects())
+            Visit(Scale().ToPixels(clip) & pixels, draw);
     }
     bool IsVisible(const CRect& rect) const // would VisitVisible call draw?
     {
@@ -61,7 +68,16 @@ public:
 private:
     CRect VisiblePart(const CRect& clip, const CRect& rect) const
     {
-        return ((clip & m_pTarget->Bounds()) - m_state.origin) & rect;
+        return ((clip & CRect({}, m_pTarget->Size())) - m_state.origin) & rect;
+    }
+    template <class Draw>
+    void Visit(const CRect& pixels, Draw draw) const
+    {
+        const CRect part = pixels & m_pTarget->Bounds();
+        if (part.IsRectEmpty())
+            return;
+        m_bDrawnOn = true;
+        draw(part);
     }
 
     Surface* m_pTarget;

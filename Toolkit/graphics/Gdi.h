@@ -10,7 +10,8 @@
 
 // Bitmaps.
 TOOLKIT_API HBITMAP CreateBitmapFromSurface(toolkit::Surface surface);
-TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy); // black; NULL when an extent is not positive
+// Black, of the device context's scale; NULL when an extent is not positive.
+TOOLKIT_API HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy);
 TOOLKIT_API BOOL DeleteBitmap(HBITMAP hBitmap); // FALSE, too, while it is selected into a device context
 
 // Brushes: one colour. Drawing takes for a brush also a system colour's index plus 1.
@@ -79,8 +80,12 @@ namespace toolkit
 TOOLKIT_API HDC CreateSurfaceDC(Surface& target, CPoint origin, Region clip);
 TOOLKIT_API bool IsDrawnOn(HDC hdc); // has anything come through its clip since it was made?
 
-// Draws a part of a picture by its alpha, the part's top left corner at `at`. Not of the surface that is drawn on.
+TOOLKIT_API PixelScale ScaleOf(HDC hdc); // of what it draws on; pictures made for it have the same
+
+// Draws a picture, or a part of it (in its pixels), by its alpha, the top left corner at `at`. Not of the surface that
+// is drawn on. Where the scales differ the picture is resampled, each time: its size in coordinates stays.
 TOOLKIT_API BOOL DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part);
+TOOLKIT_API BOOL DrawSurface(HDC hdc, CPoint at, const Surface& picture);
 
 // The pixels behind a handle; NULL when refused. Valid until the object is changed or deleted.
 TOOLKIT_API Surface* BitmapSurface(HBITMAP hBitmap);

@@ -14,6 +14,12 @@ HDC toolkit::CreateSurfaceDC(Surface& target, CPoint origin, Region clip)
     return AllGdiObjects().contexts.Add(std::make_unique<DeviceContext>(target, origin, std::move(clip)));
 }
 
+toolkit::PixelScale toolkit::ScaleOf(HDC hdc)
+{
+    const DeviceContext* pContext = FindContext(hdc);
+    return pContext ? pContext->Scale() : PixelScale();
+}
+
 bool toolkit::IsDrawnOn(HDC hdc)
 {
     const DeviceContext* pContext = FindContext(hdc);
@@ -25,7 +31,8 @@ HDC CreateCompatibleDC(HDC hdc)
     if (hdc && !FindContext(hdc))
         return nullptr;
 
-    toolkit::NewBitmap own(toolkit::Surface({1, 1}, toolkit::ToPixel(RGB(0, 0, 0))));
+    const toolkit::PixelScale scale = hdc ? toolkit::ScaleOf(hdc) : toolkit::ScreenScale();
+    toolkit::NewBitmap own(toolkit::Surface({1, 1}, scale, toolkit::ToPixel(RGB(0, 0, 0))));
     Bitmap* pOwn = own.Get();
     const HDC hdcNew = pOwn ? toolkit::CreateSurfaceDC(pOwn->surface, {}, toolkit::Region({0, 0, 1, 1})) : nullptr;
     if (!hdcNew)

@@ -2,6 +2,7 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/GdiObjects.h"
 #include "Toolkit/graphics/Pixels.h"
+#include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <optional>
@@ -10,6 +11,7 @@ using toolkit::AllGdiObjects;
 using toolkit::DeviceContext;
 using toolkit::FindContext;
 using toolkit::Pixel;
+using toolkit::PixelScale;
 using toolkit::Surface;
 
 namespace
@@ -47,13 +49,22 @@ std::optional<COLORREF> ColorOf(HBRUSH hBrush)
     return pBrush ? std::optional(pBrush->color) : std::nullopt;
 }
 
-// The outermost pixels of a rectangle, none of them twice.
+// The outermost coordinates of a rectangle, none of them twice.
 std::vector<CRect> EdgeOf(const CRect& rect)
 {
     toolkit::Region edge(rect);
     if (!edge.IsEmpty())
         edge.Subtract({rect.left + 1, rect.top + 1, rect.right - 1, rect.bottom - 1});
     return edge.Rects();
+}
+
+// The picture at the scale that is drawn at. Its edges lie where those of a rectangle would.
+Surface Resampled(const Surface& picture, CPoint corner, PixelScale scale)
+{
+    const CRect place = scale.ToPixels(CRect(corner, picture.Size()));
+    Surface resampled = toolkit::ScaleSurface(picture, place.Size());
+    resampled.SetScale(scale);
+    return resampled;
 }
 
 // Every pixel whose column and row add up to an even or, if `odd`, to an odd number.
@@ -98,7 +109,8 @@ BOOL DrawFocusRect(HDC hdc, const RECT& rect)
     const DeviceContext* pContext = FindContext(hdc);
     if (!pContext)
         return FALSE;
-    const int odd = rect.left ^ rect.top ^ pContext->Origin().x ^ pContext->Origin().y;
+    const CPoint corner = pContext->Scale().ToPixels(CPoint(rect.left, rect.top) + pContext->Origin());
+    const int odd = corner.x ^ corner.y;
     for (const CRect& side : EdgeOf(rect))
         pContext->VisitVisible(side, [&](const CRect& part) { InvertDots(pContext->Target(), part, odd); });
     return TRUE;
@@ -114,7 +126,8 @@ BOOL TextOut(HDC hdc, int x, int y, std::string_view text)
     // To the right without end, and a little to the left, where a glyph may overhang.
     const int height = engine.LineHeight();
     const CRect line = Place(std::int64_t{x} - height, y, {INT32_MAX, height});
-    const CPoint at = Place(std::int64_t{x} + state.origin.x, std::int64_t{y} + state.origin.y, {}).TopLeft();
+    const CPoint at = pContext->Scale().ToPixels(
+        Place(std::int64_t{x} + state.origin.x, std::int64_t{y} + state.origin.y, {}).TopLeft());
     pContext->VisitVisible(line, [&](const CRect& part) {
         engine.Draw(pContext->Target(), part, at, text, state.textColor, state.fontStyle);
     });
@@ -133,7 +146,7 @@ CSize GetTextExtent(HDC hdc, std::string_view text)
 BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon)
 {
     const Surface* pPicture = toolkit::IconSurface(hIcon);
-    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture, pPicture->Bounds());
+    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture);
 }
 
 BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part)
@@ -141,14 +154,24 @@ BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRec
     const DeviceContext* pContext = FindContext(hdc);
     if (!pContext)
         return FALSE;
+    const CPoint origin = pContext->Origin();
+    if (picture.Scale() != pContext->Scale() && !picture.IsEmpty())
+        return DrawSurface(hdc, at, Resampled(Crop(picture, part), at + origin, pContext->Scale()));
     const CRect inside = part & picture.Bounds();
-    const CRect place =
-        Place(std::int64_t{at.x} + inside.left - part.left, std::int64_t{at.y} + inside.top - part.top, inside.Size());
-    pContext->VisitVisible(place, [&](const CRect& visible) {
-        const CPoint shift = inside.TopLeft() - place.TopLeft() - pContext->Origin();
+    const CPoint corner =
+        pContext->Scale().ToPixels(Place(std::int64_t{at.x} + origin.x, std::int64_t{at.y} + origin.y, {}).TopLeft());
+    const CRect place = Place(std::int64_t{corner.x} + inside.left - part.left,
+                              std::int64_t{corner.y} + inside.top - part.top, inside.Size());
+    pContext->VisitVisiblePixels(place, [&](const CRect& visible) {
+        const CPoint shift = inside.TopLeft() - place.TopLeft();
         for (int y = visible.top; y < visible.bottom; ++y)
             BlendRow(pContext->Target().Row(y) + visible.left, picture.Row(y + shift.y) + visible.left + shift.x,
                      visible.Width());
     });
     return TRUE;
+}
+
+BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture)
+{
+    return DrawSurface(hdc, at, picture, picture.Bounds());
 }

@@ -25,7 +25,7 @@ HBITMAP CreateCompatibleBitmap(HDC hdc, int cx, int cy)
 {
     if (!toolkit::FindContext(hdc) || cx <= 0 || cy <= 0)
         return nullptr;
-    return CreateBitmapFromSurface(toolkit::Surface({cx, cy}, toolkit::ToPixel(RGB(0, 0, 0))));
+    return CreateBitmapFromSurface(toolkit::Surface({cx, cy}, toolkit::ScaleOf(hdc), toolkit::ToPixel(RGB(0, 0, 0))));
 }
 
 BOOL DeleteBitmap(HBITMAP hBitmap)
@@ -66,7 +66,7 @@ BOOL DestroyIcon(HICON hIcon)
 CSize GetIconSize(HICON hIcon)
 {
     const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
-    return pSurface ? pSurface->Bounds().Size() : CSize();
+    return pSurface ? pSurface->Size() : CSize();
 }
 
 BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo)
@@ -75,8 +75,8 @@ BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo)
     if (!pSurface || !pInfo)
         return FALSE;
     toolkit::NewBitmap mask(toolkit::MaskOfAlpha(*pSurface)), color(*pSurface);
-    *pInfo = {TRUE, static_cast<DWORD>(pSurface->Width() / 2), static_cast<DWORD>(pSurface->Height() / 2),
-              mask.Release(), color.Release()};
+    const CSize size = pSurface->Size();
+    *pInfo = {TRUE, static_cast<DWORD>(size.cx / 2), static_cast<DWORD>(size.cy / 2), mask.Release(), color.Release()};
     return TRUE;
 }
 

@@ -21,16 +21,30 @@ ImageStore* FindStore(HIMAGELIST himl)
     return toolkit::AllGdiObjects().imageLists.Find(himl);
 }
 
+bool HasRoomFor(const Surface& picture, CSize image)
+{
+    return picture.Size().cx >= image.cx && picture.Size().cy >= image.cy;
+}
+
+// The image becomes the picture's part at that coordinate of its upper edge, as many pixels as the list's images have.
+void PutPart(ImageStore& store, int i, const Surface& picture, int left)
+{
+    const CRect part = picture.Scale().ToPixels(CRect({left, 0}, store.ImageSize()));
+    if (part.Size() == store.ImagePixels())
+        return store.Put(i, picture, part.TopLeft());
+    store.Put(i, toolkit::ScaleSurface(toolkit::Crop(picture, part), store.ImagePixels()), {});
+}
+
 // Appends every image that the picture's width has room for; the first one's index, -1 when there is none.
 int AppendImages(ImageStore& store, const Surface& picture)
 {
     const CSize size = store.ImageSize();
-    if (picture.Height() < size.cy || picture.Width() < size.cx)
+    if (!HasRoomFor(picture, size))
         return -1;
-    const int images = picture.Width() / size.cx;
+    const int images = picture.Size().cx / size.cx;
     const int first = store.Append(images);
     for (int i = 0; i < images; ++i)
-        store.Put(first + i, picture, {i * size.cx, 0});
+        PutPart(store, first + i, picture, i * size.cx);
     return first;
 }
 
@@ -53,7 +67,7 @@ bool UseMasked(HBITMAP hbmImage, HBITMAP hbmMask, Use use)
     return pMask ? use(toolkit::WithMask(*pPicture, *pMask)) : use(*pPicture);
 }
 
-// The icon on a transparent ground of that size.
+// The icon on a transparent ground of that size, in pixels.
 Surface FitIcon(const Surface& icon, CSize size)
 {
     const Surface scaled = toolkit::ScaleSurface(icon, toolkit::FitInto(icon.Bounds().Size(), size));
@@ -75,7 +89,7 @@ HIMAGELIST ImageList_Create(int cx, int cy, UINT, int, int cGrow)
 HIMAGELIST ImageList_LoadBitmap(UINT nID, int cx, int cGrow, COLORREF crMask)
 {
     const Surface* pPicture = toolkit::FindBitmapResource(nID);
-    std::unique_ptr<ImageStore> pStore = pPicture ? MakeStore(cx, pPicture->Height(), cGrow) : nullptr;
+    std::unique_ptr<ImageStore> pStore = pPicture ? MakeStore(cx, pPicture->Size().cy, cGrow) : nullptr;
     if (!pStore || AppendImages(*pStore, toolkit::WithTransparentColor(*pPicture, crMask)) < 0)
         return nullptr;
     return toolkit::AllGdiObjects().imageLists.Add(std::move(pStore));
@@ -120,9 +134,9 @@ BOOL ImageList_Replace(HIMAGELIST himl, int i, HBITMAP hbmImage, HBITMAP hbmMask
     if (!pStore || !pStore->Has(i))
         return FALSE;
     return UseMasked(hbmImage, hbmMask, [=](const Surface& picture) {
-        if (picture.Width() < pStore->ImageSize().cx || picture.Height() < pStore->ImageSize().cy)
+        if (!HasRoomFor(picture, pStore->ImageSize()))
             return false;
-        pStore->Put(i, picture, {});
+        PutPart(*pStore, i, picture, 0);
         return true;
     });
 }
@@ -133,8 +147,8 @@ int ImageList_ReplaceIcon(HIMAGELIST himl, int i, HICON hIcon)
     const Surface* pIcon = toolkit::IconSurface(hIcon);
     if (!pStore || !pIcon || (i != -1 && !pStore->Has(i)))
         return -1;
-    const bool bFits = pIcon->Bounds().Size() == pStore->ImageSize();
-    const Surface fitted = bFits ? Surface() : FitIcon(*pIcon, pStore->ImageSize());
+    const bool bFits = pIcon->Bounds().Size() == pStore->ImagePixels();
+    const Surface fitted = bFits ? Surface() : FitIcon(*pIcon, pStore->ImagePixels());
     const int index = i == -1 ? pStore->Append(1) : i;
     pStore->Put(index, bFits ? *pIcon : fitted, {});
     return index;
@@ -152,7 +166,7 @@ BOOL ImageList_Draw(HIMAGELIST himl, int i, HDC hdc, int x, int y, UINT style)
     const toolkit::Pixel tint = toolkit::ToPixel(GetSysColor(COLOR_HIGHLIGHT));
     for (int row = 0; row < tinted.Height(); ++row)
         toolkit::TintRow(tinted.Row(row), tinted.Width(), tint);
-    return toolkit::DrawSurface(hdc, {x, y}, tinted, tinted.Bounds());
+    return toolkit::DrawSurface(hdc, {x, y}, tinted);
 }
 
 BOOL CImageList::Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow)

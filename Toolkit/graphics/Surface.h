@@ -1,7 +1,9 @@
 // A picture in memory: 32-bit pixels, alpha in the top byte, colours premultiplied by it.
+//
+// It is so large, in coordinates, as its scale says; at first a pixel is a coordinate.
 #pragma once
 
-#include "Toolkit/base/Geometry.h"
+#include "Toolkit/graphics/PixelScale.h"
 
 #include <memory>
 #include <vector>
@@ -16,8 +18,15 @@ class TOOLKIT_API Surface
 public:
     Surface() = default;
     explicit Surface(CSize size, Pixel fill = 0); // a negative extent counts as 0
-    static Surface Unfilled(CSize size);          // of whatever pixels: each is to be written before it is read
+    // As many pixels as the scale makes of the coordinates.
+    Surface(CSize coordinates, PixelScale scale, Pixel fill = 0);
+    static Surface Unfilled(CSize size); // of whatever pixels: each is to be written before it is read
 
+    PixelScale Scale() const { return m_scale; }
+    void SetScale(PixelScale scale) { m_scale = scale; }         // the pixels stay, the size in coordinates changes
+    CSize Size() const { return m_scale.ToCoordinates(m_size); } // in coordinates
+
+    // In pixels.
     int Width() const { return m_size.cx; }
     int Height() const { return m_size.cy; }
     CRect Bounds() const { return {0, 0, m_size.cx, m_size.cy}; }
@@ -45,11 +54,12 @@ private:
         }
     };
 
-    CSize m_size;
+    CSize m_size; // pixels
+    PixelScale m_scale;
     std::vector<Pixel, Memory> m_pixels;
 };
 
-// A copy of a part of the surface; only what lies inside it.
+// A copy of a part of the surface, in pixels; only what lies inside it.
 TOOLKIT_API Surface Crop(const Surface& source, const CRect& part);
 
 // An opaque colour as a pixel, and a pixel's colour (its alpha is dropped).

@@ -21,10 +21,12 @@ class TOOLKIT_API TextEngine
 public:
     virtual ~TextEngine() = default;
 
-    virtual int LineHeight() const = 0; // pixels from one line to the next, the same for both styles
-    virtual int Measure(std::string_view text, FontStyle style) = 0; // the width in pixels
+    // In coordinates, at the screen's scale: from one line to the next, the same for both styles; a text's width.
+    virtual int LineHeight() const = 0;
+    virtual int Measure(std::string_view text, FontStyle style) = 0;
 
-    // Draws the text with its line's top left corner at `at`, only inside `clip` (inside the surface).
+    // Draws the text, at the surface's scale, with its line's top left corner at `at`, only inside `clip` (inside the
+    // surface), both in pixels.
     virtual void Draw(Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
                       FontStyle style) = 0;
 };

@@ -35,14 +35,14 @@ toolkit::Surface toolkit::WithTransparentColor(Surface picture, COLORREF color)
 toolkit::Surface toolkit::MaskOfColor(const Surface& picture, COLORREF color)
 {
     const Pixel transparent = ToPixel(color);
-    Surface mask(picture.Bounds().Size());
+    Surface mask(picture.Size(), picture.Scale());
     ChangePixels(mask, picture, [=](Pixel, Pixel pixel) { return pixel == transparent ? kWhite : kBlack; });
     return mask;
 }
 
 toolkit::Surface toolkit::MaskOfAlpha(const Surface& picture)
 {
-    Surface mask(picture.Bounds().Size());
+    Surface mask(picture.Size(), picture.Scale());
     ChangePixels(mask, picture, [](Pixel, Pixel pixel) { return pixel >> 24 == 0 ? kWhite : kBlack; });
     return mask;
 }

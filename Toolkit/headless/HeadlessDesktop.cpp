@@ -60,6 +60,13 @@ void toolkit::HeadlessDesktop::ShowColors(const ColorScheme& scheme)
     Run();
 }
 
+void toolkit::HeadlessDesktop::ShowScale(PixelScale scale)
+{
+    m_scale = scale;
+    InputScale();
+    Run();
+}
+
 void toolkit::HeadlessDesktop::MoveTo(HWND hWnd, CPoint at)
 {
     const HWND hTop = GetTopLevel(hWnd);
@@ -240,5 +247,5 @@ toolkit::Surface toolkit::HeadlessDesktop::Dump(HWND hWnd)
     RECT top{}, own{};
     GetWindowRect(GetTopLevel(hWnd), &top);
     GetWindowRect(hWnd, &own);
-    return Crop(*pSurface, CRect(own) - CRect(top).TopLeft());
+    return Crop(*pSurface, pSurface->Scale().ToPixels(CRect(own) - CRect(top).TopLeft()));
 }

@@ -68,6 +68,7 @@ public:
     void GoBeyondMenu(UINT vkey) { m_choices.push_back({"", vkey}); }
 
     void ShowColors(const ColorScheme& scheme); // the user chooses others
+    void ShowScale(PixelScale scale);           // moves to a screen of another
 
     // The tool tip that is shown, "" for none; and what is outside: the folders the user will choose (none is chosen
     // when no answer is left), and what was asked for: "open PATH", "show PATH".
@@ -105,6 +106,7 @@ public:
 
     DWORD Ticks() override { return m_ticks; }
     ColorScheme GetColorScheme() override { return m_colors; }
+    PixelScale GetScreenScale() override { return m_scale; }
     void WindowCreated(HWND) override {}
     void WindowChanged(HWND) override {}
     void WindowPlaced(HWND) override {}
@@ -157,6 +159,7 @@ private:
     };
     std::deque<MenuAnswer> m_choices;
     ColorScheme m_colors;
+    PixelScale m_scale;
     std::string m_toolTip;
     CRect m_workArea;
     std::deque<std::string> m_folders;

@@ -15,6 +15,11 @@ bool ReplacesLast(const toolkit::InputEvent& event)
     return event.kind == toolkit::InputKind::MouseMove && !s_input.IsEmpty() &&
            s_input.Last().kind == toolkit::InputKind::MouseMove && s_input.Last().hTop == event.hTop;
 }
+void TellEveryWindow()
+{
+    for (const toolkit::WindowRecord* pTop : toolkit::TopLevelRecords())
+        PostMessage(pTop->hWnd, WM_SYSCOLORCHANGE, 0, 0);
+}
 } // namespace
 
 void toolkit::PutInput(InputEvent event)
@@ -111,8 +116,15 @@ void toolkit::InputClose(HWND hTop)
 
 void toolkit::InputColors()
 {
-    if (!SetColorScheme(CurrentDesktop().GetColorScheme()))
+    if (SetColorScheme(CurrentDesktop().GetColorScheme()))
+        TellEveryWindow();
+}
+
+void toolkit::InputScale()
+{
+    const PixelScale scale = CurrentDesktop().GetScreenScale();
+    if (scale == ScreenScale())
         return;
-    for (const WindowRecord* pTop : TopLevelRecords())
-        PostMessage(pTop->hWnd, WM_SYSCOLORCHANGE, 0, 0);
+    SetScreenScale(scale);
+    TellEveryWindow();
 }

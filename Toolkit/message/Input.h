@@ -39,6 +39,7 @@ TOOLKIT_API void InputMoved(HWND hTop, CPoint screen); // where the top-level wi
 TOOLKIT_API void InputClose(HWND hTop);                // WM_CLOSE
 // The desktop may have another GetColorScheme. It counts at once; every window gets WM_SYSCOLORCHANGE.
 TOOLKIT_API void InputColors();
+TOOLKIT_API void InputScale(); // the same with GetScreenScale
 
 // The toolkit's own: what waits.
 enum class InputKind

@@ -14,8 +14,8 @@ using toolkit::Region;
 using toolkit::Surface;
 using toolkit::WindowRecord;
 
-// Fills the rectangles from dx, dy away. They do not overlap, but where one comes from another may lie: so row by
-// row, against the movement, and within a row likewise.
+// Fills the rectangles from dx, dy away, all in pixels. They do not overlap, but where one comes from another may lie:
+// so row by row, against the movement, and within a row likewise.
 void MovePixels(Surface& surface, std::vector<CRect> rects, int dx, int dy)
 {
     std::sort(rects.begin(), rects.end(),
@@ -35,6 +35,13 @@ void MovePixels(Surface& surface, std::vector<CRect> rects, int dx, int dy)
     }
 }
 
+std::vector<CRect> ToPixels(std::vector<CRect> rects, toolkit::PixelScale scale)
+{
+    for (CRect& rect : rects)
+        rect = scale.ToPixels(rect);
+    return rects;
+}
+
 // What was noted moves along, and what came into sight joins it; both in client coordinates.
 void NoteScrolled(WindowRecord& window, const Region& exposed, CPoint by)
 {
@@ -49,7 +56,8 @@ BOOL ScrollWindow(HWND hWnd, int dx, int dy)
     WindowRecord* pWindow = toolkit::FindRecord(hWnd);
     if (!pWindow)
         return FALSE;
-    if (toolkit::IsUpdateLocked(*pWindow))
+    const toolkit::PixelScale scale = toolkit::ScreenScale();
+    if (toolkit::IsUpdateLocked(*pWindow) || !scale.IsWhole(dx) || !scale.IsWhole(dy))
         return InvalidateRect(hWnd, nullptr);
     if (pWindow->update.HasAll(toolkit::ClientRect(*pWindow)))
         return TRUE; // nothing there is worth moving
@@ -66,7 +74,7 @@ BOOL ScrollWindow(HWND hWnd, int dx, int dy)
     exposed.Offset(CPoint() - toolkit::ClientArea(*pWindow).TopLeft());
 
     WindowRecord& top = toolkit::TopOf(*pWindow);
-    MovePixels(toolkit::SurfaceOf(top), moved.Rects(), dx, dy);
+    MovePixels(toolkit::SurfaceOf(top), ToPixels(moved.Rects(), scale), scale.ToPixels(dx), scale.ToPixels(dy));
     toolkit::NotePainted(top, moved.Bounds());
     NoteScrolled(*pWindow, exposed, {dx, dy});
     return TRUE;

@@ -100,9 +100,9 @@ int ReleaseDC(HWND hWnd, HDC hdc)
 toolkit::Surface& toolkit::SurfaceOf(WindowRecord& top)
 {
     const CSize size = top.rect.Size();
-    if (!(top.surface.Bounds().Size() == size)) {
+    if (top.surface.Size() != size || top.surface.Scale() != ScreenScale()) {
         CloseSurfaceDCs(top.hWnd);
-        top.surface = Surface(size, ToPixel(GetSysColor(COLOR_BTNFACE)));
+        top.surface = Surface(size, ScreenScale(), ToPixel(GetSysColor(COLOR_BTNFACE)));
     }
     return top.surface;
 }
@@ -118,7 +118,7 @@ void toolkit::NotePainted(WindowRecord& top, const CRect& area)
 void toolkit::PresentPainted()
 {
     for (WindowRecord* pTop : TopLevelRecords()) {
-        const CRect dirty = std::exchange(pTop->dirty, CRect()) & pTop->surface.Bounds();
+        const CRect dirty = std::exchange(pTop->dirty, CRect()) & CRect({}, pTop->surface.Size());
         if (!dirty.IsRectEmpty() && pTop->bKnownToDesktop)
             CurrentDesktop().Present(pTop->hWnd, pTop->surface, dirty);
     }

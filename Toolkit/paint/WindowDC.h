@@ -15,7 +15,7 @@ class Surface;
 // A top-level window's picture as last painted; NULL for a stale handle.
 TOOLKIT_API const Surface* WindowSurface(HWND hTop);
 
-// The top-level window's surface in its present size. Device contexts of a replaced one end.
+// The top-level window's surface in its present size, at the screen's scale. Device contexts of a replaced one end.
 Surface& SurfaceOf(WindowRecord& top);
 void NotePainted(WindowRecord& top, const CRect& area); // pixels of the surface that the desktop has not seen yet
 void PresentPainted();                                  // hands the desktop what was painted since the last time

@@ -54,6 +54,7 @@ void toolkit::InstallDesktop(Desktop* pDesktop)
     SetTickSource(pDesktop ? &DesktopTicks : nullptr);
     InstallTextEngine(pDesktop ? &pDesktop->GetTextEngine() : nullptr);
     SetColorScheme(CurrentDesktop().GetColorScheme());
+    SetScreenScale(CurrentDesktop().GetScreenScale());
     UpdateWake();
 }
 
