@@ -156,7 +156,8 @@ std::string CPhase::Cover()
 toolkit::Surface CPhase::DrawIcon(CSize size)
 {
     const std::string path = size.cx >= kLeastCover && size.cy >= kLeastCover ? Cover() : std::string();
-    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, size, this);
+    const CSize pixels = toolkit::ScreenScale().ToPixels(size);
+    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, pixels, this);
     if (!answer.pPicture)
         return PaintPictogram(hostkit::Pictogram::Phase, size);
     return WithMark(PaintPictureIcon(answer, size), hostkit::Pictogram::Phase);
@@ -165,10 +166,11 @@ toolkit::Surface CPhase::DrawIcon(CSize size)
 BOOL CPhase::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
 {
     const std::string path = nFrame == 0 ? Cover() : PathOfFrame(nFrame);
-    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, rect.Size(), this);
+    const CSize size = toolkit::ScaleOf(hdc).ToPixels(rect.Size());
+    const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, size, this);
     if (path.empty() || answer.bFailed) {
         const toolkit::Surface& film = hostkit::GetPictogram(hostkit::Pictogram::Phase, kWithoutCover);
-        return toolkit::DrawSurface(hdc, toolkit::Centred(film.Bounds().Size(), rect), film, film.Bounds());
+        return toolkit::DrawSurface(hdc, toolkit::Centred(film.Size(), rect), film);
     }
     if (!DrawThumbnail(hdc, rect, answer, Context().pPictures->IsEnlarging()))
         return FALSE;

@@ -36,7 +36,8 @@ BOOL CPictureMember::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
     if (frames > 0 && nFrame >= static_cast<UINT>(frames))
         return FALSE;
     const int frame = frames > 0 ? static_cast<int>(nFrame) : 0; // the first read tells how many there are
-    return DrawThumbnail(hdc, rect, pictures.Find(path, rect.Size(), this, frame), pictures.IsEnlarging());
+    const CSize size = toolkit::ScaleOf(hdc).ToPixels(rect.Size());
+    return DrawThumbnail(hdc, rect, pictures.Find(path, size, this, frame), pictures.IsEnlarging());
 }
 
 toolkit::Surface CPictureMember::DrawIcon(CSize size)

@@ -14,8 +14,8 @@ namespace
 constexpr toolkit::Pixel kEdge = 0x50000000;                   // premultiplied, as all here
 constexpr toolkit::Pixel kShadow[] = {0x30000000, 0x18000000}; // below and beside, from the edge on
 constexpr int kShadowReach = static_cast<int>(std::size(kShadow));
-constexpr int kSmallestRead = 48;       // pixels each way
-constexpr int kPlaceholder = 48;        // pixels
+constexpr int kSmallestRead = 48; // each way
+constexpr int kPlaceholder = 48;
 constexpr int kSmallestPhotograph = 12; // pixels; below this an edge would eat the picture
 
 bool CoversAll(const toolkit::Surface& picture)
@@ -55,13 +55,34 @@ void Place(toolkit::Surface& target, CPoint at, const toolkit::Surface& picture)
         toolkit::BlendRow(target.Row(at.y + y) + at.x, picture.Row(y), picture.Width());
 }
 
-toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, CSize room, bool isPhotograph)
+// In pixels. What fits into the room, which is in pixels, is as large in coordinates as it is of its own.
+CSize PixelsWithin(CSize own, CSize room, toolkit::PixelScale scale)
 {
-    toolkit::Surface icon(size);
-    const CSize fitted = toolkit::FitInto(picture.Bounds().Size(), room);
-    const bool isTooLarge = fitted.cx < picture.Width() || fitted.cy < picture.Height();
-    const toolkit::Surface scaled = isTooLarge ? toolkit::ScaleSurface(picture, fitted) : picture;
-    const CRect place(toolkit::Centred(scaled.Bounds().Size(), {0, 0, room.cx, room.cy}), scaled.Bounds().Size());
+    const CSize pixels = scale.ToPixels(own);
+    return pixels.cx <= room.cx && pixels.cy <= room.cy ? pixels : toolkit::FitInto(own, room);
+}
+
+toolkit::Surface Fitted(const toolkit::Surface& picture, CSize pixels, toolkit::PixelScale scale)
+{
+    toolkit::Surface fitted = pixels == picture.Bounds().Size() ? picture : toolkit::ScaleSurface(picture, pixels);
+    fitted.SetScale(scale);
+    return fitted;
+}
+
+BOOL DrawInTheMiddle(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
+{
+    return toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
+}
+
+// The margin, in pixels, is right and below.
+toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, int margin = 0)
+{
+    const bool isPhotograph = margin > 0;
+    const toolkit::PixelScale scale = toolkit::ScreenScale();
+    toolkit::Surface icon(size, scale);
+    const CSize room(icon.Width() - margin, icon.Height() - margin);
+    const toolkit::Surface scaled = Fitted(picture, PixelsWithin(picture.Size(), room, scale), scale);
+    const CRect place(toolkit::Centred(scaled.Bounds().Size(), CRect({}, room)), scaled.Bounds().Size());
     if (isPhotograph)
         BlendShadow(icon, place);
     Place(icon, place.TopLeft(), scaled);
@@ -82,12 +103,13 @@ int MarkExtent(const CRect& room)
 toolkit::Surface PaintPictogram(hostkit::Pictogram which, CSize size)
 {
     const toolkit::Surface& picture = hostkit::GetPictogram(which, std::max(1, std::min(size.cx, size.cy)));
-    return PaintInTheMiddle(picture, size, size, false);
+    return PaintInTheMiddle(picture, size);
 }
 
 CSize PictureSizeFor(CSize icon)
 {
-    return {std::max<LONG>(icon.cx, kSmallestRead), std::max<LONG>(icon.cy, kSmallestRead)};
+    const CSize atLeast(std::max<LONG>(icon.cx, kSmallestRead), std::max<LONG>(icon.cy, kSmallestRead));
+    return toolkit::ScreenScale().ToPixels(atLeast);
 }
 
 toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size)
@@ -97,13 +119,13 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
                               size);
     const toolkit::Surface& picture = *answer.pPicture;
     if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
-        return PaintInTheMiddle(picture, size, size, false);
-    return PaintInTheMiddle(picture, size, {size.cx - kShadowReach, size.cy - kShadowReach}, true);
+        return PaintInTheMiddle(picture, size);
+    return PaintInTheMiddle(picture, size, kShadowReach);
 }
 
 toolkit::Surface WithMark(toolkit::Surface icon, hostkit::Pictogram mark)
 {
-    const toolkit::Surface& picture = hostkit::GetPictogram(mark, MarkExtent(icon.Bounds()));
+    const toolkit::Surface& picture = hostkit::GetPictogram(mark, MarkExtent(CRect({}, icon.Size())));
     Place(icon, {0, icon.Height() - picture.Height()}, picture);
     return icon;
 }
@@ -111,31 +133,25 @@ toolkit::Surface WithMark(toolkit::Surface icon, hostkit::Pictogram mark)
 void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark)
 {
     const toolkit::Surface& picture = hostkit::GetPictogram(mark, MarkExtent(rect));
-    toolkit::DrawSurface(hdc, {rect.left, rect.bottom - picture.Height()}, picture, picture.Bounds());
+    toolkit::DrawSurface(hdc, {rect.left, rect.bottom - picture.Size().cy}, picture);
 }
 
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer, bool bEnlarge)
 {
-    if (answer.pMeanwhile) {
-        const CSize full = answer.fullSize;
-        const bool bFits = full.cx <= rect.Width() && full.cy <= rect.Height();
-        const toolkit::Surface meanwhile =
-            toolkit::ScaleSurface(*answer.pMeanwhile, bFits ? full : toolkit::FitInto(full, rect.Size()));
-        return toolkit::DrawSurface(hdc, toolkit::Centred(meanwhile.Bounds().Size(), rect), meanwhile,
-                                    meanwhile.Bounds());
-    }
+    const toolkit::PixelScale scale = toolkit::ScaleOf(hdc);
+    const CSize room = scale.ToPixels(rect.Size());
+    if (answer.pMeanwhile)
+        return DrawInTheMiddle(hdc, rect,
+                               Fitted(*answer.pMeanwhile, PixelsWithin(answer.fullSize, room, scale), scale));
     const hostkit::Pictogram instead =
         answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder;
     const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : hostkit::GetPictogram(instead, kPlaceholder);
-    const CSize own = picture.Bounds().Size();
-    if (bEnlarge && answer.pPicture && 2 * own.cx <= rect.Width() && 2 * own.cy <= rect.Height()) {
-        const toolkit::Surface large = EnlargePixels(picture, rect.Size());
-        return toolkit::DrawSurface(hdc, toolkit::Centred(large.Bounds().Size(), rect), large, large.Bounds());
+    if (bEnlarge && answer.pPicture && 2 * picture.Width() <= room.cx && 2 * picture.Height() <= room.cy) {
+        toolkit::Surface large = EnlargePixels(picture, room);
+        large.SetScale(scale);
+        return DrawInTheMiddle(hdc, rect, large);
     }
-    if (own.cx <= rect.Width() && own.cy <= rect.Height())
-        return toolkit::DrawSurface(hdc, toolkit::Centred(own, rect), picture, picture.Bounds());
-    const toolkit::Surface fitted = toolkit::ScaleSurface(picture, toolkit::FitInto(own, rect.Size()));
-    return toolkit::DrawSurface(hdc, toolkit::Centred(fitted.Bounds().Size(), rect), fitted, fitted.Bounds());
+    return DrawInTheMiddle(hdc, rect, Fitted(picture, PixelsWithin(picture.Size(), room, scale), scale));
 }
 
 } // namespace editor

@@ -1,4 +1,4 @@
-// Icons of atoms, at any size.
+// Icons of atoms, at any size, as fine as the screen. Sizes are in coordinates where nothing else is said.
 #pragma once
 
 #include "Editor/pictures/PictureStore.h"
@@ -11,7 +11,8 @@ namespace editor
 // The pictogram in the middle of a transparent ground.
 toolkit::Surface PaintPictogram(hostkit::Pictogram which, CSize size);
 
-// The size at which a picture for an icon is wished for: small icons are made from what is read for larger ones.
+// The size in pixels at which a picture for an icon is wished for: small icons are made from what is read for larger
+// ones.
 CSize PictureSizeFor(CSize icon);
 
 // A picture that has reached the store, in the middle of a transparent ground: one that covers its whole rectangle

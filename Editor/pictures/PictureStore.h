@@ -38,8 +38,8 @@ public:
     PictureStore(const PictureStore&) = delete;
     PictureStore& operator=(const PictureStore&) = delete;
 
-    // The file's picture, scaled down to fit into `size`; of an animated file one frame. While it is neither read nor
-    // failed, it is put in the queue, and pAtom hears of it.
+    // The file's picture, scaled down to fit into `size`, in pixels as all sizes here; of an animated file one frame.
+    // While it is neither read nor failed, it is put in the queue, and pAtom hears of it.
     Answer Find(const std::string& path, CSize size, IAtom* pAtom, int frame = 0);
     // Pictures of that size for which only atoms wait that nobody sees any more are not read now: their atoms are sent
     // away. Costs a call for each atom that waits.

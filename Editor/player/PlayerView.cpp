@@ -20,15 +20,16 @@ constexpr UINT kUpdate = WM_USER;
 constexpr int kBar = kPathBarHeight;
 constexpr int kMostEnlarged = 4;
 constexpr int kReadAhead = 4; // frames
-constexpr int kBroken = 96;   // pixels
+constexpr int kBroken = 96;
 
+// All in pixels.
 toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bPixels)
 {
     const CSize own = picture.Bounds().Size();
     if (bPixels && own.cx <= room.cx && own.cy <= room.cy)
         return EnlargePixels(picture, room);
-    const CSize fitted =
-        toolkit::FitInto(own, {std::min(room.cx, own.cx * kMostEnlarged), std::min(room.cy, own.cy * kMostEnlarged)});
+    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
+    const CSize fitted = toolkit::FitInto(own, {std::min(room.cx, own.cx * most), std::min(room.cy, own.cy * most)});
     if (fitted == own)
         return picture;
     return fitted.cx > own.cx ? Enlarge(picture, fitted) : toolkit::ScaleSurface(picture, fitted);
@@ -111,7 +112,7 @@ CSize CPlayerView::Room() const
 {
     CRect room = Stage();
     room.DeflateRect(kSpace, kSpace);
-    return {std::max(room.Width(), 0), std::max(room.Height(), 0)};
+    return toolkit::ScreenScale().ToPixels(CSize(std::max(room.Width(), 0), std::max(room.Height(), 0)));
 }
 
 bool CPlayerView::Fetch(int nFrame)
@@ -124,6 +125,7 @@ bool CPlayerView::Fetch(int nFrame)
         return false;
     m_shown = answer.pPicture ? FittedTo(*answer.pPicture, Room(), m_bPixels)
                               : hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBroken);
+    m_shown.SetScale(toolkit::ScreenScale());
     const CRect stage = Stage();
     ::InvalidateRect(m_hWnd, &stage);
     return true;
@@ -267,7 +269,7 @@ void CPlayerView::OnPaint()
         return;
     const CRect stage = Stage();
     IntersectClipRect(dc, stage);
-    DrawChecks(dc, {toolkit::Centred(m_shown.Bounds().Size(), stage), m_shown.Bounds().Size()});
+    DrawChecks(dc, {toolkit::Centred(m_shown.Size(), stage), m_shown.Size()});
     DrawCentred(dc, stage, m_shown);
 }
 

@@ -47,7 +47,7 @@ public:
     virtual void SetOrder(UINT nOrder) = 0;              // MOF_*
     virtual void SetFilter(std::function<bool(IAtom* pAtom)> isShown) = 0;
     virtual void Reload() = 0; // rows by the present order and filter; those that stay keep selection and focus
-    virtual CSize PictureSize() const = 0; // at which rows wish for pictures
+    virtual CSize PictureSize() const = 0; // in pixels: at which rows wish for pictures
     // Of thumbnails. The focused row stays where it is seen, or else the one in the middle. False: nothing has changed.
     virtual bool SetPictureExtent(int /*nExtent*/) { return false; }
     std::vector<CStubRef<IAtom>> AtomsInSight() const; // sorted by address
@@ -161,7 +161,7 @@ public:
     CSize PictureSize() const override
     {
         if constexpr (kAreThumbnails)
-            return {View::GetDrawingExtent(), View::GetDrawingExtent()};
+            return toolkit::ScreenScale().ToPixels(CSize(View::GetDrawingExtent(), View::GetDrawingExtent()));
         else
             return m_picture;
     }

@@ -30,6 +30,13 @@ bool HasTransparency(const toolkit::Surface& picture)
     return false;
 }
 
+// A pixel to a pixel of the screen.
+toolkit::Surface OnScreen(toolkit::Surface picture)
+{
+    picture.SetScale(toolkit::ScreenScale());
+    return picture;
+}
+
 // What is seen of a picture that is drawn at that size: its pixels as squares, or the mean of those that share one.
 toolkit::Surface PartOf(const toolkit::Surface& picture, CSize drawn, const CRect& seen)
 {
@@ -118,7 +125,7 @@ void CPictureView::OnPaint()
     if (!m_own.IsEmpty() || (!m_shown.IsEmpty() && !m_zoom.IsFit()))
         return DrawZoomed(dc);
     if (!m_shown.IsEmpty())
-        return DrawFitting(dc);
+        return DrawFitting(dc, client);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     if (!pMember)
         return;
@@ -132,11 +139,11 @@ void CPictureView::OnPaint()
                      Align::Center);
 }
 
-void CPictureView::DrawFitting(HDC hdc) const
+void CPictureView::DrawFitting(HDC hdc, const CRect& client) const
 {
     if (HasTransparency(m_shown))
-        DrawChecks(hdc, {toolkit::Centred(m_shown.Bounds().Size(), View()), m_shown.Bounds().Size()});
-    DrawCentred(hdc, View(), m_shown);
+        DrawChecks(hdc, {toolkit::Centred(m_shown.Size(), client), m_shown.Size()});
+    DrawCentred(hdc, client, m_shown);
 }
 
 void CPictureView::DrawZoomed(HDC hdc) const
@@ -145,10 +152,13 @@ void CPictureView::DrawZoomed(HDC hdc) const
     const CRect seen = place & View();
     if (seen.IsRectEmpty())
         return;
-    const toolkit::Surface part = PartOf(m_own.IsEmpty() ? m_shown : m_own, place.Size(), seen - place.TopLeft());
+    const toolkit::Surface part =
+        OnScreen(PartOf(m_own.IsEmpty() ? m_shown : m_own, place.Size(), seen - place.TopLeft()));
+    const CSize corner = part.Scale().ToCoordinates(CSize(seen.left, seen.top));
+    const CRect covered(CPoint(corner.cx, corner.cy), part.Size());
     if (HasTransparency(part))
-        DrawChecks(hdc, seen);
-    toolkit::DrawSurface(hdc, seen.TopLeft(), part, part.Bounds());
+        DrawChecks(hdc, covered);
+    toolkit::DrawSurface(hdc, covered.TopLeft(), part);
 }
 
 void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const std::string& line) const
@@ -171,13 +181,14 @@ CRect CPictureView::View() const
 {
     CRect view;
     GetClientRect(&view);
-    return view;
+    return toolkit::ScreenScale().ToPixels(view);
 }
 
 CRect CPictureView::Room() const
 {
     CRect room = View();
-    room.DeflateRect(kMargin, kMargin);
+    const int margin = toolkit::ScreenScale().ToPixels(kMargin);
+    room.DeflateRect(margin, margin);
     return room;
 }
 
@@ -195,7 +206,7 @@ void CPictureView::Fetch()
     else if (answer.bFailed)
         m_shown = m_own = {};
     else if (m_zoom.IsFit() && !m_shown.IsEmpty())
-        m_shown = toolkit::ScaleSurface(m_shown, toolkit::FitInto(m_shown.Bounds().Size(), Room().Size()));
+        m_shown = OnScreen(toolkit::ScaleSurface(m_shown, toolkit::FitInto(m_shown.Bounds().Size(), Room().Size())));
     if (answer.pPicture)
         m_full = m_pictures.FullSizeOf(path);
 }
@@ -218,11 +229,11 @@ double CPictureView::FitZoom() const
 CSize CPictureView::FittedSize(CSize own) const
 {
     const CSize room = Room().Size();
+    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
     const int times = own.cx > 0 && own.cy > 0 ? std::min<int>(room.cx / own.cx, room.cy / own.cy) : 0;
     if (m_pictures.IsEnlarging() && times > 0)
         return {own.cx * times, own.cy * times};
-    return toolkit::FitInto(
-        own, {std::min<int>(room.cx, own.cx * kMostEnlarged), std::min<int>(room.cy, own.cy * kMostEnlarged)});
+    return toolkit::FitInto(own, {std::min<int>(room.cx, own.cx * most), std::min<int>(room.cy, own.cy * most)});
 }
 
 toolkit::Surface CPictureView::Fitted(const toolkit::Surface& picture) const
@@ -230,10 +241,10 @@ toolkit::Surface CPictureView::Fitted(const toolkit::Surface& picture) const
     const CSize own = picture.Bounds().Size();
     const CSize fitted = FittedSize(own);
     if (fitted == own)
-        return picture;
+        return OnScreen(picture);
     if (fitted.cx < own.cx)
-        return toolkit::ScaleSurface(picture, fitted);
-    return m_pictures.IsEnlarging() ? EnlargePixels(picture, fitted) : Enlarge(picture, fitted);
+        return OnScreen(toolkit::ScaleSurface(picture, fitted));
+    return OnScreen(m_pictures.IsEnlarging() ? EnlargePixels(picture, fitted) : Enlarge(picture, fitted));
 }
 
 } // namespace editor

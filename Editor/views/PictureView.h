@@ -15,7 +15,8 @@ namespace editor
 // Small pictures are enlarged, up to four times. Without a picture, the reason stands in the middle; where it takes its
 // time to be read, that it is coming. Of a file that is no picture, its sign. What is transparent lies on checks.
 //
-// The wheel zooms, a drag moves what is zoomed, a double click goes to the picture's own size and back. Zoomed pictures
+// Everything here counts in the screen's pixels, so that a picture's own size is a pixel to a pixel. The wheel zooms, a
+// drag moves what is zoomed, a double click goes to the picture's own size and back. Zoomed pictures
 // are read as they are, up to kMostRead pixels each way, and their pixels are squares; what was read before is shown
 // until then. The next picture is zoomed likewise, until none is shown.
 class CPictureView : public CWnd, public toolkit::Accessible
@@ -54,12 +55,12 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CRect View() const;
+    CRect View() const; // the client area
     CRect Room() const;
     void Fetch();
     void Take(const toolkit::Surface& picture);
     void AwaitPicture();
-    void DrawFitting(HDC hdc) const;
+    void DrawFitting(HDC hdc, const CRect& client) const;
     void DrawZoomed(HDC hdc) const;
     void DrawSign(HDC hdc, const CRect& client, hostkit::Pictogram sign, const std::string& line) const;
     double FitZoom() const;

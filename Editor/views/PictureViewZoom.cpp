@@ -48,6 +48,7 @@ bool CPictureView::PanBy(CSize by)
 BOOL CPictureView::OnMouseWheel(UINT, short zDelta, CPoint point)
 {
     ScreenToClient(&point);
+    point = toolkit::ScreenScale().ToPixels(point);
     Zoom([&] { m_zoom.Step(zDelta > 0 ? 1 : -1, point, View(), m_full, FitZoom()); });
     return TRUE;
 }
@@ -56,7 +57,7 @@ void CPictureView::OnLButtonDown(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonDown(nFlags, point);
     SetFocus();
-    m_grip = point;
+    m_grip = toolkit::ScreenScale().ToPixels(point);
     SetCapture();
 }
 
@@ -65,8 +66,9 @@ void CPictureView::OnMouseMove(UINT nFlags, CPoint point)
     CWnd::OnMouseMove(nFlags, point);
     if (GetCapture() != m_hWnd)
         return;
-    PanBy({point.x - m_grip.x, point.y - m_grip.y});
-    m_grip = point;
+    const CPoint now = toolkit::ScreenScale().ToPixels(point);
+    PanBy({now.x - m_grip.x, now.y - m_grip.y});
+    m_grip = now;
 }
 
 void CPictureView::OnLButtonUp(UINT nFlags, CPoint point)
@@ -80,7 +82,7 @@ void CPictureView::OnLButtonDblClk(UINT, CPoint point)
 {
     if (!m_zoom.IsFit())
         return Fit();
-    Zoom([&] { m_zoom.SetTo(1, point, View(), m_full, FitZoom()); });
+    Zoom([&] { m_zoom.SetTo(1, toolkit::ScreenScale().ToPixels(point), View(), m_full, FitZoom()); });
 }
 
 } // namespace editor

@@ -102,7 +102,7 @@ void CPane::OnPaint()
     CRect caption;
     GetClientRect(&caption);
     caption.bottom = kPaneCaptionHeight;
-    CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Width(), caption.bottom);
+    CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Size().cx, caption.bottom);
     DrawCentred(dc, icon, m_icon);
     caption.left = icon.right + kSpace;
     caption.right = (m_choices.empty() ? caption.right : ChoiceRect(0).left) - kSpace;

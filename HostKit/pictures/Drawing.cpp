@@ -119,7 +119,9 @@ Shape Outline(Shape shape, double width)
     };
 }
 
-Drawing::Drawing(int pixels, double units) : m_surface(CSize(pixels, pixels)), m_pixel(units / pixels) {}
+Drawing::Drawing(int extent, double units)
+    : m_surface(CSize(extent, extent), toolkit::ScreenScale()), m_pixel(units / m_surface.Width())
+{}
 
 template <class Coverage>
 void Drawing::Blend(Coverage coverage, const Ink& ink)

@@ -1,4 +1,5 @@
-// Small pictures drawn in code: shapes with smooth edges, in units that fit any number of pixels.
+// Small pictures drawn in code: shapes with smooth edges, in units that fit any number of pixels, as fine as the
+// screen.
 #pragma once
 
 #include "HostKit/base/Api.h"
@@ -38,11 +39,13 @@ struct Ink
     double opacity = 1;
 };
 
-// A square picture of `pixels` each way, transparent at first, on which `units` are counted each way.
+// A square picture of so many coordinates each way, transparent at first, on which `units` are counted each way.
 class HOSTKIT_API Drawing
 {
 public:
-    Drawing(int pixels, double units);
+    Drawing(int extent, double units);
+
+    int Pixels() const { return m_surface.Width(); }
 
     void Fill(const Shape& shape, const Ink& ink);
     // A soft shadow of the shape: darkest at its edge, gone `reach` units outside.

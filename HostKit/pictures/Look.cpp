@@ -48,7 +48,7 @@ int TextWidth(std::string_view text, toolkit::FontStyle style)
 
 void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
 {
-    toolkit::DrawSurface(hdc, toolkit::Centred(picture.Bounds().Size(), rect), picture, picture.Bounds());
+    toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
 }
 
 } // namespace hostkit

@@ -270,7 +270,7 @@ void DrawBackAndForth(Drawing& drawing, bool)
 
 } // namespace
 
-toolkit::Surface DrawPictogram(Pictogram which, int pixels)
+toolkit::Surface DrawPictogram(Pictogram which, int extent)
 {
     using Draw = void (*)(Drawing&, bool);
     static constexpr Draw draw[] = {
@@ -279,17 +279,17 @@ toolkit::Surface DrawPictogram(Pictogram which, int pixels)
         DrawRedo,          DrawCut,   DrawCopy,          DrawPaste,       DrawDelete,      DrawFind,
         DrawFile,          DrawPlay,  DrawPause,         DrawStepBack,    DrawStepForward, DrawSlower,
         DrawFaster,        DrawLoop,  DrawBackAndForth};
-    Drawing drawing(pixels, kUnits);
-    draw[static_cast<int>(which)](drawing, pixels >= kDetailed);
+    Drawing drawing(extent, kUnits);
+    draw[static_cast<int>(which)](drawing, drawing.Pixels() >= kDetailed);
     return drawing.Take();
 }
 
-const toolkit::Surface& GetPictogram(Pictogram which, int pixels)
+const toolkit::Surface& GetPictogram(Pictogram which, int extent)
 {
-    static std::map<std::tuple<Pictogram, int, bool>, toolkit::Surface> drawn;
-    const auto [at, isNew] = drawn.try_emplace({which, pixels, toolkit::IsDark()});
+    static std::map<std::tuple<Pictogram, int, double, bool>, toolkit::Surface> drawn;
+    const auto [at, isNew] = drawn.try_emplace({which, extent, toolkit::ScreenScale().Factor(), toolkit::IsDark()});
     if (isNew)
-        at->second = DrawPictogram(which, pixels);
+        at->second = DrawPictogram(which, extent);
     return at->second;
 }
 

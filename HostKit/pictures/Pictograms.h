@@ -1,5 +1,6 @@
-// Pictures for hosts that have no own, drawn at any size from 16 pixels up. Each has a transparent ground. Signs on
-// buttons are drawn so that they show on the ground of windows, light or dark; objects are the same on both.
+// Pictures for hosts that have no own, drawn at any size from 16 coordinates up, as fine as the screen. Each has a
+// transparent ground. Signs on buttons are drawn so that they show on the ground of windows, light or dark; objects are
+// the same on both.
 #pragma once
 
 #include "HostKit/base/Api.h"
@@ -39,9 +40,9 @@ enum class Pictogram
     BackAndForth,
 };
 
-HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int pixels);
+HOSTKIT_API toolkit::Surface DrawPictogram(Pictogram which, int extent);
 
 // The same, drawn once for each size on either ground and kept for the life of the process. User-interface thread only.
-HOSTKIT_API const toolkit::Surface& GetPictogram(Pictogram which, int pixels);
+HOSTKIT_API const toolkit::Surface& GetPictogram(Pictogram which, int extent);
 
 } // namespace hostkit

@@ -41,6 +41,7 @@ toolkit::Surface OnTransparentGround(toolkit::Surface picture)
 toolkit::Surface SideBySide(const toolkit::Surface& left, const toolkit::Surface& right)
 {
     toolkit::Surface both({left.Width() + right.Width(), left.Height()});
+    both.SetScale(left.Scale());
     for (int y = 0; y < left.Height(); ++y) {
         std::copy_n(left.Row(y), left.Width(), both.Row(y));
         std::copy_n(right.Row(y), right.Width(), both.Row(y) + left.Width());

@@ -14,15 +14,15 @@ protected:
     // Drawn into 80 by 80 pixels of white: the picture's colour and place, or "none yet", "fails", "nothing".
     static std::string Drawn(IAtomThumbnail* pThumb, UINT nFrame = 0)
     {
-        toolkit::Surface surface({100, 100}, 0xFFFFFFFF);
-        const HDC hdc = toolkit::CreateSurfaceDC(surface, {}, toolkit::Region(surface.Bounds()));
+        toolkit::Surface surface({100, 100}, toolkit::ScreenScale(), 0xFFFFFFFF);
+        const HDC hdc = toolkit::CreateSurfaceDC(surface, {}, toolkit::Region({{}, surface.Size()}));
         CRect rect(10, 10, 90, 90);
         const BOOL bDrawn = pThumb->Draw(hdc, rect, 0, 2, nFrame);
         DeleteDC(hdc);
         CRect place;
         bool isRed = false; // as the mark on a broken picture is
-        for (int y = 0; y < 100; ++y)
-            for (int x = 0; x < 100; ++x) {
+        for (int y = 0; y < surface.Height(); ++y)
+            for (int x = 0; x < surface.Width(); ++x) {
                 const toolkit::Pixel pixel = surface.At(x, y);
                 if (pixel != 0xFFFFFFFF)
                     place = place | CRect(x, y, x + 1, y + 1);
@@ -31,7 +31,7 @@ protected:
         if (!bDrawn)
             return place.IsRectEmpty() ? "fails" : "fails, but draws";
         const toolkit::Pixel pixel = surface.At(place.left, place.top);
-        if (pixel != surface.At(50, 50))
+        if (pixel != surface.At(surface.Width() / 2, surface.Height() / 2))
             return isRed ? "broken" : "none yet";
         char text[80];
         std::snprintf(text, sizeof text, "%06X at %d,%d-%d,%d", pixel & 0xFFFFFF, place.left, place.top, place.right,
@@ -198,6 +198,29 @@ TEST_F(PictureStoreTest, UntilItIsReadAtItsSizeAPictureIsDrawnAsItIsKnown)
     reader.AllowAll();
     Settle();
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(pWide).Get()));
+}
+
+TEST_F(PictureStoreTest, OnAFineScreenPicturesAreReadAtItsPixelsAndAsLargeAsElsewhere)
+{
+    folder.WriteBmp("wide.bmp", 320, 160, 0xFF102030);
+    folder.WriteBmp("small.bmp", 16, 10, 0xFF405060);
+    desktop.ShowScale(toolkit::PixelScale(2));
+    Open();
+    const CStubRef<IAtom> pWide = Find("wide.bmp"), pSmall = Find("small.bmp");
+    Drawn(Thumbnail(pWide).Get());
+    Drawn(Thumbnail(pSmall).Get());
+    Settle();
+    EXPECT_EQ("102030 at 20,60-180,140", Drawn(Thumbnail(pWide).Get()));
+    EXPECT_EQ("405060 at 84,90-116,110", Drawn(Thumbnail(pSmall).Get()));
+    const editor::PictureStore::Answer answer = pPictures->Find(folder.At("wide.bmp"), {160, 160}, pWide.Get());
+    ASSERT_TRUE(answer.pPicture) << "that is what was read";
+    EXPECT_EQ(160, answer.pPicture->Width());
+
+    ICONREQUEST request{32, 32, nullptr};
+    ASSERT_TRUE(CStubRef<IAtomIcon>::From(pWide.Get())->GetIcon(&request));
+    EXPECT_EQ(CSize(32, 32), GetIconSize(request.hIcon));
+    EXPECT_EQ(64, toolkit::IconSurface(request.hIcon)->Width());
+    DestroyIcon(request.hIcon);
 }
 
 TEST_F(PictureStoreTest, AnAnimatedPictureIsDrawnFrameByFrame)
