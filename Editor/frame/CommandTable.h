@@ -19,53 +19,56 @@ class PlaceCommands;
 class ViewCommands;
 
 // As they go to the frame.
-inline constexpr UINT ID_OPEN = 3001;
-inline constexpr UINT ID_CUT = 3002;
-inline constexpr UINT ID_COPY = 3003;
-inline constexpr UINT ID_PASTE = 3004;
-inline constexpr UINT ID_RENAME = 3005;
-inline constexpr UINT ID_REMOVE = 3006;
-inline constexpr UINT ID_SELECT_ALL = 3007;
-inline constexpr UINT ID_REFRESH = 3008;
-inline constexpr UINT ID_ICONS = 3009;
-inline constexpr UINT ID_THUMBNAILS = 3010;
-inline constexpr UINT ID_UNDO = 3011;
-inline constexpr UINT ID_REDO = 3012;
-inline constexpr UINT ID_NEW_FOLDER = 3031;
-inline constexpr UINT ID_NEW_PHASE = 3032;
-inline constexpr UINT ID_RESTORE = 3033;
-inline constexpr UINT ID_OPEN_FOLDER = 3041;
-inline constexpr UINT ID_NEW_WINDOW = 3042;
-inline constexpr UINT ID_SHOW_OUTSIDE = 3043;
-inline constexpr UINT ID_COPY_PATH = 3044;
-inline constexpr UINT ID_SAVE = 3045;
-inline constexpr UINT ID_CLOSE = 3046;
-inline constexpr UINT ID_TIMING = 3047;
-inline constexpr UINT ID_NEXT_PANE = 3048;
-inline constexpr UINT ID_BACK = 3049;
-inline constexpr UINT ID_FORWARD = 3050;
-inline constexpr UINT ID_UP = 3051;
-inline constexpr UINT ID_PATH = 3052;
-inline constexpr UINT ID_FOLDERS_FIRST = 3055;
-inline constexpr UINT ID_FILTER = 3056;
-inline constexpr UINT ID_LARGER = 3061;
-inline constexpr UINT ID_SMALLER = 3062;
-inline constexpr UINT ID_USUAL_SIZE = 3063;
-inline constexpr UINT ID_PIXELS = 3064;
-inline constexpr UINT ID_SEARCH = 3066;
-inline constexpr UINT ID_OWN_SIZE = 3065;
-inline constexpr UINT ID_RECENT = 3057;       // a menu
-inline constexpr UINT ID_RECENT_FIRST = 3100; // in it
-inline constexpr UINT ID_RECENT_LAST = 3119;
-inline constexpr UINT ID_PLAY = 3061;
-inline constexpr UINT ID_STEP_BACK = 3062;
-inline constexpr UINT ID_STEP_FORWARD = 3063;
-inline constexpr UINT ID_SLOWER = 3064;
-inline constexpr UINT ID_FASTER = 3065;
-inline constexpr UINT ID_LOOP = 3066;
-inline constexpr UINT ID_BACK_AND_FORTH = 3067;
-inline constexpr UINT ID_KEYS = 3053;
-inline constexpr UINT ID_ABOUT = 3054;
+enum : UINT
+{
+    ID_OPEN = 3001,
+    ID_CUT,
+    ID_COPY,
+    ID_PASTE,
+    ID_RENAME,
+    ID_REMOVE,
+    ID_SELECT_ALL,
+    ID_REFRESH,
+    ID_ICONS,
+    ID_THUMBNAILS,
+    ID_UNDO,
+    ID_REDO,
+    ID_NEW_FOLDER,
+    ID_NEW_PHASE,
+    ID_RESTORE,
+    ID_OPEN_FOLDER,
+    ID_NEW_WINDOW,
+    ID_SHOW_OUTSIDE,
+    ID_COPY_PATH,
+    ID_SAVE,
+    ID_CLOSE,
+    ID_TIMING,
+    ID_NEXT_PANE,
+    ID_BACK,
+    ID_FORWARD,
+    ID_UP,
+    ID_PATH,
+    ID_FOLDERS_FIRST,
+    ID_FILTER,
+    ID_LARGER,
+    ID_SMALLER,
+    ID_USUAL_SIZE,
+    ID_PIXELS,
+    ID_SEARCH,
+    ID_OWN_SIZE,
+    ID_RECENT, // a menu
+    ID_PLAY,
+    ID_STEP_BACK,
+    ID_STEP_FORWARD,
+    ID_SLOWER,
+    ID_FASTER,
+    ID_LOOP,
+    ID_BACK_AND_FORTH,
+    ID_KEYS,
+    ID_ABOUT,
+    ID_RECENT_FIRST = 3100, // in it
+    ID_RECENT_LAST = 3119
+};
 
 // Why something cannot be done just now, and what is on.
 struct CommandState
