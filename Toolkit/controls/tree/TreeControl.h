@@ -23,7 +23,7 @@ public:
     UINT AccRole(LPARAM item) override { return item == CHILDID_SELF ? ROLE_SYSTEM_OUTLINE : ROLE_SYSTEM_OUTLINEITEM; }
     UINT AccState(LPARAM item) override;
     std::string AccName(LPARAM item) override;
-    CRect AccPlace(LPARAM item) override { return m_layout.RowRect(m_items.RowOf(m_items.Find(ToHandle(item)))); }
+    CRect AccPlace(LPARAM item) override; // its label, which is what a press selects it by
     bool AccHas(LPARAM item) override;
     int AccCount(LPARAM parent) override;
     LPARAM AccChild(LPARAM parent, int place) override;

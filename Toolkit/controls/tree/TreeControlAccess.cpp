@@ -1,6 +1,8 @@
 // What the tree control tells assistive technology.
 #include "Toolkit/controls/tree/TreeControl.h"
 
+#include <cstring>
+
 namespace toolkit
 {
 
@@ -16,6 +18,15 @@ UINT TreeControl::AccState(LPARAM item)
     if ((AccPlace(item) & CRect(CPoint(), m_layout.Client())).IsRectEmpty())
         state |= STATE_SYSTEM_OFFSCREEN;
     return state;
+}
+
+CRect TreeControl::AccPlace(LPARAM item)
+{
+    const HTREEITEM hItem = ToHandle(item);
+    CRect label;
+    std::memcpy(static_cast<RECT*>(&label), &hItem, sizeof(hItem));
+    m_viewport.OnGetItemRect(TRUE, &label);
+    return label;
 }
 
 std::string TreeControl::AccName(LPARAM item)
