@@ -95,6 +95,9 @@ int CEditorList::RowToKeepInSight() const
     const int middle = client.CenterPoint().y;
     if (GetItemRect(GetFocusedRow(), &row, LVIR_ICON) && row.bottom > 0 && row.top < client.bottom)
         return GetFocusedRow();
+    SCROLLINFO scroll{};
+    if (::GetScrollInfo(GetSafeHwnd(), SB_VERT, &scroll) && scroll.nPos == 0)
+        return 0; // whoever is at the top stays there
     int nRow = m_view.GetTopIndex();
     while (nRow + 1 < GetItemCount() && GetItemRect(nRow, &row, LVIR_ICON) && row.bottom <= middle)
         ++nRow;
