@@ -120,6 +120,16 @@ void Content::TakeFocus()
         m_pList->SetFocus();
 }
 
+bool Content::FocusPlayer()
+{
+    CRect player;
+    m_player.GetClientRect(&player);
+    if (!m_pPlayed || player.IsRectEmpty() || ::GetFocus() == m_player.m_hWnd)
+        return false;
+    m_player.SetFocus();
+    return true;
+}
+
 void Content::ShowList(ListKind kind)
 {
     CEditorList& next = kind == ListKind::Icons ? static_cast<CEditorList&>(m_icons) : m_thumbnails;

@@ -41,6 +41,7 @@ public:
 
     void MoveTo(const CRect& rect); // all of it; in the frame's client coordinates
     void TakeFocus();
+    bool FocusPlayer(); // above the list; false: it is not there, or has the focus already
     ListKind GetKind() const { return m_pList == &m_icons ? ListKind::Icons : ListKind::Thumbnails; }
     void ShowList(ListKind kind); // with the selection of the one before
     // Of thumbnails, in pixels each way: some from the least to the most, or the next that is one of a few.

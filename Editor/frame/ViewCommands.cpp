@@ -96,7 +96,10 @@ void ViewCommands::FocusNextPane()
 {
     CRect tree;
     m_parts.treePane.GetClientRect(&tree);
-    if (::GetFocus() == m_parts.tree.m_hWnd || tree.IsRectEmpty())
+    const bool bTree = ::GetFocus() == m_parts.tree.m_hWnd;
+    if (!bTree && m_parts.content.FocusPlayer())
+        return;
+    if (bTree || tree.IsRectEmpty())
         m_parts.content.TakeFocus();
     else
         m_parts.tree.SetFocus();

@@ -3,6 +3,7 @@
 #include "Editor/pictures/Enlarge.h"
 #include "Editor/widgets/Look.h"
 #include "HostKit/pictures/Pictograms.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/Scale.h"
@@ -42,6 +43,8 @@ BEGIN_MESSAGE_MAP(CPlayerView, CWnd)
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
+    ON_WM_SETFOCUS()
+    ON_WM_KILLFOCUS()
     ON_WM_LBUTTONDOWN()
     ON_MESSAGE(kUpdate, OnUpdate)
 END_MESSAGE_MAP()
@@ -55,7 +58,7 @@ CPlayerView::CPlayerView(Events events)
 BOOL CPlayerView::Create(CWnd* pParent)
 {
     return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) &&
-           m_tools.Create(this) && m_seekBar.Create(this);
+           m_tools.Create(this) && m_seekBar.Create(this) && SetAccessibleName(m_tools.m_hWnd, "Player");
 }
 
 void CPlayerView::SetFrames(std::unique_ptr<Frames> pFrames)
@@ -265,9 +268,12 @@ BOOL CPlayerView::OnEraseBkgnd(HDC hdc)
 void CPlayerView::OnPaint()
 {
     const CPaintDC dc(this);
+    CRect stage = Stage();
+    if (::GetFocus() == m_hWnd)
+        DrawFocusRect(dc, stage);
+    stage.DeflateRect(1, 1);
     if (m_shown.IsEmpty())
         return;
-    const CRect stage = Stage();
     IntersectClipRect(dc, stage);
     DrawChecks(dc, {toolkit::Centred(m_shown.Size(), stage), m_shown.Size()});
     DrawCentred(dc, stage, m_shown);
@@ -280,6 +286,18 @@ void CPlayerView::OnSize(UINT nType, int cx, int cy)
     m_tools.MoveWindow({0, Stage().bottom, nTools, cy});
     m_seekBar.MoveWindow({nTools, Stage().bottom, cx, cy});
     ShowPresent();
+}
+
+void CPlayerView::OnSetFocus(CWnd* pOldWnd)
+{
+    CWnd::OnSetFocus(pOldWnd);
+    Invalidate();
+}
+
+void CPlayerView::OnKillFocus(CWnd* pNewWnd)
+{
+    CWnd::OnKillFocus(pNewWnd);
+    Invalidate();
 }
 
 void CPlayerView::OnLButtonDown(UINT, CPoint)
