@@ -47,4 +47,4 @@ build_jobs() { # one for each core, but none without 1.5 GiB of memory for itsel
 
 BUILD_PACKAGES=(g++ cmake ninja-build)
 DESKTOP_PACKAGES=(qt6-base-dev libgl-dev qt6-image-formats-plugins fonts-dejavu-core)
-SCREEN_PACKAGES=(xvfb x11-xkb-utils xauth xdotool openbox weston qt6-wayland) # screens of the tests' own
+SCREEN_PACKAGES=(xvfb x11-xkb-utils xauth xdotool openbox dbus-daemon weston qt6-wayland) # screens of the tests' own

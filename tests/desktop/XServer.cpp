@@ -54,8 +54,9 @@ std::string Program::Await(const std::string& beginning)
 // It is not to begin anew whenever its only program ends, and says its display's number once it takes connections.
 bool XServer::Start()
 {
-    m_server.start("Xvfb", {"-displayfd", "1", "-screen", "0", "1280x840x24", "-nolisten", "tcp", "-noreset", "-fbdir",
-                            m_folder.path()});
+    m_server.start("Xvfb",
+                   {"-displayfd", "1", "-screen", "0", QString("%1x%2x24").arg(m_size.width()).arg(m_size.height()),
+                    "-nolisten", "tcp", "-noreset", "-fbdir", m_folder.path()});
     m_environment.insert("DISPLAY", QString::fromStdString(":" + m_server.Line()));
     m_environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
     m_environment.insert("LC_ALL", "C.UTF-8"); // whose table of dead keys is the usual one

@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPoint>
 #include <QProcess>
+#include <QSize>
 #include <QString>
 #include <QTemporaryDir>
 #include <optional>
@@ -35,6 +36,7 @@ public:
     QImage Look() const;               // what the screen shows
 
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment(); // of all programs
+    QSize m_size{1280, 840};                                                      // of the screen
 
 private:
     QTemporaryDir m_folder; // with the screen's memory
