@@ -1,6 +1,7 @@
 #include "Editor/pictures/IconPainter.h"
 
 #include "Editor/pictures/Enlarge.h"
+#include "HostKit/pictures/Look.h"
 #include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/Scale.h"
 
@@ -74,6 +75,13 @@ BOOL DrawInTheMiddle(HDC hdc, const CRect& rect, const toolkit::Surface& picture
     return toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
 }
 
+BOOL DrawPicture(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
+{
+    if (!CoversAll(picture))
+        hostkit::DrawChecks(hdc, {toolkit::Centred(picture.Size(), rect), picture.Size()});
+    return DrawInTheMiddle(hdc, rect, picture);
+}
+
 // The margin, in pixels, is right and below.
 toolkit::Surface PaintInTheMiddle(const toolkit::Surface& picture, CSize size, int margin = 0)
 {
@@ -140,18 +148,22 @@ BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answe
 {
     const toolkit::PixelScale scale = toolkit::ScaleOf(hdc);
     const CSize room = scale.ToPixels(rect.Size());
+    const auto fitted = [&](const toolkit::Surface& picture, CSize size) {
+        return Fitted(picture, PixelsWithin(size, room, scale), scale);
+    };
     if (answer.pMeanwhile)
-        return DrawInTheMiddle(hdc, rect,
-                               Fitted(*answer.pMeanwhile, PixelsWithin(answer.fullSize, room, scale), scale));
-    const hostkit::Pictogram instead =
-        answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder;
-    const toolkit::Surface& picture = answer.pPicture ? *answer.pPicture : hostkit::GetPictogram(instead, kPlaceholder);
-    if (bEnlarge && answer.pPicture && 2 * picture.Width() <= room.cx && 2 * picture.Height() <= room.cy) {
-        toolkit::Surface large = EnlargePixels(picture, room);
-        large.SetScale(scale);
-        return DrawInTheMiddle(hdc, rect, large);
+        return DrawPicture(hdc, rect, fitted(*answer.pMeanwhile, answer.fullSize));
+    if (!answer.pPicture) {
+        const toolkit::Surface& sign = hostkit::GetPictogram(
+            answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder, kPlaceholder);
+        return DrawInTheMiddle(hdc, rect, fitted(sign, sign.Size()));
     }
-    return DrawInTheMiddle(hdc, rect, Fitted(picture, PixelsWithin(picture.Size(), room, scale), scale));
+    const toolkit::Surface& picture = *answer.pPicture;
+    if (!bEnlarge || 2 * picture.Width() > room.cx || 2 * picture.Height() > room.cy)
+        return DrawPicture(hdc, rect, fitted(picture, picture.Size()));
+    toolkit::Surface large = EnlargePixels(picture, room);
+    large.SetScale(scale);
+    return DrawPicture(hdc, rect, large);
 }
 
 } // namespace editor

@@ -25,8 +25,8 @@ toolkit::Surface WithMark(toolkit::Surface icon, hostkit::Pictogram mark);
 void DrawMark(HDC hdc, const CRect& rect, hostkit::Pictogram mark);
 
 // The picture in the middle of the rectangle, smaller when it does not fit, or enlarged where that is wanted; or what
-// tells that there is none, or none yet where it is not known at another size either. FALSE, and nothing drawn, without
-// memory.
+// tells that there is none, or none yet where it is not known at another size either; what is transparent over checks.
+// FALSE, and nothing drawn, without memory.
 BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answer, bool bEnlarge = false);
 
 } // namespace editor

@@ -12,7 +12,7 @@ namespace
 constexpr std::pair<UINT, LPCSTR> kTexts[] = {
     {views::IDS_TREE_PANE, "Library"},
     {views::IDR_TREE_PANE, "Library"},
-    {views::IDR_THUMBNAIL_PANE, "Pictures"},
+    {views::IDR_THUMBNAIL_PANE, "Thumbnails"},
     {IDS_SAVE_FAILED, "Not everything was saved"},
     {IDS_DROP_FAILED, "Not everything was taken"},
     {IDS_NEW_FAILED, "Nothing new was made"},

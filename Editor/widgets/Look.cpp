@@ -51,16 +51,6 @@ toolkit::Surface Faded(toolkit::Surface picture, double strength)
     return picture;
 }
 
-void DrawChecks(HDC hdc, const CRect& rect)
-{
-    const COLORREF dark = hostkit::MixSysColors(COLOR_WINDOW, COLOR_BTNSHADOW, 30);
-    FillSolidRect(hdc, rect, GetSysColor(COLOR_WINDOW));
-    for (int y = rect.top; y < rect.bottom; y += kSpace)
-        for (int x = rect.left + (y - rect.top) % (2 * kSpace); x < rect.right; x += 2 * kSpace)
-            FillSolidRect(hdc, {x, y, std::min<int>(x + kSpace, rect.right), std::min<int>(y + kSpace, rect.bottom)},
-                          dark);
-}
-
 void FillBottomBar(HDC hdc, HWND hBar)
 {
     CRect client;

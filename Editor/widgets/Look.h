@@ -8,6 +8,7 @@ namespace editor
 
 using hostkit::Align;
 using hostkit::DrawCentred;
+using hostkit::DrawChecks;
 using hostkit::DrawTextLine;
 using hostkit::kPaneCaptionHeight;
 using hostkit::kSpace;
@@ -34,7 +35,6 @@ void FillTopBar(HDC hdc, HWND hBar);
 void FillField(HDC hdc, const CRect& rect);
 
 toolkit::Surface Faded(toolkit::Surface picture, double strength); // 0: nothing is left of it
-void DrawChecks(HDC hdc, const CRect& rect);                       // what lies under transparent pictures
 
 // What a bar at the bottom lies on, with a line above it: the window's whole client area.
 void FillBottomBar(HDC hdc, HWND hBar);

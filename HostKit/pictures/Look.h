@@ -33,4 +33,6 @@ HOSTKIT_API int TextWidth(std::string_view text, toolkit::FontStyle style = tool
 // In the middle of the rectangle.
 HOSTKIT_API void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
 
+HOSTKIT_API void DrawChecks(HDC hdc, const CRect& rect); // what lies under transparent pictures
+
 } // namespace hostkit

@@ -378,7 +378,7 @@ TEST_P(WalkthroughTest, ACharacterItsPhasesAPictureAmongManyAndTheNextDay)
     // The next day all is where it was.
     Show("Ada");
     Keys("ctrl+2");
-    AwaitPart("list", "Pictures");
+    AwaitPart("list", "Thumbnails");
     Keys("ctrl+plus");
     XDo("windowsize --sync " + FindWindow("Ada - Views") + " 1100 700 windowmove " + FindWindow("Ada - Views") +
         " 90 70");
