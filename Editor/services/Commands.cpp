@@ -197,8 +197,14 @@ std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& a
 try {
     const History::Step step(&m_editor.GetHistory(), "paste");
     const LongWork::Command command(&m_editor.GetWork(), "Pasting", Progress::Unit::Bytes);
+    auto* const pPhase = dynamic_cast<CPhase*>(pTarget);
+    const UINT nFormer = pPhase ? pPhase->GetCount() : 0;
     const Arrivals arrivals(m_editor, pTarget, arrived);
-    return AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
+    std::string reason = AreFilesOnClipboard(pTarget) ? PasteClipboardFiles(pTarget) : PasteAtoms(pTarget);
+    if (pPhase && arrived.empty()) // of its new frames nobody is told one by one
+        for (UINT i = nFormer; i < pPhase->GetCount(); ++i)
+            pPhase->GetAtoms(i, 1, arrived.emplace_back().Receive(), IID_IAtom);
+    return reason;
 } catch (const CException& e) {
     return e.GetErrorMessage();
 }

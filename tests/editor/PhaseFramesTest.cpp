@@ -92,6 +92,10 @@ TEST_F(PhaseFramesTest, PicturesFromElsewhereComeWhereTheyAreDropped)
     EXPECT_EQ(
         Ledger({"Views: Not everything was taken: far.bmp: only pictures of the same library can be put into a phase"}),
         TakeBoxes());
+    desktop.TakeClipboard({{"text/uri-list", uri(folder, "a.bmp") + uri(folder, "b.bmp")}});
+    Control('V');
+    EXPECT_EQ("[e.bmp d.bmp a.bmp x.bmp b.bmp c.bmp d.bmp e.bmp (*a.bmp) (b.bmp)]", Rows());
+    Control('Z');
     Control('Z');
     Control('Z');
     EXPECT_EQ(kWalk, Walk());
