@@ -4,6 +4,7 @@
 #include "HostKit/pictures/Look.h"
 #include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/Scale.h"
+#include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
 
@@ -77,8 +78,10 @@ BOOL DrawInTheMiddle(HDC hdc, const CRect& rect, const toolkit::Surface& picture
 
 BOOL DrawPicture(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
 {
-    if (!CoversAll(picture))
+    if (!CoversAll(picture)) {
+        FillSolidRect(hdc, rect, GetSysColor(COLOR_WINDOW));
         hostkit::DrawChecks(hdc, {toolkit::Centred(picture.Size(), rect), picture.Size()});
+    }
     return DrawInTheMiddle(hdc, rect, picture);
 }
 

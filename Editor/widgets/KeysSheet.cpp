@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr int kMargin = 2 * kSpace;
+constexpr int kGap = kSpace; // between groups
 constexpr int kLeastColumn = 340; // pixels wide
 
 int LineStep()
@@ -63,7 +64,7 @@ std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
     const int width = (room.Width() - (nColumns - 1) * kMargin) / nColumns;
     int whole = 0;
     for (const Group& group : m_groups)
-        whole += HeightOf(group) + kMargin;
+        whole += HeightOf(group) + kGap;
 
     std::vector<Place> places;
     CPoint at = room.TopLeft();
@@ -74,7 +75,7 @@ std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
         if (bFull && column + 1 < nColumns)
             at = {room.left + ++column * (width + kMargin), room.top};
         places.push_back({{at, CSize(width, height)}, &group});
-        at.y += height + kMargin;
+        at.y += height + kGap;
     }
     return places;
 }
