@@ -35,6 +35,15 @@ QPalette DarkPalette()
     return palette;
 }
 
+// Menus stand out from what they cover, and what cannot be chosen has no shadow.
+QPalette MenuPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Base, palette.color(QPalette::Window));
+    palette.setColor(QPalette::Window, palette.color(QPalette::Light)); // of which the line around them is made
+    palette.setColor(QPalette::Disabled, QPalette::Light, palette.color(QPalette::Base));
+    return palette;
+}
+
 bool IsLight(const QPalette& palette)
 {
     return palette.color(QPalette::Base).lightness() > palette.color(QPalette::Text).lightness();
@@ -72,8 +81,7 @@ AskedColors::AskedColors()
 
 AskedColors::~AskedColors()
 {
-    if (m_bMadeDark)
-        QApplication::setPalette(QPalette());
+    Follow(0);
 }
 
 void AskedColors::OnSettingChanged(const QDBusMessage& news)
@@ -89,7 +97,9 @@ void AskedColors::Follow(uint nWanted)
     if (bDark == m_bMadeDark || (bDark && !IsLight(QApplication::palette())))
         return;
     m_bMadeDark = bDark;
-    QApplication::setPalette(bDark ? DarkPalette() : QPalette());
+    const QPalette palette = bDark ? DarkPalette() : QPalette();
+    QApplication::setPalette(palette);
+    QApplication::setPalette(bDark ? MenuPalette(palette) : palette, "QMenu");
 }
 
 } // namespace qtdesktop
