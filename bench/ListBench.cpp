@@ -39,11 +39,12 @@ struct ShownList
 };
 
 // From the host's call to the first complete frame on the screen.
-void OpenContainer(benchmark::State& state)
+void OpenContainer(benchmark::State& state, UINT nOrder)
 {
     const EditorService service;
     Container container(static_cast<unsigned>(state.range(0)));
     ListWindow window;
+    window.List().SetMemberOrder(nOrder);
     for (auto _ : state) {
         window.List().OnAtomEntered(&container, nullptr);
         window.Settle();
@@ -245,7 +246,8 @@ void Sizes(benchmark::internal::Benchmark* bench)
     bench->RangeMultiplier(10)->Range(1000, 1000000)->Unit(benchmark::kMillisecond);
 }
 
-BENCHMARK(OpenContainer)->Apply(Sizes);
+BENCHMARK_CAPTURE(OpenContainer, by_name, MOF_BYNAME)->Apply(Sizes);
+BENCHMARK_CAPTURE(OpenContainer, natural, MOF_NATURAL)->Apply(Sizes);
 BENCHMARK(JumpAndPaintAFrame)->Apply(Sizes);
 BENCHMARK(ScrollANotch)->Apply(Sizes);
 BENCHMARK(SelectAllAndClear)->Apply(Sizes);
