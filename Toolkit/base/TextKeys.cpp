@@ -69,10 +69,16 @@ void AppendFolded(std::string& key, std::string_view text)
     }
 }
 
-constexpr std::string_view kDigits = "0123456789";
 constexpr char kTieBreak = 1;         // stands before what only differs in leading zeros
 constexpr std::size_t kLongest = 255; // what a byte can tell of a number's length
 constexpr char kNumber = '0';         // numbers stand where digits do
+
+// The part of the text before the first that is a digit, or that is none.
+std::size_t SpanOf(std::string_view text, bool bDigits)
+{
+    const auto ends = [=](char c) { return (c >= '0' && c <= '9') != bDigits; };
+    return static_cast<std::size_t>(std::find_if(text.begin(), text.end(), ends) - text.begin());
+}
 
 // The value's length and then its digits: longer ones are greater. Its leading zeros.
 std::size_t AppendNumber(std::string& key, std::string_view digits)
@@ -90,10 +96,10 @@ void AppendNatural(std::string& key, std::string_view text)
     std::string zeros;
     bool bZeros = false;
     while (!text.empty()) {
-        const std::size_t number = std::min(text.find_first_of(kDigits), text.size());
+        const std::size_t number = SpanOf(text, false);
         AppendFolded(key, text.substr(0, number));
         text.remove_prefix(number);
-        const std::size_t end = std::min(text.find_first_not_of(kDigits), text.size());
+        const std::size_t end = SpanOf(text, true);
         if (end == 0)
             break;
         const std::size_t nZeros = AppendNumber(key, text.substr(0, end));
