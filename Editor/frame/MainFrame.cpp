@@ -140,17 +140,25 @@ BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 }
 
 // A player that stands still shows the frame that the user is at.
-BOOL CMainFrame::OnAtomSelected(IAtom* pAtom, IAtomContainer*)
+void CMainFrame::FollowFrame(IAtom* pAtom)
 {
     const auto* const pLink = dynamic_cast<const CImageLink*>(CMember::Of(pAtom));
     if (pLink && pLink->Container() == Shown() && pLink->Position() >= 0)
         m_content.GetPlayer().Follow(pLink->Position());
+}
+
+BOOL CMainFrame::OnAtomSelected(IAtom* pAtom, IAtomContainer*)
+{
+    FollowFrame(pAtom);
     UpdateStatus();
     return TRUE;
 }
 
+// The one of several that is left is where the user is.
 BOOL CMainFrame::OnAtomDeselected(IAtom*, IAtomContainer*)
 {
+    if (m_content.GetPlayer().HasFrames() && GetList().GetSelectedCount() == 1)
+        FollowFrame(GetList().GetAtom(GetList().GetNextItem(-1, LVNI_SELECTED)).Get());
     UpdateStatus();
     return TRUE;
 }

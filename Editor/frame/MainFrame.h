@@ -98,6 +98,7 @@ private:
     CEditorList::Events ListEvents();
     CPlayerView::Events PlayerEvents();
     void ShowMovement();
+    void FollowFrame(IAtom* pAtom);
     void UpdateStatus();
     CPropertiesPane::Phases SelectedPhases() const;
 

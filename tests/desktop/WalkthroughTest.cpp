@@ -237,7 +237,8 @@ protected:
         EXPECT_EQ(GetParam().bDark, now.pixelColor(ground * GetParam().nScale).lightness() < 128) << qPrintable(what);
         const QString name =
             QString::asprintf("%s %02zu %s.png", NameOf({GetParam(), 0}).c_str(), m_done.size(), qPrintable(what));
-        EXPECT_TRUE(now.save(QDir(qEnvironmentVariable(kPictures, m_folder.path())).filePath(name)));
+        EXPECT_TRUE(now.save(QDir(qEnvironmentVariable(kPictures, m_folder.path())).filePath(name), "png",
+                             90)); // quickly written
     }
 
     QTemporaryDir m_folder;
@@ -296,14 +297,14 @@ TEST_P(WalkthroughTest, ACharacterItsPhasesAPictureAmongManyAndTheNextDay)
     for (const char* pszFrame : {"[12]", "[34]"})
         AwaitPart("slider", QString("Frame: %1 of 4, 100 ms").arg(pszFrame));
     Keys("space");
-    Keys("End");
-    AwaitPart("slider", "Frame: 4 of 4, 100 ms");
+    Keys("Home"); // one of the two that are selected
+    AwaitPart("slider", "Frame: 1 of 4, 100 ms");
     Did("played");
     Keys("F8");
-    AwaitPart("slider", "Frame: 1 of 4, 100 ms");
+    AwaitPart("slider", "Frame: 2 of 4, 100 ms");
     Keys("F6");
     Keys("Left");
-    AwaitPart("slider", "Frame: 4 of 4, 100 ms");
+    AwaitPart("slider", "Frame: 1 of 4, 100 ms");
     Did("stepped");
 
     // A picture gets another name, which its phases follow.
