@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr int kMargin = 2 * kSpace;
-constexpr int kGap = kSpace; // between groups
+constexpr int kGap = kSpace;      // between groups
 constexpr int kLeastColumn = 340; // pixels wide
 
 int LineStep()

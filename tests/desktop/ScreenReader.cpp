@@ -54,7 +54,7 @@ std::vector<Part> ScreenReader::Read(qint64 nProcess)
     const QDBusReply<QStringList> services = Bus().interface()->registeredServiceNames();
     for (const QString& service : services.value())
         if (service.startsWith(':') && Bus().interface()->servicePid(service).value() == nProcess)
-            Add({service, "/org/a11y/atspi/accessible/root", {}, {}, {}, {}}, parts);
+            AddChildren({service, "/org/a11y/atspi/accessible/root", {}, {}, {}, {}}, parts);
     return parts;
 }
 
@@ -74,54 +74,39 @@ QVariant ScreenReader::Property(const Part& part, const QString& name)
     return answer.isEmpty() ? QVariant() : answer[0].value<QDBusVariant>().variant();
 }
 
-std::vector<Part> ScreenReader::ChildrenOf(const Part& part)
-{
-    std::vector<Part> children;
-    const int nCount = Property(part, "ChildCount").toInt();
-    if (nCount == 0 || nCount > kMostParts)
-        return children;
-    const QVariantList answer = Ask(part, "org.a11y.atspi.Accessible", "GetChildren", {});
-    if (answer.isEmpty())
-        return children;
-    const auto list = answer[0].value<QDBusArgument>();
-    list.beginArray();
-    while (!list.atEnd()) {
-        Part child;
-        QDBusObjectPath path;
-        list.beginStructure();
-        list >> child.service >> path;
-        list.endStructure();
-        child.path = path.path();
-        child.depth = part.depth + 1;
-        children.push_back(child);
-    }
-    list.endArray();
-    return children;
-}
-
 void ScreenReader::Describe(Part& part)
 {
     part.name = Property(part, "Name").toString();
     part.role = Ask(part, "org.a11y.atspi.Accessible", "GetRoleName", {}).value(0).toString();
-    const QVariant states = Ask(part, "org.a11y.atspi.Accessible", "GetState", {}).value(0);
-    const auto words = qdbus_cast<QList<uint>>(states);
-    part.states = words.size() == 2 ? words[0] | quint64(words[1]) << 32 : 0;
-    const QVariantList place = Ask(part, "org.a11y.atspi.Component", "GetExtents", {0u});
-    if (place.isEmpty())
-        return;
+    const auto words = qdbus_cast<QList<uint>>(Ask(part, "org.a11y.atspi.Accessible", "GetState", {}).value(0));
+    part.states = words.size() == 2 ? words[0] : 0;
+    const auto numbers = Ask(part, "org.a11y.atspi.Component", "GetExtents", {0u}).value(0).value<QDBusArgument>();
     int x = 0, y = 0, cx = 0, cy = 0;
-    const auto numbers = place[0].value<QDBusArgument>();
+    if (numbers.currentType() != QDBusArgument::StructureType)
+        return;
     numbers.beginStructure();
     numbers >> x >> y >> cx >> cy;
     numbers.endStructure();
     part.place = {x, y, cx, cy};
 }
 
-void ScreenReader::Add(const Part& part, std::vector<Part>& parts)
+void ScreenReader::AddChildren(const Part& parent, std::vector<Part>& parts)
 {
-    for (Part& child : ChildrenOf(part)) {
+    if (Property(parent, "ChildCount").toInt() > kMostParts)
+        return;
+    const auto list = Ask(parent, "org.a11y.atspi.Accessible", "GetChildren", {}).value(0).value<QDBusArgument>();
+    if (list.currentType() != QDBusArgument::ArrayType)
+        return;
+    for (list.beginArray(); !list.atEnd();) {
+        Part child;
+        QDBusObjectPath path;
+        list.beginStructure();
+        list >> child.service >> path;
+        list.endStructure();
+        child.path = path.path();
+        child.depth = parent.depth + 1;
         Describe(child);
         parts.push_back(child);
-        Add(child, parts);
+        AddChildren(child, parts);
     }
 }

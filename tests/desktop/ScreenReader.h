@@ -13,15 +13,13 @@ struct Part
     QString service, path; // where to ask about it
     QString role, name;
     QRect place; // on the screen, in the desktop's units
-    quint64 states = 0;
+    uint states = 0;
     int depth = 0;
 
     enum State
     {
         Expanded = 10,
         Focused = 12,
-        Selected = 23,
-        Sensitive = 24,
         Showing = 25
     };
     bool Is(State state) const { return states >> state & 1; }
@@ -44,9 +42,8 @@ private:
 
     QVariantList Ask(const Part& part, const QString& interface, const QString& what, const QVariantList& arguments);
     QVariant Property(const Part& part, const QString& name);
-    std::vector<Part> ChildrenOf(const Part& part);
     void Describe(Part& part);
-    void Add(const Part& part, std::vector<Part>& parts);
+    void AddChildren(const Part& parent, std::vector<Part>& parts);
 
     Program m_daemon;
     QString m_address;

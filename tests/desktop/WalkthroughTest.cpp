@@ -10,29 +10,22 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QImage>
+#include <QPainter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace
 {
 
-struct Screen
-{
-    bool bDark;
-    int nScale;
-};
-
-void PrintTo(const Screen& screen, std::ostream* pStream)
-{
-    *pStream << (screen.bDark ? "dark" : "light") << " at " << screen.nScale;
-}
+using Screen = std::tuple<bool, int>; // dark? at which scale?
 
 std::string NameOf(const testing::TestParamInfo<Screen>& screen)
 {
-    return (screen.param.bDark ? "DarkAt" : "LightAt") + std::to_string(screen.param.nScale);
+    return (std::get<bool>(screen.param) ? "DarkAt" : "LightAt") + std::to_string(std::get<int>(screen.param));
 }
 
 constexpr char kPictures[] = "VIEWS_WALK_PICTURES";
@@ -43,10 +36,9 @@ class WalkthroughTest : public XServerTest, public testing::WithParamInterface<S
 protected:
     void SetUp() override
     {
-        const bool bAll = qEnvironmentVariableIsSet(kPictures), bUsual = GetParam().bDark == (GetParam().nScale == 2);
-        if (!bAll && !bUsual)
+        if (m_bDark != (m_nScale == 2) && !qEnvironmentVariableIsSet(kPictures))
             GTEST_SKIP() << "only with " << kPictures;
-        m_size *= GetParam().nScale;
+        m_size *= m_nScale;
         XServerTest::SetUp();
         if (IsSkipped())
             return;
@@ -56,10 +48,10 @@ protected:
             m_environment.insert(pszVariable, m_folder.filePath(pszVariable));
             ASSERT_TRUE(QDir(m_folder.path()).mkpath(pszVariable));
         }
-        m_environment.insert("QT_SCALE_FACTOR", QString::number(GetParam().nScale));
+        m_environment.insert("QT_SCALE_FACTOR", QString::number(m_nScale));
         XServer::Start(m_manager, "openbox", {"--startup", "echo ready"});
         ASSERT_EQ("ready", m_manager.Await("ready"));
-        ASSERT_TRUE(m_reader.Start(*this, GetParam().bDark));
+        ASSERT_TRUE(m_reader.Start(*this, m_bDark));
         Draw();
     }
 
@@ -71,9 +63,7 @@ protected:
         for (int i = 1; i <= 24; ++i) {
             QImage picture(96, 96, QImage::Format_ARGB32);
             picture.fill(Qt::transparent);
-            for (int y = 20; y < 76; ++y)
-                std::fill_n(reinterpret_cast<QRgb*>(picture.scanLine(y)) + i * 2, 40,
-                            QColor::fromHsv(i * 15 - 15, 200, 220).rgb());
+            QPainter(&picture).fillRect(i * 2, 20, 40, 56, QColor::fromHsv(i * 15 - 15, 200, 220));
             ASSERT_TRUE(picture.save(m_folder.filePath(QString("Cast/Sketches/sketch %1.png").arg(i))));
             ASSERT_TRUE(i > 3 || picture.save(m_folder.filePath(QString("Cast/Bo/nod %1.png").arg(i))));
         }
@@ -165,7 +155,7 @@ protected:
     {
         const QPoint at =
             part.role == "list item" ? QPoint(part.place.center().x(), part.place.top() + 28) : part.place.center();
-        return at * GetParam().nScale;
+        return at * m_nScale;
     }
 
     void Click(const QString& role, const QString& name, const QString& holding = {}, int nTimes = 1)
@@ -189,10 +179,7 @@ protected:
     }
 
     // Between a row and the one before it.
-    QPoint LeftOf(const QString& name)
-    {
-        return (Find("list item", name).place.topLeft() + QPoint(3, 40)) * GetParam().nScale;
-    }
+    QPoint LeftOf(const QString& name) { return (Find("list item", name).place.topLeft() + QPoint(3, 40)) * m_nScale; }
 
     void Show(const QString& folder) // in the tree
     {
@@ -234,13 +221,15 @@ protected:
         Await("calm", isCalm);
         m_done.push_back(Disk());
         const QPoint ground = AwaitPart("menu bar", "Menus").place.bottomRight() - QPoint(4, 4);
-        EXPECT_EQ(GetParam().bDark, now.pixelColor(ground * GetParam().nScale).lightness() < 128) << qPrintable(what);
+        EXPECT_EQ(m_bDark, now.pixelColor(ground * m_nScale).lightness() < 128) << qPrintable(what);
         const QString name =
             QString::asprintf("%s %02zu %s.png", NameOf({GetParam(), 0}).c_str(), m_done.size(), qPrintable(what));
         EXPECT_TRUE(now.save(QDir(qEnvironmentVariable(kPictures, m_folder.path())).filePath(name), "png",
                              90)); // quickly written
     }
 
+    const bool m_bDark = std::get<bool>(GetParam());
+    const int m_nScale = std::get<int>(GetParam());
     QTemporaryDir m_folder;
     Program m_manager, m_editor;
     ScreenReader m_reader;
@@ -367,8 +356,8 @@ TEST_P(WalkthroughTest, ACharacterItsPhasesAPictureAmongManyAndTheNextDay)
     Keys("ctrl+plus");
     XDo(QString("windowsize --sync %1 %2 %3 windowmove --sync %1 90 70")
             .arg(FindWindow("Ada - Views"))
-            .arg(1100 * GetParam().nScale)
-            .arg(700 * GetParam().nScale));
+            .arg(1100 * m_nScale)
+            .arg(700 * m_nScale));
     Did("before the end");
     const std::string before = Shown();
     Keys("ctrl+q");
@@ -379,7 +368,6 @@ TEST_P(WalkthroughTest, ACharacterItsPhasesAPictureAmongManyAndTheNextDay)
     EXPECT_EQ(before, Shown());
 }
 
-INSTANTIATE_TEST_SUITE_P(Morning, WalkthroughTest,
-                         testing::Values(Screen{false, 1}, Screen{true, 2}, Screen{true, 1}, Screen{false, 2}), NameOf);
+INSTANTIATE_TEST_SUITE_P(Morning, WalkthroughTest, testing::Combine(testing::Bool(), testing::Values(1, 2)), NameOf);
 
 } // namespace
