@@ -92,11 +92,8 @@ void CObjectsTree::GoOnSelected(HTREEITEM hItem)
 void CObjectsTree::OnSetFocus(CWnd* pOldWnd)
 {
     const FocusBlock block;
-    const BOOL bFromSelChange = m_pEditor->IsFocusFromSelChange();
     if (m_pEditor->GainFocus(pOldWnd, [this] { return AnnounceSelection(); }))
         CTreeCtrl::OnSetFocus(pOldWnd);
-    else
-        m_pEditor->SetFocusFromSelChange(bFromSelChange); // the focus never was here, whatever losing it has done
 }
 
 // False: someone refused.

@@ -51,10 +51,7 @@ std::string Walker::Do(const Step& step)
 {
     Say(Kinds()[step.kind].pszName);
     scene.model.SetTime(scene.desktop.Ticks());
-    // Where the focus cannot leave a label's field the field takes it along when it goes.
-    const Host& host = scene.host;
-    if (scene.model.IsEditing() && (host.MayVeto(Op::Selecting) || (host.MayVeto(Op::PreSave) && host.active)))
-        GoAstray(0);
+    HeedField();
     Kinds()[step.kind].perform(*this, step);
     scene.desktop.Run();
     const bool bFollows = Follows();
@@ -66,6 +63,14 @@ std::string Walker::Do(const Step& step)
         fault = Check(scene, true, step.pixels);
     }
     return fault;
+}
+
+// Where the focus cannot leave a label's field the field takes it along when it goes.
+void Walker::HeedField()
+{
+    const Host& host = scene.host;
+    if (scene.model.IsEditing() && (host.MayVeto(Op::Selecting) || (host.MayVeto(Op::PreSave) && host.active)))
+        GoAstray(0);
 }
 
 void Walker::GoAstray(unsigned nSteps)
@@ -137,6 +142,7 @@ void Walker::LetTimePass(DWORD nMilliseconds)
     scene.desktop.Advance(nMilliseconds);
     if (Follows())
         scene.model.LetTimePass(scene.desktop.Ticks());
+    HeedField(); // a label may have come due
 }
 
 void Walker::Announce(Op op, Atom* pAtom, Atom* pContainer)

@@ -39,6 +39,8 @@ public:
     CPoint PickPoint(int view, unsigned n, unsigned m); // mostly on something, sometimes anywhere
 
 private:
+    void HeedField();
+
     const bool m_bTells;
     int m_nAstray = 0;
 };

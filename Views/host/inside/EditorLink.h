@@ -54,8 +54,10 @@ public:
         if (FocusBlock::IsInFocusBlock())
             return true;
         const HWND hOldWnd = pOldWnd ? pOldWnd->m_hWnd : nullptr;
+        const BOOL bFromSelChange = m_bFocusFromSelChange;
         if (!m_bPassive && !(OfferSave() && (announceSelection() || !hOldWnd))) {
             GiveBackFocus(hOldWnd);
+            m_bFocusFromSelChange = bFromSelChange; // the focus never was here, whatever losing it has done
             return false;
         }
         m_bFocusFromSelChange = FALSE;
