@@ -8,6 +8,7 @@
 #include "Toolkit/exchange/DataSource.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
+#include "tests/support/TempFolder.h"
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -37,13 +38,11 @@ public:
 };
 
 // A library with the pictures in "From"; transfer files come beside it. Goes at the end of a race.
-class CopyFolder
+class CopyFolder : public TempFolder
 {
 public:
-    explicit CopyFolder(Load load) : m_load(load), m_path((fs::temp_directory_path() / "views-copy-XXXXXX").string())
+    explicit CopyFolder(Load load) : TempFolder(fs::temp_directory_path()), m_load(load)
     {
-        if (!mkdtemp(m_path.data()))
-            throw std::runtime_error("no temporary folder");
         fs::create_directories(At("library/From"));
         std::string bytes(static_cast<std::size_t>(load.nBytes), '\0');
         for (int i = 0; i < load.nFiles; ++i) {
@@ -52,11 +51,6 @@ public:
             std::ofstream(At("library/From/picture " + std::to_string(i) + ".png"), std::ios::binary) << bytes;
         }
     }
-    ~CopyFolder() { fs::remove_all(m_path); }
-    CopyFolder(const CopyFolder&) = delete;
-    CopyFolder& operator=(const CopyFolder&) = delete;
-
-    std::string At(const std::string& name) const { return m_path + '/' + name; }
     // A new folder in the library.
     std::string NewTarget()
     {
@@ -73,7 +67,6 @@ public:
 
 private:
     const Load m_load;
-    std::string m_path;
     int m_nTargets = 0;
 };
 

@@ -9,6 +9,7 @@
 #include "Toolkit/exchange/DragTracker.h"
 #include "Views/clipboard/clipboard.h"
 #include "bench/BenchWindow.h"
+#include "tests/support/TempFolder.h"
 
 #include <benchmark/benchmark.h>
 #include <cstdlib>
@@ -28,24 +29,13 @@ public:
 };
 
 // A file of that size, and an empty library beside it.
-class DragFolder
+struct DragFolder : TempFolder
 {
-public:
-    explicit DragFolder(std::int64_t nBytes) : m_path((fs::temp_directory_path() / "views-drag-XXXXXX").string())
+    explicit DragFolder(std::int64_t nBytes) : TempFolder(fs::temp_directory_path())
     {
-        if (!mkdtemp(m_path.data()))
-            throw std::runtime_error("no temporary folder");
         fs::create_directory(At("library"));
         std::ofstream(At("walk.png"), std::ios::binary) << std::string(static_cast<std::size_t>(nBytes), 'w');
     }
-    ~DragFolder() { fs::remove_all(m_path); }
-    DragFolder(const DragFolder&) = delete;
-    DragFolder& operator=(const DragFolder&) = delete;
-
-    std::string At(const std::string& name) const { return m_path + '/' + name; }
-
-private:
-    std::string m_path;
 };
 
 // A drag of another program, by the path of its transfer file.

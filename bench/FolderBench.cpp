@@ -3,6 +3,7 @@
 #include "Editor/frame/CommandTable.h"
 #include "Editor/frame/MainFrame.h"
 #include "Toolkit/run/Run.h"
+#include "tests/support/TempFolder.h"
 
 #include <benchmark/benchmark.h>
 #include <dirent.h>
@@ -24,27 +25,16 @@ public:
     editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "an empty file"}; }
 };
 
-class PictureFolder
+struct PictureFolder : TempFolder
 {
-public:
-    PictureFolder() : m_path(fs::temp_directory_path() / "views-bench-XXXXXX")
+    PictureFolder() : TempFolder(std::filesystem::temp_directory_path())
     {
-        std::string name = m_path.string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        m_path = name;
         for (int i = 0; i < kPictures; ++i)
-            std::ofstream(m_path / ("picture " + std::to_string(i * 7919 % kPictures) + ".png"));
+            std::ofstream(At("picture " + std::to_string(i * 7919 % kPictures) + ".png"));
     }
-    ~PictureFolder() { fs::remove_all(m_path); }
-
-    std::string Path() const { return m_path.string(); }
-
-private:
-    fs::path m_path;
 };
 
-const PictureFolder& Folder()
+const TempFolder& Folder()
 {
     static const PictureFolder s_folder;
     return s_folder;

@@ -10,6 +10,7 @@
 #include "Editor/frame/MainFrame.h"
 #include "QtDesktop/QtDesktop.h"
 #include "bench/Memory.h"
+#include "tests/support/TempFolder.h"
 
 #include <QApplication>
 #include <QImage>
@@ -39,31 +40,22 @@ constexpr auto kPatience = std::chrono::milliseconds(500);
 constexpr auto kBeat = std::chrono::milliseconds(10);
 constexpr int kTurn = -240; // two notches down: 800 of them nearly reach the end
 
-class Photographs
+class Photographs : public TempFolder
 {
 public:
-    Photographs()
+    Photographs() : TempFolder(fs::temp_directory_path())
     {
-        std::string name = (fs::temp_directory_path() / "input-wait-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        m_path = name;
         for (int i = 0; i < kPictures; ++i) {
-            const fs::path path = Path(i);
+            const fs::path path = PathOf(i);
             if (i < kDifferent)
                 Photograph(i).save(QString::fromStdString(path.string()), "jpg", 85);
             else
-                fs::create_hard_link(Path(i % kDifferent), path);
+                fs::create_hard_link(PathOf(i % kDifferent), path);
         }
     }
-    ~Photographs() { fs::remove_all(m_path); }
-    Photographs(const Photographs&) = delete;
-    Photographs& operator=(const Photographs&) = delete;
-
-    std::string Folder() const { return m_path.string(); }
 
 private:
-    fs::path Path(int i) const { return m_path / (std::to_string(10'000 + i) + ".jpg"); }
+    fs::path PathOf(int i) const { return At(std::to_string(10'000 + i) + ".jpg"); }
 
     static QImage Photograph(int i)
     {
@@ -76,8 +68,6 @@ private:
             }
         return image;
     }
-
-    fs::path m_path;
 };
 
 // Notes when inputs were put into the queue, and, after every event, how far the list has scrolled.
@@ -188,7 +178,7 @@ void PrintWaits(const char* pszWhat, std::vector<double> waits)
 int Scroll(WatchedApplication& application, qtdesktop::QtDesktop& desktop, editor::EditorApp& editor)
 {
     const Photographs photographs;
-    if (const std::string error = editor.OpenFolder(photographs.Folder()); !error.empty())
+    if (const std::string error = editor.OpenFolder(photographs.Path()); !error.empty())
         return std::fprintf(stderr, "%s\n", error.c_str()), 1;
     editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
     QCoreApplication::processEvents();
@@ -212,7 +202,7 @@ int ScrollLarge(WatchedApplication& application, qtdesktop::QtDesktop& desktop, 
     constexpr int kRounds = 10;
     constexpr auto kRound = std::chrono::seconds(4);
     const Photographs photographs;
-    if (const std::string error = editor.OpenFolder(photographs.Folder()); !error.empty())
+    if (const std::string error = editor.OpenFolder(photographs.Path()); !error.empty())
         return std::fprintf(stderr, "%s\n", error.c_str()), 1;
     editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
     editor.GetFrame()->GetContent().SetThumbnailExtent(editor::Content::kMostThumbnail);
@@ -233,36 +223,24 @@ int ScrollLarge(WatchedApplication& application, qtdesktop::QtDesktop& desktop, 
 }
 
 // A library with much that is not touched, so that there is something to scroll through, and with much that is.
-class WorkFolder
+struct WorkFolder : TempFolder
 {
-public:
-    WorkFolder()
+    WorkFolder() : TempFolder(fs::temp_directory_path())
     {
-        std::string name = (fs::temp_directory_path() / "input-wait-XXXXXX").string();
-        if (!mkdtemp(name.data()))
-            throw std::runtime_error("no temporary folder");
-        m_path = name;
-        fs::create_directories(m_path / "library" / "A");
-        fs::create_directory(m_path / "temp");
+        MakeFolder("library/A");
+        MakeFolder("temp");
         for (int i = 0; i < 60'000; ++i)
-            std::ofstream(m_path / "library" / (std::to_string(i) + ".bmp"));
+            std::ofstream(Library() + '/' + std::to_string(i) + ".bmp");
         const std::string bytes(100'000, 'b');
         for (int i = 0; i < 1000; ++i)
-            std::ofstream(m_path / "library" / "A" / (std::to_string(i) + ".png"), std::ios::binary) << bytes;
-        std::ofstream large(m_path / "library" / "A" / "large.png", std::ios::binary);
+            std::ofstream(At("library/A/" + std::to_string(i) + ".png"), std::ios::binary) << bytes;
+        std::ofstream large(At("library/A/large.png"), std::ios::binary);
         for (int i = 0; i < 10'000; ++i)
             large << bytes;
-        setenv("TEMP", (m_path / "temp").c_str(), 1);
-        setenv("XDG_DATA_HOME", (m_path / "data").c_str(), 1);
+        setenv("TEMP", At("temp").c_str(), 1);
+        setenv("XDG_DATA_HOME", At("data").c_str(), 1);
     }
-    ~WorkFolder() { fs::remove_all(m_path); }
-    WorkFolder(const WorkFolder&) = delete;
-    WorkFolder& operator=(const WorkFolder&) = delete;
-
-    std::string Library() const { return (m_path / "library").string(); }
-
-private:
-    fs::path m_path;
+    std::string Library() const { return At("library"); }
 };
 
 int LongWork(WatchedApplication& application, qtdesktop::QtDesktop& desktop, editor::EditorApp& editor)

@@ -9,10 +9,11 @@
 #include "Toolkit/exchange/StgMedium.h"
 #include "Views/clipboard/clipboard.h"
 #include "fuzz/Check.h"
-#include "fuzz/Folder.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstdint>
 #include <cstring>
+#include <fstream>
 #include <iterator>
 #include <optional>
 #include <sys/stat.h>
@@ -22,9 +23,9 @@ namespace
 
 using Bytes = std::optional<std::string>;
 
-const fuzz::Folder& Disk()
+const TempFolder& Disk()
 {
-    static const fuzz::Folder folder;
+    static const TempFolder folder;
     static const bool isFilled = [] {
         folder.Write("a", "some bytes");
         folder.Write("deep/in/it", std::string(100'000, 'x'));

@@ -2,7 +2,7 @@
 #include "Editor/model/PhaseText.h"
 #include "Editor/model/PhaseTiming.h"
 #include "fuzz/Check.h"
-#include "fuzz/Folder.h"
+#include "tests/support/TempFolder.h"
 
 #include <utility>
 
@@ -12,9 +12,9 @@ namespace
 using namespace editor;
 using Names = std::vector<std::string>;
 
-const fuzz::Folder& Disk()
+const TempFolder& Disk()
 {
-    static const fuzz::Folder folder;
+    static const TempFolder folder;
     static const bool isFilled = [] {
         for (const char* pszPath :
              {"a", "b", "in/a", "in/c", "in/deep/d", "in/ lead", "in/#e", "in/trail ", "in/x\ty", "#in/a"})

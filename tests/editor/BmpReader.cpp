@@ -1,7 +1,7 @@
 #include "tests/editor/BmpReader.h"
 
 #include "Toolkit/graphics/Scale.h"
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/BmpFile.h"
 
 #include <algorithm>

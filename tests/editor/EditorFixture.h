@@ -4,7 +4,7 @@
 #include "Editor/EditorApp.h"
 #include "Editor/frame/MainFrame.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end the editor is closed, and none of its objects may be alive.

@@ -6,7 +6,7 @@
 #include "Editor/script/Script.h"
 #include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/AllocationFailures.h"
 
 #include <algorithm>

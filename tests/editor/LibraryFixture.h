@@ -3,7 +3,7 @@
 
 #include "Editor/model/Library.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
 
 // At its end no object of the model may be alive.

@@ -1,6 +1,6 @@
 #include "Editor/disk/Trash.h"
 
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/FailingDisk.h"
 
 #include <cstdio>

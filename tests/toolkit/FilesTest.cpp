@@ -1,6 +1,7 @@
 #include "Toolkit/base/Files.h"
 
 #include "tests/support/AllocationFailures.h"
+#include "tests/support/TempFolder.h"
 
 #include <csignal>
 #include <cstdlib>
@@ -20,14 +21,9 @@ namespace fs = std::filesystem;
 class FilesTest : public testing::Test
 {
 protected:
-    FilesTest() { EXPECT_NE(nullptr, mkdtemp(m_folder.data())); }
-    ~FilesTest() override
-    {
-        fs::remove_all(m_folder);
-        EXPECT_EQ(0, toolkit::CountOpenFiles()) << "files left open";
-    }
+    ~FilesTest() override { EXPECT_EQ(0, toolkit::CountOpenFiles()) << "files left open"; }
 
-    std::string At(const std::string& name) const { return m_folder + "/" + name; }
+    std::string At(const std::string& name) const { return m_temp.At(name); }
 
     static HANDLE Open(const std::string& path, DWORD access, DWORD disposition, DWORD share = 0)
     {
@@ -70,7 +66,8 @@ protected:
         return name;
     }
 
-    std::string m_folder = fs::temp_directory_path() / "files-XXXXXX";
+    const TempFolder m_temp;
+    const std::string& m_folder = m_temp.Path();
 };
 
 // Runs the check in a process of its own; what it returns is that process's exit status.

@@ -3,7 +3,7 @@
 
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/window/Wnd.h"
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/FakeArchive.h"
 #include "tests/views/FakeHost.h"

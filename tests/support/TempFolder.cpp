@@ -1,4 +1,4 @@
-#include "tests/editor/TempFolder.h"
+#include "tests/support/TempFolder.h"
 
 #include "tests/support/BmpFile.h"
 
@@ -15,12 +15,15 @@
 
 namespace fs = std::filesystem;
 
-// In memory where that is possible: some tests need very many files.
-TempFolder::TempFolder()
+fs::path TempFolder::Memory()
 {
     const fs::path memory = "/dev/shm";
-    const bool hasMemory = access(memory.c_str(), W_OK) == 0;
-    std::string pattern = ((hasMemory ? memory : fs::temp_directory_path()) / "views-library-XXXXXX").string();
+    return access(memory.c_str(), W_OK) == 0 ? memory : fs::temp_directory_path();
+}
+
+TempFolder::TempFolder(const fs::path& where)
+{
+    std::string pattern = (where / "views-test-XXXXXX").string();
     if (!mkdtemp(pattern.data()))
         throw std::runtime_error("no temporary folder");
     m_path = fs::canonical(pattern).string();
@@ -39,7 +42,7 @@ void TempFolder::Make(const std::string& paths) const
         path.back() == '/' ? MakeFolder(path) : WriteBmp(path);
 }
 
-void TempFolder::Write(const std::string& name, const std::string& bytes) const
+void TempFolder::Write(const std::string& name, std::string_view bytes) const
 {
     fs::create_directories(fs::path(At(name)).parent_path());
     std::ofstream(At(name), std::ios::binary) << bytes;

@@ -1,25 +1,27 @@
-// A folder on disk that is gone at the end of the test, and short ways to fill it.
+// A folder that is gone at the end of the test, the benchmark or the run, and short ways to fill it.
 #pragma once
 
 #include <cstdlib>
 #include <filesystem>
 #include <string>
 
+// In memory, where that is possible and nothing else is asked for: some tests need very many files.
 class TempFolder
 {
 public:
-    TempFolder();
+    TempFolder() : TempFolder(Memory()) {}
+    explicit TempFolder(const std::filesystem::path& where);
     ~TempFolder();
     TempFolder(const TempFolder&) = delete;
     TempFolder& operator=(const TempFolder&) = delete;
 
     const std::string& Path() const { return m_path; }
-    std::string At(const std::string& name) const { return m_path + '/' + name; }
+    std::string At(std::string_view name) const { return m_path + '/' + std::string(name); }
 
     // Folders and small BMP pictures, with what they lie in: "Ada/Poses/ Ada/a.bmp b.bmp". No name holds a blank.
     void Make(const std::string& paths) const;
     void MakeFolder(const std::string& name) const { std::filesystem::create_directories(At(name)); }
-    void Write(const std::string& name, const std::string& bytes) const;
+    void Write(const std::string& name, std::string_view bytes) const;
     void WriteBmp(const std::string& name, int width = 8, int height = 8, unsigned color = 0xFF3080C0) const;
     std::string Read(const std::string& name) const { return ReadFile(At(name)); }
     static std::string ReadFile(const std::string& path); // "?" when it cannot be read
@@ -30,6 +32,8 @@ public:
     void Remove(const std::string& name) const { std::filesystem::remove_all(At(name)); }
 
 private:
+    static std::filesystem::path Memory();
+
     std::string m_path;
 };
 
