@@ -7,8 +7,6 @@ using namespace toolkit;
 namespace
 {
 
-constexpr int kControlID = 7;
-
 std::string RowName(int row)
 {
     return row < 0 ? "all" : LedgerList::NameOf(row);
@@ -38,8 +36,8 @@ BEGIN_MESSAGE_MAP(LedgerList, CListCtrl)
     ON_NOTIFY_REFLECT(NM_CLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnClick)
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnClick)
-    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
-    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
+    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnFocus)
+    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnFocus)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -55,17 +53,9 @@ LRESULT LedgerList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return CListCtrl::WindowProc(message, wParam, lParam);
 }
 
-void LedgerList::Write(const std::string& line)
-{
-    book.Write(line);
-    meanwhile(line);
-}
-
 void LedgerList::OnChanging(NMLISTVIEW* pChange, LRESULT* pResult)
 {
-    const std::string line = RowName(pChange->iItem) + "?" + Change(*pChange);
-    *pResult = refuses(line);
-    Write(line);
+    Write(RowName(pChange->iItem) + "?" + Change(*pChange), pResult);
 }
 
 void LedgerList::OnChanged(NMLISTVIEW* pChange, LRESULT*)
@@ -104,30 +94,17 @@ void LedgerList::OnClick(NMITEMACTIVATE* pClick, LRESULT*)
 
 void LedgerList::OnBeginEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
-    const std::string line = "edit " + NameOf(pInfo->item.iItem) + " '" + pInfo->item.pszText + "'?";
-    *pResult = refuses(line);
-    Write(line);
+    WriteBeginEdit(NameOf(pInfo->item.iItem), pInfo->item.pszText, pResult);
 }
 
-void LedgerList::OnEndEdit(NMLVDISPINFO* pInfo, LRESULT*)
+void LedgerList::OnEndEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
 {
-    const LPCSTR pszText = pInfo->item.pszText;
-    Write("edited " + NameOf(pInfo->item.iItem) + (pszText ? " '" + std::string(pszText) + "'" : " not"));
-}
-
-void LedgerList::OnEvent(NMHDR* pHeader, LRESULT*)
-{
-    Write(pHeader->code == NM_SETFOCUS ? "focus comes" : "focus goes");
+    WriteEndEdit(NameOf(pInfo->item.iItem), pInfo->item.pszText, pResult);
 }
 
 void ListControlTest::SetUp()
 {
-    ASSERT_TRUE(top.CreateEx(0, "", "", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 600, 320), nullptr, 0));
-    ASSERT_TRUE(other.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(400, 0, 500, 100), &top, kControlID + 1));
-    ASSERT_TRUE(images.Create(48, 48, ILC_COLOR32, 0, 4));
-    const HBITMAP hRed = CreateBitmapFromSurface(Surface({48, 48}, ToPixel(RGB(255, 0, 0))));
-    ImageList_Add(images.GetSafeHandle(), hRed, nullptr);
-    DeleteBitmap(hRed);
+    MakeTop(48, {RGB(255, 0, 0)});
     ShowList(LVS_SHOWSELALWAYS);
     Fill(6);
     list.SetFocus();

@@ -2,26 +2,19 @@
 #pragma once
 
 #include "Toolkit/controls/list/ListCtrl.h"
-#include "tests/support/DesktopTest.h"
-
-#include <functional>
+#include "tests/toolkit/ItemControlFixture.h"
 
 // Shows the rows "a", "b", "c" ... and writes down what it is told: "a? +selected" for a change it is asked about,
 // "a: +selected" for one that happened, "all" for row -1.
-class LedgerList : public CListCtrl
+class LedgerList : public LedgerControl<CListCtrl>
 {
 public:
     // A derived class may keep movements and timers to itself.
     bool keepsMouseMoves = false;
-    std::function<bool(const std::string& line)> refuses = [](const std::string&) { return false; };
-    std::function<void(const std::string& line)> meanwhile = [](const std::string&) {};
     std::function<std::string(int row)> text = [](int row) { return NameOf(row); };
     bool writesPaints = false;
 
     static std::string NameOf(int row);
-    Ledger TakeLedger() { return book.TakeLedger(); }
-
-    LedgerBook book;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -34,16 +27,11 @@ protected:
     afx_msg void OnClick(NMITEMACTIVATE* pClick, LRESULT* pResult);
     afx_msg void OnBeginEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnEndEdit(NMLVDISPINFO* pInfo, LRESULT* pResult);
-    afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()
-
-private:
-    void Write(const std::string& line);
 };
 
-// A list of three columns, 110 pixels wide each, with pictures of 48 by 48; a field beside it can take the focus.
-class ListControlTest : public DesktopTest
+// A list of three columns, 110 pixels wide each, with pictures of 48 by 48.
+class ListControlTest : public ItemControlTest
 {
 protected:
     void SetUp() override;
@@ -67,8 +55,5 @@ protected:
 
     const CPoint kEmpty{105, 10}; // between the pictures of a and b
 
-    CImageList images;
-    CWnd top;
     LedgerList list;
-    CWnd other;
 };

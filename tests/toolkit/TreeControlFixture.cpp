@@ -4,7 +4,6 @@ using namespace toolkit;
 
 namespace
 {
-constexpr int kControlID = 7;
 constexpr int kRowHeight = 20;
 } // namespace
 
@@ -23,8 +22,8 @@ BEGIN_MESSAGE_MAP(LedgerTree, CTreeCtrl)
     ON_NOTIFY_REFLECT(NM_CLICK, OnEvent)
     ON_NOTIFY_REFLECT(NM_RCLICK, OnEvent)
     ON_NOTIFY_REFLECT(NM_DBLCLK, OnEvent)
-    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnEvent)
-    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnEvent)
+    ON_NOTIFY_REFLECT(NM_SETFOCUS, OnFocus)
+    ON_NOTIFY_REFLECT(NM_KILLFOCUS, OnFocus)
     ON_WM_CONTEXTMENU()
 END_MESSAGE_MAP()
 
@@ -61,14 +60,6 @@ HTREEITEM LedgerTree::Find(const std::string& name) const
     return hItem;
 }
 
-void LedgerTree::Write(const std::string& line, LRESULT* pResult)
-{
-    book.Write(line);
-    if (pResult)
-        *pResult = refuses(line);
-    meanwhile(line);
-}
-
 void LedgerTree::WriteItem(const char* verb, const TVITEM& item, LRESULT* pResult)
 {
     Write(std::string(verb) + " " + *reinterpret_cast<const std::string*>(item.lParam), pResult);
@@ -103,13 +94,12 @@ void LedgerTree::OnDrag(NMTREEVIEW* pDrag, LRESULT*)
 
 void LedgerTree::OnBeginEdit(NMTVDISPINFO* pInfo, LRESULT* pResult)
 {
-    WriteItem("edit?", pInfo->item, pResult);
+    WriteBeginEdit(NameOf(pInfo->item.hItem), pInfo->item.pszText, pResult);
 }
 
 void LedgerTree::OnEndEdit(NMTVDISPINFO* pInfo, LRESULT* pResult)
 {
-    const LPCSTR pszText = pInfo->item.pszText;
-    Write("edited " + NameOf(pInfo->item.hItem) + (pszText ? " '" + std::string(pszText) + "'" : " not"), pResult);
+    WriteEndEdit(NameOf(pInfo->item.hItem), pInfo->item.pszText, pResult);
 }
 
 void LedgerTree::OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
@@ -136,28 +126,15 @@ void LedgerTree::OnDispInfo(NMTVDISPINFO* pInfo, LRESULT*)
 
 void LedgerTree::OnEvent(NMHDR* pHeader, LRESULT* pResult)
 {
-    static const std::map<UINT, std::string> names{{NM_CLICK, "click"},
-                                                   {NM_RCLICK, "right click"},
-                                                   {NM_DBLCLK, "double click"},
-                                                   {NM_SETFOCUS, "focus comes"},
-                                                   {NM_KILLFOCUS, "focus goes"}};
-    Write(names.at(pHeader->code), pResult);
+    const UINT code = pHeader->code;
+    Write(code == NM_CLICK ? "click" : code == NM_RCLICK ? "right click" : "double click", pResult);
 }
 
 void TreeControlTest::SetUp()
 {
-    DesktopTest::SetUp();
-    ASSERT_TRUE(top.CreateEx(0, "", "", WS_OVERLAPPED | WS_VISIBLE, CRect(0, 0, 600, 320), nullptr, 0));
+    MakeTop(16, {RGB(255, 0, 0), RGB(0, 255, 0)});
     ASSERT_TRUE(tree.Create(WS_CHILD | WS_VISIBLE | TVS_SHOWSELALWAYS | TVS_HASBUTTONS | TVS_HASLINES | TVS_LINESATROOT,
                             CRect(0, 0, 300, 10 * kRowHeight), &top, kControlID));
-    ASSERT_TRUE(other.CreateEx(0, "", "", WS_CHILD | WS_VISIBLE, CRect(400, 0, 500, 100), &top, kControlID + 1));
-
-    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR32, 0, 4));
-    for (const COLORREF color : {RGB(255, 0, 0), RGB(0, 255, 0)}) {
-        const HBITMAP hPicture = CreateBitmapFromSurface(Surface({16, 16}, ToPixel(color)));
-        ImageList_Add(images.GetSafeHandle(), hPicture, nullptr);
-        DeleteBitmap(hPicture);
-    }
     tree.SetImageList(&images, TVSIL_NORMAL);
 }
 
@@ -166,7 +143,6 @@ void TreeControlTest::TearDown()
     desktop.Hold({});
     images.DeleteImageList();
     top.DestroyWindow();
-    DesktopTest::TearDown();
 }
 
 void TreeControlTest::Fill(const std::string& text)

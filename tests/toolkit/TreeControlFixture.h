@@ -2,18 +2,15 @@
 #pragma once
 
 #include "Toolkit/controls/tree/TreeCtrl.h"
-#include "tests/support/DesktopTest.h"
+#include "tests/toolkit/ItemControlFixture.h"
 
-#include <functional>
 #include <list>
 
 // Shows items by name and writes down what it is told: "selecting a -> b" for a change it is asked about, "selected"
 // for one that happened.
-class LedgerTree : public CTreeCtrl
+class LedgerTree : public LedgerControl<CTreeCtrl>
 {
 public:
-    std::function<bool(const std::string& line)> refuses = [](const std::string&) { return false; };
-    std::function<void(const std::string& line)> meanwhile = [](const std::string&) {};
     std::function<void(const std::string& name)> asked = [](const std::string&) {}; // what to show of an item
     int labelRequests = 0;                                                          // since it was last set to 0
     UINT keeps = 0; // what the control is to keep of an answer: TVIF_DI_SETITEM
@@ -22,9 +19,6 @@ public:
     HTREEITEM Add(const std::string& name, HTREEITEM hParent = TVI_ROOT, HTREEITEM hInsertAfter = TVI_LAST);
     std::string& NameOf(HTREEITEM hItem) const; // a change is seen when the control asks again
     HTREEITEM Find(const std::string& name) const;
-    Ledger TakeLedger() { return book.TakeLedger(); }
-
-    LedgerBook book;
 
 protected:
     afx_msg void OnSelection(NMTREEVIEW* pChange, LRESULT* pResult);
@@ -36,19 +30,16 @@ protected:
     afx_msg void OnSetDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnDispInfo(NMTVDISPINFO* pInfo, LRESULT* pResult);
     afx_msg void OnEvent(NMHDR* pHeader, LRESULT* pResult);
-    afx_msg void OnContextMenu(CWnd*, CPoint) { Write("menu"); }
     DECLARE_MESSAGE_MAP()
 
 private:
-    void Write(const std::string& line, LRESULT* pResult = nullptr);
     void WriteItem(const char* verb, const TVITEM& item, LRESULT* pResult = nullptr);
 
     mutable std::list<std::string> m_names; // what each item's lParam points to
 };
 
-// A tree of ten rows and the width of about forty letters, without lines, with pictures; a field beside it can
-// take the focus.
-class TreeControlTest : public DesktopTest
+// A tree of ten rows and the width of about forty letters, without lines, with pictures.
+class TreeControlTest : public ItemControlTest
 {
 protected:
     void SetUp() override;
@@ -67,10 +58,7 @@ protected:
     std::string InRow(int row) const; // counted from the client area's top
     void Click(const std::string& name) { desktop.Click(tree.m_hWnd, LabelOf(name).CenterPoint()); }
 
-    CImageList images;
-    CWnd top;
     LedgerTree tree;
-    CWnd other;
 
 private:
     void Describe(HTREEITEM hItem, std::string& text) const;
