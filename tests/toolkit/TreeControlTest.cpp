@@ -75,6 +75,15 @@ TEST_F(TreeControlTest, AnOwnerThatSelectsOrTakesTheFocusWhileItIsAskedOrToldWin
     EXPECT_EQ(Ledger({"selecting a -> b", "selecting a -> c", "selected a -> c", "selected c -> b", "selecting b -> d",
                       "selected b -> d"}),
               TakeLedger());
+
+    Fill("a (b) d");
+    tree.meanwhile = [this](const std::string& line) {
+        if (line == "expanding a")
+            tree.SelectItem((*this)["d"]);
+    };
+    tree.SelectItem((*this)["b"]); // which is left again before it was told of
+    EXPECT_EQ(Ledger({"selecting - -> b", "expanding a", "selecting b -> d", "selected b -> d", "expanded a"}),
+              TakeLedger());
 }
 
 TEST_F(TreeControlTest, AnOwnerMayDeleteMoreWhileItHearsOfDeletions)
