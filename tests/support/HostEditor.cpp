@@ -39,7 +39,9 @@ DWORD HostEditor::RegisterHandler(HWND, IAEStateHandler* handler)
     auto handlers = *m_pHandlers;
     handlers.push_back({++m_nLastCookie, handler});
     m_pHandlers = std::make_shared<const std::vector<Handler>>(std::move(handlers));
-    return m_nLastCookie;
+    const DWORD cookie = m_nLastCookie;
+    OnCalled();
+    return cookie;
 }
 
 void HostEditor::UnregisterHandler(DWORD cookie)
@@ -63,6 +65,7 @@ BOOL HostEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
 
 CMenu* HostEditor::CreateContextMenu()
 {
+    OnCalled();
     if (menu.empty())
         return nullptr;
     auto pMenu = std::make_unique<CMenu>();
@@ -84,6 +87,7 @@ BOOL HostEditor::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
 
 DROPEFFECT HostEditor::DoDragDrop(DWORD allowedEffects, DWORD)
 {
+    OnCalled();
     DWORD nPairs = 0;
     pSelected->OnGetActivePairs(nullptr, &nPairs);
     std::vector<OBJPAIR> selected(nPairs + 1);
@@ -109,6 +113,7 @@ DROPEFFECT HostEditor::DoDragDrop(DWORD allowedEffects, DWORD)
 
 BOOL HostEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
 {
+    OnCalled();
     return ReadNames(BytesOf(archive), callback, context);
 }
 

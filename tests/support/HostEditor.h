@@ -103,6 +103,7 @@ protected:
 
     virtual IAtom* MakeAtom(const std::string&) { return nullptr; } // with one reference, for what is read
     virtual void OnDrag() {}                                        // when a drag is about to begin
+    virtual void OnCalled() {} // when a handler has registered, and before a menu, a drag or what is read
     BOOL ReadNames(const std::string& bytes, ARCHIVEATOMPROC callback, void* context);
 
     FakeService m_service{"GetAtomEditorSv", std::bind_front(&HostEditor::GiveEditor, this)};

@@ -1,7 +1,6 @@
 #include "tests/views/FakeHost.h"
 
-#include "Toolkit/base/Exception.h"
-#include "Toolkit/base/String.h"
+#include "Toolkit/graphics/ImageList.h"
 #include "tests/support/FakeArchive.h"
 
 #include <concepts>
@@ -27,119 +26,6 @@ std::string Words(const auto&... parts) // one after the other
 
 } // namespace
 
-std::string NameOf(IAtom* pAtom)
-{
-    return pAtom ? FakeAtom::As(pAtom)->name : "-";
-}
-
-BOOL FakeAtom::GetName(char* pBuffer, DWORD* pLength)
-{
-    if (!pBuffer && announcedLength) {
-        *pLength = *announcedLength;
-        return TRUE;
-    }
-    nNameReads += pBuffer != nullptr;
-    const BOOL bRead = pBuffer && nameFails ? FALSE : HostAtom::GetName(pBuffer, pLength);
-    if (pBuffer && onAsked)
-        onAsked();
-    return bRead;
-}
-
-BOOL FakeAtom::GetDisplayName(char* pBuffer, DWORD* pLength)
-{
-    return pBuffer && displayNameFails ? FALSE : HostAtom::GetDisplayName(pBuffer, pLength);
-}
-
-BOOL FakeAtom::GetIcon(ICONREQUEST* pRequest)
-{
-    Write(Words("icon ", name, " ", pRequest->cx, "x", pRequest->cy));
-    if (iconFails)
-        return FALSE;
-    pRequest->hIcon = CreateIconFromSurface(toolkit::Surface(CSize(pRequest->cx, pRequest->cy), 0xFF00FF00));
-    return TRUE;
-}
-
-BOOL FakeAtom::Draw(HDC hdc, CRect& rect, DWORD dwReserved, DWORD dwMode, UINT nFrame)
-{
-    Write(Words("draw ", name, " at ", rect.left, ",", rect.top, "-", rect.right, ",", rect.bottom, " (", dwReserved,
-                ", ", dwMode, ", ", nFrame, ")"));
-    FillSolidRect(hdc, CRect(rect.left, rect.top, rect.CenterPoint().x, rect.bottom), RGB(0, 0, 255));
-    return !thumbFails;
-}
-
-int FakeAtom::AddToImageList(HIMAGELIST hImageList, int nReplace)
-{
-    Write(Words("icon ", name, " at ", nReplace));
-    if (iconNeedsTooMuch)
-        AfxThrowMemoryException();
-    if (iconFails)
-        return -1;
-    const HICON hIcon = CreateIconFromSurface(toolkit::Surface(CSize(48, 48), 0xFF00FF00));
-    const int nImage = ImageList_ReplaceIcon(hImageList, nReplace, hIcon);
-    DestroyIcon(hIcon);
-    if (onAsked)
-        onAsked();
-    return nImage;
-}
-
-bool FakeAtom::Does(const std::string& strCall)
-{
-    Write(name + " " + strCall);
-    if (const auto hook = onCall)
-        hook(strCall);
-    return !refused.contains(strCall);
-}
-
-BOOL FakeAtom::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
-{
-    return Give(Does(std::string("finds ") + pszName) ? Named(pszName) : nullptr, ppOut, dwInterfaceId);
-}
-
-BOOL FakeAtom::AddAtom(IAtom* pSource, DWORD dwReserved, const char* pszName, void** ppOut, DWORD dwInterfaceId)
-{
-    EXPECT_EQ(0u, dwReserved);
-    const bool bDoes = Does("adds " + ::NameOf(pSource) + " as " + pszName);
-    return Give(bDoes ? Add(pszName) : nullptr, ppOut, dwInterfaceId);
-}
-
-BOOL FakeAtom::RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD dwInterfaceId)
-{
-    const bool bDoes = Does("renames " + ::NameOf(pAtom) + " to " + pszNewName);
-    const AtomRef pFormer = bDoes ? Remove(As(pAtom)) : nullptr;
-    return Give(bDoes ? Add(pszNewName) : nullptr, ppOut, dwInterfaceId);
-}
-
-BOOL FakeAtom::RemoveAtom(IAtom* pAtom)
-{
-    return Does("removes " + ::NameOf(pAtom)) && Remove(As(pAtom));
-}
-
-DWORD FakeAtom::GetPermissions(IAtom* pAtom)
-{
-    Does("permits " + ::NameOf(pAtom));
-    const auto found = permissionsFor.find(::NameOf(pAtom));
-    return found == permissionsFor.end() ? permissions : found->second;
-}
-
-BOOL FakeAtom::ValidateName(CString& strName, DWORD dwReserved)
-{
-    EXPECT_EQ(0u, dwReserved);
-    if (!Does(std::string("validates ") + strName.GetString()))
-        return FALSE;
-    if (Named(strName.GetString()))
-        strName += " (2)";
-    return TRUE;
-}
-
-void* FakeAtom::Find(DWORD id)
-{
-    if (id != IID_IMyErrorInfo)
-        return HostAtom::Find(id);
-    if (onCall)
-        onCall("errs");
-    return nameFails || displayNameFails || !refused.empty() ? static_cast<IMyErrorInfo*>(this) : nullptr;
-}
-
 void FakeEditor::Install()
 {
     m_service.Install();
@@ -157,7 +43,7 @@ BOOL FakeEditor::ShowError(void* pBuffer, DWORD dwSize, DWORD dwExtra)
     EXPECT_EQ(sizeof(ERRORREQUEST), dwSize);
     EXPECT_EQ(0u, dwExtra);
     const auto& request = *static_cast<ERRORREQUEST*>(pBuffer);
-    ledger.push_back(Words("error \"", request.pszCaption, "\" of ", ::NameOf(static_cast<FakeAtom*>(request.pError))));
+    ledger.push_back(Words("error \"", request.pszCaption, "\" of ", NameOf(static_cast<FakeAtom*>(request.pError))));
     return TRUE;
 }
 
@@ -185,11 +71,11 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
     const std::string strOperation = kHostOperations[IndexOf(operation)].pszName;
     const bool bAsks = strOperation.starts_with("Pre") || strOperation.ends_with("ing");
     ledger.push_back(Words(sender ? handlerNames[sender] : "nobody", bAsks ? " asks " : " tells ", strOperation, "(",
-                           ::NameOf(atom), " in ", ::NameOf(container), ")"));
+                           NameOf(atom), " in ", NameOf(container), ")"));
     if (const auto hook = onNotify) // a copy: it may take itself away
         hook(operation, atom);
 
-    const BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + ::NameOf(atom));
+    const BOOL bAgreed = !m_vetoes.contains(strOperation) && !m_vetoes.contains(strOperation + NameOf(atom));
     return HostEditor::NotifyHandlers(sender, operation, atom, container, reserved) & bAgreed;
 }
 
@@ -224,7 +110,7 @@ void FakeEditor::OnDrag()
 {
     std::string strNames;
     for (const views::HeldPair& pair : pairs)
-        strNames += " " + ::NameOf(pair.pAtom.Get());
+        strNames += " " + NameOf(pair.pAtom.Get());
     ledger.push_back("drags" + strNames);
 }
 

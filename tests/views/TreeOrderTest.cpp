@@ -10,18 +10,13 @@ namespace
 
 using TreeOrderTest = TreeTest;
 
-std::string LabelOf(const FakeAtom* pAtom)
-{
-    return pAtom->displayName.value_or(pAtom->name) + (pAtom->isModified ? " *" : "");
-}
-
 // Step by step: each member before the first whose label is greater; then all, stably, by name.
 std::string ExpectedLabels(const FakeContainer* pBox)
 {
     std::vector<FakeAtom*> order;
     for (const AtomRef& pMember : pBox->members) {
         const auto isGreater = [&](FakeAtom* pOther) {
-            return _mbsicmp(LabelOf(pOther).c_str(), LabelOf(pMember.Get()).c_str()) > 0;
+            return _mbsicmp(pOther->TreeLabel().c_str(), pMember->TreeLabel().c_str()) > 0;
         };
         order.insert(std::find_if(order.begin(), order.end(), isGreater), pMember.Get());
     }
@@ -32,7 +27,7 @@ std::string ExpectedLabels(const FakeContainer* pBox)
     });
     std::string strLabels;
     for (const FakeAtom* pAtom : order)
-        strLabels += (strLabels.empty() ? "" : ", ") + LabelOf(pAtom);
+        strLabels += (strLabels.empty() ? "" : ", ") + pAtom->TreeLabel();
     return strLabels;
 }
 

@@ -22,7 +22,80 @@ std::string Print(const Calls& calls)
     return text;
 }
 
-Host::Host() : pWorld(AtomRef::Adopt(new Atom(*this, "world", Kind::Container)))
+namespace
+{
+
+// Knows its host, which each call may make rude.
+class WalkAtom final : public Atom
+{
+public:
+    WalkAtom(Host& host, const std::string& strName) : Atom(strName), m_host(host) { host.live.insert(this); }
+    ~WalkAtom() override
+    {
+        for (const AtomRef& pMember : members)
+            Leave(*pMember.Get());
+        m_host.live.erase(this);
+    }
+
+    DWORD GetID() override { return static_cast<DWORD>(serial); }
+    AtomRef Remove(Atom* pMember) override
+    {
+        AtomRef pRemoved = Atom::Remove(pMember);
+        if (pRemoved)
+            Leave(*m_host.former.emplace_back(AtomRef::Share(pMember)).Get());
+        return pRemoved;
+    }
+    int AddToImageList(HIMAGELIST hImageList, int nReplace) override
+    {
+        const int nImage = Atom::AddToImageList(hImageList, nReplace);
+        m_host.pictures[{hImageList, nImage}] = this;
+        return nImage;
+    }
+    BOOL RenameAtom(IAtom* pAtom, const char* pszNewName, void** ppOut, DWORD id) override
+    {
+        Atom* const pFormer = As(pAtom);
+        m_host.calls.push_back({kNobody, Op::Renames, pFormer, this});
+        if (pFormer->isContainer || !*pszNewName)
+            return Called().Give(nullptr, ppOut, id);
+        if (!Atom::RenameAtom(pAtom, pszNewName, ppOut, id))
+            return FALSE;
+        Atom* const pNew = members.back().Get();
+        pNew->hasIcon = pFormer->hasIcon;
+        pNew->nFrames = pFormer->nFrames;
+        pNew->position = pFormer->position;
+        m_host.renamed[pFormer] = AtomRef::Share(pNew);
+        return TRUE;
+    }
+
+protected:
+    Atom* Make(const std::string& strName) const override { return m_host.New(strName); }
+    void OnCalled(Atom* pAbout) override { m_host.Called(pAbout); }
+
+private:
+    static void Leave(Atom& member)
+    {
+        member.parent = nullptr;
+        member.isLink = false;
+    }
+
+    Host& m_host;
+};
+
+} // namespace
+
+Atom* Host::New(const std::string& strName, Kind kind)
+{
+    auto* const pNew = new WalkAtom(*this, strName);
+    const int serial = pNew->serial = ++nSerials;
+    pNew->isContainer = kind != Kind::Plain;
+    pNew->isPhase = kind == Kind::Phase;
+    pNew->permissions = APF_ACCEPT | APF_REMOVE | APF_RENAME;
+    pNew->iconColor = static_cast<toolkit::Pixel>(0xFF000000u | static_cast<unsigned>(serial * 7919) % 0xFFFFFF);
+    pNew->thumbColor = RGB(serial * 31 % 256, 0, 255);
+    return pNew;
+}
+
+Host::Host() : pWorld(AtomRef::Adopt(New("world", Kind::Container)))
 {
     pWorld->isLibrary = true;
     format = RegisterClipboardFormat("Atoms of the walk");
@@ -76,13 +149,6 @@ std::vector<int> Host::RegisteredViews() const
     return views;
 }
 
-DWORD Host::RegisterHandler(HWND hWnd, IAEStateHandler* handler)
-{
-    const DWORD cookie = HostEditor::RegisterHandler(hWnd, handler);
-    Called(nullptr);
-    return cookie;
-}
-
 BOOL Host::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
                           DWORD reserved)
 {
@@ -108,7 +174,6 @@ void Host::ShowPane(DWORD kind, HWND hWnd, bool bShow)
 CMenu* Host::CreateContextMenu()
 {
     calls.push_back({kNobody, Op::Menu, nullptr, nullptr});
-    Called(nullptr);
     return HostEditor::CreateContextMenu();
 }
 
@@ -122,15 +187,8 @@ BOOL Host::EnumActivePairs(ACTIVEPAIRPROC callback, void* context)
 
 DROPEFFECT Host::DoDragDrop(DWORD allowedEffects, DWORD reserved)
 {
-    Called(nullptr);
     const DROPEFFECT effect = HostEditor::DoDragDrop(allowedEffects, reserved);
     if (effect != DROPEFFECT_MOVE)
         pairs.clear();
     return effect;
-}
-
-BOOL Host::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context)
-{
-    Called(nullptr);
-    return HostEditor::ReadArchive(callback, archive, context);
 }

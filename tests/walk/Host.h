@@ -4,12 +4,19 @@
 #pragma once
 
 #include "tests/support/HostEditor.h"
-#include "tests/walk/Atom.h"
+#include "tests/walk/Rows.h"
 
 #include <array>
 #include <functional>
 #include <map>
 #include <set>
+
+enum class Kind
+{
+    Plain,
+    Container,
+    Phase // its members are image links
+};
 
 // What the editor is told or asked, and what else counts as a word to the outside.
 enum class Op
@@ -56,10 +63,11 @@ public:
     int nSerials = 0;
     std::set<Atom*> live;
     AtomRef pWorld;
-    std::vector<Atom*> Containers() const;                      // in the world, from the top down
-    std::vector<AtomRef> former;                                // atoms that went, kept so that they can be told of
-    void ForgetFormer();                                        // those that nobody else holds
-    std::map<std::pair<HIMAGELIST, int>, const Atom*> pictures; // whose icon was put there last
+    Atom* New(const std::string& strName, Kind kind = Kind::Plain); // with one reference
+    std::vector<Atom*> Containers() const;                          // in the world, from the top down
+    std::vector<AtomRef> former;                                    // atoms that went, kept so that they can be told of
+    void ForgetFormer();                                            // those that nobody else holds
+    std::map<std::pair<HIMAGELIST, int>, const Atom*> pictures;     // whose icon was put there last
 
     // How it behaves.
     struct Veto
@@ -86,7 +94,6 @@ public:
     void Announce(Op op, Atom* pAtom, Atom* pContainer); // the editor's own word to all views
 
     std::vector<int> RegisteredViews() const; // in that order
-    DWORD RegisterHandler(HWND hWnd, IAEStateHandler* handler) override;
     BOOL NotifyHandlers(IAEStateHandler* sender, AEStateOperation operation, IAtom* atom, IAtomContainer* container,
                         DWORD reserved) override;
     void AddPane(DWORD kind, HWND hWnd, LPCSTR, HICON) override { ShowPane(kind, hWnd, true); }
@@ -94,10 +101,10 @@ public:
     CMenu* CreateContextMenu() override;
     BOOL EnumActivePairs(ACTIVEPAIRPROC callback, void* context) override;
     DROPEFFECT DoDragDrop(DWORD allowedEffects, DWORD reserved) override;
-    BOOL ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void* context) override;
 
 private:
-    IAtom* MakeAtom(const std::string& strName) override { return new Atom(*this, strName); }
+    IAtom* MakeAtom(const std::string& strName) override { return New(strName); }
+    void OnCalled() override { Called(nullptr); }
     void ShowPane(DWORD kind, HWND hWnd, bool bShow);
 
     int m_nUntilRude = 0;

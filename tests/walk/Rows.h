@@ -1,7 +1,15 @@
 // What a view shows, row by row, as the views and the model both tell it.
 #pragma once
 
-#include "tests/walk/Atom.h"
+#include "tests/support/FakeAtom.h"
+
+using Atom = FakeAtom;
+
+// "b#3", which tells atoms of one name apart, or "-" for none.
+inline std::string Print(const Atom* pAtom)
+{
+    return pAtom ? pAtom->name + "#" + std::to_string(pAtom->serial) : "-";
+}
 
 struct Row
 {

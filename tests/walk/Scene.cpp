@@ -53,7 +53,7 @@ Scene::~Scene() = default;
 void Scene::FillWorld(std::uint64_t seed)
 {
     const auto add = [this](Atom* pIn, const char* pszName, Kind kind = Kind::Plain) {
-        Atom* const pNew = pIn->Add(new Atom(host, pszName, kind));
+        Atom* const pNew = pIn->Add(host.New(pszName, kind));
         pNew->hasIcon = pNew->serial % 3 != 0;
         pNew->position = pNew->serial;
         return pNew;
@@ -182,7 +182,7 @@ void Scene::Settle()
 {
     Calm();
     if (host.pWorld->members.empty())
-        host.Announce(Op::Create, host.pWorld->Add(new Atom(host, "last")), host.pWorld.Get());
+        host.Announce(Op::Create, host.pWorld->Add(host.New("last")), host.pWorld.Get());
     const auto containers = host.Containers();
     for (const int view : {kIcons, kThumbs}) {
         if (std::ranges::find(containers, List(view).Container()) == containers.end())

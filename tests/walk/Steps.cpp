@@ -101,14 +101,14 @@ Atom* Walker::NewAtom(unsigned n)
     static constexpr const char* kNames[] = {"a", "B", "b", "c", "dd", "e", "A", "z", "Mm", "a longer name", "x"};
     const auto name = [](unsigned nth) { return kNames[nth % std::size(kNames)]; };
     const Kind kind = n / 64 % 12 == 0 ? Kind::Container : Kind::Plain;
-    auto* const pNew = new Atom(scene.host, name(n), kind);
+    Atom* const pNew = scene.host.New(name(n), kind);
     pNew->hasIcon = n / 16 % 3 != 0;
     pNew->nFrames = n / 32 % 8 == 0 ? 2 : 0;
     pNew->position = static_cast<int>(n % 7);
     if (n / 128 % 6 == 0)
         pNew->displayName = name(n / 7);
     for (unsigned i = 0; kind == Kind::Container && i < n % 4; ++i)
-        pNew->Add(new Atom(scene.host, name(n + i)));
+        pNew->Add(scene.host.New(name(n + i)));
     return pNew;
 }
 

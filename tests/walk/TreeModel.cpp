@@ -143,7 +143,7 @@ void TreeModel::Sync(Atom* pContainer)
     Item* const pItem = pContainer ? ItemOf(pContainer) : nullptr;
     std::vector<Atom*> gone;
     for (std::size_t i = 0; pItem && i < pItem->children.size(); ++i)
-        if (!pContainer->Holds(pItem->children[i]->pAtom))
+        if (pItem->children[i]->pAtom->parent != pContainer)
             gone.push_back(pItem->children[i]->pAtom);
     for (Atom* const pAtom : gone)
         RemoveAtom(pAtom, pContainer);
