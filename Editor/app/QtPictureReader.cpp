@@ -1,17 +1,15 @@
 #include "Editor/app/QtPictureReader.h"
 
-#include "Editor/app/WholePng.h"
-#include "Editor/disk/FileText.h"
+#include "Editor/app/PictureFile.h"
+#include "Editor/app/PngCanvas.h"
+#include "Editor/pictures/AnimatedPng.h"
 
+#include <QBuffer>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 #include <algorithm>
 #include <atomic>
-#include <cerrno>
-#include <cstring>
-#include <fcntl.h>
-#include <sys/stat.h>
 
 namespace editor
 {
@@ -30,22 +28,8 @@ std::vector<std::string> KnownExtensions()
     std::vector<std::string> extensions;
     for (const QByteArray& format : QImageReader::supportedImageFormats())
         extensions.push_back(format.toLower().toStdString());
+    extensions.push_back("apng");
     return extensions;
-}
-
-// Opens the file by the very bytes of its name, which need not be UTF-8. Empty, or why it was not opened.
-std::string OpenFile(QFile& file, const std::string& path)
-{
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0)
-        return SystemErrorText(errno);
-    file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle);
-    struct stat info;
-    if (::fstat(descriptor, &info) != 0)
-        return SystemErrorText(errno);
-    if (!S_ISREG(info.st_mode))
-        return "not a regular file";
-    return info.st_size == 0 ? "the file is empty" : "";
 }
 
 bool IsTurned(const QImageReader& reader)
@@ -53,29 +37,17 @@ bool IsTurned(const QImageReader& reader)
     return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
 }
 
-QSize FitInto(QSize size, QSize max)
+bool IsBearable(QSize size)
 {
-    if (size.width() <= max.width() && size.height() <= max.height())
-        return size;
-    return size.scaled(max, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    return qint64(size.width()) * size.height() * 4 <= qint64(QtPictureReader::kMaxMegabytes) << 20;
 }
 
 std::string WhyUndecoded(QSize stored)
 {
-    if (qint64(stored.width()) * stored.height() * 4 <= qint64(QtPictureReader::kMaxMegabytes) << 20)
+    if (IsBearable(stored))
         return "the picture is damaged";
     return "too large to decode: " + std::to_string(stored.width()) + " by " + std::to_string(stored.height()) +
            " pixels";
-}
-
-toolkit::Surface ToSurface(const QImage& decoded)
-{
-    const QImage image = decoded.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    toolkit::Surface surface(CSize(image.width(), image.height()));
-    for (int y = 0; y < image.height(); ++y)
-        std::memcpy(surface.Row(y), image.constScanLine(y),
-                    static_cast<std::size_t>(image.width()) * sizeof(toolkit::Pixel));
-    return surface;
 }
 
 // Frames build on one another: those before are read, too.
@@ -128,7 +100,7 @@ DecodedPicture Decode(QImageReader& reader, QSize max, int frame)
 class QtPictureStream final : public PictureStream
 {
 public:
-    explicit QtPictureStream(CSize maxSize) : m_max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1)) {}
+    explicit QtPictureStream(QSize max) : m_max(max) {}
 
     bool Open(const std::string& path)
     {
@@ -143,13 +115,11 @@ public:
     std::optional<Frame> Next() override
     {
         const Reading reading;
-        QImage image = m_reader.read();
+        const QImage image = m_reader.read();
         if (image.isNull())
             return std::nullopt;
-        if (const QSize fitted = FitInto(image.size(), m_max); fitted != image.size())
-            image = image.scaled(fitted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         const int delay = m_reader.nextImageDelay();
-        return Frame{ToSurface(image), delay < kLeastDelay ? kUsualDelay : delay};
+        return Frame{ToSurface(Smaller(image, m_max)), delay < kLeastDelay ? kUsualDelay : delay};
     }
 
 private:
@@ -161,12 +131,102 @@ private:
     QImageReader m_reader;
 };
 
+// The decoder knows a PNG file's first picture alone.
+class PngPictureStream final : public PictureStream
+{
+public:
+    explicit PngPictureStream(QSize max) : m_max(max) {}
+
+    bool Open(const std::string& path) { return OpenFile(m_file, path).empty() && OpenFrames(m_file) > 1; }
+
+    int OpenFrames(QIODevice& file) // how many there are; 0: it is not animated
+    {
+        m_frames.emplace(BytesOf(file));
+        if (!m_frames->Open() || !IsBearable(QtSize()))
+            return 0;
+        return m_frames->CountFrames();
+    }
+
+    QSize QtSize() const { return {m_frames->GetSize().cx, m_frames->GetSize().cy}; }
+
+    std::optional<Frame> Next() override
+    {
+        const Reading reading;
+        const int delay = Draw();
+        if (delay < 0)
+            return std::nullopt;
+        return Frame{ToSurface(Smaller(m_canvas->GetImage(), m_max)), delay < kLeastDelay ? kUsualDelay : delay};
+    }
+
+    bool Skip(int frames)
+    {
+        while (frames > 0 && Draw() >= 0)
+            --frames;
+        return frames == 0;
+    }
+
+private:
+    static constexpr int kLeastDelay = 10, kUsualDelay = 100; // milliseconds
+
+    int Draw() // the next one's delay; -1: there is none
+    {
+        const std::optional<PngFrame> frame = m_frames->Next();
+        if (!m_canvas)
+            m_canvas.emplace(QtSize());
+        return frame && m_canvas->Draw(*frame) ? frame->delay : -1;
+    }
+
+    const QSize m_max;
+    QFile m_file;
+    std::optional<AnimatedPng> m_frames;
+    std::optional<PngCanvas> m_canvas; // once it is drawn upon
+};
+
+DecodedPicture DecodeFrame(PngPictureStream& animation, int frames, int frame, int bits)
+{
+    if (frame >= frames)
+        return {{}, {}, "there is no such frame", frames};
+    std::optional<PictureStream::Frame> drawn;
+    if (animation.Skip(frame))
+        drawn = animation.Next();
+    if (!drawn)
+        return {{}, {}, "the picture is damaged", frames};
+    const QSize full = animation.QtSize();
+    return {std::move(drawn->picture), CSize(full.width(), full.height()), {}, frames, "APNG", bits};
+}
+
+// Where the file is cut off or bent, its first picture may still be whole.
+DecodedPicture DecodeStill(QIODevice& file, QSize max, int frame)
+{
+    AnimatedPng animation(BytesOf(file));
+    const PngBytes still = animation.Open() ? animation.GetStill() : PngBytes();
+    QByteArray bytes(reinterpret_cast<const char*>(still.data()), static_cast<qsizetype>(still.size()));
+    QBuffer buffer(&bytes);
+    QImageReader reader(&buffer, "png");
+    return still.empty() ? DecodedPicture{{}, {}, "the picture is damaged"} : Decode(reader, max, frame);
+}
+
+DecodedPicture DecodePng(QImageReader& reader, QFile& file, QSize max, int frame)
+{
+    if (!IsWholePng(BytesOf(file)))
+        return DecodeStill(file, max, frame);
+    PngPictureStream animation(max);
+    const int frames = animation.OpenFrames(file);
+    file.seek(0);
+    if (frames > 1)
+        return DecodeFrame(animation, frames, frame, BitsOf(reader.imageFormat()));
+    return Decode(reader, max, frame);
+}
+
 } // namespace
 
 std::unique_ptr<PictureStream> QtPictureReader::Open(const std::string& path, CSize maxSize) const
 {
     const Reading reading;
-    auto pStream = std::make_unique<QtPictureStream>(maxSize);
+    const QSize max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1));
+    if (auto pPng = std::make_unique<PngPictureStream>(max); pPng->Open(path))
+        return pPng;
+    auto pStream = std::make_unique<QtPictureStream>(max);
     return pStream->Open(path) ? std::move(pStream) : nullptr;
 }
 
@@ -194,11 +254,8 @@ DecodedPicture QtPictureReader::ReadFile(const std::string& path, CSize maxSize,
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QSize max(std::max<int>(maxSize.cx, 1), std::max<int>(maxSize.cy, 1));
-    if (reader.canRead()) {
-        if (reader.format() == "png" && !IsWholePng(file))
-            return {{}, {}, "the picture is damaged"};
-        return Decode(reader, max, frame);
-    }
+    if (reader.canRead())
+        return reader.format() == "png" ? DecodePng(reader, file, max, frame) : Decode(reader, max, frame);
     reader.setDecideFormatFromContent(false);
     reader.setFormat(QFileInfo(QFile::decodeName(path.c_str())).suffix().toLower().toLatin1());
     if (!reader.canRead()) // asked first, for some decoders complain aloud of what is not theirs

@@ -1,4 +1,4 @@
-// What turns a picture file into pixels. The editor decodes nothing itself.
+// What turns a picture file into pixels. The editor decodes no pixels itself.
 #pragma once
 
 #include "Toolkit/graphics/Surface.h"
