@@ -3,7 +3,7 @@
 
 #include "Editor/model/Member.h"
 #include "Editor/pictures/PictureStore.h"
-#include "Editor/views/PictureZoom.h"
+#include "Editor/widgets/PictureZoom.h"
 #include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"

@@ -1,4 +1,4 @@
-#include "Editor/views/PictureZoom.h"
+#include "Editor/widgets/PictureZoom.h"
 
 #include <algorithm>
 #include <cmath>
