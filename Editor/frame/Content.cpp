@@ -19,7 +19,7 @@ Content::Content(PictureStore& pictures, const CEditorList::Events& events, CPla
       m_icons(PictureSizeFor({kIconExtent, kIconExtent}), WithPainted(events)),
       m_thumbnails({}, WithPainted(events)),
       m_picture(pictures, [this] { m_changed(); }),
-      m_player(std::move(player))
+      m_player({std::move(player.askTools), std::move(player.use), [this] { m_changed(); }})
 {}
 
 CEditorList::Events Content::WithPainted(CEditorList::Events events)
@@ -80,6 +80,8 @@ void Content::HidePlayer()
 {
     if (!m_player.HasFrames())
         return;
+    if (IsPictureShown())
+        m_picture.TakeZoom(m_player);
     m_player.SetFrames(nullptr);
     m_pPlayed.Release();
     m_picturePane.HideView();
@@ -99,6 +101,7 @@ void Content::PlayPicture()
                            hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent));
     m_picture.ShowWindow(SW_HIDE);
     m_player.SetFrames(std::move(pFrames));
+    m_player.TakeZoom(m_picture);
     m_player.TogglePlay();
     if (bFocused)
         m_player.SetFocus();

@@ -33,6 +33,8 @@ public:
     CPictureView& GetPicture() { return m_picture; }
     const CPictureView& GetPicture() const { return m_picture; }
     CPlayerView& GetPlayer() { return m_player; }
+    CZoomView& GetZoomed() { return m_player.HasFrames() ? static_cast<CZoomView&>(m_player) : m_picture; }
+    double GetZoom() const { return m_player.HasFrames() ? m_player.GetZoom() : m_picture.GetZoom(); }
     bool IsPictureShown() const { return m_picture.GetAtom() != nullptr; }
     bool Is(HWND hWnd) const
     {

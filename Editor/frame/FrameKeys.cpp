@@ -34,16 +34,22 @@ bool FrameKeys::Handle(HWND hWnd, UINT vkey, bool bAlt)
     return true;
 }
 
-// The arrows lead to the pictures beside it, or with Shift to another part of it.
-bool FrameKeys::HandlePictureKey(UINT vkey)
+// Of a picture, whether it moves or not: larger, smaller, and with Shift another part of it.
+bool FrameKeys::HandleZoomKey(UINT vkey)
 {
-    CPictureView& picture = m_parts.content.GetPicture();
-    if (::GetKeyState(VK_SHIFT) < 0 && PanOf(vkey) != CSize() && picture.PanBy(PanOf(vkey)))
+    CZoomView& view = m_parts.content.GetZoomed();
+    if (::GetKeyState(VK_SHIFT) < 0 && PanOf(vkey) != CSize() && view.PanBy(PanOf(vkey)))
         return true;
     if (vkey == VK_ADD || vkey == VK_OEM_PLUS || vkey == VK_SUBTRACT || vkey == VK_OEM_MINUS)
-        return picture.ZoomBy(vkey == VK_ADD || vkey == VK_OEM_PLUS ? 1 : -1), true;
+        return view.ZoomBy(vkey == VK_ADD || vkey == VK_OEM_PLUS ? 1 : -1), true;
     if (vkey == '0' || vkey == '1')
-        return vkey == '0' ? picture.Fit() : picture.ShowOwnSize(), true;
+        return vkey == '0' ? view.Fit() : view.ShowOwnSize(), true;
+    return false;
+}
+
+// The arrows lead to the pictures beside it.
+bool FrameKeys::HandlePictureKey(UINT vkey)
+{
     const bool bBack = vkey == VK_LEFT || vkey == VK_UP || vkey == VK_PRIOR;
     if (!bBack && vkey != VK_RIGHT && vkey != VK_DOWN && vkey != VK_NEXT && vkey != VK_SPACE)
         return false;
@@ -71,9 +77,11 @@ bool FrameKeys::HandlePlayerKey(UINT vkey)
 
 bool FrameKeys::HandleContentKey(UINT vkey)
 {
+    const bool bPicture = m_parts.content.IsPictureShown();
+    if ((bPicture || ::GetFocus() == m_parts.content.GetPlayer().m_hWnd) && HandleZoomKey(vkey))
+        return true;
     if (HandlePlayerKey(vkey))
         return true;
-    const bool bPicture = m_parts.content.IsPictureShown();
     if (bPicture && HandlePictureKey(vkey))
         return true;
     auto* const pFile = dynamic_cast<CPlainFile*>(m_parts.navigation.Shown());

@@ -30,6 +30,7 @@ public:
 
 private:
     bool HandleContentKey(UINT vkey);
+    bool HandleZoomKey(UINT vkey);
     bool HandlePictureKey(UINT vkey);
     bool HandlePlayerKey(UINT vkey);
     bool HandleTreeKey(UINT vkey);

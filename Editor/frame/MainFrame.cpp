@@ -261,7 +261,7 @@ Status CMainFrame::GetStatus() const
 {
     const int nRows = m_content.GetList().GetItemCount();
     const int nHidden = m_filter.Hides() ? static_cast<int>(ShownContainer()->GetCount()) - nRows : 0;
-    Status status = m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures, m_content.GetPicture().GetZoom())
+    Status status = m_content.IsPictureShown() ? DescribePicture(*Shown(), m_pictures, m_content.GetZoom())
                                                : DescribeList(m_content.GetList(), nHidden, Shown(), m_pictures);
     status.news = m_bars.GetStatusBar().GetNews();
     return status;

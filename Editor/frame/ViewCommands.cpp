@@ -55,7 +55,7 @@ void ViewCommands::Step(int nSteps)
 {
     Content& content = m_parts.content;
     if (content.IsPictureShown())
-        return content.GetPicture().ZoomBy(nSteps);
+        return content.GetZoomed().ZoomBy(nSteps);
     if (content.GetKind() == ListKind::Thumbnails)
         content.StepThumbnailExtent(nSteps);
     else if (nSteps > 0)
@@ -65,7 +65,7 @@ void ViewCommands::Step(int nSteps)
 void ViewCommands::ShowUsualSize()
 {
     if (m_parts.content.IsPictureShown())
-        m_parts.content.GetPicture().Fit();
+        m_parts.content.GetZoomed().Fit();
     else
         m_parts.content.SetThumbnailExtent(Content::kUsualThumbnail);
 }

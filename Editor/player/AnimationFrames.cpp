@@ -87,9 +87,10 @@ struct AnimationFrames::Shared
     }
 };
 
-AnimationFrames::AnimationFrames(const PictureReader& reader, std::string path, int nCount,
+AnimationFrames::AnimationFrames(const PictureReader& reader, std::string path, int nCount, CSize fullSize,
                                  std::function<void()> arrived)
-    : m_pShared(new Shared{.reader = reader, .path = std::move(path), .arrived = std::move(arrived), .nCount = nCount})
+    : m_fullSize(fullSize),
+      m_pShared(new Shared{.reader = reader, .path = std::move(path), .arrived = std::move(arrived), .nCount = nCount})
 {
     std::thread([pShared = m_pShared] { Work(pShared); }).detach();
 }

@@ -17,18 +17,21 @@ public:
     static constexpr std::size_t kMostBytes = 48 << 20;
 
     // The reader is borrowed, for as long as PictureReader tells. `arrived` is called from the queue of messages.
-    AnimationFrames(const PictureReader& reader, std::string path, int nCount, std::function<void()> arrived);
+    AnimationFrames(const PictureReader& reader, std::string path, int nCount, CSize fullSize,
+                    std::function<void()> arrived);
     ~AnimationFrames() override; // waits for nothing
 
     int GetCount() override;
     int DelayOf(int nFrame) override;
     int GetRepeats() override { return 0; }
+    CSize FullSizeOf(int) override { return m_fullSize; }
     PictureStore::Answer Find(int nFrame, CSize size) override;
 
 private:
     struct Shared;
     static void Work(const std::shared_ptr<Shared>& pShared);
 
+    const CSize m_fullSize;
     const std::shared_ptr<Shared> m_pShared;
     std::shared_ptr<const toolkit::Surface> m_pFound; // which was handed out last
 };

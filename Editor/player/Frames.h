@@ -16,9 +16,10 @@ public:
     Frames(const Frames&) = delete;
     Frames& operator=(const Frames&) = delete;
 
-    virtual int GetCount() = 0;          // may change while it is shown
-    virtual int DelayOf(int nFrame) = 0; // milliseconds
-    virtual int GetRepeats() = 0;        // how often all are played; 0: without an end
+    virtual int GetCount() = 0;               // may change while it is shown
+    virtual int DelayOf(int nFrame) = 0;      // milliseconds
+    virtual int GetRepeats() = 0;             // how often all are played; 0: without an end
+    virtual CSize FullSizeOf(int nFrame) = 0; // in the file; 0 by 0: not known yet
     // The frame as large as the size allows. It is good until the next call.
     virtual PictureStore::Answer Find(int nFrame, CSize size) = 0;
 };

@@ -15,7 +15,8 @@ std::unique_ptr<Frames> MakeFrames(IAtom* pAtom, PictureStore& pictures, std::fu
     const int nCount = pictures.FrameCountOf(path);
     if (nCount <= 1 || !pictures.GetReader().Open(path, {1, 1}))
         return nullptr;
-    return std::make_unique<AnimationFrames>(pictures.GetReader(), path, nCount, std::move(arrived));
+    return std::make_unique<AnimationFrames>(pictures.GetReader(), path, nCount, pictures.FullSizeOf(path),
+                                             std::move(arrived));
 }
 
 } // namespace editor

@@ -24,6 +24,10 @@ public:
     int GetCount() override { return static_cast<int>(m_pPhase->GetCount()); }
     int DelayOf(int) override { return m_pPhase->GetTiming().delay; }
     int GetRepeats() override { return m_pPhase->GetTiming().repeat; }
+    CSize FullSizeOf(int nFrame) override
+    {
+        return m_pictures.FullSizeOf(m_pPhase->PathOfFrame(static_cast<UINT>(nFrame)));
+    }
     PictureStore::Answer Find(int nFrame, CSize size) override
     {
         const std::string path = m_pPhase->PathOfFrame(static_cast<UINT>(nFrame));

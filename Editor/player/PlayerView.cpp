@@ -24,13 +24,18 @@ constexpr int kReadAhead = 4; // frames
 constexpr int kBroken = 96;
 
 // All in pixels.
+CSize FittedSize(CSize own, CSize room)
+{
+    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
+    return toolkit::FitInto(own, {std::min(room.cx, own.cx * most), std::min(room.cy, own.cy * most)});
+}
+
 toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bPixels)
 {
     const CSize own = picture.Bounds().Size();
     if (bPixels && own.cx <= room.cx && own.cy <= room.cy)
         return EnlargePixels(picture, room);
-    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
-    const CSize fitted = toolkit::FitInto(own, {std::min(room.cx, own.cx * most), std::min(room.cy, own.cy * most)});
+    const CSize fitted = FittedSize(own, room);
     if (fitted == own)
         return picture;
     return fitted.cx > own.cx ? Enlarge(picture, fitted) : toolkit::ScaleSurface(picture, fitted);
@@ -38,19 +43,19 @@ toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bPix
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPlayerView, CWnd)
+BEGIN_MESSAGE_MAP(CPlayerView, CZoomView)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_WM_SETFOCUS()
     ON_WM_KILLFOCUS()
-    ON_WM_LBUTTONDOWN()
     ON_MESSAGE(kUpdate, OnUpdate)
 END_MESSAGE_MAP()
 
 CPlayerView::CPlayerView(Events events)
-    : m_events(std::move(events)),
+    : CZoomView([this] { m_events.zoomed(); }),
+      m_events(std::move(events)),
       m_tools([this] { return m_events.askTools(); }, [this](UINT nCommand) { m_events.use(nCommand); }),
       m_seekBar([this](int nFrame) { GoTo(nFrame); })
 {}
@@ -63,10 +68,11 @@ BOOL CPlayerView::Create(CWnd* pParent)
 
 void CPlayerView::SetFrames(std::unique_ptr<Frames> pFrames)
 {
-    KillTimer(kFrameTimer);
+    StopTimer();
     m_pFrames = std::move(pFrames);
     m_playback.Pause();
     m_playback.SetCount(0);
+    m_zoom.Fit();
     m_shown = {};
     CountFrames();
 }
@@ -95,15 +101,14 @@ void CPlayerView::OnArrived()
 {
     if (m_pFrames && m_pFrames->GetCount() != m_playback.GetCount())
         return CountFrames(); // so many are known by now
-    if (!std::exchange(m_bAwaited, false))
-        return;
-    if (m_playback.IsPlaying() && Fetch(m_playback.Next()))
+    const bool bAwaited = std::exchange(m_bAwaited, false);
+    if (m_bDue && Fetch(m_playback.Next()))
         Tick();
-    else
+    else if (bAwaited && !m_bDue)
         ShowPresent();
 }
 
-CRect CPlayerView::Stage() const
+CRect CPlayerView::View() const
 {
     CRect stage;
     GetClientRect(&stage);
@@ -113,23 +118,49 @@ CRect CPlayerView::Stage() const
 
 CSize CPlayerView::Room() const
 {
-    CRect room = Stage();
+    CRect room = View();
     room.DeflateRect(kSpace, kSpace);
     return toolkit::ScreenScale().ToPixels(CSize(std::max(room.Width(), 0), std::max(room.Height(), 0)));
+}
+
+CSize CPlayerView::Wanted() const
+{
+    return m_zoom.IsFit() ? Room() : CSize(kMostRead, kMostRead);
+}
+
+CSize CPlayerView::FullSize() const
+{
+    return m_pFrames && !m_shown.IsEmpty() ? m_pFrames->FullSizeOf(m_playback.At()) : CSize();
+}
+
+double CPlayerView::FitZoom() const
+{
+    const CSize full = FullSize(), room = Room();
+    const int nTimes = std::min<int>(room.cx / full.cx, room.cy / full.cy);
+    return m_bPixels && nTimes > 0 ? nTimes : 1.0 * std::max<int>(FittedSize(full, room).cx, 1) / full.cx;
+}
+
+void CPlayerView::OnZoomed()
+{
+    if (m_zoom.IsFit())
+        m_shown = FittedTo(m_shown, Room(), m_bPixels);
+    Fetch(m_playback.At());
 }
 
 bool CPlayerView::Fetch(int nFrame)
 {
     if (!m_pFrames || nFrame < 0 || Room().cx == 0 || Room().cy == 0)
         return true; // there is nothing to wait for
-    const PictureStore::Answer answer = m_pFrames->Find(nFrame, Room());
+    const PictureStore::Answer answer = m_pFrames->Find(nFrame, Wanted());
     m_bAwaited = !answer.pPicture && !answer.bFailed;
     if (m_bAwaited)
         return false;
-    m_shown = answer.pPicture ? FittedTo(*answer.pPicture, Room(), m_bPixels)
-                              : hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBroken);
+    if (!answer.pPicture)
+        m_shown = hostkit::GetPictogram(hostkit::Pictogram::BrokenPicture, kBroken);
+    else
+        m_shown = m_zoom.IsFit() ? FittedTo(*answer.pPicture, Room(), m_bPixels) : *answer.pPicture;
     m_shown.SetScale(toolkit::ScreenScale());
-    const CRect stage = Stage();
+    const CRect stage = View();
     ::InvalidateRect(m_hWnd, &stage);
     return true;
 }
@@ -158,14 +189,14 @@ void CPlayerView::ReadAhead()
         nFrame = ahead.At();
     }
     for (int i = kReadAhead - 1; i >= 0; --i)
-        m_pFrames->Find(next[i], Room());
+        m_pFrames->Find(next[i], Wanted());
 }
 
 void CPlayerView::TogglePlay()
 {
     if (m_playback.IsPlaying()) {
         m_playback.Pause();
-        KillTimer(kFrameTimer);
+        StopTimer();
     } else {
         m_playback.Play();
         ScheduleNext(true);
@@ -175,6 +206,7 @@ void CPlayerView::TogglePlay()
 
 void CPlayerView::ScheduleNext(bool bFirst)
 {
+    m_bDue = false;
     if (!m_playback.IsPlaying())
         return;
     const DWORD dwNow = toolkit::CurrentDesktop().Ticks();
@@ -185,10 +217,17 @@ void CPlayerView::ScheduleNext(bool bFirst)
     ReadAhead();
 }
 
+void CPlayerView::StopTimer()
+{
+    m_bDue = false;
+    KillTimer(kFrameTimer);
+}
+
 void CPlayerView::OnTimer(UINT_PTR)
 {
     KillTimer(kFrameTimer);
-    if (m_playback.IsPlaying() && Fetch(m_playback.Next()))
+    m_bDue = m_playback.IsPlaying();
+    if (m_bDue && Fetch(m_playback.Next()))
         Tick();
 }
 
@@ -204,7 +243,7 @@ void CPlayerView::Tick()
 
 void CPlayerView::Step(int nFrames)
 {
-    KillTimer(kFrameTimer);
+    StopTimer();
     m_playback.Step(nFrames);
     ShowPresent();
 }
@@ -261,30 +300,32 @@ void CPlayerView::SetEnlarging(bool bPixels)
 
 BOOL CPlayerView::OnEraseBkgnd(HDC hdc)
 {
-    FillSolidRect(hdc, Stage(), CalmColor());
+    FillSolidRect(hdc, View(), CalmColor());
     return TRUE;
 }
 
 void CPlayerView::OnPaint()
 {
     const CPaintDC dc(this);
-    CRect stage = Stage();
+    CRect stage = View();
     if (::GetFocus() == m_hWnd)
         DrawFocusRect(dc, stage);
     stage.DeflateRect(1, 1);
     if (m_shown.IsEmpty())
         return;
     IntersectClipRect(dc, stage);
-    DrawChecks(dc, {toolkit::Centred(m_shown.Size(), stage), m_shown.Size()});
-    DrawCentred(dc, stage, m_shown);
+    if (m_zoom.IsFit() || FullSize() == CSize())
+        DrawOnChecks(dc, toolkit::Centred(m_shown.Size(), stage), m_shown);
+    else
+        DrawZoomed(dc, m_shown);
 }
 
 void CPlayerView::OnSize(UINT nType, int cx, int cy)
 {
     CWnd::OnSize(nType, cx, cy);
     const int nTools = std::min(CToolBar::WidthOf(m_events.askTools()), cx);
-    m_tools.MoveWindow({0, Stage().bottom, nTools, cy});
-    m_seekBar.MoveWindow({nTools, Stage().bottom, cx, cy});
+    m_tools.MoveWindow({0, View().bottom, nTools, cy});
+    m_seekBar.MoveWindow({nTools, View().bottom, cx, cy});
     ShowPresent();
 }
 
@@ -298,11 +339,6 @@ void CPlayerView::OnKillFocus(CWnd* pNewWnd)
 {
     CWnd::OnKillFocus(pNewWnd);
     Invalidate();
-}
-
-void CPlayerView::OnLButtonDown(UINT, CPoint)
-{
-    SetFocus();
 }
 
 } // namespace editor

@@ -5,6 +5,7 @@
 #include "Editor/player/Playback.h"
 #include "Editor/player/SeekBar.h"
 #include "Editor/widgets/ToolBar.h"
+#include "Editor/widgets/ZoomView.h"
 
 #include <memory>
 
@@ -12,20 +13,22 @@ namespace editor
 {
 
 // Driven by a timer. A frame that has not been read yet is waited for, with the one before it in sight; the next few
-// are read ahead. Small pictures are enlarged as they are elsewhere.
-class CPlayerView : public CWnd
+// are read ahead. Small pictures are enlarged as they are elsewhere. While it is zoomed, frames are read as they are.
+class CPlayerView : public CZoomView
 {
 public:
     struct Events
     {
         std::function<std::vector<Tool>()> askTools;
         std::function<void(UINT nCommand)> use;
+        std::function<void()> zoomed{};
     };
     explicit CPlayerView(Events events);
     ~CPlayerView() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
-    void SetFrames(std::unique_ptr<Frames> pFrames); // stands still at the first; NULL: there is nothing to play
+    void
+    SetFrames(std::unique_ptr<Frames> pFrames); // stands still at the first, as it fits; NULL: there is nothing to play
     bool HasFrames() const { return m_pFrames != nullptr; }
     void OnArrived(); // a frame's picture has come
     void Update();    // the frames may be others now: looked at once, however often it is called
@@ -40,30 +43,35 @@ public:
     void ToggleTurnsBack();
     void SetEnlarging(bool bPixels); // small pictures: each pixel to a square?
 
-    const toolkit::Surface& GetShown() const { return m_shown; } // as it is drawn; empty while there is none
+    const toolkit::Surface& GetShown() const { return m_shown; } // as it fits, or its own pixels; empty: there is none
     CSeekBar& GetSeekBar() { return m_seekBar; }
     CToolBar& GetTools() { return m_tools; }
 
 protected:
+    CRect View() const override; // all but the bar
+    CSize FullSize() const override;
+    double FitZoom() const override;
+    void OnZoomed() override;
+
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg LRESULT OnUpdate(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 
 private:
     void CountFrames();
-    CRect Stage() const; // all but the bar
     CSize Room() const;
+    CSize Wanted() const;
     bool Fetch(int nFrame); // shows it; false: it is not there yet
     void ShowPresent();
     void ReadAhead();
     void Tick();
     void ScheduleNext(bool bFirst);
+    void StopTimer();
     void TellPlace();
 
     const Events m_events;
@@ -75,6 +83,7 @@ private:
     bool m_bPixels = false;
     bool m_bUpdatePosted = false;
     bool m_bAwaited = false; // the frame that is to be shown is not there yet
+    bool m_bDue = false;     // the next frame's time has come
     DWORD m_dwDue = 0;       // when the next frame is
 };
 

@@ -21,15 +21,6 @@ constexpr int kSignExtent = 96;
 constexpr UINT_PTR kLateTimer = 1;
 constexpr UINT kLate = 250; // milliseconds
 
-bool HasTransparency(const toolkit::Surface& picture)
-{
-    for (int y = 0; y < picture.Height(); ++y)
-        for (const toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
-            if (*p >> 24 != 0xFF)
-                return true;
-    return false;
-}
-
 // A pixel to a pixel of the screen.
 toolkit::Surface OnScreen(toolkit::Surface picture)
 {
@@ -37,36 +28,13 @@ toolkit::Surface OnScreen(toolkit::Surface picture)
     return picture;
 }
 
-// What is seen of a picture that is drawn at that size: its pixels as squares, or the mean of those that share one.
-toolkit::Surface PartOf(const toolkit::Surface& picture, CSize drawn, const CRect& seen)
-{
-    const auto from = [](LONG at, LONG own, LONG size) { return static_cast<int>(std::int64_t{at} * own / size); };
-    const CSize own = picture.Bounds().Size();
-    const bool bReduced = drawn.cx < own.cx;
-    const CRect source(from(seen.left, own.cx, drawn.cx), from(seen.top, own.cy, drawn.cy),
-                       std::min<int>(own.cx, from(seen.right - 1, own.cx, drawn.cx) + 1),
-                       std::min<int>(own.cy, from(seen.bottom - 1, own.cy, drawn.cy) + 1));
-    toolkit::Surface part(bReduced ? source.Size() : seen.Size());
-    for (int y = 0; y < part.Height(); ++y)
-        for (int x = 0; x < part.Width(); ++x)
-            part.Row(y)[x] =
-                bReduced ? picture.Row(source.top + y)[source.left + x]
-                         : picture.Row(from(seen.top + y, own.cy, drawn.cy))[from(seen.left + x, own.cx, drawn.cx)];
-    return bReduced ? toolkit::ScaleSurface(part, seen.Size()) : std::move(part);
-}
-
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPictureView, CWnd)
+BEGIN_MESSAGE_MAP(CPictureView, CZoomView)
     ON_WM_ERASEBKGND()
     ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
-    ON_WM_MOUSEWHEEL()
-    ON_WM_LBUTTONDOWN()
-    ON_WM_MOUSEMOVE()
-    ON_WM_LBUTTONUP()
-    ON_WM_LBUTTONDBLCLK()
 END_MESSAGE_MAP()
 
 BOOL CPictureView::Create(CWnd* pParent)
@@ -84,6 +52,16 @@ void CPictureView::SetAtom(IAtom* pAtom)
     Fetch();
     AwaitPicture();
     Invalidate();
+}
+
+void CPictureView::OnZoomed()
+{
+    if (m_zoom.IsFit() && m_shown.IsEmpty() && !m_own.IsEmpty())
+        m_shown = Fitted(m_own);
+    if (m_zoom.IsFit())
+        m_own = {};
+    if (m_own.IsEmpty())
+        Fetch();
 }
 
 void CPictureView::OnPictureArrived()
@@ -123,9 +101,9 @@ void CPictureView::OnPaint()
     CRect client;
     GetClientRect(&client);
     if (!m_own.IsEmpty() || (!m_shown.IsEmpty() && !m_zoom.IsFit()))
-        return DrawZoomed(dc);
+        return DrawZoomed(dc, m_own.IsEmpty() ? m_shown : m_own);
     if (!m_shown.IsEmpty())
-        return DrawFitting(dc, client);
+        return DrawFitting(dc);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     if (!pMember)
         return;
@@ -139,26 +117,9 @@ void CPictureView::OnPaint()
                      Align::Center);
 }
 
-void CPictureView::DrawFitting(HDC hdc, const CRect& client) const
+void CPictureView::DrawFitting(HDC hdc) const
 {
-    if (HasTransparency(m_shown))
-        DrawChecks(hdc, {toolkit::Centred(m_shown.Size(), client), m_shown.Size()});
-    DrawCentred(hdc, client, m_shown);
-}
-
-void CPictureView::DrawZoomed(HDC hdc) const
-{
-    const CRect place = m_zoom.Place(View(), m_full);
-    const CRect seen = place & View();
-    if (seen.IsRectEmpty())
-        return;
-    const toolkit::Surface part =
-        OnScreen(PartOf(m_own.IsEmpty() ? m_shown : m_own, place.Size(), seen - place.TopLeft()));
-    const CSize corner = part.Scale().ToCoordinates(CSize(seen.left, seen.top));
-    const CRect covered(CPoint(corner.cx, corner.cy), part.Size());
-    if (HasTransparency(part))
-        DrawChecks(hdc, covered);
-    toolkit::DrawSurface(hdc, covered.TopLeft(), part);
+    DrawOnChecks(hdc, toolkit::Centred(m_shown.Size(), View()), m_shown);
 }
 
 void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const std::string& line) const
@@ -181,15 +142,14 @@ CRect CPictureView::View() const
 {
     CRect view;
     GetClientRect(&view);
-    return toolkit::ScreenScale().ToPixels(view);
+    return view;
 }
 
 CRect CPictureView::Room() const
 {
     CRect room = View();
-    const int margin = toolkit::ScreenScale().ToPixels(kMargin);
-    room.DeflateRect(margin, margin);
-    return room;
+    room.DeflateRect(kMargin, kMargin);
+    return toolkit::ScreenScale().ToPixels(room);
 }
 
 void CPictureView::Fetch()

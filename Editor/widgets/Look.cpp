@@ -1,10 +1,24 @@
 #include "Editor/widgets/Look.h"
 
+#include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/WindowApi.h"
 
 namespace editor
 {
+namespace
+{
+
+bool HasTransparency(const toolkit::Surface& picture)
+{
+    for (int y = 0; y < picture.Height(); ++y)
+        for (const toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
+            if (*p >> 24 != 0xFF)
+                return true;
+    return false;
+}
+
+} // namespace
 
 COLORREF BarColor()
 {
@@ -49,6 +63,13 @@ toolkit::Surface Faded(toolkit::Surface picture, double strength)
         for (toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
             *p = ((*p & 0xFF00FF) * part >> 8 & 0xFF00FF) | ((*p >> 8 & 0xFF00FF) * part & 0xFF00FF00);
     return picture;
+}
+
+void DrawOnChecks(HDC hdc, CPoint at, const toolkit::Surface& picture)
+{
+    if (HasTransparency(picture))
+        DrawChecks(hdc, {at, picture.Size()});
+    toolkit::DrawSurface(hdc, at, picture);
 }
 
 void FillBottomBar(HDC hdc, HWND hBar)

@@ -34,7 +34,8 @@ void FillTopBar(HDC hdc, HWND hBar);
 // What a field for text lies on, with a line around it.
 void FillField(HDC hdc, const CRect& rect);
 
-toolkit::Surface Faded(toolkit::Surface picture, double strength); // 0: nothing is left of it
+toolkit::Surface Faded(toolkit::Surface picture, double strength);      // 0: nothing is left of it
+void DrawOnChecks(HDC hdc, CPoint at, const toolkit::Surface& picture); // which are seen where it is transparent
 
 // What a bar at the bottom lies on, with a line above it: the window's whole client area.
 void FillBottomBar(HDC hdc, HWND hBar);

@@ -1,59 +1,105 @@
-// The mouse, and how large the picture is.
-#include "Editor/views/PictureView.h"
+#include "Editor/widgets/ZoomView.h"
+
+#include "Editor/widgets/Look.h"
+#include "Toolkit/graphics/Scale.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace editor
 {
-
-// Zoomed or not decides what is read.
-template <class Change>
-void CPictureView::Zoom(Change change)
+namespace
 {
-    if (m_full == CSize())
+
+// What is seen of a picture that is drawn at that size: its pixels as squares, or the mean of those that share one.
+toolkit::Surface PartOf(const toolkit::Surface& picture, CSize drawn, const CRect& seen)
+{
+    const auto from = [](LONG at, LONG own, LONG size) { return static_cast<int>(std::int64_t{at} * own / size); };
+    const CSize own = picture.Bounds().Size();
+    const bool bReduced = drawn.cx < own.cx;
+    const CRect source(from(seen.left, own.cx, drawn.cx), from(seen.top, own.cy, drawn.cy),
+                       std::min<int>(own.cx, from(seen.right - 1, own.cx, drawn.cx) + 1),
+                       std::min<int>(own.cy, from(seen.bottom - 1, own.cy, drawn.cy) + 1));
+    toolkit::Surface part(bReduced ? source.Size() : seen.Size());
+    for (int y = 0; y < part.Height(); ++y)
+        for (int x = 0; x < part.Width(); ++x)
+            part.Row(y)[x] =
+                bReduced ? picture.Row(source.top + y)[source.left + x]
+                         : picture.Row(from(seen.top + y, own.cy, drawn.cy))[from(seen.left + x, own.cx, drawn.cx)];
+    return bReduced ? toolkit::ScaleSurface(part, seen.Size()) : std::move(part);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CZoomView, CWnd)
+    ON_WM_MOUSEWHEEL()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+END_MESSAGE_MAP()
+
+template <class Change>
+void CZoomView::Zoom(Change change)
+{
+    if (FullSize() == CSize())
         return;
     change();
-    if (m_zoom.IsFit() && m_shown.IsEmpty() && !m_own.IsEmpty())
-        m_shown = Fitted(m_own);
-    if (m_zoom.IsFit())
-        m_own = {};
-    if (m_own.IsEmpty())
-        Fetch();
+    OnZoomed();
     Invalidate();
     m_zoomed();
 }
 
-void CPictureView::ZoomBy(int nSteps)
+CRect CZoomView::PixelView() const
 {
-    Zoom([&] { m_zoom.Step(nSteps, View().CenterPoint(), View(), m_full, FitZoom()); });
+    return toolkit::ScreenScale().ToPixels(View());
 }
 
-void CPictureView::Fit()
+void CZoomView::ZoomBy(int nSteps)
+{
+    Zoom([&] { m_zoom.Step(nSteps, PixelView().CenterPoint(), PixelView(), FullSize(), FitZoom()); });
+}
+
+void CZoomView::Fit()
 {
     Zoom([&] { m_zoom.Fit(); });
 }
 
-void CPictureView::ShowOwnSize()
+void CZoomView::ShowOwnSize()
 {
-    Zoom([&] { m_zoom.SetTo(1, View().CenterPoint(), View(), m_full, FitZoom()); });
+    Zoom([&] { m_zoom.SetTo(1, PixelView().CenterPoint(), PixelView(), FullSize(), FitZoom()); });
 }
 
-bool CPictureView::PanBy(CSize by)
+bool CZoomView::PanBy(CSize by)
 {
-    if (m_zoom.IsFit() || m_full == CSize())
+    if (m_zoom.IsFit() || FullSize() == CSize())
         return false;
-    m_zoom.Pan(by, View(), m_full);
+    m_zoom.Pan(by, PixelView(), FullSize());
     Invalidate();
     return true;
 }
 
-BOOL CPictureView::OnMouseWheel(UINT, short zDelta, CPoint point)
+void CZoomView::DrawZoomed(HDC hdc, const toolkit::Surface& picture) const
+{
+    const CRect place = m_zoom.Place(PixelView(), FullSize());
+    const CRect seen = place & PixelView();
+    if (seen.IsRectEmpty())
+        return;
+    toolkit::Surface part = PartOf(picture, place.Size(), seen - place.TopLeft());
+    part.SetScale(toolkit::ScreenScale());
+    const CSize corner = part.Scale().ToCoordinates(CSize(seen.left, seen.top));
+    DrawOnChecks(hdc, {corner.cx, corner.cy}, part);
+}
+
+BOOL CZoomView::OnMouseWheel(UINT, short zDelta, CPoint point)
 {
     ScreenToClient(&point);
     point = toolkit::ScreenScale().ToPixels(point);
-    Zoom([&] { m_zoom.Step(zDelta > 0 ? 1 : -1, point, View(), m_full, FitZoom()); });
+    Zoom([&] { m_zoom.Step(zDelta > 0 ? 1 : -1, point, PixelView(), FullSize(), FitZoom()); });
     return TRUE;
 }
 
-void CPictureView::OnLButtonDown(UINT nFlags, CPoint point)
+void CZoomView::OnLButtonDown(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonDown(nFlags, point);
     SetFocus();
@@ -61,7 +107,7 @@ void CPictureView::OnLButtonDown(UINT nFlags, CPoint point)
     SetCapture();
 }
 
-void CPictureView::OnMouseMove(UINT nFlags, CPoint point)
+void CZoomView::OnMouseMove(UINT nFlags, CPoint point)
 {
     CWnd::OnMouseMove(nFlags, point);
     if (GetCapture() != m_hWnd)
@@ -71,18 +117,18 @@ void CPictureView::OnMouseMove(UINT nFlags, CPoint point)
     m_grip = now;
 }
 
-void CPictureView::OnLButtonUp(UINT nFlags, CPoint point)
+void CZoomView::OnLButtonUp(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonUp(nFlags, point);
     if (GetCapture() == m_hWnd)
         ReleaseCapture();
 }
 
-void CPictureView::OnLButtonDblClk(UINT, CPoint point)
+void CZoomView::OnLButtonDblClk(UINT, CPoint point)
 {
     if (!m_zoom.IsFit())
         return Fit();
-    Zoom([&] { m_zoom.SetTo(1, toolkit::ScreenScale().ToPixels(point), View(), m_full, FitZoom()); });
+    Zoom([&] { m_zoom.SetTo(1, toolkit::ScreenScale().ToPixels(point), PixelView(), FullSize(), FitZoom()); });
 }
 
 } // namespace editor

@@ -64,3 +64,24 @@ editor::DecodedPicture BmpReader::Decode(std::optional<toolkit::Surface> picture
     const CSize fitted = toolkit::FitInto(own, {std::min(own.cx, maxSize.cx), std::min(own.cy, maxSize.cy)});
     return {toolkit::ScaleSurface(*picture, fitted), own, {}, frames};
 }
+
+std::unique_ptr<editor::PictureStream> BmpReader::Open(const std::string& path, CSize maxSize) const
+{
+    struct Film final : editor::PictureStream
+    {
+        std::optional<Frame> Next() override
+        {
+            editor::DecodedPicture read = Decode(picture, true, size, nNext++);
+            return read.error.empty() ? std::optional(Frame{std::move(read.picture), 100}) : std::nullopt;
+        }
+        std::optional<toolkit::Surface> picture;
+        CSize size;
+        int nNext = 0;
+    };
+    if (path.find("/film") == path.npos)
+        return nullptr;
+    auto pFilm = std::make_unique<Film>();
+    pFilm->picture = DecodeBmp(TempFolder::ReadFile(path));
+    pFilm->size = maxSize;
+    return pFilm;
+}

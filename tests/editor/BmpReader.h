@@ -23,6 +23,7 @@ public:
 
     std::vector<std::string> Extensions() const override { return {"bmp", "dib"}; }
     editor::DecodedPicture Read(const std::string& path, CSize maxSize, int frame) const override;
+    std::unique_ptr<editor::PictureStream> Open(const std::string& path, CSize maxSize) const override;
 
 private:
     static editor::DecodedPicture Decode(std::optional<toolkit::Surface> picture, bool bFilm, CSize maxSize, int frame);

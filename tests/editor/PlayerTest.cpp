@@ -1,7 +1,9 @@
 // A phase that is opened can be played above its frames: with buttons, keys and in its own time.
 #include "Editor/player/AnimationFrames.h"
 #include "Editor/player/Playback.h"
+#include "Toolkit/graphics/Scale.h"
 #include "tests/editor/EditorFixture.h"
+#include "tests/support/BmpFile.h"
 
 #include <atomic>
 
@@ -160,6 +162,41 @@ TEST_F(PlayerTest, OnlyTheThumbnailUnderTheMouseMoves)
     EXPECT_EQ(1, red("walk.phase", 5000));
 }
 
+TEST_F(PlayerTest, APictureIsZoomedWhileItMovesAndSoIsTheNextOne)
+{
+    toolkit::Surface film({500, 1000});
+    for (int y = 0; y < 1000; ++y)
+        for (int x = 0; x < 500; ++x)
+            film.Row(y)[x] = 0xFF000000u | 0x200000u * (y < 500 ? 1 : 2) | static_cast<unsigned>(x / 2);
+    folder.Write("film.bmp", EncodeBmp(film));
+    folder.WriteBmp("film2.bmp", 500, 500, 0xFF405060);
+    desktop.Key(VK_F5);
+    DoubleClick("film.bmp");
+    const auto comes = [&](std::function<bool()> what) { return desktop.RunUntil(std::move(what)); };
+    ASSERT_TRUE(comes([&] { return !Player().GetShown().IsEmpty(); }));
+    const CPoint middle = toolkit::Centred({}, desktop.Dump(Player().m_hWnd).Bounds()) - CPoint(0, 40);
+    const auto under = [&](CPoint at) { return desktop.Dump(Player().m_hWnd).At(at.x, at.y); };
+    const toolkit::Pixel before = under(middle);
+    for (int i = 0; i < 3; ++i)
+        desktop.Wheel(Player().m_hWnd, middle, 1);
+    EXPECT_NEAR(static_cast<int>(before & 0xFF), static_cast<int>(under(middle) & 0xFF), 1) << "the same point";
+    Press('1');
+    EXPECT_EQ("100 %", Frame().GetStatus().text);
+    EXPECT_TRUE(comes([&] { return Player().GetShown().Width() == 500; }));
+    const toolkit::Pixel grip = under(middle);
+    EXPECT_EQ(grip + 10, under(middle + CPoint(20, 0))) << "pixel by pixel";
+    desktop.Advance(100);
+    EXPECT_TRUE(comes([&] { return under(middle) == (grip ^ 0x600000u); })) << "it goes on moving";
+    desktop.Press(Player().m_hWnd, middle);
+    desktop.MoveTo(Player().m_hWnd, middle + CPoint(40, 0));
+    desktop.Release(Player().m_hWnd, middle + CPoint(40, 0));
+    EXPECT_EQ((grip ^ 0x600000u) - 20, under(middle));
+    Press(VK_RIGHT);
+    EXPECT_EQ("film2.bmp 100 %", Frame().Shown()->ShownName() + ' ' + Frame().GetStatus().text);
+    Press('0');
+    EXPECT_EQ("", Frame().GetStatus().text);
+}
+
 // A film of a thousand frames, each a pixel more red than the one before, and ten milliseconds longer.
 class Film final : public editor::PictureReader
 {
@@ -190,7 +227,7 @@ public:
 TEST_F(PlayerTest, AnimationsAreReadAheadAndWhatHasGoneIsReadAnew)
 {
     static Film film; // its reader may end after the test
-    editor::AnimationFrames frames(film, "film", 1000, {});
+    editor::AnimationFrames frames(film, "film", 1000, {}, {});
     const auto frameAt = [&](int nFrame, CSize size) {
         const bool bCame = desktop.RunUntil([&] { return frames.Find(nFrame, size).pPicture != nullptr; });
         const toolkit::Surface* const pPicture = bCame ? frames.Find(nFrame, size).pPicture : nullptr;
