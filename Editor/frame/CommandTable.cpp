@@ -161,6 +161,15 @@ constexpr KeyUse kKeysOfViews[] = {
 };
 // clang-format on
 
+constexpr bool AreNamedOnce()
+{
+    return std::ranges::all_of(kCommands, [](const CommandEntry& command) {
+        const auto names = [&](const CommandEntry& other) { return other.pszText && other.nID == command.nID; };
+        return std::ranges::count_if(kCommands, names) == 1;
+    });
+}
+static_assert(AreNamedOnce(), "two commands have one number");
+
 template <class Matches>
 const CommandEntry* Find(Matches matches)
 {

@@ -100,6 +100,17 @@ TEST_F(PlayerTest, APhasePlaysInItsTimeAboveItsFrames)
     EXPECT_FALSE(IsWindowVisible(Player().m_hWnd));
 }
 
+TEST_F(PlayerTest, ItsButtonsDoWhatTheySay)
+{
+    DoubleClick("walk.phase");
+    ClickTool(Player().GetTools(), editor::ID_PLAY);
+    EXPECT_EQ("2: 2 of 3, 200 ms", After(200));
+    ClickTool(Player().GetTools(), editor::ID_PLAY);
+    ClickTool(Player().GetTools(), editor::ID_STEP_BACK);
+    ClickTool(Player().GetTools(), editor::ID_SLOWER);
+    EXPECT_EQ("1: 1 of 3, 200 ms at 50 %", After(1000));
+}
+
 TEST_F(PlayerTest, AFrameThatIsNotReadYetIsWaitedForAndTheLastOneStays)
 {
     DoubleClick("walk.phase");
@@ -185,14 +196,16 @@ TEST_F(PlayerTest, APictureIsZoomedWhileItMovesAndSoIsTheNextOne)
     EXPECT_TRUE(comes([&] { return Player().GetShown().Width() == 500; }));
     const toolkit::Pixel grip = under(middle);
     EXPECT_EQ(grip + 10, under(middle + CPoint(20, 0))) << "pixel by pixel";
+    Press(VK_ADD);
+    Press(VK_ADD);
     desktop.Advance(100);
     EXPECT_TRUE(comes([&] { return under(middle) == (grip ^ 0x600000u); })) << "it goes on moving";
     desktop.Press(Player().m_hWnd, middle);
     desktop.MoveTo(Player().m_hWnd, middle + CPoint(40, 0));
     desktop.Release(Player().m_hWnd, middle + CPoint(40, 0));
-    EXPECT_EQ((grip ^ 0x600000u) - 20, under(middle));
+    EXPECT_EQ((grip ^ 0x600000u) - 10, under(middle));
     Press(VK_RIGHT);
-    EXPECT_EQ("film2.bmp 100 %", Frame().Shown()->ShownName() + ' ' + Frame().GetStatus().text);
+    EXPECT_EQ("film2.bmp 200 %", Frame().Shown()->ShownName() + ' ' + Frame().GetStatus().text);
     Press('0');
     EXPECT_EQ("", Frame().GetStatus().text);
 }
