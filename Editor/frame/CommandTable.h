@@ -64,6 +64,8 @@ enum : UINT
     ID_FASTER,
     ID_LOOP,
     ID_BACK_AND_FORTH,
+    ID_FRAMES_EARLIER,
+    ID_FRAMES_LATER,
     ID_KEYS,
     ID_ABOUT,
     ID_RECENT_FIRST = 3100, // in it
@@ -75,7 +77,7 @@ struct CommandState
 {
     using Why = std::string; // empty: it can be done
     Why open, carry, remove, rename, paste, selectAll, undo, redo, restore, makeFolder, makePhase, save, timing, list,
-        recent, back, forward, up, outside, picture, play;
+        recent, back, forward, up, outside, picture, play, earlier, later;
     Why never;                                         // stays empty
     std::string nameToUndo, nameToRedo, nameToRestore; // which step
     bool icons = false, thumbnails = false, foldersFirst = false, filter = false, pixels = false, playing = false,

@@ -27,6 +27,8 @@ using hostkit::UserAgrees;
 void FrameCommands::Describe(CommandState& state) const
 {
     DescribeSelection(state);
+    state.earlier = WhyNotMove(false);
+    state.later = WhyNotMove(true);
     if (!m_parts.navigation.ShownContainer())
         state.paste = "no folder is shown";
     const bool bFolder = dynamic_cast<CFolder*>(m_parts.navigation.ShownContainer()) != nullptr;
@@ -61,6 +63,22 @@ void FrameCommands::DescribeSelection(CommandState& state) const
         state.open = "it is shown already";
     if (!CanRenameObject(one.pAtom.Get(), one.pContainer.Get()))
         state.rename = ShownNameOf(one.pAtom.Get()) + " has to keep its name";
+}
+
+std::string FrameCommands::WhyNotMove(bool bLater) const
+{
+    const FrameDrops frames(List());
+    if (m_parts.content.IsPictureShown() || !frames.Phase() || List().GetSelectedCount() == 0)
+        return "no frames of a phase are selected";
+    if (frames.CanShift(bLater))
+        return {};
+    return bLater ? "nothing comes after them" : "nothing comes before them";
+}
+
+void FrameCommands::MoveFrames(bool bLater)
+{
+    ShowFailure(IDS_MOVE_FAILED, FrameDrops(List()).Shift(bLater));
+    m_parts.updateStatus();
 }
 
 void FrameCommands::OpenSelected()

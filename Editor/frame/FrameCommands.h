@@ -60,6 +60,8 @@ public:
     bool SaveOrTell();   // all phases that are modified; were all saved?
     void OpenSelected(); // the one that is
     void RenameSelected();
+    void MoveEarlier() { MoveFrames(false); } // those that are selected in the phase that is shown
+    void MoveLater() { MoveFrames(true); }
     void SelectAll(); // in the list
     void Refresh();   // reads what is shown anew
 
@@ -77,6 +79,8 @@ public:
 
 private:
     void DescribeSelection(CommandState& state) const;
+    std::string WhyNotMove(bool bLater) const;
+    void MoveFrames(bool bLater);
     using Make = std::string (Commands::*)(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
     std::string MakeAnd(Make make, bool& bAny); // did any object come?
     void MakeAndName(Make make);

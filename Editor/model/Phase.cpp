@@ -274,6 +274,11 @@ std::string CPhase::MoveLines(const std::vector<std::size_t>& moved, UINT nBefor
     return SaveChanged([&](std::string text) { return WithLinesMoved(std::move(text), moved, nBefore); });
 }
 
+std::string CPhase::ShiftLines(std::vector<std::size_t>& places, bool bLater)
+{
+    return SaveChanged([&](std::string text) { return WithLinesShifted(std::move(text), places, bLater); });
+}
+
 template <class Change>
 std::string CPhase::SaveChanged(Change change)
 {

@@ -43,6 +43,8 @@ public:
     // one line with the reason.
     std::string InsertLines(const std::vector<std::string>& lines, UINT nBefore);
     std::string MoveLines(const std::vector<std::size_t>& moved, UINT nBefore);
+    // The same for one place on; `places` become the new ones.
+    std::string ShiftLines(std::vector<std::size_t>& places, bool bLater);
     // The line for what a record holds: empty unless it is a picture of this very library that is still there.
     // `trouble` becomes the reason when that cannot be told.
     std::string LineOf(const ArchiveRecord& record, std::string& trouble) const;

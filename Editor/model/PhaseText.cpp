@@ -213,4 +213,21 @@ std::string WithLinesMoved(std::string text, const std::vector<std::size_t>& mov
     return before + block + behind;
 }
 
+// Those that stand together move together.
+std::string WithLinesShifted(std::string text, std::vector<std::size_t>& places, bool bLater)
+{
+    const std::size_t nCount = PictureLines(text).size();
+    for (auto first = places.begin(); first != places.end();) {
+        const auto isLast = [](std::size_t a, std::size_t b) { return b != a + 1; };
+        auto end = std::adjacent_find(first, places.end(), isLast);
+        end = end == places.end() ? end : end + 1;
+        if (bLater ? *std::prev(end) + 1 < nCount : *first > 0) {
+            text = WithLinesMoved(std::move(text), {first, end}, bLater ? *std::prev(end) + 2 : *first - 1);
+            std::for_each(first, end, [=](std::size_t& place) { place += bLater ? 1 : -1; });
+        }
+        first = end;
+    }
+    return text;
+}
+
 } // namespace editor

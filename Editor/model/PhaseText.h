@@ -65,5 +65,8 @@ std::string WithLine(std::string text, std::string_view line);
 std::string WithLines(std::string text, const std::vector<std::string>& lines, std::size_t nBefore);
 // With some of its lines, which are in order, all before that one.
 std::string WithLinesMoved(std::string text, const std::vector<std::size_t>& moved, std::size_t nBefore);
+// With each of them one place earlier, or later; those that have come to that end stay. `places`, in order, become
+// where they are then.
+std::string WithLinesShifted(std::string text, std::vector<std::size_t>& places, bool bLater);
 
 } // namespace editor

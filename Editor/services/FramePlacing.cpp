@@ -68,6 +68,16 @@ std::string Insert(CAtomEditor& editor, CPhase& phase, const Lines& noted, UINT 
     return noted.troubles.Text();
 }
 
+template <class Change>
+std::string Order(CAtomEditor& editor, CPhase& phase, Change change)
+{
+    const History::Step step(&editor.GetHistory(), "order of frames");
+    std::string failure = change();
+    if (failure.empty())
+        ReadAgainAndTell(editor, phase);
+    return failure;
+}
+
 } // namespace
 
 bool AreDraggedFrom(const CAtomEditor& editor, const CPhase& phase)
@@ -85,11 +95,12 @@ UINT CountStaying(const CAtomEditor& editor, UINT nBefore)
 
 std::string MoveDragged(CAtomEditor& editor, CPhase& phase, UINT nBefore)
 {
-    const History::Step step(&editor.GetHistory(), "order of frames");
-    std::string failure = phase.MoveLines(DraggedPlaces(editor), nBefore);
-    if (failure.empty())
-        ReadAgainAndTell(editor, phase);
-    return failure;
+    return Order(editor, phase, [&] { return phase.MoveLines(DraggedPlaces(editor), nBefore); });
+}
+
+std::string Shift(CAtomEditor& editor, CPhase& phase, std::vector<std::size_t>& places, bool bLater)
+{
+    return Order(editor, phase, [&] { return phase.ShiftLines(places, bLater); });
 }
 
 std::string InsertArchived(CAtomEditor& editor, CPhase& phase, IArchive* pArchive, UINT nBefore, UINT& nPlaced)

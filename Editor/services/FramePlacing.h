@@ -14,6 +14,8 @@ namespace editor
 
 // Those of the phase that are being dragged.
 std::string MoveDragged(CAtomEditor& editor, CPhase& phase, UINT nBefore);
+// Each of these, which are in order, one place earlier or later; `places` become where they are then.
+std::string Shift(CAtomEditor& editor, CPhase& phase, std::vector<std::size_t>& places, bool bLater);
 // The pictures and lines in an archive. `nPlaced`: so many.
 std::string InsertArchived(CAtomEditor& editor, CPhase& phase, IArchive* pArchive, UINT nBefore, UINT& nPlaced);
 // Those of the files that are pictures of the same library.

@@ -5,6 +5,8 @@
 #include "Editor/views/EditorList.h"
 #include "Views/host/Services.h"
 
+#include <algorithm>
+
 namespace editor
 {
 namespace
@@ -48,7 +50,7 @@ std::string FrameDrops::PlaceAndSelect(int nRow, Place place)
     UINT nFirst = FrameAt(nRow), nPlaced = 0;
     std::string failure = place(*pOwn, *pPhase.Get(), nFirst, nPlaced);
     if (nPlaced > 0 && Phase() == pPhase.Get())
-        Select(*pOwn, *pPhase.Get(), nFirst, nPlaced);
+        Select(*pOwn, *pPhase.Get(), [&](UINT nFrame) { return nFrame - nFirst < nPlaced; }); // unsigned
     return failure;
 }
 
@@ -78,8 +80,38 @@ std::string FrameDrops::InsertFiles(COleDataObject& data, int nRow)
     });
 }
 
+bool FrameDrops::CanShift(bool bLater) const
+{
+    const int nRows = m_list.GetItemCount(), nSelected = m_list.GetSelectedCount();
+    if (!Phase() || nSelected == 0)
+        return false;
+    return bLater ? m_list.GetNextItem(-1, LVNI_SELECTED) != nRows - nSelected
+                  : !m_list.GetItemState(nSelected - 1, LVIS_SELECTED) ||
+                        m_list.GetNextItem(nSelected - 1, LVNI_SELECTED) >= 0;
+}
+
+std::string FrameDrops::Shift(bool bLater)
+{
+    const auto pPhase = CStubRef<CPhase>::Share(Phase());
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
+    if (!pPhase || !pOwn)
+        return "no phase is shown";
+    std::vector<std::size_t> places;
+    for (int i = -1; (i = m_list.GetNextItem(i, LVNI_SELECTED)) >= 0;)
+        if (const int nPosition = PositionOf(m_list.GetAtom(i).Get()); nPosition >= 0)
+            places.push_back(static_cast<std::size_t>(nPosition));
+    std::ranges::sort(places);
+    std::string failure = editor::Shift(*pOwn, *pPhase.Get(), places, bLater);
+    if (failure.empty() && Phase() == pPhase.Get())
+        Select(*pOwn, *pPhase.Get(),
+               [&](UINT nFrame) { return std::ranges::binary_search(places, std::size_t{nFrame}); });
+    return failure;
+}
+
 // The views hear of the last alone, however many.
-void FrameDrops::Select(CAtomEditor& editor, CPhase& phase, UINT nFirst, UINT nCount)
+template <class IsPlaced>
+void FrameDrops::Select(CAtomEditor& editor, CPhase& phase, IsPlaced isPlaced)
 {
     editor.NotifyHandlers(nullptr, &IAEStateHandler::OnAtomDeselected, nullptr, &phase, 0);
     CStubRef<IAtom> pLast;
@@ -88,7 +120,7 @@ void FrameDrops::Select(CAtomEditor& editor, CPhase& phase, UINT nFirst, UINT nC
         for (int i = 0; i < m_list.GetItemCount(); ++i) {
             CStubRef<IAtom> pAtom = m_list.GetAtom(i);
             const int nPosition = PositionOf(pAtom.Get());
-            if (nPosition < 0 || static_cast<UINT>(nPosition) - nFirst >= nCount) // unsigned: also those before it
+            if (nPosition < 0 || !isPlaced(static_cast<UINT>(nPosition)))
                 continue;
             m_list.SetItemState(i, LVIS_SELECTED, LVIS_SELECTED);
             pLast = std::move(pAtom);

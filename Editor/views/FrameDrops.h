@@ -1,4 +1,4 @@
-// What is dropped between the frames of a phase.
+// What is dropped between the frames of a phase, and frames that are moved there in other ways.
 #pragma once
 
 #include "Editor/services/FramePlacing.h"
@@ -24,11 +24,16 @@ public:
     std::string Insert(IArchive* pArchive, int nRow);
     std::string InsertFiles(COleDataObject& data, int nRow);
 
+    // The selected frames go one place on.
+    std::string Shift(bool bLater);
+    bool CanShift(bool bLater) const; // are there any, and not all at that end already?
+
 private:
     UINT FrameAt(int nRow) const; // the list may show a part of them
     template <class Place>
     std::string PlaceAndSelect(int nRow, Place place);
-    void Select(CAtomEditor& editor, CPhase& phase, UINT nFirst, UINT nCount);
+    template <class IsPlaced>
+    void Select(CAtomEditor& editor, CPhase& phase, IsPlaced isPlaced);
 
     CEditorList& m_list;
 };

@@ -7,7 +7,7 @@ namespace hostkit
 
 bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt) const
 {
-    if (key == 0 || key != vkey || bAlt != (with == With::Alt))
+    if (key == 0 || key != vkey || bAlt != (with == With::Alt || with == With::AltShift))
         return false;
     switch (with) {
     case With::Nothing:
@@ -17,6 +17,8 @@ bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt) cons
         return bControl && !bShift;
     case With::ControlShift:
         return bControl && bShift;
+    case With::AltShift:
+        return !bControl && bShift;
     case With::Whatever:
         return true;
     case With::Views:
@@ -30,6 +32,7 @@ std::string CommandKey::Text() const
     const bool bLetter = (vkey >= 'A' && vkey <= 'Z') || (vkey >= '0' && vkey <= '9');
     const std::string held = with == With::ControlShift                                  ? "Ctrl+Shift+"
                              : with == With::Alt                                         ? "Alt+"
+                             : with == With::AltShift                                    ? "Alt+Shift+"
                              : with == With::Control || (bLetter && with == With::Views) ? "Ctrl+"
                                                                                          : "";
     switch (vkey) {

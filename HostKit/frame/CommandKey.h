@@ -16,6 +16,7 @@ struct HOSTKIT_API CommandKey
         Control,
         ControlShift,
         Alt,
+        AltShift,
         Whatever, // else is held down
         Views     // know it themselves: the menu tells it, and nobody else looks for it
     };

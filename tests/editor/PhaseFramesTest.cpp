@@ -56,6 +56,42 @@ TEST_F(PhaseFramesTest, FramesDraggedBetweenOthersComeThereInTheirOrderInOneStep
     EXPECT_EQ(Ledger(), TakeBoxes());
 }
 
+TEST_F(PhaseFramesTest, KeysMoveTheSelectedFramesOnePlaceAndTheyStaySelected)
+{
+    const auto move = [&](UINT vkey) {
+        desktop.Hold({.shift = true, .alt = true});
+        desktop.Key(vkey);
+        desktop.Hold({});
+        return Rows();
+    };
+    Select({"b.bmp", "c.bmp", "e.bmp"});
+    EXPECT_EQ("[(*b.bmp) (c.bmp) a.bmp (e.bmp) d.bmp]", move(VK_LEFT));
+    EXPECT_EQ("[(*b.bmp) (c.bmp) (e.bmp) a.bmp d.bmp]", move(VK_LEFT)) << "what is the first already stays";
+    EXPECT_EQ("#delay 80\nb.bmp\nc.bmp\ne.bmp\na.bmp\n# the turn\nd.bmp\n", Walk());
+    move(VK_LEFT);
+    EXPECT_EQ("Frames one place earlier: nothing comes before them", Frame().GetStatus().news);
+    EXPECT_EQ("[a.bmp (*b.bmp) (c.bmp) (e.bmp) d.bmp]", move(VK_RIGHT));
+    EXPECT_EQ("order of frames in \"walk.phase\"", Undo());
+    for (int i = 0; i < 3; ++i)
+        Control('Z');
+    EXPECT_EQ(kWalk, Walk());
+
+    std::string lines;
+    for (int i = 0; i < 300; ++i)
+        lines += i % 2 ? "a.bmp\n" : "b.bmp\n";
+    folder.Write("Ada/walk.phase", lines);
+    desktop.Key(VK_F5);
+    desktop.Key(VK_END);
+    for (int i = 0; i < 150; ++i)
+        move(VK_LEFT);
+    const int nRow = Frame().GetList().GetFocusedRow();
+    CRect row, client;
+    Frame().GetList().GetItemRect(nRow, &row, LVIR_ICON);
+    ::GetClientRect(List(), &client);
+    EXPECT_EQ(149, nRow);
+    EXPECT_TRUE(row.top >= 0 && row.bottom <= client.bottom) << "it stays in sight";
+}
+
 TEST_F(PhaseFramesTest, TheGapIsMarkedWhileADragIsOverIt)
 {
     const auto marked = [&] {
