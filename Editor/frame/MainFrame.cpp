@@ -129,8 +129,10 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 
 BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
-    if (pAtom && pAtom == GetPictureView().GetAtom())
-        GetPictureView().OnPictureArrived(), m_content.PlayPicture();
+    if (pAtom && pAtom == GetPictureView().GetAtom()) {
+        GetPictureView().OnPictureArrived();
+        m_content.PlayPicture();
+    }
     m_bars.GetStatusBar().Update();
     if (dynamic_cast<CPhase*>(CMember::Of(pAtom))) {
         m_content.UpdatePlayer(pAtom);

@@ -1,6 +1,5 @@
 #include "Editor/frame/PropertiesPane.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -82,12 +81,6 @@ std::string CPropertiesPane::GetText() const
     std::string text =
         m_phases.size() == 1 ? m_phases.front()->ShownName() : std::to_string(m_phases.size()) + " phases";
     return bModified ? text + ": not saved yet (Ctrl+S)" : text;
-}
-
-BOOL CPropertiesPane::OnEraseBkgnd(HDC hdc)
-{
-    FillBottomBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CPropertiesPane::OnPaint()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/model/Phase.h"
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/NumberField.h"
 #include "Toolkit/access/Accessible.h"
 
@@ -40,7 +41,7 @@ public:
     std::string AccName(LPARAM) override { return GetText(); }
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     afx_msg LRESULT OnUpdate(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()

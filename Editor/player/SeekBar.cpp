@@ -1,6 +1,5 @@
 #include "Editor/player/SeekBar.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/SysColors.h"
 
@@ -59,12 +58,6 @@ int CSeekBar::PlaceOf(int nFrame, const CRect& track) const
 {
     const auto room = static_cast<std::int64_t>(track.Width() - kKnob);
     return static_cast<int>(track.left + kKnob / 2 + room * nFrame / (m_nCount - 1));
-}
-
-BOOL CSeekBar::OnEraseBkgnd(HDC hdc)
-{
-    FillTopBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CSeekBar::OnPaint()

@@ -1,6 +1,7 @@
 // Where in a row of frames the shown one stands, and what is told of it.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/Slider.h"
 
 #include <functional>
@@ -29,7 +30,7 @@ protected:
     bool Takes(CPoint point) const override { return Track().PtInRect(point); }
     void PointAt(CPoint point) override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 

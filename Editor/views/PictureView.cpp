@@ -2,7 +2,6 @@
 
 #include "Editor/model/PlainFile.h"
 #include "Editor/pictures/Enlarge.h"
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/Scale.h"
 #include "Toolkit/graphics/SysColors.h"
 
@@ -85,14 +84,6 @@ void CPictureView::OnTimer(UINT_PTR)
     KillTimer(kLateTimer);
     m_bLate = true;
     Invalidate();
-}
-
-BOOL CPictureView::OnEraseBkgnd(HDC hdc)
-{
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, CalmColor());
-    return TRUE;
 }
 
 void CPictureView::OnPaint()

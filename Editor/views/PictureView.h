@@ -3,6 +3,7 @@
 
 #include "Editor/model/Member.h"
 #include "Editor/pictures/PictureStore.h"
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/ZoomView.h"
 #include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/access/Accessible.h"
@@ -37,7 +38,7 @@ protected:
     double FitZoom() const override;
     void OnZoomed() override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, CalmColor()); }
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nIDEvent);

@@ -1,6 +1,5 @@
 #include "Editor/widgets/KeysSheet.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -94,14 +93,6 @@ std::vector<CKeysSheet::Part> CKeysSheet::AccParts()
         }
     }
     return parts;
-}
-
-BOOL CKeysSheet::OnEraseBkgnd(HDC hdc)
-{
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
-    return TRUE;
 }
 
 void CKeysSheet::OnPaint()

@@ -1,6 +1,7 @@
 // A sheet over the views that lists the keys.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -38,7 +39,7 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_LIST, STATE_SYSTEM_FOCUSABLE, "Keys", {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, SheetColor()); }
     afx_msg void OnPaint();
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

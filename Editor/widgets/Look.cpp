@@ -35,17 +35,42 @@ COLORREF CalmColor()
     return hostkit::MixSysColors(COLOR_WINDOW, COLOR_BTNFACE, 60);
 }
 
+COLORREF SheetColor()
+{
+    return GetSysColor(COLOR_WINDOW);
+}
+
 COLORREF ErrorColor()
 {
     return toolkit::Readable(RGB(176, 40, 40), BarColor());
 }
 
-void FillTopBar(HDC hdc, HWND hBar)
+BOOL FillTopBar(HDC hdc, HWND hBar)
+{
+    CRect line;
+    GetClientRect(hBar, &line);
+    FillWindow(hdc, hBar, BarColor());
+    line.top = line.bottom - 1;
+    FillSolidRect(hdc, line, LineColor());
+    return TRUE;
+}
+
+BOOL FillBottomBar(HDC hdc, HWND hBar)
+{
+    CRect line;
+    GetClientRect(hBar, &line);
+    FillWindow(hdc, hBar, BarColor());
+    line.bottom = line.top + 1;
+    FillSolidRect(hdc, line, LineColor());
+    return TRUE;
+}
+
+BOOL FillWindow(HDC hdc, HWND hWnd, COLORREF color)
 {
     CRect client;
-    GetClientRect(hBar, &client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.bottom - 1, client.right, client.bottom}, LineColor());
+    GetClientRect(hWnd, &client);
+    FillSolidRect(hdc, client, color);
+    return TRUE;
 }
 
 void FillField(HDC hdc, const CRect& rect)
@@ -70,14 +95,6 @@ void DrawOnChecks(HDC hdc, CPoint at, const toolkit::Surface& picture)
     if (HasTransparency(picture))
         DrawChecks(hdc, {at, picture.Size()});
     toolkit::DrawSurface(hdc, at, picture);
-}
-
-void FillBottomBar(HDC hdc, HWND hBar)
-{
-    CRect client;
-    GetClientRect(hBar, &client);
-    FillSolidRect(hdc, client, BarColor());
-    FillSolidRect(hdc, {client.left, client.top, client.right, client.top + 1}, LineColor());
 }
 
 } // namespace editor

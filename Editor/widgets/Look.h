@@ -26,18 +26,19 @@ inline constexpr int kPropertiesHeight = 40;
 COLORREF BarColor();   // behind the path, captions and the status
 COLORREF HoverColor(); // behind what a click would use
 COLORREF CalmColor();  // behind a large picture
+COLORREF SheetColor(); // behind what is read in place of the views
 COLORREF ErrorColor(); // of texts that tell of a failure
 
-// What the bar with path and tools lies on, with a line below it: the window's whole client area.
-void FillTopBar(HDC hdc, HWND hBar);
+// What a window lies on, its whole client area: the bar with path and tools, with a line below it; a bar at the bottom,
+// with a line above it; anything else. TRUE, as OnEraseBkgnd says where nothing is left to erase.
+BOOL FillTopBar(HDC hdc, HWND hBar);
+BOOL FillBottomBar(HDC hdc, HWND hBar);
+BOOL FillWindow(HDC hdc, HWND hWnd, COLORREF color);
 
 // What a field for text lies on, with a line around it.
 void FillField(HDC hdc, const CRect& rect);
 
 toolkit::Surface Faded(toolkit::Surface picture, double strength);      // 0: nothing is left of it
 void DrawOnChecks(HDC hdc, CPoint at, const toolkit::Surface& picture); // which are seen where it is transparent
-
-// What a bar at the bottom lies on, with a line above it: the window's whole client area.
-void FillBottomBar(HDC hdc, HWND hBar);
 
 } // namespace editor

@@ -1,6 +1,5 @@
 #include "Editor/widgets/MenuBar.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>
@@ -185,14 +184,6 @@ std::vector<CMenuBar::Part> CMenuBar::AccParts()
             {ROLE_SYSTEM_MENUITEM, state, Unmarked(m_titles[static_cast<std::size_t>(i)]).first, TitleRect(i), "Open"});
     }
     return parts;
-}
-
-BOOL CMenuBar::OnEraseBkgnd(HDC hdc)
-{
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, BarColor());
-    return TRUE;
 }
 
 void CMenuBar::OnPaint()

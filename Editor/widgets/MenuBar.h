@@ -1,6 +1,7 @@
 // The menus at the top of the window.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
@@ -40,7 +41,7 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_MENUBAR, 0, {}, {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, BarColor()); }
     afx_msg void OnPaint();
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);

@@ -1,5 +1,7 @@
 #include "Editor/widgets/NumberField.h"
 
+#include "Editor/widgets/TextField.h"
+
 #include <utility>
 
 namespace editor
@@ -10,19 +12,9 @@ namespace
 // Does the message bring something of the user's into the field?
 bool Touches(UINT message, WPARAM wParam)
 {
-    switch (message) {
-    case WM_CHAR:
+    if (message == WM_CHAR)
         return wParam == '\b' || (wParam >= '0' && wParam <= '9');
-    case WM_KEYDOWN:
-        return wParam == VK_DELETE;
-    case WM_PASTE:
-    case WM_CUT:
-    case WM_CLEAR:
-    case WM_UNDO:
-        return true;
-    default:
-        return false;
-    }
+    return message == WM_KEYDOWN ? wParam == VK_DELETE : MayEdit(message);
 }
 
 } // namespace

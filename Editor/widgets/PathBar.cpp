@@ -1,6 +1,5 @@
 #include "Editor/widgets/PathBar.h"
 
-#include "Editor/widgets/Look.h"
 #include "HostKit/pictures/Pictograms.h"
 #include "Toolkit/graphics/SysColors.h"
 
@@ -92,12 +91,6 @@ void CPathBar::AccUse(int nPart)
 {
     if (nPart + 1 < static_cast<int>(m_parts.size()))
         UseSpot(nPart);
-}
-
-BOOL CPathBar::OnEraseBkgnd(HDC hdc)
-{
-    FillTopBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CPathBar::OnPaint()

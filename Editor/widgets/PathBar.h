@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/CrumbLayout.h"
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/SpotBar.h"
 #include "Editor/widgets/TextField.h"
 
@@ -34,7 +35,7 @@ protected:
     int SpotAt(CPoint point) const override;
     void UseSpot(int nSpot) override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()

@@ -1,6 +1,5 @@
 #include "Editor/widgets/ProgressStrip.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -63,12 +62,6 @@ CRect CProgressStrip::CancelRect() const
     const int width = TextWidth(kCancelText) + 4 * kSpace;
     return {CPoint(client.right - 2 * kSpace - width, (client.Height() - kButtonHeight) / 2),
             CSize(width, kButtonHeight)};
-}
-
-BOOL CProgressStrip::OnEraseBkgnd(HDC hdc)
-{
-    FillBottomBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CProgressStrip::OnPaint()

@@ -1,6 +1,7 @@
 // The line at the bottom while work goes on that takes long: what, how far, and Cancel.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -29,7 +30,7 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_PROGRESSBAR, 0, m_text, {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);

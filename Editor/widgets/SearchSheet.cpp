@@ -1,6 +1,5 @@
 #include "Editor/widgets/SearchSheet.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -93,14 +92,6 @@ CRect CSearchSheet::ListRect() const
 int CSearchSheet::LinesInSight() const
 {
     return std::max(1, ListRect().Height() / kLine);
-}
-
-BOOL CSearchSheet::OnEraseBkgnd(HDC hdc)
-{
-    CRect client;
-    GetClientRect(&client);
-    FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
-    return TRUE;
 }
 
 void CSearchSheet::OnPaint()

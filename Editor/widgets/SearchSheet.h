@@ -1,6 +1,7 @@
 // A sheet over the views with a field and what was found for it.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/TextField.h"
 #include "Toolkit/access/Accessible.h"
 
@@ -50,7 +51,7 @@ public:
     void AccDo(LPARAM item) override { m_events.chosen(static_cast<std::size_t>(item) - 1); }
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, SheetColor()); }
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);

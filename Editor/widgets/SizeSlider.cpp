@@ -1,6 +1,5 @@
 #include "Editor/widgets/SizeSlider.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <algorithm>
@@ -44,12 +43,6 @@ CPoint CSizeSlider::PlaceOf(int nSize) const
     const CRect groove = Groove();
     const double part = std::log2(1.0 * nSize / m_nLeast) / std::log2(1.0 * m_nMost / m_nLeast);
     return {groove.left + static_cast<int>(std::lround(part * groove.Width())), groove.CenterPoint().y};
-}
-
-BOOL CSizeSlider::OnEraseBkgnd(HDC hdc)
-{
-    FillBottomBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CSizeSlider::OnPaint()

@@ -1,6 +1,7 @@
 // How large thumbnails are, in the line at the bottom.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/Slider.h"
 
 #include <functional>
@@ -37,7 +38,7 @@ protected:
     bool Takes(CPoint) const override { return true; }
     void PointAt(CPoint point) override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     DECLARE_MESSAGE_MAP()

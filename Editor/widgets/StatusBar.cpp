@@ -1,6 +1,5 @@
 #include "Editor/widgets/StatusBar.h"
 
-#include "Editor/widgets/Look.h"
 #include "Toolkit/graphics/SysColors.h"
 
 #include <utility>
@@ -39,12 +38,6 @@ std::string CStatusBar::AccName(LPARAM)
     const Status status = m_ask();
     const std::string& detail = status.isError || status.news.empty() ? status.detail : status.news;
     return detail.empty() ? status.text : detail + ". " + status.text;
-}
-
-BOOL CStatusBar::OnEraseBkgnd(HDC hdc)
-{
-    FillBottomBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CStatusBar::OnPaint()

@@ -1,6 +1,7 @@
 // The line at the bottom.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -34,7 +35,7 @@ public:
     std::string AccName(LPARAM) override;
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 

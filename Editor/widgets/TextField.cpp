@@ -1,26 +1,15 @@
 #include "Editor/widgets/TextField.h"
 
+#include <algorithm>
+
 namespace editor
-{
-namespace
 {
 
 bool MayEdit(UINT message)
 {
-    switch (message) {
-    case WM_CHAR:
-    case WM_KEYDOWN:
-    case WM_PASTE:
-    case WM_CUT:
-    case WM_CLEAR:
-    case WM_UNDO:
-        return true;
-    default:
-        return false;
-    }
+    static constexpr UINT kEdits[] = {WM_CHAR, WM_KEYDOWN, WM_PASTE, WM_CUT, WM_CLEAR, WM_UNDO};
+    return std::ranges::find(kEdits, message) != std::end(kEdits);
 }
-
-} // namespace
 
 void CTextField::SetText(const std::string& text)
 {

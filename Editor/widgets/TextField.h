@@ -12,6 +12,8 @@ namespace editor
 // Where a field with a line around it stands in a bar, the text inside that has this margin.
 inline constexpr CSize kFieldMargin(6, 5);
 
+bool MayEdit(UINT message); // a field's text, on the user's behalf
+
 class CTextField : public CEdit
 {
 public:

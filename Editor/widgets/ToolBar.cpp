@@ -1,7 +1,5 @@
 #include "Editor/widgets/ToolBar.h"
 
-#include "Editor/widgets/Look.h"
-
 namespace editor
 {
 namespace
@@ -75,12 +73,6 @@ std::vector<CToolBar::Part> CToolBar::AccParts()
         parts.push_back({ROLE_SYSTEM_PUSHBUTTON, state, tools[i].tip, rects[i], "Press"});
     }
     return parts;
-}
-
-BOOL CToolBar::OnEraseBkgnd(HDC hdc)
-{
-    FillTopBar(hdc, m_hWnd);
-    return TRUE;
 }
 
 void CToolBar::OnPaint()

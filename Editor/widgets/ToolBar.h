@@ -1,6 +1,7 @@
 // A row of buttons for commands.
 #pragma once
 
+#include "Editor/widgets/Look.h"
 #include "Editor/widgets/SpotBar.h"
 #include "Toolkit/graphics/Surface.h"
 
@@ -41,7 +42,7 @@ protected:
     void UseSpot(int nSpot) override;
     Tip TipOf(int nSpot) const override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
     afx_msg void OnPaint();
     DECLARE_MESSAGE_MAP()
 
