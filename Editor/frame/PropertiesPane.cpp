@@ -17,7 +17,7 @@ void DrawField(HDC hdc, CRect rect, const char* pszBefore, const char* pszBehind
 {
     rect.InflateRect(4, 3);
     FillField(hdc, rect);
-    const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
+    const COLORREF ink = TextColor(COLOR_WINDOWTEXT, BarColor());
     DrawTextLine(hdc, {rect.left - 120, rect.top, rect.left - kSpace, rect.bottom}, pszBefore, ink, Align::Right);
     DrawTextLine(hdc, {rect.right + kSpace, rect.top, rect.right + 48, rect.bottom}, pszBehind, ink);
 }
@@ -94,7 +94,8 @@ void CPropertiesPane::OnPaint()
         DrawField(dc, kRepeatField, "Repeat", "times");
         text.left = kRepeatField.right + 64;
     }
-    DrawTextLine(dc, text, GetText(), GetSysColor(COLOR_GRAYTEXT), m_phases.empty() ? Align::Left : Align::Right);
+    DrawTextLine(dc, text, GetText(), TextColor(COLOR_GRAYTEXT, BarColor()),
+                 m_phases.empty() ? Align::Left : Align::Right);
 }
 
 CNumberField::Events CPropertiesPane::FieldEvents(int PhaseTiming::*number, std::function<void()> next)

@@ -68,7 +68,7 @@ void CSeekBar::OnPaint()
     CRect text = client;
     text.right -= 2 * kSpace;
     text.left = std::max<int>(text.right - kText, 0);
-    DrawTextLine(dc, text, m_text, GetSysColor(COLOR_GRAYTEXT), Align::Right);
+    DrawTextLine(dc, text, m_text, TextColor(COLOR_GRAYTEXT, BarColor()), Align::Right);
     const CRect track = Track();
     if (track.IsRectEmpty() || m_nAt < 0)
         return;

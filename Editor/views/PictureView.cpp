@@ -104,7 +104,7 @@ void CPictureView::OnPaint()
     if (const std::string reason = pMember->ErrorLine(); !reason.empty())
         DrawSign(dc, client, Pictogram::BrokenPicture, reason);
     else if (m_bLate)
-        DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", GetSysColor(COLOR_GRAYTEXT),
+        DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", TextColor(COLOR_GRAYTEXT, CalmColor()),
                      Align::Center);
 }
 
@@ -119,7 +119,7 @@ void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const 
     text.top = client.CenterPoint().y + kSignExtent / 2;
     text.bottom = text.top + 2 * kPaneCaptionHeight;
     DrawCentred(hdc, client, hostkit::GetPictogram(sign, kSignExtent));
-    DrawTextLine(hdc, text, line, GetSysColor(COLOR_GRAYTEXT), Align::Center);
+    DrawTextLine(hdc, text, line, TextColor(COLOR_GRAYTEXT, CalmColor()), Align::Center);
 }
 
 void CPictureView::OnSize(UINT nType, int cx, int cy)

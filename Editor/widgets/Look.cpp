@@ -45,6 +45,11 @@ COLORREF ErrorColor()
     return toolkit::Readable(RGB(176, 40, 40), BarColor());
 }
 
+COLORREF TextColor(int nColor, COLORREF ground)
+{
+    return toolkit::Readable(GetSysColor(nColor), ground);
+}
+
 BOOL FillTopBar(HDC hdc, HWND hBar)
 {
     CRect line;

@@ -23,11 +23,12 @@ inline constexpr int kFieldHeight = 28;   // with the line around it
 inline constexpr int kStatusBarHeight = 32;
 inline constexpr int kPropertiesHeight = 40;
 
-COLORREF BarColor();   // behind the path, captions and the status
-COLORREF HoverColor(); // behind what a click would use
-COLORREF CalmColor();  // behind a large picture
-COLORREF SheetColor(); // behind what is read in place of the views
-COLORREF ErrorColor(); // of texts that tell of a failure
+COLORREF BarColor();                             // behind the path, captions and the status
+COLORREF HoverColor();                           // behind what a click would use
+COLORREF CalmColor();                            // behind a large picture
+COLORREF SheetColor();                           // behind what is read in place of the views
+COLORREF ErrorColor();                           // of texts that tell of a failure, on bars
+COLORREF TextColor(int nColor, COLORREF ground); // a system colour, made readable there
 
 // What a window lies on, its whole client area: the bar with path and tools, with a line below it; a bar at the bottom,
 // with a line above it; anything else. TRUE, as OnEraseBkgnd says where nothing is left to erase.

@@ -196,11 +196,12 @@ void CMenuBar::OnPaint()
 void CMenuBar::DrawTitle(HDC hdc, int nMenu) const
 {
     CRect rect = TitleRect(nMenu);
+    const COLORREF ground = nMenu != m_nHot ? BarColor() : nMenu == m_nOpen ? PressedColor() : HoverColor();
     if (nMenu == m_nHot)
-        FillSolidRect(hdc, rect, nMenu == m_nOpen ? PressedColor() : HoverColor());
+        FillSolidRect(hdc, rect, ground);
     rect.left += kSpace;
     const auto [title, mark] = Unmarked(m_titles[static_cast<std::size_t>(nMenu)]);
-    const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
+    const COLORREF ink = TextColor(COLOR_WINDOWTEXT, ground);
     DrawTextLine(hdc, rect, title, ink);
     if (!m_bWalked || mark >= title.size())
         return;

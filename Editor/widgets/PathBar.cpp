@@ -162,8 +162,8 @@ void CPathBar::DrawCrumbs(HDC hdc) const
         CRect text = crumb.rect;
         text.DeflateRect(kSpace, 0);
         DrawTextLine(hdc, text, isDots ? kDotsText : m_parts[static_cast<std::size_t>(crumb.nPart)],
-                     GetSysColor(isLast || IsHot(crumb.nPart) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT), Align::Left,
-                     StyleOf(isLast));
+                     TextColor(isLast || IsHot(crumb.nPart) ? COLOR_WINDOWTEXT : COLOR_GRAYTEXT, GroundOf(crumb.nPart)),
+                     Align::Left, StyleOf(isLast));
     }
 }
 

@@ -84,7 +84,7 @@ CRect CProgressStrip::DrawButton(HDC hdc) const
     CRect inside = button;
     inside.DeflateRect(1, 1);
     FillSolidRect(hdc, inside, HoverColor());
-    DrawTextLine(hdc, button, kCancelText, GetSysColor(COLOR_WINDOWTEXT), Align::Center);
+    DrawTextLine(hdc, button, kCancelText, TextColor(COLOR_WINDOWTEXT, HoverColor()), Align::Center);
     return button;
 }
 

@@ -37,10 +37,15 @@ void CSpotBar::ForgetSpots()
     NotifyWinEvent(EVENT_OBJECT_REORDER, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
 }
 
+COLORREF CSpotBar::GroundOf(int nSpot) const
+{
+    return !IsHot(nSpot) ? BarColor() : nSpot == m_nPressed ? PressedColor() : HoverColor();
+}
+
 void CSpotBar::DrawGround(HDC hdc, const CRect& rect, int nSpot) const
 {
     if (IsHot(nSpot))
-        FillSolidRect(hdc, rect, nSpot == m_nPressed ? PressedColor() : HoverColor());
+        FillSolidRect(hdc, rect, GroundOf(nSpot));
 }
 
 void CSpotBar::OnMouseMove(UINT nFlags, CPoint point)

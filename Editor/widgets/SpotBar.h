@@ -33,6 +33,7 @@ protected:
 
     void ForgetSpots(); // they are others now
     bool IsHot(int nSpot) const { return nSpot == m_nHot; }
+    COLORREF GroundOf(int nSpot) const; // what DrawGround leaves there
     void DrawGround(HDC hdc, const CRect& rect, int nSpot) const;
 
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);

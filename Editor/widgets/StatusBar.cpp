@@ -50,9 +50,10 @@ void CStatusBar::OnPaint()
     CRect right = left;
     left.right = std::min<int>(left.right, left.left + TextWidth(status.text));
     right.left = left.right + 2 * kSpace;
-    DrawTextLine(dc, left, status.text, GetSysColor(COLOR_GRAYTEXT));
+    DrawTextLine(dc, left, status.text, TextColor(COLOR_GRAYTEXT, BarColor()));
     const std::string& detail = status.isError || status.news.empty() ? status.detail : status.news;
-    DrawTextLine(dc, right, detail, status.isError ? ErrorColor() : GetSysColor(COLOR_WINDOWTEXT), Align::Right);
+    DrawTextLine(dc, right, detail, status.isError ? ErrorColor() : TextColor(COLOR_WINDOWTEXT, BarColor()),
+                 Align::Right);
 }
 
 } // namespace editor

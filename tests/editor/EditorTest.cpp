@@ -365,6 +365,44 @@ TEST_F(EditorTest, DarkAtOnceIsAsDarkFromTheStart)
     EXPECT_LT(light.Width() * light.Height() * 9 / 10, CountDifferent(light, changed));
 }
 
+TEST_F(EditorTest, TextsCanBeReadOnEveryGroundInWhateverColours)
+{
+    const toolkit::ColorScheme schemes[] = {
+        {},
+        {RGB(255, 255, 255), RGB(35, 38, 41), RGB(61, 174, 233), RGB(255, 255, 255)},
+        {RGB(27, 30, 32), RGB(252, 252, 252), RGB(61, 174, 233), RGB(252, 252, 252)},
+        {RGB(45, 45, 45), RGB(140, 140, 140), RGB(255, 200, 0), RGB(255, 255, 255)}};
+    folder.Write("a.bmp", "no picture");
+    Open();
+    DoubleClick("a.bmp");
+    const CRect picture = desktop.Dump(Picture()).Bounds();
+    const CRect reason(0, picture.CenterPoint().y + 50, picture.right, picture.bottom); // below its sign
+    editor::CPathBar& path = Frame().GetBars().GetPathBar();
+    const CRect crumb = path.AccParts().front().place;
+    const auto ink = [&](HWND hWnd, CRect part) { // the farthest from what it lies on
+        const toolkit::Surface shown = desktop.Dump(hWnd);
+        double most = 0;
+        for (int y = part.top; y < part.bottom; ++y)
+            for (int x = part.left; x < part.right; ++x)
+                most = std::max(most, toolkit::Contrast(toolkit::ToColor(shown.At(x, y)),
+                                                        toolkit::ToColor(shown.At(part.left, part.top))));
+        return most;
+    };
+    for (const toolkit::ColorScheme& scheme : schemes) {
+        SCOPED_TRACE(scheme.text);
+        desktop.ShowColors(scheme);
+        EXPECT_LE(4.5, ink(Picture(), reason));
+        desktop.MoveTo(Tree().m_hWnd, {5, 5});
+        EXPECT_LE(4.5, ink(path.m_hWnd, crumb));
+        desktop.MoveTo(path.m_hWnd, crumb.CenterPoint());
+        EXPECT_LE(4.5, ink(path.m_hWnd, crumb));
+        desktop.Press(path.m_hWnd, crumb.CenterPoint());
+        EXPECT_LE(4.5, ink(path.m_hWnd, crumb));
+        desktop.MoveTo(Tree().m_hWnd, {5, 5});
+        desktop.Release(Tree().m_hWnd, {5, 5});
+    }
+}
+
 TEST_F(EditorTest, PicturesScrolledPastAreNotRead)
 {
     for (int i = 0; i < 300; ++i)
