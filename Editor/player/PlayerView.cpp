@@ -108,6 +108,14 @@ void CPlayerView::OnArrived()
         ShowPresent();
 }
 
+std::string CPlayerView::AccDescription(LPARAM)
+{
+    if (m_playback.At() < 0)
+        return {};
+    return std::string(m_playback.IsPlaying() ? "playing, frame " : "frame ") + std::to_string(m_playback.At() + 1) +
+           " of " + std::to_string(m_playback.GetCount());
+}
+
 CRect CPlayerView::View() const
 {
     CRect stage;

@@ -6,6 +6,7 @@
 #include "Editor/player/SeekBar.h"
 #include "Editor/widgets/ToolBar.h"
 #include "Editor/widgets/ZoomView.h"
+#include "Toolkit/access/Accessible.h"
 
 #include <memory>
 
@@ -14,7 +15,7 @@ namespace editor
 
 // Driven by a timer. A frame that has not been read yet is waited for, with the one before it in sight; the next few
 // are read ahead. Small pictures are enlarged as they are elsewhere. While it is zoomed, frames are read as they are.
-class CPlayerView : public CZoomView
+class CPlayerView : public CZoomView, public toolkit::Accessible
 {
 public:
     struct Events
@@ -27,8 +28,8 @@ public:
     ~CPlayerView() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
-    void
-    SetFrames(std::unique_ptr<Frames> pFrames); // stands still at the first, as it fits; NULL: there is nothing to play
+    // Stands still at the first, as it fits; NULL: there is nothing to play.
+    void SetFrames(std::unique_ptr<Frames> pFrames);
     bool HasFrames() const { return m_pFrames != nullptr; }
     void OnArrived(); // a frame's picture has come
     void Update();    // the frames may be others now: looked at once, however often it is called
@@ -46,6 +47,9 @@ public:
     const toolkit::Surface& GetShown() const { return m_shown; } // as it fits, or its own pixels; empty: there is none
     CSeekBar& GetSeekBar() { return m_seekBar; }
     CToolBar& GetTools() { return m_tools; }
+
+    UINT AccRole(LPARAM) override { return ROLE_SYSTEM_GRAPHIC; }
+    std::string AccDescription(LPARAM) override;
 
 protected:
     CRect View() const override; // all but the bar

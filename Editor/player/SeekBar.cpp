@@ -36,7 +36,7 @@ void CSeekBar::Show(int nAt, int nCount, std::string text)
 
 std::optional<toolkit::AccRange> CSeekBar::AccValue()
 {
-    return m_nAt < 0 ? std::nullopt : std::optional(toolkit::AccRange(1, m_nCount, m_nAt + 1));
+    return m_nAt < 0 ? std::nullopt : std::optional(toolkit::AccRange{1, 1.0 * m_nCount, m_nAt + 1.0});
 }
 
 void CSeekBar::AccSetValue(double value)

@@ -52,7 +52,7 @@ std::vector<CProgressStrip::Part> CProgressStrip::AccParts()
 
 std::optional<toolkit::AccRange> CProgressStrip::AccValue()
 {
-    return m_dPart < 0 ? std::nullopt : std::optional(toolkit::AccRange(0, 100, std::floor(100 * m_dPart)));
+    return m_dPart < 0 ? std::nullopt : std::optional(toolkit::AccRange{0, 100, std::floor(100 * m_dPart)});
 }
 
 CRect CProgressStrip::CancelRect() const

@@ -30,7 +30,7 @@ public:
     std::string AccName(LPARAM) override { return "Size of the thumbnails"; }
     std::optional<toolkit::AccRange> AccValue() override
     {
-        return toolkit::AccRange(m_nLeast, m_nMost, m_events.ask());
+        return toolkit::AccRange{1.0 * m_nLeast, 1.0 * m_nMost, 1.0 * m_events.ask()};
     }
     void AccSetValue(double value) override;
 
