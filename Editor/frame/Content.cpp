@@ -37,8 +37,8 @@ bool Content::Create(CWnd* pFrame)
     if (!m_listPane.Create(pFrame) || !m_picturePane.Create(pFrame) || !m_icons.Create(&m_listPane) ||
         !m_thumbnails.Create(&m_listPane) || !m_picture.Create(&m_picturePane) || !m_player.Create(&m_picturePane))
         return false;
-    m_listPane.SetChoices({hostkit::GetPictogram(hostkit::Pictogram::IconPane, kPaneIconExtent),
-                           hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent)},
+    m_listPane.SetChoices({{"Icons", hostkit::GetPictogram(hostkit::Pictogram::IconPane, kPaneIconExtent)},
+                           {"Thumbnails", hostkit::GetPictogram(hostkit::Pictogram::ThumbnailPane, kPaneIconExtent)}},
                           [this](int nChoice) { ShowList(static_cast<ListKind>(nChoice)); });
     return true;
 }

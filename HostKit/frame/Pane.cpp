@@ -40,9 +40,9 @@ void CPane::HideView()
     ShowWindow(SW_HIDE);
 }
 
-void CPane::SetChoices(std::vector<toolkit::Surface> icons, std::function<void(int)> choose)
+void CPane::SetChoices(std::vector<Choice> choices, std::function<void(int)> choose)
 {
-    m_choices = std::move(icons);
+    m_choices = std::move(choices);
     m_choose = std::move(choose);
     Invalidate();
 }
@@ -123,7 +123,7 @@ void CPane::DrawChoices(HDC hdc) const
         const CRect rect = ChoiceRect(i);
         if (i == m_nChosen)
             FillSolidRect(hdc, rect, PressedColor());
-        DrawCentred(hdc, rect, m_choices[static_cast<std::size_t>(i)]);
+        DrawCentred(hdc, rect, m_choices[static_cast<std::size_t>(i)].icon);
     }
 }
 
@@ -143,8 +143,25 @@ void CPane::OnLButtonDown(UINT nFlags, CPoint point)
 {
     CWnd::OnLButtonDown(nFlags, point);
     for (int i = 0; i < static_cast<int>(m_choices.size()); ++i)
-        if (i != m_nChosen && ChoiceRect(i).PtInRect(point))
-            return m_choose(i);
+        if (ChoiceRect(i).PtInRect(point))
+            return Choose(i);
+}
+
+void CPane::Choose(int nChoice)
+{
+    if (nChoice != m_nChosen)
+        m_choose(nChoice);
+}
+
+std::vector<CPane::Part> CPane::AccParts()
+{
+    std::vector<Part> parts;
+    for (const Choice& choice : m_choices) {
+        const int nChoice = static_cast<int>(parts.size());
+        const UINT state = nChoice == m_nChosen ? STATE_SYSTEM_CHECKED : 0;
+        parts.push_back({ROLE_SYSTEM_PUSHBUTTON, state, choice.name, ChoiceRect(nChoice), "Press"});
+    }
+    return parts;
 }
 
 void CPane::PlaceView()

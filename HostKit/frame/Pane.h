@@ -2,6 +2,7 @@
 #pragma once
 
 #include "HostKit/base/Api.h"
+#include "Toolkit/access/Accessible.h"
 #include "Toolkit/graphics/Surface.h"
 #include "Toolkit/window/Wnd.h"
 
@@ -13,9 +14,15 @@ namespace hostkit
 {
 
 // The parent of its view's window, which somebody else owns. Hidden until something is to be shown.
-class HOSTKIT_API CPane : public CWnd
+class HOSTKIT_API CPane : public CWnd, public toolkit::AccessibleParts
 {
 public:
+    struct Choice
+    {
+        std::string name; // for who cannot see the icon
+        toolkit::Surface icon;
+    };
+
     explicit CPane(int margin = 0) : m_nMargin(margin) {} // pixels left of and above the view
     ~CPane() override { DestroyWindow(); }
 
@@ -27,13 +34,16 @@ public:
 
     // Buttons at the caption's right end, one of which is down; the first one at first. `choose` is called when another
     // is pressed.
-    void SetChoices(std::vector<toolkit::Surface> icons, std::function<void(int nChoice)> choose);
+    void SetChoices(std::vector<Choice> choices, std::function<void(int nChoice)> choose);
     void SetChosen(int nChoice);
     CRect ChoiceRect(int nChoice) const; // client
 
     // A child window with text, borrowed: in the caption, before the buttons, while it is shown.
     void SetField(CWnd* pField, CSize margin); // between its text and the line around it
     void ShowField(bool bShow);
+
+    std::vector<Part> AccParts() override;
+    void AccUse(int nPart) override { Choose(nPart); }
 
 protected:
     afx_msg BOOL OnEraseBkgnd(HDC hdc);
@@ -47,12 +57,13 @@ private:
     void PlaceView();
     CRect FieldRect() const; // with its line
     void DrawChoices(HDC hdc) const;
+    void Choose(int nChoice);
 
     const int m_nMargin;
     HWND m_hView = nullptr;
     std::string m_caption;
     toolkit::Surface m_icon;
-    std::vector<toolkit::Surface> m_choices; // what is on the buttons
+    std::vector<Choice> m_choices;
     std::function<void(int)> m_choose;
     int m_nChosen = 0;
     CWnd* m_pField = nullptr;

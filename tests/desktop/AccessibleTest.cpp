@@ -277,7 +277,7 @@ TEST(AccessibleEditorTest, EveryPartOfTheWindowSaysWhatItIs)
     EXPECT_EQ("", shows("button \"Undo (Ctrl+Z): nothing has been done yet\" disabled"));
     EXPECT_EQ("", shows("tools \"Path\" [text \"Cast\"]"));
     EXPECT_EQ("", shows("tree \"Library\" [branch \"Cast\" selected open [branch \"Ada\"]]"));
-    EXPECT_EQ("", shows("list \"Icons\" focused [item \"Ada\"]"));
+    EXPECT_EQ("", shows("[button \"Icons\" | button \"Thumbnails\" | list \"Icons\" focused [item \"Ada\"]]"));
 
     QTest::keyClick(&widget, Qt::Key_N, Qt::ControlModifier | Qt::ShiftModifier);
     editor.WaitUntilSettled();
