@@ -32,7 +32,7 @@ namespace
 
 std::unique_ptr<QtTextEngine> MakeTextEngine()
 {
-    return QFontDatabase::families().isEmpty() ? nullptr : std::make_unique<QtTextEngine>();
+    return QFontDatabase::families().isEmpty() ? nullptr : std::make_unique<QtTextEngine>(QGuiApplication::font());
 }
 
 } // namespace
@@ -45,6 +45,7 @@ struct QtDesktop::Parts
     AskedColors colors;
     std::unique_ptr<QtClipboard> pClipboard = std::make_unique<QtClipboard>();
     std::unique_ptr<QtTextEngine> pTextEngine = MakeTextEngine(); // NULL on a machine without a font
+    std::unique_ptr<QtTextEngine> pFormerEngine; // of the font before, which the toolkit may still have
     std::map<HWND, std::unique_ptr<QtWindow>> windows;
     toolkit::Cursor cursor = toolkit::Cursor::Arrow;
     int nDropPatience = 10'000; // milliseconds
@@ -93,6 +94,8 @@ DWORD QtDesktop::Ticks()
 
 toolkit::TextEngine& QtDesktop::GetTextEngine()
 {
+    if (m_parts->pTextEngine && m_parts->pTextEngine->GetFont() != QGuiApplication::font())
+        m_parts->pFormerEngine = std::exchange(m_parts->pTextEngine, MakeTextEngine());
     if (m_parts->pTextEngine)
         return *m_parts->pTextEngine;
     return toolkit::BuiltinTextEngine();

@@ -148,6 +148,10 @@ bool QtWindow::event(QEvent* pEvent)
     case QEvent::ApplicationPaletteChange:
         toolkit::InputColors();
         break;
+    case QEvent::ApplicationFontChange:
+    case QEvent::ThemeChange:
+        toolkit::InputFont();
+        break;
     default:
         break;
     }

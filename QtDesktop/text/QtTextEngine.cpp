@@ -3,7 +3,6 @@
 #include "QtDesktop/text/TextParts.h"
 
 #include <QFontMetricsF>
-#include <QGuiApplication>
 #include <algorithm>
 #include <cmath>
 
@@ -13,9 +12,8 @@ namespace
 {
 
 // In shades of grey: the surfaces know nothing of how the screen's colours lie.
-QFont UiFont(toolkit::FontStyle style, toolkit::PixelScale scale)
+QFont UiFont(QFont font, toolkit::FontStyle style, toolkit::PixelScale scale)
 {
-    QFont font = QGuiApplication::font();
     if (font.pointSizeF() > 0)
         font.setPointSizeF(font.pointSizeF() * scale.Factor());
     else
@@ -38,18 +36,18 @@ int RoomFor(int pixels, toolkit::PixelScale scale)
 
 } // namespace
 
-QtTextEngine::Faces::Faces(toolkit::PixelScale itsScale)
+QtTextEngine::Faces::Faces(const QFont& font, toolkit::PixelScale itsScale)
     : scale(itsScale),
-      regular(UiFont(toolkit::FontStyle::Regular, scale)),
-      bold(UiFont(toolkit::FontStyle::Bold, scale)),
-      nLineHeight(std::max(
-          {HeightOf(UiFont(toolkit::FontStyle::Regular, scale)), HeightOf(UiFont(toolkit::FontStyle::Bold, scale)), 1}))
+      regular(UiFont(font, toolkit::FontStyle::Regular, scale)),
+      bold(UiFont(font, toolkit::FontStyle::Bold, scale)),
+      nLineHeight(std::max({HeightOf(UiFont(font, toolkit::FontStyle::Regular, scale)),
+                            HeightOf(UiFont(font, toolkit::FontStyle::Bold, scale)), 1}))
 {}
 
 QtTextEngine::Faces& QtTextEngine::FacesAt(toolkit::PixelScale scale) const
 {
     const auto known = std::ranges::find_if(m_faces, [scale](const auto& pFaces) { return pFaces->scale == scale; });
-    return known != m_faces.end() ? **known : *m_faces.emplace_back(std::make_unique<Faces>(scale));
+    return known != m_faces.end() ? **known : *m_faces.emplace_back(std::make_unique<Faces>(m_font, scale));
 }
 
 int QtTextEngine::LineHeight() const

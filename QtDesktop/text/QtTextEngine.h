@@ -1,4 +1,4 @@
-// Draws the toolkit's text in the desktop's font: the application's, as it was when a scale was first used.
+// Draws the toolkit's text in the desktop's font.
 #pragma once
 
 #include "QtDesktop/text/LayoutText.h"
@@ -14,6 +14,9 @@ namespace qtdesktop
 class QtTextEngine : public toolkit::TextEngine
 {
 public:
+    explicit QtTextEngine(const QFont& font) : m_font(font) {}
+
+    const QFont& GetFont() const { return m_font; }
     int LineHeight() const override;
     int Measure(std::string_view text, toolkit::FontStyle style) override;
     void Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
@@ -29,7 +32,7 @@ private:
     // The font as so many pixels as one scale makes of it.
     struct Faces
     {
-        explicit Faces(toolkit::PixelScale scale);
+        Faces(const QFont& font, toolkit::PixelScale scale);
         Face& Of(toolkit::FontStyle style) { return style == toolkit::FontStyle::Bold ? bold : regular; }
 
         const toolkit::PixelScale scale;
@@ -39,6 +42,7 @@ private:
 
     Faces& FacesAt(toolkit::PixelScale scale) const;
 
+    const QFont m_font;
     mutable std::vector<std::unique_ptr<Faces>> m_faces; // one but where pictures of other scales are written on
 };
 

@@ -36,8 +36,8 @@ class TOOLKIT_API Desktop
 public:
     virtual ~Desktop() = default;
 
-    virtual DWORD Ticks() = 0; // milliseconds; may wrap
-    virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); }
+    virtual DWORD Ticks() = 0;                                          // milliseconds; may wrap
+    virtual TextEngine& GetTextEngine() { return BuiltinTextEngine(); } // it tells by InputFont when it has another
     virtual ColorScheme GetColorScheme() { return {}; } // the desktop tells by InputColors when it has another
     // Of the finest of its screens; it tells by InputScale when it has another. Windows are painted at that scale.
     virtual PixelScale GetScreenScale() { return {}; }

@@ -15,10 +15,10 @@ bool ReplacesLast(const toolkit::InputEvent& event)
     return event.kind == toolkit::InputKind::MouseMove && !s_input.IsEmpty() &&
            s_input.Last().kind == toolkit::InputKind::MouseMove && s_input.Last().hTop == event.hTop;
 }
-void TellEveryWindow()
+void TellEveryWindow(UINT message)
 {
     for (const toolkit::WindowRecord* pTop : toolkit::TopLevelRecords())
-        PostMessage(pTop->hWnd, WM_SYSCOLORCHANGE, 0, 0);
+        PostMessage(pTop->hWnd, message, 0, 0);
 }
 } // namespace
 
@@ -117,7 +117,7 @@ void toolkit::InputClose(HWND hTop)
 void toolkit::InputColors()
 {
     if (SetColorScheme(CurrentDesktop().GetColorScheme()))
-        TellEveryWindow();
+        TellEveryWindow(WM_SYSCOLORCHANGE);
 }
 
 void toolkit::InputScale()
@@ -126,5 +126,15 @@ void toolkit::InputScale()
     if (scale == ScreenScale())
         return;
     SetScreenScale(scale);
-    TellEveryWindow();
+    TellEveryWindow(WM_SYSCOLORCHANGE);
+    TellEveryWindow(WM_FONTCHANGE);
+}
+
+void toolkit::InputFont()
+{
+    TextEngine& engine = CurrentDesktop().GetTextEngine();
+    if (&engine == &CurrentTextEngine())
+        return;
+    InstallTextEngine(&engine);
+    TellEveryWindow(WM_FONTCHANGE);
 }

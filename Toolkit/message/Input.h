@@ -39,7 +39,8 @@ TOOLKIT_API void InputMoved(HWND hTop, CPoint screen); // where the top-level wi
 TOOLKIT_API void InputClose(HWND hTop);                // WM_CLOSE
 // The desktop may have another GetColorScheme. It counts at once; every window gets WM_SYSCOLORCHANGE.
 TOOLKIT_API void InputColors();
-TOOLKIT_API void InputScale(); // the same with GetScreenScale
+TOOLKIT_API void InputScale(); // the same with GetScreenScale, and WM_FONTCHANGE
+TOOLKIT_API void InputFont();  // the same with GetTextEngine, and WM_FONTCHANGE alone; the former engine may go then
 
 // The toolkit's own: what waits.
 enum class InputKind

@@ -21,6 +21,7 @@ inline constexpr UINT WM_ERASEBKGND = 0x0014; // wParam: the HDC
 // The desktop has other colours, or another scale. To top-level windows and on to those inside them; all of it is
 // painted anew.
 inline constexpr UINT WM_SYSCOLORCHANGE = 0x0015;
+inline constexpr UINT WM_FONTCHANGE = 0x001D; // likewise, where texts are measured otherwise than before
 inline constexpr UINT WM_SHOWWINDOW = 0x0018;
 // The mouse moves over the client area of wParam, the window itself, which may show a cursor: it is an arrow whenever
 // the mouse comes to another window.

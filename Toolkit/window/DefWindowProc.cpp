@@ -54,14 +54,14 @@ LRESULT HandOnToParent(const WindowRecord& window, UINT message, WPARAM wParam, 
     return window.pParent ? SendMessage(window.pParent->hWnd, message, wParam, lParam) : 0;
 }
 
-void TellColorsChanged(WindowRecord& window)
+void TellLookChanged(WindowRecord& window, UINT message)
 {
     toolkit::InvalidateWhole(window);
     std::vector<HWND> inside;
     for (const WindowRecord* pChild : window.children)
         inside.push_back(pChild->hWnd);
     for (const HWND hChild : inside) // some of them may end meanwhile
-        SendMessage(hChild, WM_SYSCOLORCHANGE, 0, 0);
+        SendMessage(hChild, message, 0, 0);
 }
 
 // A parent without an object of its own has nobody else to reflect a child's news.
@@ -109,7 +109,8 @@ LRESULT DefWindowProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
     case WM_NCPAINT:
         return toolkit::PaintFrame(*pWindow, reinterpret_cast<HDC>(wParam)), 0;
     case WM_SYSCOLORCHANGE:
-        return TellColorsChanged(*pWindow), 0;
+    case WM_FONTCHANGE:
+        return TellLookChanged(*pWindow, message), 0;
     case WM_SETTEXT:
         return SetText(*pWindow, reinterpret_cast<LPCSTR>(lParam));
     case WM_GETTEXT:

@@ -1,3 +1,4 @@
+#include "Toolkit/controls/tree/TreeCtrl.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "tests/desktop/DesktopTest.h"
 
@@ -56,4 +57,18 @@ TEST_F(WindowTest, TheDesktopsColoursAreTheWindowsAlsoWhenTheyChange)
     QApplication::setPalette(QPalette());
     Settle();
     EXPECT_EQ(QColor(255, 255, 255), Screen().pixelColor(100, 60));
+}
+
+TEST_F(WindowTest, TheDesktopsFontIsTheViewsAlsoWhenItChanges)
+{
+    CTreeCtrl tree;
+    ASSERT_TRUE(tree.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 60), &*m_probe, 1));
+    const LRESULT nFormer = tree.SendMessage(TVM_GETITEMHEIGHT, 0, 0);
+    const QFont former = QApplication::font();
+    QApplication::setFont(QFont(former.family(), 40));
+    Settle();
+    EXPECT_LE(nFormer + 20, tree.SendMessage(TVM_GETITEMHEIGHT, 0, 0));
+    QApplication::setFont(former);
+    Settle();
+    EXPECT_EQ(nFormer, tree.SendMessage(TVM_GETITEMHEIGHT, 0, 0));
 }

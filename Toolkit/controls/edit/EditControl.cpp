@@ -31,6 +31,7 @@ LRESULT EditControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_CREATE, Table::To<&EditControl::OnCreate>},
         {WM_SIZE, Table::To<&EditControl::m_view, &EditView::OnSize>},
         {WM_STYLECHANGED, Table::To<&EditControl::OnLooksChanged>},
+        {WM_FONTCHANGE, Table::To<&EditControl::OnLooksChanged>},
         {WM_PAINT, Table::To<&EditControl::m_view, &EditView::OnPaint>},
         {WM_ERASEBKGND, Table::To<&EditControl::m_view, &EditView::OnEraseBackground>},
         {WM_TIMER, Table::To<&EditControl::OnTimer>},

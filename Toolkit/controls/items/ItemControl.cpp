@@ -105,6 +105,12 @@ void ItemControl::MeasuresChanged()
     Relayout();
 }
 
+void ItemControl::OnFontChange()
+{
+    MeasuresChanged();
+    ::DefWindowProc(m_hWnd, WM_FONTCHANGE, 0, 0); // the label's field is told, too
+}
+
 HWND ItemControl::EditLabel(LPARAM item, bool takesFormer)
 {
     m_labels.Finish(takesFormer);

@@ -61,6 +61,7 @@ protected:
     HWND OnGetEditControl() const { return m_labels.Field(); }
     HWND EditLabel(LPARAM item, bool takesFormer); // the field
     void MeasuresChanged();                        // all anew
+    void OnFontChange();
 
 private:
     LabelEditing m_labels;

@@ -42,6 +42,7 @@ LRESULT ListControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_VSCROLL, Table::To<&ListControl::m_viewport, &ListViewport::OnVScroll>},
         {WM_MOUSEWHEEL, Table::To<&ListControl::m_viewport, &ListViewport::OnMouseWheel>},
         {LVM_GETIMAGELIST, Table::To<&ListControl::OnGetImageList>},
+        {WM_FONTCHANGE, Table::To<&ListControl::OnFontChange>},
         {LVM_SETIMAGELIST, Table::To<&ListControl::OnSetImageList>},
         {LVM_GETITEMCOUNT, Table::To<&ListControl::m_layout, &ListLayout::Count>},
         {LVM_SETITEMCOUNT, Table::To<&ListControl::OnSetItemCount>},

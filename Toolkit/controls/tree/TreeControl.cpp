@@ -29,6 +29,7 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {WM_DESTROY, Table::To<&TreeControl::OnDestroy>},
         {WM_SIZE, Table::To<&TreeControl::OnSize>},
         {WM_STYLECHANGED, Table::To<&TreeControl::MeasuresChanged>},
+        {WM_FONTCHANGE, Table::To<&TreeControl::OnFontChange>},
         {WM_PAINT, Table::To<&TreeControl::m_painter, &TreePainter::OnPaint>},
         {WM_ERASEBKGND, Table::To<&TreeControl::OnEraseBackground>},
         {WM_SETFOCUS, Table::To<&TreeControl::OnSetFocus>},
