@@ -1,8 +1,8 @@
 #include "tests/editor/BmpReader.h"
 
 #include "Toolkit/graphics/Scale.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/BmpFile.h"
+#include "tests/support/TempFolder.h"
 
 #include <algorithm>
 

@@ -4,8 +4,8 @@
 #include "Editor/EditorApp.h"
 #include "Editor/frame/MainFrame.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/TempFolder.h"
 
 // At its end the editor is closed, and none of its objects may be alive.
 class EditorTest : public DesktopTest

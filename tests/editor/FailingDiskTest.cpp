@@ -6,8 +6,8 @@
 #include "Editor/script/Script.h"
 #include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/AllocationFailures.h"
+#include "tests/support/TempFolder.h"
 
 #include <algorithm>
 #include <cstring>

@@ -3,8 +3,8 @@
 
 #include "Editor/model/Library.h"
 #include "tests/editor/BmpReader.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/TempFolder.h"
 
 // At its end no object of the model may be alive.
 class LibraryTest : public DesktopTest

@@ -1,7 +1,7 @@
 #include "Editor/disk/Trash.h"
 
-#include "tests/support/TempFolder.h"
 #include "tests/support/FailingDisk.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstdio>
 #include <filesystem>

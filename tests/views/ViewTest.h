@@ -3,9 +3,9 @@
 
 #include "Toolkit/graphics/Resources.h"
 #include "Toolkit/window/Wnd.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/DesktopTest.h"
 #include "tests/support/FakeArchive.h"
+#include "tests/support/TempFolder.h"
 #include "tests/views/FakeHost.h"
 
 // At its end the derived fixture's views must be gone; the test fails for every reference, handler and message box
