@@ -109,4 +109,5 @@ void ScreenReader::AddChildren(const Part& parent, std::vector<Part>& parts)
         parts.push_back(child);
         AddChildren(child, parts);
     }
+    list.endArray();
 }
