@@ -1,6 +1,6 @@
 // What the editor adds to reading a directory when it opens a folder of 100,000 pictures.
 #include "Editor/EditorApp.h"
-#include "Editor/frame/CommandTable.h"
+#include "Editor/commands/CommandTable.h"
 #include "Editor/frame/MainFrame.h"
 #include "Toolkit/run/Run.h"
 #include "tests/support/TempFolder.h"

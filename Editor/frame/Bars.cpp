@@ -1,7 +1,7 @@
 #include "Editor/frame/Bars.h"
 
-#include "Editor/frame/PlaceCommands.h"
-#include "Editor/frame/ViewCommands.h"
+#include "Editor/commands/PlaceCommands.h"
+#include "Editor/commands/ViewCommands.h"
 #include "Toolkit/access/Accessible.h"
 
 namespace editor

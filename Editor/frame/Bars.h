@@ -1,9 +1,9 @@
 // What stands above and below the panes: menus, ways, path, tools; status and size.
 #pragma once
 
-#include "Editor/frame/CommandDesk.h"
-#include "Editor/frame/Content.h"
-#include "Editor/frame/Navigation.h"
+#include "Editor/commands/CommandDesk.h"
+#include "Editor/content/Content.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/widgets/MenuBar.h"
 #include "Editor/widgets/PaneLayout.h"
 #include "Editor/widgets/PathBar.h"

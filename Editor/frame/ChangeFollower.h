@@ -2,8 +2,8 @@
 // been at work.
 #pragma once
 
+#include "Editor/commands/FrameCommands.h"
 #include "Editor/frame/DiskFollower.h"
-#include "Editor/frame/FrameCommands.h"
 
 #include <functional>
 #include <memory>

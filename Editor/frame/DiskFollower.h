@@ -1,8 +1,8 @@
 // What other programs do to the library's files, shown.
 #pragma once
 
+#include "Editor/content/Navigation.h"
 #include "Editor/disk/FolderWatch.h"
-#include "Editor/frame/Navigation.h"
 
 namespace editor
 {

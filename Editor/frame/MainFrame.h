@@ -1,13 +1,13 @@
 // The editor's window: menus, path and tools at the top, tree and list side by side, the status at the bottom.
 #pragma once
 
+#include "Editor/commands/FrameCommands.h"
+#include "Editor/commands/FrameKeys.h"
+#include "Editor/commands/PlaceCommands.h"
+#include "Editor/commands/ViewCommands.h"
 #include "Editor/frame/Bars.h"
 #include "Editor/frame/ChangeFollower.h"
-#include "Editor/frame/FrameCommands.h"
-#include "Editor/frame/FrameKeys.h"
-#include "Editor/frame/PlaceCommands.h"
 #include "Editor/frame/Settings.h"
-#include "Editor/frame/ViewCommands.h"
 #include "Editor/frame/WorkView.h"
 #include "Editor/model/Library.h"
 #include "Editor/views/EditorTree.h"

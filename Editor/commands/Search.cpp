@@ -1,4 +1,4 @@
-#include "Editor/frame/Search.h"
+#include "Editor/commands/Search.h"
 
 #include "Editor/disk/FileText.h"
 #include "Toolkit/base/TextKeys.h"

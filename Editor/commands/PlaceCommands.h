@@ -1,8 +1,8 @@
 // Where the user goes, and what is done with a place as such.
 #pragma once
 
-#include "Editor/frame/CommandTable.h"
-#include "Editor/frame/Navigation.h"
+#include "Editor/commands/CommandTable.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/widgets/PathBar.h"
 
 namespace editor

@@ -1,4 +1,4 @@
-#include "Editor/frame/Navigation.h"
+#include "Editor/content/Navigation.h"
 
 #include "Editor/model/PlainFile.h"
 #include "Toolkit/desktop/Desktop.h"

@@ -1,9 +1,9 @@
-#include "Editor/frame/CommandDesk.h"
+#include "Editor/commands/CommandDesk.h"
 
+#include "Editor/commands/FrameCommands.h"
+#include "Editor/commands/PlaceCommands.h"
+#include "Editor/commands/ViewCommands.h"
 #include "Editor/disk/FileText.h"
-#include "Editor/frame/FrameCommands.h"
-#include "Editor/frame/PlaceCommands.h"
-#include "Editor/frame/ViewCommands.h"
 
 namespace editor
 {

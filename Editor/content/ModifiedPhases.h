@@ -1,7 +1,7 @@
 // The phases whose numbers have been changed since they were saved.
 #pragma once
 
-#include "Editor/frame/PropertiesPane.h"
+#include "Editor/content/PropertiesPane.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 

@@ -1,4 +1,4 @@
-#include "Editor/frame/PlaceCommands.h"
+#include "Editor/commands/PlaceCommands.h"
 
 #include "Editor/disk/FileText.h"
 #include "Editor/services/ActiveMembers.h"

@@ -1,7 +1,7 @@
 // The objects of what is shown whose names hold what is typed.
 #pragma once
 
-#include "Editor/frame/Content.h"
+#include "Editor/content/Content.h"
 #include "Editor/widgets/TextField.h"
 
 namespace editor

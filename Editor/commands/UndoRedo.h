@@ -1,8 +1,8 @@
 // Steps of the history taken back and done again, and shown.
 #pragma once
 
-#include "Editor/frame/ModifiedPhases.h"
-#include "Editor/frame/Navigation.h"
+#include "Editor/content/ModifiedPhases.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/history/History.h"
 
 namespace editor

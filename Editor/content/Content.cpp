@@ -1,4 +1,4 @@
-#include "Editor/frame/Content.h"
+#include "Editor/content/Content.h"
 
 #include "Editor/pictures/IconPainter.h"
 #include "Editor/player/MakeFrames.h"

@@ -1,10 +1,10 @@
 // What the user's keys mean in the frame.
 #pragma once
 
-#include "Editor/frame/CommandDesk.h"
-#include "Editor/frame/Content.h"
-#include "Editor/frame/Filter.h"
-#include "Editor/frame/Navigation.h"
+#include "Editor/commands/CommandDesk.h"
+#include "Editor/content/Content.h"
+#include "Editor/content/Filter.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/views/EditorTree.h"
 #include "HostKit/frame/Splitter.h"
 

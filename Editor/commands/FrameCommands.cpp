@@ -1,4 +1,4 @@
-#include "Editor/frame/FrameCommands.h"
+#include "Editor/commands/FrameCommands.h"
 
 #include "Editor/disk/Trash.h"
 #include "Editor/model/PlainFile.h"

@@ -1,4 +1,4 @@
-#include "Editor/frame/ViewCommands.h"
+#include "Editor/commands/ViewCommands.h"
 
 #include "Toolkit/desktop/MenuItems.h"
 #include "Toolkit/menu/MessageBox.h"

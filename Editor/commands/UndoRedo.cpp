@@ -1,4 +1,4 @@
-#include "Editor/frame/UndoRedo.h"
+#include "Editor/commands/UndoRedo.h"
 
 #include "Editor/disk/FileText.h"
 #include "Editor/services/MemberBroadcast.h"

@@ -1,11 +1,11 @@
 // What the frame shows besides objects, and where the keys go.
 #pragma once
 
-#include "Editor/frame/CommandTable.h"
-#include "Editor/frame/Content.h"
-#include "Editor/frame/Filter.h"
-#include "Editor/frame/PropertiesPane.h"
-#include "Editor/frame/Search.h"
+#include "Editor/commands/CommandTable.h"
+#include "Editor/commands/Search.h"
+#include "Editor/content/Content.h"
+#include "Editor/content/Filter.h"
+#include "Editor/content/PropertiesPane.h"
 #include "Editor/views/EditorTree.h"
 #include "Editor/widgets/KeysSheet.h"
 #include "HostKit/frame/Pane.h"

@@ -1,4 +1,4 @@
-#include "Editor/frame/PropertiesPane.h"
+#include "Editor/content/PropertiesPane.h"
 
 #include "Toolkit/graphics/SysColors.h"
 

@@ -1,11 +1,11 @@
 // What the user does to what is selected: asked where something would be lost, told what could not be done.
 #pragma once
 
-#include "Editor/frame/CommandTable.h"
-#include "Editor/frame/Content.h"
-#include "Editor/frame/ModifiedPhases.h"
-#include "Editor/frame/Navigation.h"
-#include "Editor/frame/UndoRedo.h"
+#include "Editor/commands/CommandTable.h"
+#include "Editor/commands/UndoRedo.h"
+#include "Editor/content/Content.h"
+#include "Editor/content/ModifiedPhases.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/services/Commands.h"
 
 namespace editor

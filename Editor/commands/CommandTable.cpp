@@ -1,8 +1,8 @@
-#include "Editor/frame/CommandTable.h"
+#include "Editor/commands/CommandTable.h"
 
-#include "Editor/frame/FrameCommands.h"
-#include "Editor/frame/PlaceCommands.h"
-#include "Editor/frame/ViewCommands.h"
+#include "Editor/commands/FrameCommands.h"
+#include "Editor/commands/PlaceCommands.h"
+#include "Editor/commands/ViewCommands.h"
 
 #include <algorithm>
 #include <type_traits>

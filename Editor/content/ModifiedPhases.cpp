@@ -1,6 +1,6 @@
-#include "Editor/frame/ModifiedPhases.h"
+#include "Editor/content/ModifiedPhases.h"
 
-#include "Editor/frame/Navigation.h"
+#include "Editor/content/Navigation.h"
 
 #include <algorithm>
 #include <utility>

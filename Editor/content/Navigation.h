@@ -1,7 +1,7 @@
 // What of the library is shown, and the ways from there.
 #pragma once
 
-#include "Editor/frame/Trail.h"
+#include "Editor/content/Trail.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 

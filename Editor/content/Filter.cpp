@@ -1,4 +1,4 @@
-#include "Editor/frame/Filter.h"
+#include "Editor/content/Filter.h"
 
 #include "Editor/model/Member.h"
 #include "Toolkit/access/Accessible.h"

@@ -1,4 +1,4 @@
-#include "Editor/frame/FrameKeys.h"
+#include "Editor/commands/FrameKeys.h"
 
 #include "Editor/model/PlainFile.h"
 

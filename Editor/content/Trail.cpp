@@ -1,4 +1,4 @@
-#include "Editor/frame/Trail.h"
+#include "Editor/content/Trail.h"
 
 #include <algorithm>
 

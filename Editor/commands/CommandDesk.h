@@ -1,7 +1,7 @@
 // Where commands are given: by keys, menus and tools.
 #pragma once
 
-#include "Editor/frame/CommandTable.h"
+#include "Editor/commands/CommandTable.h"
 #include "Editor/widgets/ToolBar.h"
 #include "Toolkit/menu/Menu.h"
 

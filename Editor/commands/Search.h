@@ -1,8 +1,8 @@
 // Objects looked for by name in what is shown and everything below it.
 #pragma once
 
-#include "Editor/frame/FrameCommands.h"
-#include "Editor/frame/Navigation.h"
+#include "Editor/commands/FrameCommands.h"
+#include "Editor/content/Navigation.h"
 #include "Editor/widgets/SearchSheet.h"
 #include "Editor/work/NameSearch.h"
 
