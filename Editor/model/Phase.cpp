@@ -6,8 +6,8 @@
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/PhaseText.h"
 #include "Editor/pictures/IconPainter.h"
+#include "HostKit/pictures/Look.h"
 #include "Toolkit/graphics/Gdi.h"
-#include "Toolkit/graphics/Scale.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -170,7 +170,7 @@ BOOL CPhase::Draw(HDC hdc, CRect& rect, DWORD, DWORD, UINT nFrame)
     const auto answer = path.empty() ? PictureStore::Answer() : Context().pPictures->Find(path, size, this);
     if (path.empty() || answer.bFailed) {
         const toolkit::Surface& film = hostkit::GetPictogram(hostkit::Pictogram::Phase, kWithoutCover);
-        return toolkit::DrawSurface(hdc, toolkit::Centred(film.Size(), rect), film);
+        return hostkit::DrawCentred(hdc, rect, film);
     }
     if (!DrawThumbnail(hdc, rect, answer, Context().pPictures->IsEnlarging()))
         return FALSE;

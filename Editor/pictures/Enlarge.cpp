@@ -1,5 +1,7 @@
 #include "Editor/pictures/Enlarge.h"
 
+#include "Toolkit/graphics/Scale.h"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -10,6 +12,7 @@ namespace
 {
 
 constexpr int kTaps = 4;
+constexpr int kMostEnlarged = 4;    // times, in coordinates
 using Color = std::array<float, 4>; // blue, green, red, alpha; premultiplied
 
 // Which old pixels a new one is made of, and how much of each: a cubic through the old ones.
@@ -96,6 +99,26 @@ toolkit::Surface EnlargePixels(const toolkit::Surface& picture, CSize room)
         for (int x = 0; x < picture.Width(); ++x)
             std::fill_n(large.Row(y) + x * times, times, picture.Row(y / times)[x]);
     return large;
+}
+
+CSize FittedSize(CSize own, CSize room, bool bSquares)
+{
+    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
+    const int times = own.cx > 0 && own.cy > 0 ? std::min<int>(room.cx / own.cx, room.cy / own.cy) : 0;
+    if (bSquares && times > 0)
+        return {own.cx * times, own.cy * times};
+    return toolkit::FitInto(own, {std::min<int>(room.cx, own.cx * most), std::min<int>(room.cy, own.cy * most)});
+}
+
+toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bSquares)
+{
+    const CSize own(picture.Width(), picture.Height()), size = FittedSize(own, room, bSquares);
+    toolkit::Surface fitted = size == own        ? picture
+                              : size.cx < own.cx ? toolkit::ScaleSurface(picture, size)
+                              : bSquares         ? EnlargePixels(picture, size)
+                                                 : Enlarge(picture, size);
+    fitted.SetScale(toolkit::ScreenScale());
+    return fitted;
 }
 
 } // namespace editor

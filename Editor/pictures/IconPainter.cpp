@@ -20,13 +20,6 @@ constexpr int kSmallestRead = 48; // each way
 constexpr int kPlaceholder = 48;
 constexpr int kSmallestPhotograph = 12; // pixels; below this an edge would eat the picture
 
-bool CoversAll(const toolkit::Surface& picture)
-{
-    const toolkit::Pixel* const first = picture.Row(0);
-    const auto count = static_cast<std::ptrdiff_t>(picture.Width()) * picture.Height();
-    return std::all_of(first, first + count, [](toolkit::Pixel pixel) { return pixel >> 24 == 0xFF; });
-}
-
 void Blend(toolkit::Surface& target, const CRect& rect, toolkit::Pixel above)
 {
     const CRect inside = rect & target.Bounds();
@@ -71,18 +64,13 @@ toolkit::Surface Fitted(const toolkit::Surface& picture, CSize pixels, toolkit::
     return fitted;
 }
 
-BOOL DrawInTheMiddle(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
-{
-    return toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
-}
-
 BOOL DrawPicture(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
 {
-    if (!CoversAll(picture)) {
+    if (!toolkit::CoversAll(picture)) {
         FillSolidRect(hdc, rect, GetSysColor(COLOR_WINDOW));
         hostkit::DrawChecks(hdc, {toolkit::Centred(picture.Size(), rect), picture.Size()});
     }
-    return DrawInTheMiddle(hdc, rect, picture);
+    return hostkit::DrawCentred(hdc, rect, picture);
 }
 
 // The margin, in pixels, is right and below.
@@ -129,7 +117,7 @@ toolkit::Surface PaintPictureIcon(const PictureStore::Answer& answer, CSize size
         return PaintPictogram(answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder,
                               size);
     const toolkit::Surface& picture = *answer.pPicture;
-    if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !CoversAll(picture))
+    if (std::min(picture.Width(), picture.Height()) < kSmallestPhotograph || !toolkit::CoversAll(picture))
         return PaintInTheMiddle(picture, size);
     return PaintInTheMiddle(picture, size, kShadowReach);
 }
@@ -159,7 +147,7 @@ BOOL DrawThumbnail(HDC hdc, const CRect& rect, const PictureStore::Answer& answe
     if (!answer.pPicture) {
         const toolkit::Surface& sign = hostkit::GetPictogram(
             answer.bFailed ? hostkit::Pictogram::BrokenPicture : hostkit::Pictogram::Placeholder, kPlaceholder);
-        return DrawInTheMiddle(hdc, rect, fitted(sign, sign.Size()));
+        return hostkit::DrawCentred(hdc, rect, fitted(sign, sign.Size()));
     }
     const toolkit::Surface& picture = *answer.pPicture;
     if (!bEnlarge || 2 * picture.Width() > room.cx || 2 * picture.Height() > room.cy)

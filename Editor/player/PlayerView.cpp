@@ -19,27 +19,8 @@ namespace
 constexpr UINT_PTR kFrameTimer = 1;
 constexpr UINT kUpdate = WM_USER;
 constexpr int kBar = kPathBarHeight;
-constexpr int kMostEnlarged = 4;
 constexpr int kReadAhead = 4; // frames
 constexpr int kBroken = 96;
-
-// All in pixels.
-CSize FittedSize(CSize own, CSize room)
-{
-    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
-    return toolkit::FitInto(own, {std::min(room.cx, own.cx * most), std::min(room.cy, own.cy * most)});
-}
-
-toolkit::Surface FittedTo(const toolkit::Surface& picture, CSize room, bool bPixels)
-{
-    const CSize own = picture.Bounds().Size();
-    if (bPixels && own.cx <= room.cx && own.cy <= room.cy)
-        return EnlargePixels(picture, room);
-    const CSize fitted = FittedSize(own, room);
-    if (fitted == own)
-        return picture;
-    return fitted.cx > own.cx ? Enlarge(picture, fitted) : toolkit::ScaleSurface(picture, fitted);
-}
 
 } // namespace
 
@@ -141,11 +122,9 @@ CSize CPlayerView::FullSize() const
     return m_pFrames && !m_shown.IsEmpty() ? m_pFrames->FullSizeOf(m_playback.At()) : CSize();
 }
 
-double CPlayerView::FitZoom() const
+CSize CPlayerView::FittedSize() const
 {
-    const CSize full = FullSize(), room = Room();
-    const int nTimes = std::min<int>(room.cx / full.cx, room.cy / full.cy);
-    return m_bPixels && nTimes > 0 ? nTimes : 1.0 * std::max<int>(FittedSize(full, room).cx, 1) / full.cx;
+    return editor::FittedSize(FullSize(), Room(), m_bPixels);
 }
 
 void CPlayerView::OnZoomed()

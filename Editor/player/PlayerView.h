@@ -54,7 +54,7 @@ public:
 protected:
     CRect View() const override; // all but the bar
     CSize FullSize() const override;
-    double FitZoom() const override;
+    CSize FittedSize() const override;
     void OnZoomed() override;
 
     afx_msg BOOL OnEraseBkgnd(HDC hdc);

@@ -15,17 +15,9 @@ namespace
 {
 
 constexpr int kMargin = 3 * kSpace;
-constexpr int kMostEnlarged = 4;
 constexpr int kSignExtent = 96;
 constexpr UINT_PTR kLateTimer = 1;
 constexpr UINT kLate = 250; // milliseconds
-
-// A pixel to a pixel of the screen.
-toolkit::Surface OnScreen(toolkit::Surface picture)
-{
-    picture.SetScale(toolkit::ScreenScale());
-    return picture;
-}
 
 } // namespace
 
@@ -56,7 +48,7 @@ void CPictureView::SetAtom(IAtom* pAtom)
 void CPictureView::OnZoomed()
 {
     if (m_zoom.IsFit() && m_shown.IsEmpty() && !m_own.IsEmpty())
-        m_shown = Fitted(m_own);
+        m_shown = FittedTo(m_own, Room(), m_pictures.IsEnlarging());
     if (m_zoom.IsFit())
         m_own = {};
     if (m_own.IsEmpty())
@@ -136,11 +128,11 @@ CRect CPictureView::View() const
     return view;
 }
 
-CRect CPictureView::Room() const
+CSize CPictureView::Room() const
 {
     CRect room = View();
     room.DeflateRect(kMargin, kMargin);
-    return toolkit::ScreenScale().ToPixels(room);
+    return toolkit::ScreenScale().ToPixels(room.Size());
 }
 
 void CPictureView::Fetch()
@@ -148,16 +140,19 @@ void CPictureView::Fetch()
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     const bool bPicture = pMember && !dynamic_cast<const CPlainFile*>(pMember);
     const std::string path = bPicture ? pMember->Path() : std::string();
-    if (path.empty() || Room().IsRectEmpty())
+    const CSize room = Room();
+    if (path.empty() || room.cx <= 0 || room.cy <= 0)
         return;
-    const CSize wanted = m_zoom.IsFit() ? Room().Size() : CSize(kMostRead, kMostRead);
+    const CSize wanted = m_zoom.IsFit() ? room : CSize(kMostRead, kMostRead);
     const PictureStore::Answer answer = m_pictures.Find(path, wanted, m_pAtom.Get());
     if (answer.pPicture)
         Take(*answer.pPicture);
     else if (answer.bFailed)
         m_shown = m_own = {};
-    else if (m_zoom.IsFit() && !m_shown.IsEmpty())
-        m_shown = OnScreen(toolkit::ScaleSurface(m_shown, toolkit::FitInto(m_shown.Bounds().Size(), Room().Size())));
+    else if (m_zoom.IsFit() && !m_shown.IsEmpty()) {
+        m_shown = toolkit::ScaleSurface(m_shown, toolkit::FitInto(m_shown.Bounds().Size(), room));
+        m_shown.SetScale(toolkit::ScreenScale());
+    }
     if (answer.pPicture)
         m_full = m_pictures.FullSizeOf(path);
 }
@@ -169,33 +164,12 @@ void CPictureView::Take(const toolkit::Surface& picture)
         return;
     }
     m_own = {};
-    m_shown = Fitted(picture);
+    m_shown = FittedTo(picture, Room(), m_pictures.IsEnlarging());
 }
 
-double CPictureView::FitZoom() const
+CSize CPictureView::FittedSize() const
 {
-    return 1.0 * std::max<int>(FittedSize(m_full).cx, 1) / std::max<int>(m_full.cx, 1);
-}
-
-CSize CPictureView::FittedSize(CSize own) const
-{
-    const CSize room = Room().Size();
-    const int most = toolkit::ScreenScale().ToPixels(kMostEnlarged);
-    const int times = own.cx > 0 && own.cy > 0 ? std::min<int>(room.cx / own.cx, room.cy / own.cy) : 0;
-    if (m_pictures.IsEnlarging() && times > 0)
-        return {own.cx * times, own.cy * times};
-    return toolkit::FitInto(own, {std::min<int>(room.cx, own.cx * most), std::min<int>(room.cy, own.cy * most)});
-}
-
-toolkit::Surface CPictureView::Fitted(const toolkit::Surface& picture) const
-{
-    const CSize own = picture.Bounds().Size();
-    const CSize fitted = FittedSize(own);
-    if (fitted == own)
-        return OnScreen(picture);
-    if (fitted.cx < own.cx)
-        return OnScreen(toolkit::ScaleSurface(picture, fitted));
-    return OnScreen(m_pictures.IsEnlarging() ? EnlargePixels(picture, fitted) : Enlarge(picture, fitted));
+    return editor::FittedSize(m_full, Room(), m_pictures.IsEnlarging());
 }
 
 } // namespace editor

@@ -35,7 +35,7 @@ public:
 protected:
     CRect View() const override;
     CSize FullSize() const override { return m_full; }
-    double FitZoom() const override;
+    CSize FittedSize() const override;
     void OnZoomed() override;
 
     afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, CalmColor()); }
@@ -45,14 +45,12 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    CRect Room() const; // for what fits; pixels
+    CSize Room() const; // for what fits; pixels
     void Fetch();
     void Take(const toolkit::Surface& picture);
     void AwaitPicture();
     void DrawFitting(HDC hdc) const;
     void DrawSign(HDC hdc, const CRect& client, hostkit::Pictogram sign, const std::string& line) const;
-    CSize FittedSize(CSize own) const;
-    toolkit::Surface Fitted(const toolkit::Surface& picture) const;
 
     PictureStore& m_pictures;
     CStubRef<IAtom> m_pAtom;

@@ -1,24 +1,12 @@
 #include "Editor/widgets/Look.h"
 
 #include "Toolkit/graphics/Gdi.h"
+#include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "Toolkit/window/WindowApi.h"
 
 namespace editor
 {
-namespace
-{
-
-bool HasTransparency(const toolkit::Surface& picture)
-{
-    for (int y = 0; y < picture.Height(); ++y)
-        for (const toolkit::Pixel *p = picture.Row(y), *const end = p + picture.Width(); p != end; ++p)
-            if (*p >> 24 != 0xFF)
-                return true;
-    return false;
-}
-
-} // namespace
 
 COLORREF BarColor()
 {
@@ -97,7 +85,7 @@ toolkit::Surface Faded(toolkit::Surface picture, double strength)
 
 void DrawOnChecks(HDC hdc, CPoint at, const toolkit::Surface& picture)
 {
-    if (HasTransparency(picture))
+    if (!toolkit::CoversAll(picture))
         DrawChecks(hdc, {at, picture.Size()});
     toolkit::DrawSurface(hdc, at, picture);
 }

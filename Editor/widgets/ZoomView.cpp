@@ -55,6 +55,11 @@ CRect CZoomView::PixelView() const
     return toolkit::ScreenScale().ToPixels(View());
 }
 
+double CZoomView::FitZoom() const
+{
+    return 1.0 * std::max<int>(FittedSize().cx, 1) / std::max<int>(FullSize().cx, 1);
+}
+
 void CZoomView::ZoomBy(int nSteps)
 {
     Zoom([&] { m_zoom.Step(nSteps, PixelView().CenterPoint(), PixelView(), FullSize(), FitZoom()); });

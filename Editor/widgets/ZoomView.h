@@ -27,10 +27,10 @@ public:
     void TakeZoom(const CZoomView& other) { m_zoom = other.m_zoom; }
 
 protected:
-    virtual CRect View() const = 0;     // where the picture is seen; client
-    virtual CSize FullSize() const = 0; // of the picture in the file; 0 by 0: not known, or there is none
-    virtual double FitZoom() const = 0;
-    virtual void OnZoomed() = 0; // whether it is zoomed decides what is read
+    virtual CRect View() const = 0;       // where the picture is seen; client
+    virtual CSize FullSize() const = 0;   // of the picture in the file; 0 by 0: not known, or there is none
+    virtual CSize FittedSize() const = 0; // of the whole of it, where it is not zoomed
+    virtual void OnZoomed() = 0;          // whether it is zoomed decides what is read
 
     void DrawZoomed(HDC hdc, const toolkit::Surface& picture) const; // with as many pixels as there are
 
@@ -47,6 +47,7 @@ private:
     template <class Change>
     void Zoom(Change change);
     CRect PixelView() const;
+    double FitZoom() const;
 
     const std::function<void()> m_zoomed;
     CPoint m_grip; // while it is dragged: where the mouse was last

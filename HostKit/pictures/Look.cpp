@@ -46,9 +46,9 @@ int TextWidth(std::string_view text, toolkit::FontStyle style)
     return toolkit::CurrentTextEngine().Measure(text, style);
 }
 
-void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
+BOOL DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture)
 {
-    toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
+    return toolkit::DrawSurface(hdc, toolkit::Centred(picture.Size(), rect), picture);
 }
 
 void DrawChecks(HDC hdc, const CRect& rect)

@@ -31,7 +31,7 @@ HOSTKIT_API void DrawTextLine(HDC hdc, const CRect& rect, std::string_view text,
 HOSTKIT_API int TextWidth(std::string_view text, toolkit::FontStyle style = toolkit::FontStyle::Regular);
 
 // In the middle of the rectangle.
-HOSTKIT_API void DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
+HOSTKIT_API BOOL DrawCentred(HDC hdc, const CRect& rect, const toolkit::Surface& picture);
 
 HOSTKIT_API void DrawChecks(HDC hdc, const CRect& rect); // what lies under transparent pictures
 

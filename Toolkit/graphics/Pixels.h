@@ -104,4 +104,12 @@ inline void TintRow(Pixel* row, int count, Pixel opaqueTint)
         row[i] = Average(row[i], Tinted(row[i], opaqueTint));
 }
 
+// Does nothing show through the picture?
+inline bool CoversAll(const Surface& picture)
+{
+    const Pixel* const first = picture.Row(0);
+    const auto count = static_cast<std::ptrdiff_t>(picture.Width()) * picture.Height();
+    return std::all_of(first, first + count, [](Pixel pixel) { return pixel >> 24 == 0xFF; });
+}
+
 } // namespace toolkit
