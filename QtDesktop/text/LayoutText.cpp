@@ -1,10 +1,10 @@
 #include "QtDesktop/text/LayoutText.h"
 
+#include "QtDesktop/text/TextLine.h"
 #include "QtDesktop/text/TextParts.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QTextLayout>
 #include <algorithm>
 #include <cmath>
 
@@ -17,33 +17,6 @@ constexpr std::size_t kMaxLabels = 4096;
 constexpr std::size_t kMaxPictureBytes = 4 << 20;
 constexpr std::size_t kLongestLabel = 256; // bytes; a longer text is laid out each time
 
-// The text laid out as one line.
-class Line
-{
-public:
-    Line(std::string_view text, const QFont& font) : m_layout(ShownText(text), font)
-    {
-        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
-        option.setTextDirection(Qt::LayoutDirectionAuto);
-        option.setWrapMode(QTextOption::NoWrap);
-        m_layout.setTextOption(option);
-        m_layout.beginLayout();
-        m_line = m_layout.createLine();
-        m_layout.endLayout();
-    }
-
-    int Width() const { return ToWidth(std::llround(m_line.naturalTextWidth() * 64)); }
-    void Draw(QPainter& painter, CPoint baseline, COLORREF color) const
-    {
-        painter.setPen(QColor(GetRValue(color), GetGValue(color), GetBValue(color)));
-        m_line.draw(&painter, QPointF(baseline.x, baseline.y - m_line.ascent()));
-    }
-
-private:
-    QTextLayout m_layout;
-    QTextLine m_line;
-};
-
 } // namespace
 
 LayoutText::LayoutText(const QFont& font)
@@ -52,7 +25,13 @@ LayoutText::LayoutText(const QFont& font)
 
 int LayoutText::Measure(std::string_view text)
 {
-    return text.size() > kLongestLabel ? Line(text, m_font).Width() : FindLabel(text).width;
+    return text.size() > kLongestLabel ? TextLine(text, m_font).Width() : FindLabel(text).width;
+}
+
+std::vector<toolkit::CharacterPlace> LayoutText::Places(std::string_view text,
+                                                        std::span<const std::size_t> starts) const
+{
+    return TextLine(text, m_font).Places(text, starts);
 }
 
 void LayoutText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color)
@@ -62,7 +41,7 @@ void LayoutText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, st
     QPainter painter(&picture);
     painter.setClipRect(clip.left, clip.top, clip.Width(), clip.Height());
     if (text.size() > kLongestLabel)
-        Line(text, m_font).Draw(painter, at + CPoint(0, m_nBaseline), color);
+        TextLine(text, m_font).Draw(painter, at + CPoint(0, m_nBaseline), color);
     else
         painter.drawImage(at.x - m_nRoom, at.y - m_nRoom, FindPicture(text, color));
 }
@@ -88,7 +67,7 @@ LayoutText::Label& LayoutText::FindLabel(std::string_view text)
         m_nPictureBytes = 0;
     }
     Label& label = m_labels[std::move(key)];
-    label.width = Line(text, m_font).Width();
+    label.width = TextLine(text, m_font).Width();
     return label;
 }
 
@@ -97,7 +76,7 @@ QImage LayoutText::Render(std::string_view text, int nWidth, COLORREF color) con
     QImage picture(nWidth + 2 * m_nRoom, 4 * m_nRoom, QImage::Format_ARGB32_Premultiplied);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
-    Line(text, m_font).Draw(painter, CPoint(m_nRoom, m_nRoom + m_nBaseline), color);
+    TextLine(text, m_font).Draw(painter, CPoint(m_nRoom, m_nRoom + m_nBaseline), color);
     return picture;
 }
 

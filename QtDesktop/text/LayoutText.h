@@ -1,7 +1,7 @@
 // Text that Qt has to lay out: right to left, combining marks, joined letters, colour pictures.
 #pragma once
 
-#include "Toolkit/graphics/Surface.h"
+#include "Toolkit/graphics/TextEngine.h"
 
 #include <QFont>
 #include <QImage>
@@ -22,6 +22,8 @@ public:
     explicit LayoutText(const QFont& font);
 
     int Measure(std::string_view text); // pixels, rounded up
+    std::vector<toolkit::CharacterPlace> Places(std::string_view text,
+                                                std::span<const std::size_t> starts) const; // in pixels
     void Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color);
 
 private:

@@ -64,6 +64,18 @@ int QtTextEngine::Measure(std::string_view text, toolkit::FontStyle style)
     return RoomFor(width ? *width : face.layout.Measure(text), faces.scale);
 }
 
+std::vector<toolkit::CharacterPlace> QtTextEngine::Places(std::string_view text, std::span<const std::size_t> starts,
+                                                          toolkit::FontStyle style)
+{
+    Faces& faces = FacesAt(toolkit::ScreenScale());
+    Face& face = faces.Of(style);
+    auto simple = face.simple.Places(text, starts);
+    std::vector<toolkit::CharacterPlace> places = simple ? *std::move(simple) : face.layout.Places(text, starts);
+    for (toolkit::CharacterPlace& place : places)
+        place = {RoomFor(place.leading, faces.scale), RoomFor(place.trailing, faces.scale)};
+    return places;
+}
+
 void QtTextEngine::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
                         toolkit::FontStyle style)
 {

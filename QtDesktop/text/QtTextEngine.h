@@ -19,6 +19,8 @@ public:
     const QFont& GetFont() const { return m_font; }
     int LineHeight() const override;
     int Measure(std::string_view text, toolkit::FontStyle style) override;
+    std::vector<toolkit::CharacterPlace> Places(std::string_view text, std::span<const std::size_t> starts,
+                                                toolkit::FontStyle style) override;
     void Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color,
               toolkit::FontStyle style) override;
 

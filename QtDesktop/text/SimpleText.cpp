@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace qtdesktop
 {
@@ -75,11 +76,11 @@ long long SimpleText::Walk(std::string_view text, Visit visit)
         m_glyphs.clear();
     long long pen = 0;
     char32_t before = 0;
-    while (!text.empty()) {
-        const char32_t c = NextShown(text);
+    for (std::string_view rest = text; !rest.empty();) {
+        const char32_t c = NextShown(rest);
         pen += Kerning(before, c);
         Glyph& glyph = FindGlyph(c);
-        if (!visit(glyph, c, pen))
+        if (!visit(glyph, c, pen, text.size() - rest.size()))
             break;
         pen += glyph.advance;
         before = c;
@@ -90,7 +91,7 @@ long long SimpleText::Walk(std::string_view text, Visit visit)
 template <class Visit>
 void SimpleText::WalkLetters(std::string_view text, Visit visit)
 {
-    Walk(text, [&](Glyph& glyph, char32_t c, long long pen) {
+    Walk(text, [&](Glyph& glyph, char32_t c, long long pen, std::size_t) {
         const long long quarters = std::max(0LL, pen + 1) / 16; // cut off where Qt does
         const TextMask& mask = FindMask(glyph, c, static_cast<int>(quarters % kQuarters));
         return visit(Letter{&mask, CPoint(static_cast<int>(quarters / kQuarters), 0)});
@@ -103,10 +104,28 @@ std::optional<int> SimpleText::Measure(std::string_view text)
         return pLabel->width;
     if (!IsSimpleText(text))
         return std::nullopt;
-    const int nWidth = ToWidth(Walk(text, [](const Glyph&, char32_t, long long) { return true; }));
+    const int nWidth = ToWidth(Walk(text, [](const Glyph&, char32_t, long long, std::size_t) { return true; }));
     if (text.size() <= KnownLabels::kLongest)
         m_known.Add(text, nWidth);
     return nWidth;
+}
+
+std::optional<std::vector<toolkit::CharacterPlace>> SimpleText::Places(std::string_view text,
+                                                                       std::span<const std::size_t> starts)
+{
+    if (!IsSimpleText(text))
+        return std::nullopt;
+    std::vector<toolkit::CharacterPlace> places;
+    int from = 0;
+    Walk(text, [&](const Glyph& glyph, char32_t, long long pen, std::size_t end) {
+        const std::size_t next = places.size() + 1;
+        if (end == (next < starts.size() ? starts[next] : text.size())) {
+            const int to = ToWidth(pen + glyph.advance);
+            places.push_back({std::exchange(from, to), to});
+        }
+        return true;
+    });
+    return places;
 }
 
 bool SimpleText::Draw(toolkit::Surface& target, const CRect& clip, CPoint at, std::string_view text, COLORREF color)

@@ -5,11 +5,13 @@
 #pragma once
 
 #include "QtDesktop/text/KnownLabels.h"
+#include "Toolkit/graphics/TextEngine.h"
 
 #include <QFont>
 #include <QFontMetricsF>
 #include <array>
 #include <optional>
+#include <span>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -26,6 +28,10 @@ public:
     // The width in pixels, rounded up; nothing for a text that cannot be drawn glyph by glyph. Invalid bytes can: each
     // is a replacement character.
     std::optional<int> Measure(std::string_view text);
+
+    // The places of the characters that begin at these bytes, in pixels.
+    std::optional<std::vector<toolkit::CharacterPlace>> Places(std::string_view text,
+                                                               std::span<const std::size_t> starts);
 
     // With the line's top left corner at `at`, only inside `clip`, which lies inside the surface. False, and nothing
     // drawn, where Measure says nothing.
@@ -46,7 +52,8 @@ private:
         CPoint at; // from where the text is put
     };
 
-    // visit(glyph, code point, pen) until FALSE; the pen at the end. Glyphs stay until the next walk.
+    // visit(glyph, code point, pen, bytes up to its end) until FALSE; the pen at the end. Glyphs stay until the next
+    // walk.
     template <class Visit>
     long long Walk(std::string_view text, Visit visit);
     template <class Visit>

@@ -23,6 +23,18 @@ std::vector<std::size_t> FindCuts(std::string_view text)
 
 } // namespace
 
+std::vector<toolkit::CharacterPlace> toolkit::TextEngine::Places(std::string_view text,
+                                                                 std::span<const std::size_t> starts, FontStyle style)
+{
+    std::vector<CharacterPlace> places;
+    for (std::size_t i = 0; i < starts.size(); ++i) {
+        const int from = places.empty() ? 0 : places.back().trailing;
+        const std::size_t end = i + 1 < starts.size() ? starts[i + 1] : text.size();
+        places.push_back({from, Measure(text.substr(0, end), style)});
+    }
+    return places;
+}
+
 bool toolkit::IsCombiningMark(char32_t c)
 {
     struct Range

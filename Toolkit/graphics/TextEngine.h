@@ -3,8 +3,11 @@
 
 #include "Toolkit/graphics/Surface.h"
 
+#include <algorithm>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace toolkit
 {
@@ -13,6 +16,17 @@ enum class FontStyle
 {
     Regular,
     Bold
+};
+
+// Where a character stands in its line, in coordinates from the line's left edge: `leading` is the edge at which its
+// reader comes to it, the right one where texts are written from right to left.
+struct CharacterPlace
+{
+    int leading = 0, trailing = 0;
+
+    int Left() const { return std::min(leading, trailing); }
+    int Right() const { return std::max(leading, trailing); }
+    friend bool operator==(const CharacterPlace&, const CharacterPlace&) = default;
 };
 
 // Texts are single lines in UTF-8; whatever bytes come, an engine draws something for each.
@@ -24,6 +38,11 @@ public:
     // In coordinates, at the screen's scale: from one line to the next, the same for both styles; a text's width.
     virtual int LineHeight() const = 0;
     virtual int Measure(std::string_view text, FontStyle style) = 0;
+
+    // The places of the characters that begin at these bytes, the first at 0, each reaching to the next one. As it
+    // stands here for engines that draw from left to right; it measures as often as there are characters.
+    virtual std::vector<CharacterPlace> Places(std::string_view text, std::span<const std::size_t> starts,
+                                               FontStyle style);
 
     // Draws the text, at the surface's scale, with its line's top left corner at `at`, only inside `clip` (inside the
     // surface), both in pixels.

@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <map>
 
 using toolkit::FontStyle;
 using toolkit::Surface;
@@ -104,6 +105,38 @@ TEST_F(TextEngineTest, WhateverBytesComeSomethingIsDrawnForEach)
     EXPECT_NEAR(3 * nOne, m_engine.Measure("\xE2\x82\xFF", FontStyle::Regular), 2);
     EXPECT_EQ(0, m_engine.Measure("", FontStyle::Regular));
     EXPECT_GT(m_engine.Measure(std::string(100'000, '\xC3'), FontStyle::Regular), 10'000);
+}
+
+TEST_F(TextEngineTest, TheCharactersOfATextFillItsLineWhicheverWayTheyAreRead)
+{
+    const auto seenAs = [this](std::initializer_list<std::string> characters) {
+        std::string text, seen;
+        std::vector<std::size_t> starts;
+        for (const std::string& character : characters)
+            starts.push_back(std::exchange(text, text + character).size());
+        const auto places = m_engine.Places(text, starts, FontStyle::Regular);
+        std::map<int, std::pair<std::string, int>> byLeft;
+        for (const std::string& character : characters) {
+            const toolkit::CharacterPlace& place = places.at(byLeft.size());
+            byLeft[place.Left()] = {character + (place.leading < place.trailing ? ">" : "<"), place.Right()};
+        }
+        int right = 0;
+        for (const auto& [left, character] : byLeft) {
+            EXPECT_NEAR(right, left, 1) << character.first;
+            right = character.second;
+            seen += character.first;
+        }
+        EXPECT_NEAR(m_engine.Measure(text, FontStyle::Regular), right, 1);
+        return seen;
+    };
+    EXPECT_EQ("a>b>1>", seenAs({"a", "b", "1"}));
+    EXPECT_EQ("ם<ו<ל<ש<", seenAs({"ש", "ל", "ו", "ם"}));
+    EXPECT_EQ("a> >ב<א< >b>", seenAs({"a", " ", "א", "ב", " ", "b"}));
+    EXPECT_EQ("g>i>f>.<ב<שׁ<", seenAs({"שׁ", "ב", ".", "g", "i", "f"})) << "a letter with its mark is one";
+    EXPECT_EQ("a>1>2>א< >c>", seenAs({"a", "א", "1", "2", " ", "c"})) << "numbers are read from left to right";
+    EXPECT_EQ("م<ا<ل<س<", seenAs({"س", "ل", "ا", "م"})) << "two letters in one sign";
+    EXPECT_EQ("e\u0301>f>f>i> >ا<ل<", seenAs({"e\u0301", "f", "f", "i", " ", "ل", "ا"}));
+    EXPECT_EQ("", seenAs({}));
 }
 
 // A longer text is not remembered, but drawn letter by letter: here with nothing but spaces behind the label.

@@ -5,6 +5,35 @@
 
 using namespace toolkit;
 
+namespace
+{
+
+// Ten pixels a letter; the first run of capitals is written from right to left.
+class Capitals : public TextEngine
+{
+public:
+    Capitals() { InstallTextEngine(this); }
+    ~Capitals() override { InstallTextEngine(nullptr); }
+
+    int LineHeight() const override { return 12; }
+    int Measure(std::string_view text, FontStyle) override { return 10 * static_cast<int>(text.size()); }
+    std::vector<CharacterPlace> Places(std::string_view text, std::span<const std::size_t> starts,
+                                       FontStyle style) override
+    {
+        auto places = TextEngine::Places(text, starts, style);
+        const auto isCapital = [&](const CharacterPlace& place) { return std::isupper(text[place.leading / 10]); };
+        const auto first = std::ranges::find_if(places, isCapital);
+        const auto end = std::find_if_not(first, places.end(), isCapital);
+        for (const int ends = first == end ? 0 : first->leading + (end - 1)->trailing;
+             CharacterPlace & place : std::span(first, end))
+            place = {ends - place.leading, ends - place.trailing};
+        return places;
+    }
+    void Draw(Surface&, const CRect&, CPoint, std::string_view, COLORREF, FontStyle) override {}
+};
+
+} // namespace
+
 TEST_F(EditTest, TypedTextGoesInPlaceOfTheSelectionAndEveryChangeIsTold)
 {
     desktop.Type("aä");
@@ -57,6 +86,44 @@ TEST_F(EditTest, KeysMoveSelectAndDeleteByCharactersAndWords)
     for (const Step& step : steps)
         EXPECT_EQ(step.pszState, AfterKey(step.vkey, step.modifiers));
     EXPECT_EQ(8u, TakeLedger().size()) << "only deletions are changes";
+}
+
+TEST_F(EditTest, WhatIsReadFromRightToLeftHasItsCaretAndSelectionWhereItIsSeen)
+{
+    const Capitals engine;
+    const auto afterKeys = [this](std::initializer_list<UINT> vkeys, Modifiers modifiers = {}) {
+        std::vector<std::string> states;
+        for (const UINT vkey : vkeys)
+            states.push_back(AfterKey(vkey, modifiers));
+        return states;
+    };
+    const auto selectedColumns = [this] { // in the line's middle, counted in letters
+        const Surface seen = desktop.Dump(edit.m_hWnd);
+        std::string columns;
+        for (int x = 3 + 5; x < 3 + 70; x += 10)
+            columns += seen.At(x + 1, 12) == ToPixel(GetSysColor(COLOR_HIGHLIGHT)) ? '#' : '.';
+        return columns;
+    };
+    using States = std::vector<std::string>;
+    Set("ABC"); // seen as CBA
+    EXPECT_EQ(3, edit.PosFromChar(3).x);
+    EXPECT_EQ(33, edit.PosFromChar(0).x);
+    EXPECT_EQ(States({"ABC|", "AB|C", "A|BC", "|ABC", "|ABC"}),
+              afterKeys({VK_LEFT, VK_RIGHT, VK_RIGHT, VK_RIGHT, VK_RIGHT}));
+    EXPECT_EQ(States({"[A]BC", "[AB]C"}), afterKeys({VK_LEFT, VK_LEFT}, kShift));
+    EXPECT_EQ(".##....", selectedColumns());
+    EXPECT_EQ("|ABC", AfterKey(VK_RIGHT)) << "leaves the selection at its right end";
+    EXPECT_EQ(States({"ABC|", "|ABC"}), afterKeys({VK_LEFT, VK_RIGHT}, kControl));
+
+    Set("ab CDE"); // seen as ab EDC
+    edit.SetSel(1, 4);
+    EXPECT_EQ(".##..#.", selectedColumns()) << "what is read in one go is seen in two parts";
+    desktop.Click(edit.m_hWnd, {3 + 42, 10});
+    EXPECT_EQ("ab CD|E", State());
+    desktop.Type("F");
+    EXPECT_EQ("ab CDF|E", State());
+    desktop.DoubleClick(edit.m_hWnd, {3 + 32, 10});
+    EXPECT_EQ("ab [CDFE]", State());
 }
 
 TEST_F(EditTest, TheClipboardKeysCutCopyPasteAndUndoOneStep)

@@ -70,7 +70,8 @@ private:
     LRESULT OnSysKeyDown(WPARAM wParam, LPARAM lParam);
     void OnChar(UINT c);
     std::optional<std::size_t> TargetOf(UINT vkey, bool control, bool shift) const; // where the key moves the caret
-    void Command(UINT character);                                                   // a control character
+    std::size_t ArrowTarget(bool right, bool control, bool shift) const;
+    void Command(UINT character); // a control character
 
     // The context menu.
     void OnContextMenu(WPARAM, CPoint at);

@@ -1,6 +1,7 @@
 // The edit control under the keyboard.
 #include "Toolkit/base/Text.h"
 #include "Toolkit/controls/edit/EditControl.h"
+#include "Toolkit/controls/edit/TextPlaces.h"
 
 namespace toolkit
 {
@@ -44,31 +45,38 @@ LRESULT EditControl::OnKeyDown(UINT vkey, LPARAM lParam)
     return 0;
 }
 
-// An arrow without Shift leaves a selection at that end of it.
 std::optional<std::size_t> EditControl::TargetOf(UINT vkey, bool control, bool shift) const
+{
+    switch (vkey) {
+    case VK_LEFT:
+    case VK_UP:
+        return ArrowTarget(false, control, shift);
+    case VK_RIGHT:
+    case VK_DOWN:
+        return ArrowTarget(true, control, shift);
+    case VK_HOME:
+        return 0;
+    case VK_END:
+        return m_text.Text().size();
+    default:
+        return std::nullopt;
+    }
+}
+
+// Goes where it points, whichever way the letters are read there; over words, in the direction of the whole text.
+// Without Shift it leaves a selection at that end of it.
+std::size_t EditControl::ArrowTarget(bool right, bool control, bool shift) const
 {
     const std::string& text = m_text.Text();
     const TextSpan selection = m_text.Selection();
     const std::size_t caret = m_text.Caret();
-    const bool leaves = !shift && !control && !selection.IsEmpty();
-    switch (vkey) {
-    case VK_LEFT:
-    case VK_UP:
-        if (leaves)
-            return selection.first;
-        return control ? PreviousWord(text, caret) : PreviousStop(text, caret);
-    case VK_RIGHT:
-    case VK_DOWN:
-        if (leaves)
-            return selection.end;
-        return control ? NextWord(text, caret) : NextStop(text, caret);
-    case VK_HOME:
-        return 0;
-    case VK_END:
-        return text.size();
-    default:
-        return std::nullopt;
-    }
+    const TextPlaces places(text);
+    if (control)
+        return right != places.ReadsLeftwards() ? NextWord(text, caret) : PreviousWord(text, caret);
+    if (shift || selection.IsEmpty())
+        return right ? places.StopRightOf(caret) : places.StopLeftOf(caret);
+    const bool startIsRight = places.CaretX(selection.first) > places.CaretX(selection.end);
+    return right == startIsRight ? selection.first : selection.end;
 }
 
 LRESULT EditControl::OnSysKeyDown(WPARAM wParam, LPARAM lParam)

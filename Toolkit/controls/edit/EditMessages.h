@@ -23,7 +23,7 @@ inline constexpr UINT EM_SCROLLCARET = 0x00B7; // into view
 inline constexpr UINT EM_REPLACESEL = 0x00C2;  // wParam: can it be undone?, lParam: LPCSTR
 inline constexpr UINT EM_LIMITTEXT = 0x00C5;   // wParam: bytes, 0: no limit; what is set by WM_SETTEXT may be longer
 inline constexpr UINT EM_UNDO = 0x00C7;        // once more: brings back what was undone
-inline constexpr UINT EM_POSFROMCHAR = 0x00D6; // wParam: position; packed client point of the character's left top
+inline constexpr UINT EM_POSFROMCHAR = 0x00D6; // wParam: position; packed client point, the top of the caret before it
 
 // Notifications, by WM_COMMAND. EN_UPDATE and EN_CHANGE follow every change of the text, however it came: typed,
 // pasted, undone, or set by WM_SETTEXT, even to what it was. The first comes before the control looks different.

@@ -36,32 +36,30 @@ void EditView::OnPaint() const
     const CRect line = m_layout.LineRect();
     const COLORREF ink = GetSysColor(COLOR_WINDOWTEXT);
     SetTextColor(hdc, ink);
-    TextOut(hdc, m_layout.X(shown, 0), line.top, shown);
+    TextOut(hdc, m_layout.Left(shown), line.top, shown);
 
     const bool composes = !m_composition.text.empty();
     if (composes) {
-        const int left = m_layout.X(shown, m_text.Caret());
-        const int right = m_layout.X(shown, m_text.Caret() + m_composition.text.size());
-        FillSolidRect(hdc, {left, line.bottom - 1, right, line.bottom}, ink);
+        const TextSpan span{m_text.Caret(), m_text.Caret() + m_composition.text.size()};
+        for (const CRect& part : m_layout.SpanRects(shown, span))
+            FillSolidRect(hdc, {part.left, part.bottom - 1, part.right, part.bottom}, ink);
+    } else if (m_window.IsFocused() || m_window.Is(ES_NOHIDESEL)) {
+        for (const CRect& part : m_layout.SpanRects(shown, m_text.Selection()))
+            DrawSelected(hdc, shown, part);
     }
-    if (!composes && !m_text.Selection().IsEmpty() && (m_window.IsFocused() || m_window.Is(ES_NOHIDESEL)))
-        DrawSelection(hdc, shown);
     if (m_bCaretOn)
         FillSolidRect(hdc, CaretRect(), ink);
 }
 
 // The whole text once more through a clip, so that its letters stand where they stood.
-void EditView::DrawSelection(HDC hdc, const std::string& shown) const
+void EditView::DrawSelected(HDC hdc, const std::string& shown, const CRect& part) const
 {
-    const TextSpan selection = m_text.Selection();
-    const CRect line = m_layout.LineRect();
-    const CRect rect(m_layout.X(shown, selection.first), line.top, m_layout.X(shown, selection.end), line.bottom);
     const bool focused = m_window.IsFocused();
     const int saved = SaveDC(hdc);
-    IntersectClipRect(hdc, rect);
-    FillSolidRect(hdc, rect, GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+    IntersectClipRect(hdc, part);
+    FillSolidRect(hdc, part, GetSysColor(focused ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
     SetTextColor(hdc, GetSysColor(focused ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-    TextOut(hdc, m_layout.X(shown, 0), line.top, shown);
+    TextOut(hdc, m_layout.Left(shown), part.top, shown);
     RestoreDC(hdc, saved);
 }
 

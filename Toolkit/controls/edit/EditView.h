@@ -35,7 +35,7 @@ private:
         std::size_t caret = 0; // in it
     };
 
-    void DrawSelection(HDC hdc, const std::string& shown) const;
+    void DrawSelected(HDC hdc, const std::string& shown, const CRect& part) const;
     std::string Shown() const; // with what is being composed
     std::size_t ShownCaret() const { return m_text.Caret() + m_composition.caret; }
 
