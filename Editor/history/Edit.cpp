@@ -96,6 +96,8 @@ void RenamingEdit::Tell(Changes& changes) const
 void RenamingEdit::CountIn(StepSummary& summary) const
 {
     ++summary.nRenamed;
+    if (summary.nCame == 1 && summary.object == m_former)
+        summary.object = m_name; // what has come is known by the name that it has now
     Name(summary.object, m_former);
 }
 

@@ -123,6 +123,7 @@ public:
         : m_folder(std::move(folder)), m_former(std::move(former)), m_name(std::move(name))
     {}
 
+    std::string FormerPath() const { return m_folder + '/' + m_former; }
     void Tell(Changes& changes) const override;
     void CountIn(StepSummary& summary) const override;
 

@@ -11,6 +11,7 @@ namespace editor
 namespace
 {
 
+constexpr std::string_view kNew = "new ";
 constexpr std::size_t kLongestShown = 40;        // bytes of a name
 constexpr std::uint64_t kLargestText = 64 << 20; // bytes; a larger one is none of ours
 
@@ -40,7 +41,7 @@ std::string NameOf(const std::string& verb, const StepSummary& summary)
     const bool bMoved = summary.nCame > 0 && summary.nWent > 0;
     const std::string name = bMoved ? "move" : verb.empty() ? UsualVerb(summary) : verb;
     const int nObjects = std::max({summary.nCame, summary.nWent, summary.nRenamed});
-    return nObjects > 0 ? name + (name.starts_with("new ") ? " " : " of ") + Objects(nObjects, summary.object)
+    return nObjects > 0 ? name + (name.starts_with(kNew) ? " " : " of ") + Objects(nObjects, summary.object)
                         : name + " in " + Texts(summary.texts);
 }
 
@@ -274,8 +275,22 @@ void History::End() noexcept
     m_bLost = false;
 }
 
+bool History::IsNamingOfNewest(const Edits& edits) const
+{
+    if (m_nDone == 0 || !m_steps[m_nDone - 1].verb.starts_with(kNew) || m_steps[m_nDone - 1].edits.size() != 1)
+        return false;
+    const auto* const pRenaming = dynamic_cast<const RenamingEdit*>(edits.front().get());
+    const auto* const pComing = dynamic_cast<const PlacingEdit*>(m_steps[m_nDone - 1].edits.front().get());
+    return pRenaming && pComing && pRenaming->FormerPath() == pComing->Path();
+}
+
 void History::Keep(Edits edits, const std::string& remark)
 {
+    if (IsNamingOfNewest(edits)) {
+        m_verb = m_steps[m_nDone - 1].verb;
+        edits.insert(edits.begin(), m_steps[m_nDone - 1].edits.front());
+        --m_nDone;
+    }
     StepSummary summary;
     for (const auto& pEdit : edits)
         pEdit->CountIn(summary);
@@ -285,7 +300,7 @@ void History::Keep(Edits edits, const std::string& remark)
         m_steps.pop_front();
         --m_nDone;
     }
-    m_steps.push_back({std::move(name), std::move(edits)});
+    m_steps.push_back({m_verb, std::move(name), std::move(edits)});
     ++m_nDone;
     Tell(NewsOf(m_steps.back().name + remark, summary));
 }

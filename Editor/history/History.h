@@ -58,7 +58,8 @@ public:
     void ForgetNextRedo();
 
     // Steps may stand in each other: the outermost counts. Its verb names it ("paste"); where it has none, that of the
-    // first inside it. What removes here and adds there is a move.
+    // first inside it. What removes here and adds there is a move. A step that gives the newest object, of a verb "new
+    // ...", its first name goes on with the step in which it came.
     class Step
     {
     public:
@@ -85,7 +86,7 @@ private:
     using Removals = std::vector<std::shared_ptr<PlacingEdit>>;
     struct Done
     {
-        std::string name;
+        std::string verb, name;
         Edits edits;
     };
 
@@ -93,6 +94,7 @@ private:
     void End() noexcept;
     void Mark(const char* pszVerb) noexcept;
     Removals FindRemovals() const;
+    bool IsNamingOfNewest(const Edits& edits) const;
     void Keep(Edits edits, const std::string& remark);
     template <class Change>
     void Note(Change change) noexcept;

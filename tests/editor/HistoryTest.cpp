@@ -190,6 +190,7 @@ TEST_F(HistoryTest, NewFoldersAndPhasesAreNamedWhereTheyComeAndAreSteps)
     ControlShift('P');
     desktop.Type("walk");
     Press(VK_RETURN);
+    EXPECT_EQ("new phase \"walk.phase\"", NextUndo()) << "the first name belongs to it";
     EXPECT_EQ("a.bmp\nb.bmp\n", folder.Read("Ada/walk.phase")) << "the frames in the order shown";
     EXPECT_EQ("[a.bmp b.bmp Poses (*walk.phase)]", Rows());
     ControlShift('N');
@@ -206,10 +207,10 @@ TEST_F(HistoryTest, NewFoldersAndPhasesAreNamedWhereTheyComeAndAreSteps)
     ControlShift('N'); // not there
     EXPECT_EQ(Ledger(), TakeBoxes());
     const auto end = Disk();
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 3; ++i)
         Control('Z');
     EXPECT_EQ(start, Disk());
-    for (int i = 0; i < 4; ++i)
+    for (int i = 0; i < 3; ++i)
         Redo();
     EXPECT_EQ(end, Disk());
 }
