@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr int kText = 190, kLeastTrack = 60; // pixels wide
-constexpr int kGroove = 4, kKnob = 14;       // pixels high
+constexpr int kGroove = 4, kKnob = 14;       // pixels high, the knob a disc
 
 } // namespace
 
@@ -76,11 +76,7 @@ void CSeekBar::OnPaint()
     const COLORREF done = GetSysColor(COLOR_HIGHLIGHT);
     FillSolidRect(dc, {track.left, y - kGroove / 2, track.right, y + kGroove / 2}, LineColor());
     FillSolidRect(dc, {track.left, y - kGroove / 2, x, y + kGroove / 2}, done);
-    for (int i = 0; i < kKnob / 2; ++i) { // a disc, line by line
-        const int half = kKnob / 2 - (i > kKnob / 4 ? (i - kKnob / 4) * 3 / 2 : i > 1 ? 1 : 0);
-        FillSolidRect(dc, {x - half, y - i - 1, x + half, y - i}, done);
-        FillSolidRect(dc, {x - half, y + i, x + half, y + i + 1}, done);
-    }
+    FillRoundRect(dc, {x - kKnob / 2, y - kKnob / 2, x + kKnob / 2, y + kKnob / 2}, kKnob / 2, done);
 }
 
 void CSeekBar::PointAt(CPoint point)

@@ -50,7 +50,8 @@ void CSizeSlider::OnPaint()
     const CPaintDC dc(this);
     const CPoint knob = PlaceOf(m_events.ask());
     FillSolidRect(dc, Groove(), GetSysColor(COLOR_GRAYTEXT));
-    FillSolidRect(dc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), GetSysColor(COLOR_HIGHLIGHT));
+    FillRoundRect(dc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), kKnob.cx / 2,
+                  GetSysColor(COLOR_HIGHLIGHT));
 }
 
 BOOL CSizeSlider::OnMouseWheel(UINT, short zDelta, CPoint)

@@ -65,6 +65,8 @@ inline constexpr UINT BF_RECT = BF_LEFT | BF_TOP | BF_RIGHT | BF_BOTTOM;
 
 // Drawing.
 TOOLKIT_API BOOL FillSolidRect(HDC hdc, const RECT& rect, COLORREF color);
+TOOLKIT_API BOOL FillRoundRect(HDC hdc, const RECT& rect, int radius,
+                               COLORREF color); // smooth; of half its sides at most
 TOOLKIT_API BOOL FillRect(HDC hdc, const RECT& rect, HBRUSH hBrush);
 TOOLKIT_API BOOL BlendRect(HDC hdc, const RECT& rect, COLORREF color, BYTE alpha); // 255 covers, 0 leaves
 TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverting: drawn twice it is gone

@@ -14,37 +14,6 @@ constexpr int kTrack = 9, kThumb = 59, kHotThumb = 95, kPressedThumb = 135; // s
 constexpr int kThumbMargin = 3;                                             // between the thumb and the track's edge
 constexpr int kThumbRadius = 4;                                             // half of what is left across
 
-// How much of the pixel (x, y) counted from a rounded corner the corner covers, 0 to 255.
-BYTE CornerCoverage(int x, int y)
-{
-    constexpr int kSamples = 8; // each way
-    int nInside = 0;
-    for (int i = 0; i < kSamples * kSamples; ++i) {
-        const int dx = 2 * (kThumbRadius - x) * kSamples - 2 * (i % kSamples) - 1;
-        const int dy = 2 * (kThumbRadius - y) * kSamples - 2 * (i / kSamples) - 1;
-        nInside += dx * dx + dy * dy <= 4 * kThumbRadius * kThumbRadius * kSamples * kSamples;
-    }
-    return static_cast<BYTE>(nInside * 255 / (kSamples * kSamples));
-}
-
-void BlendCorners(HDC hdc, const CRect& rect, int x, int y, COLORREF color)
-{
-    const BYTE alpha = CornerCoverage(x, y);
-    for (const int nLeft : {rect.left + x, rect.right - 1 - x})
-        for (const int nTop : {rect.top + y, rect.bottom - 1 - y})
-            BlendRect(hdc, CRect({nLeft, nTop}, {1, 1}), color, alpha);
-}
-
-void FillRounded(HDC hdc, const CRect& rect, COLORREF color)
-{
-    constexpr int r = kThumbRadius;
-    FillSolidRect(hdc, CRect(rect.left + r, rect.top, rect.right - r, rect.bottom), color);
-    FillSolidRect(hdc, CRect(rect.left, rect.top + r, rect.left + r, rect.bottom - r), color);
-    FillSolidRect(hdc, CRect(rect.right - r, rect.top + r, rect.right, rect.bottom - r), color);
-    for (int i = 0; i < r * r; ++i)
-        BlendCorners(hdc, rect, i % r, i / r, color);
-}
-
 void PaintScrollBar(const WindowRecord& window, HDC hdc, int nBar)
 {
     const CRect box = toolkit::ScrollBarBox(window, nBar);
@@ -59,7 +28,10 @@ void PaintScrollBar(const WindowRecord& window, HDC hdc, int nBar)
     CRect thumb = bar.GetThumbAt(look.nThumbOffset);
     thumb.DeflateRect(kThumbMargin, kThumbMargin);
     if (thumb.Width() >= 2 * kThumbRadius && thumb.Height() >= 2 * kThumbRadius)
-        FillRounded(hdc, thumb, toolkit::ShadeColor(look.bPressed ? kPressedThumb : look.bHot ? kHotThumb : kThumb));
+        FillRoundRect(hdc, thumb, kThumbRadius,
+                      toolkit::ShadeColor(look.bPressed ? kPressedThumb
+                                          : look.bHot   ? kHotThumb
+                                                        : kThumb));
 }
 
 // The square where two scroll bars meet.

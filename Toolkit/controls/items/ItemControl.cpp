@@ -14,15 +14,6 @@ namespace
 constexpr int kDragDistance = 4;
 } // namespace
 
-void FillRounded(HDC hdc, const CRect& rect, int cut, COLORREF color)
-{
-    for (int inset = cut, y = 0; inset > 0; --inset, ++y) {
-        FillSolidRect(hdc, {rect.left + inset, rect.top + y, rect.right - inset, rect.top + y + 1}, color);
-        FillSolidRect(hdc, {rect.left + inset, rect.bottom - y - 1, rect.right - inset, rect.bottom - y}, color);
-    }
-    FillSolidRect(hdc, {rect.left, rect.top + cut, rect.right, rect.bottom - cut}, color);
-}
-
 CSize ItemControl::ImageSize() const
 {
     int cx = 0, cy = 0;

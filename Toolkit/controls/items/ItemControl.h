@@ -25,9 +25,6 @@ private:
     int& m_count;
 };
 
-// A rectangle whose corners are cut by so many pixels.
-void FillRounded(HDC hdc, const CRect& rect, int cut, COLORREF color);
-
 class ItemControl : public NativeWindow, protected LabelHost
 {
 public:

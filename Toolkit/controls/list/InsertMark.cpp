@@ -78,9 +78,9 @@ void InsertMark::Draw(HDC hdc) const
     const CRect rect = Rect();
     const int middle = (rect.left + rect.right - kStroke) / 2;
     const COLORREF color = GetSysColor(COLOR_HIGHLIGHT);
-    FillRounded(hdc, {middle, rect.top, middle + kStroke, rect.bottom}, 1, color);
-    FillRounded(hdc, {rect.left, rect.top, rect.right, rect.top + kStroke}, 1, color);
-    FillRounded(hdc, {rect.left, rect.bottom - kStroke, rect.right, rect.bottom}, 1, color);
+    FillRoundRect(hdc, {middle, rect.top, middle + kStroke, rect.bottom}, 2, color);
+    FillRoundRect(hdc, {rect.left, rect.top, rect.right, rect.top + kStroke}, 2, color);
+    FillRoundRect(hdc, {rect.left, rect.bottom - kStroke, rect.right, rect.bottom}, 2, color);
 }
 
 } // namespace toolkit

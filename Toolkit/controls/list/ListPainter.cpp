@@ -75,7 +75,7 @@ void ListPainter::DrawLabel(HDC hdc, const RowLabel& label, UINT state) const
         ground = COLOR_BTNFACE;
     }
     if (ground != COLOR_WINDOW)
-        FillRounded(hdc, label.box, 2, GetSysColor(ground));
+        FillRoundRect(hdc, label.box, 3, GetSysColor(ground));
 
     const int lineHeight = CurrentTextEngine().LineHeight();
     int y = label.box.top + (label.box.Height() - static_cast<int>(label.lines.size()) * lineHeight) / 2;

@@ -101,7 +101,7 @@ void TreePainter::DrawButton(HDC hdc, const CRect& slot, bool expanded) const
     const CRect box(CPoint(middle.x - kButton / 2, middle.y - kButton / 2), CSize(kButton, kButton));
     CRect inside = box;
     inside.DeflateRect(1, 1);
-    FillRounded(hdc, box, 1, GetSysColor(COLOR_BTNSHADOW));
+    FillRoundRect(hdc, box, 2, GetSysColor(COLOR_BTNSHADOW));
     FillSolidRect(hdc, inside, GetSysColor(COLOR_WINDOW));
     const COLORREF ink = GetSysColor(COLOR_3DDKSHADOW);
     FillSolidRect(hdc, CRect(CPoint(middle.x - kSign / 2, middle.y), CSize(kSign, 1)), ink);
@@ -115,7 +115,7 @@ void TreePainter::DrawLabel(HDC hdc, const CRect& box, ItemIndex item, const std
     CRect ground = box;
     ground.DeflateRect(0, 1); // marked neighbours stay apart
     if (mark != Mark::None && !text.empty())
-        FillRounded(hdc, ground, 1, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+        FillRoundRect(hdc, ground, 2, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
 
     SetTextColor(hdc, GetSysColor(mark == Mark::Full ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
     SetFontStyle(hdc, m_viewport.FontOf(item));
