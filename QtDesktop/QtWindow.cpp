@@ -9,6 +9,7 @@
 #include <QInputMethod>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QToolTip>
 #include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
@@ -236,6 +237,7 @@ void QtWindow::leaveEvent(QEvent*)
 
 void QtWindow::keyPressEvent(QKeyEvent* pEvent)
 {
+    QToolTip::hideText(); // the keyboard is in use
     toolkit::InputKey(ToVirtualKey(*pEvent), true, ModifiersAfter(*pEvent));
     if (const std::string text = TypedText(*pEvent); !text.empty())
         toolkit::InputText(text);

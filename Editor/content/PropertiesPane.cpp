@@ -91,7 +91,8 @@ void CPropertiesPane::OnPaint()
     text.DeflateRect(2 * kSpace, 0);
     if (!m_phases.empty()) {
         DrawField(dc, kDelayField, "Frame delay", "ms");
-        DrawField(dc, kRepeatField, "Repeat", "times");
+        const bool bOnce = std::ranges::all_of(m_phases, [](const auto& p) { return p->GetTiming().repeat == 1; });
+        DrawField(dc, kRepeatField, "Repeat", bOnce ? "time" : "times");
         text.left = kRepeatField.right + 64;
     }
     DrawTextLine(dc, text, GetText(), TextColor(COLOR_GRAYTEXT, BarColor()),
