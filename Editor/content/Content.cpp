@@ -125,9 +125,7 @@ void Content::TakeFocus()
 
 bool Content::FocusPlayer()
 {
-    CRect player;
-    m_player.GetClientRect(&player);
-    if (!m_pPlayed || player.IsRectEmpty() || ::GetFocus() == m_player.m_hWnd)
+    if (!m_pPlayed || m_player.Client().IsRectEmpty() || ::GetFocus() == m_player.m_hWnd)
         return false;
     m_player.SetFocus();
     return true;

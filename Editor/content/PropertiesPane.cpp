@@ -24,14 +24,13 @@ void DrawField(HDC hdc, CRect rect, const char* pszBefore, const char* pszBehind
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPropertiesPane, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CPropertiesPane, CWidget)
     ON_MESSAGE(kUpdate, OnUpdate)
 END_MESSAGE_MAP()
 
 CPropertiesPane::CPropertiesPane(Events events)
-    : m_events(std::move(events)),
+    : CWidget(WS_VISIBLE | WS_CLIPCHILDREN),
+      m_events(std::move(events)),
       m_delay(FieldEvents(&PhaseTiming::delay, [this] { m_repeat.SetFocus(); })),
       m_repeat(FieldEvents(&PhaseTiming::repeat, [this] { m_events.leave(); }))
 {}
@@ -39,8 +38,7 @@ CPropertiesPane::CPropertiesPane(Events events)
 BOOL CPropertiesPane::Create(CWnd* pParent)
 {
     constexpr UINT kDelayID = 1, kRepeatID = 2;
-    if (!CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) ||
-        !m_delay.Create(WS_CHILD, kDelayField, this, kDelayID) ||
+    if (!CWidget::Create(pParent) || !m_delay.Create(WS_CHILD, kDelayField, this, kDelayID) ||
         !m_repeat.Create(WS_CHILD, kRepeatField, this, kRepeatID))
         return FALSE;
     SetAccessibleName(m_delay.m_hWnd, "Delay");
@@ -83,19 +81,17 @@ std::string CPropertiesPane::GetText() const
     return bModified ? text + ": not saved yet (Ctrl+S)" : text;
 }
 
-void CPropertiesPane::OnPaint()
+void CPropertiesPane::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
-    CRect text;
-    GetClientRect(&text);
+    CRect text = Client();
     text.DeflateRect(2 * kSpace, 0);
     if (!m_phases.empty()) {
-        DrawField(dc, kDelayField, "Frame delay", "ms");
+        DrawField(hdc, kDelayField, "Frame delay", "ms");
         const bool bOnce = std::ranges::all_of(m_phases, [](const auto& p) { return p->GetTiming().repeat == 1; });
-        DrawField(dc, kRepeatField, "Repeat", bOnce ? "time" : "times");
+        DrawField(hdc, kRepeatField, "Repeat", bOnce ? "time" : "times");
         text.left = kRepeatField.right + 64;
     }
-    DrawTextLine(dc, text, GetText(), TextColor(COLOR_GRAYTEXT, BarColor()),
+    DrawTextLine(hdc, text, GetText(), TextColor(COLOR_GRAYTEXT, BarColor()),
                  m_phases.empty() ? Align::Left : Align::Right);
 }
 

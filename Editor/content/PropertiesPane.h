@@ -4,6 +4,7 @@
 #include "Editor/model/Phase.h"
 #include "Editor/widgets/Look.h"
 #include "Editor/widgets/NumberField.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <functional>
@@ -15,7 +16,7 @@ namespace editor
 
 // Where several phases differ in a number, its field says so, and a number that is entered goes to all of them. What
 // was entered is kept in the phases, which are modified until they are saved.
-class CPropertiesPane : public CWnd, public toolkit::Accessible
+class CPropertiesPane : public CWidget, public toolkit::Accessible
 {
 public:
     using Phases = std::vector<CStubRef<CPhase>>;
@@ -41,8 +42,8 @@ public:
     std::string AccName(LPARAM) override { return GetText(); }
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillBottomBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
     afx_msg LRESULT OnUpdate(WPARAM wParam, LPARAM lParam);
     DECLARE_MESSAGE_MAP()
 

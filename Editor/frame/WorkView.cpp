@@ -46,7 +46,7 @@ WorkView::WorkView(LongWork& work, std::function<void(std::string)> tell)
     : m_work(work), m_tell(std::move(tell)), m_strip([this] { m_work.Cancel(); })
 {}
 
-BOOL WorkView::Create(CWnd* pStatusBar)
+BOOL WorkView::Create(CWidget* pStatusBar)
 {
     m_pStatusBar = pStatusBar;
     m_work.SetView(this);
@@ -55,9 +55,7 @@ BOOL WorkView::Create(CWnd* pStatusBar)
 
 void WorkView::Show(const Progress& progress)
 {
-    CRect client;
-    m_pStatusBar->GetClientRect(&client);
-    m_strip.MoveWindow(client);
+    m_strip.MoveWindow(m_pStatusBar->Client());
     m_strip.SetState(m_work.GetMeter().IsAskedToEnd() ? "Cancelling ..." : TextOf(progress), PartOf(progress),
                      progress.unit != Progress::Unit::Found);
     m_strip.ShowWindow(SW_SHOW);

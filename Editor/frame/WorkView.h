@@ -15,7 +15,7 @@ public:
     WorkView(const WorkView&) = delete;
     WorkView& operator=(const WorkView&) = delete;
 
-    BOOL Create(CWnd* pStatusBar);
+    BOOL Create(CWidget* pStatusBar);
     CProgressStrip& GetStrip() { return m_strip; }
 
     HWND GetModalWindow() const override { return m_strip.m_hWnd; }
@@ -26,7 +26,7 @@ public:
 private:
     LongWork& m_work;
     const std::function<void(std::string)> m_tell;
-    CWnd* m_pStatusBar = nullptr;
+    CWidget* m_pStatusBar = nullptr;
     CProgressStrip m_strip;
 };
 

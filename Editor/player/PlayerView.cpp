@@ -25,8 +25,6 @@ constexpr int kBroken = 96;
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPlayerView, CZoomView)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
     ON_WM_SETFOCUS()
@@ -35,7 +33,7 @@ BEGIN_MESSAGE_MAP(CPlayerView, CZoomView)
 END_MESSAGE_MAP()
 
 CPlayerView::CPlayerView(Events events)
-    : CZoomView([this] { m_events.zoomed(); }),
+    : CZoomView([this] { m_events.zoomed(); }, WS_CLIPCHILDREN),
       m_events(std::move(events)),
       m_tools([this] { return m_events.askTools(); }, [this](UINT nCommand) { m_events.use(nCommand); }),
       m_seekBar([this](int nFrame) { GoTo(nFrame); })
@@ -43,8 +41,8 @@ CPlayerView::CPlayerView(Events events)
 
 BOOL CPlayerView::Create(CWnd* pParent)
 {
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) &&
-           m_tools.Create(this) && m_seekBar.Create(this) && SetAccessibleName(m_tools.m_hWnd, "Player");
+    return CZoomView::Create(pParent) && m_tools.Create(this) && m_seekBar.Create(this) &&
+           SetAccessibleName(m_tools.m_hWnd, "Player");
 }
 
 void CPlayerView::SetFrames(std::unique_ptr<Frames> pFrames)
@@ -99,8 +97,7 @@ std::string CPlayerView::AccDescription(LPARAM)
 
 CRect CPlayerView::View() const
 {
-    CRect stage;
-    GetClientRect(&stage);
+    CRect stage = Client();
     stage.bottom = std::max(stage.top, stage.bottom - kBar);
     return stage;
 }
@@ -285,26 +282,19 @@ void CPlayerView::SetEnlarging(bool bPixels)
     ShowPresent();
 }
 
-BOOL CPlayerView::OnEraseBkgnd(HDC hdc)
+void CPlayerView::Draw(HDC hdc)
 {
-    FillSolidRect(hdc, View(), CalmColor());
-    return TRUE;
-}
-
-void CPlayerView::OnPaint()
-{
-    const CPaintDC dc(this);
     CRect stage = View();
     if (::GetFocus() == m_hWnd)
-        DrawFocusRect(dc, stage);
+        DrawFocusRect(hdc, stage);
     stage.DeflateRect(1, 1);
     if (m_shown.IsEmpty())
         return;
-    IntersectClipRect(dc, stage);
+    IntersectClipRect(hdc, stage);
     if (m_zoom.IsFit() || FullSize() == CSize())
-        DrawOnChecks(dc, toolkit::Centred(m_shown.Size(), stage), m_shown);
+        DrawOnChecks(hdc, toolkit::Centred(m_shown.Size(), stage), m_shown);
     else
-        DrawZoomed(dc, m_shown);
+        DrawZoomed(hdc, m_shown);
 }
 
 void CPlayerView::OnSize(UINT nType, int cx, int cy)

@@ -57,8 +57,8 @@ protected:
     CSize FittedSize() const override;
     void OnZoomed() override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillSolidRect(hdc, View(), CalmColor()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     afx_msg void OnSetFocus(CWnd* pOldWnd);

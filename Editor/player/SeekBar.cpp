@@ -16,16 +16,6 @@ constexpr int kGroove = 4, kKnob = 14;       // pixels high, the knob a disc
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSeekBar, CSlider)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-BOOL CSeekBar::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
-
 void CSeekBar::Show(int nAt, int nCount, std::string text)
 {
     m_nAt = nAt;
@@ -47,8 +37,7 @@ void CSeekBar::AccSetValue(double value)
 
 CRect CSeekBar::Track() const
 {
-    CRect track;
-    GetClientRect(&track);
+    CRect track = Client();
     track.DeflateRect(2 * kSpace, 0);
     track.right -= kText;
     return track.Width() < kLeastTrack || m_nCount < 2 ? CRect() : track;
@@ -60,23 +49,20 @@ int CSeekBar::PlaceOf(int nFrame, const CRect& track) const
     return static_cast<int>(track.left + kKnob / 2 + room * nFrame / (m_nCount - 1));
 }
 
-void CSeekBar::OnPaint()
+void CSeekBar::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
-    CRect text = client;
+    CRect text = Client();
     text.right -= 2 * kSpace;
     text.left = std::max<int>(text.right - kText, 0);
-    DrawTextLine(dc, text, m_text, TextColor(COLOR_GRAYTEXT, BarColor()), Align::Right);
+    DrawTextLine(hdc, text, m_text, TextColor(COLOR_GRAYTEXT, BarColor()), Align::Right);
     const CRect track = Track();
     if (track.IsRectEmpty() || m_nAt < 0)
         return;
     const int x = PlaceOf(m_nAt, track), y = track.CenterPoint().y;
     const COLORREF done = GetSysColor(COLOR_HIGHLIGHT);
-    FillSolidRect(dc, {track.left, y - kGroove / 2, track.right, y + kGroove / 2}, LineColor());
-    FillSolidRect(dc, {track.left, y - kGroove / 2, x, y + kGroove / 2}, done);
-    FillRoundRect(dc, {x - kKnob / 2, y - kKnob / 2, x + kKnob / 2, y + kKnob / 2}, kKnob / 2, done);
+    FillSolidRect(hdc, {track.left, y - kGroove / 2, track.right, y + kGroove / 2}, LineColor());
+    FillSolidRect(hdc, {track.left, y - kGroove / 2, x, y + kGroove / 2}, done);
+    FillRoundRect(hdc, {x - kKnob / 2, y - kKnob / 2, x + kKnob / 2, y + kKnob / 2}, kKnob / 2, done);
 }
 
 void CSeekBar::PointAt(CPoint point)

@@ -15,9 +15,7 @@ class CSeekBar : public CSlider
 public:
     // `seek` is called with the frame that the user points at, the button held down.
     explicit CSeekBar(std::function<void(int nFrame)> seek) : m_seek(std::move(seek)) {}
-    ~CSeekBar() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);
     void Show(int nAt, int nCount, std::string text); // nAt from 0
     const std::string& GetText() const { return m_text; }
 
@@ -29,10 +27,8 @@ public:
 protected:
     bool Takes(CPoint point) const override { return Track().PtInRect(point); }
     void PointAt(CPoint point) override;
-
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void Erase(HDC hdc) override { FillTopBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
 
 private:
     CRect Track() const; // what can be pointed at; empty where there is no room

@@ -15,8 +15,6 @@ namespace editor
 class CFieldTrouble : public CWnd
 {
 public:
-    ~CFieldTrouble() override { DestroyWindow(); }
-
     void Show(HWND hField, const std::string& reason); // which becomes its text
     void Hide() { DestroyWindow(); }
 

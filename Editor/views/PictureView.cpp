@@ -22,16 +22,9 @@ constexpr UINT kLate = 250; // milliseconds
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPictureView, CZoomView)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
     ON_WM_SIZE()
     ON_WM_TIMER()
 END_MESSAGE_MAP()
-
-BOOL CPictureView::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
 
 void CPictureView::SetAtom(IAtom* pAtom)
 {
@@ -78,31 +71,24 @@ void CPictureView::OnTimer(UINT_PTR)
     Invalidate();
 }
 
-void CPictureView::OnPaint()
+void CPictureView::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
     if (!m_own.IsEmpty() || (!m_shown.IsEmpty() && !m_zoom.IsFit()))
-        return DrawZoomed(dc, m_own.IsEmpty() ? m_shown : m_own);
+        return DrawZoomed(hdc, m_own.IsEmpty() ? m_shown : m_own);
     if (!m_shown.IsEmpty())
-        return DrawFitting(dc);
+        return DrawOnChecks(hdc, toolkit::Centred(m_shown.Size(), View()), m_shown);
     const CMember* const pMember = CMember::Of(m_pAtom.Get());
     if (!pMember)
         return;
+    CRect client = Client();
     client.DeflateRect(2 * kSpace, 0);
     if (dynamic_cast<const CPlainFile*>(pMember))
-        return DrawSign(dc, client, Pictogram::File, pMember->ShownName() + ": Enter opens it with its program");
+        return DrawSign(hdc, client, Pictogram::File, pMember->ShownName() + ": Enter opens it with its program");
     if (const std::string reason = pMember->ErrorLine(); !reason.empty())
-        DrawSign(dc, client, Pictogram::BrokenPicture, reason);
+        DrawSign(hdc, client, Pictogram::BrokenPicture, reason);
     else if (m_bLate)
-        DrawTextLine(dc, client, "Reading " + pMember->ShownName() + " ...", TextColor(COLOR_GRAYTEXT, CalmColor()),
+        DrawTextLine(hdc, client, "Reading " + pMember->ShownName() + " ...", TextColor(COLOR_GRAYTEXT, CalmColor()),
                      Align::Center);
-}
-
-void CPictureView::DrawFitting(HDC hdc) const
-{
-    DrawOnChecks(hdc, toolkit::Centred(m_shown.Size(), View()), m_shown);
 }
 
 void CPictureView::DrawSign(HDC hdc, const CRect& client, Pictogram sign, const std::string& line) const
@@ -119,13 +105,6 @@ void CPictureView::OnSize(UINT nType, int cx, int cy)
     CWnd::OnSize(nType, cx, cy);
     Fetch();
     Invalidate();
-}
-
-CRect CPictureView::View() const
-{
-    CRect view;
-    GetClientRect(&view);
-    return view;
 }
 
 CSize CPictureView::Room() const

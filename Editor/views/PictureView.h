@@ -23,9 +23,7 @@ public:
     CPictureView(PictureStore& pictures, std::function<void()> zoomed)
         : CZoomView(std::move(zoomed)), m_pictures(pictures)
     {}
-    ~CPictureView() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);
     IAtom* GetAtom() const { return m_pAtom.Get(); } // borrowed; NULL while nothing is shown
     void SetAtom(IAtom* pAtom);                      // NULL: nothing
     void OnPictureArrived();                         // the atom's picture is there, or has changed
@@ -33,13 +31,13 @@ public:
     UINT AccRole(LPARAM) override { return ROLE_SYSTEM_GRAPHIC; }
 
 protected:
-    CRect View() const override;
+    CRect View() const override { return Client(); }
     CSize FullSize() const override { return m_full; }
     CSize FittedSize() const override;
     void OnZoomed() override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, CalmColor()); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillSolidRect(hdc, Client(), CalmColor()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnTimer(UINT_PTR nIDEvent);
     DECLARE_MESSAGE_MAP()
@@ -49,7 +47,6 @@ private:
     void Fetch();
     void Take(const toolkit::Surface& picture);
     void AwaitPicture();
-    void DrawFitting(HDC hdc) const;
     void DrawSign(HDC hdc, const CRect& client, hostkit::Pictogram sign, const std::string& line) const;
 
     PictureStore& m_pictures;

@@ -25,19 +25,12 @@ int HeightOf(const CKeysSheet::Group& group)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CKeysSheet, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CKeysSheet, CWidget)
     ON_WM_KEYDOWN()
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEWHEEL()
     ON_WM_KILLFOCUS()
 END_MESSAGE_MAP()
-
-BOOL CKeysSheet::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
 
 void CKeysSheet::Show(std::vector<Group> groups)
 {
@@ -56,8 +49,7 @@ void CKeysSheet::Leave()
 // Filled from the left: a column is full once it holds its part of the whole.
 std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
 {
-    CRect room;
-    GetClientRect(&room);
+    CRect room = Client();
     room.DeflateRect(kMargin, kMargin);
     const int nColumns = std::clamp(room.Width() / kLeastColumn, 1, 3);
     const int width = (room.Width() - (nColumns - 1) * kMargin) / nColumns;
@@ -95,11 +87,10 @@ std::vector<CKeysSheet::Part> CKeysSheet::AccParts()
     return parts;
 }
 
-void CKeysSheet::OnPaint()
+void CKeysSheet::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     for (const Place& place : Layout())
-        DrawGroup(dc, place);
+        DrawGroup(hdc, place);
 }
 
 void CKeysSheet::DrawGroup(HDC hdc, const Place& place) const
@@ -118,14 +109,12 @@ void CKeysSheet::DrawGroup(HDC hdc, const Place& place) const
 
 void CKeysSheet::OnKeyDown(UINT nChar, UINT, UINT)
 {
-    CRect client;
-    GetClientRect(&client);
     if (nChar == VK_ESCAPE || nChar == VK_RETURN)
         Leave();
     else if (nChar == VK_UP || nChar == VK_DOWN)
         ScrollBy(nChar == VK_UP ? -LineStep() : LineStep());
     else if (nChar == VK_PRIOR || nChar == VK_NEXT)
-        ScrollBy(nChar == VK_PRIOR ? -client.Height() : client.Height());
+        ScrollBy(nChar == VK_PRIOR ? -Client().Height() : Client().Height());
 }
 
 void CKeysSheet::OnLButtonDown(UINT, CPoint)
@@ -147,12 +136,10 @@ void CKeysSheet::OnKillFocus(CWnd* pNewWnd)
 
 void CKeysSheet::ScrollBy(int nPixels)
 {
-    CRect client;
-    GetClientRect(&client);
     int bottom = 0;
     for (const Place& place : Layout())
         bottom = std::max<int>(bottom, place.rect.bottom + kMargin);
-    m_nScrolled = std::clamp(m_nScrolled + nPixels, 0, std::max(0, bottom - static_cast<int>(client.bottom)));
+    m_nScrolled = std::clamp(m_nScrolled + nPixels, 0, std::max(0, bottom - Client().Height()));
     Invalidate();
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 #include <string>
@@ -14,7 +14,7 @@ namespace editor
 
 // Groups of lines in as many columns as there is room for; a wheel and the arrows scroll what is too long. Goes with
 // Escape, a press, or when the focus goes elsewhere.
-class CKeysSheet : public CWnd, public toolkit::AccessibleParts
+class CKeysSheet : public CWidget, public toolkit::AccessibleParts
 {
 public:
     struct Line
@@ -27,10 +27,8 @@ public:
         std::vector<Line> lines;
     };
 
-    explicit CKeysSheet(std::function<void()> leave) : m_leave(std::move(leave)) {}
-    ~CKeysSheet() override { DestroyWindow(); }
+    explicit CKeysSheet(std::function<void()> leave) : CWidget(0), m_leave(std::move(leave)) {}
 
-    BOOL Create(CWnd* pParent);
     void Show(std::vector<Group> groups);
     void Leave(); // the focus goes back to the views
     const std::vector<Group>& GetGroups() const { return m_groups; }
@@ -39,8 +37,8 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_LIST, STATE_SYSTEM_FOCUSABLE, "Keys", {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, SheetColor()); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillSolidRect(hdc, Client(), SheetColor()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);

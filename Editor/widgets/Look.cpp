@@ -3,7 +3,6 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/graphics/Pixels.h"
 #include "Toolkit/graphics/SysColors.h"
-#include "Toolkit/window/WindowApi.h"
 
 namespace editor
 {
@@ -38,32 +37,16 @@ COLORREF TextColor(int nColor, COLORREF ground)
     return toolkit::Readable(GetSysColor(nColor), ground);
 }
 
-BOOL FillTopBar(HDC hdc, HWND hBar)
+void FillTopBar(HDC hdc, const CRect& bar)
 {
-    CRect line;
-    GetClientRect(hBar, &line);
-    FillWindow(hdc, hBar, BarColor());
-    line.top = line.bottom - 1;
-    FillSolidRect(hdc, line, LineColor());
-    return TRUE;
+    FillSolidRect(hdc, bar, BarColor());
+    FillSolidRect(hdc, {bar.left, bar.bottom - 1, bar.right, bar.bottom}, LineColor());
 }
 
-BOOL FillBottomBar(HDC hdc, HWND hBar)
+void FillBottomBar(HDC hdc, const CRect& bar)
 {
-    CRect line;
-    GetClientRect(hBar, &line);
-    FillWindow(hdc, hBar, BarColor());
-    line.bottom = line.top + 1;
-    FillSolidRect(hdc, line, LineColor());
-    return TRUE;
-}
-
-BOOL FillWindow(HDC hdc, HWND hWnd, COLORREF color)
-{
-    CRect client;
-    GetClientRect(hWnd, &client);
-    FillSolidRect(hdc, client, color);
-    return TRUE;
+    FillSolidRect(hdc, bar, BarColor());
+    FillSolidRect(hdc, {bar.left, bar.top, bar.right, bar.top + 1}, LineColor());
 }
 
 void FillField(HDC hdc, const CRect& rect)

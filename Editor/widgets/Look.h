@@ -30,11 +30,9 @@ COLORREF SheetColor();                           // behind what is read in place
 COLORREF ErrorColor();                           // of texts that tell of a failure, on bars
 COLORREF TextColor(int nColor, COLORREF ground); // a system colour, made readable there
 
-// What a window lies on, its whole client area: the bar with path and tools, with a line below it; a bar at the bottom,
-// with a line above it; anything else. TRUE, as OnEraseBkgnd says where nothing is left to erase.
-BOOL FillTopBar(HDC hdc, HWND hBar);
-BOOL FillBottomBar(HDC hdc, HWND hBar);
-BOOL FillWindow(HDC hdc, HWND hWnd, COLORREF color);
+// The bar with path and tools, with a line below it; a bar at the bottom, with a line above it.
+void FillTopBar(HDC hdc, const CRect& bar);
+void FillBottomBar(HDC hdc, const CRect& bar);
 
 // What a field for text lies on, with a line around it.
 void FillField(HDC hdc, const CRect& rect);

@@ -20,19 +20,12 @@ std::pair<std::string, std::size_t> Unmarked(std::string title)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMenuBar, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CMenuBar, CWidget)
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()
     ON_MESSAGE(WM_NEXTMENU, OnNextMenu)
 END_MESSAGE_MAP()
-
-BOOL CMenuBar::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
 
 bool CMenuBar::HandleKey(const MSG& msg)
 {
@@ -186,11 +179,10 @@ std::vector<CMenuBar::Part> CMenuBar::AccParts()
     return parts;
 }
 
-void CMenuBar::OnPaint()
+void CMenuBar::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     for (int i = 0; i < static_cast<int>(m_titles.size()); ++i)
-        DrawTitle(dc, i);
+        DrawTitle(hdc, i);
 }
 
 void CMenuBar::DrawTitle(HDC hdc, int nMenu) const

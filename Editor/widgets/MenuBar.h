@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/menu/Menu.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 #include <memory>
@@ -17,7 +17,7 @@ namespace editor
 // A press opens a menu, and so does Alt with the letter that is marked. F10, or Alt pressed and let go, lets the arrows
 // walk along the titles. While a menu is shown, Left, Right and the mouse go on to its neighbours. The focus stays
 // where it is.
-class CMenuBar : public CWnd, public toolkit::AccessibleParts
+class CMenuBar : public CWidget, public toolkit::AccessibleParts
 {
 public:
     struct Events
@@ -28,9 +28,7 @@ public:
     CMenuBar(std::vector<std::string> titles, Events events) // "&File"
         : m_titles(std::move(titles)), m_events(std::move(events))
     {}
-    ~CMenuBar() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);
     bool HandleKey(const MSG& msg); // asked before all other windows of the frame: false where it means nothing here
     void Leave();                   // the keys are everyone's again
     bool IsWalked() const { return m_bWalked; }
@@ -41,8 +39,8 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_MENUBAR, 0, {}, {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, BarColor()); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillSolidRect(hdc, Client(), BarColor()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

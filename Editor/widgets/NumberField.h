@@ -22,7 +22,6 @@ public:
     };
 
     explicit CNumberField(Events events) : m_events(std::move(events)) {}
-    ~CNumberField() override { DestroyWindow(); }
 
     bool IsTouched() const { return m_bTouched; } // something was typed that is not entered yet
 

@@ -23,8 +23,6 @@ toolkit::FontStyle StyleOf(bool isLast)
 } // namespace
 
 BEGIN_MESSAGE_MAP(CPathBar, CSpotBar)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
@@ -93,13 +91,12 @@ void CPathBar::AccUse(int nPart)
         UseSpot(nPart);
 }
 
-void CPathBar::OnPaint()
+void CPathBar::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     if (m_field.IsWindowVisible())
-        FillField(dc, FieldRect());
+        FillField(hdc, FieldRect());
     else
-        DrawCrumbs(dc);
+        DrawCrumbs(hdc);
 }
 
 void CPathBar::OnSize(UINT nType, int cx, int cy)
@@ -112,16 +109,14 @@ void CPathBar::OnSize(UINT nType, int cx, int cy)
 
 CRect CPathBar::FieldRect() const
 {
-    CRect rect;
-    GetClientRect(&rect);
+    CRect rect = Client();
     rect.DeflateRect(0, (kPathBarHeight - kFieldHeight) / 2);
     return rect;
 }
 
 CrumbLayout CPathBar::Layout() const
 {
-    CRect room;
-    GetClientRect(&room);
+    CRect room = Client();
     room.DeflateRect(0, kSpace / 2);
     std::vector<int> widths;
     for (const std::string& part : m_parts)

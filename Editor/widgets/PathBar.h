@@ -35,8 +35,8 @@ protected:
     int SpotAt(CPoint point) const override;
     void UseSpot(int nSpot) override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillTopBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
     DECLARE_MESSAGE_MAP()
 

@@ -18,18 +18,11 @@ constexpr int kButtonHeight = 24;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CProgressStrip, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CProgressStrip, CWidget)
     ON_WM_LBUTTONDOWN()
     ON_WM_KEYDOWN()
     ON_WM_CLOSE()
 END_MESSAGE_MAP()
-
-BOOL CProgressStrip::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
 
 void CProgressStrip::SetState(std::string text, double dPart, bool bCanCancel)
 {
@@ -57,24 +50,21 @@ std::optional<toolkit::AccRange> CProgressStrip::AccValue()
 
 CRect CProgressStrip::CancelRect() const
 {
-    CRect client;
-    GetClientRect(&client);
+    const CRect client = Client();
     const int width = TextWidth(kCancelText) + 4 * kSpace;
     return {CPoint(client.right - 2 * kSpace - width, (client.Height() - kButtonHeight) / 2),
             CSize(width, kButtonHeight)};
 }
 
-void CProgressStrip::OnPaint()
+void CProgressStrip::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
-    CRect client;
-    GetClientRect(&client);
+    CRect client = Client();
     client.DeflateRect(2 * kSpace, 0);
     if (m_bCanCancel)
-        client.right = DrawButton(dc).left - 2 * kSpace;
+        client.right = DrawButton(hdc).left - 2 * kSpace;
     if (m_dPart >= 0)
-        client.right = DrawBar(dc, client).left - 2 * kSpace;
-    DrawTextLine(dc, client, m_text, GetSysColor(COLOR_WINDOWTEXT));
+        client.right = DrawBar(hdc, client).left - 2 * kSpace;
+    DrawTextLine(hdc, client, m_text, GetSysColor(COLOR_WINDOWTEXT));
 }
 
 CRect CProgressStrip::DrawButton(HDC hdc) const

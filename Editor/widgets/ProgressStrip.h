@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 #include <string>
@@ -12,14 +12,12 @@ namespace editor
 {
 
 // Escape, and closing the window, are Cancel as well.
-class CProgressStrip : public CWnd, public toolkit::AccessibleParts
+class CProgressStrip : public CWidget, public toolkit::AccessibleParts
 {
 public:
     // `cancel` may be called before anything is shown.
-    explicit CProgressStrip(std::function<void()> cancel) : m_cancel(std::move(cancel)) {}
-    ~CProgressStrip() override { DestroyWindow(); }
+    explicit CProgressStrip(std::function<void()> cancel) : CWidget(0), m_cancel(std::move(cancel)) {}
 
-    BOOL Create(CWnd* pParent);                                     // not shown yet
     void SetState(std::string text, double dPart, bool bCanCancel); // 0 to 1; less: not known, and no bar
     const std::string& GetText() const { return m_text; }
     CRect CancelRect() const;
@@ -30,8 +28,8 @@ public:
 
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_PROGRESSBAR, 0, m_text, {}, {}}; }
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillBottomBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnClose();

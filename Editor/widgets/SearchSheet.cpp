@@ -15,9 +15,7 @@ constexpr int kWheelLines = 3;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSearchSheet, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CSearchSheet, CWidget)
     ON_WM_SIZE()
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()
@@ -25,7 +23,8 @@ BEGIN_MESSAGE_MAP(CSearchSheet, CWnd)
 END_MESSAGE_MAP()
 
 CSearchSheet::CSearchSheet(Events events)
-    : m_events(std::move(events)),
+    : CWidget(WS_CLIPCHILDREN),
+      m_events(std::move(events)),
       m_field({.change = m_events.typed,
                .enter =
                    [this](const std::string&) {
@@ -39,8 +38,7 @@ CSearchSheet::CSearchSheet(Events events)
 
 BOOL CSearchSheet::Create(CWnd* pParent)
 {
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0) &&
-           m_field.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1) &&
+    return CWidget::Create(pParent) && m_field.Create(WS_CHILD | WS_VISIBLE, CRect(), this, 1) &&
            SetAccessibleName(m_field.m_hWnd, "Search for a name");
 }
 
@@ -75,16 +73,14 @@ void CSearchSheet::SetNews(std::string news)
 
 CRect CSearchSheet::FieldRect() const
 {
-    CRect rect;
-    GetClientRect(&rect);
+    CRect rect = Client();
     rect.DeflateRect(kMargin, kMargin);
     return {rect.left, rect.top, rect.left + rect.Width() / 2, rect.top + kFieldHeight};
 }
 
 CRect CSearchSheet::ListRect() const
 {
-    CRect rect;
-    GetClientRect(&rect);
+    CRect rect = Client();
     rect.top = FieldRect().bottom + kSpace;
     return rect;
 }
@@ -94,22 +90,21 @@ int CSearchSheet::LinesInSight() const
     return std::max(1, ListRect().Height() / kLine);
 }
 
-void CSearchSheet::OnPaint()
+void CSearchSheet::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     const CRect field = FieldRect(), list = ListRect();
-    FillField(dc, field);
-    DrawTextLine(dc, {field.right + kMargin, field.top, list.right - kMargin, field.bottom}, m_news,
+    FillField(hdc, field);
+    DrawTextLine(hdc, {field.right + kMargin, field.top, list.right - kMargin, field.bottom}, m_news,
                  GetSysColor(COLOR_GRAYTEXT));
     CRect line(list.left, list.top, list.right, list.top + kLine);
     for (int i = m_nFirst; i < static_cast<int>(m_lines.size()) && line.top < list.bottom; ++i) {
         const bool bChosen = i == m_nChosen;
         if (bChosen)
-            FillSolidRect(dc, line, GetSysColor(COLOR_HIGHLIGHT));
+            FillSolidRect(hdc, line, GetSysColor(COLOR_HIGHLIGHT));
         const int split = list.left + list.Width() / 2;
-        DrawTextLine(dc, {list.left + kMargin, line.top, split - kSpace, line.bottom}, m_lines[i].what,
+        DrawTextLine(hdc, {list.left + kMargin, line.top, split - kSpace, line.bottom}, m_lines[i].what,
                      GetSysColor(bChosen ? COLOR_HIGHLIGHTTEXT : COLOR_WINDOWTEXT));
-        DrawTextLine(dc, {split, line.top, list.right - kMargin, line.bottom}, m_lines[i].where,
+        DrawTextLine(hdc, {split, line.top, list.right - kMargin, line.bottom}, m_lines[i].where,
                      GetSysColor(bChosen ? COLOR_HIGHLIGHTTEXT : COLOR_GRAYTEXT));
         line.OffsetRect(0, kLine);
     }
@@ -169,10 +164,8 @@ UINT CSearchSheet::AccState(LPARAM item)
 {
     if (item == CHILDID_SELF)
         return 0;
-    CRect client;
-    GetClientRect(&client);
     return STATE_SYSTEM_SELECTABLE | (item == m_nChosen + 1 ? STATE_SYSTEM_SELECTED : 0) |
-           ((AccPlace(item) & client).IsRectEmpty() ? STATE_SYSTEM_OFFSCREEN : 0);
+           ((AccPlace(item) & Client()).IsRectEmpty() ? STATE_SYSTEM_OFFSCREEN : 0);
 }
 
 std::string CSearchSheet::AccName(LPARAM item)

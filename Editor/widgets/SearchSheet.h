@@ -3,6 +3,7 @@
 
 #include "Editor/widgets/Look.h"
 #include "Editor/widgets/TextField.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <vector>
@@ -12,7 +13,7 @@ namespace editor
 
 // The field keeps the keys: the arrows choose among the lines, which the wheel scrolls, and Return or a double click
 // uses one.
-class CSearchSheet : public CWnd, public toolkit::Accessible
+class CSearchSheet : public CWidget, public toolkit::Accessible
 {
 public:
     struct Line
@@ -26,7 +27,6 @@ public:
         std::function<void()> leave; // Escape
     };
     explicit CSearchSheet(Events events);
-    ~CSearchSheet() override { DestroyWindow(); }
 
     BOOL Create(CWnd* pParent);
     void Show(const std::string& text); // without lines; what stands in the field is selected
@@ -51,8 +51,8 @@ public:
     void AccDo(LPARAM item) override { m_events.chosen(static_cast<std::size_t>(item) - 1); }
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillWindow(hdc, m_hWnd, SheetColor()); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillSolidRect(hdc, Client(), SheetColor()); }
+    void Draw(HDC hdc) override;
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

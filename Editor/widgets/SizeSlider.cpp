@@ -18,20 +18,12 @@ constexpr int kStep = 8; // sizes between which nobody sees a difference
 } // namespace
 
 BEGIN_MESSAGE_MAP(CSizeSlider, CSlider)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
     ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
-BOOL CSizeSlider::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
-
 CRect CSizeSlider::Groove() const
 {
-    CRect groove;
-    GetClientRect(&groove);
+    CRect groove = Client();
     groove.DeflateRect(kMargin, 0);
     groove.top = groove.CenterPoint().y - kGrooveHeight / 2;
     groove.bottom = groove.top + kGrooveHeight;
@@ -45,12 +37,11 @@ CPoint CSizeSlider::PlaceOf(int nSize) const
     return {groove.left + static_cast<int>(std::lround(part * groove.Width())), groove.CenterPoint().y};
 }
 
-void CSizeSlider::OnPaint()
+void CSizeSlider::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     const CPoint knob = PlaceOf(m_events.ask());
-    FillSolidRect(dc, Groove(), GetSysColor(COLOR_GRAYTEXT));
-    FillRoundRect(dc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), kKnob.cx / 2,
+    FillSolidRect(hdc, Groove(), GetSysColor(COLOR_GRAYTEXT));
+    FillRoundRect(hdc, CRect(knob - CPoint(kKnob.cx / 2, kKnob.cy / 2), kKnob), kKnob.cx / 2,
                   GetSysColor(COLOR_HIGHLIGHT));
 }
 

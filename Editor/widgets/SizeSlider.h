@@ -21,10 +21,10 @@ public:
         std::function<void(int nSize)> set; // by the user
         std::function<void(int nNotches)> step;
     };
-    CSizeSlider(int nLeast, int nMost, Events events) : m_nLeast(nLeast), m_nMost(nMost), m_events(std::move(events)) {}
-    ~CSizeSlider() override { DestroyWindow(); }
+    CSizeSlider(int nLeast, int nMost, Events events)
+        : CSlider(0), m_nLeast(nLeast), m_nMost(nMost), m_events(std::move(events))
+    {}
 
-    BOOL Create(CWnd* pParent);
     CPoint PlaceOf(int nSize) const; // the knob's middle; client
 
     std::string AccName(LPARAM) override { return "Size of the thumbnails"; }
@@ -38,8 +38,8 @@ protected:
     bool Takes(CPoint) const override { return true; }
     void PointAt(CPoint point) override;
 
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override { FillBottomBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     DECLARE_MESSAGE_MAP()
 

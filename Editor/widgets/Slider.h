@@ -1,19 +1,21 @@
 // What the user drags along a line.
 #pragma once
 
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
 
 namespace editor
 {
 
 // Follows the mouse from a press, where it takes one, until the button is let go.
-class CSlider : public CWnd, public toolkit::Accessible
+class CSlider : public CWidget, public toolkit::Accessible
 {
 public:
     UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }
 
 protected:
+    using CWidget::CWidget;
+
     virtual bool Takes(CPoint point) const = 0; // client
     virtual void PointAt(CPoint point) = 0;     // anywhere, once a press was taken
 

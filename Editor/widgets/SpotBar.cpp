@@ -15,7 +15,7 @@ constexpr UINT kTipDelay = 500; // milliseconds
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSpotBar, CWnd)
+BEGIN_MESSAGE_MAP(CSpotBar, CWidget)
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()
@@ -23,11 +23,6 @@ BEGIN_MESSAGE_MAP(CSpotBar, CWnd)
     ON_MESSAGE(WM_CAPTURECHANGED, OnCaptureChanged)
     ON_WM_TIMER()
 END_MESSAGE_MAP()
-
-BOOL CSpotBar::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0);
-}
 
 void CSpotBar::ForgetSpots()
 {

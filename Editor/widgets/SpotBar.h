@@ -1,8 +1,8 @@
 // A bar with spots that a click uses.
 #pragma once
 
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <string>
 
@@ -11,14 +11,11 @@ namespace editor
 
 // The spot under the mouse is shown, and pressed once the button goes down on it; it is used when the button is let go
 // there. When the mouse rests on a spot that has something to say about itself, that is shown beside it.
-class CSpotBar : public CWnd, public toolkit::AccessibleParts
+class CSpotBar : public CWidget, public toolkit::AccessibleParts
 {
-public:
-    ~CSpotBar() override { DestroyWindow(); }
-
-    BOOL Create(CWnd* pParent);
-
 protected:
+    CSpotBar() : CWidget(WS_VISIBLE | WS_CLIPCHILDREN) {}
+
     static constexpr int kNothing = -1;
 
     virtual int SpotAt(CPoint point) const = 0; // kNothing where there is none

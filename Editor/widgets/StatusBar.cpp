@@ -7,16 +7,6 @@
 namespace editor
 {
 
-BEGIN_MESSAGE_MAP(CStatusBar, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
-BOOL CStatusBar::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
-
 void CStatusBar::SetNews(std::string news)
 {
     if (std::exchange(m_news, std::move(news)) == m_news)
@@ -40,19 +30,17 @@ std::string CStatusBar::AccName(LPARAM)
     return detail.empty() ? status.text : detail + ". " + status.text;
 }
 
-void CStatusBar::OnPaint()
+void CStatusBar::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     const Status status = m_ask();
-    CRect left;
-    GetClientRect(&left);
+    CRect left = Client();
     left.DeflateRect(2 * kSpace, 0);
     CRect right = left;
     left.right = std::min<int>(left.right, left.left + TextWidth(status.text));
     right.left = left.right + 2 * kSpace;
-    DrawTextLine(dc, left, status.text, TextColor(COLOR_GRAYTEXT, BarColor()));
+    DrawTextLine(hdc, left, status.text, TextColor(COLOR_GRAYTEXT, BarColor()));
     const std::string& detail = status.isError || status.news.empty() ? status.detail : status.news;
-    DrawTextLine(dc, right, detail, status.isError ? ErrorColor() : TextColor(COLOR_WINDOWTEXT, BarColor()),
+    DrawTextLine(hdc, right, detail, status.isError ? ErrorColor() : TextColor(COLOR_WINDOWTEXT, BarColor()),
                  Align::Right);
 }
 

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 #include <string>
@@ -20,13 +20,11 @@ struct Status
 };
 
 // Asks for its text whenever it is drawn: telling it of a change costs nothing, however often it is done.
-class CStatusBar : public CWnd, public toolkit::Accessible
+class CStatusBar : public CWidget, public toolkit::Accessible
 {
 public:
     explicit CStatusBar(std::function<Status()> ask) : m_ask(std::move(ask)) {}
-    ~CStatusBar() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);
     const std::string& GetNews() const { return m_news; }
     void SetNews(std::string news);
     void Update(); // what it asks for is new
@@ -35,9 +33,8 @@ public:
     std::string AccName(LPARAM) override;
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillBottomBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void Erase(HDC hdc) override { FillBottomBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
 
 private:
     const std::function<Status()> m_ask;

@@ -26,7 +26,6 @@ public:
         std::function<void()> lost;                          // the focus has gone elsewhere
     };
     explicit CTextField(Events events) : m_events(std::move(events)) {}
-    ~CTextField() override { DestroyWindow(); }
 
     void SetText(const std::string& text); // all of it selected; nobody is told
     std::string GetText() const { return GetWindowText().GetString(); }

@@ -22,11 +22,6 @@ std::vector<CRect> Layout(const std::vector<Tool>& tools, CPoint at)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CToolBar, CSpotBar)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
-END_MESSAGE_MAP()
-
 int CToolBar::WidthOf(const std::vector<Tool>& tools)
 {
     return tools.empty() ? 0 : Layout(tools, {kSpace, 0}).back().right + kSpace;
@@ -75,21 +70,20 @@ std::vector<CToolBar::Part> CToolBar::AccParts()
     return parts;
 }
 
-void CToolBar::OnPaint()
+void CToolBar::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
     const std::vector<Tool> tools = m_ask();
     const std::vector<CRect> rects = Layout(tools, {kSpace, (kPathBarHeight - kButton) / 2});
     for (std::size_t i = 0; i < tools.size(); ++i) {
         if (tools[i].isFirst && i > 0)
-            FillSolidRect(dc,
+            FillSolidRect(hdc,
                           CRect(CPoint(rects[i].left - kSpace, rects[i].top + kSpace), CSize(1, kButton - 2 * kSpace)),
                           LineColor());
-        Draw(dc, tools[i], rects[i], static_cast<int>(i));
+        DrawTool(hdc, tools[i], rects[i], static_cast<int>(i));
     }
 }
 
-void CToolBar::Draw(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const
+void CToolBar::DrawTool(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const
 {
     if (tool.isDown)
         FillSolidRect(hdc, rect, PressedColor());

@@ -41,13 +41,11 @@ protected:
     int SpotAt(CPoint point) const override;
     void UseSpot(int nSpot) override;
     Tip TipOf(int nSpot) const override;
-
-    afx_msg BOOL OnEraseBkgnd(HDC hdc) { return FillTopBar(hdc, m_hWnd); }
-    afx_msg void OnPaint();
-    DECLARE_MESSAGE_MAP()
+    void Erase(HDC hdc) override { FillTopBar(hdc, Client()); }
+    void Draw(HDC hdc) override;
 
 private:
-    void Draw(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const;
+    void DrawTool(HDC hdc, const Tool& tool, const CRect& rect, int nSpot) const;
 
     const std::function<std::vector<Tool>()> m_ask;
     const std::function<void(UINT)> m_use;

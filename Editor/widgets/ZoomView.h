@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Editor/widgets/PictureZoom.h"
+#include "Editor/widgets/Widget.h"
 #include "Toolkit/graphics/Surface.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 
@@ -12,12 +12,10 @@ namespace editor
 
 // The wheel zooms, a drag moves what is zoomed, a double click goes to the picture's own size and back. Pixels of what
 // is zoomed are squares. Its own size is a pixel to a pixel of the screen, in which all here counts.
-class CZoomView : public CWnd
+class CZoomView : public CWidget
 {
 public:
     static constexpr int kMostRead = 4096; // pixels each way, of what is zoomed
-
-    explicit CZoomView(std::function<void()> zoomed) : m_zoomed(std::move(zoomed)) {}
 
     double GetZoom() const { return m_zoom.Get(); } // 0: it fits
     void ZoomBy(int nSteps);                        // about the middle
@@ -27,6 +25,9 @@ public:
     void TakeZoom(const CZoomView& other) { m_zoom = other.m_zoom; }
 
 protected:
+    explicit CZoomView(std::function<void()> zoomed, DWORD dwStyle = 0) : CWidget(dwStyle), m_zoomed(std::move(zoomed))
+    {}
+
     virtual CRect View() const = 0;       // where the picture is seen; client
     virtual CSize FullSize() const = 0;   // of the picture in the file; 0 by 0: not known, or there is none
     virtual CSize FittedSize() const = 0; // of the whole of it, where it is not zoomed
