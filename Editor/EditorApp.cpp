@@ -1,7 +1,7 @@
 #include "Editor/EditorApp.h"
 
 #include "Editor/frame/MainFrame.h"
-#include "Editor/player/FrameWaiter.h"
+#include "Editor/player/PhaseFrames.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/services/NameRefusals.h"
 #include "HostKit/Services.h"

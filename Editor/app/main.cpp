@@ -8,15 +8,14 @@
 #include "Editor/FirstFolder.h"
 #include "Editor/app/Display.h"
 #include "Editor/app/EndSignals.h"
-#include "Editor/app/ProgramIcon.h"
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/app/Screenshot.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/disk/Underway.h"
 #include "Editor/disk/UserPlaces.h"
 #include "Editor/script/Script.h"
-#include "Editor/script/ScriptFile.h"
 #include "Editor/services/LeftTransfers.h"
+#include "HostKit/pictures/Pictograms.h"
 #include "QtDesktop/QtDesktop.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/message/Input.h"
@@ -24,11 +23,15 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QIcon>
+#include <QPixmap>
 #include <QProcess>
 #include <QSocketNotifier>
+#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 
 namespace
 {
@@ -48,6 +51,34 @@ int Refuse(const std::string& reason)
 {
     std::fprintf(stderr, "editor: %s\n", editor::ToShown(reason).c_str()); // one line, whatever a name holds
     return kNothingShown;
+}
+
+// What stands for the program in title bars and task lists.
+QIcon MakeIcon()
+{
+    QIcon icon;
+    for (const int nExtent : {16, 24, 32, 48, 64, 128}) {
+        const toolkit::Surface drawn = hostkit::DrawPictogram(hostkit::Pictogram::IconPane, nExtent);
+        const QImage picture(reinterpret_cast<const uchar*>(drawn.Row(0)), drawn.Width(), drawn.Height(),
+                             QImage::Format_ARGB32_Premultiplied);
+        icon.addPixmap(QPixmap::fromImage(picture.copy()));
+    }
+    return icon;
+}
+
+// The file's text; of "-" the standard input's. Empty when it was read, else one line that names the file and the
+// reason.
+std::string ReadScript(const std::string& path, std::string& text)
+{
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> pNamed(
+        path == "-" ? nullptr : std::fopen(path.c_str(), "rbe"), &std::fclose);
+    if (path != "-" && !pNamed)
+        return path + ": " + editor::SystemErrorText(errno);
+    std::FILE* const pFile = pNamed ? pNamed.get() : stdin;
+    char part[4096];
+    for (std::size_t got; (got = std::fread(part, 1, sizeof part, pFile)) > 0;)
+        text.append(part, got);
+    return std::ferror(pFile) ? path + ": " + editor::SystemErrorText(errno) : std::string();
 }
 
 // Qt's warnings speak of its own affairs, and of pictures whose trouble the editor tells itself.
@@ -86,7 +117,7 @@ void TellInterrupted()
 int Show(QApplication& application, const editor::CommandLine& line, const editor::EndSignals& ending)
 {
     QSocketNotifier asked(ending.GetHandle(), QSocketNotifier::Read);
-    application.setWindowIcon(editor::MakeProgramIcon());
+    application.setWindowIcon(MakeIcon());
     qtdesktop::QtDesktop desktop;
     editor::EditorApp editor(Reader(), {.size = line.size,
                                         .isSizeNamed = line.isSizeNamed,
@@ -129,7 +160,7 @@ public:
 int RunScript(const editor::CommandLine& line, const editor::EndSignals& ending)
 {
     std::string text;
-    if (const std::string reason = editor::ReadScript(line.script, text); !reason.empty())
+    if (const std::string reason = ReadScript(line.script, text); !reason.empty())
         return Refuse(reason);
     UnattendedDesktop desktop;
     editor::EditorApp editor(Reader(),

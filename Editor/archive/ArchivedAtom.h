@@ -2,7 +2,8 @@
 #pragma once
 
 #include "Editor/archive/ArchiveFormat.h"
-#include "HostKit/base/Counted.h"
+#include "HostKit/base/ErrorInfo.h"
+#include "HostKit/base/Names.h"
 #include "Views/host/host.h"
 
 #include <string>
@@ -26,11 +27,21 @@ public:
     const std::string& Failure() const { return m_failure; } // why no container took it; empty when one did
     void SetFailure(std::string line) { m_failure = std::move(line); }
 
-    void GetInterface(DWORD id, void** out) override;
+    void GetInterface(DWORD id, void** out) override
+    {
+        Counted::GetInterface(id, out);
+        if (!*out && id == IID_IMyErrorInfo && !m_failure.empty())
+            *out = hostkit::CErrorInfo::Make(m_failure).Detach();
+    }
 
     DWORD GetID() override { return 0; }
-    BOOL GetName(char* pBuffer, DWORD* pLength) override;
-    BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
+    BOOL GetName(char* pBuffer, DWORD* pLength) override { return hostkit::GiveName(m_record.name, pBuffer, pLength); }
+    BOOL GetContainer(void** ppOut, DWORD) override
+    {
+        if (ppOut)
+            *ppOut = nullptr;
+        return FALSE;
+    }
     BOOL IsModified() override { return FALSE; }
 
 private:

@@ -1,7 +1,6 @@
 #include "Editor/content/Content.h"
 
 #include "Editor/pictures/IconPainter.h"
-#include "Editor/player/MakeFrames.h"
 #include "Editor/resources/EditorResources.h"
 #include "Editor/widgets/Look.h"
 #include "HostKit/pictures/Pictograms.h"

@@ -1,18 +1,33 @@
 // What of the library is shown, and the ways from there.
 #pragma once
 
-#include "Editor/content/Trail.h"
 #include "Editor/model/Library.h"
 #include "Editor/services/AtomEditor.h"
 
 #include <functional>
+#include <string>
 #include <utility>
+#include <vector>
 
 namespace editor
 {
 
 // The innermost container that is still there, or the member itself when all of them are; NULL for NULL.
 CMember* WhatIsLeftOf(CMember* pMember);
+
+// Where the user has been.
+class Trail
+{
+public:
+    void Visit(const std::string& path); // what lay forward is forgotten; nothing where one is already
+    bool CanGo(int nStep) const;         // -1: back, 1: forward
+    // As far as `show` can: where it answers false the place is gone, and forgotten. Was one shown?
+    bool Go(int nStep, const std::function<bool(const std::string& path)>& show);
+
+private:
+    std::vector<std::string> m_paths;
+    std::size_t m_at = 0;
+};
 
 // Where the user wants to go it tells the editor, and all views follow; what they follow to it hears by SetShown.
 class Navigation

@@ -1,10 +1,13 @@
 #include "Editor/frame/ChangeFollower.h"
 
 #include "Editor/disk/FileText.h"
+#include "Editor/model/Phase.h"
 #include "Editor/model/PhaseFollower.h"
 #include "Editor/resources/EditorResources.h"
+#include "Editor/services/MemberBroadcast.h"
 #include "Toolkit/message/TaskInbox.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace editor
@@ -17,6 +20,13 @@ bool IsOneThatIsGone(const CEditorList::State& list)
 {
     CMember* const pOne = list.selected.size() == 1 ? CMember::Of(list.selected.front().Get()) : nullptr;
     return pOne && WhatIsLeftOf(pOne) != pOne;
+}
+
+// And not only what rows show?
+bool MovesRows(const MemberNews& news)
+{
+    const auto isPhase = [](const auto& pMember) { return dynamic_cast<CPhase*>(pMember.Get()) != nullptr; };
+    return news.isOther || !news.come.empty() || !news.renamed.empty() || std::ranges::any_of(news.written, isPhase);
 }
 
 } // namespace
@@ -62,15 +72,57 @@ void ChangeFollower::SelectRenamed()
     m_parts.content.GetList().FocusSelection();
 }
 
+ChangeFollower::Found ChangeFollower::Look(const std::vector<FolderNews>& news) const
+{
+    Found found;
+    for (const FolderNews& one : news) {
+        auto* const pFolder = dynamic_cast<CFolder*>(m_parts.navigation.Library()->FindLive(one.folder));
+        if (!pFolder)
+            continue;
+        found.push_back({CStubRef<CFolder>::Share(pFolder), {}, m_parts.navigation.Library()->LinksTo(one)});
+        pFolder->LookFor(one, found.back().news);
+        for (const std::string& name : one.names)
+            m_parts.pictures.Recheck(one.folder + '/' + name);
+        if (one.isUnknown)
+            m_parts.pictures.Recheck();
+    }
+    return found;
+}
+
+// Every view hears of it as of what the user does. Where the folder that was shown has gone the innermost one that is
+// still there is shown, and the answer says so; else it is empty.
+std::string ChangeFollower::Tell(const Found& found) const
+{
+    const auto pShown = CStubRef<CMember>::Share(m_parts.navigation.Shown());
+    bool bRenamed = false; // it, or what it is in
+    for (const auto& [pFolder, news, links] : found) {
+        for (const auto& pMember : news.written)
+            if (auto* const pPhase = dynamic_cast<CPhase*>(pMember.Get()))
+                ReadAgainAndTell(m_parts.editor, *pPhase);
+        for (const auto& renamed : news.renamed)
+            for (CMember* pMember = pShown.Get(); pMember; pMember = pMember->Container())
+                bRenamed |= pMember == renamed.pFormer.Get();
+        TellOf(m_parts.editor, *pFolder.Get(), news);
+        for (const auto& pLink : links)
+            m_parts.editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pLink.Get(), pLink->Container(), 0);
+    }
+    CMember* const pLeft = WhatIsLeftOf(pShown.Get());
+    if (bRenamed || pLeft == pShown.Get())
+        return {};
+    m_parts.navigation.GoTo(pLeft);
+    return pShown->ShownName() + ": is not there any more";
+}
+
 void ChangeFollower::OnDiskNews(const std::vector<FolderNews>& news)
 {
-    const DiskFollower::Found found = m_disk.Look(news);
-    if (!DiskFollower::MovesRows(found)) { // as after all that the program has done itself: no row is looked at
-        m_disk.Tell(found);
+    const Found found = Look(news);
+    const auto movesRows = [](const FoundIn& one) { return MovesRows(one.news); };
+    if (!std::ranges::any_of(found, movesRows)) { // as after all that the program has done itself: no row is looked at
+        Tell(found);
         return;
     }
     const FrameCommands::Position position = m_parts.commands.RememberPosition();
-    if (std::string line = m_disk.Tell(found); !line.empty())
+    if (std::string line = Tell(found); !line.empty())
         m_parts.tell(std::move(line));
     m_pCreated.Release();
     if (m_pRenamed && !IsOneThatIsGone(position.list)) {
@@ -81,9 +133,14 @@ void ChangeFollower::OnDiskNews(const std::vector<FolderNews>& news)
     m_parts.commands.GoOnAt(position);
 }
 
+// Of what is shown, and what it is in.
 void ChangeFollower::LookAround()
 {
-    if (const auto unknown = m_disk.Unfollowed(); !unknown.empty())
+    std::vector<FolderNews> unknown;
+    for (CMember* pMember = m_parts.navigation.Shown(); pMember; pMember = pMember->Container())
+        if (auto* const pFolder = dynamic_cast<CFolder*>(pMember); pFolder && !pFolder->IsFollowed())
+            unknown.push_back({pFolder->Path(), {}, {}, true});
+    if (!unknown.empty())
         OnDiskNews(unknown);
 }
 

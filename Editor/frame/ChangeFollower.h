@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Editor/commands/FrameCommands.h"
-#include "Editor/frame/DiskFollower.h"
+#include "Editor/disk/FolderWatch.h"
 
 #include <functional>
 #include <memory>
@@ -24,8 +24,7 @@ public:
         FrameCommands& commands;
         std::function<void(std::string)> tell; // a line of news
     };
-    explicit ChangeFollower(const Parts& parts) : m_parts(parts), m_disk(parts.editor, parts.pictures, parts.navigation)
-    {}
+    explicit ChangeFollower(const Parts& parts) : m_parts(parts) {}
 
     // What the editor tells of. A member that goes when another has just come to its container was renamed.
     void Came(IAtom* pAtom) { m_pCreated = CStubRef<CMember>::Share(CMember::Of(pAtom)); }
@@ -40,6 +39,17 @@ public:
     std::string TakeUnfollowed() { return std::exchange(m_unfollowed, {}); }
 
 private:
+    // What has become of members that somebody knows.
+    struct FoundIn
+    {
+        CStubRef<CFolder> pFolder;
+        MemberNews news;
+        std::vector<CStubRef<CMember>> links; // elsewhere, to what is in it
+    };
+    using Found = std::vector<FoundIn>;
+
+    Found Look(const std::vector<FolderNews>& news) const;
+    std::string Tell(const Found& found) const;
     void FollowRenamed(IAtom* pFormer, CMember* pRenamed);
     void SelectRenamed();
     void ShowFollowed(const std::vector<std::string>& phases);
@@ -47,9 +57,8 @@ private:
 
     const Parts m_parts;
     const std::shared_ptr<int> m_pAlive = std::make_shared<int>(); // goes with this object
-    DiskFollower m_disk;
-    CStubRef<CMember> m_pCreated; // what came last, until the next news
-    CStubRef<CMember> m_pRenamed; // is to be selected once everyone has heard of it
+    CStubRef<CMember> m_pCreated;                                  // what came last, until the next news
+    CStubRef<CMember> m_pRenamed;                                  // is to be selected once everyone has heard of it
     std::string m_unfollowed;
 };
 

@@ -4,7 +4,7 @@
 #include "Editor/disk/TempEntry.h"
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/Phase.h"
-#include "Editor/model/Picture.h"
+#include "Editor/model/PictureMember.h"
 #include "Editor/model/PlainFile.h"
 #include "Editor/pictures/IconPainter.h"
 

@@ -3,7 +3,6 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Container.h"
 #include "Editor/model/LibraryContext.h"
-#include "Editor/objects/DisplayName.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "HostKit/base/Names.h"
 #include "Toolkit/graphics/ImageList.h"
@@ -21,6 +20,30 @@ std::string Join(std::string folder, std::string_view name)
         folder += '/';
     return folder += name;
 }
+
+// The name to show of an atom whose own name cannot be shown as it is. An interface of the atom that it belongs to,
+// made when it is asked for: most names need none.
+class CDisplayName final : public hostkit::Counted, public IDispAtom
+{
+public:
+    explicit CDisplayName(CMember* pMember)
+        : m_pMember(CStubRef<CMember>::Share(pMember)), m_shown(pMember->ShownName())
+    {}
+
+    void GetInterface(DWORD id, void** out) override
+    {
+        if (id != IID_IDispAtom)
+            return m_pMember->GetInterface(id, out);
+        *out = static_cast<IDispAtom*>(this);
+        AddRef();
+    }
+
+    BOOL GetDisplayName(char* pBuffer, DWORD* pLength) override { return hostkit::GiveName(m_shown, pBuffer, pLength); }
+
+private:
+    const CStubRef<CMember> m_pMember;
+    const std::string m_shown;
+};
 
 } // namespace
 
@@ -83,7 +106,7 @@ void CMember::GetInterface(DWORD id, void** out)
     if (*out)
         return;
     if (id == IID_IDispAtom && !IsShownAsItIs(Name()))
-        *out = static_cast<IDispAtom*>(new CDisplayName(this, ShownName()));
+        *out = static_cast<IDispAtom*>(new CDisplayName(this));
     else if (id == IID_IMyErrorInfo)
         if (std::string line = LastErrorLine(); !line.empty())
             *out = hostkit::CErrorInfo::Make(std::move(line)).Detach();

@@ -2,7 +2,6 @@
 
 #include "Editor/model/LibraryContext.h"
 #include "Editor/model/PhaseText.h"
-#include "Editor/model/Picture.h"
 #include "Editor/pictures/IconPainter.h"
 
 #include <algorithm>

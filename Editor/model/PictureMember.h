@@ -25,4 +25,14 @@ protected:
     toolkit::Surface DrawIcon(CSize size) override;
 };
 
+// A picture file.
+class CPicture : public CPictureMember
+{
+public:
+    CPicture(CContainer* pContainer, UINT nIndex) : CPictureMember(pContainer, nIndex) {}
+
+    // What names it in a phase in that folder of the same library. Empty when nothing can; see LineFor.
+    std::string LineIn(const std::string& folder, int& error) const;
+};
+
 } // namespace editor

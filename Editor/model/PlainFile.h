@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Editor/model/Member.h"
+#include "Editor/pictures/IconPainter.h"
 
 namespace editor
 {
@@ -13,7 +14,7 @@ public:
     CPlainFile(CContainer* pContainer, UINT nIndex) : CMember(pContainer, nIndex) {}
 
 protected:
-    toolkit::Surface DrawIcon(CSize size) override;
+    toolkit::Surface DrawIcon(CSize size) override { return PaintPictogram(hostkit::Pictogram::File, size); }
 };
 
 } // namespace editor

@@ -3,6 +3,9 @@
 
 #include "Editor/pictures/PictureStore.h"
 
+#include <functional>
+#include <memory>
+
 namespace editor
 {
 
@@ -23,5 +26,9 @@ public:
     // The frame as large as the size allows. It is good until the next call.
     virtual PictureStore::Answer Find(int nFrame, CSize size) = 0;
 };
+
+// What moves of an atom: a phase's frames, or those of a picture that is known to have several. NULL for all else. The
+// store is borrowed; `arrived` is called when a frame has come that was not there when it was asked for.
+std::unique_ptr<Frames> MakeFrames(IAtom* pAtom, PictureStore& pictures, std::function<void()> arrived);
 
 } // namespace editor

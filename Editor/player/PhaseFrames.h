@@ -2,11 +2,38 @@
 #pragma once
 
 #include "Editor/model/Phase.h"
-#include "Editor/player/FrameWaiter.h"
 #include "Editor/player/Frames.h"
 
 namespace editor
 {
+
+// Stands for somebody who is no atom where pictures are wished for. Nobody hears of it as of an atom that has changed:
+// it passes on that its picture has come.
+class CFrameWaiter final : public hostkit::With<hostkit::Counted, IAtom>
+{
+public:
+    explicit CFrameWaiter(std::function<void()> arrived) : m_arrived(std::move(arrived)) {}
+
+    void Arrived() const
+    {
+        if (const auto arrived = m_arrived) // which may have it leave
+            arrived();
+    }
+    void Leave() { m_arrived = nullptr; } // whoever waited does not any more
+
+    DWORD GetID() override { return 0; }
+    BOOL GetName(char*, DWORD*) override { return FALSE; }
+    BOOL GetContainer(void** ppOut, DWORD) override
+    {
+        if (ppOut)
+            *ppOut = nullptr;
+        return FALSE;
+    }
+    BOOL IsModified() override { return FALSE; }
+
+private:
+    std::function<void()> m_arrived;
+};
 
 // As the phase is now, whoever changes it meanwhile. Only pictures that are asked for are read, and the store keeps
 // them within its bounds: a phase of any length costs what is shown of it.

@@ -3,11 +3,13 @@
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/archive/ArchivedAtom.h"
 #include "Editor/disk/FileText.h"
-#include "Editor/model/Member.h"
+#include "Editor/model/PhaseText.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/Troubles.h"
-#include "Editor/services/UnsavedPhases.h"
 #include "Toolkit/base/Exception.h"
+
+#include <algorithm>
+#include <optional>
 
 namespace editor
 {
@@ -19,6 +21,12 @@ struct Object
 {
     std::string path, origin;
     std::string line; // a line of a phase, by that name; empty: it is a file or folder
+};
+// What the user has set of a phase and not saved yet travels with it.
+struct UnsavedTiming
+{
+    std::string path;
+    PhaseTiming timing;
 };
 struct Writing
 {
@@ -43,9 +51,24 @@ BOOL WriteActivePair(IAtom* pAtom, IAtomContainer*, void* pContext)
 {
     auto& writing = *static_cast<Writing*>(pContext);
     if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.objects.empty())
-        writing.unsaved = UnsavedTimings(pMember->UnsavedPhases());
+        for (const CPhase* const pPhase : pMember->UnsavedPhases())
+            writing.unsaved.push_back({pPhase->Path(), pPhase->GetTiming()});
     writing.error = NoteObject(pAtom, writing.objects);
     return writing.error.empty();
+}
+
+// What travels of a file with that name and text: the text with its timing, when it is the file of one of the phases.
+// Nothing for every other file. The disk stays as it is.
+std::optional<std::string> TextWithUnsaved(const std::vector<UnsavedTiming>& unsaved, std::string_view name,
+                                           const FileIdentity& identity, std::string_view text)
+{
+    if (unsaved.empty() || ExtensionOf(name) != "phase" || !IsPhaseText(text))
+        return std::nullopt;
+    const auto found =
+        std::ranges::find_if(unsaved, [&](const UnsavedTiming& one) { return IsFile(one.path, identity); });
+    if (found == unsaved.end())
+        return std::nullopt;
+    return WithTiming(std::string(text), found->timing);
 }
 
 std::string WriteAll(const std::vector<Object>& objects, ArchiveWriter& writer, Meter& meter)

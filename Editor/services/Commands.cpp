@@ -3,7 +3,7 @@
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
 #include "Editor/model/PhaseFollower.h"
-#include "Editor/model/Picture.h"
+#include "Editor/model/PictureMember.h"
 #include "Editor/model/RevocableRemoval.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Editor/services/DroppedFiles.h"

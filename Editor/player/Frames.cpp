@@ -1,4 +1,4 @@
-#include "Editor/player/MakeFrames.h"
+#include "Editor/player/Frames.h"
 
 #include "Editor/player/AnimationFrames.h"
 #include "Editor/player/PhaseFrames.h"
