@@ -27,11 +27,6 @@ std::int64_t Nanoseconds(const timespec& time)
     return static_cast<std::int64_t>(time.tv_sec) * 1'000'000'000 + time.tv_nsec;
 }
 
-std::string Because(std::string_view shown, const std::string& reason)
-{
-    return ToShown(shown) + ": " + reason;
-}
-
 // What went wrong; empty when all was read.
 std::string ReadAll(int fd, char* pBytes, std::size_t size, Meter* pMeter)
 {

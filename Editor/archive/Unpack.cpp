@@ -13,11 +13,6 @@ namespace editor
 namespace
 {
 
-std::string Line(const std::string& shown, int error)
-{
-    return ToShown(shown) + ": " + SystemErrorText(error);
-}
-
 void SetChanged(int fd, std::int64_t changed)
 {
     constexpr std::int64_t kSecond = 1'000'000'000;
@@ -57,10 +52,10 @@ std::string MakeFolder(int nFolder, const std::string& name, const std::string& 
 {
     const mode_t permissions = record.permissions ? record.permissions | S_IRWXU : 0777; // it is yet to be filled
     if (mkdirat(nFolder, name.c_str(), permissions) != 0)
-        return Line(shown, errno);
+        return Because(shown, SystemErrorText(errno));
     const FileDescriptor handle(openat(nFolder, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!handle)
-        return Line(shown, errno);
+        return Because(shown, SystemErrorText(errno));
     RecordReader members(record.content);
     for (ArchiveRecord member; members.Next(member);) {
         const std::string memberName(member.name);
@@ -79,7 +74,7 @@ std::string Make(int nFolder, const std::string& name, const std::string& shown,
         return MakeFolder(nFolder, name, shown, record, pMeter);
     const int error =
         record.kind == RecordKind::DeadLink ? MakeLink(nFolder, name, record) : MakeFile(nFolder, name, record, pMeter);
-    return error == 0 ? std::string() : Line(shown, error);
+    return error == 0 ? std::string() : Because(shown, SystemErrorText(error));
 }
 
 } // namespace
@@ -91,7 +86,7 @@ std::string Unpack(const std::string& folder, std::string& name, const ArchiveRe
 
     TempEntry temp(folder);
     if (temp.GetError() != 0)
-        return Line(std::string(BaseName(folder)), temp.GetError());
+        return Because(BaseName(folder), SystemErrorText(temp.GetError()));
     if (std::string error = Make(temp.Folder(), temp.Name(), name, record, pMeter); !error.empty())
         return error;
     int error = temp.PutAt(name);
@@ -102,7 +97,7 @@ std::string Unpack(const std::string& folder, std::string& name, const ArchiveRe
         name = std::move(another);
         error = temp.PutAt(name);
     }
-    return error == 0 ? std::string() : Line(name, error);
+    return error == 0 ? std::string() : Because(name, SystemErrorText(error));
 }
 
 } // namespace editor

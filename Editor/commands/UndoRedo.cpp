@@ -8,15 +8,6 @@
 
 namespace editor
 {
-namespace
-{
-
-bool IsOrIsBelow(std::string_view path, std::string_view top)
-{
-    return path.starts_with(top) && (path.size() == top.size() || path[top.size()] == '/');
-}
-
-} // namespace
 
 std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& present)
 {

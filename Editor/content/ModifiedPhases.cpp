@@ -1,6 +1,7 @@
 #include "Editor/content/ModifiedPhases.h"
 
 #include "Editor/content/Navigation.h"
+#include "Editor/disk/FileText.h"
 
 #include <algorithm>
 #include <utility>
@@ -44,7 +45,7 @@ void ModifiedPhases::Follow(const std::string& from, const std::string& to, CLib
 {
     for (auto& pPhase : m_phases) {
         const std::string path = pPhase->Path();
-        if (!path.starts_with(from) || (path.size() > from.size() && path[from.size()] != '/'))
+        if (!IsOrIsBelow(path, from))
             continue;
         const CStubRef<CMember> pMember = library.Find(to + path.substr(from.size()));
         auto* const pNow = dynamic_cast<CPhase*>(pMember.Get());

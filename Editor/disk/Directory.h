@@ -1,24 +1,15 @@
 // A directory on disk while it is read.
 #pragma once
 
-#include "Toolkit/base/Types.h"
+#include "Editor/disk/DiskFile.h"
 
 #include <dirent.h>
 #include <functional>
 #include <string>
-#include <sys/types.h>
 #include <vector>
 
 namespace editor
 {
-
-// Tells directories apart, whatever the paths that lead to them.
-struct DirectoryIdentity
-{
-    dev_t device = 0;
-    ino_t inode = 0;
-    friend bool operator==(const DirectoryIdentity&, const DirectoryIdentity&) = default;
-};
 
 class Directory
 {
@@ -29,7 +20,7 @@ public:
     Directory& operator=(const Directory&) = delete;
 
     int GetError() const { return m_error; } // of opening or, later, of reading; 0: none
-    DirectoryIdentity GetIdentity() const { return m_identity; }
+    FileIdentity GetIdentity() const { return m_identity; }
 
     // Calls back, until it is answered false, for each sub-directory and each regular file, or link to one, in no
     // particular order; not for names that begin with a dot, nor for anything else, such as pipes. A link that leads
@@ -53,7 +44,7 @@ private:
 
     DIR* m_pDir = nullptr;
     int m_error = 0;
-    DirectoryIdentity m_identity;
+    FileIdentity m_identity;
     std::vector<std::string> m_tempNames;
 };
 

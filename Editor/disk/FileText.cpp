@@ -12,6 +12,7 @@ namespace editor
 namespace
 {
 
+constexpr std::string_view kUnreserved = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
 constexpr char32_t kInvalid = 0x110000; // from here on DecodeUtf8 tells of bytes that are no code points
 
 bool CanBeShown(char32_t c)
@@ -79,6 +80,25 @@ std::string LastErrorText()
     return error == 0 ? std::string() : SystemErrorText(error);
 }
 
+std::string Because(std::string_view name, const std::string& reason)
+{
+    return ToShown(name) + ": " + reason;
+}
+
+std::string PercentEncoded(std::string_view path)
+{
+    std::string text;
+    for (const char c : path) {
+        if (kUnreserved.find(c) != std::string_view::npos) {
+            text += c;
+            continue;
+        }
+        const auto byte = static_cast<unsigned char>(c);
+        text += {'%', "0123456789ABCDEF"[byte >> 4], "0123456789ABCDEF"[byte & 15]};
+    }
+    return text;
+}
+
 std::string ExtensionOf(std::string_view name)
 {
     const std::size_t dot = name.rfind('.');
@@ -92,6 +112,11 @@ std::string ExtensionOf(std::string_view name)
 std::string FolderOf(const std::string& path)
 {
     return path.substr(0, path.rfind('/'));
+}
+
+bool IsOrIsBelow(std::string_view path, std::string_view top)
+{
+    return path.starts_with(top) && (path.size() == top.size() || path[top.size()] == '/');
 }
 
 std::string_view BaseName(std::string_view path)

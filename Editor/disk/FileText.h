@@ -16,6 +16,12 @@ std::string SystemErrorText(int error);
 // The same for the error of the last call to the toolkit that failed; empty without one.
 std::string LastErrorText();
 
+// One line about what went wrong with a file: its name and the reason.
+std::string Because(std::string_view name, const std::string& reason);
+
+// A path as URIs and the trash have it (RFC 3986): bytes that are neither unreserved nor slashes as "%20".
+std::string PercentEncoded(std::string_view path);
+
 // The part behind the last dot, in lower case as far as ASCII goes; empty without one.
 std::string ExtensionOf(std::string_view name);
 
@@ -23,5 +29,6 @@ std::string ExtensionOf(std::string_view name);
 std::string_view BaseName(std::string_view path);
 // The part before it; the whole path without one.
 std::string FolderOf(const std::string& path);
+bool IsOrIsBelow(std::string_view path, std::string_view top);
 
 } // namespace editor

@@ -6,7 +6,6 @@
 #include "Editor/disk/UserPlaces.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
 #include <ctime>
 #include <fcntl.h>
@@ -121,18 +120,6 @@ int MakeTrash(const Trash& trash, bool& bNone)
         if (failure == 0)
             failure = MakeFolder(trash.path + pszPart);
     return failure;
-}
-
-std::string PercentEncoded(std::string_view path)
-{
-    constexpr std::string_view kPlain = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
-    std::string encoded;
-    for (const char c : path) {
-        char hex[4];
-        std::snprintf(hex, sizeof hex, "%%%02X", static_cast<unsigned char>(c));
-        encoded += kPlain.find(c) != kPlain.npos ? std::string(1, c) : std::string(hex);
-    }
-    return encoded;
 }
 
 std::string InfoFor(const Trash& trash, const std::string& path)

@@ -11,11 +11,6 @@ namespace editor
 namespace
 {
 
-std::string Line(const std::string& path, const std::string& reason)
-{
-    return ToShown(BaseName(path)) + ": " + reason;
-}
-
 void Name(std::string& name, std::string_view path)
 {
     if (name.empty())
@@ -38,10 +33,10 @@ std::string PlacingEdit::Remove()
 {
     const std::uint64_t now = FingerprintOf(m_path);
     if (now != m_fingerprint)
-        return Line(m_path, now == 0 ? "is not there any more" : kChanged);
+        return Because(BaseName(m_path), now == 0 ? "is not there any more" : kChanged);
     TrashResult result = MoveToTrash(m_path);
     if (!result.reason.empty())
-        return Line(m_path, result.reason);
+        return Because(BaseName(m_path), result.reason);
     m_place = std::move(result.place);
     return {};
 }
@@ -52,8 +47,8 @@ std::string PlacingEdit::Restore()
     if (error == EEXIST)
         return "there is a \"" + ToShown(BaseName(m_path)) + "\" already";
     if (error != 0)
-        return Line(m_path,
-                    error == ENOENT ? "is not in the trash any more, or its folder has gone" : SystemErrorText(error));
+        return Because(BaseName(m_path), error == ENOENT ? "is not in the trash any more, or its folder has gone"
+                                                         : SystemErrorText(error));
     m_fingerprint = FingerprintOf(m_path);
     return {};
 }
@@ -81,8 +76,8 @@ std::string RenamingEdit::Rename(const std::string& from, const std::string& to)
 {
     const int error = RenameInFolder(m_folder, from, to);
     if (error == EEXIST)
-        return Line(from, "there is a \"" + ToShown(to) + "\" already");
-    return error == 0 ? std::string() : Line(from, SystemErrorText(error));
+        return Because(BaseName(from), "there is a \"" + ToShown(to) + "\" already");
+    return error == 0 ? std::string() : Because(BaseName(from), SystemErrorText(error));
 }
 
 void RenamingEdit::Tell(Changes& changes) const
@@ -106,10 +101,10 @@ std::string RewritingEdit::Rewrite(const TextState& from, const TextState& to) c
     TextState found;
     int error = ReadText(m_path, from.text.size(), found);
     if (error == EFBIG || (error == 0 && found.text != from.text))
-        return Line(m_path, kChanged);
+        return Because(BaseName(m_path), kChanged);
     if (error == 0)
         error = WriteText(m_path, to);
-    return error == 0 ? std::string() : Line(m_path, SystemErrorText(error));
+    return error == 0 ? std::string() : Because(BaseName(m_path), SystemErrorText(error));
 }
 
 void RewritingEdit::Tell(Changes& changes) const

@@ -15,7 +15,7 @@ namespace editor
 namespace
 {
 
-bool Contains(const std::vector<DirectoryIdentity>& identities, const DirectoryIdentity& identity)
+bool Contains(const std::vector<FileIdentity>& identities, const FileIdentity& identity)
 {
     return std::ranges::find(identities, identity) != identities.end();
 }
@@ -81,9 +81,9 @@ toolkit::Surface CFolder::DrawIcon(CSize size)
     return PaintPictogram(hostkit::Pictogram::Folder, size);
 }
 
-std::vector<DirectoryIdentity> CFolder::Outer() const
+std::vector<FileIdentity> CFolder::Outer() const
 {
-    std::vector<DirectoryIdentity> outer;
+    std::vector<FileIdentity> outer;
     for (const CContainer* pOuter = Container(); pOuter; pOuter = pOuter->Container())
         if (const auto* const pFolder = dynamic_cast<const CFolder*>(pOuter))
             outer.push_back(pFolder->m_identity);

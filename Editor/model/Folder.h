@@ -52,9 +52,9 @@ private:
     void LookForName(const Directory& directory, const std::string& name, MemberNews& news);
     void LookForRenamed(const Directory& directory, const std::string& from, const std::string& to, MemberNews& news);
     std::optional<MemberKind> KindOnDisk(const Directory& directory, const std::string& name) const;
-    std::vector<DirectoryIdentity> Outer() const; // of the folders that hold this one
+    std::vector<FileIdentity> Outer() const; // of the folders that hold this one
 
-    DirectoryIdentity m_identity; // once it has been read
+    FileIdentity m_identity; // once it has been read
     TakenNames m_taken;
     FolderWatch::Place m_watched;
 };

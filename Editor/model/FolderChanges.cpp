@@ -24,11 +24,6 @@ namespace
 
 namespace fs = std::filesystem;
 
-std::string FailureOf(std::string_view name, const std::string& reason)
-{
-    return ToShown(name) + ": " + reason;
-}
-
 // Is it the folder, or does it hold it? Whatever links led there.
 bool HoldsOrIs(const FileIdentity& identity, const std::string& path)
 {
@@ -70,7 +65,7 @@ DWORD CFolder::PermissionsFor(const ArchiveRecord& record, std::string& trouble)
         return 0;
     const std::string path = Path();
     if (eaccess(path.c_str(), W_OK | X_OK) != 0) {
-        trouble = FailureOf(Name(), SystemErrorText(errno));
+        trouble = Because(Name(), SystemErrorText(errno));
         return 0;
     }
     const bool isOwnHolder = record.kind == RecordKind::Folder && HoldsOrIs(record.identity, path);
@@ -81,12 +76,12 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
 {
     added.name = name;
     if (record.kind == RecordKind::Link)
-        return FailureOf(name, "a line of a phase can only be put into a phase");
+        return Because(name, "a line of a phase can only be put into a phase");
     const bool isOwn = name == record.name; // as it is called on this system
     if (std::string trouble = isOwn ? FileNameTrouble(name) : NameTrouble(name); !trouble.empty())
-        return FailureOf(name, trouble);
+        return Because(name, trouble);
     if (!CanShow(record, name, added.kind))
-        return FailureOf(name, "not a file that the library shows");
+        return Because(name, "not a file that the library shows");
     const std::string path = Path();
     ArchiveRecord adapted = record;
     std::string text;
@@ -95,7 +90,7 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
         const std::string& root = Context().rootPath;
         text = record.content;
         if (std::string trouble = Relocate(text, FormerFolder(root, record.origin), path, root); !trouble.empty())
-            return FailureOf(name, trouble);
+            return Because(name, trouble);
         adapted.content = text;
     }
     bool bCurrent = m_taken.IsCurrent(path);
@@ -123,7 +118,7 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
     const std::string former(member.Name());
     renamed = {name, MemberKind::Folder};
     if (std::string trouble = TroubleOfNewName(KindOf(member), name, renamed.kind); !trouble.empty())
-        return FailureOf(former, trouble);
+        return Because(former, trouble);
     m_taken.Forget();
     const std::string path = Path();
     const int error = RenameInFolder(path, former, name);
@@ -133,8 +128,8 @@ std::string CFolder::Rename(const CMember& member, const std::string& name, Entr
         pHistory->Renamed(path, former, name);
     }
     if (error == EEXIST)
-        return FailureOf(former, "there is a \"" + ToShown(name) + "\" already");
-    return error == 0 ? std::string() : FailureOf(former, SystemErrorText(error));
+        return Because(former, "there is a \"" + ToShown(name) + "\" already");
+    return error == 0 ? std::string() : Because(former, SystemErrorText(error));
 }
 
 std::string CFolder::Remove(const CMember& member, TrashPlace& place)
@@ -178,7 +173,7 @@ std::string CFolder::MoveAway(const std::string& path, TrashPlace& place)
         Context().pFollower->Went(path, identity);
         pHistory->Went(path, place);
     }
-    return reason.empty() ? reason : FailureOf(BaseName(path), reason);
+    return reason.empty() ? reason : Because(BaseName(path), reason);
 }
 
 std::string CFolder::ValidNameFor(std::string_view name)

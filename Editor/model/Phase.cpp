@@ -314,7 +314,7 @@ std::string CPhase::LineOf(const ArchiveRecord& record, std::string& trouble) co
     int error = bThere ? 0 : errno;
     const std::string line = bThere ? LineFor(path, Container()->Path(), Context().rootPath, error) : std::string();
     if (error != 0)
-        trouble = ToShown(record.name) + ": " + SystemErrorText(error);
+        trouble = Because(record.name, SystemErrorText(error));
     return line;
 }
 

@@ -163,7 +163,7 @@ std::string Relocate(std::string& text, const std::string& formerFolder, const s
         int error = former.error;
         const std::string now = former.isThere ? LineFor(former.path, folder, root, error) : std::string();
         if (error != 0)
-            return ToShown(line.picture) + ": " + SystemErrorText(error);
+            return Because(line.picture, SystemErrorText(error));
         if (now.empty())
             continue;
         const auto at = static_cast<std::size_t>(line.picture.data() - text.data());

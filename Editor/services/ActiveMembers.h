@@ -4,8 +4,8 @@
 #include "Editor/model/Phase.h"
 #include "HostKit/atoms/ActiveMembers.h"
 #include "HostKit/atoms/Commands.h"
+#include "HostKit/base/Names.h"
 
-#include <string>
 #include <vector>
 
 namespace editor
@@ -15,8 +15,10 @@ using hostkit::ActiveMember;
 using hostkit::ActiveMembers;
 using hostkit::ErrorOf;
 using hostkit::GetActiveMembers;
+using hostkit::ShownNameOf;
 
-// While it lives, lines of a phase that are removed with the others are removed together: the phase is written once.
+// These are about to be removed: reasons of former commands do not count. While it lives, lines of a phase that are
+// removed with the others are removed together: the phase is written once.
 class JointRemoval
 {
 public:
@@ -28,11 +30,5 @@ public:
 private:
     std::vector<CStubRef<CPhase>> m_phases;
 };
-
-std::string ShownNameOf(IAtom* pAtom);
-// Before they are removed: reasons of former commands do not count.
-void ForgetWhatStayed(const ActiveMembers& members);
-// The reason for the first one that could not be removed; empty when all went, or nobody has tried to remove them.
-std::string WhyStillThere(const ActiveMembers& members);
 
 } // namespace editor

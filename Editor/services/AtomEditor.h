@@ -14,6 +14,8 @@ class CAtomEditor final : public hostkit::CAtomEditor
 public:
     CAtomEditor() : hostkit::CAtomEditor("application/x-views-atoms") { m_history.SetWork(&m_work); }
 
+    static CAtomEditor& Current(); // the one that the services give
+
     History& GetHistory() { return m_history; } // of what is done to the disk
     LongWork& GetWork() { return m_work; }
     // What a drag of this program carries while it is under way; NULL when there is none.

@@ -1,9 +1,29 @@
 // What is the editor's own about its drags.
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/OfferedFiles.h"
+#include "Editor/services/Troubles.h"
+#include "Views/host/Services.h"
 
 namespace editor
 {
+namespace
+{
+
+std::string WhyOneIsThere(const ActiveMember& member)
+{
+    const auto* const pContainer = dynamic_cast<const CContainer*>(member.pContainer.Get());
+    std::string reason = pContainer ? pContainer->WhyItStayed(member.pAtom->GetID()) : std::string();
+    if (reason.empty() && !member.MayGo())
+        reason = ShownNameOf(member.pAtom.Get()) + ": it cannot be removed";
+    return reason;
+}
+
+} // namespace
+
+CAtomEditor& CAtomEditor::Current()
+{
+    return dynamic_cast<CAtomEditor&>(*CStubRef<IAtomEditor>::Adopt(GetAtomEditor()).Get());
+}
 
 void CAtomEditor::OfferMore(COleDataSource& source, const ActiveMembers& members)
 {
@@ -35,9 +55,7 @@ std::shared_ptr<void> CAtomEditor::BeginRemoval(const ActiveMembers& members)
         LongWork::Command command;
         JointRemoval joint;
     };
-    auto pRemoval = std::make_shared<Removal>(m_work, members);
-    ForgetWhatStayed(members);
-    return pRemoval;
+    return std::make_shared<Removal>(m_work, members);
 }
 
 void CAtomEditor::TellOfFailedDrag()
@@ -46,9 +64,13 @@ void CAtomEditor::TellOfFailedDrag()
         hostkit::CAtomEditor::TellOfFailedDrag();
 }
 
+// The container's own error may be that of a change since: what else had been cut is put back, and is there as well.
 std::string CAtomEditor::WhyStillThere(const ActiveMembers& members) const
 {
-    return editor::WhyStillThere(members);
+    Troubles troubles;
+    for (const ActiveMember& member : members)
+        troubles.Add(member.IsThere() ? WhyOneIsThere(member) : std::string());
+    return troubles.Text();
 }
 
 } // namespace editor

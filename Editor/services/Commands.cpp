@@ -156,10 +156,9 @@ try {
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
     const RevocableRemoval revocable(OwnOf(members));
-    ForgetWhatStayed(members);
     if (CopyObjects(TRUE, [&](COleDataSource& source) { OfferCopiedFiles(source, revocable.TrashedPaths()); }))
         return {};
-    std::string reason = WhyStillThere(members);
+    std::string reason = m_editor.WhyStillThere(members);
     if (!reason.empty())
         TellOfChange(members);
     if (!m_editor.GetArchiveError().empty()) // nothing was tried then, or not all came back
@@ -186,9 +185,8 @@ try {
     const LongWork::Command command(&m_editor.GetWork(), "Removing", Progress::Unit::Objects);
     m_editor.GetWork().GetMeter().SetTotal(members.size());
     const JointRemoval joint(members);
-    ForgetWhatStayed(members);
     RemoveObjects(FALSE);
-    return WhyStillThere(members);
+    return m_editor.WhyStillThere(members);
 } catch (const CException& e) {
     return e.GetErrorMessage();
 }

@@ -7,7 +7,6 @@
 #include "Editor/services/FileUris.h"
 #include "Editor/services/FramePlacing.h"
 #include "Editor/services/Troubles.h"
-#include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/base/Exception.h"
 #include "Views/clipboard/clipboard.h"
 
@@ -182,8 +181,7 @@ DROPEFFECT SafeEffect(DROPEFFECT effect, IAtomContainer* pContainer, bool bContr
 
 std::string DropError()
 {
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const std::string line = hostkit::CErrorInfo::LineOf(CStubRef<IMyErrorInfo>::From(pEditor.Get()).Get());
+    const std::string& line = CAtomEditor::Current().GetArchiveError();
     return line.empty() ? "The reason is not known." : line;
 }
 

@@ -13,21 +13,6 @@ namespace
 {
 
 constexpr std::string_view kScheme = "file:";
-constexpr std::string_view kUnreserved = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~/";
-
-std::string Escaped(std::string_view path)
-{
-    std::string text;
-    for (const char c : path) {
-        if (kUnreserved.find(c) != std::string_view::npos) {
-            text += c;
-            continue;
-        }
-        const auto byte = static_cast<unsigned char>(c);
-        text += {'%', "0123456789ABCDEF"[byte >> 4], "0123456789ABCDEF"[byte & 15]};
-    }
-    return text;
-}
 
 // Nothing where an escape is none, or a zero, which no path holds.
 std::optional<std::string> Unescaped(std::string_view text)
@@ -100,7 +85,7 @@ std::string CopiedFilesOf(const std::vector<std::string>& paths)
 {
     std::string text = "copy";
     for (const std::string& path : paths)
-        text += "\nfile://" + Escaped(path);
+        text += "\nfile://" + PercentEncoded(path);
     return text;
 }
 
@@ -113,7 +98,7 @@ std::string UriListOf(const std::vector<std::string>& paths)
 {
     std::string list;
     for (const std::string& path : paths)
-        list += "file://" + Escaped(path) + "\r\n";
+        list += "file://" + PercentEncoded(path) + "\r\n";
     return list;
 }
 

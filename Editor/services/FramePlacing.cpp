@@ -5,7 +5,6 @@
 #include "Editor/model/ImageLink.h"
 #include "Editor/services/MemberBroadcast.h"
 #include "Editor/services/Troubles.h"
-#include "Views/host/Services.h"
 
 #include <algorithm>
 
@@ -120,10 +119,7 @@ std::string InsertFiles(CPhase& phase, const std::vector<std::string>& paths, UI
         std::string line = phase.LineOfFile(path, trouble);
         noted.Note(std::move(line), std::move(trouble));
     }
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
-    nPlaced = 0;
-    return pOwn ? Insert(*pOwn, phase, noted, nBefore, nPlaced) : noted.troubles.Text();
+    return Insert(CAtomEditor::Current(), phase, noted, nBefore, nPlaced);
 }
 
 } // namespace editor

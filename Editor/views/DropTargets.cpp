@@ -17,15 +17,7 @@ namespace
 
 bool HasAtoms(COleDataObject* pData)
 {
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    return pData && pEditor && pData->IsDataAvailable(pEditor->GetClipboardFormat());
-}
-
-bool IsForeignDrag()
-{
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const auto* const pOwn = dynamic_cast<const CAtomEditor*>(pEditor.Get());
-    return pOwn && !pOwn->GetDragged();
+    return pData && pData->IsDataAvailable(CAtomEditor::Current().GetClipboardFormat());
 }
 
 // Once the drag is over: nobody waits for an answer in the middle of one.
@@ -36,17 +28,10 @@ void TellLater(const DropFailed& failed, std::string reason)
 }
 
 // One step, however much comes, and a command that shows how far it is.
-class Dropping
+struct Dropping
 {
-public:
-    explicit Dropping(CAtomEditor* pEditor)
-        : m_step(pEditor ? &pEditor->GetHistory() : nullptr),
-          m_command(pEditor ? &pEditor->GetWork() : nullptr, "Pasting", Progress::Unit::Bytes)
-    {}
-
-private:
-    const History::Step m_step;
-    const LongWork::Command m_command;
+    const History::Step step{&CAtomEditor::Current().GetHistory()};
+    const LongWork::Command command{&CAtomEditor::Current().GetWork(), "Pasting", Progress::Unit::Bytes};
 };
 
 BOOL DropFiles(COleDataObject* pData, IAtomContainer* pContainer, const DropFailed& failed)
@@ -64,8 +49,7 @@ template <class DropAtoms>
 BOOL Drop(COleDataObject* pData, const CStubRef<IAtomContainer>& pContainer, const DropFailed failed,
           DropAtoms dropAtoms)
 {
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const Dropping dropping(dynamic_cast<CAtomEditor*>(pEditor.Get()));
+    const Dropping dropping;
     if (!HasAtoms(pData))
         return DropFiles(pData, pContainer.Get(), failed);
     if (dropAtoms())
@@ -78,10 +62,9 @@ BOOL Drop(COleDataObject* pData, const CStubRef<IAtomContainer>& pContainer, con
 std::string WhyNotMoved(IAtomContainer* pContainer)
 {
     auto* const pFolder = dynamic_cast<CFolder*>(pContainer);
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    if (!pFolder || !pEditor)
+    if (!pFolder)
         return {};
-    for (const ActiveMember& member : GetActiveMembers(*pEditor.Get())) {
+    for (const ActiveMember& member : GetActiveMembers(CAtomEditor::Current())) {
         const CMember* const pMember = CMember::Of(member.pAtom.Get());
         if (!pMember || member.pContainer.Get() == pContainer || CStubRef<IImageLink>::From(member.pAtom.Get()))
             continue;
@@ -143,7 +126,8 @@ DROPEFFECT CEditorListTarget::FindFrameEffect(CWnd* pWnd, COleDataObject* pDataO
     const auto verdict =
         archive && *archive ? Check(archive->Get(), m_list.ShownContainer(), DROPEFFECT_COPY) : std::nullopt;
     const DWORD dwVerdict = verdict.value_or(PASTE_REFUSED);
-    m_bAsFiles = dwVerdict == PASTE_REFUSED && IsForeignDrag() && OffersFilesFor(*pDataObject, m_list.ShownContainer());
+    m_bAsFiles = dwVerdict == PASTE_REFUSED && !CAtomEditor::Current().GetDragged() &&
+                 OffersFilesFor(*pDataObject, m_list.ShownContainer());
     if (m_bAsFiles)
         return DROPEFFECT_COPY;
     return dwVerdict == PASTE_ANY ? WantedEffect(dwKeyState) : dwVerdict;
@@ -174,8 +158,7 @@ BOOL CEditorListTarget::Paste(IArchive* pArchive, IAtomContainer* pContainer, DR
 
 BOOL CEditorListTarget::DropBetween(CWnd* pWnd, COleDataObject* pDataObject, DROPEFFECT dropEffect, CPoint point)
 {
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const Dropping dropping(dynamic_cast<CAtomEditor*>(pEditor.Get()));
+    const Dropping dropping;
     if (HasAtoms(pDataObject) && !std::exchange(m_bAsFiles, false))
         return CListDropTarget::OnDrop(pWnd, pDataObject, dropEffect, point); // which calls Paste
     const int nGap = GapAt(point);

@@ -3,7 +3,6 @@
 #include "Editor/model/ImageLink.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Editor/views/EditorList.h"
-#include "Views/host/Services.h"
 
 #include <algorithm>
 
@@ -27,9 +26,7 @@ CPhase* FrameDrops::Phase() const
 
 bool FrameDrops::IsReordering(bool bControl) const
 {
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    const auto* const pOwn = dynamic_cast<const CAtomEditor*>(pEditor.Get());
-    return !bControl && pOwn && Phase() && AreDraggedFrom(*pOwn, *Phase());
+    return !bControl && Phase() && AreDraggedFrom(CAtomEditor::Current(), *Phase());
 }
 
 UINT FrameDrops::FrameAt(int nRow) const
@@ -43,14 +40,13 @@ template <class Place>
 std::string FrameDrops::PlaceAndSelect(int nRow, Place place)
 {
     const auto pPhase = CStubRef<CPhase>::Share(Phase());
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
-    if (!pPhase || !pOwn)
+    if (!pPhase)
         return "no phase is shown";
     UINT nFirst = FrameAt(nRow), nPlaced = 0;
-    std::string failure = place(*pOwn, *pPhase.Get(), nFirst, nPlaced);
+    std::string failure = place(CAtomEditor::Current(), *pPhase.Get(), nFirst, nPlaced);
     if (nPlaced > 0 && Phase() == pPhase.Get())
-        Select(*pOwn, *pPhase.Get(), [&](UINT nFrame) { return nFrame - nFirst < nPlaced; }); // unsigned
+        Select(CAtomEditor::Current(), *pPhase.Get(),
+               [&](UINT nFrame) { return nFrame - nFirst < nPlaced; }); // unsigned
     return failure;
 }
 
@@ -93,18 +89,16 @@ bool FrameDrops::CanShift(bool bLater) const
 std::string FrameDrops::Shift(bool bLater)
 {
     const auto pPhase = CStubRef<CPhase>::Share(Phase());
-    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
-    auto* const pOwn = dynamic_cast<CAtomEditor*>(pEditor.Get());
-    if (!pPhase || !pOwn)
+    if (!pPhase)
         return "no phase is shown";
     std::vector<std::size_t> places;
     for (int i = -1; (i = m_list.GetNextItem(i, LVNI_SELECTED)) >= 0;)
         if (const int nPosition = PositionOf(m_list.GetAtom(i).Get()); nPosition >= 0)
             places.push_back(static_cast<std::size_t>(nPosition));
     std::ranges::sort(places);
-    std::string failure = editor::Shift(*pOwn, *pPhase.Get(), places, bLater);
+    std::string failure = editor::Shift(CAtomEditor::Current(), *pPhase.Get(), places, bLater);
     if (failure.empty() && Phase() == pPhase.Get())
-        Select(*pOwn, *pPhase.Get(),
+        Select(CAtomEditor::Current(), *pPhase.Get(),
                [&](UINT nFrame) { return std::ranges::binary_search(places, std::size_t{nFrame}); });
     return failure;
 }

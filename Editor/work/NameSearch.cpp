@@ -42,8 +42,7 @@ public:
         const std::string folder = std::move(m_left.front());
         m_left.pop_front();
         Directory directory(folder.empty() ? m_top : m_top + '/' + folder);
-        const DirectoryIdentity identity = directory.GetIdentity();
-        if (directory.GetError() != 0 || !m_seen.emplace(identity.device, identity.inode).second)
+        if (directory.GetError() != 0 || !m_seen.insert(directory.GetIdentity()).second)
             return;
         std::vector<std::string> names, below;
         directory.ForEach([&](const char* pszName, bool isDirectory) {
@@ -65,7 +64,7 @@ public:
 private:
     const std::string m_top;
     std::deque<std::string> m_left{""};
-    std::set<std::pair<dev_t, ino_t>> m_seen;
+    std::set<FileIdentity> m_seen;
 };
 
 } // namespace
