@@ -68,35 +68,10 @@ void AccessibleText::addSelection(int start, int end)
     SelectLater(m_hWnd, ToBytes(text, start), ToBytes(text, end));
 }
 
-void AccessibleText::removeSelection(int)
-{
-    setCursorPosition(cursorPosition());
-}
-
-void AccessibleText::setSelection(int, int start, int end)
-{
-    addSelection(start, end);
-}
-
-int AccessibleText::cursorPosition() const
-{
-    return ReadField(m_hWnd).cursor;
-}
-
-void AccessibleText::setCursorPosition(int position)
-{
-    addSelection(position, position);
-}
-
 QString AccessibleText::text(int start, int end) const
 {
     const QString text = ReadField(m_hWnd).text;
     return text.mid(start, end < 0 ? -1 : end - start);
-}
-
-int AccessibleText::characterCount() const
-{
-    return static_cast<int>(ReadField(m_hWnd).text.size());
 }
 
 QRect AccessibleText::characterRect(int offset) const
@@ -120,11 +95,6 @@ int AccessibleText::offsetAtPoint(const QPoint& screen) const
         if (characterRect(offset).contains(screen))
             return offset;
     return -1;
-}
-
-void AccessibleText::scrollToSubstring(int start, int end)
-{
-    addSelection(start, end);
 }
 
 QString AccessibleText::attributes(int, int* pStart, int* pEnd) const

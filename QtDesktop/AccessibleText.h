@@ -23,15 +23,15 @@ public:
     void selection(int index, int* pStart, int* pEnd) const override;
     int selectionCount() const override;
     void addSelection(int start, int end) override;
-    void removeSelection(int index) override;
-    void setSelection(int index, int start, int end) override;
-    int cursorPosition() const override;
-    void setCursorPosition(int position) override;
+    void removeSelection(int) override { setCursorPosition(cursorPosition()); }
+    void setSelection(int, int start, int end) override { addSelection(start, end); }
+    int cursorPosition() const override { return ReadField(m_hWnd).cursor; }
+    void setCursorPosition(int position) override { addSelection(position, position); }
     QString text(int start, int end) const override;
-    int characterCount() const override;
+    int characterCount() const override { return static_cast<int>(ReadField(m_hWnd).text.size()); }
     QRect characterRect(int offset) const override; // screen
     int offsetAtPoint(const QPoint& screen) const override;
-    void scrollToSubstring(int start, int end) override;
+    void scrollToSubstring(int start, int end) override { addSelection(start, end); }
     QString attributes(int offset, int* pStart, int* pEnd) const override;
 
     void deleteText(int start, int end) override { replaceText(start, end, {}); }

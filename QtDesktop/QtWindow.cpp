@@ -164,25 +164,10 @@ void QtWindow::resizeEvent(QResizeEvent* pEvent)
     toolkit::InputResize(m_hTop, CSize(pEvent->size().width(), pEvent->size().height()));
 }
 
-void QtWindow::moveEvent(QMoveEvent*)
-{
-    toolkit::InputMoved(m_hTop, Corner());
-}
-
 void QtWindow::closeEvent(QCloseEvent* pEvent)
 {
     pEvent->ignore(); // the program decides
     toolkit::InputClose(m_hTop);
-}
-
-void QtWindow::mousePressEvent(QMouseEvent* pEvent)
-{
-    TellButton(*pEvent, true);
-}
-
-void QtWindow::mouseReleaseEvent(QMouseEvent* pEvent)
-{
-    TellButton(*pEvent, false);
 }
 
 // A press goes elsewhere than what is being composed, which is finished first.
@@ -219,20 +204,10 @@ void QtWindow::wheelEvent(QWheelEvent* pEvent)
     toolkit::InputMouseWheel(m_hTop, ToPoint(pEvent->position()), nWhole, ToModifiers(pEvent->modifiers()));
 }
 
-void QtWindow::enterEvent(QEnterEvent*)
-{
-    TellPointer();
-}
-
 void QtWindow::TellPointer()
 {
     toolkit::InputMouseMove(m_hTop, ToPoint(mapFromGlobal(QPointF(QCursor::pos()))),
                             ToModifiers(QGuiApplication::keyboardModifiers()));
-}
-
-void QtWindow::leaveEvent(QEvent*)
-{
-    toolkit::InputMouseLeave(m_hTop);
 }
 
 void QtWindow::keyPressEvent(QKeyEvent* pEvent)

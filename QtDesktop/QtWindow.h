@@ -37,15 +37,15 @@ protected:
     bool event(QEvent* pEvent) override;
     void paintEvent(QPaintEvent* pEvent) override;
     void resizeEvent(QResizeEvent* pEvent) override;
-    void moveEvent(QMoveEvent* pEvent) override;
+    void moveEvent(QMoveEvent*) override { toolkit::InputMoved(m_hTop, Corner()); }
     void closeEvent(QCloseEvent* pEvent) override;
-    void mousePressEvent(QMouseEvent* pEvent) override;
-    void mouseReleaseEvent(QMouseEvent* pEvent) override;
+    void mousePressEvent(QMouseEvent* pEvent) override { TellButton(*pEvent, true); }
+    void mouseReleaseEvent(QMouseEvent* pEvent) override { TellButton(*pEvent, false); }
     void mouseDoubleClickEvent(QMouseEvent* pEvent) override;
     void mouseMoveEvent(QMouseEvent* pEvent) override;
     void wheelEvent(QWheelEvent* pEvent) override;
-    void enterEvent(QEnterEvent* pEvent) override;
-    void leaveEvent(QEvent* pEvent) override;
+    void enterEvent(QEnterEvent*) override { TellPointer(); }
+    void leaveEvent(QEvent*) override { toolkit::InputMouseLeave(m_hTop); }
     void keyPressEvent(QKeyEvent* pEvent) override;
     void keyReleaseEvent(QKeyEvent* pEvent) override;
     void inputMethodEvent(QInputMethodEvent* pEvent) override;

@@ -22,7 +22,6 @@ public:
     CommandState GetState() const;
     void Run(const CommandEntry& command); // the desk may be gone afterwards
     bool Run(UINT nID);                    // false where there is no such command
-    FrameCommands& GetObjects() const { return m_targets.objects; }
 
     // NULL without memory.
     std::unique_ptr<CMenu> MakeContextMenu() const;

@@ -2,7 +2,6 @@
 
 #include "Editor/disk/Trash.h"
 #include "Editor/model/PlainFile.h"
-#include "Editor/resources/EditorResources.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/clipboard/Naming.h"
@@ -102,14 +101,11 @@ void FrameCommands::SelectAll()
 
 void FrameCommands::CopySelection()
 {
-    if (m_commands.CountSelected() > 0)
-        ShowFailure(IDS_COPY_FAILED, CarryAsAgreed([this] { return Copy(); }));
+    ShowFailure(IDS_COPY_FAILED, CarryAsAgreed([this] { return Copy(); }));
 }
 
 void FrameCommands::CutSelection()
 {
-    if (m_commands.CountSelected() == 0)
-        return;
     const std::string question = m_commands.CutQuestion();
     if (question.empty() || UserAgrees(question))
         ShowFailure(IDS_CUT_FAILED, CarryAsAgreed([this] { return Cut(); }));
@@ -131,7 +127,7 @@ std::string FrameCommands::CarryAsAgreed(Carry carry)
 // What goes to the trash can be fetched back; what no trash takes, the user is asked about once more.
 void FrameCommands::RemoveSelection()
 {
-    if (m_commands.CountSelected() == 0 || !UserAgrees(m_commands.RemoveQuestion()))
+    if (!UserAgrees(m_commands.RemoveQuestion()))
         return;
     const int nMissed = CountMissedTrashes();
     std::string reason = Remove();
@@ -147,63 +143,24 @@ void FrameCommands::RemoveSelection()
 void FrameCommands::PasteHere()
 {
     bool bAny = false;
-    std::string reason = MakeAnd(&Commands::Paste, bAny);
+    std::string reason = MakeAnd(&Commands::Paste, &bAny);
     ShowFailure(bAny ? IDS_PASTE_FAILED : IDS_NOTHING_PASTED, std::move(reason));
-}
-
-void FrameCommands::NewFolderAndName()
-{
-    MakeAndName(&Commands::MakeFolder);
-}
-
-void FrameCommands::NewPhaseAndName()
-{
-    MakeAndName(&Commands::MakePhase);
 }
 
 void FrameCommands::MakeAndName(Make make)
 {
     bool bAny = false;
-    ShowFailure(IDS_NEW_FAILED, MakeAnd(make, bAny));
+    ShowFailure(IDS_NEW_FAILED, MakeAnd(make, &bAny));
     if (!bAny)
         return;
     List().SetFocus();
     RenameSelected();
 }
 
-void FrameCommands::UndoOrTell()
+void FrameCommands::TellAndForget(const std::string& reason, void (History::*forget)())
 {
-    const std::string reason = GetHistory().NameToUndo().empty() ? std::string() : Undo();
     if (!WasCancelled() && !reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
-        GetHistory().ForgetNextUndo();
-}
-
-void FrameCommands::RedoOrTell()
-{
-    const std::string reason = GetHistory().NameToRedo().empty() ? std::string() : Redo();
-    if (!WasCancelled() && !reason.empty() && UserAgrees(reason + kForget, MB_DEFBUTTON2))
-        GetHistory().ForgetNextRedo();
-}
-
-void FrameCommands::RestoreOrTell()
-{
-    if (!GetHistory().NameToRestore().empty())
-        ShowFailure(IDS_RESTORE_FAILED, Restore());
-}
-
-std::string FrameCommands::Restore()
-{
-    return Take(&UndoRedo::Restore);
-}
-
-std::string FrameCommands::Undo()
-{
-    return Take(&UndoRedo::Undo);
-}
-
-std::string FrameCommands::Redo()
-{
-    return Take(&UndoRedo::Redo);
+        (GetHistory().*forget)();
 }
 
 std::string FrameCommands::Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&))
@@ -233,32 +190,15 @@ std::string FrameCommands::Remove()
     return ChangeSelection([this] { return m_commands.Remove(); });
 }
 
-std::string FrameCommands::Paste()
-{
-    bool bAny = false;
-    return MakeAnd(&Commands::Paste, bAny);
-}
-
-std::string FrameCommands::NewFolder()
-{
-    bool bAny = false;
-    return MakeAnd(&Commands::MakeFolder, bAny);
-}
-
-std::string FrameCommands::NewPhase()
-{
-    bool bAny = false;
-    return MakeAnd(&Commands::MakePhase, bAny);
-}
-
-std::string FrameCommands::MakeAnd(Make make, bool& bAny)
+std::string FrameCommands::MakeAnd(Make make, bool* pbAny)
 {
     const auto pTarget = CStubRef<CContainer>::Share(m_parts.navigation.ShownContainer());
     std::vector<CStubRef<IAtom>> arrived;
     std::string reason = (m_commands.*make)(pTarget.Get(), arrived);
-    bAny = !arrived.empty();
-    if (bAny)
+    if (!arrived.empty())
         ShowJust(arrived);
+    if (pbAny)
+        *pbAny = !arrived.empty();
     return reason;
 }
 

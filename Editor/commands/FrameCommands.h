@@ -6,6 +6,7 @@
 #include "Editor/content/Content.h"
 #include "Editor/content/ModifiedPhases.h"
 #include "Editor/content/Navigation.h"
+#include "Editor/resources/EditorResources.h"
 #include "Editor/services/Commands.h"
 
 namespace editor
@@ -37,26 +38,26 @@ public:
     std::string Copy() { return m_commands.Copy(); }
     std::string Cut();
     std::string Remove();
-    std::string Paste(); // into the container that is shown
-    std::string Undo();  // the last step that was done, wherever that was
-    std::string Redo();
-    std::string Restore();   // what was removed last, and is still in the trash
-    std::string NewFolder(); // in the container that is shown
-    std::string NewPhase();  // there, of the pictures that are selected
+    std::string Paste() { return MakeAnd(&Commands::Paste); } // into the container that is shown
+    std::string Undo() { return Take(&UndoRedo::Undo); }      // the last step that was done, wherever that was
+    std::string Redo() { return Take(&UndoRedo::Redo); }
+    std::string Restore() { return Take(&UndoRedo::Restore); } // what was removed last, and is still in the trash
+    std::string NewFolder() { return MakeAnd(&Commands::MakeFolder); } // in the container that is shown
+    std::string NewPhase() { return MakeAnd(&Commands::MakePhase); }   // there, of the pictures that are selected
     std::string RefreshQuietly();
     // These members of the container that is shown and no others. The views hear of the last alone, however many.
     void SelectJust(const std::vector<CStubRef<IAtom>>& atoms);
 
-    // The same by keys and menu: nothing when nothing is selected. A message box tells what was not done.
+    // The same by keys and menu, where it can be done (Describe). A message box tells what was not done.
     void CopySelection();
     void CutSelection();
     void RemoveSelection(); // asks first
     void PasteHere();
-    void NewFolderAndName(); // the user gives it another name
-    void NewPhaseAndName();
-    void UndoOrTell();
-    void RedoOrTell();
-    void RestoreOrTell();
+    void NewFolderAndName() { MakeAndName(&Commands::MakeFolder); } // the user gives it another name
+    void NewPhaseAndName() { MakeAndName(&Commands::MakePhase); }
+    void UndoOrTell() { TellAndForget(Undo(), &History::ForgetNextUndo); }
+    void RedoOrTell() { TellAndForget(Redo(), &History::ForgetNextRedo); }
+    void RestoreOrTell() { ShowFailure(IDS_RESTORE_FAILED, Restore()); }
     bool SaveOrTell();   // all phases that are modified; were all saved?
     void OpenSelected(); // the one that is
     void RenameSelected();
@@ -82,12 +83,13 @@ private:
     std::string WhyNotMove(bool bLater) const;
     void MoveFrames(bool bLater);
     using Make = std::string (Commands::*)(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
-    std::string MakeAnd(Make make, bool& bAny); // did any object come?
+    std::string MakeAnd(Make make, bool* pbAny = nullptr); // did any object come?
     void MakeAndName(Make make);
     void ShowJust(const std::vector<CStubRef<IAtom>>& atoms);
     template <class Carry>
     std::string CarryAsAgreed(Carry carry);
     std::string Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&));
+    void TellAndForget(const std::string& reason, void (History::*forget)()); // as the user likes; empty: nothing
     template <class Change>
     std::string ChangeSelection(Change change);
     bool WasCancelled() const { return m_parts.editor.GetWork().TakeCancelled(); } // the user knows why

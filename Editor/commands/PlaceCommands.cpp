@@ -103,11 +103,6 @@ void PlaceCommands::Go(int nStep)
     m_parts.navigation.Go(nStep, [this](const std::string& path) { return ShowPath(path).empty(); });
 }
 
-std::string PlaceCommands::ShowTyped(const std::string& path)
-{
-    return Say(ShowPath(Absolute(path)));
-}
-
 std::string PlaceCommands::Absolute(const std::string& typed) const
 {
     const CContainer* const pShown = m_parts.navigation.ShownContainer();
@@ -158,9 +153,9 @@ std::string PlaceCommands::ShowOtherLibrary(const std::string& path)
 std::vector<std::string> PlaceCommands::Paths() const
 {
     std::vector<std::string> paths;
-    for (const ActiveMember& member : GetActiveMembers(m_parts.editor))
-        if (const CMember* const pMember = CMember::Of(member.pAtom.Get()))
-            paths.push_back(pMember->Path());
+    const ActiveMembers members = GetActiveMembers(m_parts.editor);
+    for (const CMember* const pMember : OwnOf<CMember>(members))
+        paths.push_back(pMember->Path());
     const CMember* const pShown = m_parts.navigation.Shown();
     if (paths.empty() && pShown)
         paths.push_back(pShown->Path());

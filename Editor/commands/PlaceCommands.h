@@ -44,7 +44,7 @@ public:
 
     // Shows what lies there, in another library when need be. A path that was typed may begin at home ("~") or at what
     // is shown. Empty, or the reason, which is said, too.
-    std::string ShowTyped(const std::string& path);
+    std::string ShowTyped(const std::string& path) { return Say(ShowPath(Absolute(path))); }
 
 private:
     std::string ShowPath(const std::string& path); // absolute

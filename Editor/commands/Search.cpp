@@ -1,21 +1,9 @@
 #include "Editor/commands/Search.h"
 
 #include "Editor/disk/FileText.h"
-#include "Toolkit/base/TextKeys.h"
 
 namespace editor
 {
-namespace
-{
-
-std::string KeyOf(std::string_view text)
-{
-    std::string key;
-    toolkit::AppendSortKey(key, text, toolkit::TextOrder::NoCase);
-    return key;
-}
-
-} // namespace
 
 Search::Search(Parts parts)
     : m_parts(std::move(parts)),

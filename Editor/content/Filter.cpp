@@ -1,22 +1,11 @@
 #include "Editor/content/Filter.h"
 
+#include "Editor/disk/FileText.h"
 #include "Editor/model/Member.h"
 #include "Toolkit/access/Accessible.h"
-#include "Toolkit/base/TextKeys.h"
 
 namespace editor
 {
-namespace
-{
-
-std::string KeyOf(const std::string& text)
-{
-    std::string key;
-    toolkit::AppendSortKey(key, text, toolkit::TextOrder::NoCase);
-    return key;
-}
-
-} // namespace
 
 Filter::Filter(Content& content, std::function<void()> changed)
     : m_content(content),

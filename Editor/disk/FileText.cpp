@@ -2,6 +2,7 @@
 
 #include "Toolkit/base/LastError.h"
 #include "Toolkit/base/Text.h"
+#include "Toolkit/base/TextKeys.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -97,6 +98,13 @@ std::string PercentEncoded(std::string_view path)
         text += {'%', "0123456789ABCDEF"[byte >> 4], "0123456789ABCDEF"[byte & 15]};
     }
     return text;
+}
+
+std::string KeyOf(std::string_view text)
+{
+    std::string key;
+    toolkit::AppendSortKey(key, text, toolkit::TextOrder::NoCase);
+    return key;
 }
 
 std::string ExtensionOf(std::string_view name)

@@ -22,6 +22,9 @@ std::string Because(std::string_view name, const std::string& reason);
 // A path as URIs and the trash have it (RFC 3986): bytes that are neither unreserved nor slashes as "%20".
 std::string PercentEncoded(std::string_view path);
 
+// What holds the key of another text holds that text, in whatever case.
+std::string KeyOf(std::string_view text);
+
 // The part behind the last dot, in lower case as far as ASCII goes; empty without one.
 std::string ExtensionOf(std::string_view name);
 

@@ -24,7 +24,7 @@ namespace fs = std::filesystem;
 constexpr std::string_view kInfoEnding = ".trashinfo";
 constexpr std::size_t kLongestEnding = 15;                        // of a name, that is kept as an extension
 constexpr std::size_t kLongestStem = kLongestName - 15 - 10 - 10; // leaves room for an extension, a number, the above
-int g_nAllowed = 0, g_nMissed = 0;
+int g_nMissed = 0;
 
 // One trash; what lies on another file system than it cannot be moved there.
 struct Trash
@@ -217,21 +217,6 @@ int TakeFromTrash(const TrashPlace& place, const std::string& path)
     if (error == 0)
         unlink(info.c_str());
     return error;
-}
-
-PermanentRemoval::PermanentRemoval()
-{
-    ++g_nAllowed;
-}
-
-PermanentRemoval::~PermanentRemoval()
-{
-    --g_nAllowed;
-}
-
-bool PermanentRemoval::IsAllowed()
-{
-    return g_nAllowed > 0;
 }
 
 std::string RemoveFromDisk(const std::string& path, TrashPlace& place)

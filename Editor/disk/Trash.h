@@ -31,12 +31,15 @@ int TakeFromTrash(const TrashPlace& place, const std::string& path);
 class PermanentRemoval
 {
 public:
-    PermanentRemoval();
-    ~PermanentRemoval();
+    PermanentRemoval() { ++s_nAllowed; }
+    ~PermanentRemoval() { --s_nAllowed; }
     PermanentRemoval(const PermanentRemoval&) = delete;
     PermanentRemoval& operator=(const PermanentRemoval&) = delete;
 
-    static bool IsAllowed();
+    static bool IsAllowed() { return s_nAllowed > 0; }
+
+private:
+    static inline int s_nAllowed = 0;
 };
 
 // Moves it to the trash or, when that is allowed, removes it for good. Empty when it is gone from its place, also

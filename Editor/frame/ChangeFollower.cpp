@@ -147,8 +147,8 @@ void ChangeFollower::LookAround()
 // Who has just renamed a picture tells of that first.
 std::string ChangeFollower::FollowPhases()
 {
-    PhaseFollower::Followed followed =
-        m_parts.navigation.Library()->Follower()->Follow(m_parts.editor.GetHistory(), &m_parts.editor.GetWork());
+    PhaseFollower::Followed followed = m_parts.navigation.Library()->Context().pFollower->Follow(
+        m_parts.editor.GetHistory(), &m_parts.editor.GetWork());
     m_unfollowed = std::move(followed.trouble);
     if (followed.phases.empty() && m_unfollowed.empty())
         return {};

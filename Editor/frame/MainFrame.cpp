@@ -273,12 +273,9 @@ Status CMainFrame::GetStatus() const
 CPropertiesPane::Phases CMainFrame::SelectedPhases() const
 {
     CPropertiesPane::Phases phases;
-    const auto add = [](IAtom* pAtom, IAtomContainer*, void* context) -> BOOL {
-        if (auto* const pPhase = dynamic_cast<CPhase*>(CMember::Of(pAtom)))
-            static_cast<CPropertiesPane::Phases*>(context)->push_back(CStubRef<CPhase>::Share(pPhase));
-        return TRUE;
-    };
-    m_editor.EnumActivePairs(add, &phases);
+    const ActiveMembers members = GetActiveMembers(m_editor);
+    for (CPhase* const pPhase : OwnOf<CPhase>(members))
+        phases.push_back(CStubRef<CPhase>::Share(pPhase));
     auto* const pShown = dynamic_cast<CPhase*>(Shown());
     if (phases.empty() && pShown)
         phases.push_back(CStubRef<CPhase>::Share(pShown));
@@ -322,11 +319,6 @@ LRESULT CMainFrame::OnActivated(WPARAM wParam, LPARAM)
     if (wParam == WA_ACTIVE && !m_editor.GetWork().IsUnderWay())
         m_follower.LookAround();
     return 0;
-}
-
-CMenu* CMainFrame::CreateContextMenu()
-{
-    return m_desk.MakeContextMenu().release();
 }
 
 BOOL CMainFrame::OnCommand(WPARAM wParam, LPARAM lParam)

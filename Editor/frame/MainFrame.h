@@ -65,7 +65,7 @@ public:
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;
     HWND GetMainWindow() const override { return m_hWnd; }
-    CMenu* CreateContextMenu() override;
+    CMenu* CreateContextMenu() override { return m_desk.MakeContextMenu().release(); }
     void OnMoving() override;
     void OnMoved(const std::string& reason) override;
 

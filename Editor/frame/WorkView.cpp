@@ -62,11 +62,6 @@ void WorkView::Show(const Progress& progress)
     ::ShowWindow(GetTopLevel(m_strip.m_hWnd), SW_SHOW); // the first folder takes long to be read
 }
 
-void WorkView::Hide()
-{
-    m_strip.ShowWindow(SW_HIDE);
-}
-
 // Where a part was done and stays, the history's news come after this line and in its place.
 void WorkView::OnCancelled()
 {

@@ -20,7 +20,7 @@ public:
 
     HWND GetModalWindow() const override { return m_strip.m_hWnd; }
     void Show(const Progress& progress) override;
-    void Hide() override;
+    void Hide() override { m_strip.ShowWindow(SW_HIDE); }
     void OnCancelled() override;
 
 private:

@@ -87,19 +87,9 @@ CMember* CContainer::LiveMember(std::string_view name)
     return nIndex == MemberTable::kNone ? nullptr : m_pContents->table.LiveAt(nIndex);
 }
 
-std::optional<bool> CContainer::HoldsAny()
-{
-    return m_pContents ? GetCount() > 0 : m_holdsAny;
-}
-
 std::string CContainer::ErrorReason() const
 {
     return m_pContents ? m_pContents->error : std::string();
-}
-
-UINT CContainer::GetCount()
-{
-    return Members().table.GetCount();
 }
 
 void CContainer::GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId)
@@ -120,11 +110,6 @@ BOOL CContainer::FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId)
 BOOL CContainer::FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId)
 {
     return GiveMember(pszName ? FindName(Members().table, pszName) : MemberTable::kNone, ppOut, dwInterfaceId);
-}
-
-std::string CContainer::LastErrorLine() const
-{
-    return m_failure.empty() ? ErrorLine() : m_failure;
 }
 
 CContainer::Contents& CContainer::Members()

@@ -42,13 +42,13 @@ public:
     CMember* LiveMember(std::string_view name); // whose atom somebody holds; borrowed, else NULL. Reads nothing
     // Whether there are members, as far as it is known without asking the disk: until the container it is in is read
     // anew.
-    std::optional<bool> HoldsAny();
+    std::optional<bool> HoldsAny() { return m_pContents ? GetCount() > 0 : m_holdsAny; }
     void NoteHoldsAny(bool bAny) { m_holdsAny = bAny; }
     // Finds it out, without reading more than need be. Knows nothing of this object: any thread may call it.
     virtual std::function<bool()> LookForAny() const = 0;
     std::string ErrorReason() const override; // why the members could not be read, once they were to be
 
-    UINT GetCount() override;
+    UINT GetCount() override { return Members().table.GetCount(); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtomByID(DWORD dwID, void** ppOut, DWORD dwInterfaceId) override;
     BOOL FindAtom(const char* pszName, void** ppOut, DWORD dwInterfaceId) override;
@@ -76,7 +76,7 @@ protected:
         std::string error; // why it is not complete; empty when it is
     };
 
-    std::string LastErrorLine() const override;
+    std::string LastErrorLine() const override { return m_failure.empty() ? ErrorLine() : m_failure; }
     virtual Listing Read() = 0;
     virtual bool KeepsPlaces() const { return false; } // is a member what stands in its place, whatever its name?
     virtual UINT FindName(const MemberTable& table, std::string_view name) const = 0;

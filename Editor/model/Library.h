@@ -29,8 +29,6 @@ public:
 
     std::string_view Name() const override { return m_name; }
     std::string Path() const override { return m_context.rootPath; }
-
-protected:
     LibraryContext& Context() const override { return m_context; }
 
 private:

@@ -79,21 +79,6 @@ std::string CMember::PathInLibrary() const
     return path.starts_with(inside) ? path.substr(inside.size()) : std::string();
 }
 
-const std::vector<const CPhase*>& CMember::UnsavedPhases() const
-{
-    return Context().unsaved;
-}
-
-PhaseFollower* CMember::Follower() const
-{
-    return Context().pFollower.get();
-}
-
-LongWork* CMember::Work() const
-{
-    return Context().pWork;
-}
-
 std::string CMember::ErrorLine() const
 {
     const std::string reason = ErrorReason();

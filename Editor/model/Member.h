@@ -12,9 +12,6 @@ namespace editor
 {
 
 class CContainer;
-class CPhase;
-class LongWork;
-class PhaseFollower;
 struct LibraryContext;
 
 // An atom in its place in a container, which it keeps alive; the library itself has none. It knows its index and
@@ -31,12 +28,10 @@ public:
     virtual std::string_view Name() const;                       // any bytes; valid until the container is read anew
     std::string ShownName() const;                               // valid UTF-8 in one line
     virtual std::string Path() const;                            // on disk
-    std::string PathInLibrary() const; // from the library on; empty for the library, and for what lies outside
-    const std::vector<const CPhase*>& UnsavedPhases() const; // of the whole library
-    PhaseFollower* Follower() const;                         // the library's; NULL without a history
-    LongWork* Work() const;                                  // the library's; NULL: what takes long is done at once
-    virtual std::string ErrorReason() const { return {}; }   // what is wrong with it; empty when nothing is known
-    std::string ErrorLine() const;                           // the name to it; empty without a reason
+    std::string PathInLibrary() const;       // from the library on; empty for the library, and for what lies outside
+    virtual LibraryContext& Context() const; // the whole library's
+    virtual std::string ErrorReason() const { return {}; } // what is wrong with it; empty when nothing is known
+    std::string ErrorLine() const;                         // the name to it; empty without a reason
 
     void GetInterface(DWORD id, void** out) override;
 
@@ -54,7 +49,6 @@ protected:
 
     virtual std::string LastErrorLine() const { return ErrorLine(); } // what IMyErrorInfo tells
     virtual toolkit::Surface DrawIcon(CSize size) = 0;
-    virtual LibraryContext& Context() const;
     MemberKind KindOfName(std::string_view name) const; // as what a file of that name is shown
     UINT Index() const { return m_nIndex; }
 

@@ -66,28 +66,11 @@ PictureStore::Answer PictureStore::Find(const std::string& path, CSize size, IAt
     return {pVariant && !bFailed ? &pVariant->picture : nullptr, bFailed};
 }
 
-std::string PictureStore::ErrorOf(const std::string& path) const
+const PictureStore::Entry& PictureStore::Known(const std::string& path) const
 {
+    static const Entry kNone;
     const auto at = m_entries.find(path);
-    return at == m_entries.end() ? std::string() : at->second.error;
-}
-
-CSize PictureStore::FullSizeOf(const std::string& path) const
-{
-    const auto at = m_entries.find(path);
-    return at == m_entries.end() ? CSize() : at->second.fullSize;
-}
-
-std::string PictureStore::FormatOf(const std::string& path) const
-{
-    const auto at = m_entries.find(path);
-    return at == m_entries.end() ? std::string() : at->second.format;
-}
-
-int PictureStore::FrameCountOf(const std::string& path) const
-{
-    const auto at = m_entries.find(path);
-    return at == m_entries.end() ? 0 : at->second.frames;
+    return at == m_entries.end() ? kNone : at->second;
 }
 
 void PictureStore::Recheck()

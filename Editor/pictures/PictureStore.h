@@ -45,11 +45,12 @@ public:
     // away. Costs a call for each atom that waits.
     void SendAwayUnseen(CSize size, const std::function<bool(IAtom*)>& isSeen);
     // Why the file could not be read; empty when it could, was not tried, or is long forgotten.
-    std::string ErrorOf(const std::string& path) const;
+    std::string ErrorOf(const std::string& path) const { return Known(path).error; }
     // Of the picture in the file, in pixels; 0 by 0 when it is not known.
-    CSize FullSizeOf(const std::string& path) const;
-    std::string FormatOf(const std::string& path) const; // "PNG, 32 bits"; empty when it is not known
-    int FrameCountOf(const std::string& path) const;     // 0 when it is not known
+    CSize FullSizeOf(const std::string& path) const { return Known(path).fullSize; }
+    // "PNG, 32 bits"; empty when it is not known.
+    std::string FormatOf(const std::string& path) const { return Known(path).format; }
+    int FrameCountOf(const std::string& path) const { return Known(path).frames; } // 0 when it is not known
     // Nothing is being read, also not for those who no longer wait, and no result is on its way.
     bool IsIdle() const { return m_waiting.empty() && m_queue.IsIdle(); }
 
@@ -91,6 +92,7 @@ private:
         Atoms atoms; // who wait for it
     };
 
+    const Entry& Known(const std::string& path) const; // an empty one for what is not
     static const Variant* FindVariant(const Entry& entry, CSize size, int frame);
     static std::size_t CostOf(const std::string& path, const Entry& entry);
     void Queue(DecodeJob job, IAtom* pAtom);

@@ -109,11 +109,6 @@ CSize CPlayerView::Room() const
     return toolkit::ScreenScale().ToPixels(CSize(std::max(room.Width(), 0), std::max(room.Height(), 0)));
 }
 
-CSize CPlayerView::Wanted() const
-{
-    return m_zoom.IsFit() ? Room() : CSize(kMostRead, kMostRead);
-}
-
 CSize CPlayerView::FullSize() const
 {
     return m_pFrames && !m_shown.IsEmpty() ? m_pFrames->FullSizeOf(m_playback.At()) : CSize();

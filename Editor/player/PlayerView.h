@@ -69,7 +69,7 @@ protected:
 private:
     void CountFrames();
     CSize Room() const;
-    CSize Wanted() const;
+    CSize Wanted() const { return m_zoom.IsFit() ? Room() : CSize(kMostRead, kMostRead); }
     bool Fetch(int nFrame); // shows it; false: it is not there yet
     void ShowPresent();
     void ReadAhead();

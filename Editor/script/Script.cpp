@@ -90,11 +90,6 @@ std::string Script::RunCommand(const std::string& command, const Words& words)
     return pShared ? (Frame().GetCommands().*pShared->runQuietly)() : (this->*own->run)(words);
 }
 
-CMainFrame& Script::Frame() const
-{
-    return *m_app.GetFrame();
-}
-
 std::string Script::Find(const std::string& name, CStubRef<CMember>& pFound) const
 {
     CContainer* const pContainer = Frame().ShownContainer();
@@ -102,11 +97,6 @@ std::string Script::Find(const std::string& name, CStubRef<CMember>& pFound) con
     pContainer->FindAtom(name.c_str(), pAtom.Receive(), IID_IAtom);
     pFound = CStubRef<CMember>::Share(CMember::Of(pAtom.Get()));
     return pFound ? std::string() : name + ": not in " + pContainer->ShownName();
-}
-
-std::string Script::Open(const Words& words)
-{
-    return m_app.OpenFolder(words[0]);
 }
 
 std::string Script::Enter(const Words& words)
@@ -193,11 +183,6 @@ std::string Script::List(const Words&)
         if (const CMember* const pMember = CMember::Of(list.GetAtom(i).Get()))
             m_outside.print(pMember->ShownName());
     return {};
-}
-
-std::string Script::TakeScreenshot(const Words& words)
-{
-    return m_outside.takeScreenshot(words[0]);
 }
 
 } // namespace editor

@@ -42,11 +42,11 @@ private:
 
     std::string RunLine(std::string_view line);
     std::string RunCommand(const std::string& command, const Words& words);
-    CMainFrame& Frame() const;
+    CMainFrame& Frame() const { return *m_app.GetFrame(); }
     std::string Find(const std::string& name, CStubRef<CMember>& pFound) const; // in the container that is shown
 
     // Each empty when done, else the reason.
-    std::string Open(const Words& words);
+    std::string Open(const Words& words) { return m_app.OpenFolder(words[0]); }
     std::string Enter(const Words& words);
     std::string EnterOne(const std::string& part);
     std::string Select(const Words& words);
@@ -54,7 +54,7 @@ private:
     std::string Rename(const Words& words);
     std::string View(const Words& words);
     std::string List(const Words& words);
-    std::string TakeScreenshot(const Words& words);
+    std::string TakeScreenshot(const Words& words) { return m_outside.takeScreenshot(words[0]); }
 
     EditorApp& m_app;
     const Outside m_outside;

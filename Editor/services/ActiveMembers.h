@@ -17,6 +17,17 @@ using hostkit::ErrorOf;
 using hostkit::GetActiveMembers;
 using hostkit::ShownNameOf;
 
+// Those that are such members of a library; borrowed.
+template <class Member>
+std::vector<Member*> OwnOf(const ActiveMembers& members)
+{
+    std::vector<Member*> own;
+    for (const ActiveMember& member : members)
+        if (auto* const pOwn = dynamic_cast<Member*>(member.pAtom.Get()))
+            own.push_back(pOwn);
+    return own;
+}
+
 // These are about to be removed: reasons of former commands do not count. While it lives, lines of a phase that are
 // removed with the others are removed together: the phase is written once.
 class JointRemoval

@@ -3,6 +3,7 @@
 #include "Editor/archive/ArchiveWriter.h"
 #include "Editor/archive/ArchivedAtom.h"
 #include "Editor/disk/FileText.h"
+#include "Editor/model/ImageLink.h"
 #include "Editor/model/PhaseText.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/Troubles.h"
@@ -35,26 +36,29 @@ struct Writing
     std::string error;
 };
 
-std::string NoteObject(IAtom* pAtom, std::vector<Object>& objects)
+std::string NoteObject(const CMember* pMember, std::vector<Object>& objects)
 {
-    const CMember* const pMember = CMember::Of(pAtom);
     if (!pMember)
         return "An object of another editor cannot be carried.";
     objects.push_back({pMember->Path(), pMember->PathInLibrary(), {}});
-    if (!CStubRef<IImageLink>::From(pAtom))
+    if (!dynamic_cast<const CImageLink*>(pMember))
         return {};
     objects.back().line = pMember->Name();
     return objects.back().origin.empty() ? pMember->ShownName() + ": lies outside the library" : std::string();
 }
 
-BOOL WriteActivePair(IAtom* pAtom, IAtomContainer*, void* pContext)
+void NoteObjects(const ActiveMembers& members, Writing& writing)
 {
-    auto& writing = *static_cast<Writing*>(pContext);
-    if (const CMember* const pMember = CMember::Of(pAtom); pMember && writing.objects.empty())
-        for (const CPhase* const pPhase : pMember->UnsavedPhases())
-            writing.unsaved.push_back({pPhase->Path(), pPhase->GetTiming()});
-    writing.error = NoteObject(pAtom, writing.objects);
-    return writing.error.empty();
+    for (const ActiveMember& member : members) {
+        const CMember* const pMember = CMember::Of(member.pAtom.Get());
+        if (pMember && writing.objects.empty())
+            for (const CPhase* const pPhase : pMember->Context().unsaved)
+                writing.unsaved.push_back({pPhase->Path(), pPhase->GetTiming()});
+        if (writing.error = NoteObject(pMember, writing.objects); !writing.error.empty())
+            return;
+    }
+    if (members.empty())
+        writing.error = "Nothing is selected.";
 }
 
 // What travels of a file with that name and text: the text with its timing, when it is the file of one of the phases.
@@ -131,10 +135,9 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
         writer.SetReplacement([&](const auto&... file) { return TextWithUnsaved(writing.unsaved, file...); });
         if (m_bLeavingOut)
             writer.AllowLeavingOut();
-        if (EnumActivePairs(&WriteActivePair, &writing) && !writing.objects.empty())
+        NoteObjects(GetActiveMembers(*this), writing);
+        if (writing.error.empty())
             writing.error = Aside(&m_work, [&] { return WriteAll(writing.objects, writer, m_work.GetMeter()); });
-        else if (writing.error.empty())
-            writing.error = "Nothing is selected.";
         if (writing.error.empty() && m_work.IsCancelled())
             writing.error = kCancelled;
         if (!writing.error.empty())

@@ -2,6 +2,7 @@
 
 #include "Editor/disk/FileText.h"
 #include "Editor/model/Folder.h"
+#include "Editor/model/ImageLink.h"
 #include "Editor/model/PhaseFollower.h"
 #include "Editor/model/PictureMember.h"
 #include "Editor/model/RevocableRemoval.h"
@@ -64,39 +65,20 @@ bool IsLine(const ActiveMember& member)
     return static_cast<bool>(CStubRef<IImageLink>::From(member.pAtom.Get()));
 }
 
-std::vector<const CPicture*> PicturesOf(const ActiveMembers& members)
-{
-    std::vector<const CPicture*> pictures;
-    for (const ActiveMember& member : members)
-        if (const auto* const pPicture = dynamic_cast<const CPicture*>(CMember::Of(member.pAtom.Get())))
-            pictures.push_back(pPicture);
-    return pictures;
-}
-
 // "2 phases will miss pictures", or nothing.
 std::string MissingIn(const ActiveMembers& members, LongWork& work)
 {
     std::vector<std::string> paths;
     PhaseFollower* pFollower = nullptr;
-    for (const ActiveMember& member : members) {
-        const CMember* const pMember = CMember::Of(member.pAtom.Get());
-        if (!pMember || IsLine(member))
+    for (const CMember* const pMember : OwnOf<CMember>(members)) {
+        if (dynamic_cast<const CImageLink*>(pMember))
             continue;
         paths.push_back(pMember->Path());
-        pFollower = pMember->Follower();
+        pFollower = pMember->Context().pFollower.get();
     }
     const int nBroken = pFollower ? pFollower->CountBroken(paths, &work) : 0;
     return nBroken == 0 ? std::string()
                         : std::to_string(nBroken) + (nBroken == 1 ? " phase" : " phases") + " will miss pictures";
-}
-
-std::vector<CMember*> OwnOf(const ActiveMembers& members)
-{
-    std::vector<CMember*> own;
-    for (const ActiveMember& member : members)
-        if (CMember* const pMember = CMember::Of(member.pAtom.Get()))
-            own.push_back(pMember);
-    return own;
 }
 
 } // namespace
@@ -155,7 +137,7 @@ try {
     const LongWork::Command command(&m_editor.GetWork(), "Cutting", Progress::Unit::Bytes);
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
-    const RevocableRemoval revocable(OwnOf(members));
+    const RevocableRemoval revocable(OwnOf<CMember>(members));
     if (CopyObjects(TRUE, [&](COleDataSource& source) { OfferCopiedFiles(source, revocable.TrashedPaths()); }))
         return {};
     std::string reason = m_editor.WhyStillThere(members);
@@ -241,7 +223,8 @@ try {
 
 std::string Commands::MakePhase(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
 try {
-    const std::vector<const CPicture*> pictures = PicturesOf(GetActiveMembers(m_editor));
+    const ActiveMembers members = GetActiveMembers(m_editor);
+    const std::vector<CPicture*> pictures = OwnOf<CPicture>(members);
     if (pictures.empty())
         return "no pictures are selected that it could show";
     std::string text;
@@ -262,7 +245,7 @@ try {
 
 bool Commands::CanMakePhase() const
 {
-    return !PicturesOf(GetActiveMembers(m_editor)).empty();
+    return !OwnOf<CPicture>(GetActiveMembers(m_editor)).empty();
 }
 
 std::string Commands::Make(MemberKind kind, const std::string& name, const std::string& text, CContainer* pTarget)

@@ -44,12 +44,12 @@ std::string PasteFile(const std::string& path, CFolder& folder)
         return folder.ShownName() + ": no archive can be made for it";
     ArchiveWriter writer(*pArchive.Get());
     writer.AllowLeavingOut();
-    writer.SetMeter(MeterOf(folder.Work()));
+    writer.SetMeter(MeterOf(folder.Context().pWork));
     const auto write = [&] {
         std::string failure = writer.AddPath(path, {});
         return failure.empty() ? writer.Finish() : failure;
     };
-    if (std::string failure = Aside(folder.Work(), write); !failure.empty())
+    if (std::string failure = Aside(folder.Context().pWork, write); !failure.empty())
         return failure;
     if (CheckPaste(pArchive.Get(), &folder, FALSE) == PASTE_REFUSED)
         return ToShown(path.substr(path.rfind('/') + 1)) + ": not a file that the library shows";
@@ -129,7 +129,7 @@ try {
     CFolder* const pFolder = FolderBehind(pContainer);
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";
-    LongWork* const pWork = pFolder->Work();
+    LongWork* const pWork = pFolder->Context().pWork;
     if (pWork) // read once, and written once
         Aside(pWork, [&] {
             for (const std::string& path : paths)

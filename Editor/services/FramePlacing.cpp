@@ -18,10 +18,9 @@ std::vector<std::size_t> DraggedPlaces(const CAtomEditor& editor)
 {
     std::vector<std::size_t> places;
     if (const auto pDragged = editor.GetDragged())
-        for (const ActiveMember& member : *pDragged)
-            if (const auto* const pLink = dynamic_cast<const CImageLink*>(CMember::Of(member.pAtom.Get())))
-                if (pLink->Position() >= 0)
-                    places.push_back(static_cast<std::size_t>(pLink->Position()));
+        for (const CImageLink* const pLink : OwnOf<CImageLink>(*pDragged))
+            if (pLink->Position() >= 0)
+                places.push_back(static_cast<std::size_t>(pLink->Position()));
     std::sort(places.begin(), places.end());
     return places;
 }

@@ -35,11 +35,9 @@ void Offer(COleDataSource& source, CLIPFORMAT format, std::string_view bytes)
 std::vector<std::string> PathsOf(const ActiveMembers& members)
 {
     std::vector<std::string> paths;
-    for (const ActiveMember& member : members) {
-        const CMember* const pMember = CMember::Of(member.pAtom.Get());
-        if (const std::string path = pMember ? pMember->Path() : std::string(); !path.empty())
+    for (const CMember* const pMember : OwnOf<CMember>(members))
+        if (const std::string path = pMember->Path(); !path.empty())
             paths.push_back(std::filesystem::absolute(path).lexically_normal().string());
-    }
     return paths;
 }
 

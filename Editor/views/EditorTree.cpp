@@ -144,11 +144,6 @@ void CEditorTree::UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer)
     }
 }
 
-BOOL CEditorTree::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
-{
-    return RefreshItem(pAtom);
-}
-
 BOOL CEditorTree::OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer)
 {
     const FocusKeeper keeper(m_hWnd);
@@ -215,7 +210,8 @@ void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
     const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
     const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
     auto* const pContainer = dynamic_cast<CContainer*>(pAtom.Get());
-    const LongWork::Command command(pContainer ? pContainer->Work() : nullptr, "Reading", Progress::Unit::Found);
+    const LongWork::Command command(pContainer ? pContainer->Context().pWork : nullptr, "Reading",
+                                    Progress::Unit::Found);
     ShowMembers(pAtom.Get());
     Invalidate(); // without members the button goes
 }

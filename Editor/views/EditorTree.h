@@ -31,7 +31,7 @@ public:
     // Members that are new on the disk come, too.
     BOOL OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
     // Only its own row is drawn anew: each picture that has been read is told of, and no other label changes with it.
-    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer* pContainer) override;
+    BOOL OnChangeAtom(IAtom* pAtom, IAtomContainer*) override { return RefreshItem(pAtom); }
     // The focus stays where the user has opened something.
     BOOL OnAtomEntered(IAtom* pAtom, IAtomContainer* pContainer) override;
 

@@ -33,7 +33,6 @@ public:
     static constexpr UINT_PTR kTimer = 4711; // on the list
     void MoveTo(int nRow);                   // the mouse is there; -1: on none
     void Tick();
-    IAtom* GetPlayed() const { return m_pFrames ? m_pAtom.Get() : nullptr; }
 
 private:
     void Begin();

@@ -41,11 +41,6 @@ void CKeysSheet::Show(std::vector<Group> groups)
     Invalidate();
 }
 
-void CKeysSheet::Leave()
-{
-    m_leave();
-}
-
 // Filled from the left: a column is full once it holds its part of the whole.
 std::vector<CKeysSheet::Place> CKeysSheet::Layout() const
 {
@@ -115,11 +110,6 @@ void CKeysSheet::OnKeyDown(UINT nChar, UINT, UINT)
         ScrollBy(nChar == VK_UP ? -LineStep() : LineStep());
     else if (nChar == VK_PRIOR || nChar == VK_NEXT)
         ScrollBy(nChar == VK_PRIOR ? -Client().Height() : Client().Height());
-}
-
-void CKeysSheet::OnLButtonDown(UINT, CPoint)
-{
-    Leave();
 }
 
 BOOL CKeysSheet::OnMouseWheel(UINT, short zDelta, CPoint)

@@ -30,7 +30,7 @@ public:
     explicit CKeysSheet(std::function<void()> leave) : CWidget(0), m_leave(std::move(leave)) {}
 
     void Show(std::vector<Group> groups);
-    void Leave(); // the focus goes back to the views
+    void Leave() { m_leave(); } // the focus goes back to the views
     const std::vector<Group>& GetGroups() const { return m_groups; }
 
     std::vector<Part> AccParts() override;
@@ -40,7 +40,7 @@ protected:
     void Erase(HDC hdc) override { FillSolidRect(hdc, Client(), SheetColor()); }
     void Draw(HDC hdc) override;
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
+    afx_msg void OnLButtonDown(UINT, CPoint) { Leave(); }
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     DECLARE_MESSAGE_MAP()

@@ -29,9 +29,8 @@ public:
         : m_titles(std::move(titles)), m_events(std::move(events))
     {}
 
-    bool HandleKey(const MSG& msg); // asked before all other windows of the frame: false where it means nothing here
-    void Leave();                   // the keys are everyone's again
-    bool IsWalked() const { return m_bWalked; }
+    bool HandleKey(const MSG& msg);   // asked before all other windows of the frame: false where it means nothing here
+    void Leave();                     // the keys are everyone's again
     CRect TitleRect(int nMenu) const; // client
 
     std::vector<Part> AccParts() override;

@@ -25,11 +25,6 @@ int Times(int length, double zoom)
 
 } // namespace
 
-void PictureZoom::Fit()
-{
-    *this = PictureZoom();
-}
-
 void PictureZoom::Step(int nSteps, CPoint at, const CRect& view, CSize full, double dFit)
 {
     const double former = IsFit() ? dFit : m_dZoom;

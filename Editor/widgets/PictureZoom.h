@@ -15,7 +15,7 @@ public:
 
     bool IsFit() const { return m_dZoom == 0; }
     double Get() const { return m_dZoom; } // 0: it fits
-    void Fit();
+    void Fit() { *this = PictureZoom(); }
 
     // The picture has `full` pixels and is shown `dFit` times as large where it fits. What is under that point of the
     // view stays there. Each step goes half the way to the double, and past none at which pixels are as on the screen.

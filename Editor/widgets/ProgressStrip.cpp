@@ -104,9 +104,4 @@ void CProgressStrip::OnKeyDown(UINT nChar, UINT, UINT)
         m_cancel();
 }
 
-void CProgressStrip::OnClose()
-{
-    m_cancel();
-}
-
 } // namespace editor

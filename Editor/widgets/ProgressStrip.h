@@ -32,7 +32,7 @@ protected:
     void Draw(HDC hdc) override;
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnClose();
+    afx_msg void OnClose() { m_cancel(); }
     DECLARE_MESSAGE_MAP()
 
 private:

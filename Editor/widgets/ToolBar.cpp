@@ -46,11 +46,6 @@ int CToolBar::SpotAt(CPoint point) const
     return kNothing;
 }
 
-void CToolBar::UseSpot(int nSpot)
-{
-    m_use(m_ask()[static_cast<std::size_t>(nSpot)].command);
-}
-
 CSpotBar::Tip CToolBar::TipOf(int nSpot) const
 {
     const Tool tool = m_ask()[static_cast<std::size_t>(nSpot)];

@@ -39,7 +39,7 @@ public:
 protected:
     Part AccWindow() override { return {ROLE_SYSTEM_TOOLBAR, 0, {}, {}, {}}; }
     int SpotAt(CPoint point) const override;
-    void UseSpot(int nSpot) override;
+    void UseSpot(int nSpot) override { m_use(m_ask()[static_cast<std::size_t>(nSpot)].command); }
     Tip TipOf(int nSpot) const override;
     void Erase(HDC hdc) override { FillTopBar(hdc, Client()); }
     void Draw(HDC hdc) override;

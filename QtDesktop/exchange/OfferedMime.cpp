@@ -13,11 +13,6 @@ QStringList OfferedMime::formats() const
     return formats;
 }
 
-bool OfferedMime::hasFormat(const QString& mimeType) const
-{
-    return formats().contains(mimeType);
-}
-
 QVariant OfferedMime::retrieveData(const QString& mimeType, QMetaType) const
 {
     if (mimeType == QLatin1String(kReceiptKind)) {

@@ -24,7 +24,7 @@ public:
     DROPEFFECT GetAllowed() const { return m_receipt->allowed; } // of a drag
 
     QStringList formats() const override;
-    bool hasFormat(const QString& mimeType) const override;
+    bool hasFormat(const QString& mimeType) const override { return formats().contains(mimeType); }
 
 protected:
     QVariant retrieveData(const QString& mimeType, QMetaType type) const override;

@@ -146,7 +146,7 @@ protected:
     // Its first look goes on beside everything else.
     static void AwaitIndex(const editor::EditorApp& app)
     {
-        app.GetFrame()->GetNavigation().Library()->Follower()->CountBroken({}, nullptr);
+        app.GetFrame()->GetNavigation().Library()->Context().pFollower->CountBroken({}, nullptr);
     }
     static CStubRef<editor::CPhase> PhaseToSave(const editor::CMainFrame& frame)
     {
