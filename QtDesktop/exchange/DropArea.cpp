@@ -15,36 +15,11 @@ namespace
 {
 
 // Another program's data, or that of a program like this one, for as long as the drag is over a window.
-class DraggedOffer : public toolkit::OfferedData
-{
-public:
-    explicit DraggedOffer(const QMimeData* pMime) : m_pMime(pMime) {}
-
-    std::vector<std::string> GetKinds() override
-    {
-        std::vector<std::string> kinds;
-        for (const QString& format : m_pMime ? m_pMime->formats() : QStringList())
-            kinds.push_back(format.toStdString());
-        return kinds;
-    }
-
-    std::optional<std::string> Render(std::string_view kind) override
-    {
-        const QString format = QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
-        if (!m_pMime || !m_pMime->hasFormat(format))
-            return std::nullopt;
-        return m_pMime->data(format).toStdString();
-    }
-
-private:
-    const QPointer<const QMimeData> m_pMime;
-};
-
 std::shared_ptr<toolkit::OfferedData> OfferOf(const QMimeData* pMime)
 {
     if (const auto* pOwn = dynamic_cast<const OfferedMime*>(pMime))
         return pOwn->GetData();
-    return std::make_shared<DraggedOffer>(pMime);
+    return std::make_shared<MimeOffer>([pHeld = QPointer<const QMimeData>(pMime)] { return pHeld.data(); });
 }
 
 constexpr DWORD Flag(bool bSet, DWORD flag)

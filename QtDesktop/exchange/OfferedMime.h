@@ -5,6 +5,7 @@
 #include "Toolkit/desktop/OfferedData.h"
 
 #include <QMimeData>
+#include <functional>
 #include <memory>
 
 namespace qtdesktop
@@ -32,6 +33,21 @@ protected:
 private:
     const std::shared_ptr<toolkit::OfferedData> m_data;
     const std::shared_ptr<ReceiptAddress> m_receipt;
+};
+
+// Qt's data as the toolkit asks for it. Whoever has it is asked anew each time: what Qt hands out may be gone when its
+// event loop has run, and is NULL then.
+class MimeOffer : public toolkit::OfferedData
+{
+public:
+    using Ask = std::function<const QMimeData*()>;
+    explicit MimeOffer(Ask ask) : m_ask(std::move(ask)) {}
+
+    std::vector<std::string> GetKinds() override;
+    std::optional<std::string> Render(std::string_view kind) override;
+
+private:
+    const Ask m_ask;
 };
 
 } // namespace qtdesktop

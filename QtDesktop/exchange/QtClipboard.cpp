@@ -11,29 +11,6 @@ namespace qtdesktop
 namespace
 {
 
-// Asks the clipboard anew each time: what it hands out may be gone when Qt's event loop has run.
-class ClipboardOffer : public toolkit::OfferedData
-{
-public:
-    std::vector<std::string> GetKinds() override
-    {
-        std::vector<std::string> kinds;
-        if (const QMimeData* pMime = QGuiApplication::clipboard()->mimeData())
-            for (const QString& format : pMime->formats())
-                kinds.push_back(format.toStdString());
-        return kinds;
-    }
-
-    std::optional<std::string> Render(std::string_view kind) override
-    {
-        const QString format = QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
-        const QMimeData* pMime = QGuiApplication::clipboard()->mimeData();
-        if (!pMime || !pMime->hasFormat(format))
-            return std::nullopt;
-        return pMime->data(format).toStdString();
-    }
-};
-
 // Read by itself by whoever knows its kind. Bytes of a kind that programs have agreed upon may lead to something that
 // ends with this program, as the path of a transfer file does.
 bool OutlivesProgram(const QString& kind)
@@ -84,7 +61,7 @@ bool QtClipboard::Publish(std::shared_ptr<toolkit::OfferedData> data)
 
 std::shared_ptr<toolkit::OfferedData> QtClipboard::Fetch()
 {
-    auto offer = std::make_shared<ClipboardOffer>();
+    auto offer = std::make_shared<MimeOffer>([] { return QGuiApplication::clipboard()->mimeData(); });
     return m_published || offer->GetKinds().empty() ? nullptr : offer;
 }
 
