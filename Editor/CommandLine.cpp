@@ -70,11 +70,10 @@ private:
     {
         if (folder.empty())
             m_line.error = "the folder's name is empty";
-        else if (m_bFolder)
+        else if (m_line.isFolderNamed)
             m_line.error = folder + ": only one folder can be opened";
         m_line.folder = folder;
         m_line.isFolderNamed = true;
-        m_bFolder = true;
     }
 
     std::string TakeOperand(const std::string& option, const char* pszWhat)
@@ -95,7 +94,7 @@ private:
 
     const std::vector<std::string>& m_arguments;
     std::size_t m_next = 0;
-    bool m_bOnlyOperands = false, m_bFolder = false;
+    bool m_bOnlyOperands = false;
     CommandLine m_line;
 };
 

@@ -43,9 +43,9 @@ struct EditorApp::Parts
     // The window, which is not shown yet, comes when this takes long.
     CStubRef<CLibrary> Read(const std::string& path, std::string& error)
     {
-        const LongWork::Command command(&atomEditor.GetWork(), "Reading", Progress::Unit::Found);
+        const LongWork::Command command(atomEditor.GetWork(), "Reading", Progress::Unit::Found);
         CStubRef<CLibrary> pLibrary =
-            CLibrary::Open(path, reader.Extensions(), pPictures, error, pWatch.get(), &atomEditor.GetWork());
+            CLibrary::Open(path, reader.Extensions(), pPictures, atomEditor.GetWork(), error, pWatch.get());
         if (!pLibrary)
             return pLibrary;
         pLibrary->SetHistory(&atomEditor.GetHistory());
@@ -57,9 +57,7 @@ struct EditorApp::Parts
     {
         if (const auto* const pWaiter = dynamic_cast<CFrameWaiter*>(pAtom))
             return pWaiter->Arrived();
-        CStubRef<IAtomContainer> pContainer;
-        pAtom->GetContainer(pContainer.Receive(), IID_IAtomContainer);
-        atomEditor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pAtom, pContainer.Get(), 0);
+        atomEditor.Tell(&IAEStateHandler::OnChangeAtom, pAtom);
     }
 
     // What another window has written meanwhile stays, as far as it is no matter of this one.

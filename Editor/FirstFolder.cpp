@@ -10,12 +10,6 @@ namespace editor
 namespace
 {
 
-bool IsFolder(const std::string& path)
-{
-    std::error_code failure;
-    return std::filesystem::is_directory(path, failure);
-}
-
 // Beside the installed program, else in the sources.
 std::string Samples()
 {

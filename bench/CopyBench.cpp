@@ -152,7 +152,8 @@ double CopyRace::Views()
     const auto pPictures =
         std::make_shared<editor::PictureStore>(m_reader, editor::PictureStore::Limits(), [](IAtom*) {});
     std::string error;
-    const auto pLibrary = editor::CLibrary::Open(m_folder.At("library"), m_reader.Extensions(), pPictures, error);
+    const auto pLibrary =
+        editor::CLibrary::Open(m_folder.At("library"), m_reader.Extensions(), pPictures, m_atomEditor.GetWork(), error);
     const auto pFrom = Member(*pLibrary.Get(), "From"), pTo = Member(*pLibrary.Get(), target.c_str());
     Selection selection(pFrom.Get());
     const DWORD cookie = m_atomEditor.RegisterHandler(nullptr, &selection);

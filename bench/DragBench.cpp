@@ -69,7 +69,8 @@ void DragOverList(benchmark::State& state)
     editor::CAtomEditor atomEditor;
     const hostkit::Services services(atomEditor);
     std::string error;
-    const auto pLibrary = editor::CLibrary::Open(folder.At("library"), reader.Extensions(), pPictures, error);
+    const auto pLibrary =
+        editor::CLibrary::Open(folder.At("library"), reader.Extensions(), pPictures, atomEditor.GetWork(), error);
     {
         bench::ListWindow window;
         window.List().OnAtomEntered(pLibrary.Get(), nullptr);

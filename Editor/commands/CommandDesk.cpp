@@ -28,6 +28,12 @@ std::string TipOf(const CommandEntry& command, const CommandState& state)
     return NameOf(command, state) + " (" + command.key.Text() + ')' + (why.empty() ? "" : ": " + why);
 }
 
+CommandDesk::Row RowOf(Menu menu)
+{
+    using Row = CommandDesk::Row;
+    return menu == Menu::Go ? Row::Ways : menu == Menu::Play ? Row::Player : Row::Objects;
+}
+
 hostkit::Pictogram IconOf(const CommandEntry& command, const CommandState& state)
 {
     return command.nID == ID_PLAY && state.playing ? hostkit::Pictogram::Pause : *command.tool;
@@ -122,28 +128,12 @@ std::unique_ptr<CMenu> CommandDesk::MakeMenu(int nMenu) const
                       [](const CommandEntry& command) { return command.bSection; });
 }
 
-std::vector<Tool> CommandDesk::WayTools() const
-{
-    return ToolsOf([](Menu menu) { return menu == Menu::Go; });
-}
-
-std::vector<Tool> CommandDesk::ObjectTools() const
-{
-    return ToolsOf([](Menu menu) { return menu != Menu::Go && menu != Menu::Play; });
-}
-
-std::vector<Tool> CommandDesk::PlayerTools() const
-{
-    return ToolsOf([](Menu menu) { return menu == Menu::Play; });
-}
-
-template <class IsIn>
-std::vector<Tool> CommandDesk::ToolsOf(IsIn isIn) const
+std::vector<Tool> CommandDesk::Tools(Row row) const
 {
     const CommandState state = GetState();
     std::vector<Tool> tools;
     for (const CommandEntry& command : AllCommands())
-        if (command.tool && isIn(command.menu))
+        if (command.tool && RowOf(command.menu) == row)
             tools.push_back({.command = command.nID,
                              .pIcon = &hostkit::GetPictogram(IconOf(command, state), kToolIcon),
                              .tip = TipOf(command, state),

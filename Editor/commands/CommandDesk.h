@@ -28,15 +28,17 @@ public:
     static std::vector<std::string> MenuTitles(); // of the bar
     std::unique_ptr<CMenu> MakeMenu(int nMenu) const;
 
-    std::vector<Tool> WayTools() const;    // at the left of the path
-    std::vector<Tool> ObjectTools() const; // at its right
-    std::vector<Tool> PlayerTools() const; // below what is played
+    enum class Row // of tools
+    {
+        Ways,    // at the left of the path
+        Objects, // at its right
+        Player   // below what is played
+    };
+    std::vector<Tool> Tools(Row row) const;
 
 private:
     template <class IsIn, class IsSection>
     std::unique_ptr<CMenu> MakeMenuOf(IsIn isIn, IsSection isSection) const;
-    template <class IsIn>
-    std::vector<Tool> ToolsOf(IsIn isIn) const;
 
     const CommandTargets m_targets;
     const std::function<void(std::string)> m_say;

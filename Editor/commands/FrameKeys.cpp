@@ -25,7 +25,9 @@ bool FrameKeys::Handle(HWND hWnd, UINT vkey, bool bAlt)
     if (vkey == VK_ESCAPE && m_parts.splitter.IsDragged())
         return m_parts.splitter.CancelDrag(), true;
     const bool bPlain = !bControl && !bAlt;
-    if (bPlain && ((bTree && HandleTreeKey(vkey)) || (bContent && HandleContentKey(vkey))))
+    if (bPlain && bTree && vkey == VK_RETURN) // what is selected there is open already: one goes on with what it holds
+        return m_parts.content.TakeFocus(), true;
+    if (bPlain && bContent && HandleContentKey(vkey))
         return true;
     const CommandEntry* const pCommand = FindCommandOfKey(vkey, bControl, bShift, bAlt);
     if (!pCommand || !(bTree || bContent || pCommand->reach == CommandEntry::Reach::OfFrame))
@@ -96,14 +98,6 @@ bool FrameKeys::HandleContentKey(UINT vkey)
     else
         return false;
     return true;
-}
-
-// What is selected in the tree is open already: the user goes on with what it holds.
-bool FrameKeys::HandleTreeKey(UINT vkey)
-{
-    if (vkey == VK_RETURN)
-        m_parts.content.TakeFocus();
-    return vkey == VK_RETURN;
 }
 
 void FrameKeys::OpenFocused()

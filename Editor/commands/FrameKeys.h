@@ -33,7 +33,6 @@ private:
     bool HandleZoomKey(UINT vkey);
     bool HandlePictureKey(UINT vkey);
     bool HandlePlayerKey(UINT vkey);
-    bool HandleTreeKey(UINT vkey);
     void OpenFocused(); // the list's focused row
 
     const Parts m_parts;

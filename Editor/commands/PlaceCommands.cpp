@@ -1,5 +1,6 @@
 #include "Editor/commands/PlaceCommands.h"
 
+#include "Editor/disk/DiskFile.h"
 #include "Editor/disk/FileText.h"
 #include "Editor/services/ActiveMembers.h"
 #include "Toolkit/desktop/Desktop.h"
@@ -17,12 +18,6 @@ std::string Home()
 {
     const char* const pszHome = std::getenv("HOME");
     return pszHome ? pszHome : "";
-}
-
-bool IsFolder(const std::string& path)
-{
-    std::error_code failure;
-    return std::filesystem::is_directory(path, failure);
 }
 
 } // namespace

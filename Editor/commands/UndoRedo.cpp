@@ -13,7 +13,7 @@ std::string UndoRedo::Take(std::string (History::*step)(Changes&), Atoms& presen
 {
     const std::string shown = m_navigation.Shown()->Path();
     Changes changes;
-    const LongWork::Command command(&m_editor.GetWork(), "Putting back", Progress::Unit::Objects);
+    const LongWork::Command command(m_editor.GetWork(), "Putting back", Progress::Unit::Objects);
     std::string reason = (m_editor.GetHistory().*step)(changes);
     m_pictures.Recheck();
     for (const auto& [path, names] : changes.containers)

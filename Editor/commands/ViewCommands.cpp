@@ -1,5 +1,6 @@
 #include "Editor/commands/ViewCommands.h"
 
+#include "Editor/commands/CommandDesk.h"
 #include "Toolkit/desktop/MenuItems.h"
 #include "Toolkit/menu/MessageBox.h"
 
@@ -14,10 +15,9 @@ constexpr const char* kAbout = "Views " EDITOR_VERSION "\n\n"
 
 std::vector<CKeysSheet::Group> KeyGroups()
 {
-    static constexpr const char* titles[] = {"File", "Edit", "View", "Play", "Go", "Help"};
     std::vector<CKeysSheet::Group> groups;
-    for (const char* pszTitle : titles)
-        groups.push_back({pszTitle, {}});
+    for (const std::string& title : CommandDesk::MenuTitles())
+        groups.push_back({toolkit::PlainMenuText(title), {}});
     for (const CommandEntry& command : AllCommands())
         if (command.pszText && command.key.vkey != 0)
             groups[static_cast<std::size_t>(command.menu)].lines.push_back(

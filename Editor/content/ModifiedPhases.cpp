@@ -27,13 +27,8 @@ void ModifiedPhases::Add(const Phases& phases)
             std::any_of(m_phases.begin(), m_phases.end(), [&](const auto& p) { return p.Get() == pPhase.Get(); });
         if (!bKnown)
             m_phases.push_back(CStubRef<CPhase>::Share(pPhase.Get()));
-        TellOfChange(pPhase.Get());
+        m_editor.Tell(&IAEStateHandler::OnChangeAtom, pPhase.Get());
     }
-}
-
-void ModifiedPhases::TellOfChange(CPhase* pPhase)
-{
-    m_editor.NotifyHandlers(nullptr, &IAEStateHandler::OnChangeAtom, pPhase, pPhase->Container(), 0);
 }
 
 void ModifiedPhases::Forget(IAtom* pGone)
@@ -71,7 +66,7 @@ std::string ModifiedPhases::Save()
         const std::string reason = pPhase->SaveTiming();
         if (failure.empty())
             failure = reason;
-        TellOfChange(pPhase.Get());
+        m_editor.Tell(&IAEStateHandler::OnChangeAtom, pPhase.Get());
         if (!reason.empty())
             left.push_back(std::move(pPhase));
     }

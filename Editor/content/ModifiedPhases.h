@@ -26,8 +26,6 @@ public:
     std::string Save(); // all; the reason for the first that was not saved
 
 private:
-    void TellOfChange(CPhase* pPhase);
-
     CAtomEditor& m_editor;
     Phases m_phases; // each once; some may be as they were saved again
 };

@@ -75,7 +75,7 @@ std::vector<CMember*> Navigation::Path() const
 
 void Navigation::ReadAside(CMember* pMember) const
 {
-    const LongWork::Command command(&m_editor.GetWork(), "Reading", Progress::Unit::Found);
+    const LongWork::Command command(m_editor.GetWork(), "Reading", Progress::Unit::Found);
     if (auto* const pContainer = dynamic_cast<CContainer*>(pMember))
         pContainer->GetCount();
 }

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <memory>
 #include <sys/stat.h>
 
@@ -49,6 +50,12 @@ bool IsFile(const std::string& path, const FileIdentity& identity)
 {
     struct stat status;
     return stat(path.c_str(), &status) == 0 && FileIdentity{status.st_dev, status.st_ino} == identity;
+}
+
+bool IsFolder(const std::string& path)
+{
+    std::error_code failure;
+    return std::filesystem::is_directory(path, failure);
 }
 
 int ReadNames(int nFolder, std::vector<std::string>& names)

@@ -43,6 +43,7 @@ struct FileIdentity
     friend auto operator<=>(const FileIdentity&, const FileIdentity&) = default;
 };
 bool IsFile(const std::string& path, const FileIdentity& identity); // does the path lead there?
+bool IsFolder(const std::string& path);                             // does it lead to one?
 
 // The names of all that is in an open folder, in no particular order. The error number; 0: none.
 int ReadNames(int nFolder, std::vector<std::string>& names);

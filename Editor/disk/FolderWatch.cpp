@@ -48,6 +48,8 @@ struct FolderWatch::Shared
         std::string name;
     } moved; // what has gone last, and may come again
 
+    std::pair<int, unsigned> Begin(const std::string& path); // the watch, below 0: none; and its use
+    void End(int watch, unsigned nUse);
     void ReadEvents();
     void Note(const inotify_event& event);
     void Post(const std::shared_ptr<Shared>& pSelf);
@@ -71,41 +73,37 @@ FolderWatch::~FolderWatch()
     m_pShared->thread.join();
 }
 
+// Of a place only its end counts, not what it points at.
 FolderWatch::Place FolderWatch::Watch(const std::string& path)
 {
     if (!m_pShared)
         return {};
-    const std::lock_guard lock(m_pShared->mutex);
-    const int watch = inotify_add_watch(m_pShared->events.Get(), path.c_str(), kEvents);
+    const auto [watch, nUse] = m_pShared->Begin(path);
     if (watch < 0)
         return {};
-    const unsigned nUse = ++m_pShared->nUses;
-    m_pShared->watched[watch] = {path, nUse};
-    return {m_pShared, watch, nUse};
+    return {this, [pWatched = std::weak_ptr(m_pShared), watch = watch, nUse = nUse](void*) {
+                if (const auto pShared = pWatched.lock())
+                    pShared->End(watch, nUse);
+            }};
 }
 
-FolderWatch::Place& FolderWatch::Place::operator=(Place&& other) noexcept
+std::pair<int, unsigned> FolderWatch::Shared::Begin(const std::string& path)
 {
-    if (this != &other) {
-        Leave();
-        m_pShared = std::exchange(other.m_pShared, {});
-        m_nWatch = other.m_nWatch;
-        m_nUse = other.m_nUse;
-    }
-    return *this;
+    const std::lock_guard lock(mutex);
+    const int watch = inotify_add_watch(events.Get(), path.c_str(), kEvents);
+    if (watch >= 0)
+        watched[watch] = {path, ++nUses};
+    return {watch, nUses};
 }
 
-void FolderWatch::Place::Leave()
+void FolderWatch::Shared::End(int watch, unsigned nUse)
 {
-    const auto pShared = m_pShared.lock();
-    if (!pShared)
+    const std::lock_guard lock(mutex);
+    const auto at = watched.find(watch);
+    if (at == watched.end() || at->second.nUse != nUse)
         return;
-    const std::lock_guard lock(pShared->mutex);
-    const auto at = pShared->watched.find(m_nWatch);
-    if (at == pShared->watched.end() || at->second.nUse != m_nUse)
-        return;
-    inotify_rm_watch(pShared->events.Get(), m_nWatch);
-    pShared->watched.erase(at);
+    inotify_rm_watch(events.Get(), watch);
+    watched.erase(at);
 }
 
 void FolderWatch::Work(const std::shared_ptr<Shared>& pShared)

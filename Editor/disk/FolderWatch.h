@@ -25,8 +25,6 @@ struct FolderNews
 // together, a tenth of a second after the last and a quarter after the first: many changes at once are few news.
 class FolderWatch
 {
-    struct Shared;
-
 public:
     using Tell = std::function<void(std::vector<FolderNews>)>; // on the window's thread
 
@@ -35,31 +33,15 @@ public:
     FolderWatch(const FolderWatch&) = delete;
     FolderWatch& operator=(const FolderWatch&) = delete;
 
-    // A folder is watched as long as this lives, under the path it had. May outlive the watch.
-    class Place
-    {
-    public:
-        Place() = default;
-        Place(std::weak_ptr<Shared> pShared, int nWatch, unsigned nUse)
-            : m_pShared(std::move(pShared)), m_nWatch(nWatch), m_nUse(nUse)
-        {}
-        ~Place() { Leave(); }
-        Place(Place&& other) noexcept { *this = std::move(other); }
-        Place& operator=(Place&& other) noexcept;
-
-        explicit operator bool() const { return !m_pShared.expired(); } // false: it is not watched
-
-    private:
-        void Leave();
-
-        std::weak_ptr<Shared> m_pShared;
-        int m_nWatch = -1;
-        unsigned m_nUse = 0;
-    };
+    // A folder is watched as long as this lives, under the path it had. May outlive the watch. Empty: it is not
+    // watched.
+    using Place = std::shared_ptr<void>;
     // The system has only so many to give, and not on every file system others' doings can be seen.
     Place Watch(const std::string& path);
 
 private:
+    struct Shared;
+
     static void Work(const std::shared_ptr<Shared>& pShared);
 
     std::shared_ptr<Shared> m_pShared; // empty: nothing can be watched at all

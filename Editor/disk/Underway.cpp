@@ -16,12 +16,6 @@ namespace
 constexpr std::string_view kBeginning = "underway-";
 constexpr std::uint64_t kLongest = 16 << 10; // bytes of a line
 
-void MakeFolder(const std::string& path)
-{
-    std::error_code ignored;
-    std::filesystem::create_directories(path, ignored);
-}
-
 // Empty when its program still lives.
 std::string Take(const std::string& path)
 {
@@ -39,7 +33,8 @@ UnderwayMark::UnderwayMark(const std::string& folder, const std::string& line) n
 try {
     if (folder.empty())
         return;
-    MakeFolder(folder);
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
     m_path = folder + '/' + std::string(kBeginning) + std::to_string(getpid());
     m_file = FileDescriptor(open(m_path.c_str(), O_RDWR | O_CREAT | O_TRUNC | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (m_file && flock(m_file.Get(), LOCK_EX | LOCK_NB) == 0)

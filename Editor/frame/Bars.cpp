@@ -11,8 +11,10 @@ Bars::Bars(const Parts& parts)
     : m_parts(parts),
       m_menuBar(CommandDesk::MenuTitles(), {[this](int nMenu) { return m_parts.desk.MakeMenu(nMenu); },
                                             [this](UINT nID) { m_parts.desk.Run(nID); }}),
-      m_ways([this] { return m_parts.desk.WayTools(); }, [this](UINT nID) { m_parts.desk.Run(nID); }),
-      m_tools([this] { return m_parts.desk.ObjectTools(); }, [this](UINT nID) { m_parts.desk.Run(nID); }),
+      m_ways([this] { return m_parts.desk.Tools(CommandDesk::Row::Ways); },
+             [this](UINT nID) { m_parts.desk.Run(nID); }),
+      m_tools([this] { return m_parts.desk.Tools(CommandDesk::Row::Objects); },
+              [this](UINT nID) { m_parts.desk.Run(nID); }),
       m_pathBar({[this](int nPart) { m_parts.navigation.GoToPart(nPart); }, [this] { m_parts.places.TypePath(); },
                  [this](const std::string& path) { return m_parts.places.ShowTyped(path); },
                  [this] { m_parts.content.TakeFocus(); }}),
@@ -33,8 +35,8 @@ bool Bars::Create(CWnd* pFrame)
 PaneLayout::Wanted Bars::GetWanted(int nTree) const
 {
     return {.tree = nTree,
-            .ways = CToolBar::WidthOf(m_parts.desk.WayTools()),
-            .tools = CToolBar::WidthOf(m_parts.desk.ObjectTools())};
+            .ways = CToolBar::WidthOf(m_parts.desk.Tools(CommandDesk::Row::Ways)),
+            .tools = CToolBar::WidthOf(m_parts.desk.Tools(CommandDesk::Row::Objects))};
 }
 
 void Bars::MoveTo(const PaneLayout& layout)

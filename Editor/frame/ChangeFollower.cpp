@@ -148,7 +148,7 @@ void ChangeFollower::LookAround()
 std::string ChangeFollower::FollowPhases()
 {
     PhaseFollower::Followed followed = m_parts.navigation.Library()->Context().pFollower->Follow(
-        m_parts.editor.GetHistory(), &m_parts.editor.GetWork());
+        m_parts.editor.GetHistory(), m_parts.editor.GetWork());
     m_unfollowed = std::move(followed.trouble);
     if (followed.phases.empty() && m_unfollowed.empty())
         return {};

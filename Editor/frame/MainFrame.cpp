@@ -91,7 +91,7 @@ void CMainFrame::Remember(Settings& settings) const
 
 void CMainFrame::ShowAsBefore(const Settings& settings, bool bShown)
 {
-    const LongWork::Command command(&m_editor.GetWork(), "Reading", Progress::Unit::Found);
+    const LongWork::Command command(m_editor.GetWork(), "Reading", Progress::Unit::Found);
     for (const std::string& path : settings.expanded)
         m_tree.ExpandAtom(m_navigation.Library()->Find(path).Get());
     const CStubRef<CMember> pShown = bShown ? m_navigation.Library()->Find(settings.shown) : CStubRef<CMember>();

@@ -79,7 +79,7 @@ CEditorList::Events CMainFrame::ListEvents()
 
 CPlayerView::Events CMainFrame::PlayerEvents()
 {
-    return {[this] { return m_desk.PlayerTools(); }, [this](UINT nID) { m_desk.Run(nID); }};
+    return {[this] { return m_desk.Tools(CommandDesk::Row::Player); }, [this](UINT nID) { m_desk.Run(nID); }};
 }
 
 } // namespace editor

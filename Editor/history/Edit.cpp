@@ -112,14 +112,4 @@ void RewritingEdit::Tell(Changes& changes) const
     changes.containers[m_path];
 }
 
-void RewritingEdit::CountIn(StepSummary& summary) const
-{
-    summary.texts.insert(m_path);
-}
-
-void UnsavedEdit::CountIn(StepSummary& summary) const
-{
-    summary.texts.insert(m_path);
-}
-
 } // namespace editor

@@ -149,7 +149,7 @@ public:
     void GoOnTo(TextState now) { m_now = std::move(now); } // rewritten once more
     bool IsFrom(const TextState& state) const { return m_former.text == state.text; }
     void Tell(Changes& changes) const override;
-    void CountIn(StepSummary& summary) const override;
+    void CountIn(StepSummary& summary) const override { summary.texts.insert(m_path); }
 
 protected:
     std::string DoUndo() override { return Rewrite(m_now, m_former); }
@@ -174,7 +174,7 @@ public:
     {}
 
     void Tell(Changes& changes) const override { changes.unsaved.push_back({m_path, IsMade() ? m_now : m_former}); }
-    void CountIn(StepSummary& summary) const override;
+    void CountIn(StepSummary& summary) const override { summary.texts.insert(m_path); }
 
 protected:
     std::string DoUndo() override { return {}; }

@@ -72,16 +72,14 @@ History::Step::~Step()
 template <class Iterator, class Way>
 std::string History::DoAll(Iterator first, Iterator last, Way make, Way takeBack)
 {
-    if (m_pWork)
-        m_pWork->GetMeter().SetTotal(static_cast<std::uint64_t>(std::distance(first, last)));
+    m_work.GetMeter().SetTotal(static_cast<std::uint64_t>(std::distance(first, last)));
     for (Iterator at = first; at != last; ++at) {
-        std::string reason = IsCancelled(m_pWork) ? kCancelled : Aside(m_pWork, [&] { return ((**at).*make)(); });
-        if (m_pWork)
-            m_pWork->GetMeter().Did(1);
+        std::string reason = m_work.IsCancelled() ? kCancelled : Aside(m_work, [&] { return ((**at).*make)(); });
+        m_work.GetMeter().Did(1);
         if (reason.empty())
             continue;
         while (at != first)
-            Aside(m_pWork, [&] { ((**--at).*takeBack)(); });
+            Aside(m_work, [&] { ((**--at).*takeBack)(); });
         return reason;
     }
     return {};
@@ -183,7 +181,7 @@ void History::ForgetNextRedo()
 
 void History::Came(const std::string& folder, const std::string& name) noexcept
 {
-    Note([&] { m_open.push_back(Aside(m_pWork, [&] { return std::make_unique<PlacingEdit>(folder + '/' + name); })); });
+    Note([&] { m_open.push_back(Aside(m_work, [&] { return std::make_unique<PlacingEdit>(folder + '/' + name); })); });
 }
 
 void History::Went(const std::string& path, const TrashPlace& place) noexcept

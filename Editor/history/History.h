@@ -27,12 +27,13 @@ class History
 public:
     static constexpr std::size_t kMostSteps = 200;
 
+    explicit History(LongWork& work) : m_work(work) {} // does what takes long; borrowed
+
     // `news` is called with one line whenever a step was done, taken back or done again; it may be empty.
     void SetNews(std::function<void(const std::string& line)> news) { m_news = std::move(news); }
 
     // Each step, while it is done, leaves a mark in that folder (UnderwayMark), which says what is done at `place`.
     void SetMarks(std::string folder, std::string place);
-    void SetWork(LongWork* pWork) { m_pWork = pWork; } // does what takes long; borrowed, NULL: done at once
     // Called at the end of each step for what is still to be done in it. The answer stands behind the step's name in
     // the news; it may be empty.
     void SetLastPart(std::function<std::string()> lastPart) { m_lastPart = std::move(lastPart); }
@@ -104,7 +105,7 @@ private:
     template <class Iterator, class Way>
     std::string DoAll(Iterator first, Iterator last, Way make, Way takeBack);
 
-    LongWork* m_pWork = nullptr;
+    LongWork& m_work;
     std::string m_markFolder, m_place;
     std::optional<UnderwayMark> m_mark; // of the open step
     std::deque<Done> m_steps;

@@ -54,7 +54,7 @@ void CContainer::ReadAgain()
     auto pNow = std::make_unique<Contents>();
     {
         const BeingRead now(*this);
-        static_cast<Listing&>(*pNow) = Aside(Context().pWork, [this] { return Read(); });
+        static_cast<Listing&>(*pNow) = Aside(Context().work, [this] { return Read(); });
     }
     if (m_pContents)
         MoveMembers(*m_pContents, *pNow);

@@ -34,10 +34,8 @@ CContainer::Listing CFolder::Read()
         return listing;
     }
     m_identity = directory.GetIdentity();
-    Meter* const pMeter = MeterOf(Context().pWork);
     directory.ForEach([&](const char* pszName, bool isDirectory) {
-        if (pMeter)
-            pMeter->Did(1);
+        Context().work.GetMeter().Did(1);
         listing.table.Add(pszName, isDirectory ? MemberKind::Folder : KindOfName(pszName));
         return true;
     });

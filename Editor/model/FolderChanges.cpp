@@ -99,8 +99,8 @@ std::string CFolder::Add(const ArchiveRecord& record, const std::string& name, b
         bCurrent = true;
         return mayDiffer ? ValidNameFor(name) : std::string();
     };
-    LongWork* const pWork = Context().pWork;
-    std::string failure = Aside(pWork, [&] { return Unpack(path, added.name, adapted, another, MeterOf(pWork)); });
+    LongWork& work = Context().work;
+    std::string failure = Aside(work, [&] { return Unpack(path, added.name, adapted, another, &work.GetMeter()); });
     if (failure.empty() && bCurrent)
         m_taken.Added(path, added.name);
     if (History* const pHistory = Context().pHistory; pHistory && failure.empty()) {
@@ -164,11 +164,10 @@ std::string CFolder::MoveAway(const std::string& path, TrashPlace& place)
     struct stat status;
     const bool bKnown = stat(path.c_str(), &status) == 0;
     const FileIdentity identity = bKnown ? FileIdentity{status.st_dev, status.st_ino} : FileIdentity();
-    LongWork* const pWork = Context().pWork;
+    LongWork& work = Context().work;
     const std::string reason =
-        IsCancelled(pWork) ? kCancelled : Aside(pWork, [&] { return RemoveFromDisk(path, place); });
-    if (pWork)
-        pWork->GetMeter().Did(1);
+        work.IsCancelled() ? kCancelled : Aside(work, [&] { return RemoveFromDisk(path, place); });
+    work.GetMeter().Did(1);
     if (History* const pHistory = Context().pHistory; pHistory && !place.name.empty()) {
         Context().pFollower->Went(path, identity);
         pHistory->Went(path, place);

@@ -46,10 +46,10 @@ std::vector<std::string> PartsBelow(const std::string& root, const std::string& 
 } // namespace
 
 CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std::string>& extensions,
-                                  std::shared_ptr<PictureStore> pPictures, std::string& error, FolderWatch* pWatch,
-                                  LongWork* pWork)
+                                  std::shared_ptr<PictureStore> pPictures, LongWork& work, std::string& error,
+                                  FolderWatch* pWatch)
 {
-    LibraryContext context;
+    LibraryContext context{.work = work};
     error = FindFolder(path, context.rootPath);
     CStubRef<CLibrary> pLibrary;
     if (error.empty()) {
@@ -57,7 +57,6 @@ CStubRef<CLibrary> CLibrary::Open(const std::string& path, const std::vector<std
         std::sort(context.pictureExtensions.begin(), context.pictureExtensions.end());
         context.pPictures = std::move(pPictures);
         context.pWatch = pWatch;
-        context.pWork = pWork;
         pLibrary = CStubRef<CLibrary>::Adopt(new CLibrary(std::move(context)));
         pLibrary->ReadAgain();
         error = pLibrary->ErrorReason();

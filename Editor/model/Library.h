@@ -11,10 +11,11 @@ class CLibrary : public hostkit::With<CFolder, ICharacterLibrary>
 {
 public:
     // The library of that folder, with its members read. Empty, and `error` is one line that names the folder and
-    // the reason, when there is no such folder or it cannot be read. The watch, of its folders, is borrowed.
+    // the reason, when there is no such folder or it cannot be read. The work and the watch, of its folders, are
+    // borrowed.
     [[nodiscard]] static CStubRef<CLibrary> Open(const std::string& path, const std::vector<std::string>& extensions,
-                                                 std::shared_ptr<PictureStore> pPictures, std::string& error,
-                                                 FolderWatch* pWatch = nullptr, LongWork* pWork = nullptr);
+                                                 std::shared_ptr<PictureStore> pPictures, LongWork& work,
+                                                 std::string& error, FolderWatch* pWatch = nullptr);
 
     void SetHistory(History* pHistory); // borrowed
 

@@ -92,23 +92,23 @@ PhaseFollower::Moves PhaseFollower::TakeMoves(std::string& trouble)
     return moves;
 }
 
-PhaseFollower::Followed PhaseFollower::Follow(History& history, LongWork* pWork) noexcept
+PhaseFollower::Followed PhaseFollower::Follow(History& history, LongWork& work) noexcept
 {
     Followed followed;
-    Note([&] { FollowAll(history, pWork, followed); });
+    Note([&] { FollowAll(history, work, followed); });
     if (std::exchange(m_bLost, false))
         Note([&] { followed.trouble = kNoMemory; });
     return followed;
 }
 
-void PhaseFollower::FollowAll(History& history, LongWork* pWork, Followed& followed)
+void PhaseFollower::FollowAll(History& history, LongWork& work, Followed& followed)
 {
     const Moves moves = TakeMoves(followed.trouble);
     if (moves.to.empty())
         return;
-    const bool bPart = pWork && pWork->IsUnderWay(); // of what counts for itself
-    const LongWork::Command command(pWork, "Having phases follow", Progress::Unit::Objects);
-    if (std::string trouble = Aside(pWork, [&] { return m_index.Update(); }); !trouble.empty())
+    const bool bPart = work.IsUnderWay(); // of what counts for itself
+    const LongWork::Command command(work, "Having phases follow", Progress::Unit::Objects);
+    if (std::string trouble = Aside(work, [&] { return m_index.Update(); }); !trouble.empty())
         followed.trouble = std::move(trouble);
     std::set<std::string> phases;
     for (const auto& [from, to] : moves.to) {
@@ -116,14 +116,14 @@ void PhaseFollower::FollowAll(History& history, LongWork* pWork, Followed& follo
         m_index.AddNaming(to, phases);
         m_index.AddAt(to, phases);
     }
-    Meter* const pMeter = bPart ? nullptr : MeterOf(pWork);
+    Meter* const pMeter = bPart ? nullptr : &work.GetMeter();
     if (pMeter)
         pMeter->SetTotal(phases.size());
     for (const std::string& phase : phases) {
         TextState former;
         bool bRewritten = false;
         const auto follow = [&] { return FollowIn(phase, moves, former, bRewritten); };
-        if (const std::string reason = Aside(pWork, follow); !reason.empty())
+        if (const std::string reason = Aside(work, follow); !reason.empty())
             followed.trouble = ToShown(BaseName(phase)) + ": cannot follow: " + reason;
         if (pMeter)
             pMeter->Did(1);
@@ -183,15 +183,15 @@ PicturePlace PhaseFollower::Wanted(std::string_view picture, const std::string& 
     return {};
 }
 
-int PhaseFollower::CountBroken(const std::vector<std::string>& going, LongWork* pWork)
+int PhaseFollower::CountBroken(const std::vector<std::string>& going, LongWork& work)
 {
-    const LongWork::Command command(pWork, "Looking for phases", Progress::Unit::Objects);
-    Aside(pWork, [&] { m_index.Update(); });
+    const LongWork::Command command(work, "Looking for phases", Progress::Unit::Objects);
+    Aside(work, [&] { m_index.Update(); });
     std::set<std::string> phases, gone;
     for (const std::string& path : going)
         m_index.AddNaming(*gone.insert(Own(path)).first, phases);
     const auto wouldBreak = [&](const std::string& phase) {
-        return Aside(pWork, [&] { return WouldBreak(phase, gone); });
+        return Aside(work, [&] { return WouldBreak(phase, gone); });
     };
     return static_cast<int>(std::count_if(phases.begin(), phases.end(), wouldBreak));
 }

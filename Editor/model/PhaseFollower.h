@@ -34,10 +34,10 @@ public:
         std::vector<std::string> phases; // their paths
         std::string trouble;             // the line for one that could not be written, or for what is not known
     };
-    Followed Follow(History& history, LongWork* pWork) noexcept; // since the last time; NULL: at once
+    Followed Follow(History& history, LongWork& work) noexcept; // since the last time
 
     // How many phases would miss a picture if these went.
-    int CountBroken(const std::vector<std::string>& going, LongWork* pWork);
+    int CountBroken(const std::vector<std::string>& going, LongWork& work);
 
 private:
     struct Moves
@@ -49,7 +49,7 @@ private:
     void Note(Change change) noexcept;
     std::string Own(const std::string& path) const;
     Moves TakeMoves(std::string& trouble);
-    void FollowAll(History& history, LongWork* pWork, Followed& followed);
+    void FollowAll(History& history, LongWork& work, Followed& followed);
     std::string FollowIn(const std::string& phase, const Moves& moves, TextState& former, bool& bRewritten) const;
     PicturePlace Wanted(std::string_view picture, const std::string& folder, const Moves& moves) const;
     bool WouldBreak(const std::string& phase, const std::set<std::string>& going) const;

@@ -34,8 +34,6 @@ PhaseIndex::PhaseIndex(std::string root)
       })
 {}
 
-PhaseIndex::~PhaseIndex() = default;
-
 void PhaseIndex::LookFromTop(const std::stop_token& stop)
 try {
     LookThrough({m_root}, stop);

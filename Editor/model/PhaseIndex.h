@@ -24,7 +24,6 @@ class PhaseIndex
 {
 public:
     explicit PhaseIndex(std::string root); // absolute
-    ~PhaseIndex();
     PhaseIndex(const PhaseIndex&) = delete;
     PhaseIndex& operator=(const PhaseIndex&) = delete;
 

@@ -12,7 +12,7 @@ namespace editor
 class CAtomEditor final : public hostkit::CAtomEditor
 {
 public:
-    CAtomEditor() : hostkit::CAtomEditor("application/x-views-atoms") { m_history.SetWork(&m_work); }
+    CAtomEditor() : hostkit::CAtomEditor("application/x-views-atoms") {}
 
     static CAtomEditor& Current(); // the one that the services give
 
@@ -53,7 +53,7 @@ protected:
 
 private:
     LongWork m_work;
-    History m_history;
+    History m_history{m_work};
     std::weak_ptr<const ActiveMembers> m_pDragged;
     bool m_bCanLeaveOut = false, m_bLeavingOut = false;
 };

@@ -129,7 +129,7 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
     if (!archive)
         return FALSE;
     try {
-        const LongWork::Command command(&m_work, "Copying", Progress::Unit::Bytes);
+        const LongWork::Command command(m_work, "Copying", Progress::Unit::Bytes);
         Writing writing;
         ArchiveWriter writer(*archive);
         writer.SetReplacement([&](const auto&... file) { return TextWithUnsaved(writing.unsaved, file...); });
@@ -137,7 +137,7 @@ BOOL CAtomEditor::WriteActiveObjects(IArchive* archive)
             writer.AllowLeavingOut();
         NoteObjects(GetActiveMembers(*this), writing);
         if (writing.error.empty())
-            writing.error = Aside(&m_work, [&] { return WriteAll(writing.objects, writer, m_work.GetMeter()); });
+            writing.error = Aside(m_work, [&] { return WriteAll(writing.objects, writer, m_work.GetMeter()); });
         if (writing.error.empty() && m_work.IsCancelled())
             writing.error = kCancelled;
         if (!writing.error.empty())
@@ -159,7 +159,7 @@ BOOL CAtomEditor::ReadArchive(ARCHIVEATOMPROC callback, IArchive* archive, void*
         const std::string_view bytes = BytesOf(*archive);
         if (m_work.GetMeter().Total() == 0)
             m_work.GetMeter().SetTotal(bytes.size());
-        const std::string_view records = Aside(&m_work, [&] { return OpenArchive(bytes, trouble); });
+        const std::string_view records = Aside(m_work, [&] { return OpenArchive(bytes, trouble); });
         if (!trouble.empty())
             return NoteArchiveError("The objects cannot be read: " + trouble + '.');
         Troubles troubles;

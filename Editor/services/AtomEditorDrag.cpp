@@ -47,7 +47,7 @@ std::shared_ptr<void> CAtomEditor::BeginRemoval(const ActiveMembers& members)
     struct Removal
     {
         Removal(LongWork& work, const ActiveMembers& members)
-            : command(&work, "Moving", Progress::Unit::Objects), joint(members)
+            : command(work, "Moving", Progress::Unit::Objects), joint(members)
         {
             work.GetMeter().SetTotal(members.size());
         }

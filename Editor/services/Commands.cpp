@@ -76,7 +76,7 @@ std::string MissingIn(const ActiveMembers& members, LongWork& work)
         paths.push_back(pMember->Path());
         pFollower = pMember->Context().pFollower.get();
     }
-    const int nBroken = pFollower ? pFollower->CountBroken(paths, &work) : 0;
+    const int nBroken = pFollower ? pFollower->CountBroken(paths, work) : 0;
     return nBroken == 0 ? std::string()
                         : std::to_string(nBroken) + (nBroken == 1 ? " phase" : " phases") + " will miss pictures";
 }
@@ -134,7 +134,7 @@ try {
     if (members.empty())
         return kNothingSelected;
     const History::Step step(&m_editor.GetHistory(), "cut");
-    const LongWork::Command command(&m_editor.GetWork(), "Cutting", Progress::Unit::Bytes);
+    const LongWork::Command command(m_editor.GetWork(), "Cutting", Progress::Unit::Bytes);
     const JointRemoval joint(members);
     ::SetLastError(ERROR_SUCCESS);
     const RevocableRemoval revocable(OwnOf<CMember>(members));
@@ -164,7 +164,7 @@ try {
     if (members.empty())
         return kNothingSelected;
     const History::Step step(&m_editor.GetHistory(), "deletion");
-    const LongWork::Command command(&m_editor.GetWork(), "Removing", Progress::Unit::Objects);
+    const LongWork::Command command(m_editor.GetWork(), "Removing", Progress::Unit::Objects);
     m_editor.GetWork().GetMeter().SetTotal(members.size());
     const JointRemoval joint(members);
     RemoveObjects(FALSE);
@@ -176,7 +176,7 @@ try {
 std::string Commands::Paste(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived)
 try {
     const History::Step step(&m_editor.GetHistory(), "paste");
-    const LongWork::Command command(&m_editor.GetWork(), "Pasting", Progress::Unit::Bytes);
+    const LongWork::Command command(m_editor.GetWork(), "Pasting", Progress::Unit::Bytes);
     auto* const pPhase = dynamic_cast<CPhase*>(pTarget);
     const UINT nFormer = pPhase ? pPhase->GetCount() : 0;
     const Arrivals arrivals(m_editor, pTarget, arrived);

@@ -44,12 +44,12 @@ std::string PasteFile(const std::string& path, CFolder& folder)
         return folder.ShownName() + ": no archive can be made for it";
     ArchiveWriter writer(*pArchive.Get());
     writer.AllowLeavingOut();
-    writer.SetMeter(MeterOf(folder.Context().pWork));
+    writer.SetMeter(&folder.Context().work.GetMeter());
     const auto write = [&] {
         std::string failure = writer.AddPath(path, {});
         return failure.empty() ? writer.Finish() : failure;
     };
-    if (std::string failure = Aside(folder.Context().pWork, write); !failure.empty())
+    if (std::string failure = Aside(folder.Context().work, write); !failure.empty())
         return failure;
     if (CheckPaste(pArchive.Get(), &folder, FALSE) == PASTE_REFUSED)
         return ToShown(path.substr(path.rfind('/') + 1)) + ": not a file that the library shows";
@@ -129,12 +129,11 @@ try {
     CFolder* const pFolder = FolderBehind(pContainer);
     if (paths.empty() || !pFolder)
         return "there are no files of this computer in it";
-    LongWork* const pWork = pFolder->Context().pWork;
-    if (pWork) // read once, and written once
-        Aside(pWork, [&] {
-            for (const std::string& path : paths)
-                pWork->GetMeter().SetTotal(pWork->GetMeter().Total() + 2 * BytesBelow(path, pWork->GetMeter()));
-        });
+    LongWork& work = pFolder->Context().work;
+    Aside(work, [&] {
+        for (const std::string& path : paths) // read once, and written once
+            work.GetMeter().SetTotal(work.GetMeter().Total() + 2 * BytesBelow(path, work.GetMeter()));
+    });
     const bool bCut = IsCut(TakeText(data.GetGlobalData(CopiedFilesFormat())));
     Troubles troubles;
     for (const std::string& path : paths) {
@@ -142,7 +141,7 @@ try {
         if (failure.empty() && bCut)
             failure = pFolder->RemoveOriginal(path);
         troubles.Add(std::move(failure));
-        if (IsCancelled(pWork))
+        if (work.IsCancelled())
             break;
     }
     return troubles.Text();

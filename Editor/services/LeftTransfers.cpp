@@ -21,15 +21,10 @@ constexpr std::string_view kBeginning = "AE";
 constexpr std::size_t kSecret = 26;   // random characters
 constexpr std::time_t kYoungest = 60; // seconds: one that is younger may be on its way to its owner
 
-struct FreeName
-{
-    void operator()(char* psz) const { std::free(psz); }
-};
-
 // The folder in which a new transfer file would be.
 std::string TransferFolder()
 {
-    const std::unique_ptr<char, FreeName> pszPath(::_tempnam(std::getenv("TEMP"), "AE"));
+    const std::unique_ptr<char, void (*)(void*)> pszPath(::_tempnam(std::getenv("TEMP"), "AE"), &std::free);
     const std::string path = pszPath ? pszPath.get() : "";
     return path.substr(0, path.rfind('/') + 1);
 }

@@ -31,7 +31,7 @@ void TellLater(const DropFailed& failed, std::string reason)
 struct Dropping
 {
     const History::Step step{&CAtomEditor::Current().GetHistory()};
-    const LongWork::Command command{&CAtomEditor::Current().GetWork(), "Pasting", Progress::Unit::Bytes};
+    const LongWork::Command command{CAtomEditor::Current().GetWork(), "Pasting", Progress::Unit::Bytes};
 };
 
 BOOL DropFiles(COleDataObject* pData, IAtomContainer* pContainer, const DropFailed& failed)

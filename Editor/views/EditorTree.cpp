@@ -2,6 +2,7 @@
 
 #include "Editor/model/Folder.h"
 #include "Editor/model/PictureMember.h"
+#include "Editor/services/AtomEditor.h"
 
 #include <deque>
 #include <set>
@@ -53,14 +54,19 @@ CEditorTree::CEditorTree(DropFailed dropFailed, DropRefused dropRefused, std::fu
     ShowMembersOnDemand();
 }
 
+IAtom* CEditorTree::AtomOf(HTREEITEM hItem) const
+{
+    const auto* const pRecord = hItem ? reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
+    return pRecord ? pRecord->pAtom.Get() : nullptr;
+}
+
 std::vector<std::string> CEditorTree::ExpandedPaths(std::size_t nMost) const
 {
     std::vector<std::string> paths;
     std::deque<HTREEITEM> siblings{GetRootItem()}; // the first of each
     for (; !siblings.empty(); siblings.pop_front())
         for (HTREEITEM hItem = siblings.front(); hItem && paths.size() < nMost; hItem = GetNextSiblingItem(hItem)) {
-            const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
-            const CMember* const pMember = pRecord ? CMember::Of(pRecord->pAtom.Get()) : nullptr;
+            const CMember* const pMember = CMember::Of(AtomOf(hItem));
             if (!pMember || !(GetItemState(hItem, TVIS_EXPANDED) & TVIS_EXPANDED))
                 continue;
             paths.push_back(pMember->Path());
@@ -81,19 +87,15 @@ CStubRef<IAtom> CEditorTree::Beside(IAtom* pAtom, int nStep) const
         return nStep < 0 ? GetPrevSiblingItem(hItem) : GetNextSiblingItem(hItem);
     };
     const HTREEITEM hFrom = GetItem(pAtom);
-    for (HTREEITEM hItem = hFrom ? step(hFrom) : nullptr; hItem; hItem = step(hItem)) {
-        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
-        if (pRecord && dynamic_cast<CPictureMember*>(CMember::Of(pRecord->pAtom.Get())))
-            return CStubRef<IAtom>::Share(pRecord->pAtom.Get());
-    }
+    for (HTREEITEM hItem = hFrom ? step(hFrom) : nullptr; hItem; hItem = step(hItem))
+        if (dynamic_cast<CPictureMember*>(AtomOf(hItem)))
+            return CStubRef<IAtom>::Share(AtomOf(hItem));
     return {};
 }
 
 CStubRef<IAtomContainer> CEditorTree::ContainerAt(CPoint client) const
 {
-    const HTREEITEM hItem = HitTest(client);
-    const auto* const pRecord = hItem ? reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem)) : nullptr;
-    return CStubRef<IAtomContainer>::From(pRecord ? pRecord->pAtom.Get() : nullptr);
+    return CStubRef<IAtomContainer>::From(AtomOf(HitTest(client)));
 }
 
 int CEditorTree::OnCreate(LPCREATESTRUCT lpCreateStruct)
@@ -126,8 +128,7 @@ void CEditorTree::UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer)
     std::set<IAtom*> known;
     std::vector<CStubRef<IAtom>> gone;
     for (HTREEITEM hChild = GetChildItem(hItem); hChild; hChild = GetNextSiblingItem(hChild)) {
-        const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hChild));
-        IAtom* const pAtom = pRecord ? pRecord->pAtom.Get() : nullptr;
+        IAtom* const pAtom = AtomOf(hChild);
         known.insert(pAtom);
         if (pAtom && !pContainer->FindAtomByID(pAtom->GetID(), nullptr, 0))
             gone.push_back(CStubRef<IAtom>::Share(pAtom));
@@ -136,9 +137,7 @@ void CEditorTree::UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer)
         CObjectsTree::OnDeleteAtom(pAtom.Get(), pContainer);
     for (UINT i = 0, nCount = pContainer->GetCount(); i < nCount; ++i) {
         CStubRef<IAtom> pAtom;
-        void* pMember = nullptr;
-        pContainer->GetAtoms(i, 1, &pMember, IID_IAtom);
-        pAtom = CStubRef<IAtom>::Adopt(static_cast<IAtom*>(pMember));
+        pContainer->GetAtoms(i, 1, pAtom.Receive(), IID_IAtom);
         if (pAtom && !known.contains(pAtom.Get()))
             CObjectsTree::OnCreateAtom(pAtom.Get(), pContainer);
     }
@@ -207,11 +206,8 @@ void CEditorTree::OnItemExpanding(NMTREEVIEW* pChange, LRESULT* pResult)
         *pResult = TRUE;
         return;
     }
-    const auto* const pRecord = reinterpret_cast<const TREEITEMDATA*>(GetItemData(hItem));
-    const auto pAtom = CStubRef<IAtom>::Share(pRecord ? pRecord->pAtom.Get() : nullptr);
-    auto* const pContainer = dynamic_cast<CContainer*>(pAtom.Get());
-    const LongWork::Command command(pContainer ? pContainer->Context().pWork : nullptr, "Reading",
-                                    Progress::Unit::Found);
+    const auto pAtom = CStubRef<IAtom>::Share(AtomOf(hItem));
+    const LongWork::Command command(CAtomEditor::Current().GetWork(), "Reading", Progress::Unit::Found);
     ShowMembers(pAtom.Get());
     Invalidate(); // without members the button goes
 }

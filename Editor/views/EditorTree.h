@@ -47,6 +47,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    IAtom* AtomOf(HTREEITEM hItem) const; // borrowed; NULL: none
     bool MayHoldAny(CContainer& container);
     void ShowItemOf(CMember* pMember);
     void UpdateMembers(HTREEITEM hItem, IAtomContainer* pContainer);

@@ -1,10 +1,10 @@
 #include "Editor/views/FolderDrop.h"
 
+#include "Editor/disk/DiskFile.h"
 #include "Editor/services/AtomEditor.h"
 #include "Editor/services/DroppedFiles.h"
 #include "Toolkit/message/TaskInbox.h"
 
-#include <filesystem>
 #include <utility>
 
 namespace editor
@@ -15,8 +15,7 @@ namespace
 std::string OnlyFolder(COleDataObject& data)
 {
     const std::vector<std::string> paths = OfferedPaths(data);
-    std::error_code failure;
-    return paths.size() == 1 && std::filesystem::is_directory(paths.front(), failure) ? paths.front() : std::string();
+    return paths.size() == 1 && IsFolder(paths.front()) ? paths.front() : std::string();
 }
 
 } // namespace

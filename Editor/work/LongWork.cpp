@@ -15,7 +15,11 @@ class Waiting
 {
 public:
     explicit Waiting(Worker& worker) : m_worker(worker) {}
-    ~Waiting() { m_worker.Wait(); }
+    ~Waiting()
+    {
+        while (!m_worker.WaitFor(kBeat)) {
+        }
+    }
     Waiting(const Waiting&) = delete;
     Waiting& operator=(const Waiting&) = delete;
 
@@ -37,16 +41,9 @@ private:
 
 } // namespace
 
-LongWork::Command::Command(LongWork* pWork, const char* pszWhat, Progress::Unit unit) : m_pWork(pWork)
+LongWork::Command::Command(LongWork& work, const char* pszWhat, Progress::Unit unit) : m_work(work)
 {
-    if (m_pWork)
-        m_pWork->Begin(pszWhat, unit);
-}
-
-LongWork::Command::~Command()
-{
-    if (m_pWork)
-        m_pWork->End();
+    m_work.Begin(pszWhat, unit);
 }
 
 void LongWork::Begin(const char* pszWhat, Progress::Unit unit)

@@ -63,13 +63,13 @@ public:
     class Command
     {
     public:
-        Command(LongWork* pWork, const char* pszWhat, Progress::Unit unit); // borrowed; NULL: nothing is made of it
-        ~Command();
+        Command(LongWork& work, const char* pszWhat, Progress::Unit unit); // borrowed
+        ~Command() { m_work.End(); }
         Command(const Command&) = delete;
         Command& operator=(const Command&) = delete;
 
     private:
-        LongWork* const m_pWork;
+        LongWork& m_work;
     };
 
     bool IsUnderWay() const { return m_nCommands > 0; }
@@ -102,29 +102,19 @@ private:
     std::chrono::steady_clock::time_point m_answered;
 };
 
-// Has the work done aside; without a LongWork, right here.
+// Has the work done aside.
 template <class Work>
-auto Aside(LongWork* pWork, Work work) -> std::invoke_result_t<Work>
+auto Aside(LongWork& aside, Work work) -> std::invoke_result_t<Work>
 {
-    if (!pWork)
-        return work();
     if constexpr (std::is_void_v<std::invoke_result_t<Work>>) {
-        pWork->Run(work);
+        aside.Run(work);
     } else {
         std::optional<std::invoke_result_t<Work>> result;
-        pWork->Run([&] { result.emplace(work()); });
+        aside.Run([&] { result.emplace(work()); });
         return std::move(*result);
     }
 }
 
-inline Meter* MeterOf(LongWork* pWork)
-{
-    return pWork ? &pWork->GetMeter() : nullptr;
-}
-inline bool IsCancelled(const LongWork* pWork)
-{
-    return pWork && pWork->IsCancelled();
-}
 inline constexpr const char* kCancelled = "was cancelled"; // why something was not done
 
 } // namespace editor

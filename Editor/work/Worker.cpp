@@ -34,12 +34,6 @@ bool Worker::WaitFor(std::chrono::milliseconds patience)
     return m_done.wait_for(lock, patience, [this] { return m_pTask == nullptr; });
 }
 
-void Worker::Wait()
-{
-    std::unique_lock lock(m_mutex);
-    m_done.wait(lock, [this] { return m_pTask == nullptr; });
-}
-
 void Worker::Finish()
 {
     if (const std::exception_ptr pRaised = std::exchange(m_pRaised, nullptr))

@@ -22,7 +22,6 @@ public:
 
     void Begin(const std::function<void()>& task);    // borrowed until it is done
     bool WaitFor(std::chrono::milliseconds patience); // true when the task is done
-    void Wait();                                      // until it is
     void Finish();                                    // then: raises what the task has raised
 
 private:

@@ -146,7 +146,8 @@ protected:
     // Its first look goes on beside everything else.
     static void AwaitIndex(const editor::EditorApp& app)
     {
-        app.GetFrame()->GetNavigation().Library()->Context().pFollower->CountBroken({}, nullptr);
+        const editor::LibraryContext& library = app.GetFrame()->GetNavigation().Library()->Context();
+        library.pFollower->CountBroken({}, library.work);
     }
     static CStubRef<editor::CPhase> PhaseToSave(const editor::CMainFrame& frame)
     {
@@ -219,7 +220,8 @@ protected:
     {
         if (const pid_t child = fork(); child == 0) {
             std::string error;
-            const auto pLibrary = editor::CLibrary::Open(folder.At("library"), {"bmp"}, nullptr, error);
+            editor::LongWork work;
+            const auto pLibrary = editor::CLibrary::Open(folder.At("library"), {"bmp"}, nullptr, work, error);
             for (const char* const pszFolder : {"Ada", "Bo"}) {
                 CStubRef<IAtomContainer> pContainer;
                 if (pLibrary->FindAtom(pszFolder, pContainer.Receive(), IID_IAtomContainer))

@@ -41,7 +41,7 @@ LibraryTest::~LibraryTest()
 std::string LibraryTest::Open(const std::string& path)
 {
     std::string error;
-    m_pLibrary = editor::CLibrary::Open(path, reader.Extensions(), pPictures, error);
+    m_pLibrary = editor::CLibrary::Open(path, reader.Extensions(), pPictures, m_work, error);
     EXPECT_EQ(error.empty(), static_cast<bool>(m_pLibrary));
     return m_pLibrary ? Members(m_pLibrary.Get()) : "! " + error;
 }

@@ -39,6 +39,7 @@ protected:
 
 private:
     LedgerBook m_arrivals;
+    editor::LongWork m_work;
     CStubRef<editor::CLibrary> m_pLibrary;
     const int m_nLive;
 };
