@@ -10,14 +10,6 @@ namespace
 class CommandDeskTest : public EditorTest
 {
 protected:
-    void Alt(UINT vkey)
-    {
-        desktop.Hold({.alt = true});
-        desktop.Key(vkey);
-        desktop.Hold({});
-        Settle();
-    }
-    std::string News() { return Frame().GetStatus().news; }
     std::string Path() { return Frame().Shown()->Path().substr(folder.Path().size()); }
 };
 
@@ -40,12 +32,10 @@ TEST_F(CommandDeskTest, MenusAreWalkedByKeysAndMouseAndDoWhatTheySay)
     desktop.Key(VK_F10);
     desktop.Key(VK_ESCAPE);
     EXPECT_EQ("/ | [(a.bmp) (Ada)] | 2 objects, 2 selected", Screen()) << "Escape was the bar's";
-    const HWND hBar = Frame().GetBars().GetMenuBar().m_hWnd;
-    desktop.Choose("Thumbnails");
-    desktop.Click(hBar, Frame().GetBars().GetMenuBar().TitleRect(2).CenterPoint());
+    ChooseFromMenu(2, "Thumbnails");
     EXPECT_EQ(editor::ListKind::Thumbnails, Frame().GetContent().GetKind());
     desktop.Choose("Close");
-    Alt('F');
+    Press('F', kAlt);
     EXPECT_EQ(1, nClosed);
 }
 
@@ -71,9 +61,8 @@ TEST_F(CommandDeskTest, WhatCannotBeDoneSaysWhyAndEveryKeyMeansOneThing)
     EXPECT_EQ("", desktop.ToolTip());
 
     std::set<std::string> keys;
-    for (const editor::CommandEntry& command : editor::AllCommands()) {
+    for (const editor::CommandEntry& command : editor::AllCommands())
         EXPECT_TRUE(command.key.vkey == 0 || keys.insert(command.key.Text()).second) << command.key.Text();
-    }
     Press(VK_F1);
     EXPECT_TRUE(Frame().GetKeysSheet().IsWindowVisible());
     EXPECT_EQ("Ctrl+O", Frame().GetKeysSheet().GetGroups().front().lines.front().key);
@@ -90,23 +79,22 @@ TEST_F(CommandDeskTest, BackAndForthPastWhatIsGoneAndToWhatIsTyped)
     Open();
     DoubleClick("Ada");
     DoubleClick("Poses");
-    Alt(VK_LEFT);
-    Alt(VK_LEFT);
+    Press(VK_LEFT, kAlt);
+    Press(VK_LEFT, kAlt);
     EXPECT_EQ("", Path());
     folder.Remove("Ada/Poses");
     folder.Remove("Ada");
     Press(VK_F5);
     DoubleClick("Bo");
-    Alt(VK_LEFT);
-    Alt(VK_RIGHT);
+    Press(VK_LEFT, kAlt);
+    Press(VK_RIGHT, kAlt);
     EXPECT_EQ("/Bo", Path());
-    Alt(VK_RIGHT);
+    Press(VK_RIGHT, kAlt);
     EXPECT_EQ("Forward: nothing was left by going back", News());
 
     const auto type = [&](const std::string& path) {
         Control('L');
-        desktop.Type(path);
-        Press(VK_RETURN);
+        Enter(path);
     };
     type("../none");
     EXPECT_EQ(folder.At("none") + ": no such file or folder", News());
@@ -117,16 +105,14 @@ TEST_F(CommandDeskTest, BackAndForthPastWhatIsGoneAndToWhatIsTyped)
     EXPECT_EQ("/Bo/b.bmp", Path());
     type(other.At("far.bmp"));
     EXPECT_EQ("/far.bmp/ | picture |  | far.bmp: 8 x 8 pixels", Screen());
-    Alt(VK_UP);
-    Alt(VK_LEFT);
-    Alt(VK_LEFT);
-    Alt(VK_LEFT);
+    Press(VK_UP, kAlt);
+    Press(VK_LEFT, kAlt);
+    Press(VK_LEFT, kAlt);
+    Press(VK_LEFT, kAlt);
     EXPECT_EQ("/Bo/b.bmp", Path()) << "in the library before";
 
     Control('E');
-    desktop.Hold({.shift = true, .control = true});
-    desktop.Key('C');
-    desktop.Hold({});
+    Key('C', kBoth);
     EXPECT_EQ(folder.At("Bo/b.bmp"), desktop.ReadPublished("text/plain"));
     EXPECT_EQ(Ledger({"show " + folder.At("Bo/b.bmp")}), desktop.TakeOutside());
     desktop.AnswerFolder(other.Path());

@@ -62,8 +62,7 @@ TEST_F(CommandsTest, RemovingAsksFirst)
     EXPECT_EQ("/Ada/ | [(*a.bmp) b.bmp] | 2 objects, 1 selected | a.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(List(), GetFocus());
     Control('A');
-    desktop.Answer(IDYES);
-    Press(VK_DELETE);
+    Delete();
     EXPECT_EQ(Ledger({"Views: Move \"a.bmp\" to the trash?", "Views: Move 2 objects to the trash?"}), TakeBoxes());
     EXPECT_EQ("/Ada/ | [] | 0 objects", Screen());
     EXPECT_EQ("Ada/ Bo/", folder.Everything());
@@ -91,10 +90,6 @@ TEST_F(CommandsTest, WhatNoTrashTakesIsRemovedForGoodOnlyAfterAQuestionOfItsOwn)
 
 TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
 {
-    const auto remove = [&] {
-        desktop.Answer(IDYES);
-        Press(VK_DELETE);
-    };
     Open();
     DoubleClick("Ada");
     DoubleClick("a.bmp");
@@ -105,15 +100,15 @@ TEST_F(CommandsTest, ThePictureThatIsShownAndTheTreesItemCanBeRemovedToo)
     EXPECT_EQ("Ada/ Ada/a (2).bmp Ada/a.bmp Ada/b.bmp Bo/", folder.Everything());
     EXPECT_EQ("[(*a (2).bmp) a.bmp b.bmp]", Rows()) << "what is done next is done to it";
     DoubleClick("a.bmp");
-    remove();
+    Delete();
     EXPECT_EQ("/Ada/b.bmp/ | picture |  | b.bmp: 8 x 8 pixels", Screen()) << "on to the next one";
     EXPECT_EQ(Picture(), GetFocus());
-    remove();
-    remove();
+    Delete();
+    Delete();
     EXPECT_EQ("/Ada/ | [a (2).bmp] | 1 object", Screen());
     EXPECT_EQ(List(), GetFocus());
     Press(VK_F6);
-    remove();
+    Delete();
     EXPECT_EQ("/Bo/ | [] | 0 objects", Screen());
     EXPECT_EQ("Bo/", folder.Everything());
 }
@@ -136,8 +131,7 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
     const auto rename = [&](const char* pszShown, const char* pszName) {
         Click(pszShown);
         Press(VK_F2);
-        desktop.Type(pszName);
-        Press(VK_RETURN);
+        Enter(pszName);
         return TakeBoxes();
     };
     EXPECT_EQ(Ledger(), rename("caf\xEF\xBF\xBD.bmp", ""));
@@ -155,8 +149,7 @@ TEST_F(CommandsTest, ANameIsTypedOverTheLabelAndOneLeftAsItIsStaysAsItIsOnTheDis
     EXPECT_EQ(List(), GetFocus());
     Press(VK_F6);
     Press(VK_F2);
-    desktop.Type("Ada");
-    Press(VK_RETURN);
+    Enter("Ada");
     EXPECT_EQ("Ada | Bo: there is a \"Ada\" already", Field());
     rename("a.bmp", ""); // a click into the list ends the field: what was typed is refused again, and given up
     Press(VK_ESCAPE);
@@ -198,8 +191,7 @@ TEST_F(CommandsTest, WhatARefusedCutHadTakenIsThereAgainAsItWas)
     DoubleClick("Bo");
     Click("c.phase");
     Press(VK_F4);
-    desktop.Type("7");
-    Press(VK_RETURN);
+    Enter("7");
     ::SetFocus(List());
     const std::string before = folder.Everything();
     Control('A');

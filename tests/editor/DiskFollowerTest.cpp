@@ -68,7 +68,7 @@ TEST_F(DiskFollowerTest, WhatIsShownIsFollowedWhereItGoesAndLeftWhenItIsGone)
     folder.MakeFolder("Ann/Zoe");
     fs::remove_all(folder.At("Ann/Poses"));
     Await("/Ann/ | [a.bmp b.bmp Zoe] | 3 objects");
-    EXPECT_EQ("Poses: is not there any more", Frame().GetStatus().news);
+    EXPECT_EQ("Poses: is not there any more", News());
     Press(VK_BACK);
     DoubleClick("walk.phase");
     folder.Write("walk.phase", "Ann/a.bmp\nc.bmp\n");

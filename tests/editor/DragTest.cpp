@@ -11,12 +11,7 @@ class DragTest : public EditorTest
 protected:
     DragTest() { folder.Make("Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/"); }
 
-    // Presses there and moves on, which begins the drag; the script is what the user does then.
-    void DropOnList(CPoint at)
-    {
-        desktop.MoveTo(List(), at);
-        desktop.Release(List(), at);
-    }
+    void DropOnList(CPoint at) { DropOn(List(), at); }
     CPoint BelowTheRows()
     {
         CRect client;
@@ -96,8 +91,7 @@ TEST_F(DragTest, TheDraggedObjectsGoWhateverIsSelectedWhenTheyAreDropped)
     });
     EXPECT_EQ("[(*b.bmp) c.bmp]", Rows());
     EXPECT_EQ("Ada/ Ada/b.bmp Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything());
-    desktop.Answer(IDYES);
-    desktop.Key(VK_DELETE);
+    Delete();
     EXPECT_EQ("Ada/ Ada/c.bmp Bo/ Bo/a.bmp", folder.Everything()) << "the selection counts again";
 }
 
@@ -118,7 +112,7 @@ TEST_F(DragTest, ANameThatIsTakenIsToldOfWhileTheDragIsThere)
     DoubleClick("Ada");
     Drag(List(), PlaceOf("b.bmp"), [&] {
         DropOnTree("Bo");
-        EXPECT_EQ("Bo: there is a \"b.bmp\" already. With Ctrl a copy comes beside it", Frame().GetStatus().news);
+        EXPECT_EQ("Bo: there is a \"b.bmp\" already. With Ctrl a copy comes beside it", News());
     });
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/b.bmp", folder.Everything());
     EXPECT_EQ(Ledger(), TakeBoxes());
@@ -128,12 +122,7 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
 {
     Open();
     DoubleClick("Ada");
-    const auto choose = [&](const char* pszCommand, CPoint at) {
-        desktop.Choose(pszCommand);
-        desktop.Click(List(), at, toolkit::MouseButton::Right);
-        Settle();
-    };
-    choose("Select all", BelowTheRows());
+    ChooseAt(BelowTheRows(), "Select all");
     desktop.Click(List(), PlaceOf("b.bmp"), toolkit::MouseButton::Right);
     EXPECT_EQ(
         Ledger({"[(Open) | - | (Undo) | (Redo) | - | (Cut) | (Copy) | Paste | - | New folder | (New phase) | - "
@@ -142,12 +131,12 @@ TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
                 "| Delete | (Restore) | - | (Select all) | Refresh]"}),
         desktop.TakeMenus());
     Click("b.bmp");
-    choose("Copy", PlaceOf("b.bmp"));
-    choose("Paste", PlaceOf("b.bmp"));
+    ChooseAt(PlaceOf("b.bmp"), "Copy");
+    ChooseAt(PlaceOf("b.bmp"), "Paste");
     desktop.Answer(IDYES);
-    choose("Delete", PlaceOf("c.bmp"));
+    ChooseAt(PlaceOf("c.bmp"), "Delete");
     EXPECT_EQ("Ada/ Ada/a.bmp Ada/b (2).bmp Ada/b.bmp Bo/", folder.Everything());
-    choose("Open", PlaceOf("a.bmp"));
+    ChooseAt(PlaceOf("a.bmp"), "Open");
     EXPECT_EQ("/Ada/a.bmp/ | picture |  | a.bmp: 8 x 8 pixels", Screen());
 }
 
@@ -178,7 +167,7 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
         {{"text/uri-list", uri("new%20one.bmp")}, {"x-special/gnome-copied-files", "cut\n" + uri("new%20one.bmp")}});
     Control('V');
     EXPECT_EQ("a.bmp notes.txt", outside.Everything()) << "what was cut is moved";
-    EXPECT_EQ("move of \"new one (2).bmp\"", Frame().GetCommands().GetHistory().NameToUndo());
+    EXPECT_EQ("move of \"new one (2).bmp\"", NextUndo());
     Control('Z');
     EXPECT_EQ("a.bmp new one.bmp notes.txt", outside.Everything());
     desktop.TakeClipboard({{"image/bmp", outside.Read("a.bmp")}});
@@ -204,17 +193,13 @@ TEST_F(DragTest, AFolderOfAFileManagerIsOpenedByADropOnTheBars)
     const HWND hPath = Frame().GetBars().GetPathBar().GetSafeHwnd();
     const auto drop = [&](const std::string& path, HWND hWnd) {
         desktop.DragIn({{"text/uri-list", "file://" + path + "\r\n"}});
-        desktop.MoveTo(hWnd, {40, 12});
-        desktop.Release(hWnd, {40, 12});
+        DropOn(hWnd, {40, 12});
         Settle();
         return Rows();
     };
     EXPECT_EQ("[Ada Bo]", drop(outside.At("Kit/k.bmp"), hPath)) << "no folder";
     EXPECT_EQ("[Ada Bo]", drop(outside.At("Kit"), Frame().GetSplitter().GetSafeHwnd())) << "below the bars";
-    Drag(List(), PlaceOf("Bo"), [&] {
-        desktop.MoveTo(hPath, {40, 12});
-        desktop.Release(hPath, {40, 12});
-    });
+    Drag(List(), PlaceOf("Bo"), [&] { DropOn(hPath, {40, 12}); });
     EXPECT_EQ("[Ada (*Bo)]", Rows()) << "of its own";
     EXPECT_EQ("[k.bmp]", drop(outside.At("Kit"), hPath));
     EXPECT_EQ(outside.At("Kit"), Frame().GetNavigation().Library()->Path());
@@ -244,7 +229,7 @@ TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
     desktop.Hold({});
     EXPECT_EQ("#delay 7\n", folder.Read("Bo/walk.phase"));
     EXPECT_EQ("#delay 80\n", folder.Read("Bo/Poses/walk.phase"));
-    AltUp();
+    Press(VK_UP, kAlt);
     Drag(List(), PlaceOf("Poses"), [&] { DropOnTree("Ada"); });
     EXPECT_EQ("#delay 7\n", folder.Read("Ada/Poses/walk.phase"));
 

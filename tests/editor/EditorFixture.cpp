@@ -2,6 +2,7 @@
 
 #include "Editor/widgets/Look.h"
 #include "HostKit/base/Counted.h"
+#include "Toolkit/menu/MessageBox.h"
 
 #include <algorithm>
 
@@ -83,18 +84,22 @@ HTREEITEM EditorTest::FindItem(const std::string& label)
     return hItem;
 }
 
-void EditorTest::Press(UINT vkey)
+void EditorTest::Press(UINT vkey, toolkit::Modifiers modifiers)
 {
-    desktop.Key(vkey);
+    Key(vkey, modifiers);
     Settle();
 }
 
-void EditorTest::Control(UINT vkey)
+void EditorTest::Enter(const std::string& text)
 {
-    desktop.Hold({.control = true});
-    desktop.Key(vkey);
-    desktop.Hold({});
-    Settle();
+    desktop.Type(text);
+    Press(VK_RETURN);
+}
+
+void EditorTest::Delete()
+{
+    desktop.Answer(IDYES);
+    Press(VK_DELETE);
 }
 
 void EditorTest::Select(std::initializer_list<const char*> names)
@@ -140,11 +145,18 @@ void EditorTest::ClickTool(editor::CToolBar& bar, UINT nCommand)
     Settle();
 }
 
-void EditorTest::AltUp()
+void EditorTest::ChooseFromMenu(int nMenu, const std::string& command)
 {
-    desktop.Hold({.alt = true});
-    desktop.Key(VK_UP);
-    desktop.Hold({});
+    editor::CMenuBar& bar = Frame().GetBars().GetMenuBar();
+    desktop.Choose(command);
+    desktop.Click(bar.m_hWnd, bar.TitleRect(nMenu).CenterPoint());
+    Settle();
+}
+
+void EditorTest::ChooseAt(CPoint at, const char* pszCommand)
+{
+    desktop.Choose(pszCommand);
+    desktop.Click(List(), at, toolkit::MouseButton::Right);
     Settle();
 }
 
@@ -159,10 +171,10 @@ void EditorTest::Drag(HWND hFrom, CPoint at, std::function<void()> script)
     Settle();
 }
 
-void EditorTest::DropOnTree(const std::string& label)
+void EditorTest::DropOn(HWND hWnd, CPoint at)
 {
-    desktop.MoveTo(Tree().m_hWnd, PlaceInTree(label));
-    desktop.Release(Tree().m_hWnd, PlaceInTree(label));
+    desktop.MoveTo(hWnd, at);
+    desktop.Release(hWnd, at);
 }
 
 toolkit::Pixel EditorTest::MiddleOf(HWND hWnd)

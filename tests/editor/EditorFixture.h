@@ -24,6 +24,9 @@ protected:
     HWND List() { return Frame().GetList().GetSafeHwnd(); }
     HWND Picture() { return Frame().GetPictureView().GetSafeHwnd(); }
     editor::CEditorTree& Tree() { return Frame().GetTree(); }
+    editor::History& History() { return Frame().GetCommands().GetHistory(); }
+    std::string NextUndo() { return History().NameToUndo(); }
+    std::string News() { return Frame().GetStatus().news; }
     HTREEITEM FindItem(const std::string& label);
 
     // The path below the library, what is shown, and the status: "/Ada | [a (*b)] | 2 objects, 1 selected | detail".
@@ -33,16 +36,20 @@ protected:
 
     Ledger TakeBoxes() { return desktop.TakeMessageBoxes(); }
 
-    void Press(UINT vkey);
-    void Control(UINT vkey); // with the key held
+    void Press(UINT vkey, toolkit::Modifiers modifiers = {});
+    void Control(UINT vkey) { Press(vkey, kControl); } // with the key held
+    void Enter(const std::string& text);               // types it, and Return
+    void Delete();                                     // what is selected, and says yes
     void Click(const char* pszName);
     void Select(std::initializer_list<const char*> names); // by clicks, all but the first with Control
     void DoubleClick(const char* pszName);
     void ClickPath(int nPart); // -1: the button that leads up
     void ClickTool(editor::CToolBar& bar, UINT nCommand);
-    void AltUp();
+    void ChooseFromMenu(int nMenu, const std::string& command);
+    void ChooseAt(CPoint at, const char* pszCommand); // from the list's own menu
     void Drag(HWND hFrom, CPoint at, std::function<void()> script); // the script moves the mouse on
-    void DropOnTree(const std::string& label);
+    void DropOn(HWND hWnd, CPoint at);
+    void DropOnTree(const std::string& label) { DropOn(Tree().m_hWnd, PlaceInTree(label)); }
     toolkit::Pixel MiddleOf(HWND hWnd);
     CPoint PlaceOf(const char* pszName);
     CPoint PlaceInTree(const std::string& label);

@@ -103,7 +103,7 @@ TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
     EXPECT_EQ("/Ada/ | [a.bmp (*Poses)] | 2 objects, 1 selected | Poses", Screen());
     EXPECT_EQ("list", Focus());
     for (int i = 0; i < 2; ++i) { // nothing is above the library
-        AltUp();
+        Press(VK_UP, kAlt);
         EXPECT_EQ("/ | [(*Ada) Bo walk.phase] | 3 objects, 1 selected | Ada", Screen());
     }
     ClickButton("walk.phase");
@@ -126,7 +126,7 @@ TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
     EXPECT_EQ(0xFF405060, MiddleOf(Picture()));
     Press(VK_END);
     EXPECT_EQ(0xFF102030, MiddleOf(Picture())) << "from picture to picture by the arrows";
-    AltUp();
+    Press(VK_UP, kAlt);
     EXPECT_EQ("/ | [Ada (*b.bmp)] | 2 objects, 1 selected | b.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ("tree", Focus()) << "whoever walks in the tree goes on in the tree";
     ClickItem("Ada");

@@ -24,14 +24,7 @@ protected:
         folder.Make("Ada/a.bmp Ada/b.bmp Ada/Poses/one.bmp Bo/ c.bmp");
         folder.Write("walk.phase", "#delay 80\nc.bmp\nAda/a.bmp\n");
     }
-    void Redo() { ControlShift('Z'); }
-    void ControlShift(UINT vkey)
-    {
-        desktop.Hold({.shift = true, .control = true});
-        desktop.Key(vkey);
-        desktop.Hold({});
-        Settle();
-    }
+    void Redo() { Press('Z', kBoth); }
     void GoTo(const char* pszName)
     {
         editor::Navigation& navigation = Frame().GetNavigation();
@@ -43,8 +36,7 @@ protected:
         Click(pszName);
         Press(VK_F2);
         Control('A');
-        desktop.Type(pszNew);
-        Press(VK_RETURN);
+        Enter(pszNew);
     }
     State Disk() const
     {
@@ -68,9 +60,6 @@ protected:
         std::replace(bytes.begin(), bytes.end(), '\n', '|');
         return bytes;
     }
-
-    std::string NextUndo() { return History().NameToUndo(); }
-    editor::History& History() { return Frame().GetCommands().GetHistory(); }
 };
 
 TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
@@ -79,8 +68,7 @@ TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
     DoubleClick("Ada");
     const std::string start = folder.Everything();
     Select({"a.bmp", "b.bmp"});
-    desktop.Answer(IDYES);
-    Press(VK_DELETE);
+    Delete();
     EXPECT_EQ("deletion of 2 objects", NextUndo());
     Control('Z');
     EXPECT_EQ("[(*a.bmp) (b.bmp) Poses]", Rows());
@@ -88,10 +76,7 @@ TEST_F(HistoryTest, EveryStepComesBackSelectedAndGoesAgain)
     EXPECT_EQ("[*Poses]", Rows());
     Control('Z');
 
-    Click("Poses");
-    Press(VK_F2);
-    desktop.Type("Moves");
-    Press(VK_RETURN);
+    Rename("Poses", "Moves");
     DoubleClick("Moves");
     EXPECT_EQ("rename of \"Poses\"", NextUndo());
     Control('Z');
@@ -133,8 +118,7 @@ TEST_F(HistoryTest, APhasesFramesAndTimingAreStepsToo)
                Frame().GetProperties().GetText();
     };
     Press(VK_F4);
-    desktop.Type("65");
-    Press(VK_RETURN);
+    Enter("65");
     Control('S');
     Click("a.bmp");
     Control('X');
@@ -187,24 +171,22 @@ TEST_F(HistoryTest, NewFoldersAndPhasesAreNamedWhereTheyComeAndAreSteps)
     DoubleClick("Ada");
     const auto start = Disk();
     Select({"b.bmp", "a.bmp", "Poses"});
-    ControlShift('P');
-    desktop.Type("walk");
-    Press(VK_RETURN);
+    Press('P', kBoth);
+    Enter("walk");
     EXPECT_EQ("new phase \"walk.phase\"", NextUndo()) << "the first name belongs to it";
     EXPECT_EQ("a.bmp\nb.bmp\n", folder.Read("Ada/walk.phase")) << "the frames in the order shown";
     EXPECT_EQ("[a.bmp b.bmp Poses (*walk.phase)]", Rows());
-    ControlShift('N');
+    Press('N', kBoth);
     Press(VK_RETURN); // it may be called so
     EXPECT_EQ("new folder \"New folder\"", NextUndo());
-    ControlShift('N');
-    desktop.Type("a.bmp");
-    Press(VK_RETURN);
+    Press('N', kBoth);
+    Enter("a.bmp");
     Press(VK_ESCAPE);
     EXPECT_EQ("[a.bmp b.bmp New folder (*New folder (2)) Poses walk.phase]", Rows());
     Select({"Poses"});
-    ControlShift('P'); // nothing to be shown
+    Press('P', kBoth); // nothing to be shown
     DoubleClick("walk.phase");
-    ControlShift('N'); // not there
+    Press('N', kBoth); // not there
     EXPECT_EQ(Ledger(), TakeBoxes());
     const auto end = Disk();
     for (int i = 0; i < 3; ++i)
@@ -219,24 +201,18 @@ TEST_F(HistoryTest, WhatWasRemovedBeforeOtherStepsIsRestoredByItself)
 {
     Open();
     DoubleClick("Ada");
-    const auto choose = [&](const char* pszCommand) {
-        desktop.Choose(pszCommand);
-        desktop.Click(List(), PlaceOf("Poses"), toolkit::MouseButton::Right);
-        Settle();
-    };
     for (const char* const pszName : {"a.bmp", "b.bmp"}) {
         Click(pszName);
-        desktop.Answer(IDYES);
-        Press(VK_DELETE);
+        Delete();
     }
-    ControlShift('N');
+    Press('N', kBoth);
     Press(VK_RETURN);
     GoTo("Bo");
     Control('Z');
     EXPECT_EQ("/Ada/ | [Poses] | 1 object", Screen()) << "where it is seen";
     Redo();
-    choose("Restore \"b.bmp\"");
-    choose("Restore \"a.bmp\"");
+    for (const char* const pszCommand : {"Restore \"b.bmp\"", "Restore \"a.bmp\""})
+        ChooseAt(PlaceOf("Poses"), pszCommand);
     EXPECT_EQ("[(*a.bmp) b.bmp New folder Poses]", Rows());
     EXPECT_EQ("restoring of \"a.bmp\"", NextUndo());
     EXPECT_EQ("", History().NameToRestore());
@@ -251,8 +227,7 @@ TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMoved)
     DoubleClick("Ada");
     Click("run.phase");
     Press(VK_F4);
-    desktop.Type("65");
-    Press(VK_RETURN);
+    Enter("65");
     const std::string unsaved = Frame().GetProperties().GetText();
     Rename("a.bmp", "c.bmp");
     EXPECT_EQ("#delay 80\nc.bmp\nAda/c.bmp\n|# b\r\nc.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n", phases())
@@ -336,29 +311,30 @@ protected:
     }
 
     int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
+    editor::CEditorList& Objects() { return Frame().GetList(); }
     void SelectAny()
     {
-        editor::CEditorList& list = Frame().GetList();
-        list.SetItemState(-1, 0, LVIS_SELECTED);
-        for (int i = 0, most = 1 + Below(3); i < most && list.GetItemCount() > 0; ++i)
-            list.SetItemState(Below(list.GetItemCount()), LVIS_SELECTED, LVIS_SELECTED);
+        Objects().SetItemState(-1, 0, LVIS_SELECTED);
+        for (int i = 0, most = 1 + Below(3); i < most && Objects().GetItemCount() > 0; ++i)
+            Objects().SetItemState(Below(Objects().GetItemCount()), LVIS_SELECTED, LVIS_SELECTED);
     }
-    std::string AnyName() { return "n" + std::to_string(Below(6)); }
+    CStubRef<IAtom> Any() // none where there is none
+    {
+        return Objects().GetItemCount() > 0 ? Objects().GetAtom(Below(Objects().GetItemCount())) : nullptr;
+    }
     void RenameAny()
     {
-        editor::CEditorList& list = Frame().GetList();
-        if (list.GetItemCount() == 0)
+        const CStubRef<IAtom> pAtom = Any();
+        if (!pAtom)
             return;
-        const CStubRef<IAtom> pAtom = list.GetAtom(Below(list.GetItemCount()));
         editor::CMember* const pMember = editor::CMember::Of(pAtom.Get());
-        Frame().GetCommands().GetPlain().Rename(pMember,
-                                                AnyName() + fs::path(pMember->ShownName()).extension().string());
+        const std::string extension = fs::path(pMember->ShownName()).extension();
+        Frame().GetCommands().GetPlain().Rename(pMember, "n" + std::to_string(Below(6)) + extension);
         Settle();
     }
     void GoAnywhere()
     {
-        editor::CEditorList& list = Frame().GetList();
-        const CStubRef<IAtom> pAtom = list.GetItemCount() > 0 ? list.GetAtom(Below(list.GetItemCount())) : nullptr;
+        const CStubRef<IAtom> pAtom = Any();
         if (Below(3) > 0 && CStubRef<IAtomContainer>::From(pAtom.Get()))
             Frame().GetNavigation().GoTo(editor::CMember::Of(pAtom.Get()));
         else
@@ -368,26 +344,23 @@ protected:
     void DragAny()
     {
         SelectAny();
-        const int nRow = Frame().GetList().GetNextItem(-1, LVNI_SELECTED);
+        const int nRow = Objects().GetNextItem(-1, LVNI_SELECTED);
         CRect icon;
-        if (nRow < 0 || !Frame().GetList().GetItemRect(nRow, &icon, LVIR_ICON))
+        if (nRow < 0 || !Objects().GetItemRect(nRow, &icon, LVIR_ICON))
             return;
         const HTREEITEM hRoot = Tree().GetRootItem();
         const HTREEITEM hTarget = Below(2) ? hRoot : Tree().GetChildItem(hRoot);
         desktop.Hold({.control = Below(3) == 0});
         Drag(List(), icon.CenterPoint(), [&] { DropOnTree(Tree().GetItemText(hTarget).GetString()); });
         desktop.Hold({});
-        Settle();
     }
     void TimeAny()
     {
-        editor::CPropertiesPane& pane = Frame().GetProperties();
         desktop.Run();
-        if (!pane.GetDelay().IsWindowVisible())
+        if (!Frame().GetProperties().GetDelay().IsWindowVisible())
             return;
         Press(VK_F4);
-        desktop.Type(std::to_string(20 + Below(5)).c_str());
-        Press(VK_RETURN);
+        Enter(std::to_string(20 + Below(5)));
     }
     void Act()
     {

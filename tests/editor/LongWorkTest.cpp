@@ -86,7 +86,7 @@ TEST_F(LongWorkTest, WhatIsCancelledLeavesWhatWasDoneAsOneStep)
     Once([] { return true; }, [this] { desktop.Key(VK_ESCAPE); });
     Control('C');
     EXPECT_EQ("", desktop.PublishedKinds());
-    EXPECT_EQ("Cancelled. Nothing was changed", Frame().GetStatus().news);
+    EXPECT_EQ("Cancelled. Nothing was changed", News());
 
     Control('C');
     Press(VK_BACK);
@@ -98,7 +98,7 @@ TEST_F(LongWorkTest, WhatIsCancelledLeavesWhatWasDoneAsOneStep)
          });
     Control('V');
     EXPECT_EQ("/Bo/ | [(*a.bmp)] | 1 object, 1 selected | a.bmp: 8 x 8 pixels", Screen());
-    EXPECT_EQ("Cancelled. Done: paste of \"a.bmp\". Ctrl+Z takes it back", Frame().GetStatus().news);
+    EXPECT_EQ("Cancelled. Done: paste of \"a.bmp\". Ctrl+Z takes it back", News());
     EXPECT_EQ(Ledger(), TakeBoxes());
     Control('Z');
     EXPECT_EQ("Ada/ Ada/Long/ Ada/Long/long.bmp Ada/a.bmp Bo/", folder.Everything());

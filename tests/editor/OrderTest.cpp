@@ -14,12 +14,7 @@ protected:
             text += (text.empty() ? "" : " ") + std::string(Tree().GetItemText(hItem).GetString());
         return '[' + text + ']';
     }
-    void ToggleFoldersFirst()
-    {
-        desktop.Choose("Folders first");
-        desktop.Click(Frame().GetBars().GetMenuBar().m_hWnd, Frame().GetBars().GetMenuBar().TitleRect(2).CenterPoint());
-        Settle();
-    }
+    void ToggleFoldersFirst() { ChooseFromMenu(2, "Folders first"); }
 };
 
 TEST_F(OrderTest, NumbersCountByTheirValueAndFoldersStandFirstWhereThatIsWanted)
@@ -43,10 +38,10 @@ TEST_F(OrderTest, NumbersCountByTheirValueAndFoldersStandFirstWhereThatIsWanted)
     DoubleClick("9.bmp");
     Press(VK_BACK);
     EXPECT_EQ("[(*9.bmp) 10.bmp]", Rows()) << "found by the same order";
-    AltUp();
+    Press(VK_UP, kAlt);
     DoubleClick("act.phase");
     EXPECT_EQ("[walk4.bmp walk14.bmp walk4.bmp]", Rows()) << "as the phase has it";
-    AltUp();
+    Press(VK_UP, kAlt);
     ToggleFoldersFirst();
     EXPECT_EQ("[(*act.phase) walk4.bmp walk04.bmp Walk4b.bmp walk5.bmp walk14.bmp zoo zoo2]", Rows());
     EXPECT_NE(std::string::npos, Items().find(" walk14.bmp zoo ")) << Items();
@@ -116,9 +111,7 @@ TEST_F(OrderTest, NamesAreSearchedForInAllFoldersBelowAndEnterGoesThere)
             text += line.what + " in /" + line.where.substr(line.where.find('/') + 1) + ", ";
         return text + Frame().GetSearch().GetSheet().GetNews();
     };
-    desktop.Hold({.shift = true, .control = true});
-    desktop.Key('F');
-    desktop.Hold({});
+    Key('F', kBoth);
     desktop.Type("many");
     desktop.Key(VK_BACK);
     desktop.Type("yx");
@@ -130,9 +123,8 @@ TEST_F(OrderTest, NamesAreSearchedForInAllFoldersBelowAndEnterGoesThere)
         desktop.Key(VK_BACK);
     desktop.Type("ALK");
     EXPECT_EQ("walk1.bmp in /, Walks in /Ada, walk2.bmp in /Ada/Poses, 3 found", found()) << "each once";
-    desktop.Key(VK_DOWN);
-    desktop.Key(VK_DOWN);
-    desktop.Key(VK_DOWN);
+    for (int i = 0; i < 3; ++i)
+        desktop.Key(VK_DOWN);
     Press(VK_RETURN);
     EXPECT_EQ("/Ada/Poses/ | [(*walk2.bmp)] | 1 object, 1 selected | walk2.bmp: 8 x 8 pixels", Screen());
     EXPECT_EQ(List(), GetFocus());

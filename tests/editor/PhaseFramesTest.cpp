@@ -20,12 +20,7 @@ protected:
     // A few pixels beside the middle of a frame: the gap at its left or right.
     CPoint Before(const char* pszName) { return PlaceOf(pszName) - CPoint(5, 0); }
     CPoint Behind(const char* pszName) { return PlaceOf(pszName) + CPoint(5, 0); }
-    void DropAt(CPoint at)
-    {
-        desktop.MoveTo(List(), at);
-        desktop.Release(List(), at);
-    }
-    std::string Undo() { return Frame().GetCommands().GetHistory().NameToUndo(); }
+    void DropAt(CPoint at) { DropOn(List(), at); }
     std::string Walk() { return folder.Read("Ada/walk.phase"); }
 
     static constexpr const char* kWalk = "#delay 80\na.bmp\nb.bmp\n# the turn\nc.bmp\nd.bmp\ne.bmp\n";
@@ -41,14 +36,14 @@ TEST_F(PhaseFramesTest, FramesDraggedBetweenOthersComeThereInTheirOrderInOneStep
     Drag(List(), PlaceOf("b.bmp"), [&] { DropAt(Behind("e.bmp")); });
     EXPECT_EQ("[a.bmp c.bmp e.bmp (*b.bmp) (d.bmp)]", Rows());
 
-    EXPECT_EQ("order of frames in \"walk.phase\"", Undo());
+    EXPECT_EQ("order of frames in \"walk.phase\"", NextUndo());
     Control('Z');
     Control('Z');
     EXPECT_EQ(kWalk, Walk());
-    EXPECT_EQ("", Undo());
+    EXPECT_EQ("", NextUndo());
     Drag(List(), PlaceOf("c.bmp"), [&] { DropAt(Before("d.bmp")); });
     EXPECT_EQ(kWalk, Walk());
-    EXPECT_EQ("", Undo()) << "nothing has changed its place";
+    EXPECT_EQ("", NextUndo()) << "nothing has changed its place";
     desktop.Hold({.control = true});
     Drag(List(), PlaceOf("c.bmp"), [&] { DropAt(Before("a.bmp")); });
     desktop.Hold({});
@@ -59,9 +54,7 @@ TEST_F(PhaseFramesTest, FramesDraggedBetweenOthersComeThereInTheirOrderInOneStep
 TEST_F(PhaseFramesTest, KeysMoveTheSelectedFramesOnePlaceAndTheyStaySelected)
 {
     const auto move = [&](UINT vkey) {
-        desktop.Hold({.shift = true, .alt = true});
-        desktop.Key(vkey);
-        desktop.Hold({});
+        Key(vkey, {.shift = true, .alt = true});
         return Rows();
     };
     Select({"b.bmp", "c.bmp", "e.bmp"});
@@ -69,9 +62,9 @@ TEST_F(PhaseFramesTest, KeysMoveTheSelectedFramesOnePlaceAndTheyStaySelected)
     EXPECT_EQ("[(*b.bmp) (c.bmp) (e.bmp) a.bmp d.bmp]", move(VK_LEFT)) << "what is the first already stays";
     EXPECT_EQ("#delay 80\nb.bmp\nc.bmp\ne.bmp\na.bmp\n# the turn\nd.bmp\n", Walk());
     move(VK_LEFT);
-    EXPECT_EQ("Frames one place earlier: nothing comes before them", Frame().GetStatus().news);
+    EXPECT_EQ("Frames one place earlier: nothing comes before them", News());
     EXPECT_EQ("[a.bmp (*b.bmp) (c.bmp) (e.bmp) d.bmp]", move(VK_RIGHT));
-    EXPECT_EQ("order of frames in \"walk.phase\"", Undo());
+    EXPECT_EQ("order of frames in \"walk.phase\"", NextUndo());
     for (int i = 0; i < 3; ++i)
         Control('Z');
     EXPECT_EQ(kWalk, Walk());
@@ -120,7 +113,7 @@ TEST_F(PhaseFramesTest, PicturesFromElsewhereComeWhereTheyAreDropped)
     desktop.DragIn({{"text/uri-list", uri(folder, "Ada/x.bmp")}});
     DropAt(Before("b.bmp"));
     EXPECT_EQ("[a.bmp (*x.bmp) b.bmp c.bmp d.bmp e.bmp]", Rows());
-    EXPECT_EQ("new frames in \"walk.phase\"", Undo());
+    EXPECT_EQ("new frames in \"walk.phase\"", NextUndo());
     desktop.DragIn({{"text/uri-list", uri(folder, "e.bmp") + uri(outside, "far.bmp") + uri(folder, "d.bmp")}});
     DropAt(Before("a.bmp"));
     Settle();
@@ -140,8 +133,7 @@ TEST_F(PhaseFramesTest, PicturesFromElsewhereComeWhereTheyAreDropped)
 TEST_F(PhaseFramesTest, FramesThatAreRemovedGoInOneStep)
 {
     Select({"a.bmp", "c.bmp", "d.bmp"});
-    desktop.Answer(IDYES);
-    desktop.Key(VK_DELETE);
+    Delete();
     EXPECT_EQ("#delay 80\nb.bmp\n# the turn\ne.bmp\n", Walk());
     EXPECT_EQ(Ledger({"Views: Remove 3 objects from the phase?"}), TakeBoxes());
     Control('Z');

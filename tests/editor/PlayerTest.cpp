@@ -96,7 +96,7 @@ TEST_F(PlayerTest, APhasePlaysInItsTimeAboveItsFrames)
     ::SetFocus(List());
     Click("b.bmp");
     EXPECT_EQ("2: 2 of 3, 200 ms at 200 %", Seen()) << "it follows who goes through the frames";
-    AltUp();
+    Press(VK_UP, kAlt);
     EXPECT_FALSE(IsWindowVisible(Player().m_hWnd));
 }
 
@@ -118,8 +118,7 @@ TEST_F(PlayerTest, AFrameThatIsNotReadYetIsWaitedForAndTheLastOneStays)
     Frame().GetContent().GetPlayer().MoveWindow({0, 0, 400, 200}); // all are to be read anew
     Settle();
     folder.WriteBmp("b.bmp", 900, 900, 0xFF400000);
-    desktop.Key(VK_F5);
-    Settle();
+    Press(VK_F5);
     reader.Hold();
     Player().MoveWindow({0, 0, 500, 300});
     desktop.Key(VK_SPACE);
@@ -134,8 +133,7 @@ TEST_F(PlayerTest, WhatIsChangedInThePhaseIsPlayed)
 {
     DoubleClick("walk.phase");
     Click("a.bmp");
-    desktop.Answer(IDYES);
-    desktop.Key(VK_DELETE);
+    Delete();
     EXPECT_EQ("2: 1 of 2, 200 ms", Seen());
     TakeBoxes();
     Frame().MoveWindow(CRect(0, 0, 700, 300));
@@ -150,8 +148,7 @@ TEST_F(PlayerTest, OnlyTheThumbnailUnderTheMouseMoves)
     folder.Write("still.phase", "a.bmp\n");
     Frame().MoveWindow(CRect(0, 0, 960, 720));
     Control('2');
-    desktop.Key(VK_F5);
-    Settle();
+    Press(VK_F5);
     const auto red = [&](const char* pszName, int nMilliseconds) {
         desktop.Advance(static_cast<DWORD>(nMilliseconds));
         Settle();

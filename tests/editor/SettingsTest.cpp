@@ -97,9 +97,7 @@ TEST_F(SettingsTest, TheLastFoldersAreAtHandAndAtFirstACopyOfTheSamples)
     folder.Make("Ada/");
     Open();
     Open(other.Path());
-    desktop.Choose(folder.Path());
-    desktop.Click(Frame().GetBars().GetMenuBar().m_hWnd, Frame().GetBars().GetMenuBar().TitleRect(0).CenterPoint());
-    Settle();
+    ChooseFromMenu(0, folder.Path());
     EXPECT_EQ("/ | [Ada] | 1 object", Screen());
     CloseApp();
     const editor::Settings settings = editor::ReadSettings(m_options.settingsPath);
