@@ -3,7 +3,6 @@
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/exchange/OleException.h"
 #include "Toolkit/focus/InputState.h"
-#include "Toolkit/menu/Menu.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/message/TaskInbox.h"
 #include "Toolkit/window/WindowApi.h"
@@ -19,7 +18,7 @@ constexpr UINT kTick = 20; // milliseconds
 const CLIPFORMAT kFormat = RegisterClipboardFormat("application/x-atoms");
 const std::set<std::string> kOnlyWhenHeeded = {"move", "leave", "size", "moved", "active", "inactive"};
 const std::set<std::string> kNeverSaid = {"key Control", "key Shift", "key other"}; // held with others
-const std::set<std::string> kQuiet = {"heed", "ignore", "title", "show", "hide", "place", "vanish", "drag", "drop"};
+const std::set<std::string> kQuiet = {"heed", "ignore", "show", "hide", "place", "vanish", "drag", "drop"};
 
 std::string Pair(int first, int second)
 {
@@ -37,17 +36,6 @@ std::string Take(HGLOBAL hMem)
     const std::string text = bytes.Get() ? std::string(bytes.Get(), GlobalSize(hMem)) : "nothing";
     GlobalFree(hMem);
     return text;
-}
-
-// What is not black.
-CRect FindInk(const toolkit::Surface& surface)
-{
-    CRect ink;
-    for (int y = 0; y < surface.Height(); ++y)
-        for (int x = 0; x < surface.Width(); ++x)
-            if (surface.Row(y)[x] & 0xFFFFFF)
-                ink = ink | CRect(x, y, x + 1, y + 1);
-    return ink;
 }
 
 } // namespace
@@ -86,7 +74,6 @@ void Actor::Perform(std::istringstream& command)
     const std::map<std::string, std::function<void()>> verbs = {
         {"heed", [&] { m_heeded.insert(rest()); }},
         {"ignore", [&] { m_heeded.erase(rest()); }},
-        {"title", [&] { SetWindowText(rest().c_str()); }},
         {"show", [&] { ShowWindow(SW_SHOW); }},
         {"hide", [&] { ShowWindow(SW_HIDE); }},
         {"place",
@@ -114,14 +101,6 @@ void Actor::Perform(std::istringstream& command)
                  toolkit::PostTask([this] { m_say("task 1"); });
                  toolkit::PostTask([this] { m_say("task 2"); });
              });
-         }},
-        {"line", [&] { Describe(rest()); }},
-        {"cursor",
-         [&] {
-             CPoint at;
-             ::GetCursorPos(&at);
-             ScreenToClient(&at);
-             m_say("cursor " + Pair(at.x, at.y));
          }},
         {"menu",
          [&] {
@@ -186,28 +165,10 @@ void Actor::Tick()
     m_say(bInTime ? "ticked " + std::to_string(m_nTicks) : "too early");
 }
 
-void Actor::Describe(const std::string& text)
-{
-    toolkit::TextEngine& engine = toolkit::CurrentTextEngine();
-    toolkit::Surface surface(CSize(400, 100));
-    engine.Draw(surface, surface.Bounds(), {20, 20}, text, RGB(255, 255, 255), toolkit::FontStyle::Regular);
-    const CRect ink = FindInk(surface);
-    m_say("height " + std::to_string(engine.LineHeight()) + " width " +
-          std::to_string(engine.Measure(text, toolkit::FontStyle::Regular)) + " ink " +
-          Pair(ink.left - 20, ink.top - 20) + " " + Pair(ink.right - 20, ink.bottom - 20));
-}
-
 void Actor::OpenMenu(CPoint screen)
 {
-    CMenu menu, below;
-    below.CreatePopupMenu();
-    below.AppendMenu(MF_STRING, 3, "&Folder");
-    menu.CreatePopupMenu();
-    menu.AppendMenu(MF_STRING, 1, "&Open\tEnter");
-    menu.AppendMenu(MF_STRING | MF_CHECKED, 2, "&Grid");
-    menu.AppendMenu(MF_SEPARATOR);
-    menu.AppendMenu(MF_STRING | MF_GRAYED, 4, "&Paste");
-    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(below.Detach()), "&New");
+    CMenu menu;
+    FillMenu(menu);
     m_say("chose " + std::to_string(menu.TrackPopupMenu(TPM_RETURNCMD, screen.x, screen.y, this)));
 }
 

@@ -23,12 +23,10 @@ public:
 
     // A command and its arguments, done when the queue runs. Those that say nothing of their own say "done":
     //   heed WORD, ignore  says such entries, too: move leave size moved inactive; active from the beginning
-    //   title T, show, hide, place L T R B, vanish
+    //   show, hide, place L T R B, vanish
     //   where              says "L,T W,H", as the window knows it
     //   timers N           says "ticked N" after so many of 20 ms each; "too early" when it was so
     //   threads            another thread posts "task 1" and "task 2"
-    //   line TEXT          says what drawing it in white would need: "height H width W ink L,T R,B"
-    //   cursor             says where the mouse is, in the window
     //   menu X Y           opens one there, in the window: Open, Grid (2), New > Folder (3); says "chose N"
     //   box N              of that type; says "answered N"
     //   copy               says "copied" or "refused"
@@ -47,7 +45,6 @@ private:
 
     void Perform(std::istringstream& command);
     void Tick();
-    void Describe(const std::string& text);
     void OpenMenu(CPoint screen);
     void Copy();
     void Paste();

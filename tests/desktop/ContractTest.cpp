@@ -193,25 +193,6 @@ TEST_P(EveryDesktop, TimersAreNeverEarlyAndTasksOfAnotherThreadRunInOrder)
     EXPECT_EQ("task 2", stage.Hear());
 }
 
-TEST_P(EveryDesktop, TextTakesTheRoomThatItIsSaidToTake)
-{
-    int nFormer = 0;
-    for (const char* pszText :
-         {"A", "Ab", "Ab \xC3\xBC", "Ab \xC3\xBC\xE2\x82\xAC", "Ab \xC3\xBC\xE2\x82\xAC \xE6\x97\xA5"}) {
-        stage.Tell(std::string("line ") + pszText);
-        const std::string said = stage.Hear();
-        int nHeight = 0, nWidth = 0, nLeft = 0, nTop = 0, nRight = 0, nBottom = 0;
-        ASSERT_EQ(6, std::sscanf(said.c_str(), "height %d width %d ink %d,%d %d,%d", &nHeight, &nWidth, &nLeft, &nTop,
-                                 &nRight, &nBottom));
-        EXPECT_LT(nFormer, nWidth) << said;
-        EXPECT_LT(nFormer, nRight) << said << ": what was added is drawn behind the rest";
-        EXPECT_LE(-1, nLeft) << said;
-        EXPECT_LE(nRight, nWidth + 1) << said;
-        EXPECT_TRUE(nTop >= 0 && nBottom <= nHeight) << said;
-        nFormer = nWidth;
-    }
-}
-
 TEST_P(EveryDesktop, AMenuOpensWhereItIsToAndGivesTheChosenCommand)
 {
     const auto open = [this] { stage.Tell("menu 60 40"); };
@@ -266,19 +247,16 @@ TEST_P(Screens, TimersGoOnWhileAMenuOrAMessageBoxWaits)
     EXPECT_EQ("answered 1", stage.Hear("answered"));
 }
 
-TEST_P(Screens, AMenuEndsWithItsWindow)
-{
-    stage.Tell("menu 60 40");
-    EXPECT_EQ("shown menu", stage.Hear());
-    stage.Tell("vanish");
-    EXPECT_EQ("chose 0", stage.Hear("chose"));
-}
-
-TEST_P(Screens, AMenuEndsWhenTheUserGoesToAnotherProgram)
+TEST_P(Screens, AMenuEndsWhenTheUserGoesToAnotherProgramAndWithItsWindow)
 {
     stage.Tell("menu 60 40");
     EXPECT_EQ("shown menu", stage.Hear());
     stage.GoToOther();
+    EXPECT_EQ("chose 0", stage.Hear("chose"));
+    stage.ComeBack();
+    stage.Tell("menu 60 40");
+    EXPECT_EQ("shown menu", stage.Hear("shown"));
+    stage.Tell("vanish");
     EXPECT_EQ("chose 0", stage.Hear("chose"));
 }
 

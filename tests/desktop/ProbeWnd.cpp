@@ -81,3 +81,16 @@ void CProbeWnd::Paint()
     GetClientRect(&client);
     ::FillSolidRect(dc, client, m_color);
 }
+
+void FillMenu(CMenu& menu)
+{
+    CMenu below;
+    below.CreatePopupMenu();
+    below.AppendMenu(MF_STRING, 3, "&Folder");
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 1, "&Open\tEnter");
+    menu.AppendMenu(MF_STRING | MF_CHECKED, 2, "&Grid");
+    menu.AppendMenu(MF_SEPARATOR);
+    menu.AppendMenu(MF_STRING | MF_GRAYED, 4, "&Paste");
+    menu.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(below.Detach()), "&New");
+}

@@ -1,6 +1,7 @@
 // A window that notes what it is told.
 #pragma once
 
+#include "Toolkit/menu/Menu.h"
 #include "Toolkit/window/Wnd.h"
 
 #include <functional>
@@ -27,3 +28,5 @@ private:
 
     std::string m_log;
 };
+
+void FillMenu(CMenu& menu); // Open, Grid (2, checked), -, Paste (grayed), New > Folder (3)

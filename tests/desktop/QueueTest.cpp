@@ -1,7 +1,9 @@
+// What asks the user in a loop of its own: menus and message boxes; and a queue that never rests.
 #include "Toolkit/menu/MessageBox.h"
 #include "tests/desktop/DesktopTest.h"
 
 #include <QAbstractButton>
+#include <QMenu>
 #include <QMessageBox>
 
 namespace
@@ -52,4 +54,19 @@ TEST_F(QueueTest, AMessageBoxOffersItsButtonsAndGivesTheAnswer)
     EXPECT_EQ(IDNO, Ask(MB_YESNO, [](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); }));
     EXPECT_EQ(IDCANCEL, Ask(MB_YESNOCANCEL, [](QMessageBox& box) { box.close(); }));
     EXPECT_EQ(IDNO, Ask(MB_YESNO, [&](QMessageBox&) { m_probe->DestroyWindow(); })) << "it ends with its owner";
+}
+
+TEST_F(QueueTest, AMenusItemsAreShownAsTheyAreAndChosenByTheirKeys)
+{
+    std::string shown;
+    const WhenShown<QMenu> user([&shown](QMenu& menu) {
+        for (const QAction* pAction : menu.actions())
+            shown += "[" + pAction->text().toStdString() + (pAction->isChecked() ? " checked" : "") +
+                     (pAction->isEnabled() ? "" : " grayed") + (pAction->menu() ? " >" : "") + "]";
+        QTest::keyClick(&menu, Qt::Key_G);
+    });
+    CMenu menu;
+    FillMenu(menu);
+    EXPECT_EQ(2, menu.TrackPopupMenu(TPM_RETURNCMD, 20, 20, &*m_probe));
+    EXPECT_EQ("[&Open\tEnter][&Grid checked][][&Paste grayed][&New >]", shown);
 }

@@ -1,11 +1,18 @@
+// A window as the rest of the desktop sees it, and what it leaves on the clipboard.
+#include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/controls/tree/TreeCtrl.h"
+#include "Toolkit/exchange/ClipboardFormat.h"
+#include "Toolkit/exchange/DataSource.h"
 #include "Toolkit/graphics/SysColors.h"
 #include "tests/desktop/DesktopTest.h"
 
+#include <QClipboard>
 #include <QImage>
+#include <QMimeData>
 #include <QPixmap>
 #include <QScreen>
 #include <QWindow>
+#include <cstring>
 
 namespace
 {
@@ -18,6 +25,22 @@ protected:
     {
         const QPixmap shown = Window()->screen()->grabWindow(Widget().winId());
         return shown.toImage().convertToFormat(QImage::Format_RGB32);
+    }
+
+    static void Offer(COleDataSource& source, const char* pszFormat, std::string_view bytes)
+    {
+        const HGLOBAL hBytes = GlobalAlloc(GMEM_MOVEABLE, bytes.size());
+        std::memcpy(toolkit::GlobalLocker<char>(hBytes).Get(), bytes.data(), bytes.size());
+        source.CacheGlobalData(RegisterClipboardFormat(pszFormat), hBytes);
+    }
+
+    static std::string OnClipboard()
+    {
+        std::string all;
+        const QMimeData* const pMime = QGuiApplication::clipboard()->mimeData();
+        for (const QString& kind : pMime->formats())
+            all += kind.toStdString() + ": " + pMime->data(kind).toStdString() + "; ";
+        return all;
     }
 };
 
@@ -71,4 +94,17 @@ TEST_F(WindowTest, TheDesktopsFontIsTheViewsAlsoWhenItChanges)
     QApplication::setFont(former);
     Settle();
     EXPECT_EQ(nFormer, tree.SendMessage(TVM_GETITEMHEIGHT, 0, 0));
+}
+
+TEST_F(WindowTest, WhatEverybodyCanReadStaysWhenTheProgramEnds)
+{
+    auto source = std::make_unique<COleDataSource>();
+    Offer(*source, "application/x-atoms", "/tmp/a-transfer-file");
+    Offer(*source, "text/uri-list", "file:///a");
+    Offer(*source, "Objects of our own", "1");
+    source.release()->SetClipboard(); // the clipboard's now
+    m_probe.reset();
+    m_desktop.reset();
+    EXPECT_EQ("text/uri-list: file:///a\r\n; ", OnClipboard());
+    EXPECT_EQ(nullptr, COleDataSource::GetClipboardOwner());
 }

@@ -8,7 +8,12 @@
 class XServerTest : public testing::Test, protected XServer
 {
 protected:
-    void SetUp() override; // skips the test when Xvfb or xdotool is missing
+    void SetUp() override // skips the test when Xvfb or xdotool is missing
+    {
+        if (const std::string missing = MissingOf({"Xvfb", "xdotool"}); !missing.empty())
+            GTEST_SKIP() << missing << " is missing";
+        ASSERT_TRUE(Start());
+    }
 
     using XServer::Start;
 };
