@@ -121,11 +121,6 @@ QString XServer::FindWindow(const QString& title)
     return QTest::qWaitFor(isThere, kPatience) ? window : QString();
 }
 
-void XServer::Press(const QString& window, const QString& keys)
-{
-    XDo("windowfocus --sync " + window + " key " + keys);
-}
-
 void XServer::Drag(QPoint from, QPoint to)
 {
     QString steps = "mousemove " + At(from) + " mousedown 1";

@@ -31,7 +31,6 @@ public:
     std::optional<QString> Run(const QString& command); // what it says; nothing when it failed or waited in vain
     QString XDo(const QString& command);                // what xdotool answers; empty as above
     QString FindWindow(const QString& title);           // whose title begins so, as soon as it is in sight
-    void Press(const QString& window, const QString& keys);
     void Drag(QPoint from, QPoint to); // places of the screen; one jump would drop nothing
     QImage Look() const;               // what the screen shows
 
