@@ -7,6 +7,7 @@
 #include "Toolkit/headless/HeadlessDesktop.h"
 #include "tests/editor/BmpReader.h"
 #include "tests/support/AllocationFailures.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/support/TempFolder.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@
 #include <map>
 #include <sstream>
 #include <sys/mman.h>
-#include <sys/wait.h>
 
 namespace
 {
@@ -68,12 +68,18 @@ std::string AllOf(const Files& files)
 class FailingDiskTest : public testing::TestWithParam<Command>
 {
 protected:
-    FailingDiskTest()
+    void SetUp() override
     {
         setenv("XDG_DATA_HOME", folder.At("data").c_str(), 1);
         setenv("TEMP", folder.At("temp").c_str(), 1);
         void* const p = mmap(nullptr, sizeof(Outcome), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
         m_pOutcome = static_cast<Outcome*>(p);
+        MakeLibrary();
+        before = FilesIn(folder.At("library"));
+        whole = Run();
+        ASSERT_STREQ("", whole.reason);
+        ASSERT_GT(whole.nOperations, 0);
+        asked = FilesIn(folder.At("library"));
     }
     ~FailingDiskTest() override
     {
@@ -95,19 +101,12 @@ protected:
     }
 
     // In a process of its own.
-    const Outcome& Run(const Command& command, int nth = 0, DiskFault fault = DiskFault::InputOutput)
+    const Outcome& Run(int nth = 0, DiskFault fault = DiskFault::InputOutput)
     {
         MakeLibrary();
         std::memset(m_pOutcome, 0, sizeof(Outcome));
-        const pid_t child = fork();
-        if (child == 0) {
-            RunHere(command, nth, fault);
-            _exit(HasFailure());
-        }
-        int status = 0;
-        waitpid(child, &status, 0);
         const bool bDied = fault == DiskFault::Death && nth > 0;
-        EXPECT_EQ(bDied ? kDiskDeath : 0, WIFEXITED(status) ? WEXITSTATUS(status) : -1)
+        EXPECT_EQ(bDied ? kDiskDeath : 0, InChild([&] { return RunHere(nth, fault), HasFailure(); }))
             << "operation " << nth << ", fault " << static_cast<int>(fault);
         if (!m_pOutcome->bOver)
             Note(m_pOutcome->transferred, AllOf(FilesIn(folder.At("temp"))));
@@ -120,7 +119,7 @@ protected:
         std::memcpy(to, text.data(), std::min(text.size(), size - 1));
     }
 
-    void RunHere(const Command& command, int nth, DiskFault fault) noexcept
+    void RunHere(int nth, DiskFault fault) noexcept
     {
         {
             toolkit::HeadlessDesktop desktop;
@@ -159,7 +158,7 @@ protected:
     }
 
     // What is wrong with the disk after a command, and with what it said; empty: nothing.
-    std::string Trouble(const Outcome& outcome, const Files& before, const Files& asked, DiskFault fault) const
+    std::string Trouble(const Outcome& outcome, DiskFault fault) const
     {
         const Files now = FilesIn(folder.At("library"));
         const std::string kept = AllOf(FilesIn(folder.Path())) + outcome.Transferred(); // in the trash, too
@@ -218,7 +217,7 @@ protected:
     // What a crash has left over goes when the folders are read the next time, by another process.
     std::string LeftOver() const
     {
-        if (const pid_t child = fork(); child == 0) {
+        InChild([&] {
             std::string error;
             editor::LongWork work;
             const auto pLibrary = editor::CLibrary::Open(folder.At("library"), {"bmp"}, nullptr, work, error);
@@ -227,9 +226,8 @@ protected:
                 if (pLibrary->FindAtom(pszFolder, pContainer.Receive(), IID_IAtomContainer))
                     pContainer->GetCount();
             }
-            _exit(0);
-        } else
-            waitpid(child, nullptr, 0);
+            return 0;
+        });
         for (const auto& entry : fs::recursive_directory_iterator(folder.Path()))
             if (entry.path().string().find("/.views-new-") != std::string::npos)
                 return entry.path().string() + " stays for ever";
@@ -239,18 +237,16 @@ protected:
     TempFolder folder;
     const OwnFileSystem disk{folder.Path()}; // the trashes of the machine's own are left alone
 
-    Outcome* m_pOutcome;
+    const Command& command = GetParam();
+    Files before, asked; // what is in the library, as it is and when all has gone well
+    Outcome whole{};
+
+private:
+    Outcome* m_pOutcome = nullptr;
 };
 
 TEST_P(FailingDiskTest, LeavesEachObjectAsItWasOrAsAskedAndSaysWhyNot)
 {
-    const Command& command = GetParam();
-    MakeLibrary();
-    const Files before = FilesIn(folder.At("library"));
-    const Outcome whole = Run(command);
-    ASSERT_STREQ("", whole.reason);
-    ASSERT_GT(whole.nOperations, 0);
-    const Files asked = FilesIn(folder.At("library"));
     int nRuns = 0;
     for (int nth = 1; nth <= whole.nOperations; ++nth) {
         for (const auto fault : {DiskFault::InputOutput, DiskFault::Forbidden, DiskFault::Full, DiskFault::HalfWritten,
@@ -259,8 +255,8 @@ TEST_P(FailingDiskTest, LeavesEachObjectAsItWasOrAsAskedAndSaysWhyNot)
             if (!FailOperation::CanHappen(operation, fault))
                 continue;
             ++nRuns;
-            const Outcome& outcome = Run(command, nth, fault);
-            std::string trouble = Trouble(outcome, before, asked, fault);
+            const Outcome& outcome = Run(nth, fault);
+            std::string trouble = Trouble(outcome, fault);
             if (trouble.empty() && !outcome.bOver)
                 trouble = LeftOver();
             EXPECT_EQ("", trouble) << operation.pszName << ", " << nth << " of " << whole.nOperations << ", fault "
@@ -273,11 +269,6 @@ TEST_P(FailingDiskTest, LeavesEachObjectAsItWasOrAsAskedAndSaysWhyNot)
 // In one process; the library is made anew after each time.
 TEST_P(FailingDiskTest, WithoutMemoryEachObjectIsAsItWasOrAsAskedToo)
 {
-    const Command& command = GetParam();
-    MakeLibrary();
-    const Files before = FilesIn(folder.At("library"));
-    Run(command);
-    const Files asked = FilesIn(folder.At("library"));
     MakeLibrary();
     toolkit::HeadlessDesktop desktop;
     BmpReader reader;
@@ -296,10 +287,9 @@ TEST_P(FailingDiskTest, WithoutMemoryEachObjectIsAsItWasOrAsAskedToo)
                 desktop.Run(); // the program has told of it, and goes on
             }
         }
-        Outcome& outcome = *m_pOutcome;
-        std::memset(&outcome, 0, sizeof outcome);
+        Outcome outcome{};
         Note(outcome.transferred, AllOf(FilesIn(folder.At("temp"))));
-        ASSERT_EQ("", Trouble(outcome, before, asked, DiskFault::Full)) << "allocation " << nth;
+        ASSERT_EQ("", Trouble(outcome, DiskFault::Full)) << "allocation " << nth;
         EXPECT_EQ(std::string::npos, folder.Everything().find("/.views-new-")) << "allocation " << nth;
         MakeLibrary();
         ASSERT_EQ("", app.OpenFolder(folder.At("library")));

@@ -1,18 +1,16 @@
 #include "Toolkit/base/Files.h"
 
 #include "tests/support/AllocationFailures.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/support/TempFolder.h"
 
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <gtest/gtest.h>
 #include <string>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace
 {
@@ -70,17 +68,6 @@ protected:
     const std::string& m_folder = m_temp.Path();
 };
 
-// Runs the check in a process of its own; what it returns is that process's exit status.
-int InAnotherProcess(const std::function<int()>& check)
-{
-    const pid_t pid = fork();
-    if (pid == 0)
-        _exit(check());
-    int status = 0;
-    waitpid(pid, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST_F(FilesTest, AFileComesAndGoesAsTheDispositionSaysAndANewOneIsItsOwnersAlone)
 {
     const std::string path = At("a");
@@ -132,7 +119,7 @@ TEST_F(FilesTest, AnUnsharedFileIsNobodyElses)
     const HANDLE hFile = Open(path, GENERIC_READ, OPEN_EXISTING);
     const auto whyNot = [&] { return static_cast<int>(WhyNot(path, GENERIC_WRITE, CREATE_ALWAYS, FILE_SHARE_READ)); };
     EXPECT_EQ(static_cast<int>(ERROR_SHARING_VIOLATION), whyNot());
-    EXPECT_EQ(static_cast<int>(ERROR_SHARING_VIOLATION), InAnotherProcess(whyNot));
+    EXPECT_EQ(static_cast<int>(ERROR_SHARING_VIOLATION), InChild(whyNot));
     EXPECT_TRUE(CloseHandle(hFile));
     EXPECT_EQ("mine", Read(path)); // refused before it was emptied
     char c = 0;
@@ -145,7 +132,7 @@ TEST_F(FilesTest, AnUnsharedFileIsNobodyElses)
 
 TEST_F(FilesTest, AWriteThatFindsNoMoreRoomSaysHowFarItCame)
 {
-    const int status = InAnotherProcess([this] {
+    const int status = InChild([this] {
         std::signal(SIGXFSZ, SIG_IGN);
         const rlimit limit{1000, 1000};
         setrlimit(RLIMIT_FSIZE, &limit);

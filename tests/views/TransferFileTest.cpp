@@ -5,6 +5,7 @@
 #include "Views/clipboard/TransferFileOwner.h"
 #include "Views/clipboard/clipboard.h"
 #include "tests/support/AllocationFailures.h"
+#include "tests/support/ChildProcess.h"
 #include "tests/views/ViewTest.h"
 
 #include <csignal>
@@ -12,8 +13,6 @@
 #include <filesystem>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -36,18 +35,6 @@ protected:
         const auto pArchive = ArchiveRef::Adopt(ArchiveFromFile(path.c_str()));
         return pArchive ? BytesOf(pArchive.Get()) : "-";
     }
-    // The exit status of a child process that does it.
-    template <class Work>
-    static int InChild(Work work)
-    {
-        const pid_t child = fork();
-        if (child == 0)
-            _exit(work());
-        int status = 0;
-        waitpid(child, &status, 0);
-        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    }
-
     const std::string bytes = std::string("any\0bytes\n\xFF", 11) + std::string(100000, 'x');
 };
 
