@@ -24,17 +24,6 @@ protected:
         desktop.RunUntil([&] { return Screen() == screen; });
         EXPECT_EQ(screen, Screen());
     }
-    // "Ada [Poses] Bo", expanded ones with what they hold.
-    std::string Branches(HTREEITEM hItem)
-    {
-        std::string text;
-        for (HTREEITEM hChild = Tree().GetChildItem(hItem); hChild; hChild = Tree().GetNextSiblingItem(hChild)) {
-            text += (text.empty() ? "" : " ") + std::string(Tree().GetItemText(hChild).GetString());
-            if (Tree().GetItemState(hChild, TVIS_EXPANDED) & TVIS_EXPANDED)
-                text += " [" + Branches(hChild) + ']';
-        }
-        return text;
-    }
     void Rename(const char* pszFrom, const char* pszTo) { fs::rename(folder.At(pszFrom), folder.At(pszTo)); }
 };
 
@@ -48,7 +37,7 @@ TEST_F(DiskFollowerTest, FilesComeGoAndChangeInEveryViewAndSelectionAndBranchesS
     fs::remove(folder.At("Ada/a.bmp"));
     folder.MakeFolder("Ada/Moves");
     Await("/Ada/ | [(*b.bmp) Moves new.bmp Poses] | 4 objects, 1 selected | b.bmp: 8 x 8 pixels");
-    EXPECT_EQ("Ada [b.bmp Moves new.bmp Poses] Bo c.bmp walk.phase", Branches(Tree().GetRootItem()));
+    EXPECT_EQ("/[(Ada)[b.bmp Moves new.bmp Poses+] Bo c.bmp walk.phase+]", Branches());
     folder.WriteBmp("Ada/b.bmp", 20, 10);
     Await("/Ada/ | [(*b.bmp) Moves new.bmp Poses] | 4 objects, 1 selected | b.bmp: 20 x 10 pixels");
     Rename("Ada/b.bmp", "Ada/z.bmp");

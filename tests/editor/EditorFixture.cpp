@@ -75,6 +75,22 @@ std::string EditorTest::Rows()
     return '[' + text + ']';
 }
 
+std::string EditorTest::Branches(HTREEITEM hItem)
+{
+    std::string text;
+    for (; hItem; hItem = Tree().GetNextSiblingItem(hItem)) {
+        std::string name = Tree().GetParentItem(hItem) ? Tree().GetItemText(hItem).GetString() : "/";
+        if (hItem == Tree().GetSelectedItem())
+            name = '(' + name + ')';
+        text += (text.empty() ? "" : " ") + name;
+        if (Tree().GetItemState(hItem, TVIS_EXPANDED))
+            text += '[' + Branches(Tree().GetChildItem(hItem)) + ']';
+        else if (Tree().ItemHasChildren(hItem))
+            text += '+';
+    }
+    return text;
+}
+
 HTREEITEM EditorTest::FindItem(const std::string& label)
 {
     HTREEITEM hItem = Tree().GetRootItem();

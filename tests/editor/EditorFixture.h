@@ -33,6 +33,10 @@ protected:
     // Rows that are selected stand in brackets, the focused one bears a star.
     std::string Screen();
     std::string Rows();
+    // Of the tree: items with what they hold when they are expanded; a plus at those that can be, and brackets around
+    // the selected one: "/[Ada[a.bmp] (Bo)+]".
+    std::string Branches() { return Branches(Tree().GetRootItem()); }
+    std::string Branches(HTREEITEM hItem);
 
     Ledger TakeBoxes() { return desktop.TakeMessageBoxes(); }
 
@@ -46,7 +50,7 @@ protected:
     void ClickPath(int nPart); // -1: the button that leads up
     void ClickTool(editor::CToolBar& bar, UINT nCommand);
     void ChooseFromMenu(int nMenu, const std::string& command);
-    void ChooseAt(CPoint at, const char* pszCommand); // from the list's own menu
+    void ChooseAt(CPoint at, const char* pszCommand);               // from the list's own menu
     void Drag(HWND hFrom, CPoint at, std::function<void()> script); // the script moves the mouse on
     void DropOn(HWND hWnd, CPoint at);
     void DropOnTree(const std::string& label) { DropOn(Tree().m_hWnd, PlaceInTree(label)); }

@@ -20,24 +20,6 @@ protected:
     static CStubRef<IAtomEditor> Editor() { return CStubRef<IAtomEditor>::Adopt(GetAtomEditor()); }
     void Listen() { m_dwCookie = Editor()->RegisterHandler(nullptr, &spy); }
 
-    // Items with what they hold when they are expanded; a plus at those that can be, and brackets around the
-    // selected one: "/[Ada[a.bmp] (Bo)+]".
-    std::string Shown() { return Shown(Tree().GetRootItem()); }
-    std::string Shown(HTREEITEM hItem)
-    {
-        std::string text;
-        for (; hItem; hItem = Tree().GetNextSiblingItem(hItem)) {
-            std::string name = Tree().GetParentItem(hItem) ? Tree().GetItemText(hItem).GetString() : "/";
-            if (hItem == Tree().GetSelectedItem())
-                name = '(' + name + ')';
-            text += (text.empty() ? "" : " ") + name;
-            if (Tree().GetItemState(hItem, TVIS_EXPANDED))
-                text += '[' + Shown(Tree().GetChildItem(hItem)) + ']';
-            else if (Tree().ItemHasChildren(hItem))
-                text += '+';
-        }
-        return text;
-    }
     void ClickItem(const std::string& name) { ClickTree(PlaceInTree(name)); }
     void ClickButton(const std::string& name)
     {
@@ -88,18 +70,18 @@ TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
     folder.Write("walk.phase", "Ada/a.bmp\nAda/Poses/one.bmp\nAda/a.bmp\n");
     EXPECT_EQ("", Open());
     EXPECT_EQ("/ | [Ada Bo walk.phase] | 3 objects", Screen());
-    EXPECT_EQ("(/)[Ada+ Bo walk.phase+]", Shown()) << "an empty folder has no button";
+    EXPECT_EQ("(/)[Ada+ Bo walk.phase+]", Branches()) << "an empty folder has no button";
 
     DoubleClick("Ada");
-    EXPECT_EQ("/[(Ada)+ Bo walk.phase+]", Shown());
+    EXPECT_EQ("/[(Ada)+ Bo walk.phase+]", Branches());
     DoubleClick("Poses");
     EXPECT_EQ("list", Focus());
     DoubleClick("one.bmp");
-    EXPECT_EQ("/[Ada[a.bmp Poses[(one.bmp)]] Bo walk.phase+]", Shown());
+    EXPECT_EQ("/[Ada[a.bmp Poses[(one.bmp)]] Bo walk.phase+]", Branches());
     EXPECT_EQ("picture", Focus());
     Press(VK_BACK);
     Press(VK_BACK);
-    EXPECT_EQ("/[(Ada)[a.bmp Poses[one.bmp]] Bo walk.phase+]", Shown());
+    EXPECT_EQ("/[(Ada)[a.bmp Poses[one.bmp]] Bo walk.phase+]", Branches());
     EXPECT_EQ("/Ada/ | [a.bmp (*Poses)] | 2 objects, 1 selected | Poses", Screen());
     EXPECT_EQ("list", Focus());
     for (int i = 0; i < 2; ++i) { // nothing is above the library
@@ -107,7 +89,8 @@ TEST_F(FrameTest, AFolderIsWalkedByDoubleClicksAndBackspaceAndTheTreeFollows)
         EXPECT_EQ("/ | [(*Ada) Bo walk.phase] | 3 objects, 1 selected | Ada", Screen());
     }
     ClickButton("walk.phase");
-    EXPECT_EQ("(/)[Ada[a.bmp Poses[one.bmp]] Bo walk.phase[a.bmp one.bmp a.bmp]]", Shown()) << "in the phase's order";
+    EXPECT_EQ("(/)[Ada[a.bmp Poses[one.bmp]] Bo walk.phase[a.bmp one.bmp a.bmp]]", Branches())
+        << "in the phase's order";
 }
 
 TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
@@ -118,7 +101,7 @@ TEST_F(FrameTest, TheListShowsWhatIsSelectedInTheTreeAndTheFocusStays)
     Open();
 
     ClickItem("Ada");
-    EXPECT_EQ("/[(Ada)+ b.bmp]", Shown()) << "selected, not expanded";
+    EXPECT_EQ("/[(Ada)+ b.bmp]", Branches()) << "selected, not expanded";
     EXPECT_EQ("/Ada/ | [a.bmp Poses] | 2 objects", Screen());
     Press(VK_RIGHT);
     Press(VK_DOWN);
@@ -151,7 +134,7 @@ TEST_F(FrameTest, KeysChangeThePaneAndTheListKeepsItsSelection)
     EXPECT_EQ("tree", Focus());
     Press(VK_HOME);
     ClickTree({60, 8});
-    EXPECT_EQ("(/)[a.bmp b.bmp c.bmp]", Shown());
+    EXPECT_EQ("(/)[a.bmp b.bmp c.bmp]", Branches());
     EXPECT_EQ(before, Screen());
 }
 
@@ -173,14 +156,14 @@ TEST_F(FrameTest, WhatIsOpenedIsToldOnceAndASelectionInTheTreeInItsOrder)
     spy.answer = FALSE;
     ClickItem("Ada");
     EXPECT_EQ(Ledger({"selecting Ada"}), book.TakeLedger());
-    EXPECT_EQ("/[Ada+ (Bo)+]", Shown());
+    EXPECT_EQ("/[Ada+ (Bo)+]", Branches());
     EXPECT_EQ("/Bo/ | [b.bmp] | 1 object", Screen());
 
     spy.answer = TRUE;
     DoubleClick("b.bmp");
     book.TakeLedger();
     Open(folder.At("Ada")); // takes the place of the first
-    EXPECT_EQ("(/)[Poses+]", Shown());
+    EXPECT_EQ("(/)[Poses+]", Branches());
     EXPECT_EQ("/ | [Poses] | 1 object", Screen());
     EXPECT_STREQ("Ada - Views", GetWindowText(App().GetMainWindow()));
     told = book.TakeLedger();
@@ -194,11 +177,11 @@ TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
     Open();
     folder.Make("Ada/b.bmp");
     ClickButton("Ada");
-    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo+]", Shown()) << "not read before";
+    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo+]", Branches()) << "not read before";
     EXPECT_EQ("/ | [Ada Bo] | 2 objects", Screen()) << "expanding selects nothing";
     folder.Remove("Bo/ring");
     ClickButton("Bo");
-    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo]", Shown()) << "nothing is left to expand";
+    EXPECT_EQ("(/)[Ada[a.bmp b.bmp] Bo]", Branches()) << "nothing is left to expand";
 
     folder.Make("Ada/c.bmp Bo/d.bmp");
     folder.Remove("Ada/a.bmp");
@@ -206,7 +189,7 @@ TEST_F(FrameTest, FoldersAreReadWhenTheyAreExpanded)
         ClickItem(pszFolder);
         Press(VK_F5);
     }
-    EXPECT_EQ("/[Ada[b.bmp c.bmp] (Bo)+]", Shown());
+    EXPECT_EQ("/[Ada[b.bmp c.bmp] (Bo)+]", Branches());
 }
 
 TEST_F(FrameTest, ExpandingEverythingEndsAtARingOfLinksAndAtTooMuch)
@@ -216,16 +199,16 @@ TEST_F(FrameTest, ExpandingEverythingEndsAtARingOfLinksAndAtTooMuch)
     Open();
     ClickButton("Ada");
     ClickButton("Poses");
-    EXPECT_EQ("(/)[Ada[Poses[one.bmp ring]] Huge Zoe+]", Shown()) << "the ring ends before it is read";
+    EXPECT_EQ("(/)[Ada[Poses[one.bmp ring]] Huge Zoe+]", Branches()) << "the ring ends before it is read";
     Press(VK_MULTIPLY);
-    EXPECT_EQ("(/)[Ada[Poses[one.bmp ring]] Huge Zoe[a.bmp]]", Shown());
+    EXPECT_EQ("(/)[Ada[Poses[one.bmp ring]] Huge Zoe[a.bmp]]", Branches());
 
     folder.MakeEmptyFiles(10'000, "Huge/%05d.bmp");
     Open();
     Press(VK_F6);
     Press(VK_MULTIPLY);
     EXPECT_EQ(FindItem("Zoe"), Tree().GetNextSiblingItem(FindItem("Huge")));
-    EXPECT_NE(std::string::npos, Shown().find("09999.bmp] Zoe+]"));
+    EXPECT_NE(std::string::npos, Branches().find("09999.bmp] Zoe+]"));
 }
 
 TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
