@@ -9,7 +9,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 #include <map>
-#include <utility>
 
 namespace
 {

@@ -1,7 +1,6 @@
 // Commands given by menus, keys and tools, and the ways from place to place.
 #include "tests/editor/EditorFixture.h"
 
-#include <algorithm>
 #include <set>
 
 namespace

@@ -6,6 +6,7 @@
 #include "Views/host/inside/WhatIsMissing.h"
 #include "Views/list/list.h"
 #include "tests/support/DesktopTest.h"
+#include "tests/support/TempFolder.h"
 
 #include <cstring>
 #include <fcntl.h>
@@ -70,13 +71,18 @@ protected:
         EXPECT_TRUE(host.GetEditor().WriteActiveObjects(pArchive.Get())) << host.GetEditor().GetArchiveError();
         return {static_cast<const char*>(pArchive->GetData()), pArchive->GetLength()};
     }
-    // What they are read as, "no: reason" when they are refused.
-    std::string Unpack(const std::string& bytes)
+    static CStubRef<IArchive> ArchiveOf(const std::string& bytes)
     {
-        const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
+        auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
         pArchive->Seek(static_cast<DWORD>(bytes.size()), 0);
         pArchive->SetEnd();
         std::memcpy(pArchive->GetData(), bytes.data(), bytes.size());
+        return pArchive;
+    }
+    // What they are read as, "no: reason" when they are refused.
+    std::string Unpack(const std::string& bytes)
+    {
+        const auto pArchive = ArchiveOf(bytes);
         std::string read;
         const auto note = [](IAtom* pAtom, void* pRead) -> BOOL {
             *static_cast<std::string*>(pRead) += Describe(*hostkit::CAtom::Of(pAtom));
@@ -143,12 +149,7 @@ TEST_F(KitTest, AContainerTakesNoNameTwiceNoStrangerAndNotItself)
 
 TEST_F(KitTest, ACopyOfAContainerIsNoMoveIntoIt)
 {
-    const std::string bytes = Pack();
-    const auto pArchive = CStubRef<IArchive>::Adopt(ConstructMemoryArchive());
-    pArchive->Seek(static_cast<DWORD>(bytes.size()), 0);
-    pArchive->SetEnd();
-    std::memcpy(pArchive->GetData(), bytes.data(), bytes.size());
-
+    const auto pArchive = ArchiveOf(Pack());
     EXPECT_EQ(PASTE_COPY, CheckPaste(pArchive.Get(), pChapter, TRUE));
     EXPECT_EQ(PASTE_ANY, CheckPaste(pArchive.Get(), hostkit::Make<hostkit::CContainer>("Other").Get(), TRUE));
     EXPECT_TRUE(PasteObjects(pArchive.Get(), pChapter, FALSE));
@@ -187,26 +188,26 @@ TEST_F(KitTest, AHostHasAllThatViewsAskFor)
 TEST(LargeBlockTest, AFileIsTakenAsItIsOnlyWhileItsOwnerHoldsIt)
 {
     constexpr std::size_t kSize = 20 << 20;
-    char path[] = "/tmp/views-block-XXXXXX";
-    const int fd = mkstemp(path);
+    const TempFolder folder;
+    const std::string path = folder.At("block");
+    const int fd = open(path.c_str(), O_RDWR | O_CREAT, 0600);
     ASSERT_EQ(0, ftruncate(fd, kSize));
     ASSERT_EQ(1, pwrite(fd, "x", 1, kSize - 1));
     hostkit::LargeBlock block;
-    EXPECT_EQ(0u, block.TakeFile(path));
+    EXPECT_EQ(0u, block.TakeFile(path.c_str()));
 
     struct flock lock = {};
     lock.l_type = F_RDLCK;
     ASSERT_EQ(0, fcntl(fd, F_OFD_SETLK, &lock));
-    EXPECT_EQ(kSize, block.TakeFile(path));
+    EXPECT_EQ(kSize, block.TakeFile(path.c_str()));
     EXPECT_EQ(std::byte{'x'}, block.Get()[kSize - 1]);
     block.Get()[0] = std::byte{'y'};
     char first = '\0';
     EXPECT_EQ(1, pread(fd, &first, 1, 0));
     EXPECT_EQ('\0', first) << "it stays its owner's";
     fchmod(fd, 0644);
-    EXPECT_EQ(0u, block.TakeFile(path));
+    EXPECT_EQ(0u, block.TakeFile(path.c_str()));
     close(fd);
-    unlink(path);
 }
 
 TEST(KitNameTest, ABufferThatIsTooSmallIsToldHowLargeItMustBe)

@@ -124,18 +124,11 @@ void ListControlTest::Fill(int rows)
     TakeLedger();
 }
 
-CPoint ListControlTest::IconOf(int row) const
+CRect ListControlTest::Part(int row, int area) const
 {
     CRect rect;
-    list.GetItemRect(row, &rect, LVIR_ICON);
-    return rect.CenterPoint();
-}
-
-CPoint ListControlTest::LabelOf(int row) const
-{
-    CRect rect;
-    list.GetItemRect(row, &rect, LVIR_LABEL);
-    return rect.CenterPoint();
+    list.GetItemRect(row, &rect, area);
+    return rect;
 }
 
 std::string ListControlTest::State() const

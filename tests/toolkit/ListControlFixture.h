@@ -39,8 +39,9 @@ protected:
     void ShowList(DWORD style); // after it was destroyed, again
     void Fill(int rows);        // and paints; the ledger is empty then
 
-    CPoint IconOf(int row) const;
-    CPoint LabelOf(int row) const;
+    CRect Part(int row, int area) const; // LVIR_*
+    CPoint IconOf(int row) const { return Part(row, LVIR_ICON).CenterPoint(); }
+    CPoint LabelOf(int row) const { return Part(row, LVIR_LABEL).CenterPoint(); }
     std::string State() const; // "[a *b (c)]": selected rows with a star, the focused one in parentheses
     std::string Selected() const;
     Ledger TakeLedger() { return list.TakeLedger(); }

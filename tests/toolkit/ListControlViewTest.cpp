@@ -35,13 +35,6 @@ protected:
         desktop.MoveTo(list.m_hWnd, to);
         return Selected();
     }
-
-    CRect Part(int row, int area) const
-    {
-        CRect rect;
-        list.GetItemRect(row, &rect, area);
-        return rect;
-    }
 };
 
 TEST_F(ListControlViewTest, TheRubberBandSelectsWhatItTouchesAndWithControlTogglesAgainstWhatItBeganWith)

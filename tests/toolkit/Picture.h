@@ -4,7 +4,6 @@
 #include "Toolkit/graphics/Surface.h"
 
 #include <map>
-#include <ostream>
 #include <string>
 #include <vector>
 

@@ -5,7 +5,6 @@
 #include "tests/support/DesktopTest.h"
 #include "tests/toolkit/SpyWnd.h"
 
-#include <atomic>
 #include <thread>
 
 namespace

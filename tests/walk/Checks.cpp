@@ -1,7 +1,6 @@
 #include "Toolkit/paint/WindowDC.h"
 #include "tests/walk/Scene.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace

@@ -1,5 +1,6 @@
 #include "tests/walk/Shrink.h"
 
+#include "tests/support/TempFolder.h"
 #include "tests/walk/Steps.h"
 
 #include <chrono>
@@ -64,10 +65,9 @@ void Walk(std::uint64_t seed, const std::vector<int>& steps, Report& report, boo
         End(report, left);
 }
 
-[[noreturn]] void BeChild(std::uint64_t seed, const std::vector<int>& steps, Report& report, bool bTells)
+[[noreturn]] void BeChild(std::uint64_t seed, const std::vector<int>& steps, Report& report, bool bTells,
+                          const std::string& folder)
 {
-    const auto folder = std::filesystem::temp_directory_path() / ("walk-" + std::to_string(getpid()));
-    std::filesystem::create_directory(folder);
     setenv("TEMP", folder.c_str(), 1);
     if (!bTells)
         dup2(open("/dev/null", O_WRONLY), STDERR_FILENO);
@@ -93,13 +93,13 @@ Outcome RunWalk(std::uint64_t seed, const std::vector<int>& steps, bool bTells)
 {
     void* const pShared = mmap(nullptr, sizeof(Report), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0);
     Report& report = *new (pShared) Report{};
+    const TempFolder transferFiles;
     std::fflush(stdout);
     const pid_t child = fork();
     if (child == 0)
-        BeChild(seed, steps, report, bTells);
+        BeChild(seed, steps, report, bTells, transferFiles.Path());
     int nStatus = 0;
     waitpid(child, &nStatus, 0);
-    std::filesystem::remove_all(std::filesystem::temp_directory_path() / ("walk-" + std::to_string(child)));
     Outcome outcome{report.fault, report.nAt};
     if (outcome.fault.empty() && nStatus != 0)
         outcome.fault = NameOfEnd(nStatus);
