@@ -13,10 +13,15 @@ std::string Stage::Hear(const std::string& beginning)
             return line;
 }
 
-void Stage::Do(const std::string& command)
+std::string Stage::Ask(const std::string& command, const std::string& beginning)
 {
     Tell(command);
-    Hear("done");
+    return Hear(beginning);
+}
+
+void Stage::Do(const std::string& command)
+{
+    Ask(command, "done");
 }
 
 namespace
@@ -88,8 +93,7 @@ TEST_P(EveryDesktop, AWindowIsSeenInItsSizeAsLongAsItIsShown)
 {
     EXPECT_TRUE(stage.IsSeen({200, 120}));
     stage.Do("heed size");
-    stage.Tell("place 100 100 420 190");
-    EXPECT_EQ("size 320,90", stage.Hear());
+    EXPECT_EQ("size 320,90", stage.Ask("place 100 100 420 190"));
     EXPECT_TRUE(stage.IsSeen({320, 90}));
     stage.Do("hide");
     EXPECT_TRUE(stage.IsSeen({0, 0}));
@@ -112,15 +116,13 @@ TEST_P(EveryDesktop, TheUserSizesTheWindowAndAsksItToCloseWhichItMayRefuse)
 
 TEST_P(NotOnWayland, AWindowIsWhereTheProgramOrTheUserHasPutIt)
 {
-    stage.Tell("place 140 160 340 280");
-    EXPECT_EQ("done", stage.Hear());
+    EXPECT_EQ("done", stage.Ask("place 140 160 340 280"));
     EXPECT_TRUE(stage.IsSeenAt({140, 160}));
     stage.Do("heed moved");
     stage.MoveWindow({30, -20});
     EXPECT_EQ("moved", stage.Hear());
-    stage.Tell("where");
     int x = 0, y = 0;
-    ASSERT_EQ(2, std::sscanf(stage.Hear("1").c_str(), "%d,%d", &x, &y));
+    ASSERT_EQ(2, std::sscanf(stage.Ask("where", "1").c_str(), "%d,%d", &x, &y));
     EXPECT_NE(CPoint(140, 160), CPoint(x, y));
     EXPECT_TRUE(stage.IsSeenAt({x, y}));
 }
@@ -186,10 +188,8 @@ TEST_P(EveryDesktop, KeysAreForTheActiveWindowAlone)
 
 TEST_P(EveryDesktop, TimersAreNeverEarlyAndTasksOfAnotherThreadRunInOrder)
 {
-    stage.Tell("timers 5");
-    EXPECT_EQ("ticked 5", stage.Hear());
-    stage.Tell("threads");
-    EXPECT_EQ("task 1", stage.Hear());
+    EXPECT_EQ("ticked 5", stage.Ask("timers 5"));
+    EXPECT_EQ("task 1", stage.Ask("threads"));
     EXPECT_EQ("task 2", stage.Hear());
 }
 
@@ -233,50 +233,38 @@ TEST_P(EveryDesktop, AMessageBoxGivesTheUsersAnswer)
 
 TEST_P(Screens, TimersGoOnWhileAMenuOrAMessageBoxWaits)
 {
-    stage.Tell("menu 60 40");
-    EXPECT_EQ("shown menu", stage.Hear());
-    stage.Tell("timers 3");
-    EXPECT_EQ("ticked 3", stage.Hear("t"));
+    EXPECT_EQ("shown menu", stage.Ask("menu 60 40"));
+    EXPECT_EQ("ticked 3", stage.Ask("timers 3", "t"));
     stage.Key("Escape");
     EXPECT_EQ("chose 0", stage.Hear("chose"));
-    stage.Tell("box 0");
-    EXPECT_EQ("shown box", stage.Hear("shown"));
-    stage.Tell("timers 3");
-    EXPECT_EQ("ticked 3", stage.Hear());
+    EXPECT_EQ("shown box", stage.Ask("box 0", "shown"));
+    EXPECT_EQ("ticked 3", stage.Ask("timers 3"));
     stage.Key("Escape");
     EXPECT_EQ("answered 1", stage.Hear("answered"));
 }
 
 TEST_P(Screens, AMenuEndsWhenTheUserGoesToAnotherProgramAndWithItsWindow)
 {
-    stage.Tell("menu 60 40");
-    EXPECT_EQ("shown menu", stage.Hear());
+    EXPECT_EQ("shown menu", stage.Ask("menu 60 40"));
     stage.GoToOther();
     EXPECT_EQ("chose 0", stage.Hear("chose"));
     stage.ComeBack();
-    stage.Tell("menu 60 40");
-    EXPECT_EQ("shown menu", stage.Hear("shown"));
-    stage.Tell("vanish");
-    EXPECT_EQ("chose 0", stage.Hear("chose"));
+    EXPECT_EQ("shown menu", stage.Ask("menu 60 40", "shown"));
+    EXPECT_EQ("chose 0", stage.Ask("vanish", "chose"));
 }
 
 TEST_P(EveryDesktop, WhatIsCopiedIsTheProgramsOwnUntilAnotherCopies)
 {
     stage.Key("F2"); // copying is what a user has asked for
     stage.Hear("key");
-    stage.Tell("copy");
-    EXPECT_EQ("copied", stage.Hear());
-    stage.Tell("paste");
-    EXPECT_EQ("from left", stage.Hear());
-    stage.Tell("owner");
-    EXPECT_EQ("its own", stage.Hear());
+    EXPECT_EQ("copied", stage.Ask("copy"));
+    EXPECT_EQ("from left", stage.Ask("paste"));
+    EXPECT_EQ("its own", stage.Ask("owner"));
     EXPECT_EQ("from left", stage.OtherPastes());
     stage.OtherCopies();
     stage.ComeBack();
-    stage.Tell("paste");
-    EXPECT_EQ("from other", stage.Hear("from"));
-    stage.Tell("owner");
-    EXPECT_EQ("not its own", stage.Hear());
+    EXPECT_EQ("from other", stage.Ask("paste", "from"));
+    EXPECT_EQ("not its own", stage.Ask("owner"));
 }
 
 TEST_P(EveryDesktop, ADragIsFollowedAndHasTheEffectThatItWasGiven)
@@ -311,8 +299,7 @@ TEST_P(EveryDesktop, ADragToAnotherProgramHasTheEffectThatItConfirms)
     stage.Do("heed move");
     stage.Move({60, 60});
     EXPECT_EQ("move 60,60", stage.Hear("move"));
-    stage.Tell("owner");
-    EXPECT_EQ("not its own", stage.Hear());
+    EXPECT_EQ("not its own", stage.Ask("owner"));
 }
 
 TEST_P(Screens, ADragOutlivesTheWindowThatItWasDroppedOnAndTheOneItCameFrom)
@@ -358,13 +345,11 @@ TEST_P(OnlyWayland, AMenuIsInItsPlaceThoughNobodyKnowsWhereTheWindowIs)
 TEST_P(OnlyWayland, WhatAnotherHasCopiedIsThereAsSoonAsTheWindowIsActive)
 {
     stage.OtherCopies();
-    stage.Tell("paste");
-    EXPECT_EQ("nothing", stage.Hear());
+    EXPECT_EQ("nothing", stage.Ask("paste"));
     stage.Do("heed active");
     stage.ComeBack();
     EXPECT_EQ("active", stage.Hear("active"));
-    stage.Tell("paste");
-    EXPECT_EQ("from other", stage.Hear("from"));
+    EXPECT_EQ("from other", stage.Ask("paste", "from"));
 }
 
 } // namespace

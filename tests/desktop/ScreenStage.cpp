@@ -103,8 +103,7 @@ public:
     void OtherCopies() override
     {
         GoToOther();
-        m_other.program.Tell("copy");
-        m_other.program.Await("copied");
+        m_other.program.Ask("copy", "copied");
     }
     std::string OtherPastes() override
     {
@@ -135,8 +134,7 @@ public:
     void DragToOther(CPoint from, const std::string& drop) override
     {
         StartOther();
-        m_other.program.Tell(drop == "die" ? "drop hold" : "drop " + drop);
-        m_other.program.Await("done");
+        m_other.program.Ask(drop == "die" ? "drop hold" : "drop " + drop, "done");
         BeginDrag(m_actor, from);
         Drop(m_other, {50, 50});
         m_other.program.Await("drop ");
@@ -216,8 +214,7 @@ protected:
 
     void BeginDrag(Player& player, CPoint from)
     {
-        player.program.Tell("drag");
-        player.program.Await("done");
+        player.program.Ask("drag", "done");
         MoveTo(InWindow(player, from));
         Press(1);
         MoveTo(InWindow(player, from + CPoint(8, 0)));

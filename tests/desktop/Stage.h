@@ -22,6 +22,7 @@ public:
     void Do(const std::string& command);               // as above, and it is done afterwards
     // What it says next, of what begins so; what comes before is passed over. Empty when that does not come.
     std::string Hear(const std::string& beginning = "");
+    std::string Ask(const std::string& command, const std::string& beginning = ""); // tells it, and hears
 
     // Is, or becomes within a while, the actor's window as large as that on the screen? 0,0: it is in sight nowhere.
     virtual bool IsSeen(CSize size) = 0;

@@ -21,6 +21,7 @@ public:
     void Tell(const std::string& line);
     std::string Line();                              // what it says next; empty when that does not come
     std::string Await(const std::string& beginning); // of what it says the next that begins so
+    std::string Ask(const std::string& line, const std::string& beginning) { return Tell(line), Await(beginning); }
 };
 
 class XServer
@@ -31,8 +32,8 @@ public:
     std::optional<QString> Run(const QString& command); // what it says; nothing when it failed or waited in vain
     QString XDo(const QString& command);                // what xdotool answers; empty as above
     QString FindWindow(const QString& title);           // whose title begins so, as soon as it is in sight
-    void Drag(QPoint from, QPoint to); // places of the screen; one jump would drop nothing
-    QImage Look() const;               // what the screen shows
+    void Drag(QPoint from, QPoint to);                  // places of the screen; one jump would drop nothing
+    QImage Look() const;                                // what the screen shows
 
     QProcessEnvironment m_environment = QProcessEnvironment::systemEnvironment(); // of all programs
     QSize m_size{1280, 840};                                                      // of the screen

@@ -14,8 +14,7 @@ protected:
     void DropOnList(CPoint at) { DropOn(List(), at); }
     CPoint BelowTheRows()
     {
-        CRect client;
-        GetClientRect(List(), &client);
+        const CRect client = ClientOf(List());
         return {client.right / 2, client.bottom - 5};
     }
 };

@@ -143,10 +143,9 @@ TEST_F(EditorTest, ThumbnailsHaveTheSizeTheUserWantsAndWhatWasSeenStaysInSight)
     Settle();
     const auto extent = [&] { return Frame().GetContent().GetThumbnailExtent(); };
     const auto isSeen = [&] {
-        CRect row, client;
-        GetClientRect(List(), &client);
+        CRect row;
         Frame().GetList().GetItemRect(30, &row, LVIR_ICON);
-        return row.top >= 0 && row.top < client.bottom;
+        return row.top >= 0 && row.top < ClientOf(List()).bottom;
     };
     reader.TakeReads();
     std::string sizes;
@@ -212,9 +211,7 @@ TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
     toolkit::InputResize(App().GetMainWindow(), {400, 300});
     desktop.Run();
     EXPECT_EQ(0xFF102030, MiddleOf(Picture())) << "the one that is there";
-    CRect window;
-    GetWindowRect(Picture(), &window);
-    EXPECT_EQ(400, window.right) << "to the new edge";
+    EXPECT_EQ(400, PlaceOnScreen(Picture()).right) << "to the new edge";
     reader.AllowAll();
     Settle();
     EXPECT_EQ(0xFF102030, MiddleOf(Picture()));

@@ -41,12 +41,7 @@ protected:
                : hFocus == Picture()   ? "picture"
                                        : "elsewhere";
     }
-    int TreeWidth()
-    {
-        CRect rect;
-        GetWindowRect(Frame().GetSplitter().m_hWnd, &rect);
-        return rect.left;
-    }
+    int TreeWidth() { return PlaceOnScreen(Frame().GetSplitter().m_hWnd).left; }
     void DragSplitter(int to, bool bRelease = true)
     {
         const HWND hBar = Frame().GetSplitter().m_hWnd;
@@ -224,10 +219,8 @@ TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
         DragSplitter(to);
         EXPECT_EQ(width, TreeWidth());
     }
-    CRect list;
-    GetWindowRect(List(), &list);
-    EXPECT_EQ(207, list.left);
-    EXPECT_EQ(640, list.right);
+    EXPECT_EQ(207, PlaceOnScreen(List()).left);
+    EXPECT_EQ(640, PlaceOnScreen(List()).right);
     DragSplitter(300, false);
     EXPECT_EQ(300, TreeWidth());
     Press(VK_ESCAPE);
@@ -237,8 +230,7 @@ TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
 
     toolkit::InputResize(App().GetMainWindow(), {300, 400});
     desktop.Run();
-    GetWindowRect(List(), &list);
-    EXPECT_EQ(0, list.left) << "no room for two";
+    EXPECT_EQ(0, PlaceOnScreen(List()).left) << "no room for two";
     Press(VK_F6);
     EXPECT_EQ("list", Focus());
     toolkit::InputResize(App().GetMainWindow(), {640, 480});

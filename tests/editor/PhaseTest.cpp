@@ -81,11 +81,10 @@ TEST_F(PhaseFramesTest, KeysMoveTheSelectedFramesOnePlaceAndTheyStaySelected)
     for (int i = 0; i < 150; ++i)
         move(VK_LEFT);
     const int nRow = Frame().GetList().GetFocusedRow();
-    CRect row, client;
+    CRect row;
     Frame().GetList().GetItemRect(nRow, &row, LVIR_ICON);
-    ::GetClientRect(List(), &client);
     EXPECT_EQ(149, nRow);
-    EXPECT_TRUE(row.top >= 0 && row.bottom <= client.bottom) << "it stays in sight";
+    EXPECT_TRUE(row.top >= 0 && row.bottom <= ClientOf(List()).bottom) << "it stays in sight";
 }
 
 TEST_F(PhaseFramesTest, TheGapIsMarkedWhileADragIsOverIt)

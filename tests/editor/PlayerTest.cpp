@@ -138,9 +138,7 @@ TEST_F(PlayerTest, WhatIsChangedInThePhaseIsPlayed)
     TakeBoxes();
     Frame().MoveWindow(CRect(0, 0, 700, 300));
     Settle();
-    CRect list;
-    ::GetClientRect(List(), &list);
-    EXPECT_GT(list.Height(), 60) << "a low window keeps the frames";
+    EXPECT_GT(ClientOf(List()).Height(), 60) << "a low window keeps the frames";
 }
 
 TEST_F(PlayerTest, OnlyTheThumbnailUnderTheMouseMoves)

@@ -15,12 +15,7 @@ protected:
         m_options.settingsPath = config.At("views/settings");
         StartAnew();
     }
-    CRect Place()
-    {
-        CRect place;
-        Frame().GetWindowRect(&place);
-        return place;
-    }
+    CRect Place() { return PlaceOnScreen(Frame().m_hWnd); }
 
     TempFolder config;
 };
@@ -49,9 +44,7 @@ TEST_F(SettingsTest, TheNextWindowIsAsTheLastOneWasAndNeverLargerThanTheScreen)
     EXPECT_EQ("[Ada Bo a.bmp]", Rows());
     EXPECT_EQ(160, Frame().GetContent().GetThumbnailExtent());
     EXPECT_TRUE(Frame().GetContent().ArePixelsShown());
-    CRect bar;
-    GetWindowRect(Frame().GetSplitter().m_hWnd, &bar);
-    EXPECT_EQ(330, bar.left - 300);
+    EXPECT_EQ(300 + 330, PlaceOnScreen(Frame().GetSplitter().m_hWnd).left);
 
     desktop.SetWorkArea({0, 0, 800, 600});
     StartAnew();

@@ -5,6 +5,7 @@
 #include "Toolkit/graphics/Gdi.h"
 #include "Toolkit/menu/Menu.h"
 #include "Toolkit/run/Run.h"
+#include "Toolkit/window/WindowApi.h"
 
 DesktopTest::DesktopTest()
     : m_counts(toolkit::CountWindows()),
@@ -32,4 +33,18 @@ void DesktopTest::Key(UINT vkey, toolkit::Modifiers modifiers)
     desktop.Hold(modifiers);
     desktop.Key(vkey);
     desktop.Hold({});
+}
+
+CRect DesktopTest::ClientOf(HWND hWnd)
+{
+    CRect rect;
+    ::GetClientRect(hWnd, &rect);
+    return rect;
+}
+
+CRect DesktopTest::PlaceOnScreen(HWND hWnd)
+{
+    CRect rect;
+    ::GetWindowRect(hWnd, &rect);
+    return rect;
 }

@@ -16,6 +16,8 @@ protected:
     ~DesktopTest() override;
 
     void Key(UINT vkey, toolkit::Modifiers modifiers = {});
+    static CRect ClientOf(HWND hWnd);
+    static CRect PlaceOnScreen(HWND hWnd);
 
     static constexpr toolkit::Modifiers kShift{true, false, false}, kControl{false, true, false},
         kBoth{true, true, false}, kAlt{false, false, true};

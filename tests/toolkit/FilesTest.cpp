@@ -157,7 +157,10 @@ TEST_F(FilesTest, TemporaryNamesLieInTheFolderOrTheMachinesOwnAndAreNeverTheSame
     EXPECT_NE(first, second);
 
     setenv("TMPDIR", m_folder.c_str(), 1);
-    for (const char* pszFolder : {"", "/no/such/folder", static_cast<const char*>(nullptr)})
+    Write(At("file"), "no folder");
+    const std::string file = At("file"), endless = "/" + std::string(5000, 'x');
+    for (const char* pszFolder :
+         {"", "/no/such/folder", file.c_str(), endless.c_str(), static_cast<const char*>(nullptr)})
         EXPECT_EQ(m_folder, fs::path(Name(pszFolder)).parent_path());
     char buffer[4] = "";
     EXPECT_EQ(m_folder.size() + 1, GetEnvironmentVariableA("TMPDIR", buffer, 4)); // the size that it needs

@@ -143,9 +143,7 @@ TEST_F(ListLabels, TheFieldGrowsWithItsTextFollowsItsRowAndNeverNamesAnother)
     EXPECT_LT(first.Width(), grown.Width());
     EXPECT_NEAR(first.CenterPoint().x, grown.CenterPoint().x, 1);
     desktop.Type(" far more room than there is, whichever way the field may grow, so that it scrolls");
-    CRect client;
-    list.GetClientRect(&client);
-    EXPECT_EQ(client.Width(), FieldRect(Field()).Width());
+    EXPECT_EQ(ClientOf(list.m_hWnd).Width(), FieldRect(Field()).Width());
     desktop.Wheel(list.m_hWnd, {10, 10}, -1);
     EXPECT_EQ(first.top - 96, FieldRect(Field()).top);
     list.MoveEditLabel(0); // e is the first one now

@@ -2,74 +2,68 @@
 
 namespace
 {
-// What follows the message's name.
-enum class Says
-{
-    Nothing,
-    Number,
-    Code,
-    Place,
-    Focus,
-    Wheel
-};
-
-const std::map<UINT, std::pair<std::string, Says>> kMessages = {
-    {WM_NCCREATE, {"NCCREATE", Says::Nothing}},
-    {WM_CREATE, {"CREATE", Says::Nothing}},
-    {WM_SIZE, {"SIZE", Says::Place}},
-    {WM_MOVE, {"MOVE", Says::Place}},
-    {WM_SHOWWINDOW, {"SHOWWINDOW", Says::Number}},
-    {WM_DESTROY, {"DESTROY", Says::Nothing}},
-    {WM_NCDESTROY, {"NCDESTROY", Says::Nothing}},
-    {WM_SETFOCUS, {"SETFOCUS", Says::Focus}},
-    {WM_KILLFOCUS, {"KILLFOCUS", Says::Focus}},
-    {WM_PAINT, {"PAINT", Says::Nothing}},
-    {WM_TIMER, {"TIMER", Says::Number}},
-    {WM_SYSCOLORCHANGE, {"SYSCOLORCHANGE", Says::Nothing}},
-    {WM_USER, {"USER", Says::Number}},
-    {WM_APP, {"APP", Says::Number}},
-    {WM_MOUSEMOVE, {"MOUSEMOVE", Says::Place}},
-    {WM_MOUSELEAVE, {"MOUSELEAVE", Says::Nothing}},
-    {WM_LBUTTONDOWN, {"LBUTTONDOWN", Says::Place}},
-    {WM_LBUTTONUP, {"LBUTTONUP", Says::Place}},
-    {WM_LBUTTONDBLCLK, {"LBUTTONDBLCLK", Says::Place}},
-    {WM_RBUTTONDOWN, {"RBUTTONDOWN", Says::Place}},
-    {WM_CAPTURECHANGED, {"CAPTURECHANGED", Says::Nothing}},
-    {WM_KEYDOWN, {"KEYDOWN", Says::Number}},
-    {WM_KEYUP, {"KEYUP", Says::Number}},
-    {WM_CHAR, {"CHAR", Says::Number}},
-    {WM_MOUSEWHEEL, {"MOUSEWHEEL", Says::Wheel}},
-    {WM_VSCROLL, {"VSCROLL", Says::Code}},
-};
-
 std::string Name(HWND hWnd)
 {
     return std::string(::GetWindowText(hWnd));
 }
 
-std::string Place(LPARAM lParam)
+// What follows a message's name.
+using Says = std::string(WPARAM wParam, LPARAM lParam);
+
+std::string Number(WPARAM wParam, LPARAM)
 {
-    return std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam));
+    return " " + std::to_string(wParam);
 }
 
-std::string Parameters(Says says, WPARAM wParam, LPARAM lParam)
+std::string Code(WPARAM wParam, LPARAM)
+{
+    return " " + std::to_string(LOWORD(wParam));
+}
+
+std::string Place(WPARAM, LPARAM lParam)
+{
+    return " " + std::to_string(GET_X_LPARAM(lParam)) + "," + std::to_string(GET_Y_LPARAM(lParam));
+}
+
+std::string Focus(WPARAM wParam, LPARAM)
 {
     const HWND hOther = reinterpret_cast<HWND>(wParam);
-    switch (says) {
-    case Says::Number:
-        return " " + std::to_string(wParam);
-    case Says::Code:
-        return " " + std::to_string(LOWORD(wParam));
-    case Says::Place:
-        return " " + Place(lParam);
-    case Says::Focus:
-        return " " + (hOther ? Name(hOther) : "-") + " (" + Name(::GetFocus()) + ")";
-    case Says::Wheel:
-        return " " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))) + " at " + Place(lParam);
-    default:
-        return "";
-    }
+    return " " + (hOther ? Name(hOther) : "-") + " (" + Name(::GetFocus()) + ")";
 }
+
+std::string Wheel(WPARAM wParam, LPARAM lParam)
+{
+    return " " + std::to_string(static_cast<std::int16_t>(HIWORD(wParam))) + " at" + Place(wParam, lParam);
+}
+
+const std::map<UINT, std::pair<std::string, Says*>> kMessages = {
+    {WM_NCCREATE, {"NCCREATE", nullptr}},
+    {WM_CREATE, {"CREATE", nullptr}},
+    {WM_SIZE, {"SIZE", &Place}},
+    {WM_MOVE, {"MOVE", &Place}},
+    {WM_SHOWWINDOW, {"SHOWWINDOW", &Number}},
+    {WM_DESTROY, {"DESTROY", nullptr}},
+    {WM_NCDESTROY, {"NCDESTROY", nullptr}},
+    {WM_SETFOCUS, {"SETFOCUS", &Focus}},
+    {WM_KILLFOCUS, {"KILLFOCUS", &Focus}},
+    {WM_PAINT, {"PAINT", nullptr}},
+    {WM_TIMER, {"TIMER", &Number}},
+    {WM_SYSCOLORCHANGE, {"SYSCOLORCHANGE", nullptr}},
+    {WM_USER, {"USER", &Number}},
+    {WM_APP, {"APP", &Number}},
+    {WM_MOUSEMOVE, {"MOUSEMOVE", &Place}},
+    {WM_MOUSELEAVE, {"MOUSELEAVE", nullptr}},
+    {WM_LBUTTONDOWN, {"LBUTTONDOWN", &Place}},
+    {WM_LBUTTONUP, {"LBUTTONUP", &Place}},
+    {WM_LBUTTONDBLCLK, {"LBUTTONDBLCLK", &Place}},
+    {WM_RBUTTONDOWN, {"RBUTTONDOWN", &Place}},
+    {WM_CAPTURECHANGED, {"CAPTURECHANGED", nullptr}},
+    {WM_KEYDOWN, {"KEYDOWN", &Number}},
+    {WM_KEYUP, {"KEYUP", &Number}},
+    {WM_CHAR, {"CHAR", &Number}},
+    {WM_MOUSEWHEEL, {"MOUSEWHEEL", &Wheel}},
+    {WM_VSCROLL, {"VSCROLL", &Code}},
+};
 } // namespace
 
 SpyWnd::SpyWnd(std::string name, LedgerBook& book, std::set<UINT> messages)
@@ -85,7 +79,7 @@ LRESULT SpyWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (m_messages.count(message)) {
         const auto& [name, says] = kMessages.at(message);
-        m_book.Write(m_name + " " + name + Parameters(says, wParam, lParam));
+        m_book.Write(m_name + " " + name + (says ? says(wParam, lParam) : ""));
     }
     const HWND hWnd = m_hWnd;
     if (const auto it = m_actions.find(message); it != m_actions.end()) {

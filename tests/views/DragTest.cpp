@@ -36,8 +36,7 @@ protected:
     CPoint ItemPoint(FakeAtom* pAtom) const { return tree->PointOf(pAtom); }
     CPoint EmptyPoint() const // in no row
     {
-        CRect rect;
-        list->GetClientRect(&rect);
+        const CRect rect = ClientOf(list->m_hWnd);
         return {rect.right - 3, rect.bottom - 3};
     }
     // "b -> 2": the rows and items that are highlighted, and the effect that a drop would have now.

@@ -67,10 +67,9 @@ TEST_F(ListEventsTest, WhereverItsNameHasLedItAnAtomIsFoundAndSeen)
         Create("New " + std::to_string(i)); // row 4 is New 10
     Create("NEW 50");
     EXPECT_EQ(73, RowOf("New 79"));
-    CRect client, rect;
-    list.GetClientRect(&client);
+    CRect rect;
     list.GetItemRect(73, &rect, LVIR_BOUNDS);
-    EXPECT_EQ(rect, rect & client);
+    EXPECT_EQ(rect, rect & ClientOf(list.m_hWnd));
     EXPECT_EQ(44, RowOf("NEW 50")); // the first of the name
     Delete("New 60");
     EXPECT_EQ(72, RowOf("New 79"));
