@@ -1,9 +1,6 @@
-// The headless desktop's clipboard, and the other program that a test plays on it.
-#include "Toolkit/headless/HeadlessDesktop.h"
-#include "Toolkit/headless/HeadlessDrag.h"
+#include "Toolkit/headless/HeadlessClipboard.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace
 {
@@ -37,7 +34,7 @@ std::shared_ptr<toolkit::OfferedData> toolkit::MakeOffer(KindsAndBytes data)
     return std::make_shared<ForeignOffer>(std::move(data));
 }
 
-BOOL toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> data)
+BOOL toolkit::HeadlessClipboard::PublishClipboard(std::shared_ptr<OfferedData> data)
 {
     m_foreign.reset();
     if (m_bRefusesClipboard)
@@ -47,19 +44,19 @@ BOOL toolkit::HeadlessDesktop::PublishClipboard(std::shared_ptr<OfferedData> dat
     return !m_bRefusesClipboard;
 }
 
-void toolkit::HeadlessDesktop::LosePublished()
+void toolkit::HeadlessClipboard::LosePublished()
 {
     if (const auto lost = std::exchange(m_published, nullptr))
         lost->OnLost();
 }
 
-void toolkit::HeadlessDesktop::TakeClipboard(KindsAndBytes data)
+void toolkit::HeadlessClipboard::TakeClipboard(KindsAndBytes data)
 {
     m_foreign = data.empty() ? nullptr : MakeOffer(std::move(data));
     LosePublished();
 }
 
-std::string toolkit::HeadlessDesktop::PublishedKinds()
+std::string toolkit::HeadlessClipboard::PublishedKinds()
 {
     std::string all;
     for (const std::string& kind : m_published ? m_published->GetKinds() : std::vector<std::string>())
@@ -67,7 +64,7 @@ std::string toolkit::HeadlessDesktop::PublishedKinds()
     return all;
 }
 
-std::optional<std::string> toolkit::HeadlessDesktop::ReadPublished(std::string_view kind)
+std::optional<std::string> toolkit::HeadlessClipboard::ReadPublished(std::string_view kind)
 {
     return m_published ? m_published->Render(kind) : std::nullopt;
 }

@@ -3,8 +3,6 @@
 #include "Toolkit/base/Text.h"
 #include "Toolkit/headless/HeadlessDrag.h"
 #include "Toolkit/input/MouseInput.h"
-#include "Toolkit/menu/MessageBox.h"
-#include "Toolkit/paint/WindowDC.h"
 #include "Toolkit/window/WindowApi.h"
 
 #include <chrono>
@@ -51,20 +49,6 @@ toolkit::HeadlessDesktop::~HeadlessDesktop()
 {
     LosePublished();
     InstallDesktop(nullptr);
-}
-
-void toolkit::HeadlessDesktop::ShowColors(const ColorScheme& scheme)
-{
-    m_colors = scheme;
-    InputColors();
-    Run();
-}
-
-void toolkit::HeadlessDesktop::ShowScale(PixelScale scale)
-{
-    m_scale = scale;
-    InputScale();
-    Run();
 }
 
 void toolkit::HeadlessDesktop::MoveTo(HWND hWnd, CPoint at)
@@ -198,54 +182,4 @@ void toolkit::HeadlessDesktop::WakeFromThread()
 void toolkit::HeadlessDesktop::Wake(std::optional<DWORD> inMilliseconds)
 {
     m_wakeAt = inMilliseconds ? std::optional<DWORD>(m_ticks + *inMilliseconds) : std::nullopt;
-}
-
-std::vector<std::string> toolkit::HeadlessDesktop::TakeMessageBoxes()
-{
-    return std::exchange(m_boxes, {});
-}
-
-int toolkit::HeadlessDesktop::ShowMessageBox(HWND, LPCSTR pszText, LPCSTR pszCaption, UINT)
-{
-    m_boxes.push_back(std::string(pszCaption) + ": " + pszText);
-    if (m_answers.empty())
-        return IDOK;
-    const int nAnswer = m_answers.front();
-    m_answers.pop_front();
-    return nAnswer;
-}
-
-UINT toolkit::HeadlessDesktop::TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen)
-{
-    m_menus.push_back(DescribeMenu(items));
-    m_menuPlace = screen;
-    if (m_choices.empty())
-        return 0;
-    const MenuAnswer choice = std::move(m_choices.front());
-    m_choices.pop_front();
-    if (choice.vkey == 0)
-        return FindMenuCommand(items, choice.text);
-    SendMessage(hOwner, WM_NEXTMENU, choice.vkey, 0);
-    return 0;
-}
-
-std::optional<std::string> toolkit::HeadlessDesktop::AskFolder(HWND, const std::string&, const std::string&)
-{
-    if (m_folders.empty())
-        return std::nullopt;
-    std::string path = std::move(m_folders.front());
-    m_folders.pop_front();
-    return path;
-}
-
-toolkit::Surface toolkit::HeadlessDesktop::Dump(HWND hWnd)
-{
-    Run();
-    const Surface* pSurface = WindowSurface(GetTopLevel(hWnd));
-    if (!pSurface)
-        return {};
-    RECT top{}, own{};
-    GetWindowRect(GetTopLevel(hWnd), &top);
-    GetWindowRect(hWnd, &own);
-    return Crop(*pSurface, pSurface->Scale().ToPixels(CRect(own) - CRect(top).TopLeft()));
 }

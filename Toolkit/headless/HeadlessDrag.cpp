@@ -115,7 +115,7 @@ DROPEFFECT toolkit::HeadlessDesktop::RunDrag(std::shared_ptr<OfferedData> data, 
 {
     if (m_drag)
         return DROPEFFECT_NONE; // another program's goes on
-    const Cursor former = m_cursor;
+    const Cursor former = CurrentCursor();
     m_drag = std::make_unique<HeadlessDrag>(std::move(data), allowed, true, MouseKeyFlags() & kButtons);
     StepDrag();
     if (IsDragging() && !m_dragScripts.empty()) {

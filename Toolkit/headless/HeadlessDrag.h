@@ -21,7 +21,4 @@ struct HeadlessDrag
     bool bOver = false;    // dropped or cancelled
 };
 
-// Another program's data.
-std::shared_ptr<OfferedData> MakeOffer(KindsAndBytes data);
-
 } // namespace toolkit
