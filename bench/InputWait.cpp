@@ -180,7 +180,7 @@ int Scroll(WatchedApplication& application, qtdesktop::QtDesktop& desktop, edito
     const Photographs photographs;
     if (const std::string error = editor.OpenFolder(photographs.Path()); !error.empty())
         return std::fprintf(stderr, "%s\n", error.c_str()), 1;
-    editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
+    editor.GetFrame()->GetContent().ShowList(editor::ListKind::Thumbnails);
     QCoreApplication::processEvents();
 
     QWidget& window = *desktop.FindWidget(editor.GetMainWindow());
@@ -204,7 +204,7 @@ int ScrollLarge(WatchedApplication& application, qtdesktop::QtDesktop& desktop, 
     const Photographs photographs;
     if (const std::string error = editor.OpenFolder(photographs.Path()); !error.empty())
         return std::fprintf(stderr, "%s\n", error.c_str()), 1;
-    editor.GetFrame()->ShowList(editor::ListKind::Thumbnails);
+    editor.GetFrame()->GetContent().ShowList(editor::ListKind::Thumbnails);
     editor.GetFrame()->GetContent().SetThumbnailExtent(editor::Content::kMostThumbnail);
     QCoreApplication::processEvents();
     QWidget& window = *desktop.FindWidget(editor.GetMainWindow());

@@ -1,6 +1,7 @@
 #include "Editor/commands/FrameCommands.h"
 
 #include "Editor/disk/Trash.h"
+#include "Editor/model/PictureMember.h"
 #include "Editor/model/PlainFile.h"
 #include "HostKit/base/ErrorInfo.h"
 #include "Toolkit/menu/MessageBox.h"
@@ -32,7 +33,8 @@ void FrameCommands::Describe(CommandState& state) const
         state.paste = "no folder is shown";
     const bool bFolder = dynamic_cast<CFolder*>(m_parts.navigation.ShownContainer()) != nullptr;
     state.makeFolder = bFolder ? "" : "no folder is shown";
-    state.makePhase = !bFolder ? "no folder is shown" : m_commands.CanMakePhase() ? "" : "no pictures are selected";
+    const bool bPictures = !OwnOf<CPicture>(GetActiveMembers(m_parts.editor)).empty();
+    state.makePhase = !bFolder ? "no folder is shown" : bPictures ? "" : "no pictures are selected";
     state.nameToRestore = GetHistory().NameToRestore();
     state.restore = state.nameToRestore.empty() ? "nothing that was removed is in the trash" : "";
     state.nameToUndo = GetHistory().NameToUndo();
@@ -131,7 +133,7 @@ void FrameCommands::RemoveSelection()
         return;
     const int nMissed = CountMissedTrashes();
     std::string reason = Remove();
-    if (CountMissedTrashes() > nMissed && m_commands.CountSelected() > 0) {
+    if (CountMissedTrashes() > nMissed && !GetActiveMembers(m_parts.editor).empty()) {
         if (!UserAgrees(reason + ".\n\n" + m_commands.RemoveQuestion(Removal::ForGood), MB_DEFBUTTON2))
             return;
         const PermanentRemoval agreed;
@@ -163,10 +165,10 @@ void FrameCommands::TellAndForget(const std::string& reason, void (History::*for
         (GetHistory().*forget)();
 }
 
-std::string FrameCommands::Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&))
+std::string FrameCommands::Take(std::string (History::*step)(Changes&))
 {
     UndoRedo::Atoms present;
-    std::string reason = ChangeSelection([&] { return (m_undoRedo.*step)(present); });
+    std::string reason = ChangeSelection([&] { return m_undoRedo.Take(step, present); });
     if (!present.empty())
         ShowJust(present);
     return reason;
@@ -265,7 +267,10 @@ void FrameCommands::Refresh()
     const auto pContainer = CStubRef<CContainer>::Share(dynamic_cast<CContainer*>(m_parts.navigation.Shown()));
     if (!pContainer)
         return;
-    ReadAgain(*pContainer.Get());
+    const CEditorList::State state = List().Remember();
+    pContainer->ReadAgain();
+    m_parts.editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, pContainer.Get(), 0);
+    List().Restore(state);
     m_parts.updateStatus();
 }
 
@@ -273,14 +278,6 @@ std::string FrameCommands::RefreshQuietly()
 {
     Refresh();
     return {};
-}
-
-void FrameCommands::ReadAgain(CContainer& container)
-{
-    const CEditorList::State state = List().Remember();
-    container.ReadAgain();
-    m_parts.editor.NotifyHandlers(nullptr, &IAEStateHandler::OnDeleteAtom, nullptr, &container, 0);
-    List().Restore(state);
 }
 
 void FrameCommands::ShowFailure(UINT nCaptionID, std::string reason) const

@@ -39,9 +39,9 @@ public:
     std::string Cut();
     std::string Remove();
     std::string Paste() { return MakeAnd(&Commands::Paste); } // into the container that is shown
-    std::string Undo() { return Take(&UndoRedo::Undo); }      // the last step that was done, wherever that was
-    std::string Redo() { return Take(&UndoRedo::Redo); }
-    std::string Restore() { return Take(&UndoRedo::Restore); } // what was removed last, and is still in the trash
+    std::string Undo() { return Take(&History::Undo); }       // the last step that was done, wherever that was
+    std::string Redo() { return Take(&History::Redo); }
+    std::string Restore() { return Take(&History::Restore); } // what was removed last, and is still in the trash
     std::string NewFolder() { return MakeAnd(&Commands::MakeFolder); } // in the container that is shown
     std::string NewPhase() { return MakeAnd(&Commands::MakePhase); }   // there, of the pictures that are selected
     std::string RefreshQuietly();
@@ -64,9 +64,8 @@ public:
     void MoveEarlier() { MoveFrames(false); } // those that are selected in the phase that is shown
     void MoveLater() { MoveFrames(true); }
     void SelectAll(); // in the list
-    void Refresh();   // reads what is shown anew
+    void Refresh();   // reads what is shown anew; the list keeps its selection
 
-    void ReadAgain(CContainer& container);                       // the list keeps its selection
     void ShowFailure(UINT nCaptionID, std::string reason) const; // empty: nothing
 
     // Where the user is, for a change that loads the list's rows anew.
@@ -88,7 +87,7 @@ private:
     void ShowJust(const std::vector<CStubRef<IAtom>>& atoms);
     template <class Carry>
     std::string CarryAsAgreed(Carry carry);
-    std::string Take(std::string (UndoRedo::*step)(UndoRedo::Atoms&));
+    std::string Take(std::string (History::*step)(Changes&));
     void TellAndForget(const std::string& reason, void (History::*forget)()); // as the user likes; empty: nothing
     template <class Change>
     std::string ChangeSelection(Change change);

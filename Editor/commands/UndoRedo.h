@@ -16,16 +16,12 @@ public:
     {} // all borrowed
 
     // Every view has heard of it by then, and shows what it showed under the name that it has now; or, where nothing of
-    // it is to be seen there, the folder where it was. `present` are those
-    // members of the container that is shown that have come, or bear another name. Empty when all was done, else the
-    // reason: then nothing was.
+    // it is to be seen there, the folder where it was. `present` are those members of the container that is shown that
+    // have come, or bear another name. Empty when all was done, else the reason: then nothing was.
     using Atoms = std::vector<CStubRef<IAtom>>;
-    std::string Undo(Atoms& present) { return Take(&History::Undo, present); }
-    std::string Redo(Atoms& present) { return Take(&History::Redo, present); }
-    std::string Restore(Atoms& present) { return Take(&History::Restore, present); }
+    std::string Take(std::string (History::*step)(Changes&), Atoms& present); // Undo, Redo or Restore
 
 private:
-    std::string Take(std::string (History::*step)(Changes&), Atoms& present);
     void TellOf(const std::string& path, const std::set<std::string>& names);
     void FollowNames(const Changes& changes, const std::string& shown);
     void GoWhereItIsSeen(const Changes& changes);

@@ -73,7 +73,7 @@ void CMainFrame::Follow(const Settings& settings)
     m_views.SetFoldersFirst(settings.foldersFirst);
     m_content.SetThumbnailExtent(settings.thumbnailExtent > 0 ? settings.thumbnailExtent : Content::kUsualThumbnail);
     m_content.ShowPixels(settings.pixels);
-    ShowList(settings.thumbnails ? ListKind::Thumbnails : ListKind::Icons);
+    m_content.ShowList(settings.thumbnails ? ListKind::Thumbnails : ListKind::Icons);
     m_content.ShowEmptyList();
 }
 
@@ -129,8 +129,8 @@ BOOL CMainFrame::OnDeleteAtom(IAtom* pAtom, IAtomContainer* pContainer)
 
 BOOL CMainFrame::OnChangeAtom(IAtom* pAtom, IAtomContainer*)
 {
-    if (pAtom && pAtom == GetPictureView().GetAtom()) {
-        GetPictureView().OnPictureArrived();
+    if (pAtom && pAtom == m_content.GetPicture().GetAtom()) {
+        m_content.GetPicture().OnPictureArrived();
         m_content.PlayPicture();
     }
     m_bars.GetStatusBar().Update();

@@ -46,7 +46,6 @@ public:
     hostkit::CSplitter& GetSplitter() { return m_splitter; }
     CEditorList& GetList() { return m_content.GetList(); } // the one that is shown, or will be
     CKeysSheet& GetKeysSheet() { return m_keysSheet; }
-    CPictureView& GetPictureView() { return m_content.GetPicture(); }
     CPropertiesPane& GetProperties() { return m_properties; }
     Status GetStatus() const; // what the status bar says
 
@@ -60,7 +59,6 @@ public:
     ViewCommands& GetViews() { return m_views; }
     PlaceCommands& GetPlaces() { return m_places; }
     Content& GetContent() { return m_content; }
-    void ShowList(ListKind kind) { m_content.ShowList(kind); }
 
     void AddPane(DWORD kind, HWND hWnd, LPCSTR pszCaption, HICON hIcon) override;
     void RemovePane(DWORD kind, HWND hWnd) override;

@@ -172,7 +172,7 @@ std::string Script::View(const Words& words)
     const bool bIcons = words[0] == "icons";
     if (!bIcons && words[0] != "thumbnails")
         return words[0] + ": neither icons nor thumbnails";
-    Frame().ShowList(bIcons ? ListKind::Icons : ListKind::Thumbnails);
+    Frame().GetContent().ShowList(bIcons ? ListKind::Icons : ListKind::Thumbnails);
     return {};
 }
 

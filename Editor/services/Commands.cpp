@@ -83,11 +83,6 @@ std::string MissingIn(const ActiveMembers& members, LongWork& work)
 
 } // namespace
 
-int Commands::CountSelected() const
-{
-    return static_cast<int>(GetActiveMembers(m_editor).size());
-}
-
 std::string Commands::RemoveQuestion(Removal removal) const
 {
     const ActiveMembers members = GetActiveMembers(m_editor);
@@ -241,11 +236,6 @@ try {
     return Make(MemberKind::Phase, "New phase.phase", text, pTarget);
 } catch (const CException& e) {
     return e.GetErrorMessage();
-}
-
-bool Commands::CanMakePhase() const
-{
-    return !OwnOf<CPicture>(GetActiveMembers(m_editor)).empty();
 }
 
 std::string Commands::Make(MemberKind kind, const std::string& name, const std::string& text, CContainer* pTarget)

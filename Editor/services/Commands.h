@@ -23,7 +23,6 @@ class Commands
 public:
     explicit Commands(CAtomEditor& editor) : m_editor(editor) {} // borrowed
 
-    int CountSelected() const; // active objects that are in a container
     // What a removal would be asked about: 'Move "walk.png" to the trash?', 'Remove 3 objects for good?'; and how many
     // phases would miss pictures. Cutting is only asked about where there are such phases: else it is empty.
     std::string RemoveQuestion(Removal removal = Removal::ToTheTrash) const;
@@ -43,7 +42,6 @@ public:
     // In the container: a folder; a phase that shows the active pictures in their order.
     std::string MakeFolder(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
     std::string MakePhase(CContainer* pTarget, std::vector<CStubRef<IAtom>>& arrived);
-    bool CanMakePhase() const;
     // What has the new name is another object.
     std::string Rename(CMember* pMember, const std::string& name);
 

@@ -22,7 +22,7 @@ protected:
     editor::EditorApp& App() { return *m_pApp; }
     editor::CMainFrame& Frame();
     HWND List() { return Frame().GetList().GetSafeHwnd(); }
-    HWND Picture() { return Frame().GetPictureView().GetSafeHwnd(); }
+    HWND Picture() { return Frame().GetContent().GetPicture().GetSafeHwnd(); }
     editor::CEditorTree& Tree() { return Frame().GetTree(); }
     editor::History& History() { return Frame().GetCommands().GetHistory(); }
     std::string NextUndo() { return History().NameToUndo(); }

@@ -193,7 +193,8 @@ TEST_F(EditorTest, WhatIsNoPictureTravelsWithTheOthersAndIsOpenedByItsProgram)
     Press(VK_RETURN);
     EXPECT_EQ(Ledger({"open " + folder.At("b.kra")}), desktop.TakeOutside());
     Press(VK_LEFT);
-    EXPECT_EQ("a.bmp", editor::CMember::Of(Frame().GetPictureView().GetAtom())->ShownName()) << "the next picture";
+    EXPECT_EQ("a.bmp", editor::CMember::Of(Frame().GetContent().GetPicture().GetAtom())->ShownName())
+        << "the next picture";
 }
 
 TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
