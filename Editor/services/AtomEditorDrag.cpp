@@ -22,7 +22,8 @@ std::string WhyOneIsThere(const ActiveMember& member)
 
 CAtomEditor& CAtomEditor::Current()
 {
-    return dynamic_cast<CAtomEditor&>(*CStubRef<IAtomEditor>::Adopt(GetAtomEditor()).Get());
+    const auto pEditor = CStubRef<IAtomEditor>::Adopt(GetAtomEditor());
+    return dynamic_cast<CAtomEditor&>(*pEditor.Get());
 }
 
 void CAtomEditor::OfferMore(COleDataSource& source, const ActiveMembers& members)
