@@ -72,30 +72,12 @@ public:
     void Release(int nButton) override { m_desktop.Release(Window(), m_at, ButtonOf(nButton)); }
     void DoubleClick() override { m_desktop.DoubleClick(Window(), m_at); }
     void Wheel(int nNotches) override { m_desktop.Wheel(Window(), m_at, nNotches); }
-    void Leave() override
-    {
-        Input([this] { toolkit::InputMouseLeave(Window()); });
-    }
-    void Resize(CSize size) override
-    {
-        Input([&] { toolkit::InputResize(Window(), size); });
-    }
-    void MoveWindow(CPoint by) override
-    {
-        Input([&] { toolkit::InputMoved(Window(), Corner() + by); });
-    }
-    void Close() override
-    {
-        Input([this] { toolkit::InputClose(Window()); });
-    }
-    void GoToOther() override
-    {
-        Input([this] { toolkit::InputActivate(Window(), false); });
-    }
-    void ComeBack() override
-    {
-        Input([this] { toolkit::InputActivate(Window(), true); });
-    }
+    void Leave() override { Input(&toolkit::InputMouseLeave); }
+    void Resize(CSize size) override { Input(&toolkit::InputResize, size); }
+    void MoveWindow(CPoint by) override { Input(&toolkit::InputMoved, Corner() + by); }
+    void Close() override { Input(&toolkit::InputClose); }
+    void GoToOther() override { Input(&toolkit::InputActivate, false); }
+    void ComeBack() override { Input(&toolkit::InputActivate, true); }
 
     bool Choose(const std::function<void()>& open, CPoint at, const std::vector<std::string>& path) override
     {
@@ -164,9 +146,10 @@ private:
     {
         return nButton == 1 ? toolkit::MouseButton::Left : toolkit::MouseButton::Right;
     }
-    void Input(const std::function<void()>& put)
+    template <class... Arguments>
+    void Input(void (*put)(HWND, Arguments...), std::type_identity_t<Arguments>... arguments)
     {
-        put();
+        put(Window(), arguments...);
         m_desktop.Run();
     }
     void Drag(CPoint from, std::function<void()> script)

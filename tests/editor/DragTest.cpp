@@ -60,11 +60,15 @@ TEST_F(DragTest, WhatIsGivenUpOrCannotGoThereStaysWhereItIs)
         desktop.Key(VK_ESCAPE);
     });
     drag(List(), PlaceOf("b.bmp"), [&] { DropOnList(BelowTheRows()); }); // where it is already
-    drag(List(), PlaceOf("a.bmp"), [&] { DropOnTree("Bo"); });           // where there is one of that name
+    drag(List(), PlaceOf("a.bmp"), [&] {
+        DropOnTree("Bo"); // where there is one of that name, which is told of while the drag is there
+        EXPECT_EQ("Bo: there is a \"a.bmp\" already. With Ctrl a copy comes beside it", News());
+    });
     drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnTree("Ada"); });
     drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(PlaceOf("Poses")); });
     drag(Tree().m_hWnd, PlaceInTree("Ada"), [&] { DropOnList(BelowTheRows()); });
 
+    EXPECT_EQ(Ledger(), TakeBoxes());
     Drag(List(), PlaceOf("b.bmp"), [&] {
         desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo") - CPoint(1, 0));
         desktop.MoveTo(Tree().m_hWnd, PlaceInTree("Bo")); // now it has been asked
@@ -102,19 +106,6 @@ TEST_F(DragTest, WhatIsDraggedTogetherWithTheFolderThatItIsDroppedOnStaysWhereIt
     EXPECT_EQ(DROPEFFECT_NONE, desktop.DragEffect());
     EXPECT_EQ("Ada/ Ada/Bo/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
     EXPECT_EQ(Ledger({"Views: Not everything was taken: Ada: can only be copied there, not moved"}), TakeBoxes());
-}
-
-TEST_F(DragTest, ANameThatIsTakenIsToldOfWhileTheDragIsThere)
-{
-    folder.Make("Bo/b.bmp");
-    Open();
-    DoubleClick("Ada");
-    Drag(List(), PlaceOf("b.bmp"), [&] {
-        DropOnTree("Bo");
-        EXPECT_EQ("Bo: there is a \"b.bmp\" already. With Ctrl a copy comes beside it", News());
-    });
-    EXPECT_EQ("Ada/ Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/ Bo/b.bmp", folder.Everything());
-    EXPECT_EQ(Ledger(), TakeBoxes());
 }
 
 TEST_F(DragTest, TheMenuKnowsWhatCanBeDoneAndDoesIt)
@@ -182,6 +173,11 @@ TEST_F(DragTest, FilesOfAFileManagerComeAsCopies)
         desktop.DropOutside(DROPEFFECT_COPY);
     });
     EXPECT_EQ("file://" + folder.At("Ada/new%20one.bmp") + "\r\n", dragged);
+    Drag(List(), PlaceOf("new one.bmp"), [&] {
+        desktop.DragOut();
+        desktop.DropOutside(DROPEFFECT_MOVE);
+    });
+    EXPECT_EQ(std::string::npos, folder.Everything().find("new one.bmp")) << "who takes it has it";
 }
 
 TEST_F(DragTest, AFolderOfAFileManagerIsOpenedByADropOnTheBars)
@@ -237,8 +233,7 @@ TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
     EXPECT_EQ("Ada/ Ada/Poses/ Ada/Poses/walk.phase Ada/a.bmp Ada/b.bmp Ada/c.bmp Bo/", folder.Everything());
     Control('V');
     EXPECT_EQ("#delay 9\n", folder.Read("Bo/walk.phase"));
-    toolkit::InputClose(Frame().m_hWnd);
-    desktop.Run();
+    CloseWindow();
     EXPECT_EQ(1, nClosed) << "what has gone is not to be saved";
 }
 

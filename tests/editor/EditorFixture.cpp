@@ -40,6 +40,24 @@ std::string EditorTest::Open(const std::string& path)
     return error;
 }
 
+void EditorTest::ReadAll()
+{
+    reader.AllowAll();
+    Settle();
+}
+
+void EditorTest::ResizeWindow(CSize size)
+{
+    toolkit::InputResize(m_pApp->GetMainWindow(), size);
+    desktop.Run();
+}
+
+void EditorTest::CloseWindow()
+{
+    toolkit::InputClose(m_pApp->GetMainWindow());
+    desktop.Run();
+}
+
 editor::CMainFrame& EditorTest::Frame()
 {
     return dynamic_cast<editor::CMainFrame&>(*AfxGetMainWnd());

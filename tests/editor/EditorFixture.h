@@ -17,6 +17,9 @@ protected:
     std::string Open() { return Open(folder.Path()); }
     std::string Open(const std::string& path); // and waits until all is drawn; the error's line
     void Settle() { m_pApp->WaitUntilSettled(); }
+    void ReadAll(); // that has been held back
+    void ResizeWindow(CSize size);
+    void CloseWindow(); // by the user
     void CloseApp() { m_pApp.reset(); }
     void StartAnew(); // the editor, with the present options
     editor::EditorApp& App() { return *m_pApp; }

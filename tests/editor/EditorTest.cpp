@@ -206,15 +206,12 @@ TEST_F(EditorTest, APictureThatTakesItsTimeSaysSoAndIsShownWhileItIsSizedAnew)
     EXPECT_EQ(0, CountInk(desktop.Dump(Picture()), editor::CalmColor())) << "nothing flashes up";
     desktop.Advance(1000);
     EXPECT_GT(CountInk(desktop.Dump(Picture()), editor::CalmColor()), 0);
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     reader.Hold();
-    toolkit::InputResize(App().GetMainWindow(), {400, 300});
-    desktop.Run();
+    ResizeWindow({400, 300});
     EXPECT_EQ(0xFF102030, MiddleOf(Picture())) << "the one that is there";
     EXPECT_EQ(400, PlaceOnScreen(Picture()).right) << "to the new edge";
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ(0xFF102030, MiddleOf(Picture()));
 }
 
@@ -286,8 +283,7 @@ TEST_F(EditorTest, WhatCannotBeOpenedLeavesEverythingAsItWasAndAfterClosingAFold
     EXPECT_EQ(folder.At("a.bmp") + ": not a folder", Open(folder.At("a.bmp")));
     EXPECT_EQ("/ | [(*a.bmp)] | 1 object, 1 selected | a.bmp: 8 x 8 pixels", Screen());
 
-    toolkit::InputClose(App().GetMainWindow());
-    desktop.Run();
+    CloseWindow();
     EXPECT_EQ(1, nClosed);
     EXPECT_EQ(nullptr, App().GetMainWindow());
     Open();

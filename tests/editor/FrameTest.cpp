@@ -228,13 +228,11 @@ TEST_F(FrameTest, TheSplitterIsDraggedWithinBounds)
     EXPECT_EQ(200, TreeWidth()) << "not dragged any more";
     desktop.Release(hBar, {3, 200});
 
-    toolkit::InputResize(App().GetMainWindow(), {300, 400});
-    desktop.Run();
+    ResizeWindow({300, 400});
     EXPECT_EQ(0, PlaceOnScreen(List()).left) << "no room for two";
     Press(VK_F6);
     EXPECT_EQ("list", Focus());
-    toolkit::InputResize(App().GetMainWindow(), {640, 480});
-    desktop.Run();
+    ResizeWindow({640, 480});
     EXPECT_EQ(200, TreeWidth());
     desktop.Advance(1000);
     desktop.DoubleClick(hBar, {3, 200});

@@ -128,3 +128,9 @@ void LibraryTest::Settle()
 {
     EXPECT_TRUE(desktop.RunUntil([&] { return pPictures->IsIdle(); }));
 }
+
+void LibraryTest::ReadAll()
+{
+    reader.AllowAll();
+    Settle();
+}

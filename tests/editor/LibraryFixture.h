@@ -30,7 +30,8 @@ protected:
     // Of an icon 48 pixels wide: what is in its middle, or "folder", "phase", "broken", "none yet".
     static std::string Icon(IAtom* pAtom);
     Ledger TakeArrivals() { return m_arrivals.TakeLedger(); }
-    void Settle(); // all pictures wanted so far have arrived
+    void Settle();  // all pictures wanted so far have arrived
+    void ReadAll(); // the same, and nothing is held back
 
     TrashHome trash;
     TempFolder folder;

@@ -56,8 +56,7 @@ TEST_F(PictureStoreTest, TheNewestWishIsReadFirstAndWhoWaitsTooLongAsksAgain)
     desktop.Run();
     EXPECT_EQ(Ledger({"3.bmp"}), TakeArrivals());
 
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ(Ledger({"1.bmp", "2.bmp", "5.bmp", "4.bmp"}), reader.TakeReads());
     EXPECT_EQ(Ledger({"1.bmp", "2.bmp", "5.bmp", "4.bmp"}), TakeArrivals());
     EXPECT_EQ("3080C0", Icon(p2.Get()));
@@ -122,8 +121,7 @@ TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
     reader.WaitForReads(1);
     for (const int extent : {510, 520, 530, 600, 600})
         EXPECT_FALSE(isThere(extent));
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ(2u, reader.TakeReads().size()) << "the one that had begun, and the last";
     EXPECT_EQ(Ledger({"large.bmp"}), TakeArrivals());
     EXPECT_TRUE(isThere(600));
@@ -138,8 +136,7 @@ TEST_F(PictureStoreTest, WhileAPictureIsSizedOnlyTheLastSizeWaits)
     reader.WaitForReads(4);
     desktop.Run();
     EXPECT_TRUE(isThere(700)) << "what had begun serves";
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ(Ledger({"large.bmp", "other.bmp"}), reader.TakeReads());
 }
 
@@ -195,8 +192,7 @@ TEST_F(PictureStoreTest, UntilItIsReadAtItsSizeAPictureIsDrawnAsItIsKnown)
     reader.Hold();
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(pWide).Get()));
     EXPECT_FALSE(pPictures->IsIdle()) << "it is being read";
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ("102030 at 10,30-90,70", Drawn(Thumbnail(pWide).Get()));
 }
 

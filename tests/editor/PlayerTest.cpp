@@ -123,8 +123,7 @@ TEST_F(PlayerTest, AFrameThatIsNotReadYetIsWaitedForAndTheLastOneStays)
     Player().MoveWindow({0, 0, 500, 300});
     desktop.Key(VK_SPACE);
     EXPECT_EQ("1: 1 of 3, 200 ms", After(1000));
-    reader.AllowAll();
-    Settle();
+    ReadAll();
     EXPECT_EQ("2: 2 of 3, 200 ms", Seen());
     EXPECT_EQ("3: 3 of 3, 200 ms", After(200));
 }
