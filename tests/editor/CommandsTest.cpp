@@ -190,8 +190,7 @@ TEST_F(CommandsTest, WhatARefusedCutHadTakenIsThereAgainAsItWas)
     Open();
     DoubleClick("Bo");
     Click("c.phase");
-    Press(VK_F4);
-    Enter("7");
+    SetDelay("7");
     ::SetFocus(List());
     const std::string before = folder.Everything();
     Control('A');

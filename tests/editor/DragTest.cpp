@@ -213,9 +213,7 @@ TEST_F(DragTest, WhatIsNotSavedOfAPhaseTravelsWithItAndTheDiskStaysAsItIs)
     DoubleClick("Poses");
     const auto setDelay = [&](const char* pszDelay) {
         Click("walk.phase");
-        desktop.Key(VK_F4);
-        desktop.Type(pszDelay);
-        desktop.Key(VK_RETURN);
+        SetDelay(pszDelay);
         ::SetFocus(List());
     };
     setDelay("7");

@@ -130,6 +130,12 @@ void EditorTest::Enter(const std::string& text)
     Press(VK_RETURN);
 }
 
+void EditorTest::SetDelay(const std::string& milliseconds)
+{
+    Press(VK_F4);
+    Enter(milliseconds);
+}
+
 void EditorTest::Delete()
 {
     desktop.Answer(IDYES);

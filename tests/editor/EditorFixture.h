@@ -47,6 +47,7 @@ protected:
     void Control(UINT vkey) { Press(vkey, kControl); } // with the key held
     void Enter(const std::string& text);               // types it, and Return
     void Delete();                                     // what is selected, and says yes
+    void SetDelay(const std::string& milliseconds);    // of the selected phases, in its field
     void Click(const char* pszName);
     void Select(std::initializer_list<const char*> names); // by clicks, all but the first with Control
     void DoubleClick(const char* pszName);

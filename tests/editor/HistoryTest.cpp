@@ -117,8 +117,7 @@ TEST_F(HistoryTest, APhasesFramesAndTimingAreStepsToo)
         return std::string(Frame().GetProperties().GetDelay().GetWindowText()) + ' ' +
                Frame().GetProperties().GetText();
     };
-    Press(VK_F4);
-    Enter("65");
+    SetDelay("65");
     Control('S');
     Click("a.bmp");
     Control('X');
@@ -226,8 +225,7 @@ TEST_F(HistoryTest, PhasesFollowWhatIsRenamedAndMoved)
     const auto phases = [&] { return folder.Read("walk.phase") + '|' + folder.Read("Ada/run.phase"); };
     DoubleClick("Ada");
     Click("run.phase");
-    Press(VK_F4);
-    Enter("65");
+    SetDelay("65");
     const std::string unsaved = Frame().GetProperties().GetText();
     Rename("a.bmp", "c.bmp");
     EXPECT_EQ("#delay 80\nc.bmp\nAda/c.bmp\n|# b\r\nc.bmp\r\n ./b.bmp\r\n../c.bmp\nPoses/one.bmp\n", phases())
@@ -359,8 +357,7 @@ protected:
         desktop.Run();
         if (!Frame().GetProperties().GetDelay().IsWindowVisible())
             return;
-        Press(VK_F4);
-        Enter(std::to_string(20 + Below(5)));
+        SetDelay(std::to_string(20 + Below(5)));
     }
     void Act()
     {
