@@ -1,7 +1,6 @@
 // What the host does, in good time or while a view calls it.
 #include "tests/walk/Steps.h"
 
-
 namespace
 {
 

@@ -1,7 +1,6 @@
 // What the user does.
 #include "tests/walk/Steps.h"
 
-
 namespace
 {
 
