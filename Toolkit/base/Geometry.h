@@ -62,7 +62,6 @@ public:
     constexpr int Height() const { return bottom - top; }
     constexpr CSize Size() const { return {Width(), Height()}; }
     constexpr CPoint TopLeft() const { return {left, top}; }
-    constexpr CPoint BottomRight() const { return {right, bottom}; }
     constexpr CPoint CenterPoint() const { return {left + Width() / 2, top + Height() / 2}; }
     constexpr bool IsRectEmpty() const { return right <= left || bottom <= top; }
     constexpr bool PtInRect(POINT point) const
@@ -70,7 +69,6 @@ public:
         return point.x >= left && point.x < right && point.y >= top && point.y < bottom;
     }
 
-    constexpr void SetRectEmpty() { *this = CRect(); }
     constexpr void OffsetRect(int dx, int dy)
     {
         left += dx;

@@ -5,8 +5,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdarg>
-#include <cstdio>
 #include <cstring>
 #include <limits>
 #include <new>
@@ -52,11 +50,6 @@ CString::CString(LPCSTR pszText) : CString()
         Assign(pszText);
 }
 
-CString::CString(LPCSTR pch, int nLength) : CString()
-{
-    Assign({pch, static_cast<std::size_t>(nLength)});
-}
-
 CString::CString(std::string_view text) : CString()
 {
     Assign(text);
@@ -98,11 +91,6 @@ int CString::GetLength() const noexcept
     return GetHeader()->nLength;
 }
 
-int CString::Compare(LPCSTR pszOther) const noexcept
-{
-    return std::strcmp(m_pszData, pszOther);
-}
-
 int CString::CompareNoCase(LPCSTR pszOther) const noexcept
 {
     return toolkit::CompareNoCase(View(), pszOther);
@@ -126,24 +114,6 @@ CString& CString::operator+=(std::string_view text)
     std::memcpy(m_pszData + nOld, text.data(), text.size());
     ReleaseBuffer(nNew);
     return *this;
-}
-
-void CString::Format(LPCSTR pszFormat, ...)
-{
-    std::va_list args;
-    va_start(args, pszFormat);
-    std::va_list again;
-    va_copy(again, args);
-    const int nLength = std::vsnprintf(nullptr, 0, pszFormat, again);
-    va_end(again);
-
-    CString result;
-    if (nLength > 0) {
-        std::vsnprintf(result.GetBuffer(nLength), static_cast<std::size_t>(nLength) + 1, pszFormat, args);
-        result.ReleaseBuffer(nLength);
-    }
-    va_end(args);
-    *this = std::move(result);
 }
 
 LPSTR CString::GetBuffer(int nMinLength)
@@ -212,11 +182,4 @@ void CString::Reserve(int nCapacity)
     Release();
     m_pszData = pszData;
     GetHeader()->nLength = nLength;
-}
-
-CString operator+(const CString& a, std::string_view b)
-{
-    CString sum(a);
-    sum += b;
-    return sum;
 }

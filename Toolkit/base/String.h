@@ -12,7 +12,6 @@ class TOOLKIT_API CString
 public:
     CString() noexcept;
     CString(LPCSTR pszText); // NULL gives the empty string
-    CString(LPCSTR pch, int nLength);
     explicit CString(std::string_view text);
     CString(const CString& other) noexcept;
     CString(CString&& other) noexcept;
@@ -27,7 +26,6 @@ public:
     std::string_view View() const noexcept { return {m_pszData, static_cast<std::size_t>(GetLength())}; }
     int GetLength() const noexcept;
     bool IsEmpty() const noexcept { return GetLength() == 0; }
-    int Compare(LPCSTR pszOther) const noexcept;       // byte by byte
     int CompareNoCase(LPCSTR pszOther) const noexcept; // as _mbsicmp does
 
     void Empty() noexcept;
@@ -35,9 +33,6 @@ public:
 
     // The first string resource of that number along the resource chain; FALSE, and no change, without one.
     BOOL LoadString(UINT nID);
-
-    // Replaces the text by the printf-like format's result.
-    [[gnu::format(printf, 2, 3)]] void Format(LPCSTR pszFormat, ...);
 
     // A buffer of the string's own for at least nMinLength bytes and a terminating zero, holding the present
     // text. Valid, and the string otherwise untouched, until ReleaseBuffer says how long the text is now
@@ -61,6 +56,3 @@ private:
 
     LPSTR m_pszData; // the text; its header lies before it
 };
-
-// Raises CMemoryException, as all that makes a text longer.
-TOOLKIT_API CString operator+(const CString& a, std::string_view b);

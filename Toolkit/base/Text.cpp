@@ -8,8 +8,6 @@
 namespace
 {
 
-constexpr char32_t kInvalid = 0x110000;
-
 bool IsContinuation(char c)
 {
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
@@ -30,12 +28,7 @@ int SequenceLength(unsigned char lead)
 bool IsScalar(char32_t c, int bytes)
 {
     constexpr char32_t kLowest[] = {0, 0, 0x80, 0x800, 0x10000};
-    return c >= kLowest[bytes] && c < kInvalid && (c < 0xD800 || c > 0xDFFF);
-}
-
-char FoldAscii(char c)
-{
-    return static_cast<char>(c >= 'A' && c <= 'Z' ? c + ('a' - 'A') : c);
+    return c >= kLowest[bytes] && c < toolkit::kInvalidByte && (c < 0xD800 || c > 0xDFFF);
 }
 
 std::uint64_t LoadEight(const char* p)
@@ -58,7 +51,7 @@ std::size_t SameAsciiStart(std::string_view a, std::string_view b)
             break;
         n += 8;
     }
-    while (n < nCommon && ((a[n] | b[n]) & 0x80) == 0 && FoldAscii(a[n]) == FoldAscii(b[n]))
+    while (n < nCommon && ((a[n] | b[n]) & 0x80) == 0 && toolkit::FoldAscii(a[n]) == toolkit::FoldAscii(b[n]))
         ++n;
     return n;
 }
@@ -72,7 +65,7 @@ toolkit::CodePoint toolkit::DecodeUtf8(std::string_view text)
         return {lead, 1};
 
     const int bytes = SequenceLength(lead);
-    const CodePoint invalid{kInvalid + lead, 1};
+    const CodePoint invalid{kInvalidByte + lead, 1};
     if (bytes == 0 || text.size() < static_cast<std::size_t>(bytes))
         return invalid;
 
@@ -87,14 +80,18 @@ toolkit::CodePoint toolkit::DecodeUtf8(std::string_view text)
 
 std::string toolkit::EncodeUtf8(char32_t c)
 {
-    const auto trail = [c](int shift) { return static_cast<char>(0x80 | (c >> shift & 0x3F)); };
-    if (c < 0x80)
-        return {static_cast<char>(c)};
-    if (c < 0x800)
-        return {static_cast<char>(0xC0 | c >> 6), trail(0)};
-    if (c < 0x10000)
-        return {static_cast<char>(0xE0 | c >> 12), trail(6), trail(0)};
-    return {static_cast<char>(0xF0 | c >> 18), trail(12), trail(6), trail(0)};
+    std::string text;
+    AppendUtf8(text, c);
+    return text;
+}
+
+void toolkit::AppendUtf8(std::string& text, char32_t c)
+{
+    constexpr char32_t kLeads[] = {0, 0xC0, 0xE0, 0xF0};
+    int trails = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
+    text += static_cast<char>(kLeads[trails] | c >> 6 * trails);
+    while (--trails >= 0)
+        text += static_cast<char>(0x80 | (c >> 6 * trails & 0x3F));
 }
 
 char32_t toolkit::FoldCase(char32_t c)

@@ -13,8 +13,10 @@ TOOLKIT_API int _mbsicmp(const char* a, const char* b);
 
 namespace toolkit
 {
+inline constexpr char32_t kInvalidByte = 0x110000; // above all code points
+
 // The code point at the start of a text that is not empty, and how many bytes it takes. Invalid bytes come
-// one at a time, as 0x110000 plus the byte.
+// one at a time, as kInvalidByte plus the byte.
 struct CodePoint
 {
     char32_t value;
@@ -22,6 +24,13 @@ struct CodePoint
 };
 TOOLKIT_API CodePoint DecodeUtf8(std::string_view text);
 TOOLKIT_API std::string EncodeUtf8(char32_t c);
+TOOLKIT_API void AppendUtf8(std::string& text, char32_t c);
+
+constexpr char FoldAscii(char c)
+{
+    const auto letter = static_cast<unsigned char>(c - 'A');
+    return static_cast<char>(letter < 26 ? c + ('a' - 'A') : c);
+}
 
 // The code point's simple case folding; itself when it has none.
 TOOLKIT_API char32_t FoldCase(char32_t c);

@@ -11,44 +11,20 @@
 namespace
 {
 
-constexpr char32_t kInvalid = 0x110000; // what DecodeUtf8 adds to a byte that is no part of UTF-8
-
 // UTF-8 keeps the order of code points. An invalid byte sorts above all of them: behind a byte no UTF-8 begins with.
-void AppendUtf8(std::string& text, char32_t c)
+void AppendCodePoint(std::string& text, char32_t c)
 {
-    const auto append = [&text](char32_t byte) { text.push_back(static_cast<char>(byte)); };
-    const auto appendTail = [&](int shift) { append(0x80 | (c >> shift & 0x3F)); };
-    if (c >= kInvalid) {
-        append(0xF5);
-        append(c - kInvalid);
-    } else if (c >= 0x10000) {
-        append(0xF0 | c >> 18);
-        appendTail(12);
-        appendTail(6);
-        appendTail(0);
-    } else if (c >= 0x800) {
-        append(0xE0 | c >> 12);
-        appendTail(6);
-        appendTail(0);
-    } else if (c >= 0x80) {
-        append(0xC0 | c >> 6);
-        appendTail(0);
-    } else {
-        append(c);
-    }
-}
-
-char FoldAscii(char c)
-{
-    const auto letter = static_cast<unsigned char>(c - 'A');
-    return static_cast<char>(letter < 26 ? c + ('a' - 'A') : c);
+    if (c < toolkit::kInvalidByte)
+        return toolkit::AppendUtf8(text, c);
+    text.push_back('\xF5');
+    text.push_back(static_cast<char>(c - toolkit::kInvalidByte));
 }
 
 void AppendFoldedSlowly(std::string& key, std::string_view text)
 {
     while (!text.empty()) {
         const auto [c, bytes] = toolkit::DecodeUtf8(text);
-        AppendUtf8(key, toolkit::FoldCase(c));
+        AppendCodePoint(key, toolkit::FoldCase(c));
         text.remove_prefix(static_cast<std::size_t>(bytes));
     }
 }
@@ -61,7 +37,7 @@ void AppendFolded(std::string& key, std::string_view text)
     char all = 0;
     for (char* p = key.data() + nStart; *p; ++p) {
         all |= *p;
-        *p = FoldAscii(*p);
+        *p = toolkit::FoldAscii(*p);
     }
     if (all & 0x80) {
         key.resize(nStart);

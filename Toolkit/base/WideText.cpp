@@ -4,27 +4,12 @@
 
 namespace
 {
-constexpr char32_t kInvalidByte = 0x110000; // what DecodeUtf8 gives such a byte
 constexpr char32_t kStrayByte = 0xDC00;
 constexpr char32_t kReplacement = 0xFFFD;
 
 bool IsCodePoint(char32_t c)
 {
     return c <= 0x10FFFF && (c < 0xD800 || c > 0xDFFF);
-}
-
-void AppendTail(std::string& text, char32_t c, int shift)
-{
-    for (; shift >= 0; shift -= 6)
-        text += static_cast<char>(0x80 | (c >> shift & 0x3F));
-}
-
-void AppendUtf8(std::string& text, char32_t c)
-{
-    const int tail = c < 0x80 ? 0 : c < 0x800 ? 1 : c < 0x10000 ? 2 : 3;
-    const char32_t lead[] = {0, 0xC0, 0xE0, 0xF0};
-    text += static_cast<char>(lead[tail] | c >> 6 * tail);
-    AppendTail(text, c, 6 * (tail - 1));
 }
 } // namespace
 

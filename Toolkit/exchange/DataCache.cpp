@@ -5,14 +5,6 @@
 #include <iterator>
 #include <utility>
 
-namespace
-{
-bool Contains(const std::vector<std::string>& kinds, std::string_view kind)
-{
-    return std::ranges::find(kinds, kind) != kinds.end();
-}
-} // namespace
-
 void toolkit::DataCache::Put(CLIPFORMAT format, const STGMEDIUM& medium)
 {
     m_entries.reserve(m_entries.size() + 1); // the only thing that may fail
@@ -75,7 +67,8 @@ std::vector<std::string> toolkit::DataCache::GetKinds()
 std::optional<std::string> toolkit::DataCache::Render(std::string_view kind)
 {
     const auto found = std::ranges::find_if(m_entries, [kind](const Entry& entry) {
-        return entry.medium.tymed == TYMED_HGLOBAL && Contains(KindsOfFormat(entry.format), kind);
+        const std::vector<std::string> kinds = KindsOfFormat(entry.format);
+        return entry.medium.tymed == TYMED_HGLOBAL && std::ranges::find(kinds, kind) != kinds.end();
     });
     if (found == m_entries.end())
         return std::nullopt;

@@ -32,11 +32,6 @@ void COleDataSource::CacheGlobalData(CLIPFORMAT cfFormat, HGLOBAL hGlobal, FORMA
     CacheData(cfFormat, &medium, pFormat);
 }
 
-void COleDataSource::Empty()
-{
-    m_cache->Empty();
-}
-
 void COleDataSource::SetClipboard()
 {
     if (toolkit::ClipboardOwner() != this && !toolkit::OwnClipboard(std::unique_ptr<COleDataSource>(this), m_cache))

@@ -29,7 +29,6 @@ public:
     // Raises CMemoryException, and the medium stays the caller's, when memory runs out.
     void CacheData(CLIPFORMAT cfFormat, STGMEDIUM* pMedium, FORMATETC* pFormat = nullptr);
     void CacheGlobalData(CLIPFORMAT cfFormat, HGLOBAL hGlobal, FORMATETC* pFormat = nullptr); // takes the block over
-    void Empty(); // releases the cached media
 
     // Gives the data source to the clipboard in place of what is there. The clipboard deletes it when other data, of
     // this program or another one, comes in its place, or at the desktop's end. Raises COleException when the desktop

@@ -21,7 +21,6 @@ TOOLKIT_API BOOL DeleteBrush(HBRUSH hBrush);
 // Icons: one picture with transparency.
 TOOLKIT_API HICON CreateIconFromSurface(toolkit::Surface surface);
 TOOLKIT_API BOOL DestroyIcon(HICON hIcon);
-TOOLKIT_API CSize GetIconSize(HICON hIcon);
 
 struct ICONINFO
 {
@@ -53,9 +52,7 @@ inline constexpr UINT BDR_RAISEDOUTER = 0x0001;
 inline constexpr UINT BDR_SUNKENOUTER = 0x0002;
 inline constexpr UINT BDR_RAISEDINNER = 0x0004;
 inline constexpr UINT BDR_SUNKENINNER = 0x0008;
-inline constexpr UINT EDGE_RAISED = BDR_RAISEDOUTER | BDR_RAISEDINNER;
 inline constexpr UINT EDGE_SUNKEN = BDR_SUNKENOUTER | BDR_SUNKENINNER;
-inline constexpr UINT EDGE_ETCHED = BDR_SUNKENOUTER | BDR_RAISEDINNER;
 inline constexpr UINT EDGE_BUMP = BDR_RAISEDOUTER | BDR_SUNKENINNER;
 inline constexpr UINT BF_LEFT = 0x0001;
 inline constexpr UINT BF_TOP = 0x0002;
@@ -73,7 +70,6 @@ TOOLKIT_API BOOL DrawFocusRect(HDC hdc, const RECT& rect); // dotted, by inverti
 TOOLKIT_API BOOL DrawEdge(HDC hdc, const RECT& rect, UINT edge, UINT flags); // BDR_* or EDGE_*, BF_*
 TOOLKIT_API BOOL TextOut(HDC hdc, int x, int y, std::string_view text);      // top left of the line; background kept
 TOOLKIT_API CSize GetTextExtent(HDC hdc, std::string_view text);
-TOOLKIT_API BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon); // at its own size, by its alpha
 
 namespace toolkit
 {

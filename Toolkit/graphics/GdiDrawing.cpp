@@ -143,12 +143,6 @@ CSize GetTextExtent(HDC hdc, std::string_view text)
     return {engine.Measure(text, pContext->State().fontStyle), engine.LineHeight()};
 }
 
-BOOL DrawIcon(HDC hdc, int x, int y, HICON hIcon)
-{
-    const Surface* pPicture = toolkit::IconSurface(hIcon);
-    return pPicture && toolkit::DrawSurface(hdc, {x, y}, *pPicture);
-}
-
 BOOL toolkit::DrawSurface(HDC hdc, CPoint at, const Surface& picture, const CRect& part)
 {
     const DeviceContext* pContext = FindContext(hdc);

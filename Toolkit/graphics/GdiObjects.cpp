@@ -63,12 +63,6 @@ BOOL DestroyIcon(HICON hIcon)
     return toolkit::AllGdiObjects().icons.Remove(hIcon) != nullptr;
 }
 
-CSize GetIconSize(HICON hIcon)
-{
-    const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);
-    return pSurface ? pSurface->Size() : CSize();
-}
-
 BOOL GetIconInfo(HICON hIcon, ICONINFO* pInfo)
 {
     const toolkit::Surface* pSurface = toolkit::IconSurface(hIcon);

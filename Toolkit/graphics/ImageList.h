@@ -3,7 +3,6 @@
 
 #include "Toolkit/graphics/Gdi.h"
 
-inline constexpr UINT ILC_MASK = 0x0001;
 inline constexpr UINT ILC_COLOR32 = 0x0020;
 
 inline constexpr UINT ILD_NORMAL = 0x0000;

@@ -20,14 +20,6 @@ void toolkit::NotedRegion::Add(const CRect& part) noexcept
     }
 }
 
-void toolkit::NotedRegion::Remove(const CRect& part, const CRect& all)
-{
-    Region rest = m_bAll ? Region(all) : m_region;
-    rest.Subtract(part);
-    m_region = std::move(rest);
-    m_bAll = false;
-}
-
 void toolkit::NotedRegion::Clear() noexcept
 {
     m_region.Clear();

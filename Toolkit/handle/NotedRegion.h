@@ -15,7 +15,6 @@ public:
     CRect Bounds(const CRect& all) const { return m_bAll ? all : m_region.Bounds(); }
 
     void Add(const CRect& part) noexcept;
-    void Remove(const CRect& part, const CRect& all);
     void Clear() noexcept;
     Region Take(const CRect& all);          // and notes it no longer
     void Move(CPoint by, const CRect& all); // what leaves all of it is noted no longer

@@ -88,7 +88,7 @@ void toolkit::InputText(std::string_view utf8)
     while (!utf8.empty()) {
         const CodePoint c = DecodeUtf8(utf8);
         utf8.remove_prefix(static_cast<std::size_t>(c.bytes));
-        const bool bPrintable = c.value >= 0x20 && c.value != 0x7F && c.value < 0x110000;
+        const bool bPrintable = c.value >= 0x20 && c.value != 0x7F && c.value < kInvalidByte;
         if (bPrintable)
             PutInput({.kind = InputKind::Character, .value = c.value});
     }

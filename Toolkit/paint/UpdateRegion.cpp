@@ -79,20 +79,6 @@ BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase)
     return TRUE;
 }
 
-BOOL ValidateRect(HWND hWnd, const RECT* pRect)
-{
-    WindowRecord* pWindow = FindRecord(hWnd);
-    if (!pWindow)
-        return FALSE;
-    if (pRect)
-        pWindow->update.Remove(*pRect, toolkit::ClientRect(*pWindow));
-    else
-        pWindow->ValidateAll();
-    if (pWindow->update.IsEmpty())
-        pWindow->bErase = false;
-    return TRUE;
-}
-
 BOOL GetUpdateRect(HWND hWnd, RECT* pRect)
 {
     const WindowRecord* pWindow = FindRecord(hWnd);

@@ -4,7 +4,6 @@
 #include "Toolkit/base/Geometry.h"
 
 TOOLKIT_API BOOL InvalidateRect(HWND hWnd, const RECT* pRect, BOOL bErase = TRUE); // client; NULL: all of it
-TOOLKIT_API BOOL ValidateRect(HWND hWnd, const RECT* pRect);
 TOOLKIT_API BOOL GetUpdateRect(HWND hWnd, RECT* pRect); // bounds of what is noted; FALSE when nothing is
 TOOLKIT_API BOOL LockWindowUpdate(HWND hWnd); // one window at a time, FALSE when another holds it; NULL lets go
 

@@ -26,17 +26,16 @@ public:
             m_slots[SlotOf(entry.first)] = entry;
     }
 
-    // A handler takes both of the message's parameters, the first of them or none, each as the type that it is: a
-    // number, a pointer, a point. The answer of one that gives none is 0.
+    // Handlers are called as CallHandler does it.
     template <auto handler>
     static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
     {
-        return Handle<handler>(control, wParam, lParam);
+        return CallHandler<handler>(control, wParam, lParam);
     }
     template <auto part, auto handler>
     static LRESULT To(Control& control, WPARAM wParam, LPARAM lParam)
     {
-        return Handle<handler>(control.*part, wParam, lParam);
+        return CallHandler<handler>(control.*part, wParam, lParam);
     }
 
     // The handler's answer; that of ::DefWindowProc for a message that has none.
@@ -47,37 +46,6 @@ public:
     }
 
 private:
-    template <class Raw>
-    struct Param
-    {
-        Raw value;
-
-        template <class T>
-        operator T() const
-        {
-            return FromMessage<T>(value);
-        }
-    };
-
-    template <auto handler, class Object>
-    static LRESULT Handle(Object& object, WPARAM wParam, LPARAM lParam)
-    {
-        const Param<WPARAM> first{wParam};
-        const Param<LPARAM> second{lParam};
-        const auto call = [&] {
-            if constexpr (requires { (object.*handler)(first, second); })
-                return (object.*handler)(first, second);
-            else if constexpr (requires { (object.*handler)(first); })
-                return (object.*handler)(first);
-            else
-                return (object.*handler)();
-        };
-        if constexpr (std::is_void_v<decltype(call())>)
-            return call(), 0;
-        else
-            return FromMessage<LRESULT>(call());
-    }
-
     // The message's slot, or the empty one where it would be.
     std::size_t SlotOf(UINT message) const
     {

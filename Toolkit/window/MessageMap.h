@@ -84,39 +84,39 @@ protected:                                                                      
 #define TOOLKIT_ENTRY(message, thunk, member) {message, 0, 0, 0, &toolkit::thunk<ThisClass, &ThisClass::member>},
 
 #define ON_WM_CREATE() TOOLKIT_ENTRY(WM_CREATE, CallCreate, OnCreate)
-#define ON_WM_DESTROY() TOOLKIT_ENTRY(WM_DESTROY, CallVoid, OnDestroy)
-#define ON_WM_CLOSE() TOOLKIT_ENTRY(WM_CLOSE, CallVoid, OnClose)
-#define ON_WM_PAINT() TOOLKIT_ENTRY(WM_PAINT, CallVoid, OnPaint)
-#define ON_WM_ERASEBKGND() TOOLKIT_ENTRY(WM_ERASEBKGND, CallErase, OnEraseBkgnd)
+#define ON_WM_DESTROY() TOOLKIT_ENTRY(WM_DESTROY, CallMessage, OnDestroy)
+#define ON_WM_CLOSE() TOOLKIT_ENTRY(WM_CLOSE, CallMessage, OnClose)
+#define ON_WM_PAINT() TOOLKIT_ENTRY(WM_PAINT, CallMessage, OnPaint)
+#define ON_WM_ERASEBKGND() TOOLKIT_ENTRY(WM_ERASEBKGND, CallMessage, OnEraseBkgnd)
 #define ON_WM_SIZE() TOOLKIT_ENTRY(WM_SIZE, CallSize, OnSize)
-#define ON_WM_SYSCOLORCHANGE() TOOLKIT_ENTRY(WM_SYSCOLORCHANGE, CallVoid, OnSysColorChange)
-#define ON_WM_SHOWWINDOW() TOOLKIT_ENTRY(WM_SHOWWINDOW, CallShow, OnShowWindow)
-#define ON_WM_SETFOCUS() TOOLKIT_ENTRY(WM_SETFOCUS, CallFocus, OnSetFocus)
-#define ON_WM_KILLFOCUS() TOOLKIT_ENTRY(WM_KILLFOCUS, CallFocus, OnKillFocus)
-#define ON_WM_LBUTTONDOWN() TOOLKIT_ENTRY(WM_LBUTTONDOWN, CallMouse, OnLButtonDown)
-#define ON_WM_LBUTTONUP() TOOLKIT_ENTRY(WM_LBUTTONUP, CallMouse, OnLButtonUp)
-#define ON_WM_LBUTTONDBLCLK() TOOLKIT_ENTRY(WM_LBUTTONDBLCLK, CallMouse, OnLButtonDblClk)
-#define ON_WM_RBUTTONDOWN() TOOLKIT_ENTRY(WM_RBUTTONDOWN, CallMouse, OnRButtonDown)
-#define ON_WM_RBUTTONDBLCLK() TOOLKIT_ENTRY(WM_RBUTTONDBLCLK, CallMouse, OnRButtonDblClk)
-#define ON_WM_RBUTTONUP() TOOLKIT_ENTRY(WM_RBUTTONUP, CallMouse, OnRButtonUp)
-#define ON_WM_MOUSEMOVE() TOOLKIT_ENTRY(WM_MOUSEMOVE, CallMouse, OnMouseMove)
+#define ON_WM_SYSCOLORCHANGE() TOOLKIT_ENTRY(WM_SYSCOLORCHANGE, CallMessage, OnSysColorChange)
+#define ON_WM_SHOWWINDOW() TOOLKIT_ENTRY(WM_SHOWWINDOW, CallMessage, OnShowWindow)
+#define ON_WM_SETFOCUS() TOOLKIT_ENTRY(WM_SETFOCUS, CallMessage, OnSetFocus)
+#define ON_WM_KILLFOCUS() TOOLKIT_ENTRY(WM_KILLFOCUS, CallMessage, OnKillFocus)
+#define ON_WM_LBUTTONDOWN() TOOLKIT_ENTRY(WM_LBUTTONDOWN, CallMessage, OnLButtonDown)
+#define ON_WM_LBUTTONUP() TOOLKIT_ENTRY(WM_LBUTTONUP, CallMessage, OnLButtonUp)
+#define ON_WM_LBUTTONDBLCLK() TOOLKIT_ENTRY(WM_LBUTTONDBLCLK, CallMessage, OnLButtonDblClk)
+#define ON_WM_RBUTTONDOWN() TOOLKIT_ENTRY(WM_RBUTTONDOWN, CallMessage, OnRButtonDown)
+#define ON_WM_RBUTTONDBLCLK() TOOLKIT_ENTRY(WM_RBUTTONDBLCLK, CallMessage, OnRButtonDblClk)
+#define ON_WM_RBUTTONUP() TOOLKIT_ENTRY(WM_RBUTTONUP, CallMessage, OnRButtonUp)
+#define ON_WM_MOUSEMOVE() TOOLKIT_ENTRY(WM_MOUSEMOVE, CallMessage, OnMouseMove)
 #define ON_WM_MOUSEWHEEL() TOOLKIT_ENTRY(WM_MOUSEWHEEL, CallWheel, OnMouseWheel)
 #define ON_WM_KEYDOWN() TOOLKIT_ENTRY(WM_KEYDOWN, CallKey, OnKeyDown)
 #define ON_WM_KEYUP() TOOLKIT_ENTRY(WM_KEYUP, CallKey, OnKeyUp)
 #define ON_WM_CHAR() TOOLKIT_ENTRY(WM_CHAR, CallKey, OnChar)
-#define ON_WM_TIMER() TOOLKIT_ENTRY(WM_TIMER, CallTimer, OnTimer)
-#define ON_WM_CONTEXTMENU() TOOLKIT_ENTRY(WM_CONTEXTMENU, CallContextMenu, OnContextMenu)
+#define ON_WM_TIMER() TOOLKIT_ENTRY(WM_TIMER, CallMessage, OnTimer)
+#define ON_WM_CONTEXTMENU() TOOLKIT_ENTRY(WM_CONTEXTMENU, CallMessage, OnContextMenu)
 
 // LRESULT handler(WPARAM, LPARAM)
 #define ON_MESSAGE(message, memberFxn) {message, 0, 0, 0, &toolkit::CallMessage<ThisClass, &ThisClass::memberFxn>},
 // void handler(); the command's identifier
-#define ON_COMMAND(id, memberFxn) {WM_COMMAND, 0, id, id, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+#define ON_COMMAND(id, memberFxn) {WM_COMMAND, 0, id, id, &toolkit::CallCommand<ThisClass, &ThisClass::memberFxn>},
 // void handler(); a control's own WM_COMMAND, which carries its notification's code, seen by the parent
 #define ON_CONTROL(code, id, memberFxn)                                                                                \
-    {WM_COMMAND, code, id, id, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+    {WM_COMMAND, code, id, id, &toolkit::CallCommand<ThisClass, &ThisClass::memberFxn>},
 // void handler(); the same, come back to the control, not seen by the parent
 #define ON_CONTROL_REFLECT(code, memberFxn)                                                                            \
-    {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, &toolkit::CallVoid<ThisClass, &ThisClass::memberFxn>},
+    {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, &toolkit::CallCommand<ThisClass, &ThisClass::memberFxn>},
 // BOOL handler(); FALSE lets the parent see it, too
 #define ON_CONTROL_REFLECT_EX(code, memberFxn)                                                                         \
     {WM_REFLECT_BASE + WM_COMMAND, code, 0, 0, &toolkit::CallCommandEx<ThisClass, &ThisClass::memberFxn>},

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "Toolkit/message/Messages.h"
-
-class CWnd;
+#include "Toolkit/window/MessageParam.h"
 
 namespace toolkit
 {
@@ -17,14 +16,18 @@ struct MessageCall
     LRESULT result;
 };
 
-// The CWnd of a handle; made on demand, owned by the window.
-TOOLKIT_API CWnd* WndFromHandle(HWND hWnd);
+template <class Class, auto member>
+bool CallMessage(CWnd* pWnd, MessageCall& call)
+{
+    call.result = CallHandler<member>(static_cast<Class&>(*pWnd), call.wParam, call.lParam);
+    return true;
+}
 
 template <class Class, auto member>
-bool CallVoid(CWnd* pWnd, MessageCall& call)
+bool CallCommand(CWnd* pWnd, MessageCall& call)
 {
     (static_cast<Class*>(pWnd)->*member)();
-    call.result = call.message == WM_COMMAND ? TRUE : 0;
+    call.result = TRUE;
     return true;
 }
 
@@ -43,41 +46,10 @@ bool CallCreate(CWnd* pWnd, MessageCall& call)
 }
 
 template <class Class, auto member>
-bool CallErase(CWnd* pWnd, MessageCall& call)
-{
-    call.result = (static_cast<Class*>(pWnd)->*member)(reinterpret_cast<HDC>(call.wParam));
-    return true;
-}
-
-template <class Class, auto member>
 bool CallSize(CWnd* pWnd, MessageCall& call)
 {
     (static_cast<Class*>(pWnd)->*member)(static_cast<UINT>(call.wParam), GET_X_LPARAM(call.lParam),
                                          GET_Y_LPARAM(call.lParam));
-    call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallShow(CWnd* pWnd, MessageCall& call)
-{
-    (static_cast<Class*>(pWnd)->*member)(static_cast<BOOL>(call.wParam), static_cast<UINT>(call.lParam));
-    call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallFocus(CWnd* pWnd, MessageCall& call)
-{
-    (static_cast<Class*>(pWnd)->*member)(WndFromHandle(reinterpret_cast<HWND>(call.wParam)));
-    call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallMouse(CWnd* pWnd, MessageCall& call)
-{
-    (static_cast<Class*>(pWnd)->*member)(static_cast<UINT>(call.wParam), CPoint(call.lParam));
     call.result = 0;
     return true;
 }
@@ -96,29 +68,6 @@ bool CallKey(CWnd* pWnd, MessageCall& call)
     (static_cast<Class*>(pWnd)->*member)(static_cast<UINT>(call.wParam), LOWORD(static_cast<UINT_PTR>(call.lParam)),
                                          HIWORD(static_cast<UINT_PTR>(call.lParam)));
     call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallTimer(CWnd* pWnd, MessageCall& call)
-{
-    (static_cast<Class*>(pWnd)->*member)(static_cast<UINT_PTR>(call.wParam));
-    call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallContextMenu(CWnd* pWnd, MessageCall& call)
-{
-    (static_cast<Class*>(pWnd)->*member)(WndFromHandle(reinterpret_cast<HWND>(call.wParam)), CPoint(call.lParam));
-    call.result = 0;
-    return true;
-}
-
-template <class Class, auto member>
-bool CallMessage(CWnd* pWnd, MessageCall& call)
-{
-    call.result = (static_cast<Class*>(pWnd)->*member)(call.wParam, call.lParam);
     return true;
 }
 

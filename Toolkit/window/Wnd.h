@@ -34,7 +34,6 @@ public:
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     UINT GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     DWORD GetStyle() const { return ::GetWindowStyle(m_hWnd); }
-    DWORD GetExStyle() const { return ::GetWindowExStyle(m_hWnd); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     CString GetWindowText() const { return ::GetWindowText(m_hWnd); }
     void GetClientRect(RECT* pRect) const; // empty without a window, and so is the next
@@ -82,29 +81,32 @@ protected:
     LRESULT Default();
 
     // Handlers to override through the message map; each does just Default().
-    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
-    afx_msg void OnDestroy();
-    afx_msg void OnSysColorChange();
-    afx_msg void OnClose();
-    afx_msg void OnPaint();
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
-    afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg void OnShowWindow(BOOL bShow, UINT nStatus);
-    afx_msg void OnSetFocus(CWnd* pOldWnd);
-    afx_msg void OnKillFocus(CWnd* pNewWnd);
-    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDown(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonDblClk(UINT nFlags, CPoint point);
-    afx_msg void OnRButtonUp(UINT nFlags, CPoint point);
-    afx_msg void OnMouseMove(UINT nFlags, CPoint point);
-    afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint point);
-    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnKeyUp(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
-    afx_msg void OnTimer(UINT_PTR nIDEvent);
-    afx_msg void OnContextMenu(CWnd* pWnd, CPoint point);
+    afx_msg int OnCreate(LPCREATESTRUCT /*lpCreateStruct*/) { return static_cast<int>(Default()); }
+    afx_msg void OnDestroy() { Default(); }
+    afx_msg void OnSysColorChange() { Default(); }
+    afx_msg void OnClose() { Default(); }
+    afx_msg void OnPaint() { Default(); }
+    afx_msg BOOL OnEraseBkgnd(HDC /*hdc*/) { return static_cast<BOOL>(Default()); }
+    afx_msg void OnSize(UINT /*nType*/, int /*cx*/, int /*cy*/) { Default(); }
+    afx_msg void OnShowWindow(BOOL /*bShow*/, UINT /*nStatus*/) { Default(); }
+    afx_msg void OnSetFocus(CWnd* /*pOldWnd*/) { Default(); }
+    afx_msg void OnKillFocus(CWnd* /*pNewWnd*/) { Default(); }
+    afx_msg void OnLButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonUp(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnLButtonDblClk(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonDown(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonDblClk(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnRButtonUp(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg void OnMouseMove(UINT /*nFlags*/, CPoint /*point*/) { Default(); }
+    afx_msg BOOL OnMouseWheel(UINT /*nFlags*/, short /*zDelta*/, CPoint /*point*/)
+    {
+        return static_cast<BOOL>(Default());
+    }
+    afx_msg void OnKeyDown(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnKeyUp(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnChar(UINT /*nChar*/, UINT /*nRepCnt*/, UINT /*nFlags*/) { Default(); }
+    afx_msg void OnTimer(UINT_PTR /*nIDEvent*/) { Default(); }
+    afx_msg void OnContextMenu(CWnd* /*pWnd*/, CPoint /*point*/) { Default(); }
 
     static const toolkit::MessageMap* GetThisMessageMap();
     virtual const toolkit::MessageMap* GetMessageMap() const;

@@ -214,7 +214,7 @@ TEST_F(PictureStoreTest, OnAFineScreenPicturesAreReadAtItsPixelsAndAsLargeAsElse
 
     ICONREQUEST request{32, 32, nullptr};
     ASSERT_TRUE(CStubRef<IAtomIcon>::From(pWide.Get())->GetIcon(&request));
-    EXPECT_EQ(CSize(32, 32), GetIconSize(request.hIcon));
+    EXPECT_EQ(CSize(32, 32), toolkit::IconSurface(request.hIcon)->Size());
     EXPECT_EQ(64, toolkit::IconSurface(request.hIcon)->Width());
     DestroyIcon(request.hIcon);
 }

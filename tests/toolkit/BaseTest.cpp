@@ -27,8 +27,6 @@ TEST(StringTest, CopiesShareUntilOneIsWrittenAndABufferLentOutIsCutWhereItsTextE
     EXPECT_STREQ("runrun", text);
     EXPECT_THROW(text += std::string_view(text.GetString(), std::size_t{1} << 30), CMemoryException);
     EXPECT_STREQ("before", copy);
-    text.Format("%s %d", "frame", 12);
-    EXPECT_STREQ("frame 12", text);
 }
 
 TEST(TextTest, ComparesWithoutRegardToCaseBeyondAscii)

@@ -100,10 +100,8 @@ TEST_F(ClipboardTest, APasteGetsACopyAndTheReleaserGoesWithTheSourceOrWhatReplac
     EXPECT_EQ(Ledger({"released"}), TakeLedger());
     EXPECT_EQ("path", Paste(m_atoms));
 
-    const std::unique_ptr<COleDataSource> source(MakeSource());
-    source->CacheGlobalData(m_atoms, Block("other"));
+    std::unique_ptr<COleDataSource>(MakeSource())->CacheGlobalData(m_atoms, Block("other"));
     EXPECT_EQ(Ledger({"released"}), TakeLedger());
-    source->Empty();
 
     COleDataSource::FlushClipboard(); // leaves plain copies
     EXPECT_EQ(Ledger({"released"}), TakeLedger());

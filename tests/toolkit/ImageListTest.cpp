@@ -90,7 +90,7 @@ TEST_F(ImageListTest, AddsAndReplacesWithAndWithoutMasks)
 
 TEST_F(ImageListTest, IconsAreScaledToFitAndCentred)
 {
-    ASSERT_TRUE(images.Create(4, 4, ILC_COLOR32 | ILC_MASK, 0, 4));
+    ASSERT_TRUE(images.Create(4, 4, ILC_COLOR32, 0, 4));
     EXPECT_EQ(0, PutIcon(-1, {"RRRRRRRR", "RRRRRRRR", "GGGGGGGG", "GGGGGGGG"}));
     EXPECT_EQ((Rows{"....", "RRRR", "GGGG", "...."}), Shown(0));
     EXPECT_EQ(0, PutIcon(0, {"R  R", " BB ", " BB ", "R  R"}));

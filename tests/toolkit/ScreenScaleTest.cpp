@@ -98,13 +98,13 @@ TEST_F(ScreenScaleTest, PicturesMadeForTheScreenKeepTheirPixelsOthersTheirSize)
     CImageList images;
     images.Create(2, 1, ILC_COLOR32, 0, 1);
     const HICON hFine = CreateIconFromSurface(MakeFinePicture({"RGBY", "#RGB"}));
-    EXPECT_EQ(CSize(2, 1), GetIconSize(hFine));
+    EXPECT_EQ(CSize(2, 1), toolkit::IconSurface(hFine)->Size());
     ImageList_ReplaceIcon(images.GetSafeHandle(), -1, hFine);
     const HBITMAP hCoarse = CreateBitmapFromSurface(MakePicture({"RBG#"}));
     EXPECT_EQ(1, ImageList_Add(images.GetSafeHandle(), hCoarse, nullptr)) << "cut into two";
 
     const auto drawThem = [&](HDC hdc) {
-        DrawIcon(hdc, 1, 0, hFine);
+        toolkit::DrawSurface(hdc, {1, 0}, *toolkit::IconSurface(hFine));
         for (int i = 0; i < images.GetImageCount(); ++i)
             ImageList_Draw(images.GetSafeHandle(), i, hdc, 1 + i, 1 + i, ILD_NORMAL);
         toolkit::DrawSurface(hdc, {0, 3}, MakeFinePicture({"RGBY", "#RGB"}), CRect(1, 1, 3, 2));

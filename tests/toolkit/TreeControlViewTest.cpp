@@ -98,7 +98,7 @@ TEST_F(TreeControlTest, WheelAndBarScrollByRowsAndTheTopRowStaysInPlace)
     EXPECT_EQ(0u, tree.GetStyle() & WS_VSCROLL);
 
     Fill("0 1 2 a [b c d e f g h i j k l m n] o p q r s t u v w x");
-    tree.SelectSetFirstVisible((*this)["d"]);
+    tree.Select((*this)["d"], TVGN_FIRSTVISIBLE);
     tree.Expand((*this)["a"], TVE_COLLAPSE); // stays in sight, in the place of what it held
     EXPECT_EQ("a", InRow(0));
 }

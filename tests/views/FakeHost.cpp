@@ -81,7 +81,8 @@ BOOL FakeEditor::NotifyHandlers(IAEStateHandler* sender, AEStateOperation operat
 
 void FakeEditor::AddPane(DWORD kind, HWND, LPCSTR caption, HICON icon)
 {
-    const bool bHasIcon = GetIconSize(icon) == CSize(16, 16);
+    const toolkit::Surface* const pIcon = toolkit::IconSurface(icon);
+    const bool bHasIcon = pIcon && pIcon->Size() == CSize(16, 16);
     ledger.push_back(Words("pane ", kind, " \"", caption, "\"", bHasIcon ? " with icon" : ""));
     if (onJoin)
         onJoin();

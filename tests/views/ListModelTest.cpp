@@ -17,7 +17,7 @@ TEST_F(ListModelTest, ACreatedListIsARegisteredHiddenChildThatIsAnEmptyComponent
     EXPECT_TRUE(list.SetRootAtom(world.Get())); // no window: nothing happens
     ASSERT_TRUE(list.Create(&frame));
     EXPECT_EQ(0x46001208u, list.GetStyle());
-    EXPECT_EQ(0x200u, list.GetExStyle());
+    EXPECT_EQ(0x200u, GetWindowExStyle(list.m_hWnd));
     EXPECT_EQ(0xE900u, list.GetDlgCtrlID());
     EXPECT_EQ(Ledger({"list registers"}), editor.TakeLedger());
     EXPECT_FALSE(list.SetRootAtom(nullptr));

@@ -23,7 +23,6 @@ public:
     // Between rows; see LVM_SETINSERTMARK. The number of the row that would stand behind it, with its mark: the one
     // nearest to the point.
     BOOL SetInsertMark(const LVINSERTMARK* pMark) { return Ask<BOOL>(LVM_SETINSERTMARK, 0, pMark); }
-    BOOL GetInsertMark(LVINSERTMARK* pMark) const { return Ask<BOOL>(LVM_GETINSERTMARK, 0, pMark); }
     int InsertMarkHitTest(CPoint pt, LVINSERTMARK* pMark) const;
     BOOL EnsureVisible(int nItem, BOOL bPartialOK) { return Ask<BOOL>(LVM_ENSUREVISIBLE, nItem, bPartialOK); }
     BOOL Arrange(UINT nCode) { return Ask<BOOL>(LVM_ARRANGE, nCode); }

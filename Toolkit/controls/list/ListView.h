@@ -60,7 +60,6 @@ inline constexpr UINT LVIS_FOCUSED = 0x0001;
 inline constexpr UINT LVIS_SELECTED = 0x0002;
 inline constexpr UINT LVIS_DROPHILITED = 0x0008;
 
-inline constexpr UINT LVNI_ALL = 0x0000;
 inline constexpr UINT LVNI_FOCUSED = 0x0001;
 inline constexpr UINT LVNI_SELECTED = 0x0002;
 inline constexpr UINT LVNI_DROPHILITED = 0x0008;

@@ -92,12 +92,6 @@ void RowSet::Erase(RowRange range)
     m_nCount += putBack;
 }
 
-void RowSet::Clear()
-{
-    m_ranges.clear();
-    m_nCount = 0;
-}
-
 RowSet RowSet::Without(const RowSet& other) const
 {
     RowSet rest;

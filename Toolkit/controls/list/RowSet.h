@@ -36,7 +36,6 @@ public:
     void Insert(RowRange range);
     void Erase(RowRange range);
     void Truncate(int count) { Erase({count, kNoEnd}); } // only rows below `count` stay
-    void Clear();
 
     RowSet Without(const RowSet& other) const; // costs the ranges of both
     RowSet Within(const RowSet& other) const;  // costs the other's ranges, and the ranges of the result

@@ -53,7 +53,6 @@ LRESULT TreeControl::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
         {TVM_EXPAND, Table::To<&TreeControl::m_selection, &TreeSelection::OnExpand>},
         {TVM_GETITEMRECT, Table::To<&TreeControl::m_viewport, &TreeViewport::OnGetItemRect>},
         {TVM_GETCOUNT, Table::To<&TreeControl::m_items, &TreeItems::Count>},
-        {TVM_GETINDENT, Table::To<&TreeControl::OnGetIndent>},
         {TVM_GETIMAGELIST, Table::To<&TreeControl::OnGetImageList>},
         {TVM_SETIMAGELIST, Table::To<&TreeControl::OnSetImageList>},
         {TVM_GETNEXTITEM, Table::To<&TreeControl::OnGetNextItem>},
@@ -131,8 +130,6 @@ ItemIndex TreeControl::Neighbour(UINT code, HTREEITEM hItem) const
         return m_items.Parent(item);
     case TVGN_FIRSTVISIBLE:
         return m_items.AtRow(m_layout.TopRow());
-    case TVGN_LASTVISIBLE:
-        return m_items.AtRow(m_items.RowCount() - 1);
     case TVGN_NEXTVISIBLE:
         return m_items.IsShown(item) ? m_items.AtRow(m_items.RowOf(item) + 1) : kNoItem;
     default:

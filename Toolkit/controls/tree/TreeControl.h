@@ -45,7 +45,6 @@ private:
     void OnSize();
     void OnSetFocus();
     void OnKillFocus();
-    int OnGetIndent() const { return TreeLayout::kIndent; }
     HTREEITEM OnGetNextItem(UINT code, HTREEITEM hItem) const;
     ItemIndex Neighbour(UINT code, HTREEITEM hItem) const;
     void Measure() override { m_viewport.Measure(); }

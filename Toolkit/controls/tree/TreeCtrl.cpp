@@ -63,13 +63,6 @@ LPARAM CTreeCtrl::GetItemData(HTREEITEM hItem) const
     return GetItem(&item) ? item.lParam : 0;
 }
 
-BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, LPARAM lParam)
-{
-    TVITEM item = ItemWith(TVIF_PARAM, hItem);
-    item.lParam = lParam;
-    return SetItem(&item);
-}
-
 BOOL CTreeCtrl::GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const
 {
     std::memcpy(static_cast<void*>(pRect), &hItem, sizeof(hItem));

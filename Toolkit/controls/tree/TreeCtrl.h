@@ -36,7 +36,6 @@ public:
     UINT GetItemState(HTREEITEM hItem, UINT nMask) const { return Ask<UINT>(TVM_GETITEMSTATE, hItem, nMask); }
     BOOL SetItemState(HTREEITEM hItem, UINT nState, UINT nMask);
     LPARAM GetItemData(HTREEITEM hItem) const; // 0 for no item
-    BOOL SetItemData(HTREEITEM hItem, LPARAM lParam);
 
     // Places, in client coordinates.
     BOOL GetItemRect(HTREEITEM hItem, RECT* pRect, BOOL bTextOnly) const; // FALSE inside a collapsed branch
@@ -54,7 +53,6 @@ public:
     // TVGN_CARET or TVGN_FIRSTVISIBLE; FALSE when refused.
     BOOL Select(HTREEITEM hItem, UINT nCode) { return Ask<BOOL>(TVM_SELECTITEM, nCode, hItem); }
     BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); }
-    BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
     BOOL SortChildren(HTREEITEM hParent) { return Ask<BOOL>(TVM_SORTCHILDREN, 0, hParent); }
     BOOL SortChildrenCB(TVSORTCB* pSort) { return Ask<BOOL>(TVM_SORTCHILDRENCB, 0, pSort); }
     void SetOrderKey(PFNTVORDERKEY makeKey) { SendMessage(TVM_SETORDERKEY, 0, reinterpret_cast<LPARAM>(makeKey)); }
@@ -64,10 +62,6 @@ public:
     HWND EditLabel(HTREEITEM hItem) { return Ask<HWND>(TVM_EDITLABEL, 0, hItem); }
     HWND GetEditControl() const { return Ask<HWND>(TVM_GETEDITCONTROL); }
 
-    HIMAGELIST GetImageList(UINT nImageList = TVSIL_NORMAL) const
-    {
-        return Ask<HIMAGELIST>(TVM_GETIMAGELIST, nImageList);
-    }
     // Borrowed; the former one.
     HIMAGELIST SetImageList(CImageList* pImageList, UINT nImageList)
     {

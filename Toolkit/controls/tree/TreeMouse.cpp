@@ -100,7 +100,7 @@ void TreeMouse::Cancel()
 void TreeMouse::BeginDrag()
 {
     const Press press = *m_press;
-    if (!(press.hit.flags & TVHT_ONITEM) || m_control.Is(TVS_DISABLEDRAGDROP))
+    if (!(press.hit.flags & TVHT_ONITEM))
         return;
     Cancel();
     if (m_items.Find(press.hit.hItem) != kNoItem)

@@ -17,7 +17,6 @@ inline constexpr DWORD TVS_HASBUTTONS = 0x0001;
 inline constexpr DWORD TVS_HASLINES = 0x0002;
 inline constexpr DWORD TVS_LINESATROOT = 0x0004; // lines and buttons for the top-level items, too
 inline constexpr DWORD TVS_EDITLABELS = 0x0008;
-inline constexpr DWORD TVS_DISABLEDRAGDROP = 0x0010;
 inline constexpr DWORD TVS_SHOWSELALWAYS = 0x0020;
 
 // Messages.
@@ -27,7 +26,6 @@ inline constexpr UINT TVM_DELETEITEM = TV_FIRST + 1;  // lParam: item with its s
 inline constexpr UINT TVM_EXPAND = TV_FIRST + 2;      // wParam: TVE_*, lParam: item; TRUE when it changed
 inline constexpr UINT TVM_GETITEMRECT = TV_FIRST + 4; // wParam: label only?, lParam: RECT* that begins with the item
 inline constexpr UINT TVM_GETCOUNT = TV_FIRST + 5;
-inline constexpr UINT TVM_GETINDENT = TV_FIRST + 6;
 inline constexpr UINT TVM_GETIMAGELIST = TV_FIRST + 8;
 inline constexpr UINT TVM_SETIMAGELIST = TV_FIRST + 9; // wParam: TVSIL_NORMAL, lParam: HIMAGELIST; the former one
 inline constexpr UINT TVM_GETNEXTITEM = TV_FIRST + 10; // wParam: TVGN_*, lParam: item; the item or NULL
@@ -69,7 +67,6 @@ inline constexpr UINT TVGN_CHILD = 0x0004;        // the first child; of TVI_ROO
 inline constexpr UINT TVGN_FIRSTVISIBLE = 0x0005; // the item in the client area's first row
 inline constexpr UINT TVGN_NEXTVISIBLE = 0x0006;  // the next shown item; the item itself must be shown
 inline constexpr UINT TVGN_CARET = 0x0009;        // the selected item
-inline constexpr UINT TVGN_LASTVISIBLE = 0x000A;  // the last shown item of the whole tree
 
 // Which fields of a TVITEM count.
 inline constexpr UINT TVIF_TEXT = 0x0001;
@@ -96,8 +93,7 @@ inline constexpr UINT TVHT_ONITEMLABEL = 0x0004;
 inline constexpr UINT TVHT_ONITEMINDENT = 0x0008;
 inline constexpr UINT TVHT_ONITEMBUTTON = 0x0010;
 inline constexpr UINT TVHT_ONITEMRIGHT = 0x0020;
-inline constexpr UINT TVHT_ONITEMSTATEICON = 0x0040; // never given: items have no state pictures
-inline constexpr UINT TVHT_ONITEM = TVHT_ONITEMICON | TVHT_ONITEMLABEL | TVHT_ONITEMSTATEICON;
+inline constexpr UINT TVHT_ONITEM = TVHT_ONITEMICON | TVHT_ONITEMLABEL;
 inline constexpr UINT TVHT_ABOVE = 0x0100;
 inline constexpr UINT TVHT_BELOW = 0x0200;
 inline constexpr UINT TVHT_TORIGHT = 0x0400;
@@ -127,7 +123,6 @@ struct TVITEM
     int cChildren; // 0: none, 1: one or more
     LPARAM lParam;
 };
-using LPTVITEM = TVITEM*;
 
 struct TVINSERTSTRUCT
 {
@@ -135,7 +130,6 @@ struct TVINSERTSTRUCT
     HTREEITEM hInsertAfter; // TVI_FIRST, TVI_LAST, TVI_SORT or a sibling; anything else is TVI_LAST
     TVITEM item;
 };
-using LPTVINSERTSTRUCT = TVINSERTSTRUCT*;
 
 struct TVHITTESTINFO
 {
@@ -153,7 +147,6 @@ struct TVSORTCB
     PFNTVCOMPARE lpfnCompare; // once it has changed the tree it is called no more, and nothing is sorted
     LPARAM lParam;
 };
-using LPTVSORTCB = TVSORTCB*;
 
 using PFNTVORDERKEY = void (*)(LPARAM lParam, LPCSTR pszLabel, std::string& key); // appends it
 
@@ -195,17 +188,13 @@ struct NMTREEVIEW
     TVITEM itemNew;
     POINT ptDrag; // client
 };
-using LPNMTREEVIEW = NMTREEVIEW*;
-using NM_TREEVIEW = NMTREEVIEW;
 
 struct NMTVDISPINFO
 {
     NMHDR hdr;
     TVITEM item; // hItem, lParam and state are given; pszText points to a buffer of cchTextMax bytes, or is replaced
 };
-using LPNMTVDISPINFO = NMTVDISPINFO*;
 using TVDISPINFO = NMTVDISPINFO;
-using TV_DISPINFO = NMTVDISPINFO;
 
 static_assert(sizeof(void*) != 4 ||
               (sizeof(TVITEM) == 40 && sizeof(TVINSERTSTRUCT) == 48 && sizeof(TVHITTESTINFO) == 16 &&
