@@ -5,7 +5,6 @@
 #include <system_error>
 #include <thread>
 #include <unistd.h>
-#include <utility>
 
 namespace toolkit
 {

@@ -3,7 +3,6 @@
 #include "Toolkit/base/HandleTable.h"
 
 #include <algorithm>
-#include <cstring>
 #include <limits>
 #include <new>
 

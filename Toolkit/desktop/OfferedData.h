@@ -3,6 +3,7 @@
 
 #include "Toolkit/base/Types.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <vector>
@@ -17,7 +18,7 @@ public:
     virtual ~OfferedData() = default;
 
     virtual std::vector<std::string> GetKinds() = 0;
-    virtual bool Has(std::string_view kind); // the kind is among GetKinds
+    bool Has(std::string_view kind) { return std::ranges::count(GetKinds(), kind) > 0; }
     // The bytes, rendered anew each time; nothing when there is no such kind or its owner does not answer.
     virtual std::optional<std::string> Render(std::string_view kind) = 0;
     virtual bool IsGone() const { return false; } // whoever offered it has taken it back for good

@@ -65,6 +65,8 @@ private:
     const std::shared_ptr<OfferedData> m_data;
 };
 
+std::shared_ptr<DataProvider> ClipboardData(); // this program's or another's; NULL when there is none
+
 HGLOBAL MakeGlobal(std::string_view bytes); // NULL when memory runs out
 
 } // namespace toolkit

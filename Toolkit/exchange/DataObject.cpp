@@ -1,6 +1,5 @@
 #include "Toolkit/exchange/DataObject.h"
 
-#include "Toolkit/exchange/Clipboard.h"
 #include "Toolkit/exchange/DataCache.h"
 
 namespace

@@ -50,7 +50,7 @@ toolkit::DragTracker::DragTracker(std::shared_ptr<OfferedData> data, DROPEFFECT 
 toolkit::DragTracker::~DragTracker()
 {
     Leave();
-    SetMouseKeyFlags(MouseKeyFlags() & ~(MK_LBUTTON | MK_RBUTTON | MK_MBUTTON));
+    SetMouseKeyFlags(MouseKeyFlags() & ~kMouseButtons);
 }
 
 // A desktop has no use for the toolkit's exceptions: what raises one counts as refused.

@@ -12,6 +12,7 @@ bool IsKeyDown(UINT vkey);
 bool SetKeyDown(UINT vkey, bool bDown); // was it down before?
 void SetModifiersDown(Modifiers modifiers);
 void ReleaseAllKeys();
+inline constexpr UINT kMouseButtons = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
 UINT MouseKeyFlags(); // MK_*
 void SetMouseKeyFlags(UINT flags);
 CPoint CursorPos(); // screen

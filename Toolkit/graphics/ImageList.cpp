@@ -182,8 +182,3 @@ BOOL CImageList::Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask)
     m_hImageList = ImageList_LoadBitmap(nBitmapID, cx, nGrow, crMask);
     return m_hImageList != nullptr;
 }
-
-BOOL CImageList::DeleteImageList()
-{
-    return ImageList_Destroy(std::exchange(m_hImageList, nullptr));
-}

@@ -3,6 +3,8 @@
 
 #include "Toolkit/graphics/Gdi.h"
 
+#include <utility>
+
 inline constexpr UINT ILC_COLOR32 = 0x0020;
 
 inline constexpr UINT ILD_NORMAL = 0x0000;
@@ -40,7 +42,7 @@ public:
     // A list that the object owned before is destroyed.
     BOOL Create(int cx, int cy, UINT nFlags, int nInitial, int nGrow);
     BOOL Create(UINT nBitmapID, int cx, int nGrow, COLORREF crMask);
-    BOOL DeleteImageList();
+    BOOL DeleteImageList() { return ImageList_Destroy(std::exchange(m_hImageList, nullptr)); }
 
     HIMAGELIST GetSafeHandle() const { return m_hImageList; }
     int GetImageCount() const { return ImageList_GetImageCount(m_hImageList); }

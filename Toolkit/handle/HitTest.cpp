@@ -2,8 +2,6 @@
 
 #include "Toolkit/handle/WindowGeometry.h"
 
-#include <algorithm>
-
 namespace
 {
 using toolkit::WindowRecord;

@@ -78,16 +78,6 @@ void toolkit::HeadlessDesktop::PutButton(HWND hWnd, CPoint at, MouseButton butto
     Run();
 }
 
-void toolkit::HeadlessDesktop::Press(HWND hWnd, CPoint at, MouseButton button)
-{
-    PutButton(hWnd, at, button, true);
-}
-
-void toolkit::HeadlessDesktop::Release(HWND hWnd, CPoint at, MouseButton button)
-{
-    PutButton(hWnd, at, button, false);
-}
-
 void toolkit::HeadlessDesktop::Click(HWND hWnd, CPoint at, MouseButton button)
 {
     ForgetLastPress();

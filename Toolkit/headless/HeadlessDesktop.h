@@ -28,8 +28,8 @@ public:
     // Mouse, at client coordinates of any window. Buttons pressed stay down until released; a press after a press
     // at the same place is a double click only within the double-click time, so tests Advance between clicks.
     void MoveTo(HWND hWnd, CPoint at);
-    void Press(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
-    void Release(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left);
+    void Press(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left) { PutButton(hWnd, at, button, true); }
+    void Release(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left) { PutButton(hWnd, at, button, false); }
     void Click(HWND hWnd, CPoint at, MouseButton button = MouseButton::Left); // never the second of a double click
     void DoubleClick(HWND hWnd, CPoint at);
     void Wheel(HWND hWnd, CPoint at, int notches); // up is positive

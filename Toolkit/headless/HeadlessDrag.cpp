@@ -5,8 +5,6 @@
 
 namespace
 {
-constexpr DWORD kButtons = MK_LBUTTON | MK_RBUTTON | MK_MBUTTON;
-
 DWORD FlagOf(toolkit::MouseButton button)
 {
     return button == toolkit::MouseButton::Left    ? MK_LBUTTON
@@ -116,13 +114,10 @@ DROPEFFECT toolkit::HeadlessDesktop::RunDrag(std::shared_ptr<OfferedData> data, 
     if (m_drag)
         return DROPEFFECT_NONE; // another program's goes on
     const Cursor former = CurrentCursor();
-    m_drag = std::make_unique<HeadlessDrag>(std::move(data), allowed, true, MouseKeyFlags() & kButtons);
+    m_drag = std::make_unique<HeadlessDrag>(std::move(data), allowed, true, MouseKeyFlags() & kMouseButtons);
     StepDrag();
-    if (IsDragging() && !m_dragScripts.empty()) {
-        const auto script = std::move(m_dragScripts.front());
-        m_dragScripts.pop_front();
-        script();
-    }
+    if (const auto script = IsDragging() ? TakeFirst(m_dragScripts) : std::nullopt)
+        (*script)();
     if (IsDragging())
         EndDrag(DROPEFFECT_NONE);
     m_drag.reset();

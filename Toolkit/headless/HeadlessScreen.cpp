@@ -23,34 +23,24 @@ void toolkit::HeadlessScreen::ShowScale(PixelScale scale)
 int toolkit::HeadlessScreen::ShowMessageBox(HWND, LPCSTR pszText, LPCSTR pszCaption, UINT)
 {
     m_boxes.push_back(std::string(pszCaption) + ": " + pszText);
-    if (m_answers.empty())
-        return IDOK;
-    const int nAnswer = m_answers.front();
-    m_answers.pop_front();
-    return nAnswer;
+    return TakeFirst(m_answers).value_or(IDOK);
 }
 
 UINT toolkit::HeadlessScreen::TrackMenu(HWND hOwner, const std::vector<MenuItem>& items, CPoint screen)
 {
     m_menus.push_back(DescribeMenu(items));
     m_menuPlace = screen;
-    if (m_choices.empty())
-        return 0;
-    const MenuAnswer choice = std::move(m_choices.front());
-    m_choices.pop_front();
-    if (choice.vkey == 0)
-        return FindMenuCommand(items, choice.text);
-    SendMessage(hOwner, WM_NEXTMENU, choice.vkey, 0);
+    const std::optional<MenuAnswer> choice = TakeFirst(m_choices);
+    if (choice && choice->vkey == 0)
+        return FindMenuCommand(items, choice->text);
+    if (choice)
+        SendMessage(hOwner, WM_NEXTMENU, choice->vkey, 0);
     return 0;
 }
 
 std::optional<std::string> toolkit::HeadlessScreen::AskFolder(HWND, const std::string&, const std::string&)
 {
-    if (m_folders.empty())
-        return std::nullopt;
-    std::string path = std::move(m_folders.front());
-    m_folders.pop_front();
-    return path;
+    return TakeFirst(m_folders);
 }
 
 toolkit::Surface toolkit::HeadlessScreen::Dump(HWND hWnd)

@@ -11,6 +11,17 @@
 namespace toolkit
 {
 
+// Nothing when there is none left.
+template <class Item>
+std::optional<Item> TakeFirst(std::deque<Item>& items)
+{
+    if (items.empty())
+        return std::nullopt;
+    Item first = std::move(items.front());
+    items.pop_front();
+    return first;
+}
+
 class TOOLKIT_API HeadlessScreen : public Desktop
 {
 public:

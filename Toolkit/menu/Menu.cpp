@@ -98,11 +98,6 @@ BOOL CMenu::DestroyMenu()
     return bThere;
 }
 
-HMENU CMenu::Detach()
-{
-    return std::exchange(m_hMenu, nullptr);
-}
-
 BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
 {
     Menu* pMenu = s_menus.all.Find(m_hMenu);

@@ -4,6 +4,8 @@
 #include "Toolkit/base/Geometry.h"
 #include "Toolkit/desktop/MenuItems.h"
 
+#include <utility>
+
 class CWnd;
 
 using HMENU = struct HMENU__*;
@@ -35,7 +37,7 @@ public:
     BOOL CreatePopupMenu(); // FALSE when there is one already, or no memory
     BOOL DestroyMenu();
     HMENU GetSafeHmenu() const { return m_hMenu; }
-    HMENU Detach(); // gives the menu away, as MF_POPUP takes it
+    HMENU Detach() { return std::exchange(m_hMenu, nullptr); } // gives the menu away, as MF_POPUP takes it
 
     // Texts may mark their key with "&" and carry a shortcut behind a tab. nIDNewItem is the command, with MF_POPUP a
     // menu that the new item takes over.

@@ -25,11 +25,6 @@ toolkit::ScrollBar::ScrollBar(const CRect& box, int nBar, const SCROLLINFO& info
     m_nThumb = std::clamp(static_cast<int>(proportional), std::min(kShortestThumb, m_nLength), m_nLength);
 }
 
-CRect toolkit::ScrollBar::GetThumb() const
-{
-    return GetThumbAt(GetThumbOffset());
-}
-
 CRect toolkit::ScrollBar::GetThumbAt(int nOffset) const
 {
     const int nFirst = m_nStart + nOffset;

@@ -22,8 +22,8 @@ class TOOLKIT_API ScrollBar
 public:
     ScrollBar(const CRect& box, int nBar, const SCROLLINFO& info); // SB_HORZ or SB_VERT
 
-    CRect GetThumb() const;              // at the info's nPos
-    CRect GetThumbAt(int nOffset) const; // so many pixels from the first place
+    CRect GetThumb() const { return GetThumbAt(GetThumbOffset()); } // at the info's nPos
+    CRect GetThumbAt(int nOffset) const;                            // so many pixels from the first place
     int GetThumbOffset() const { return OffsetOf(m_info.nPos); }
     int GetFreeLength() const { return m_nLength - m_nThumb; } // the largest offset
     ScrollPart HitTest(CPoint at) const;

@@ -42,11 +42,6 @@ BOOL CWnd::CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwSt
     return toolkit::MakeWindow(cs, this) != nullptr;
 }
 
-BOOL CWnd::DestroyWindow()
-{
-    return ::DestroyWindow(m_hWnd);
-}
-
 CWnd* CWnd::FromHandle(HWND hWnd)
 {
     toolkit::WindowRecord* pWindow = toolkit::FindRecord(hWnd);
@@ -89,33 +84,6 @@ void CWnd::GetWindowRect(RECT* pRect) const
     *pRect = {};
     ::GetWindowRect(m_hWnd, pRect);
 }
-
-CWnd* CWnd::SetFocus()
-{
-    return m_hWnd ? FromHandle(::SetFocus(m_hWnd)) : nullptr;
-}
-
-LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
-{
-    return ::SendMessage(m_hWnd, message, wParam, lParam);
-}
-
-BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
-{
-    return ::PostMessage(m_hWnd, message, wParam, lParam);
-}
-
-BOOL CWnd::PreCreateWindow(CREATESTRUCT&)
-{
-    return TRUE;
-}
-
-BOOL CWnd::PreTranslateMessage(MSG*)
-{
-    return FALSE;
-}
-
-void CWnd::PostNcDestroy() {}
 
 CWnd* AfxGetMainWnd()
 {

@@ -22,7 +22,7 @@ public:
     // there is no window then.
     BOOL CreateEx(DWORD dwExStyle, LPCSTR pszClass, LPCSTR pszName, DWORD dwStyle, const RECT& rect, CWnd* pParent,
                   UINT nID);
-    virtual BOOL DestroyWindow();
+    virtual BOOL DestroyWindow() { return ::DestroyWindow(m_hWnd); }
 
     HWND GetSafeHwnd() const { return m_hWnd; }
     // The object of a window; for a window without one, an object that lives as long as the window. NULL for NULL
@@ -44,27 +44,34 @@ public:
     BOOL ShowWindow(int nShow) { return ::ShowWindow(m_hWnd, nShow); }
     void MoveWindow(const RECT& rect);
     void SetWindowText(LPCSTR pszText) { ::SetWindowText(m_hWnd, pszText); }
-    CWnd* SetFocus(); // without a window the focus stays where it is
+    // Without a window the focus stays where it is.
+    CWnd* SetFocus() { return m_hWnd ? FromHandle(::SetFocus(m_hWnd)) : nullptr; }
     CWnd* SetCapture() { return FromHandle(::SetCapture(m_hWnd)); }
     void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
     void InvalidateRect(const RECT* pRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, pRect, bErase); }
     void UpdateWindow() { ::UpdateWindow(m_hWnd); }
     UINT_PTR SetTimer(UINT_PTR nID, UINT nElapse) { return ::SetTimer(m_hWnd, nID, nElapse); }
     BOOL KillTimer(UINT_PTR nID) { return ::KillTimer(m_hWnd, nID); }
-    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const
+    {
+        return ::SendMessage(m_hWnd, message, wParam, lParam);
+    }
     template <class Answer, class First = WPARAM, class Second = LPARAM>
     Answer Ask(UINT message, First first = {}, Second second = {}) const
     {
         return toolkit::FromMessage<Answer>(
             SendMessage(message, toolkit::FromMessage<WPARAM>(first), toolkit::FromMessage<LPARAM>(second)));
     }
-    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
+    {
+        return ::PostMessage(m_hWnd, message, wParam, lParam);
+    }
 
     // May change what CreateEx was called with; FALSE refuses.
-    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual BOOL PreCreateWindow(CREATESTRUCT& /*cs*/) { return TRUE; }
     // A key message on its way to the window that has the focus: asked of it first and then of its ancestors,
     // before any of them handles it. TRUE swallows the message.
-    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    virtual BOOL PreTranslateMessage(MSG* /*pMsg*/) { return FALSE; }
 
 protected:
     // Every message of the window comes here first; looks it up in the message maps and else calls DefWindowProc.
@@ -75,7 +82,7 @@ protected:
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     // A child's notification: reflected to the child first, then looked up here. TRUE when someone took it.
     virtual BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    virtual void PostNcDestroy(); // the window is gone, m_hWnd is NULL; nothing here
+    virtual void PostNcDestroy() {} // the window is gone, m_hWnd is NULL
 
     // Hands the message being handled to DefWindowProc, with the parameters it came with.
     LRESULT Default();
@@ -109,7 +116,7 @@ protected:
     afx_msg void OnContextMenu(CWnd* /*pWnd*/, CPoint /*point*/) { Default(); }
 
     static const toolkit::MessageMap* GetThisMessageMap();
-    virtual const toolkit::MessageMap* GetMessageMap() const;
+    virtual const toolkit::MessageMap* GetMessageMap() const { return GetThisMessageMap(); }
 
 private:
     friend struct WndAccess; // the window manager's way to PostNcDestroy and the message map

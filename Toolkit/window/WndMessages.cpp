@@ -30,11 +30,6 @@ const toolkit::MessageMap* CWnd::GetThisMessageMap()
     return &map;
 }
 
-const toolkit::MessageMap* CWnd::GetMessageMap() const
-{
-    return GetThisMessageMap();
-}
-
 LRESULT CWnd::HandleMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const toolkit::MessageCall call{message, wParam, lParam, 0};

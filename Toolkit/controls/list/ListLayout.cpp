@@ -129,11 +129,6 @@ int ListLayout::FirstVisibleRow() const
     return std::max(RowAt(FloorToInt(m_scroll, m_cell.cy), 0), 0);
 }
 
-int ListLayout::FullLinesPerPage() const
-{
-    return std::max<int>(m_client.cy / m_cell.cy, 1);
-}
-
 std::int64_t ListLayout::ScrollToShow(int row, bool partIsEnough) const
 {
     const std::int64_t top = static_cast<std::int64_t>(LineOf(row)) * m_cell.cy;

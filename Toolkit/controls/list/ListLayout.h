@@ -44,8 +44,8 @@ public:
     CellBlock BlockBetween(int row, int otherRow) const; // the cells of which the two rows are corners
     RowSet RowsOf(const CellBlock& block) const;
 
-    int FirstVisibleRow() const;  // of which at least a part is visible; 0 when there is none
-    int FullLinesPerPage() const; // at least 1
+    int FirstVisibleRow() const; // of which at least a part is visible; 0 when there is none
+    int FullLinesPerPage() const { return std::max<int>(m_client.cy / m_cell.cy, 1); } // at least 1
     // The scroll position nearest to the present one at which the row is in sight: all of it as far as it fits, or
     // any part.
     std::int64_t ScrollToShow(int row, bool partIsEnough) const;

@@ -31,35 +31,10 @@ void TreeLayout::SetMeasures(int lineHeight, CSize icon)
     ScrollToRow(m_nTop);
 }
 
-void TreeLayout::SetButtonsAtRoot(bool on)
-{
-    m_bButtonsAtRoot = on;
-}
-
 void TreeLayout::SetWidth(int width)
 {
     m_nWidth = width;
     ScrollToX(m_nX);
-}
-
-void TreeLayout::ScrollToRow(int row)
-{
-    m_nTop = std::clamp(row, 0, MaxTopRow());
-}
-
-void TreeLayout::ScrollToX(int x)
-{
-    m_nX = std::clamp(x, 0, MaxX());
-}
-
-int TreeLayout::MaxTopRow() const
-{
-    return std::max(m_nRows - FullRows(), 0);
-}
-
-int TreeLayout::MaxX() const
-{
-    return std::max<int>(m_nWidth - m_client.cx, 0);
 }
 
 int TreeLayout::FullRows(int height) const

@@ -24,20 +24,20 @@ public:
     // Each keeps what is scrolled in range.
     void SetClient(CSize size);
     void SetRows(int rows);
-    void SetMeasures(int lineHeight, CSize icon); // 0 by 0: no pictures, no room for them
-    void SetButtonsAtRoot(bool on);               // or at least room for their lines
-    void SetWidth(int width);                     // of the content
-    void ScrollToRow(int row);
-    void ScrollToX(int x);
+    void SetMeasures(int lineHeight, CSize icon);             // 0 by 0: no pictures, no room for them
+    void SetButtonsAtRoot(bool on) { m_bButtonsAtRoot = on; } // or at least room for their lines
+    void SetWidth(int width);                                 // of the content
+    void ScrollToRow(int row) { m_nTop = std::clamp(row, 0, MaxTopRow()); }
+    void ScrollToX(int x) { m_nX = std::clamp(x, 0, MaxX()); }
 
     CSize Client() const { return m_client; }
     int Rows() const { return m_nRows; }
     int RowHeight() const { return m_nRowHeight; }
     int Width() const { return m_nWidth; }
     int TopRow() const { return m_nTop; }
-    int MaxTopRow() const;
+    int MaxTopRow() const { return std::max(m_nRows - FullRows(), 0); }
     int X() const { return m_nX; } // the content's x at the client area's left edge
-    int MaxX() const;
+    int MaxX() const { return std::max<int>(m_nWidth - m_client.cx, 0); }
     int FullRows() const { return FullRows(m_client.cy); } // at least 1
     int FullRows(int height) const;
 

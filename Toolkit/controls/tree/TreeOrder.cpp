@@ -40,27 +40,24 @@ void SortStably(std::vector<Entry>& entries, const IsAfter& isAfter)
 std::vector<ItemIndex> Merge(const std::vector<ItemIndex>& items, std::size_t settled, const TextKeys::Keys& keys,
                              bool& inOrder)
 {
-    std::vector<std::uint32_t> ranks(settled), others;
-    others.reserve(items.size() - settled);
-    std::vector<std::uint32_t> otherRanks;
-    for (std::uint32_t rank = 0; rank < keys.size(); ++rank) {
-        const std::uint32_t i = keys[rank].nIndex;
-        if (i < settled)
-            ranks[i] = rank;
-        else
-            others.push_back(i), otherRanks.push_back(rank);
-    }
+    std::vector<std::uint32_t> ranks(settled);
+    for (std::uint32_t rank = 0; rank < keys.size(); ++rank)
+        if (keys[rank].nIndex < settled)
+            ranks[keys[rank].nIndex] = rank;
     inOrder = std::is_sorted(ranks.begin(), ranks.end());
     std::vector<ItemIndex> order;
     order.reserve(items.size());
-    std::size_t other = 0;
+    std::size_t rank = 0;
+    const auto takeOthersBefore = [&](std::size_t end) {
+        for (; rank < end; ++rank)
+            if (keys[rank].nIndex >= settled)
+                order.push_back(items[keys[rank].nIndex]);
+    };
     for (std::size_t i = 0; i < settled; ++i) {
-        while (other < others.size() && otherRanks[other] < ranks[i])
-            order.push_back(items[others[other++]]);
+        takeOthersBefore(ranks[i]);
         order.push_back(items[i]);
     }
-    while (other < others.size())
-        order.push_back(items[others[other++]]);
+    takeOthersBefore(keys.size());
     return order;
 }
 
