@@ -44,11 +44,6 @@ const toolkit::DataCache::Entry* toolkit::DataCache::Find(CLIPFORMAT format, DWO
     return found == m_entries.end() ? nullptr : &*found;
 }
 
-bool toolkit::DataCache::Offers(CLIPFORMAT format, DWORD tymed)
-{
-    return Find(format, tymed) != nullptr;
-}
-
 STGMEDIUM toolkit::DataCache::Get(CLIPFORMAT format, DWORD tymed)
 {
     const Entry* pEntry = Find(format, tymed);

@@ -32,7 +32,7 @@ public:
     std::shared_ptr<DataCache> CopyPlain() const; // what is in global memory, without releasers
     bool IsGone() const override { return m_bClosed; }
 
-    bool Offers(CLIPFORMAT format, DWORD tymed) override;
+    bool Offers(CLIPFORMAT format, DWORD tymed) override { return Find(format, tymed) != nullptr; }
     STGMEDIUM Get(CLIPFORMAT format, DWORD tymed) override;
     std::vector<std::string> GetKinds() override;
     std::optional<std::string> Render(std::string_view kind) override;

@@ -2,7 +2,6 @@
 
 #include "Toolkit/desktop/Desktop.h"
 #include "Toolkit/exchange/DataCache.h"
-#include "Toolkit/exchange/OleException.h"
 #include "Toolkit/focus/Capture.h"
 #include "Toolkit/focus/InputState.h"
 #include "Toolkit/message/Queue.h"

@@ -1,6 +1,7 @@
 // COleDataSource: data that this program offers, on the clipboard or in a drag.
 #pragma once
 
+#include "Toolkit/base/Exception.h"
 #include "Toolkit/desktop/DropEffect.h"
 #include "Toolkit/exchange/StgMedium.h"
 
@@ -10,6 +11,20 @@ namespace toolkit
 {
 class DataCache;
 }
+
+using SCODE = HRESULT;
+inline constexpr SCODE CLIPBRD_E_CANT_SET = static_cast<SCODE>(0x800401D2);
+
+// The desktop has refused data that was to be exchanged.
+class TOOLKIT_API COleException : public CException
+{
+public:
+    explicit COleException(SCODE sc) : m_sc(sc) {}
+
+    LPCSTR GetErrorMessage() const noexcept override { return "The clipboard cannot be had."; }
+
+    const SCODE m_sc;
+};
 
 // Keeps what was cached in it until it goes; whoever takes data gets a copy. Made with new when it is meant for the
 // clipboard, which then deletes it; else whoever made it deletes it, even while it is being dragged.

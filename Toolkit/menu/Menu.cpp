@@ -17,10 +17,7 @@ struct Item
     HMENU hSub = nullptr;
 };
 
-struct Menu
-{
-    std::vector<Item> items;
-};
+using Menu = std::vector<Item>;
 
 struct
 {
@@ -43,7 +40,7 @@ void Destroy(HMENU hMenu)
     const std::unique_ptr<Menu> menu = s_menus.all.Remove(hMenu);
     if (!menu)
         return;
-    for (const Item& item : menu->items)
+    for (const Item& item : *menu)
         Destroy(item.hSub);
 }
 
@@ -52,7 +49,7 @@ std::vector<toolkit::MenuItem> Snapshot(HMENU hMenu)
 {
     std::vector<toolkit::MenuItem> items;
     const Menu* pMenu = s_menus.all.Find(hMenu);
-    for (const Item& item : pMenu ? pMenu->items : std::vector<Item>()) {
+    for (const Item& item : pMenu ? *pMenu : Menu()) {
         items.push_back(item.look);
         items.back().items = Snapshot(item.hSub);
     }
@@ -83,10 +80,9 @@ CMenu::~CMenu()
 
 BOOL CMenu::CreatePopupMenu()
 {
-    if (!m_hMenu)
-        m_hMenu = s_menus.all.Add(std::make_unique<Menu>());
-    else
+    if (m_hMenu)
         return FALSE;
+    m_hMenu = s_menus.all.Add(std::make_unique<Menu>());
     return m_hMenu != nullptr;
 }
 
@@ -104,16 +100,16 @@ BOOL CMenu::AppendMenu(UINT nFlags, UINT_PTR nIDNewItem, LPCSTR pszNewItem)
     Item item = MakeItem(nFlags, nIDNewItem, pszNewItem);
     if (!pMenu || (item.look.popup && !s_menus.all.Find(item.hSub)) || (item.hSub && item.hSub == m_hMenu))
         return FALSE;
-    pMenu->items.push_back(std::move(item));
+    pMenu->push_back(std::move(item));
     return TRUE;
 }
 
 BOOL CMenu::SetLastHint(LPCSTR pszHint)
 {
     Menu* pMenu = s_menus.all.Find(m_hMenu);
-    if (!pMenu || pMenu->items.empty())
+    if (!pMenu || pMenu->empty())
         return FALSE;
-    pMenu->items.back().look.hint = pszHint ? pszHint : "";
+    pMenu->back().look.hint = pszHint ? pszHint : "";
     return TRUE;
 }
 

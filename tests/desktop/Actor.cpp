@@ -1,7 +1,7 @@
 #include "tests/desktop/Actor.h"
 
 #include "Toolkit/desktop/Desktop.h"
-#include "Toolkit/exchange/OleException.h"
+#include "Toolkit/exchange/DataSource.h"
 #include "Toolkit/focus/InputState.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Toolkit/message/TaskInbox.h"

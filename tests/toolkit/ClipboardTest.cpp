@@ -1,7 +1,6 @@
 #include "Toolkit/desktop/WaitCursor.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Toolkit/exchange/DataSource.h"
-#include "Toolkit/exchange/OleException.h"
 #include "tests/support/AllocationFailures.h"
 #include "tests/support/DesktopTest.h"
 

@@ -6,7 +6,6 @@
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Toolkit/exchange/DataSource.h"
-#include "Toolkit/exchange/OleException.h"
 #include "Toolkit/menu/MessageBox.h"
 #include "Views/clipboard/TransferFileOwner.h"
 #include "tests/support/AllocationFailures.h"

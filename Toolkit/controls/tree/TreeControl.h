@@ -24,7 +24,7 @@ public:
     UINT AccState(LPARAM item) override;
     std::string AccName(LPARAM item) override;
     CRect AccPlace(LPARAM item) override; // its label, which is what a press selects it by
-    bool AccHas(LPARAM item) override;
+    bool AccHas(LPARAM item) override { return HasItem(item) && m_items.IsShown(m_items.Find(ToHandle(item))); }
     int AccCount(LPARAM parent) override;
     LPARAM AccChild(LPARAM parent, int place) override;
     LPARAM AccParent(LPARAM item) override { return ToItem(m_items.Parent(m_items.Find(ToHandle(item)))); }

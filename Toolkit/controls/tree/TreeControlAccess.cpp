@@ -34,11 +34,6 @@ std::string TreeControl::AccName(LPARAM item)
     return item == CHILDID_SELF ? std::string() : m_owner.AskText(ToHandle(item));
 }
 
-bool TreeControl::AccHas(LPARAM item)
-{
-    return HasItem(item) && m_items.IsShown(m_items.Find(ToHandle(item)));
-}
-
 int TreeControl::AccCount(LPARAM parent)
 {
     m_order.Settle();

@@ -37,11 +37,6 @@ void TreeLayout::SetWidth(int width)
     ScrollToX(m_nX);
 }
 
-int TreeLayout::FullRows(int height) const
-{
-    return std::max(height / m_nRowHeight, 1);
-}
-
 CRect TreeLayout::RowRect(int row) const
 {
     return CRect(CPoint(0, (row - m_nTop) * m_nRowHeight), CSize(m_client.cx, m_nRowHeight));
@@ -92,16 +87,6 @@ RowSpan TreeLayout::RowsTouching(const CRect& client) const
     const int first = m_nTop + seen.top / m_nRowHeight;
     const int end = m_nTop + (seen.bottom - 1) / m_nRowHeight + 1;
     return {std::min(first, m_nRows), std::min(end, m_nRows)};
-}
-
-int TreeLayout::TopRowToShow(int row) const
-{
-    return std::clamp(m_nTop, row - FullRows() + 1, row);
-}
-
-int TreeLayout::XToShow(int left, int right) const
-{
-    return std::min<int>(std::max<int>(m_nX, right - m_client.cx), left);
 }
 
 int TreeLayout::SlotLeft(int level) const

@@ -39,7 +39,7 @@ public:
     int X() const { return m_nX; } // the content's x at the client area's left edge
     int MaxX() const { return std::max<int>(m_nWidth - m_client.cx, 0); }
     int FullRows() const { return FullRows(m_client.cy); } // at least 1
-    int FullRows(int height) const;
+    int FullRows(int height) const { return std::max(height / m_nRowHeight, 1); }
 
     // A row counted from the first one; the level counts from 0.
     CRect RowRect(int row) const;               // as wide as the client area
@@ -55,8 +55,8 @@ public:
 
     // What to scroll to so that a row, or what lies between two of the content's x, comes into sight by the
     // shortest way. The left end goes before the right one.
-    int TopRowToShow(int row) const;
-    int XToShow(int left, int right) const;
+    int TopRowToShow(int row) const { return std::clamp(m_nTop, row - FullRows() + 1, row); }
+    int XToShow(int left, int right) const { return std::min<int>(std::max<int>(m_nX, right - m_client.cx), left); }
 
 private:
     int SlotLeft(int level) const; // in the content

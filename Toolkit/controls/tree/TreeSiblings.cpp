@@ -130,11 +130,6 @@ TreeSiblings::RowPlace TreeSiblings::AtRow(ItemIndex parent, int row) const
     }
 }
 
-void TreeSiblings::Insert(ItemIndex parent, int place, ItemIndex item)
-{
-    Put(MakeRoom(parent, place), item);
-}
-
 void TreeSiblings::MoveUp(ItemIndex item, int place)
 {
     const ItemIndex parent = ParentOf(item);

@@ -42,7 +42,7 @@ public:
     RowPlace AtRow(ItemIndex parent, int row) const; // counted from the first child's first row, and in range
 
     // Both leave all as it was when they throw.
-    void Insert(ItemIndex parent, int place, ItemIndex item);
+    void Insert(ItemIndex parent, int place, ItemIndex item) { Put(MakeRoom(parent, place), item); }
     void MoveUp(ItemIndex item, int place); // to a place before its own
     void Remove(ItemIndex item);
     void AddRows(ItemIndex item, int rows); // to the item's own
