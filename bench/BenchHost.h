@@ -13,23 +13,6 @@
 namespace bench
 {
 
-// A container that takes nothing, gives nothing away and looks nothing up.
-class FixedContainer : public IAtomContainer
-{
-public:
-    BOOL IsModified() override { return FALSE; }
-    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
-    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
-    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
-    BOOL RemoveAtom(IAtom*) override { return FALSE; }
-    DWORD GetPermissions(IAtom*) override { return 0; }
-    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
-
-protected:
-    ~FixedContainer() = default;
-};
-
 class Container;
 
 // What an object looks like: its icon in lists and trees, and a picture composed of its icon and its name.
@@ -71,9 +54,10 @@ private:
     int m_nReferences = 0;
 };
 
-// A container with members of a kind: at its own top, or in another one.
+// A container with members of a kind: at its own top, or in another one. It takes nothing, gives nothing away and looks
+// nothing up.
 template <class Kind>
-class Group : public FixedContainer, public ICharacterLibrary, public Look
+class Group : public IAtomContainer, public ICharacterLibrary, public Look
 {
 public:
     void AddRef() override { ++m_nReferences; }
@@ -84,6 +68,15 @@ public:
     BOOL GetContainer(void** ppOut, DWORD dwInterfaceId) override;
     UINT GetCount() override { return static_cast<UINT>(m_members.size()); }
     void GetAtoms(UINT nFirst, UINT nCount, void** ppOut, DWORD dwInterfaceId) override;
+
+    BOOL IsModified() override { return FALSE; }
+    BOOL FindAtomByID(DWORD, void**, DWORD) override { return FALSE; }
+    BOOL FindAtom(const char*, void**, DWORD) override { return FALSE; }
+    BOOL AddAtom(IAtom*, DWORD, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RenameAtom(IAtom*, const char*, void**, DWORD) override { return FALSE; }
+    BOOL RemoveAtom(IAtom*) override { return FALSE; }
+    DWORD GetPermissions(IAtom*) override { return 0; }
+    BOOL ValidateName(CString&, DWORD) override { return FALSE; }
 
     Kind& Member(unsigned n) { return *m_members[n]; }
 

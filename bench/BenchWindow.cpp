@@ -63,18 +63,11 @@ struct Process
     CResourceModule resources;
 };
 
-std::unique_ptr<Process> s_pProcess;
-
 } // namespace
 
-DesktopScope::DesktopScope()
+std::shared_ptr<void> MakeDesktop()
 {
-    s_pProcess = std::make_unique<Process>();
-}
-
-DesktopScope::~DesktopScope()
-{
-    s_pProcess.reset();
+    return std::make_shared<Process>();
 }
 
 ViewWindow::ViewWindow()
@@ -104,6 +97,22 @@ void ViewWindow::Settle()
 {
     Paint();
     TheDesktop::Present();
+}
+
+void SetAllSelected(CObjectsList& list, bool bSelected)
+{
+    LVITEM select{};
+    select.stateMask = LVIS_SELECTED;
+    select.state = bSelected ? LVIS_SELECTED : 0;
+    list.SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&select));
+}
+
+void ExpandContainers(CObjectsTree& tree)
+{
+    tree.Expand(tree.GetRootItem(), TVE_EXPAND);
+    HTREEITEM hItem = tree.GetChildItem(tree.GetRootItem());
+    for (unsigned i = 0; i < kExpanded; ++i, hItem = tree.GetNextSiblingItem(hItem))
+        tree.Expand(hItem, TVE_EXPAND);
 }
 
 } // namespace bench

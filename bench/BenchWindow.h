@@ -11,16 +11,9 @@
 namespace bench
 {
 
-// The desktop and the host's resources, for as long as the object lives. main() has the one there is: what Qt itself
+// The desktop and the host's resources, for as long as the pointer lives. main() has the one there is: what Qt itself
 // needs is gone by the time that a static object ends.
-class DesktopScope
-{
-public:
-    DesktopScope();
-    ~DesktopScope();
-    DesktopScope(const DesktopScope&) = delete;
-    DesktopScope& operator=(const DesktopScope&) = delete;
-};
+std::shared_ptr<void> MakeDesktop();
 
 class ViewWindow
 {
@@ -42,27 +35,17 @@ class WindowWith : public ViewWindow
 public:
     WindowWith()
     {
-        m_view.Create(&m_frame);
-        Show(m_view);
+        view.Create(&m_frame);
+        Show(view);
     }
 
-protected:
-    View m_view;
+    View view;
 };
+using ListWindow = WindowWith<CIconList>;
+using ThumbWindow = WindowWith<CThumbList>;
+using TreeWindow = WindowWith<CObjectsTree>;
 
-template <class View>
-class ListWindowWith : public WindowWith<View>
-{
-public:
-    View& List() { return this->m_view; }
-};
-using ListWindow = ListWindowWith<CIconList>;
-using ThumbWindow = ListWindowWith<CThumbList>;
-
-class TreeWindow : public WindowWith<CObjectsTree>
-{
-public:
-    CObjectsTree& Tree() { return m_view; }
-};
+void SetAllSelected(CObjectsList& list, bool bSelected);
+void ExpandContainers(CObjectsTree& tree); // the root, and the first kExpanded below it
 
 } // namespace bench

@@ -1,13 +1,11 @@
 // What it costs to copy pictures and to paste them into another folder of the same disk, beside `cp -r` of the same
 // files: 1,000 of together 100 MB, and one of 1 GB. Both in the disk's cache, neither waiting for the disk itself.
-#include "Editor/model/Library.h"
-#include "Editor/services/AtomEditor.h"
-#include "HostKit/Services.h"
 #include "Toolkit/base/GlobalMemory.h"
 #include "Toolkit/exchange/DataObject.h"
 #include "Toolkit/exchange/DataSource.h"
 #include "Views/clipboard/clipboard.h"
 #include "Views/host/StateHandler.h"
+#include "bench/EditorServices.h"
 #include "tests/support/TempFolder.h"
 
 #include <algorithm>
@@ -29,13 +27,6 @@ struct Load
 };
 constexpr Load kMany{1000, 100'000};
 constexpr Load kLarge{1, 1'000'000'000};
-
-class NoPictures : public editor::PictureReader
-{
-public:
-    std::vector<std::string> Extensions() const override { return {"png"}; }
-    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "not read here"}; }
-};
 
 // A library with the pictures in "From"; transfer files come beside it. Goes at the end of a race.
 class CopyFolder : public TempFolder
@@ -139,9 +130,8 @@ private:
     }
 
     CopyFolder m_folder;
-    const NoPictures m_reader;
-    editor::CAtomEditor m_atomEditor;
-    const hostkit::Services m_services{m_atomEditor};
+    bench::EditorServices m_services;
+    editor::CAtomEditor& m_atomEditor = m_services.atomEditor;
     bool m_bFailed = false;
 };
 
@@ -149,11 +139,7 @@ double CopyRace::Views()
 {
     COleDataSource::FlushClipboard(); // what becomes of the former copy is not this one's cost
     const std::string target = m_folder.NewTarget();
-    const auto pPictures =
-        std::make_shared<editor::PictureStore>(m_reader, editor::PictureStore::Limits(), [](IAtom*) {});
-    std::string error;
-    const auto pLibrary =
-        editor::CLibrary::Open(m_folder.At("library"), m_reader.Extensions(), pPictures, m_atomEditor.GetWork(), error);
+    const auto pLibrary = m_services.OpenLibrary(m_folder.At("library"));
     const auto pFrom = Member(*pLibrary.Get(), "From"), pTo = Member(*pLibrary.Get(), target.c_str());
     Selection selection(pFrom.Get());
     const DWORD cookie = m_atomEditor.RegisterHandler(nullptr, &selection);

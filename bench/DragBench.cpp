@@ -1,14 +1,12 @@
 // What one movement of a drag costs over a list that would take it: a file of 100 MB in its transfer file, or a small
 // one.
 #include "Editor/archive/ArchiveWriter.h"
-#include "Editor/model/Library.h"
-#include "Editor/services/AtomEditor.h"
-#include "HostKit/Services.h"
 #include "Toolkit/desktop/OfferedData.h"
 #include "Toolkit/exchange/ClipboardFormat.h"
 #include "Toolkit/exchange/DragTracker.h"
 #include "Views/clipboard/clipboard.h"
 #include "bench/BenchWindow.h"
+#include "bench/EditorServices.h"
 #include "tests/support/TempFolder.h"
 
 #include <benchmark/benchmark.h>
@@ -20,13 +18,6 @@ namespace
 {
 
 namespace fs = std::filesystem;
-
-class NoPictures : public editor::PictureReader
-{
-public:
-    std::vector<std::string> Extensions() const override { return {"png"}; }
-    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "not read here"}; }
-};
 
 // A file of that size, and an empty library beside it.
 struct DragFolder : TempFolder
@@ -63,18 +54,13 @@ void DragOverList(benchmark::State& state)
 {
     const DragFolder folder(state.range(0));
     setenv("TEMP", folder.At("").c_str(), 1);
-    const NoPictures reader;
-    const auto pPictures =
-        std::make_shared<editor::PictureStore>(reader, editor::PictureStore::Limits(), [](IAtom*) {});
-    editor::CAtomEditor atomEditor;
-    const hostkit::Services services(atomEditor);
-    std::string error;
-    const auto pLibrary =
-        editor::CLibrary::Open(folder.At("library"), reader.Extensions(), pPictures, atomEditor.GetWork(), error);
+    bench::EditorServices services;
+    editor::CAtomEditor& atomEditor = services.atomEditor;
+    const auto pLibrary = services.OpenLibrary(folder.At("library"));
     {
         bench::ListWindow window;
-        window.List().OnAtomEntered(pLibrary.Get(), nullptr);
-        const HWND hTop = ::GetParent(window.List().m_hWnd);
+        window.view.OnAtomEntered(pLibrary.Get(), nullptr);
+        const HWND hTop = ::GetParent(window.view.m_hWnd);
         toolkit::DragTracker drag(std::make_shared<DraggedFile>(folder.At("walk.png"), atomEditor.GetClipboardFormat()),
                                   DROPEFFECT_COPY | DROPEFFECT_MOVE);
         drag.MoveTo(hTop, {500, 400}, MK_LBUTTON);

@@ -3,6 +3,7 @@
 #include "Editor/commands/CommandTable.h"
 #include "Editor/frame/MainFrame.h"
 #include "Toolkit/run/Run.h"
+#include "bench/EditorServices.h"
 #include "tests/support/TempFolder.h"
 
 #include <benchmark/benchmark.h>
@@ -17,14 +18,7 @@ namespace fs = std::filesystem;
 
 constexpr int kPictures = 100'000;
 
-// Empty files are pictures that cannot be decoded; what decoding costs is not what is measured here.
-class NoPictures : public editor::PictureReader
-{
-public:
-    std::vector<std::string> Extensions() const override { return {"png"}; }
-    editor::DecodedPicture Read(const std::string&, CSize, int) const override { return {{}, {}, "an empty file"}; }
-};
-
+// Of empty files.
 struct PictureFolder : TempFolder
 {
     PictureFolder() : TempFolder(std::filesystem::temp_directory_path())
@@ -58,7 +52,7 @@ void ReadTheDirectory(benchmark::State& state)
 void OpenTheFolder(benchmark::State& state)
 {
     const std::string path = Folder().Path();
-    const NoPictures reader;
+    const bench::NoPictures reader;
     for (auto _ : state) {
         auto pApp = std::make_unique<editor::EditorApp>(
             reader, editor::EditorApp::Options{.size = {1024, 768}, .onClosed = {}});
@@ -76,7 +70,7 @@ void OpenTheFolder(benchmark::State& state)
 // F5, when nothing has changed.
 void RefreshTheFolder(benchmark::State& state)
 {
-    const NoPictures reader;
+    const bench::NoPictures reader;
     editor::EditorApp app(reader, {.size = {1024, 768}, .onClosed = {}});
     if (const std::string error = app.OpenFolder(Folder().Path()); !error.empty())
         state.SkipWithError(error.c_str());

@@ -9,7 +9,7 @@
 #include "Editor/app/QtPictureReader.h"
 #include "Editor/frame/MainFrame.h"
 #include "QtDesktop/QtDesktop.h"
-#include "bench/Memory.h"
+#include "bench/Stopwatch.h"
 #include "tests/support/TempFolder.h"
 
 #include <QApplication>

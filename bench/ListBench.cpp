@@ -2,7 +2,7 @@
 #include "Toolkit/message/Input.h"
 #include "bench/BenchHost.h"
 #include "bench/BenchWindow.h"
-#include "bench/Memory.h"
+#include "bench/Stopwatch.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,7 +16,7 @@ struct ShownList
 {
     explicit ShownList(benchmark::State& state) : container(static_cast<unsigned>(state.range(0)))
     {
-        window.List().SetRootAtom(&container);
+        window.view.SetRootAtom(&container);
         window.Settle();
     }
 
@@ -29,7 +29,7 @@ struct ShownList
     int Middle() const { return static_cast<int>(container.MemberCount() / 2); }
     void ScrollTo(int nRow)
     {
-        window.List().SendMessage(LVM_ENSUREVISIBLE, static_cast<WPARAM>(nRow), FALSE);
+        window.view.SendMessage(LVM_ENSUREVISIBLE, static_cast<WPARAM>(nRow), FALSE);
         window.Settle();
     }
 
@@ -44,60 +44,52 @@ void OpenContainer(benchmark::State& state, UINT nOrder)
     const EditorService service;
     Container container(static_cast<unsigned>(state.range(0)));
     ListWindow window;
-    window.List().SetMemberOrder(nOrder);
+    window.view.SetMemberOrder(nOrder);
     for (auto _ : state) {
-        window.List().OnAtomEntered(&container, nullptr);
+        window.view.OnAtomEntered(&container, nullptr);
         window.Settle();
 
         state.PauseTiming();
-        window.List().OnAtomEntered(nullptr, nullptr);
+        window.view.OnAtomEntered(nullptr, nullptr);
         window.Settle();
         state.ResumeTiming();
     }
     state.counters["rows"] = static_cast<double>(container.GetCount());
 }
 
-// One notch of the wheel, somewhere in the middle: the rows that came into sight are hinted, read and painted.
-void ScrollANotch(benchmark::State& state)
+// Somewhere in the middle, and the other way after so many times.
+void Scroll(benchmark::State& state, int nPixels, int nTimes)
 {
     ShownList shown(state);
     shown.ScrollTo(shown.Middle());
-    int nPixels = 96;
-    int nNotches = 0;
+    int nDone = 0;
     for (auto _ : state) {
-        shown.window.List().SendMessage(LVM_SCROLL, 0, nPixels);
+        shown.window.view.SendMessage(LVM_SCROLL, 0, nPixels);
         shown.window.Settle();
-        if (++nNotches % 100 == 0)
+        if (++nDone % nTimes == 0)
             nPixels = -nPixels;
     }
+}
+
+// One notch of the wheel: the rows that came into sight are hinted, read and painted.
+void ScrollANotch(benchmark::State& state)
+{
+    Scroll(state, 96, 100);
 }
 
 // A jump by a page and more: everything in sight is new.
 void JumpAndPaintAFrame(benchmark::State& state)
 {
-    ShownList shown(state);
-    shown.ScrollTo(shown.Middle());
-    int nPixels = 96 * 10;
-    int nJumps = 0;
-    for (auto _ : state) {
-        shown.window.List().SendMessage(LVM_SCROLL, 0, nPixels);
-        shown.window.Settle();
-        if (++nJumps % 50 == 0)
-            nPixels = -nPixels;
-    }
+    Scroll(state, 96 * 10, 50);
 }
 
 void SelectAllAndClear(benchmark::State& state)
 {
     ShownList shown(state);
     shown.ScrollTo(shown.Middle());
-    LVITEM select{};
-    select.stateMask = LVIS_SELECTED;
     for (auto _ : state) {
-        for (const UINT nState : {LVIS_SELECTED, 0u}) {
-            select.state = nState;
-            shown.window.List().SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(-1),
-                                            reinterpret_cast<LPARAM>(&select));
+        for (const bool bSelected : {true, false}) {
+            SetAllSelected(shown.window.view, bSelected);
             shown.window.Settle();
         }
     }
@@ -107,7 +99,7 @@ void SelectAllAndClear(benchmark::State& state)
 void ExtendToTheEndAndBack(benchmark::State& state)
 {
     ShownList shown(state);
-    CIconList& list = shown.window.List();
+    CIconList& list = shown.window.view;
     list.SetFocus();
     shown.ScrollTo(0);
     shown.Press(VK_HOME, false);
@@ -125,7 +117,7 @@ void MoveASelectionToTheEnd(benchmark::State& state)
 {
     constexpr int kMoved = 10'000;
     ShownList shown(state);
-    CIconList& list = shown.window.List();
+    CIconList& list = shown.window.view;
     list.SetFocus();
     const int nAnchor = list.GetItemCount() - kMoved;
     for (auto _ : state) {
@@ -151,7 +143,7 @@ void PasteAndSelect(benchmark::State& state)
         state.PauseTiming();
         auto pShown = std::make_unique<ShownList>(state);
         Container& container = pShown->container;
-        pShown->window.List().SetFocus();
+        pShown->window.view.SetFocus();
         pShown->window.Settle();
         state.ResumeTiming();
 
@@ -163,7 +155,7 @@ void PasteAndSelect(benchmark::State& state)
         pShown->window.Settle();
 
         state.PauseTiming();
-        if (pShown->window.List().GetSelectedCount() != static_cast<int>(nPasted))
+        if (pShown->window.view.GetSelectedCount() != static_cast<int>(nPasted))
             state.SkipWithError("not selected");
         pShown.reset();
         state.ResumeTiming();
@@ -174,7 +166,7 @@ void PasteAndSelect(benchmark::State& state)
 void ExtendByAPageAndBack(benchmark::State& state)
 {
     ShownList shown(state);
-    CIconList& list = shown.window.List();
+    CIconList& list = shown.window.view;
     list.SetFocus();
     shown.Press(VK_HOME, false);
     shown.Press(VK_DOWN, false);
@@ -196,10 +188,10 @@ void ChangeAnAtomInSight(benchmark::State& state)
 {
     ShownList shown(state);
     Atom& atom = shown.container.Member(shown.container.GetCount() - 1);
-    shown.window.List().OnAtomSelected(&atom, &shown.container);
+    shown.window.view.OnAtomSelected(&atom, &shown.container);
     shown.window.Settle();
     for (auto _ : state) {
-        shown.window.List().OnChangeAtom(&atom, &shown.container);
+        shown.window.view.OnChangeAtom(&atom, &shown.container);
         shown.window.Settle();
     }
 }
@@ -211,7 +203,7 @@ void ChangeAnAtomOutOfSight(benchmark::State& state)
     unsigned number = 0;
     for (auto _ : state) {
         number = (number + 7919) % shown.container.GetCount();
-        shown.window.List().OnChangeAtom(&shown.container.Member(number), &shown.container);
+        shown.window.view.OnChangeAtom(&shown.container.Member(number), &shown.container);
     }
 }
 
@@ -220,7 +212,7 @@ void AppendAnAtom(benchmark::State& state)
 {
     ShownList shown(state);
     for (auto _ : state) {
-        shown.window.List().OnCreateAtom(&shown.container.Append(), &shown.container);
+        shown.window.view.OnCreateAtom(&shown.container.Append(), &shown.container);
     }
 }
 
@@ -233,10 +225,10 @@ void MemoryPerRow(benchmark::State& state)
     for (auto _ : state) {
         ListWindow window; // has nothing left of former ones
         const std::size_t before = AllocatedBytes();
-        window.List().OnAtomEntered(&container, nullptr);
+        window.view.OnAtomEntered(&container, nullptr);
         window.Settle();
         nBytes = static_cast<double>(AllocatedBytes()) - static_cast<double>(before);
-        window.List().OnAtomEntered(nullptr, nullptr);
+        window.view.OnAtomEntered(nullptr, nullptr);
     }
     state.counters["bytes/row"] = nBytes / static_cast<double>(container.GetCount());
 }

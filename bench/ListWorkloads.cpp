@@ -7,14 +7,6 @@ namespace
 
 using namespace bench;
 
-// The samples that a tree of so many atoms would need, so that lists and trees show the same.
-std::vector<Sample> SamplesOf(const Stopwatch& watch)
-{
-    auto samples = MakeSamples(watch.Count() + kContainers + 1);
-    samples.resize(watch.Count());
-    return samples;
-}
-
 template <class View>
 void SetCell(View& view, int width, int height)
 {
@@ -25,8 +17,8 @@ struct EmptyList
 {
     EmptyList()
     {
-        SetCell(window.List(), kCellWidth, kCellHeight);
-        window.List().SetFocus();
+        SetCell(window.view, kCellWidth, kCellHeight);
+        window.view.SetFocus();
         window.Paint();
     }
     void Enter(Container& container)
@@ -41,17 +33,8 @@ struct EmptyList
 
 struct ShownList : EmptyList
 {
-    explicit ShownList(const Stopwatch& watch) : container(SamplesOf(watch)) { Enter(container); }
+    explicit ShownList(const Stopwatch& watch) : container(MakeMembers(watch.Count())) { Enter(container); }
     ~ShownList() { Announce(&IAEStateHandler::OnAtomEntered, nullptr, nullptr); } // the rows go before the container
-
-    void SelectAll(UINT nState)
-    {
-        LVITEM select{};
-        select.stateMask = LVIS_SELECTED;
-        select.state = nState;
-        window.List().SendMessage(LVM_SETITEMSTATE, static_cast<WPARAM>(-1), reinterpret_cast<LPARAM>(&select));
-        window.Paint();
-    }
 
     Container container;
 };
@@ -67,7 +50,7 @@ int ScrollRange(CWnd& view)
 
 void bench::OpenList(Stopwatch& watch)
 {
-    Container container(SamplesOf(watch));
+    Container container(MakeMembers(watch.Count()));
     while (watch.Next()) {
         EmptyList list;
         watch.Start();
@@ -80,7 +63,7 @@ void bench::ScrollList(Stopwatch& watch)
 {
     constexpr int kFrames = 200;
     ShownList shown(watch);
-    CIconList& list = shown.window.List();
+    CIconList& list = shown.window.view;
     const std::int64_t nRange = ScrollRange(list);
     while (watch.Next()) {
         list.SendMessage(LVM_SCROLL, 0, -nRange);
@@ -102,9 +85,11 @@ void bench::SelectAllOfList(Stopwatch& watch)
     ShownList shown(watch);
     while (watch.Next()) {
         watch.Start();
-        shown.SelectAll(LVIS_SELECTED);
+        SetAllSelected(shown.window.view, true);
+        shown.window.Paint();
         watch.Lap("1 select");
-        shown.SelectAll(0);
+        SetAllSelected(shown.window.view, false);
+        shown.window.Paint();
         watch.Lap("2 deselect");
         watch.Stop();
     }
@@ -130,18 +115,18 @@ void bench::AppendToList(Stopwatch& watch)
 
 void bench::ShowThumbs(Stopwatch& watch)
 {
-    Container container(SamplesOf(watch));
+    Container container(MakeMembers(watch.Count()));
     while (watch.Next()) {
         const EditorService service;
         ThumbWindow window;
-        SetCell(window.List(), kThumbCell, kThumbCell);
+        SetCell(window.view, kThumbCell, kThumbCell);
         window.Paint();
 
         watch.Start();
         Announce(&IAEStateHandler::OnAtomEntered, &container, nullptr);
         window.Paint();
-        for (int nLeft = ScrollRange(window.List()); nLeft > 0; nLeft -= 5 * kThumbCell) {
-            window.List().SendMessage(LVM_SCROLL, 0, 5 * kThumbCell);
+        for (int nLeft = ScrollRange(window.view); nLeft > 0; nLeft -= 5 * kThumbCell) {
+            window.view.SendMessage(LVM_SCROLL, 0, 5 * kThumbCell);
             window.Paint();
         }
         watch.Stop(watch.Count());

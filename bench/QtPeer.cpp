@@ -121,34 +121,40 @@ public:
     }
 };
 
-std::unique_ptr<ListView> EmptyList()
+struct IconList : ListView
 {
-    return std::make_unique<ListView>(QSize(kCellWidth, kCellHeight), 48);
-}
+    IconList() : ListView(QSize(kCellWidth, kCellHeight), 48) {}
+};
 
-std::vector<Sample> SamplesOf(const Stopwatch& watch)
+Objects Sorted(const std::vector<Sample>& samples)
 {
-    auto samples = MakeSamples(watch.Count() + kContainers + 1);
-    samples.resize(watch.Count());
-    return samples;
-}
-
-Objects Sorted(Objects objects)
-{
+    Objects objects = PointersTo(samples);
     SortByName(objects);
     return objects;
 }
 
+struct ShownList
+{
+    explicit ShownList(const std::vector<Sample>& samples) : model(Sorted(samples))
+    {
+        view.setModel(&model);
+        PaintFrame(view);
+    }
+
+    IconList view;
+    ListModel model;
+};
+
 void OpenList(Stopwatch& watch)
 {
-    const auto samples = SamplesOf(watch);
+    const auto samples = MakeMembers(watch.Count());
     while (watch.Next()) {
-        const auto view = EmptyList();
+        IconList view;
         watch.Start();
-        ListModel model(Sorted(PointersTo(samples)));
+        ListModel model(Sorted(samples));
         watch.Lap("1 sort");
-        view->setModel(&model);
-        PaintFrame(*view);
+        view.setModel(&model);
+        PaintFrame(view);
         watch.Lap("2 view");
         watch.Stop();
     }
@@ -157,17 +163,14 @@ void OpenList(Stopwatch& watch)
 void ScrollList(Stopwatch& watch)
 {
     constexpr int kFrames = 200;
-    const auto samples = SamplesOf(watch);
-    const auto view = EmptyList();
-    ListModel model(Sorted(PointersTo(samples)));
-    view->setModel(&model);
-    PaintFrame(*view);
-    QScrollBar& bar = *view->verticalScrollBar();
+    const auto samples = MakeMembers(watch.Count());
+    ShownList shown(samples);
+    QScrollBar& bar = *shown.view.verticalScrollBar();
     while (watch.Next()) {
         watch.Start();
         for (int i = 0; i < kFrames; ++i) {
             bar.setValue(static_cast<int>(std::int64_t{bar.maximum()} * i / (kFrames - 1)));
-            PaintFrame(*view);
+            PaintFrame(shown.view);
         }
         watch.Stop(kFrames);
     }
@@ -175,18 +178,15 @@ void ScrollList(Stopwatch& watch)
 
 void SelectAll(Stopwatch& watch)
 {
-    const auto samples = SamplesOf(watch);
-    const auto view = EmptyList();
-    ListModel model(Sorted(PointersTo(samples)));
-    view->setModel(&model);
-    PaintFrame(*view);
+    const auto samples = MakeMembers(watch.Count());
+    ShownList shown(samples);
     while (watch.Next()) {
         watch.Start();
-        view->selectAll();
-        PaintFrame(*view);
+        shown.view.selectAll();
+        PaintFrame(shown.view);
         watch.Lap("1 select");
-        view->clearSelection();
-        PaintFrame(*view);
+        shown.view.clearSelection();
+        PaintFrame(shown.view);
         watch.Lap("2 deselect");
         watch.Stop();
     }
@@ -194,21 +194,20 @@ void SelectAll(Stopwatch& watch)
 
 void Append(Stopwatch& watch)
 {
-    const auto samples = SamplesOf(watch), more = MakeSamples(1000);
+    const auto samples = MakeMembers(watch.Count()), more = MakeSamples(1000);
     while (watch.Next()) {
-        const auto view = EmptyList();
-        ListModel model(Sorted(PointersTo(samples)));
-        view->setModel(&model);
-        PaintFrame(*view);
+        ShownList shown(samples);
+        ListModel& model = shown.model;
         watch.Start();
-        view->setUpdatesEnabled(false);
+        shown.view.setUpdatesEnabled(false);
         for (const Sample& sample : more) {
             model.Append(sample);
-            view->selectionModel()->select(model.index(model.rowCount({}) - 1), QItemSelectionModel::ClearAndSelect);
+            shown.view.selectionModel()->select(model.index(model.rowCount({}) - 1),
+                                                QItemSelectionModel::ClearAndSelect);
         }
         watch.Lap("appends");
-        view->setUpdatesEnabled(true);
-        PaintFrame(*view);
+        shown.view.setUpdatesEnabled(true);
+        PaintFrame(shown.view);
         watch.Lap("final frame");
         watch.Stop(static_cast<double>(more.size()));
     }
@@ -216,11 +215,11 @@ void Append(Stopwatch& watch)
 
 void ShowThumbs(Stopwatch& watch)
 {
-    const auto samples = SamplesOf(watch);
+    const auto samples = MakeMembers(watch.Count());
     while (watch.Next()) {
         ListView view(QSize(kThumbCell, kThumbCell), kThumbExtent);
         watch.Start();
-        ThumbModel model(Sorted(PointersTo(samples)));
+        ThumbModel model(Sorted(samples));
         view.setModel(&model);
         PaintFrame(view);
         QScrollBar& bar = *view.verticalScrollBar();
@@ -231,13 +230,6 @@ void ShowThumbs(Stopwatch& watch)
         watch.Stop(watch.Count());
     }
 }
-
-struct Workload
-{
-    const char* name;
-    void (*run)(Stopwatch& watch);
-    const char* notes;
-};
 
 constexpr Workload kWorkloads[] = {
     {"list_open", &OpenList, "QListView, sorted by keys"},
@@ -330,14 +322,5 @@ int main(int argc, char** argv)
     QApplication::setFont(QFont(kFontName, kFontPoints));
     const std::string name = argc == 3 ? argv[1] : "";
     const unsigned count = argc == 3 ? static_cast<unsigned>(std::strtoul(argv[2], nullptr, 10)) : 0;
-    const auto workload = std::ranges::find(kWorkloads, name, &Workload::name);
-    if (workload == std::end(kWorkloads) || count == 0)
-        return std::fprintf(stderr, "usage: qt_peer WORKLOAD N\n"), 2;
-
-    Stopwatch warmUp("", name, std::min(count, 1000u), 1);
-    workload->run(warmUp);
-    Stopwatch watch("qt", name, count);
-    workload->run(watch);
-    watch.Print(workload->notes);
-    return 0;
+    return RunWorkload(kWorkloads, "qt", name, count);
 }

@@ -32,8 +32,7 @@ void BlendInto(std::vector<std::uint32_t>& frame, int left, int top, int width, 
 
 void bench::SortKeysAlone(Stopwatch& watch)
 {
-    auto samples = MakeSamples(watch.Count() + kContainers + 1);
-    samples.resize(watch.Count());
+    const auto samples = MakeMembers(watch.Count());
     while (watch.Next()) {
         Objects objects = PointersTo(samples);
         watch.Start();

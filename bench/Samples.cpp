@@ -31,6 +31,13 @@ std::vector<bench::Sample> bench::MakeSamples(unsigned count)
     return samples;
 }
 
+std::vector<bench::Sample> bench::MakeMembers(unsigned count)
+{
+    auto samples = MakeSamples(count + kContainers + 1);
+    samples.resize(count);
+    return samples;
+}
+
 // A disc with a soft edge, so that alpha matters, crossed by two bars that tell the icons apart.
 std::vector<std::uint32_t> bench::MakeIcon(int icon, int extent)
 {

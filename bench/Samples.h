@@ -28,6 +28,8 @@ struct Sample
 
 Sample MakeSample(unsigned number, unsigned capitals = 0); // capitals: a bit for each letter whose case is turned
 std::vector<Sample> MakeSamples(unsigned count);           // the numbers below count, the same order every time
+// Of so many members, in lists as they are in a tree.
+std::vector<Sample> MakeMembers(unsigned count);
 std::vector<std::uint32_t> MakeIcon(int icon, int extent); // premultiplied, 0xAARRGGBB, row by row from the top
 
 } // namespace bench

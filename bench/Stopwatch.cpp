@@ -1,9 +1,10 @@
 #include "bench/Stopwatch.h"
 
-#include "bench/Memory.h"
-
 #include <algorithm>
 #include <cstdio>
+#include <fstream>
+#include <malloc.h>
+#include <unistd.h>
 
 namespace
 {
@@ -66,4 +67,32 @@ void bench::Stopwatch::Print(const std::string& notes) const
                 m_peer.c_str(), m_workload.c_str(), m_count, Median(m_times), m_residentGrown, notes.c_str(),
                 laps.c_str(), m_times.size(), *std::min_element(m_times.begin(), m_times.end()));
     std::fflush(stdout);
+}
+
+int bench::RunWorkload(std::span<const Workload> workloads, const char* peer, std::string_view name, unsigned count)
+{
+    const auto workload = std::ranges::find(workloads, name, &Workload::name);
+    if (workload == workloads.end() || count == 0)
+        return std::fprintf(stderr, "no such workload\n"), 2;
+
+    Stopwatch warmUp("", std::string(name), std::min(count, 1000u), 1); // fonts, glyphs, the first allocations
+    workload->run(warmUp);
+    Stopwatch watch(peer, std::string(name), count, workload->repetitions);
+    workload->run(watch);
+    watch.Print(workload->notes);
+    return 0;
+}
+
+std::size_t bench::AllocatedBytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return info.uordblks + info.hblkhd;
+}
+
+long bench::ResidentKilobytes()
+{
+    malloc_trim(0);
+    long total = 0, resident = 0;
+    std::ifstream("/proc/self/statm") >> total >> resident;
+    return resident * (sysconf(_SC_PAGESIZE) / 1024);
 }

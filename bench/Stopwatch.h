@@ -7,7 +7,9 @@
 
 #include <chrono>
 #include <map>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace bench
@@ -16,9 +18,7 @@ namespace bench
 class Stopwatch
 {
 public:
-    static constexpr int kRepetitions = 5;
-
-    Stopwatch(std::string peer, std::string workload, unsigned count, int repetitions = kRepetitions);
+    Stopwatch(std::string peer, std::string workload, unsigned count, int repetitions);
 
     bool Next() const; // false after the repetitions, and after 20 seconds
     void Start();
@@ -27,7 +27,6 @@ public:
     void Print(const std::string& notes) const;
 
     unsigned Count() const { return m_count; }
-    const std::string& Workload() const { return m_workload; }
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -41,5 +40,19 @@ private:
     std::vector<double> m_times;                    // milliseconds
     std::map<std::string, std::vector<double>> m_laps;
 };
+
+struct Workload
+{
+    std::string_view name;
+    void (*run)(Stopwatch& watch);
+    const char* notes;
+    int repetitions = 5;
+};
+
+// Warms up with a few objects, then measures the workload of that name. The program's exit status.
+int RunWorkload(std::span<const Workload> workloads, const char* peer, std::string_view name, unsigned count);
+
+std::size_t AllocatedBytes(); // of the heap, as the C library counts it, large blocks included
+long ResidentKilobytes();     // of the process, after what is free has been given back
 
 } // namespace bench

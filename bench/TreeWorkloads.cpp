@@ -2,21 +2,6 @@
 #include "bench/BenchWindow.h"
 #include "bench/Workloads.h"
 
-namespace
-{
-
-using namespace bench;
-
-void ExpandContainers(CObjectsTree& tree)
-{
-    tree.Expand(tree.GetRootItem(), TVE_EXPAND);
-    HTREEITEM hItem = tree.GetChildItem(tree.GetRootItem());
-    for (unsigned i = 0; i < kExpanded; ++i, hItem = tree.GetNextSiblingItem(hItem))
-        tree.Expand(hItem, TVE_EXPAND);
-}
-
-} // namespace
-
 void bench::OpenTree(Stopwatch& watch)
 {
     Library library(watch.Count());
@@ -26,7 +11,7 @@ void bench::OpenTree(Stopwatch& watch)
         watch.Start();
         Announce(&IAEStateHandler::OnCreateAtom, &library, nullptr);
         watch.Lap("1 announce");
-        ExpandContainers(window.Tree());
+        ExpandContainers(window.view);
         watch.Lap("2 expand");
         window.Paint();
         watch.Lap("3 frame");
@@ -45,7 +30,7 @@ void bench::InsertIntoTree(Stopwatch& watch)
         Container container(std::span<const Sample>(samples.data(), 1), self);
         TreeWindow window;
         Announce(&IAEStateHandler::OnCreateAtom, &container, nullptr);
-        window.Tree().Expand(window.Tree().GetRootItem(), TVE_EXPAND);
+        window.view.Expand(window.view.GetRootItem(), TVE_EXPAND);
         window.Paint();
 
         watch.Start();
@@ -68,7 +53,7 @@ void bench::AddToTree(Stopwatch& watch)
         Container container(samples, MakeSample(0));
         TreeWindow window;
         Announce(&IAEStateHandler::OnCreateAtom, &container, nullptr);
-        window.Tree().Expand(window.Tree().GetRootItem(), TVE_EXPAND);
+        window.view.Expand(window.view.GetRootItem(), TVE_EXPAND);
         window.Paint();
 
         watch.Start();

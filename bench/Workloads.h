@@ -5,8 +5,6 @@
 
 #include "bench/Stopwatch.h"
 
-#include <string_view>
-
 namespace bench
 {
 
@@ -19,7 +17,5 @@ void OpenTree(Stopwatch& watch);       // the whole hierarchy, a few containers 
 void InsertIntoTree(Stopwatch& watch); // into one expanded container, each atom announced alone
 void AddToTree(Stopwatch& watch);      // a thousand atoms more into one expanded container, each announced alone
 void ShowThumbs(Stopwatch& watch);     // all thumbnails, page by page
-
-int RunWorkload(std::string_view workload, unsigned count); // the program's exit status
 
 } // namespace bench
