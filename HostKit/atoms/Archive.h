@@ -3,6 +3,7 @@
 
 #include "HostKit/base/Counted.h"
 #include "Views/host/IArchive.h"
+#include "Views/host/IFileStream.h"
 
 namespace hostkit
 {
@@ -11,13 +12,27 @@ namespace hostkit
 class HOSTKIT_API CArchive final : public With<Counted, IArchive>
 {
 public:
-    void GetInterface(DWORD id, void** out) override; // also the stream's IFileStream
+    void GetInterface(DWORD id, void** out) override // also the stream's IFileStream
+    {
+        if (m_pStream && id == IFileStream::Id())
+            m_pStream->GetInterface(id, out);
+        else
+            With::GetInterface(id, out);
+    }
 
     void SetStream(IByteStream* pStream) override { m_pStream = CStubRef<IByteStream>::Share(pStream); }
 
-    void Seek(DWORD dwOffset, DWORD dwOrigin) override;
+    void Seek(DWORD dwOffset, DWORD dwOrigin) override
+    {
+        if (m_pStream)
+            m_pStream->Seek(dwOffset, dwOrigin);
+    }
     DWORD GetLength() override { return m_pStream ? m_pStream->GetLength() : 0; }
-    void SetEnd() override;
+    void SetEnd() override
+    {
+        if (m_pStream)
+            m_pStream->SetEnd();
+    }
     void* GetData() override { return m_pStream ? m_pStream->GetData() : nullptr; }
 
 private:

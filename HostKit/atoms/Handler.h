@@ -13,8 +13,10 @@ namespace hostkit
 class HOSTKIT_API CHandler : public CStateHandler
 {
 public:
-    explicit CHandler(IAtomEditor& editor); // borrowed
-    virtual ~CHandler();
+    explicit CHandler(IAtomEditor& editor) // borrowed
+        : m_editor(editor), m_dwCookie(editor.RegisterHandler(nullptr, this))
+    {}
+    virtual ~CHandler() { m_editor.UnregisterHandler(m_dwCookie); }
     CHandler(const CHandler&) = delete;
     CHandler& operator=(const CHandler&) = delete;
 

@@ -7,24 +7,12 @@ namespace hostkit
 
 bool CommandKey::IsGivenBy(UINT key, bool bControl, bool bShift, bool bAlt) const
 {
-    if (key == 0 || key != vkey || bAlt != (with == With::Alt || with == With::AltShift))
+    if (key == 0 || key != vkey || with == With::Views || bAlt != (with == With::Alt || with == With::AltShift))
         return false;
-    switch (with) {
-    case With::Nothing:
-    case With::Alt:
-        return !bControl && !bShift;
-    case With::Control:
-        return bControl && !bShift;
-    case With::ControlShift:
-        return bControl && bShift;
-    case With::AltShift:
-        return !bControl && bShift;
-    case With::Whatever:
+    if (with == With::Whatever)
         return true;
-    case With::Views:
-        return false;
-    }
-    return false;
+    return bControl == (with == With::Control || with == With::ControlShift) &&
+           bShift == (with == With::ControlShift || with == With::AltShift);
 }
 
 std::string CommandKey::Text() const

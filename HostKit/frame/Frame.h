@@ -72,6 +72,8 @@ protected:
 
 private:
     void AddStandardCommands();
+    template <class Work>
+    void TellFailureOf(UINT nCaptionID, const Work& work);
     void Copy();
     void Cut();
     void Paste();

@@ -130,41 +130,46 @@ void CFrame::FocusOtherSide()
         ::SetFocus(hView);
 }
 
-void CFrame::Copy()
+// The work answers why it could not be done; empty: it was.
+template <class Work>
+void CFrame::TellFailureOf(UINT nCaptionID, const Work& work)
 try {
-    if (!CopyObjects(FALSE))
-        ShowFailure(m_hWnd, IDS_COPY_FAILED, m_editor.GetArchiveError());
+    const std::string reason = work();
+    ShowFailure(m_hWnd, nCaptionID, reason);
 } catch (const CException& exception) {
-    ShowFailure(m_hWnd, IDS_COPY_FAILED, exception.GetErrorMessage());
+    ShowFailure(m_hWnd, nCaptionID, exception.GetErrorMessage());
+}
+
+void CFrame::Copy()
+{
+    TellFailureOf(IDS_COPY_FAILED, [this] { return CopyObjects(FALSE) ? std::string() : m_editor.GetArchiveError(); });
 }
 
 void CFrame::Cut()
-try {
-    const ActiveMembers members = GetActiveMembers(m_editor);
-    if (!CopyObjects(TRUE))
-        ShowFailure(m_hWnd, IDS_CUT_FAILED,
-                    m_editor.GetArchiveError().empty() ? m_editor.WhyStillThere(members) : m_editor.GetArchiveError());
-} catch (const CException& exception) {
-    ShowFailure(m_hWnd, IDS_CUT_FAILED, exception.GetErrorMessage());
+{
+    TellFailureOf(IDS_CUT_FAILED, [this] {
+        const ActiveMembers members = GetActiveMembers(m_editor);
+        if (CopyObjects(TRUE))
+            return std::string();
+        return m_editor.GetArchiveError().empty() ? m_editor.WhyStillThere(members) : m_editor.GetArchiveError();
+    });
 }
 
 void CFrame::Paste()
-try {
-    const auto pTarget = CStubRef<IAtomContainer>::From(m_pOpened.Get());
-    ShowFailure(m_hWnd, IDS_PASTE_FAILED, PasteAtoms(m_editor, pTarget.Get()));
-} catch (const CException& exception) {
-    ShowFailure(m_hWnd, IDS_PASTE_FAILED, exception.GetErrorMessage());
+{
+    TellFailureOf(IDS_PASTE_FAILED,
+                  [this] { return PasteAtoms(m_editor, CStubRef<IAtomContainer>::From(m_pOpened.Get()).Get()); });
 }
 
 void CFrame::Remove()
-try {
-    const ActiveMembers members = GetActiveMembers(m_editor);
-    if (!UserAgrees(QuestionFor(members)))
-        return;
-    RemoveObjects(FALSE);
-    ShowFailure(m_hWnd, IDS_REMOVE_FAILED, m_editor.WhyStillThere(members));
-} catch (const CException& exception) {
-    ShowFailure(m_hWnd, IDS_REMOVE_FAILED, exception.GetErrorMessage());
+{
+    TellFailureOf(IDS_REMOVE_FAILED, [this] {
+        const ActiveMembers members = GetActiveMembers(m_editor);
+        if (!UserAgrees(QuestionFor(members)))
+            return std::string();
+        RemoveObjects(FALSE);
+        return m_editor.WhyStillThere(members);
+    });
 }
 
 void CFrame::OnMoved(const std::string& reason)

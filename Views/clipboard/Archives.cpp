@@ -19,20 +19,6 @@
 namespace
 {
 
-// The two objects of an archive, before the stream is attached.
-struct Parts
-{
-    CStubRef<IByteStream> pStream;
-    CStubRef<IArchive> pArchive;
-
-    explicit operator bool() const { return pStream && pArchive; }
-    IArchive* Join()
-    {
-        pArchive->SetStream(pStream.Get());
-        return pArchive.Detach();
-    }
-};
-
 CStubRef<IByteStream> MakeStream()
 {
     IMemoryStream* pStream = nullptr;
@@ -49,10 +35,14 @@ CStubRef<IArchive> MakeArchive()
     return pArchive;
 }
 
-Parts MakeParts()
+// Before the stream is attached. Both empty where the host does not make both.
+views::FileArchive MakeParts()
 {
     auto pStream = MakeStream(); // comes first
-    return {std::move(pStream), MakeArchive()};
+    auto pArchive = MakeArchive();
+    if (!pStream || !pArchive)
+        return {};
+    return {std::move(pStream), std::move(pArchive)};
 }
 
 // A block of that many bytes inside the stream, whose position is its start; NULL when the stream cannot grow so far.
@@ -91,15 +81,14 @@ std::optional<CString> views::PathIn(void* hGlobal)
 
 views::FileArchive views::ReadTransferFile(const char* pszPath)
 {
-    Parts parts = MakeParts();
-    if (!parts)
+    FileArchive parts = MakeParts();
+    if (!parts.pArchive)
         return {};
     const FileHandle file(::CreateFile(pszPath, GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr));
     if (!file || !ReadWhole(file.Get(), pszPath, parts.pStream.Get()))
         return {};
-    FileArchive read{CStubRef<IByteStream>::Share(parts.pStream.Get()), nullptr};
-    read.pArchive = CStubRef<IArchive>::Adopt(parts.Join());
-    return read;
+    parts.pArchive->SetStream(parts.pStream.Get());
+    return parts;
 }
 
 CStubRef<IArchive> views::ArchiveOver(const CStubRef<IByteStream>& pStream)
@@ -113,8 +102,10 @@ CStubRef<IArchive> views::ArchiveOver(const CStubRef<IByteStream>& pStream)
 
 IArchive* ConstructMemoryArchive()
 {
-    Parts parts = MakeParts();
-    return parts ? parts.Join() : nullptr;
+    views::FileArchive parts = MakeParts();
+    if (parts.pArchive)
+        parts.pArchive->SetStream(parts.pStream.Get());
+    return parts.pArchive.Detach();
 }
 
 IArchive* ArchiveFromFile(const char* lpszPath)

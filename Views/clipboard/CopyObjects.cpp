@@ -24,7 +24,14 @@ class TransferHandle
 {
 public:
     explicit TransferHandle(HGLOBAL hPath) : m_hPath(hPath) {}
-    ~TransferHandle();
+    ~TransferHandle()
+    {
+        if (!m_hPath)
+            return;
+        if (const toolkit::GlobalLocker<const char> path(m_hPath); path.Get())
+            ::DeleteFile(path.Get());
+        ::GlobalFree(m_hPath);
+    }
     TransferHandle(const TransferHandle&) = delete;
     TransferHandle& operator=(const TransferHandle&) = delete;
 
@@ -35,15 +42,6 @@ public:
 private:
     HGLOBAL m_hPath;
 };
-
-TransferHandle::~TransferHandle()
-{
-    if (!m_hPath)
-        return;
-    if (const toolkit::GlobalLocker<const char> path(m_hPath); path.Get())
-        ::DeleteFile(path.Get());
-    ::GlobalFree(m_hPath);
-}
 
 // Lets go of an owner that is to dispose of nothing.
 struct Abandon

@@ -1,19 +1,61 @@
 #include "Views/clipboard/TransferFileOwner.h"
 
+#include "Toolkit/base/Apart.h"
 #include "Toolkit/base/Exception.h"
 #include "Toolkit/base/Files.h"
 #include "Views/clipboard/Archives.h"
-#include "Views/clipboard/inside/HeldFiles.h"
 #include "Views/host/IArchive.h"
 #include "Views/host/IAtom.h"
 #include "Views/host/IAtomEditor.h"
 #include "Views/host/Services.h"
 #include "Views/host/StubRef.h"
 
+#include <fcntl.h>
+#include <map>
+#include <unistd.h>
 #include <utility>
 
 namespace
 {
+
+// The descriptors that bear the locks. Stays to the end of the process: what is on the clipboard may go later than any
+// object with a destructor.
+std::map<HGLOBAL, int>& Held()
+{
+    static auto& held = *new std::map<HGLOBAL, int>;
+    return held;
+}
+
+bool LockForReading(int fd)
+{
+    struct flock lock = {};
+    lock.l_type = F_RDLCK;
+    lock.l_whence = SEEK_SET;
+    return fcntl(fd, F_OFD_SETLK, &lock) == 0;
+}
+
+void HoldFile(HGLOBAL hPath, const char* pszPath)
+{
+    const auto place = Held().try_emplace(hPath, -1).first; // raises what it raises before there is a lock
+    const int fd = open(pszPath, O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY);
+    if (fd >= 0 && LockForReading(fd)) {
+        place->second = fd;
+        return;
+    }
+    if (fd >= 0)
+        close(fd);
+    Held().erase(place);
+}
+
+// Nothing happens for one that is not held.
+void LetGoOfFile(HGLOBAL hPath)
+{
+    const auto place = Held().find(hPath);
+    if (place == Held().end())
+        return;
+    toolkit::CloseApart(place->second);
+    Held().erase(place);
+}
 
 BOOL ReleaseObjectFn(IAtom* pAtom, void*)
 {
@@ -36,12 +78,12 @@ CTransferFileOwner::CTransferFileOwner(HGLOBAL hPath) : m_hPath(hPath)
 {
     const toolkit::GlobalLocker<const char> path(hPath);
     if (path.Get())
-        views::HoldFile(hPath, path.Get());
+        HoldFile(hPath, path.Get());
 }
 
 HGLOBAL CTransferFileOwner::Detach()
 {
-    views::LetGoOfFile(m_hPath);
+    LetGoOfFile(m_hPath);
     return std::exchange(m_hPath, nullptr);
 }
 
@@ -79,7 +121,7 @@ void CTransferFileOwner::Dispose() const
     if (pEditor)
         ReleaseObjects(pEditor.Get(), m_hPath);
     ::DeleteFile(pszPath);
-    views::LetGoOfFile(m_hPath);
+    LetGoOfFile(m_hPath);
     ::GlobalUnlock(m_hPath);
     ::GlobalFree(m_hPath);
 }

@@ -6,7 +6,11 @@
 
 // The releaser of clipboard data: it owns a path handle and its transfer file, and disposes of both when its last
 // reference goes. The editor, if there is one, is handed the file's atoms once more before, each with its reference,
-// which is released. Until then the file counts as held (HeldFiles.h).
+// which is released.
+//
+// Until then the file is held: it bears a lock of the system for reading (F_OFD_SETLK), which ends with the process,
+// however that ends. A transfer file without one has no owner any more. It is no obstacle to those who open the file,
+// unshared or not. Where the system has no such locks, files are not held.
 class VIEWS_API CTransferFileOwner final : public IUnknown
 {
 public:

@@ -208,8 +208,6 @@ unsigned CObjectsList::ClearContext()
     return nLoad;
 }
 
-void CObjectsList::OnClearContext() {}
-
 void CObjectsList::GoToItem(UINT nItem)
 {
     const HELDPAIR pair = HoldPair(static_cast<int>(nItem));
@@ -236,9 +234,7 @@ unsigned long CObjectsList::GetItemData(int nItem) const
 CObjectsList::HELDPAIR CObjectsList::HoldPair(int nItem) const
 {
     const OBJPAIR* pPair = PairAt(nItem);
-    if (!pPair)
-        return {};
-    return HELDPAIR::Share(pPair->pAtom, pPair->pContainer);
+    return pPair ? HELDPAIR::Share(pPair->pAtom, pPair->pContainer) : HELDPAIR();
 }
 
 CStubRef<IAtomContainer> CObjectsList::ContainerInRow(int nItem) const

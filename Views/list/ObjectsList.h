@@ -52,7 +52,6 @@ public:
     BOOL SetRootAtom(IAtom* pRoot);
     // How the members of what is shown next stand (MOF_*, Views/host/MemberOrder.h). What is created later is appended.
     void SetMemberOrder(UINT nOrder);
-    UINT GetMemberOrder() const { return m_nOrder; }
     // Which members of what is shown next become rows; empty: all. What is created later becomes one in any case.
     void SetMemberFilter(std::function<bool(IAtom* pAtom)> isShown) { m_isShown = std::move(isShown); }
     // From now on an atom that is announced comes to its place in the order. Else it comes last, whatever its name.
@@ -70,10 +69,10 @@ protected:
     // strText alone.
     virtual void OnCacheItem(int nItem, IAtom* pAtom, IAtomContainer* pContainer, CACHEDATA* pData) = 0;
     // Called last when the view is emptied: every record is uncached, the rows are gone.
-    virtual void OnClearContext();
+    virtual void OnClearContext() {}
     // The atom could not be given the name that the user has typed in place of its label; the field has gone, and the
     // reason has been told. Does nothing here.
-    virtual void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped);
+    virtual void OnNameRefused(IAtom*, LPCSTR /*pszTyped*/) {}
 
 public:
     BOOL OnCreateAtom(IAtom* pAtom, IAtomContainer* pContainer) override;

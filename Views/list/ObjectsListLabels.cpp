@@ -33,8 +33,6 @@ void CObjectsList::OnEndLabelEdit(NMLVDISPINFO* pInfo, LRESULT* pResult)
         OnNameRefused(pair.pAtom.Get(), pInfo->item.pszText);
 }
 
-void CObjectsList::OnNameRefused(IAtom*, LPCSTR) {}
-
 // The control knows rows by their numbers alone: it is told where the edited one is, so that the name that is being
 // typed goes to the atom that it was meant for.
 void CObjectsList::MoveLabelEdit(int nItem)

@@ -65,12 +65,9 @@ BOOL CThumbList::SetPictureExtent(int nExtent)
     if (nExtent == GetPictureExtent())
         return TRUE;
     SetCacheLimit(std::min(kMostRows, kMostPixels / (nExtent * nExtent)));
-    if (!m_hWnd) {
-        m_pThumbnails->SetExtent(nExtent);
-        return TRUE;
-    }
     m_pThumbnails->SetExtent(nExtent);
-    PaintAnew();
+    if (m_hWnd)
+        PaintAnew();
     return TRUE;
 }
 

@@ -70,10 +70,10 @@ protected:
     //
     // Called with each display request, complete as it is answered, and may change the answer. Not called when the
     // atom's name could not be read. Does nothing here.
-    virtual void OnGetDispInfo(TVDISPINFO* pInfo);
+    virtual void OnGetDispInfo(TVDISPINFO*) {}
     // The atom could not be given the name that the user has typed in place of its label; the field has gone, and the
     // reason has been told. Does nothing here.
-    virtual void OnNameRefused(IAtom* pAtom, LPCSTR pszTyped);
+    virtual void OnNameRefused(IAtom*, LPCSTR /*pszTyped*/) {}
 
 public:
     // TRUE when the atom is shown now. Costs n log n for an atom with n members, log n for one more among n siblings

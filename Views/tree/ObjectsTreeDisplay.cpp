@@ -35,8 +35,6 @@ void CObjectsTree::OnObjectsGetDispInfo(TVDISPINFO* pInfo, LRESULT* pResult)
     OnGetDispInfo(pInfo);
 }
 
-void CObjectsTree::OnGetDispInfo(TVDISPINFO*) {}
-
 int CObjectsTree::ImageOf(IAtom* pAtom, const TVITEM& item)
 {
     const auto pIcon = CStubRef<IAtomIcon>::From(pAtom);

@@ -56,9 +56,7 @@ CObjectsTree::RECORD* CObjectsTree::RecordOf(HTREEITEM hItem) const
 CObjectsTree::HELDPAIR CObjectsTree::HoldPair(HTREEITEM hItem) const
 {
     const RECORD* pRecord = RecordOf(hItem);
-    if (!pRecord)
-        return {};
-    return HELDPAIR::Share(pRecord->pAtom.Get(), pRecord->pContainer.Get());
+    return pRecord ? HELDPAIR::Share(pRecord->pAtom.Get(), pRecord->pContainer.Get()) : HELDPAIR();
 }
 
 CStubRef<IAtomContainer> CObjectsTree::ContainerInItem(HTREEITEM hItem) const

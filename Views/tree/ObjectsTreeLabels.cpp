@@ -24,5 +24,3 @@ void CObjectsTree::OnEndLabelEdit(TVDISPINFO* pInfo, LRESULT* pResult)
     if (!bDone && pair && pInfo->item.pszText && m_hWnd)
         OnNameRefused(pair.pAtom.Get(), pInfo->item.pszText);
 }
-
-void CObjectsTree::OnNameRefused(IAtom*, LPCSTR) {}

@@ -46,7 +46,7 @@ void CObjectsTree::OnSelChanging(NMTREEVIEW* pChange, LRESULT* pResult)
     if (IsWithin(pChange->itemNew.hItem, pChange->itemOld.hItem))
         m_pIconSlots->ItemsHidden(); // it may have been collapsed: that is told only when this has been told
     if (!m_pEditor->IsPassive() && !MayChangeSelection(*pChange)) {
-        m_pEditor->SetFocusFromSelChange(FALSE); // there is no change that the focus could come with
+        m_pEditor->EndSelChange(); // there is no change that the focus could come with
         *pResult = -1;
         return;
     }
@@ -71,7 +71,7 @@ BOOL CObjectsTree::OnSelChanged(NMTREEVIEW* pChange, LRESULT* pResult)
 {
     Notify(&IAEStateHandler::OnAtomDeselected, pChange->itemOld.hItem);
     GoOnSelected(pChange->itemNew.hItem);
-    m_pEditor->SetFocusFromSelChange(FALSE); // the change is over; a refused focus may have left it set
+    m_pEditor->EndSelChange(); // the change is over; a refused focus may have left it set
     *pResult = 0;
     return FALSE; // the parent window hears of it, too
 }

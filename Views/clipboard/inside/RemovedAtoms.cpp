@@ -63,7 +63,7 @@ BOOL RemovedAtoms::RemoveObjectFn(IAtom* pAtom, IAtomContainer* pContainer, void
 
 void RemovedAtoms::Announce(IAtomEditor* pEditor) const
 {
-    const auto first = std::find_if(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); });
+    const auto first = std::ranges::find_if(m_containers, [](const auto& p) { return bool(p); });
     if (first != m_containers.end())
         TellOfLoss(pEditor, first->Get());
 }
@@ -71,7 +71,7 @@ void RemovedAtoms::Announce(IAtomEditor* pEditor) const
 // Where the archive stands, whoever wrote it has left it.
 void RemovedAtoms::PutBack(IAtomEditor* pEditor, IArchive* pArchive)
 try {
-    if (std::none_of(m_containers.begin(), m_containers.end(), [](const auto& p) { return bool(p); }))
+    if (std::ranges::none_of(m_containers, [](const auto& p) { return bool(p); }))
         return;
     for (auto p = m_containers.begin(); p != m_containers.end(); ++p)
         if (*p && std::find_if(m_containers.begin(), p, [p](const auto& q) { return q.Get() == p->Get(); }) == p)

@@ -43,8 +43,7 @@ std::string_view views::RankOf(IAtom* pAtom, UINT nOrder)
 std::string views::AtomKey(IAtom* pAtom, const char* pszName, UINT nOrder)
 {
     std::string key(RankOf(pAtom, nOrder));
-    const bool bNatural = nOrder & MOF_NATURAL;
-    toolkit::AppendSortKey(key, pszName, bNatural ? toolkit::TextOrder::Natural : toolkit::TextOrder::NoCase);
+    toolkit::AppendSortKey(key, pszName, TextOrderOf(nOrder));
     return key;
 }
 

@@ -14,6 +14,11 @@ namespace views
 // both are image links or the second is in no phase: their names decide then.
 std::optional<int> CompareLinks(IAtom* a, IAtom* b);
 
+inline toolkit::TextOrder TextOrderOf(UINT nOrder)
+{
+    return nOrder & MOF_NATURAL ? toolkit::TextOrder::Natural : toolkit::TextOrder::NoCase;
+}
+
 // What counts before the name, by the order (MOF_*): nothing for the order of names.
 std::string_view RankOf(IAtom* pAtom, UINT nOrder);
 // Of the name, or of the label that stands for it: bytes that compare as the order has it.
@@ -29,15 +34,9 @@ public:
     bool Add(IAtom* pAtom); // false when its name cannot be read; raises CMemoryException
     // In order, each with the number of the Add that made it; equal names in the order of their Adds.
     const toolkit::TextKeys::Keys& Sort() { return m_keys.Sort(); }
-    std::size_t GetCount() const { return m_keys.GetCount(); }
     bool HasEqual() const { return m_keys.HasEqual(); } // once they are sorted
 
 private:
-    static toolkit::TextOrder TextOrderOf(UINT nOrder)
-    {
-        return nOrder & MOF_NATURAL ? toolkit::TextOrder::Natural : toolkit::TextOrder::NoCase;
-    }
-
     const UINT m_nOrder;
     toolkit::TextKeys m_keys;
     std::vector<char> m_buffer = std::vector<char>(256); // for the name being read

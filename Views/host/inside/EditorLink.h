@@ -69,8 +69,8 @@ public:
 
     // Is the selection changing, or has it changed, without the focus?
     BOOL IsFocusFromSelChange() const { return m_bFocusFromSelChange; }
-    void SetFocusFromSelChange(BOOL bFrom) { m_bFocusFromSelChange = bFrom; }
     void NoteSelChange() { m_bFocusFromSelChange = !m_bHasFocus; }
+    void EndSelChange() { m_bFocusFromSelChange = FALSE; }
 
 private:
     // Has what the user was working on saved before the work goes on in another view: asks every handler, about the

@@ -65,25 +65,9 @@ bool OrderByPosition(AtomArray& atoms)
             return false;
         keys.push_back({*position, static_cast<std::uint32_t>(keys.size())});
     }
-    std::stable_sort(keys.begin(), keys.end(),
-                     [](const PositionKey& a, const PositionKey& b) { return a.nPosition < b.nPosition; });
+    std::ranges::stable_sort(keys, {}, &PositionKey::nPosition);
     Arrange(atoms, keys);
     return true;
-}
-
-enum class Order
-{
-    None,
-    ByName,
-    ByPosition
-};
-
-Order OrderByKeys(AtomArray& atoms, UINT nOrder)
-{
-    const bool bLinks = static_cast<bool>(CStubRef<IImageLink>::From(atoms.front().Get()));
-    if (bLinks)
-        return OrderByPosition(atoms) ? Order::ByPosition : Order::None;
-    return OrderByName(atoms, nOrder) ? Order::ByName : Order::None;
 }
 
 } // namespace
@@ -93,8 +77,9 @@ bool views::OrderMembers(AtomArray& atoms, AtomComparator compare, UINT nOrder)
     if (atoms.empty())
         return true;
     try {
-        if (const Order order = OrderByKeys(atoms, nOrder); order != Order::None)
-            return order == Order::ByName;
+        const bool bLinks = static_cast<bool>(CStubRef<IImageLink>::From(atoms.front().Get()));
+        if (bLinks ? OrderByPosition(atoms) : OrderByName(atoms, nOrder))
+            return !bLinks;
     } catch (CMemoryException&) {
         // No room for the keys: comparing needs none.
     }

@@ -57,9 +57,7 @@ views::TreeRecord* views::TreeRecords::Find(IAtom* pAtom) const
 void views::TreeRecords::Map(TreeRecord* pRecord)
 {
     IAtom* const pAtom = pRecord->pAtom.Get();
-    Entry& entry = m_entries[Locate(pAtom)];
-    m_nMapped += entry.nRecord == 0;
-    entry = {HashOf(pAtom), pRecord->nIndex + 1};
+    m_entries[Locate(pAtom)] = {HashOf(pAtom), pRecord->nIndex + 1};
 }
 
 // What stands behind the entry, up to the first gap, moves up where its home allows.
@@ -75,7 +73,6 @@ void views::TreeRecords::Unmap(const TreeRecord* pRecord)
             m_entries[std::exchange(gap, i)] = m_entries[i];
     }
     m_entries[gap] = {};
-    --m_nMapped;
 }
 
 // For one more of those made, at most three quarters full.

@@ -76,7 +76,7 @@ private:
     std::vector<std::unique_ptr<TreeRecord[]>> m_blocks;
     std::uint32_t m_nUsed = 0;      // records ever made
     std::uint32_t m_nFirstFree = 0; // index + 1, chained by nIndex; 0: none
-    std::size_t m_nMade = 0, m_nMapped = 0;
+    std::size_t m_nMade = 0;
     std::vector<Entry> m_entries; // each at its home or in the run of entries from there on
 };
 
