@@ -24,7 +24,7 @@ void DrawField(HDC hdc, CRect rect, const char* pszBefore, const char* pszBehind
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CPropertiesPane, CWidget)
+BEGIN_MESSAGE_MAP(CPropertiesPane, hostkit::CWidget)
     ON_MESSAGE(kUpdate, OnUpdate)
 END_MESSAGE_MAP()
 

@@ -4,7 +4,7 @@
 #include "Editor/model/Phase.h"
 #include "Editor/widgets/Look.h"
 #include "Editor/widgets/NumberField.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <functional>
@@ -16,7 +16,7 @@ namespace editor
 
 // Where several phases differ in a number, its field says so, and a number that is entered goes to all of them. What
 // was entered is kept in the phases, which are modified until they are saved.
-class CPropertiesPane : public CWidget, public toolkit::Accessible
+class CPropertiesPane : public hostkit::CWidget, public toolkit::Accessible
 {
 public:
     using Phases = std::vector<CStubRef<CPhase>>;

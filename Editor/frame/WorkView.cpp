@@ -46,7 +46,7 @@ WorkView::WorkView(LongWork& work, std::function<void(std::string)> tell)
     : m_work(work), m_tell(std::move(tell)), m_strip([this] { m_work.Cancel(); })
 {}
 
-BOOL WorkView::Create(CWidget* pStatusBar)
+BOOL WorkView::Create(hostkit::CWidget* pStatusBar)
 {
     m_pStatusBar = pStatusBar;
     m_work.SetView(this);

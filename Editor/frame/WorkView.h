@@ -15,7 +15,7 @@ public:
     WorkView(const WorkView&) = delete;
     WorkView& operator=(const WorkView&) = delete;
 
-    BOOL Create(CWidget* pStatusBar);
+    BOOL Create(hostkit::CWidget* pStatusBar);
     CProgressStrip& GetStrip() { return m_strip; }
 
     HWND GetModalWindow() const override { return m_strip.m_hWnd; }
@@ -26,7 +26,7 @@ public:
 private:
     LongWork& m_work;
     const std::function<void(std::string)> m_tell;
-    CWidget* m_pStatusBar = nullptr;
+    hostkit::CWidget* m_pStatusBar = nullptr;
     CProgressStrip m_strip;
 };
 

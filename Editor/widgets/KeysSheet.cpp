@@ -25,7 +25,7 @@ int HeightOf(const CKeysSheet::Group& group)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CKeysSheet, CWidget)
+BEGIN_MESSAGE_MAP(CKeysSheet, hostkit::CWidget)
     ON_WM_KEYDOWN()
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEWHEEL()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <functional>
@@ -14,7 +14,7 @@ namespace editor
 
 // Groups of lines in as many columns as there is room for; a wheel and the arrows scroll what is too long. Goes with
 // Escape, a press, or when the focus goes elsewhere.
-class CKeysSheet : public CWidget, public toolkit::AccessibleParts
+class CKeysSheet : public hostkit::CWidget, public toolkit::AccessibleParts
 {
 public:
     struct Line

@@ -20,7 +20,7 @@ std::pair<std::string, std::size_t> Unmarked(std::string title)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CMenuBar, CWidget)
+BEGIN_MESSAGE_MAP(CMenuBar, hostkit::CWidget)
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()

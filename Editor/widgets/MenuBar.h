@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/menu/Menu.h"
 
@@ -17,7 +17,7 @@ namespace editor
 // A press opens a menu, and so does Alt with the letter that is marked. F10, or Alt pressed and let go, lets the arrows
 // walk along the titles. While a menu is shown, Left, Right and the mouse go on to its neighbours. The focus stays
 // where it is.
-class CMenuBar : public CWidget, public toolkit::AccessibleParts
+class CMenuBar : public hostkit::CWidget, public toolkit::AccessibleParts
 {
 public:
     struct Events

@@ -18,7 +18,7 @@ constexpr int kButtonHeight = 24;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CProgressStrip, CWidget)
+BEGIN_MESSAGE_MAP(CProgressStrip, hostkit::CWidget)
     ON_WM_LBUTTONDOWN()
     ON_WM_KEYDOWN()
     ON_WM_CLOSE()

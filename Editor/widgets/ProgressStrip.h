@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <functional>
@@ -12,7 +12,7 @@ namespace editor
 {
 
 // Escape, and closing the window, are Cancel as well.
-class CProgressStrip : public CWidget, public toolkit::AccessibleParts
+class CProgressStrip : public hostkit::CWidget, public toolkit::AccessibleParts
 {
 public:
     // `cancel` may be called before anything is shown.

@@ -15,7 +15,7 @@ constexpr int kWheelLines = 3;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSearchSheet, CWidget)
+BEGIN_MESSAGE_MAP(CSearchSheet, hostkit::CWidget)
     ON_WM_SIZE()
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()

@@ -3,7 +3,7 @@
 
 #include "Editor/widgets/Look.h"
 #include "Editor/widgets/TextField.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <vector>
@@ -13,7 +13,7 @@ namespace editor
 
 // The field keeps the keys: the arrows choose among the lines, which the wheel scrolls, and Return or a double click
 // uses one.
-class CSearchSheet : public CWidget, public toolkit::Accessible
+class CSearchSheet : public hostkit::CWidget, public toolkit::Accessible
 {
 public:
     struct Line

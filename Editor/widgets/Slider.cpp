@@ -5,7 +5,7 @@
 namespace editor
 {
 
-BEGIN_MESSAGE_MAP(CSlider, CWidget)
+BEGIN_MESSAGE_MAP(CSlider, hostkit::CWidget)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()
     ON_WM_LBUTTONUP()

@@ -1,14 +1,14 @@
 // What the user drags along a line.
 #pragma once
 
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 namespace editor
 {
 
 // Follows the mouse from a press, where it takes one, until the button is let go.
-class CSlider : public CWidget, public toolkit::Accessible
+class CSlider : public hostkit::CWidget, public toolkit::Accessible
 {
 public:
     UINT AccRole(LPARAM) override { return ROLE_SYSTEM_SLIDER; }

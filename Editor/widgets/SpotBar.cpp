@@ -15,7 +15,7 @@ constexpr UINT kTipDelay = 500; // milliseconds
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CSpotBar, CWidget)
+BEGIN_MESSAGE_MAP(CSpotBar, hostkit::CWidget)
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()

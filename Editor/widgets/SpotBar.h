@@ -1,7 +1,7 @@
 // A bar with spots that a click uses.
 #pragma once
 
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <string>
@@ -11,7 +11,7 @@ namespace editor
 
 // The spot under the mouse is shown, and pressed once the button goes down on it; it is used when the button is let go
 // there. When the mouse rests on a spot that has something to say about itself, that is shown beside it.
-class CSpotBar : public CWidget, public toolkit::AccessibleParts
+class CSpotBar : public hostkit::CWidget, public toolkit::AccessibleParts
 {
 protected:
     CSpotBar() : CWidget(WS_VISIBLE | WS_CLIPCHILDREN) {}

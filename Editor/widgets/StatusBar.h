@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/Look.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 
 #include <functional>
@@ -20,7 +20,7 @@ struct Status
 };
 
 // Asks for its text whenever it is drawn: telling it of a change costs nothing, however often it is done.
-class CStatusBar : public CWidget, public toolkit::Accessible
+class CStatusBar : public hostkit::CWidget, public toolkit::Accessible
 {
 public:
     explicit CStatusBar(std::function<Status()> ask) : m_ask(std::move(ask)) {}

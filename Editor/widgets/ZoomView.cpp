@@ -31,7 +31,7 @@ toolkit::Surface PartOf(const toolkit::Surface& picture, CSize drawn, const CRec
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(CZoomView, CWidget)
+BEGIN_MESSAGE_MAP(CZoomView, hostkit::CWidget)
     ON_WM_MOUSEWHEEL()
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEMOVE()

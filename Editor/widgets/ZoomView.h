@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Editor/widgets/PictureZoom.h"
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/graphics/Surface.h"
 
 #include <functional>
@@ -12,7 +12,7 @@ namespace editor
 
 // The wheel zooms, a drag moves what is zoomed, a double click goes to the picture's own size and back. Pixels of what
 // is zoomed are squares. Its own size is a pixel to a pixel of the screen, in which all here counts.
-class CZoomView : public CWidget
+class CZoomView : public hostkit::CWidget
 {
 public:
     static constexpr int kMostRead = 4096; // pixels each way, of what is zoomed

@@ -9,18 +9,11 @@
 namespace hostkit
 {
 
-BEGIN_MESSAGE_MAP(CPane, CWnd)
-    ON_WM_ERASEBKGND()
-    ON_WM_PAINT()
+BEGIN_MESSAGE_MAP(CPane, CWidget)
     ON_WM_SIZE()
     ON_WM_SETFOCUS()
     ON_WM_LBUTTONDOWN()
 END_MESSAGE_MAP()
-
-BOOL CPane::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, CRect(), pParent, 0);
-}
 
 void CPane::ShowView(HWND hView, std::string caption, toolkit::Surface icon)
 {
@@ -56,9 +49,7 @@ void CPane::SetChosen(int nChoice)
 CRect CPane::ChoiceRect(int nChoice) const
 {
     constexpr int kExtent = 3 * kSpace;
-    CRect client;
-    GetClientRect(&client);
-    const int left = client.right - kSpace - (static_cast<int>(m_choices.size()) - nChoice) * kExtent;
+    const int left = Client().right - kSpace - (static_cast<int>(m_choices.size()) - nChoice) * kExtent;
     const int top = (kPaneCaptionHeight - kExtent) / 2;
     return {left, top, left + kExtent, top + kExtent};
 }
@@ -80,41 +71,35 @@ CRect CPane::FieldRect() const
 {
     constexpr int kMost = 208, kTitle = 112; // pixels wide
     constexpr int kFieldHeight = kPaneCaptionHeight - kSpace / 2;
-    CRect client;
-    GetClientRect(&client);
-    const int right = (m_choices.empty() ? client.right : ChoiceRect(0).left) - kSpace;
+    const int right = (m_choices.empty() ? Client().right : ChoiceRect(0).left) - kSpace;
     const int top = (kPaneCaptionHeight - kFieldHeight) / 2;
     return {std::max(kTitle, right - kMost), top, right, top + kFieldHeight};
 }
 
-BOOL CPane::OnEraseBkgnd(HDC hdc)
+void CPane::Erase(HDC hdc)
 {
-    CRect client;
-    GetClientRect(&client);
+    const CRect client = Client();
     FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
     FillSolidRect(hdc, {client.left, kPaneCaptionHeight - 1, client.right, kPaneCaptionHeight}, LineColor());
-    return TRUE;
 }
 
-void CPane::OnPaint()
+void CPane::Draw(HDC hdc)
 {
-    const CPaintDC dc(this);
-    CRect caption;
-    GetClientRect(&caption);
+    CRect caption = Client();
     caption.bottom = kPaneCaptionHeight;
     CRect icon(2 * kSpace, 0, 2 * kSpace + m_icon.Size().cx, caption.bottom);
-    DrawCentred(dc, icon, m_icon);
+    DrawCentred(hdc, icon, m_icon);
     caption.left = icon.right + kSpace;
     caption.right = (m_choices.empty() ? caption.right : ChoiceRect(0).left) - kSpace;
     if (m_pField && m_pField->IsWindowVisible()) {
         caption.right = FieldRect().left - kSpace;
         CRect inner = FieldRect();
-        FillSolidRect(dc, inner, LineColor());
+        FillSolidRect(hdc, inner, LineColor());
         inner.DeflateRect(1, 1);
-        FillSolidRect(dc, inner, GetSysColor(COLOR_WINDOW));
+        FillSolidRect(hdc, inner, GetSysColor(COLOR_WINDOW));
     }
-    DrawTextLine(dc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
-    DrawChoices(dc);
+    DrawTextLine(hdc, caption, m_caption, GetSysColor(COLOR_WINDOWTEXT));
+    DrawChoices(hdc);
 }
 
 void CPane::DrawChoices(HDC hdc) const
@@ -129,19 +114,19 @@ void CPane::DrawChoices(HDC hdc) const
 
 void CPane::OnSize(UINT nType, int cx, int cy)
 {
-    CWnd::OnSize(nType, cx, cy);
+    CWidget::OnSize(nType, cx, cy);
     PlaceView();
 }
 
 void CPane::OnSetFocus(CWnd* pOldWnd)
 {
-    CWnd::OnSetFocus(pOldWnd);
+    CWidget::OnSetFocus(pOldWnd);
     ::SetFocus(m_hView);
 }
 
 void CPane::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    CWnd::OnLButtonDown(nFlags, point);
+    CWidget::OnLButtonDown(nFlags, point);
     for (int i = 0; i < static_cast<int>(m_choices.size()); ++i)
         if (ChoiceRect(i).PtInRect(point))
             return Choose(i);
@@ -166,8 +151,7 @@ std::vector<CPane::Part> CPane::AccParts()
 
 void CPane::PlaceView()
 {
-    CRect client;
-    GetClientRect(&client);
+    const CRect client = Client();
     if (m_pField) {
         CRect text = FieldRect();
         text.DeflateRect(m_fieldMargin.cx, m_fieldMargin.cy);

@@ -1,10 +1,9 @@
 // A pane of the frame: a caption with an icon, and a view below it.
 #pragma once
 
-#include "HostKit/base/Api.h"
+#include "HostKit/frame/Widget.h"
 #include "Toolkit/access/Accessible.h"
 #include "Toolkit/graphics/Surface.h"
-#include "Toolkit/window/Wnd.h"
 
 #include <functional>
 #include <string>
@@ -14,7 +13,7 @@ namespace hostkit
 {
 
 // The parent of its view's window, which somebody else owns. Hidden until something is to be shown.
-class HOSTKIT_API CPane : public CWnd, public toolkit::AccessibleParts
+class HOSTKIT_API CPane : public CWidget, public toolkit::AccessibleParts
 {
 public:
     struct Choice
@@ -23,10 +22,8 @@ public:
         toolkit::Surface icon;
     };
 
-    explicit CPane(int margin = 0) : m_nMargin(margin) {} // pixels left of and above the view
+    explicit CPane(int margin = 0) : CWidget(WS_CLIPCHILDREN), m_nMargin(margin) {} // pixels left of and above the view
     ~CPane() override { DestroyWindow(); }
-
-    BOOL Create(CWnd* pParent);
 
     HWND GetView() const { return m_hView; } // NULL while there is none
     void ShowView(HWND hView, std::string caption, toolkit::Surface icon);
@@ -46,8 +43,9 @@ public:
     void AccUse(int nPart) override { Choose(nPart); }
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
-    afx_msg void OnPaint();
+    void Erase(HDC hdc) override;
+    void Draw(HDC hdc) override;
+
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

@@ -9,8 +9,7 @@
 namespace hostkit
 {
 
-BEGIN_MESSAGE_MAP(CSplitter, CWnd)
-    ON_WM_ERASEBKGND()
+BEGIN_MESSAGE_MAP(CSplitter, CWidget)
     ON_WM_MOUSEMOVE()
     ON_MESSAGE(WM_MOUSELEAVE, OnMouseLeave)
     ON_WM_LBUTTONDOWN()
@@ -19,34 +18,22 @@ BEGIN_MESSAGE_MAP(CSplitter, CWnd)
     ON_MESSAGE(WM_CAPTURECHANGED, OnCaptureChanged)
 END_MESSAGE_MAP()
 
-BOOL CSplitter::Create(CWnd* pParent)
-{
-    return CreateEx(0, "", "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, CRect(), pParent, 0);
-}
-
-void CSplitter::CancelDrag()
-{
-    EndDrag(false);
-}
-
 // The captions' lower edge goes on across the bar; the line between the panes stands at its right, where the tree's
 // ground ends.
-BOOL CSplitter::OnEraseBkgnd(HDC hdc)
+void CSplitter::Erase(HDC hdc)
 {
-    CRect client;
-    GetClientRect(&client);
+    const CRect client = Client();
     const bool bShining = m_bHot || m_bDragged;
     CRect line = client;
     line.left = line.right - (bShining ? 3 : 1);
     FillSolidRect(hdc, client, GetSysColor(COLOR_WINDOW));
     FillSolidRect(hdc, {client.left, kPaneCaptionHeight - 1, client.right, kPaneCaptionHeight}, LineColor());
     FillSolidRect(hdc, line, bShining ? GetSysColor(COLOR_HIGHLIGHT) : LineColor());
-    return TRUE;
 }
 
 void CSplitter::OnMouseMove(UINT nFlags, CPoint point)
 {
-    CWnd::OnMouseMove(nFlags, point);
+    CWidget::OnMouseMove(nFlags, point);
     SetHot(true);
     if (m_bDragged)
         m_move(std::max(0, Left() + point.x - m_nGrip));
@@ -60,7 +47,7 @@ LRESULT CSplitter::OnMouseLeave(WPARAM, LPARAM)
 
 void CSplitter::OnLButtonDown(UINT nFlags, CPoint point)
 {
-    CWnd::OnLButtonDown(nFlags, point);
+    CWidget::OnLButtonDown(nFlags, point);
     m_bDragged = true;
     m_nGrip = point.x;
     m_nLeftThen = Left();
@@ -70,7 +57,7 @@ void CSplitter::OnLButtonDown(UINT nFlags, CPoint point)
 
 void CSplitter::OnLButtonUp(UINT nFlags, CPoint point)
 {
-    CWnd::OnLButtonUp(nFlags, point);
+    CWidget::OnLButtonUp(nFlags, point);
     EndDrag(true);
 }
 

@@ -1,8 +1,7 @@
 // The bar between two panes that stand side by side.
 #pragma once
 
-#include "HostKit/base/Api.h"
-#include "Toolkit/window/Wnd.h"
+#include "HostKit/frame/Widget.h"
 
 #include <functional>
 
@@ -11,7 +10,7 @@ namespace hostkit
 
 // Dragged with the mouse it tells where its left edge is wanted, in the parent's client coordinates; where it goes is
 // its parent's affair. Escape or the loss of the mouse takes it back to where it was; a double click wants kUsual.
-class HOSTKIT_API CSplitter : public CWnd
+class HOSTKIT_API CSplitter : public CWidget
 {
 public:
     static constexpr int kWidth = 7;
@@ -20,12 +19,12 @@ public:
     explicit CSplitter(std::function<void(int x)> move) : m_move(std::move(move)) {}
     ~CSplitter() override { DestroyWindow(); }
 
-    BOOL Create(CWnd* pParent);
     bool IsDragged() const { return m_bDragged; }
-    void CancelDrag(); // nothing when it is not being dragged
+    void CancelDrag() { EndDrag(false); } // nothing when it is not being dragged
 
 protected:
-    afx_msg BOOL OnEraseBkgnd(HDC hdc);
+    void Erase(HDC hdc) override;
+
     afx_msg void OnMouseMove(UINT nFlags, CPoint point);
     afx_msg LRESULT OnMouseLeave(WPARAM wParam, LPARAM lParam);
     afx_msg void OnLButtonDown(UINT nFlags, CPoint point);

@@ -1,13 +1,14 @@
-// What the parts of the frame have in common.
+// What the parts of a frame have in common.
 #pragma once
 
+#include "HostKit/base/Api.h"
 #include "Toolkit/window/Wnd.h"
 
-namespace editor
+namespace hostkit
 {
 
 // A child window that draws itself.
-class CWidget : public CWnd
+class HOSTKIT_API CWidget : public CWnd
 {
 public:
     BOOL Create(CWnd* pParent); // nowhere yet
@@ -28,4 +29,4 @@ private:
     const DWORD m_dwStyle;
 };
 
-} // namespace editor
+} // namespace hostkit

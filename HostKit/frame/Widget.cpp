@@ -1,6 +1,6 @@
-#include "Editor/widgets/Widget.h"
+#include "HostKit/frame/Widget.h"
 
-namespace editor
+namespace hostkit
 {
 
 BEGIN_MESSAGE_MAP(CWidget, CWnd)
@@ -32,4 +32,4 @@ void CWidget::OnPaint()
     Draw(dc);
 }
 
-} // namespace editor
+} // namespace hostkit
