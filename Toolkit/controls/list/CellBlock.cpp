@@ -1,25 +1,15 @@
 #include "Toolkit/controls/list/CellBlock.h"
 
+#include "Toolkit/graphics/Region.h"
+
 namespace toolkit
 {
 
 std::vector<CRect> Difference(const CRect& rect, const CRect& without)
 {
-    const CRect common = rect & without;
-    std::vector<CRect> pieces;
-    const auto add = [&](const CRect& piece) {
-        if (!piece.IsRectEmpty())
-            pieces.push_back(piece);
-    };
-    if (common.IsRectEmpty()) {
-        add(rect);
-        return pieces;
-    }
-    add({rect.left, rect.top, rect.right, common.top});
-    add({rect.left, common.top, common.left, common.bottom});
-    add({common.right, common.top, rect.right, common.bottom});
-    add({rect.left, common.bottom, rect.right, rect.bottom});
-    return pieces;
+    Region rest(rect);
+    rest.Subtract(without);
+    return rest.Rects();
 }
 
 std::vector<CellBlock> Difference(const CellBlock& block, const CellBlock& without)

@@ -108,8 +108,7 @@ BOOL ListControl::OnUpdate(int row)
         return FALSE;
     m_owner.ForgetHint(row); // what it said of it may be out of date
     m_viewport.Redraw(row);
-    if (!(AccState(ItemOf(row)) & STATE_SYSTEM_OFFSCREEN))
-        TellAccess(EVENT_OBJECT_NAMECHANGE, row);
+    TellName(row);
     return TRUE;
 }
 
@@ -146,7 +145,7 @@ void ListControl::HasChanged(int row, UINT oldState, UINT newState)
         m_viewport.Redraw(row);
     else
         RedrawAll();
-    TellAccess(row, oldState, newState);
+    TellStates(row, oldState, newState);
     m_owner.TellChange(row, oldState, newState);
 }
 

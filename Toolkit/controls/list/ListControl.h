@@ -1,45 +1,27 @@
 // The control behind WC_LISTVIEW: an owner-data list. Takes each message to the part that it concerns.
 #pragma once
 
-#include "Toolkit/access/Accessible.h"
 #include "Toolkit/controls/edit/EditMessages.h"
 #include "Toolkit/controls/items/TypeAhead.h"
-#include "Toolkit/controls/list/IconLayout.h"
+#include "Toolkit/controls/list/ListAccess.h"
 #include "Toolkit/controls/list/ListPainter.h"
 
 namespace toolkit
 {
 
-class ListControl : public ItemControl, public Accessible, private SelectionWatcher
+class ListControl : public ItemControl, public ListAccess, private SelectionWatcher
 {
 public:
-    explicit ListControl(HWND hWnd) : ItemControl(hWnd, LVS_EDITLABELS, ES_CENTER) {}
+    explicit ListControl(HWND hWnd)
+        : ItemControl(hWnd, LVS_EDITLABELS, ES_CENTER), ListAccess(*this, m_layout, m_owner, m_selection, m_viewport)
+    {}
 
     LRESULT HandleMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
 
     ListMouse& Mouse() { return m_mouse; }
 
-    // For assistive technology an item is a row, counted from 1.
-    UINT AccRole(LPARAM item) override { return item == CHILDID_SELF ? ROLE_SYSTEM_LIST : ROLE_SYSTEM_LISTITEM; }
-    UINT AccState(LPARAM item) override;
-    std::string AccName(LPARAM item) override;
-    CRect AccPlace(LPARAM item) override { return m_layout.CellRect(RowOf(item)); }
-    bool AccHas(LPARAM item) override { return Rows().Has(RowOf(item)); }
-    int AccCount(LPARAM parent) override { return parent == CHILDID_SELF ? Rows().Count() : 0; }
-    LPARAM AccChild(LPARAM, int place) override { return ItemOf(place); }
-    LPARAM AccAt(CPoint client) override { return ItemOf(m_layout.CellAt(client)); }
-    LPARAM AccFocus() override { return ItemOf(Rows().Focus()); }
-    std::string AccAction(LPARAM item) override { return item == CHILDID_SELF ? "" : "Open"; }
-    void AccDo(LPARAM item) override;
-    bool AccCanSelect() override { return true; }
-    void AccSelect(LPARAM item, UINT flags) override;
-
 private:
     const RowStates& Rows() const { return m_selection.Rows(); }
-    static int RowOf(LPARAM item) { return static_cast<int>(item) - 1; }
-    static LPARAM ItemOf(int row) { return row + 1; }
-    void TellAccess(DWORD event, int row) const { NotifyWinEvent(event, m_hWnd, OBJID_CLIENT, ItemOf(row)); }
-    void TellAccess(int row, UINT oldState, UINT newState) const; // row -1: all
 
     // Rows and their measures.
     BOOL OnSetItemCount(int count);

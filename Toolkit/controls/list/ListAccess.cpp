@@ -1,10 +1,9 @@
-// What the list control tells assistive technology.
-#include "Toolkit/controls/list/ListControl.h"
+#include "Toolkit/controls/list/ListAccess.h"
 
 namespace toolkit
 {
 
-UINT ListControl::AccState(LPARAM item)
+UINT ListAccess::AccState(LPARAM item)
 {
     if (item == CHILDID_SELF)
         return STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_MULTISELECTABLE;
@@ -13,31 +12,36 @@ UINT ListControl::AccState(LPARAM item)
     UINT state = STATE_SYSTEM_FOCUSABLE | STATE_SYSTEM_SELECTABLE;
     if (own & LVIS_SELECTED)
         state |= STATE_SYSTEM_SELECTED;
-    if ((own & LVIS_FOCUSED) && IsFocused())
+    if ((own & LVIS_FOCUSED) && m_window.IsFocused())
         state |= STATE_SYSTEM_FOCUSED;
-    if ((m_layout.CellRect(row) & CRect(CPoint(), m_layout.Client())).IsRectEmpty())
+    if (!IsSeen(row))
         state |= STATE_SYSTEM_OFFSCREEN;
     return state;
 }
 
-std::string ListControl::AccName(LPARAM item)
+bool ListAccess::IsSeen(int row) const
+{
+    return !(m_layout.CellRect(row) & CRect(CPoint(), m_layout.Client())).IsRectEmpty();
+}
+
+std::string ListAccess::AccName(LPARAM item)
 {
     return item == CHILDID_SELF ? std::string() : m_owner.HintAndAsk(RowOf(item)).text;
 }
 
-void ListControl::AccDo(LPARAM item)
+void ListAccess::AccDo(LPARAM item)
 {
     AccSelect(item, SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION);
-    if (IsFocused() && AccFocus() == item)
-        SendMessage(m_hWnd, WM_KEYDOWN, VK_RETURN, 0);
+    if (m_window.IsFocused() && AccFocus() == item)
+        SendMessage(m_window.m_hWnd, WM_KEYDOWN, VK_RETURN, 0);
 }
 
-void ListControl::AccSelect(LPARAM item, UINT flags)
+void ListAccess::AccSelect(LPARAM item, UINT flags)
 {
     if (flags & SELFLAG_TAKEFOCUS)
-        TakeFocus();
+        m_window.TakeFocus();
     const int row = RowOf(item);
-    if (!Rows().Has(row) || ((flags & SELFLAG_TAKEFOCUS) && !IsFocused()))
+    if (!Rows().Has(row) || ((flags & SELFLAG_TAKEFOCUS) && !m_window.IsFocused()))
         return;
     if (flags & SELFLAG_TAKESELECTION)
         m_selection.SelectOnly(row);
@@ -49,15 +53,21 @@ void ListControl::AccSelect(LPARAM item, UINT flags)
         m_viewport.Show(row);
 }
 
-void ListControl::TellAccess(int row, UINT oldState, UINT newState) const
+void ListAccess::TellName(int row) const
+{
+    if (IsSeen(row))
+        Tell(EVENT_OBJECT_NAMECHANGE, row);
+}
+
+void ListAccess::TellStates(int row, UINT oldState, UINT newState) const
 {
     const UINT changed = oldState ^ newState;
     if (row < 0)
-        return NotifyWinEvent(EVENT_OBJECT_SELECTIONWITHIN, m_hWnd, OBJID_CLIENT, CHILDID_SELF);
+        return NotifyWinEvent(EVENT_OBJECT_SELECTIONWITHIN, m_window.m_hWnd, OBJID_CLIENT, CHILDID_SELF);
     if (changed & LVIS_SELECTED)
-        TellAccess(newState & LVIS_SELECTED ? EVENT_OBJECT_SELECTIONADD : EVENT_OBJECT_SELECTIONREMOVE, row);
+        Tell(newState & LVIS_SELECTED ? EVENT_OBJECT_SELECTIONADD : EVENT_OBJECT_SELECTIONREMOVE, row);
     if (changed & newState & LVIS_FOCUSED)
-        TellAccess(EVENT_OBJECT_FOCUS, row);
+        Tell(EVENT_OBJECT_FOCUS, row);
 }
 
 } // namespace toolkit
