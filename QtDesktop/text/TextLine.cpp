@@ -81,11 +81,13 @@ void TextLine::AddPlacesOfRun(std::span<const Range> characters, std::vector<too
     qreal way = 0, wayToStart = 0;        // on which the run is read
     int start = characters.front().first; // of the ligature, or of the character
     for (const Range& one : characters) {
-        if (std::abs(distance(ExtentOf(one)) - way) < kSamePlace) {
+        Extent sinceStart = ExtentOf(one);
+        if (std::abs(distance(sinceStart) - way) < kSamePlace) {
             start = one.first;
             wayToStart = way;
+        } else {
+            sinceStart = ExtentOf({start, one.end});
         }
-        const Extent sinceStart = ExtentOf({start, one.end});
         const int leading = placeAt(way);
         way = wayToStart + sinceStart.right - sinceStart.left;
         places.push_back({leading, placeAt(way)});

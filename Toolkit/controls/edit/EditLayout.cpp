@@ -42,6 +42,8 @@ CRect EditLayout::CaretRect(std::string_view text, std::size_t at) const
 
 std::vector<CRect> EditLayout::SpanRects(std::string_view text, TextSpan span) const
 {
+    if (span.IsEmpty())
+        return {};
     const CRect line = LineRect();
     const int left = Left(text);
     std::vector<CRect> rects;
